@@ -1,0 +1,51 @@
+# Builds the kernel library from every source under the subsystem directories.
+# A subsystem adds code by adding files; its exported names go into an
+# `exports.list` file in its directory (one name a line, '#' comments), and the
+# vector-math names come from the row list. The version script and the expected
+# export list are generated from both.
+function(brenn_add_kernel_library)
+  set(dirs frame vecmath rng stats fitting)
+  set(sources)
+  set(lists)
+  foreach(d IN LISTS dirs)
+    file(GLOB_RECURSE s CONFIGURE_DEPENDS
+         ${PROJECT_SOURCE_DIR}/${d}/*.cpp ${PROJECT_SOURCE_DIR}/${d}/*.S)
+    list(APPEND sources ${s})
+    file(GLOB_RECURSE l CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${d}/exports.list)
+    list(APPEND lists ${l})
+  endforeach()
+  list(FILTER sources EXCLUDE REGEX "/gen/")
+  list(SORT lists)
+
+  # Host program that expands the row list into names and declarations.
+  add_executable(brenn_gen_exports ${PROJECT_SOURCE_DIR}/frame/gen/gen_exports.cpp)
+  target_include_directories(brenn_gen_exports PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
+  set(gen ${CMAKE_BINARY_DIR}/generated)
+  add_custom_command(
+    OUTPUT ${gen}/brenn_sse42.map ${gen}/brenn_sse42.exports
+    COMMAND brenn_gen_exports map ${gen}/brenn_sse42.map ${lists}
+    COMMAND brenn_gen_exports list ${gen}/brenn_sse42.exports ${lists}
+    DEPENDS brenn_gen_exports ${lists} ${PROJECT_SOURCE_DIR}/frame/rows.def
+    COMMENT "Generating the export list of the kernel library")
+  add_custom_target(brenn_exports DEPENDS ${gen}/brenn_sse42.map ${gen}/brenn_sse42.exports)
+
+  add_library(brenn_sse42_objects OBJECT ${sources})
+  target_include_directories(brenn_sse42_objects PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
+  target_compile_options(brenn_sse42_objects PRIVATE $<$<COMPILE_LANGUAGE:CXX>:${BRENN_LIB_FLAGS}>)
+  target_compile_definitions(brenn_sse42_objects PRIVATE BRENN_KERNEL_BUILD)
+
+  add_library(brenn_sse42 SHARED $<TARGET_OBJECTS:brenn_sse42_objects>)
+  add_dependencies(brenn_sse42 brenn_exports)
+  target_include_directories(brenn_sse42 PUBLIC ${PROJECT_SOURCE_DIR}/include)
+  target_link_options(brenn_sse42 PRIVATE -Wl,--version-script=${gen}/brenn_sse42.map
+                      -Wl,-z,noexecstack -Wl,--no-undefined)
+  set_target_properties(brenn_sse42 PROPERTIES LINK_DEPENDS ${gen}/brenn_sse42.map)
+  target_link_libraries(brenn_sse42 PRIVATE brenn_core Threads::Threads ${CMAKE_DL_LIBS} m
+                        ${LAPACK_LIBRARIES} ${BLAS_LIBRARIES})
+
+  # The same objects as a static archive, for tests that reach internal functions.
+  add_library(brenn_sse42_static STATIC $<TARGET_OBJECTS:brenn_sse42_objects>)
+  target_include_directories(brenn_sse42_static PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
+  target_link_libraries(brenn_sse42_static PUBLIC brenn_core Threads::Threads ${CMAKE_DL_LIBS} m
+                        ${LAPACK_LIBRARIES} ${BLAS_LIBRARIES})
+endfunction()
