@@ -3,8 +3,12 @@
 # `exports.list` file in its directory (one name a line, '#' comments), and the
 # vector-math names come from the row list. The version script and the expected
 # export list are generated from both.
+#
+# BRENN_SUBSYSTEMS narrows a developer's build to some subsystems (the frame is
+# always in): -DBRENN_SUBSYSTEMS=rng builds the frame and rng only, with their tests.
+set(BRENN_SUBSYSTEMS "vecmath;rng;stats;fitting" CACHE STRING "Subsystems to build besides the frame")
 function(brenn_add_kernel_library)
-  set(dirs frame vecmath rng stats fitting)
+  set(dirs frame ${BRENN_SUBSYSTEMS})
   set(sources)
   set(lists)
   foreach(d IN LISTS dirs)
