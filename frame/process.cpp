@@ -17,9 +17,7 @@ namespace {
 std::atomic<Fault> pendingFault{Fault::None};
 
 bool TakeFault(Fault f) {
-    Fault expected = f;
-    return pendingFault.load(std::memory_order_relaxed) == f &&
-           pendingFault.compare_exchange_strong(expected, Fault::None);
+    return pendingFault.load(std::memory_order_relaxed) == f;
 }
 
 } // namespace

@@ -1,0 +1,33 @@
+# Compares the dynamic symbol table of the kernel library with the generated list of
+# exports, and the committed rows header with a fresh generation.
+execute_process(COMMAND nm -D --defined-only ${LIB} OUTPUT_VARIABLE nm_out RESULT_VARIABLE rc)
+if(NOT rc EQUAL 0)
+  message(FATAL_ERROR "nm failed on ${LIB}")
+endif()
+string(REGEX MATCHALL "[^\n]+" lines "${nm_out}")
+set(actual)
+foreach(line IN LISTS lines)
+  string(REGEX REPLACE "^[0-9a-fA-F]* *[A-Za-z] +" "" name "${line}")
+  list(APPEND actual ${name})
+endforeach()
+list(SORT actual)
+file(STRINGS ${EXPECTED} expected)
+list(SORT expected)
+set(missing ${expected})
+list(REMOVE_ITEM missing ${actual})
+set(extra ${actual})
+list(REMOVE_ITEM extra ${expected})
+list(LENGTH expected n_expected)
+list(LENGTH actual n_actual)
+message(STATUS "exported: ${n_actual}, expected: ${n_expected}")
+if(missing OR extra)
+  message(FATAL_ERROR "export mismatch\n missing: ${missing}\n unexpected: ${extra}")
+endif()
+
+execute_process(COMMAND ${GEN} header ${WORK}/brenn_vecmath_rows.h RESULT_VARIABLE rc)
+execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${WORK}/brenn_vecmath_rows.h ${HEADER}
+                RESULT_VARIABLE differ)
+if(NOT rc EQUAL 0 OR NOT differ EQUAL 0)
+  message(FATAL_ERROR "include/brenn_vecmath_rows.h is not what the row list makes now: "
+                      "run brenn_gen_exports header include/brenn_vecmath_rows.h")
+endif()
