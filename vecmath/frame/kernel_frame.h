@@ -1,0 +1,317 @@
+/* The kernel frame: the one place where the outer rules of an element-wise kernel live.
+ *
+ * A family file supplies a body, a small struct of mathematics:
+ *   using T = float or double;
+ *   Eval(...)   the vector arithmetic on one register, with the range test written as
+ *               integer compares that set an all-ones lane mask in `special`
+ *               unary:      V Eval(V x, V& special)
+ *               binary:     V Eval(V a, V b, V& special)
+ *               two result: void Eval(V x, V& y, V& z, V& special)
+ *   Scalar(...) (optional) the routine for one special lane; returns the status
+ *               unary: int Scalar(const T* a, T* y); binary: (a, b, y); two result: (a, y, z)
+ *   kName       the public error name, when Scalar can return a non-zero status
+ *   kX87, kCsr  (optional) entry rules; Masked and Common when absent
+ *   kLayout     (optional) Split (default), NoHead or HandTuned
+ *   FixNoError  (optional) vector fix-up of lanes for error mode exactly 0x2000:
+ *               int FixNoError(const V* x, V* r, int bits) returns the bits left
+ * and the frame does the rest: environment entry and exit, the split at the input's
+ * 16-byte boundary, the partial blocks filled with the safe value 0.75 (nothing outside
+ * the vectors is read or written), eight elements a round in the main stage, the lane
+ * mask of the range test, the two phases of special handling with the reporter call
+ * and the reload of y, and in-place operation (y may equal a or b).
+ *
+ * The frame works in quads of four elements (one single register, two double ones);
+ * a main-stage round is two quads. */
+#ifndef BRENN_VECMATH_FRAME_KERNEL_FRAME_H
+#define BRENN_VECMATH_FRAME_KERNEL_FRAME_H
+
+#include <stdint.h>
+
+#include "frame/fpenv.h"
+#include "frame/mode.h"
+#include "frame/report.h"
+#include "vecmath/frame/simd.h"
+
+namespace brenn::vm {
+
+using frame::CsrRule;
+using frame::X87Rule;
+
+enum class Layout {
+    Split,     // head to the input's 16-byte boundary, rounds of eight, tail
+    NoHead,    // rounds of eight from element 0, then one element at a time
+    HandTuned, // rounds of eight from element 0; a block with a special lane, and the
+               // last elements, run element by element through Scalar, which covers
+               // every input and whose status the frame reports at once
+};
+
+enum class Shape { Unary, Binary, TwoRes };
+
+constexpr uint32_t kErrorModeNone = 0x2000;
+
+template <class B>
+constexpr X87Rule X87Of() {
+    if constexpr (requires { B::kX87; })
+        return B::kX87;
+    else
+        return X87Rule::Masked;
+}
+template <class B>
+constexpr CsrRule CsrOf() {
+    if constexpr (requires { B::kCsr; })
+        return B::kCsr;
+    else
+        return CsrRule::Common;
+}
+template <class B>
+constexpr Layout LayoutOf() {
+    if constexpr (requires { B::kLayout; })
+        return B::kLayout;
+    else
+        return Layout::Split;
+}
+template <class B>
+constexpr bool kHasScalar = requires {
+    &B::Scalar;
+};
+template <class B>
+constexpr bool kHasFix = requires {
+    &B::FixNoError;
+};
+
+// Environment for the kernel's duration: x87 and MXCSR entry rules; the mode word is
+// read once (not at all by the mask-only and untouched rules unless the body needs
+// the error byte for its fix-up).
+template <class B>
+struct Env {
+    frame::FpState fp;
+    uint32_t errorByte;
+};
+
+template <class B>
+inline Env<B> Enter() {
+    constexpr CsrRule c = CsrOf<B>();
+    uint32_t mode = 0;
+    if constexpr (c == CsrRule::Common || kHasFix<B>) mode = frame::ThreadMode();
+    Env<B> e;
+    e.fp = frame::FpEnter<X87Of<B>(), c>(mode);
+    e.errorByte = mode & frame::kModeErrorMask;
+    return e;
+}
+
+template <class B>
+inline void Leave(const Env<B>& e) {
+    frame::FpLeave(e.fp);
+}
+
+// The pointers of one call, by shape: inputs a (and b), outputs y (and z).
+template <class T>
+struct Args {
+    const T* a;
+    const T* b;
+    T* y;
+    T* z;
+};
+
+// p + i, or null for a vector the shape does not have.
+template <class T>
+inline T* At(T* p, int i) {
+    return p ? p + i : p;
+}
+
+template <class B, Shape S>
+struct Quads {
+    using T = typename B::T;
+    using Sd = Simd<T>;
+    using V = typename Sd::V;
+    static constexpr int L = Sd::kLanes;
+    static constexpr int R = 4 / L; // registers per quad
+
+    // One quad of results and the special-lane bits of its four lanes.
+    struct Q {
+        V x[R], w[R]; // inputs (second input for binary)
+        V y[R], z[R]; // results (second result for two-result)
+    };
+
+    static inline int Eval(const B& body, const T* a, const T* b, Q& q) {
+        int bits = 0;
+        for (int k = 0; k < R; ++k) {
+            V special = V{};
+            q.x[k] = Sd::Load(a + k * L);
+            if constexpr (S == Shape::Unary) {
+                q.y[k] = body.Eval(q.x[k], special);
+            } else if constexpr (S == Shape::Binary) {
+                q.w[k] = Sd::Load(b + k * L);
+                q.y[k] = body.Eval(q.x[k], q.w[k], special);
+            } else {
+                body.Eval(q.x[k], q.y[k], q.z[k], special);
+            }
+            if constexpr (kHasScalar<B>) bits |= Sd::LaneBits(special) << (k * L);
+        }
+        return bits;
+    }
+
+    static inline void Store(const Q& q, T* y, T* z) {
+        for (int k = 0; k < R; ++k) {
+            Sd::Store(y + k * L, q.y[k]);
+            if constexpr (S == Shape::TwoRes) Sd::Store(z + k * L, q.z[k]);
+        }
+    }
+
+    // Phase 2 for one lane: the scalar routine on the caller's element, and if it
+    // returned a status, the result stored, reported and read back from y (a callback
+    // may have replaced it).
+    static inline void Lane(const B& body, const Args<T>& v, int i, T* ry, T* rz) {
+        int status;
+        if constexpr (S == Shape::Unary)
+            status = body.Scalar(v.a + i, ry);
+        else if constexpr (S == Shape::Binary)
+            status = body.Scalar(v.a + i, v.b + i, ry);
+        else
+            status = body.Scalar(v.a + i, ry, rz);
+        if (__builtin_expect(status != 0, 0)) {
+            v.y[i] = *ry;
+            if constexpr (S == Shape::TwoRes) {
+                v.z[i] = *rz;
+                frame::ReportError(status, i, v.a, v.a, v.y, v.z, B::kName);
+                *rz = v.z[i];
+            } else if constexpr (S == Shape::Binary) {
+                frame::ReportError(status, i, v.a, v.b, v.y, v.y, B::kName);
+            } else {
+                frame::ReportError(status, i, v.a, v.a, v.y, v.y, B::kName);
+            }
+            *ry = v.y[i];
+        }
+    }
+
+    // Both phases for the special lanes of a quad whose results sit in ry/rz
+    // (memory), elements i .. i+3 of the call.
+    static inline void Special(const B& body, const Env<B>& env, const Args<T>& v, int i, Q& q,
+                               int bits, T* ry, T* rz) {
+        if constexpr (kHasFix<B>) {
+            if (env.errorByte == kErrorModeNone) {
+                bits = body.FixNoError(q.x, q.y, bits);
+                for (int k = 0; k < R; ++k)
+                    Sd::Store(ry + k * L, q.y[k]);
+            }
+        }
+        for (int lane = 0; lane < 4; ++lane)
+            if (bits & (1 << lane)) Lane(body, v, i + lane, ry + lane, rz + lane);
+    }
+
+    // The partial-block stage: m (1 to 4) elements from i, the other lanes holding the
+    // safe value; every element is loaded and stored singly.
+    static inline void Partial(const B& body, const Env<B>& env, const Args<T>& v, int i, int m) {
+        alignas(16) T ina[4] = {T(0.75), T(0.75), T(0.75), T(0.75)};
+        alignas(16) T inb[4] = {T(0.75), T(0.75), T(0.75), T(0.75)};
+        for (int k = 0; k < m; ++k) {
+            ina[k] = v.a[i + k];
+            if constexpr (S == Shape::Binary) inb[k] = v.b[i + k];
+        }
+        Q q;
+        int bits = Eval(body, ina, inb, q) & (0xF >> (4 - m));
+        alignas(16) T ry[4], rz[4];
+        Store(q, ry, rz);
+        if constexpr (kHasScalar<B>)
+            if (bits) Special(body, env, v, i, q, bits, ry, rz);
+        for (int k = 0; k < m; ++k) {
+            v.y[i + k] = ry[k];
+            if constexpr (S == Shape::TwoRes) v.z[i + k] = rz[k];
+        }
+    }
+
+    // One main-stage round: eight elements from i, loaded and stored whole.
+    static inline void Round(const B& body, const Env<B>& env, const Args<T>& v, int i) {
+        Q q0, q1;
+        int bits = Eval(body, v.a + i, At(v.b, i), q0);
+        bits |= Eval(body, v.a + i + 4, At(v.b, i + 4), q1) << 4;
+        if (__builtin_expect(bits == 0, 1)) {
+            Store(q0, v.y + i, At(v.z, i));
+            Store(q1, v.y + i + 4, At(v.z, i + 4));
+            return;
+        }
+        if constexpr (kHasScalar<B>) {
+            alignas(16) T ry[8], rz[8];
+            Store(q0, ry, rz);
+            Store(q1, ry + 4, rz + 4);
+            if (bits & 0xF) Special(body, env, v, i, q0, bits & 0xF, ry, rz);
+            if (bits >> 4) Special(body, env, v, i + 4, q1, bits >> 4, ry + 4, rz + 4);
+            for (int k = 0; k < 8; ++k) {
+                v.y[i + k] = ry[k];
+                if constexpr (S == Shape::TwoRes) v.z[i + k] = rz[k];
+            }
+        }
+    }
+
+    // Hand-tuned fall-back: one element through the scalar routine, which gives the
+    // result for any input; a non-zero status is reported on the spot.
+    static inline void One(const B& body, const Args<T>& v, int i) {
+        T ry, rz;
+        Lane(body, v, i, &ry, &rz);
+        v.y[i] = ry;
+        if constexpr (S == Shape::TwoRes) v.z[i] = rz;
+    }
+
+    static void Run(const B& body, int n, const Args<T>& v) {
+        Env<B> env = Enter<B>();
+        if (n > 0) {
+            constexpr Layout layout = LayoutOf<B>();
+            int i = 0;
+            if constexpr (layout == Layout::Split) {
+                uintptr_t p = reinterpret_cast<uintptr_t>(v.a);
+                int head = int((((p + 15) & ~uintptr_t(15)) - p) / sizeof(T));
+                if (head >= n) head = n;
+                if (head > 0) Partial(body, env, v, 0, head);
+                i = head;
+            }
+            int end = i + ((n - i) & ~7);
+            for (; i < end; i += 8) {
+                if constexpr (layout == Layout::HandTuned) {
+                    Q q0, q1;
+                    int bits = Eval(body, v.a + i, At(v.b, i), q0);
+                    bits |= Eval(body, v.a + i + 4, At(v.b, i + 4), q1);
+                    if (__builtin_expect(bits == 0, 1)) {
+                        Store(q0, v.y + i, At(v.z, i));
+                        Store(q1, v.y + i + 4, At(v.z, i + 4));
+                    } else {
+                        for (int k = 0; k < 8; ++k)
+                            One(body, v, i + k);
+                    }
+                } else {
+                    Round(body, env, v, i);
+                }
+            }
+            if constexpr (layout == Layout::Split) {
+                for (; i < n; i += 4)
+                    Partial(body, env, v, i, n - i < 4 ? n - i : 4);
+            } else if constexpr (layout == Layout::NoHead) {
+                for (; i < n; ++i)
+                    Partial(body, env, v, i, 1);
+            } else {
+                for (; i < n; ++i)
+                    One(body, v, i);
+            }
+        }
+        Leave(env);
+    }
+};
+
+// Entry points that family files call from their kernels.
+template <class B>
+inline void RunUnary(const B& body, int n, const typename B::T* a, typename B::T* y) {
+    Quads<B, Shape::Unary>::Run(body, n, {a, nullptr, y, nullptr});
+}
+template <class B>
+inline void RunBinary(const B& body, int n, const typename B::T* a, const typename B::T* b,
+                      typename B::T* y) {
+    Quads<B, Shape::Binary>::Run(body, n, {a, b, y, nullptr});
+}
+template <class B>
+inline void RunTwoRes(const B& body, int n, const typename B::T* a, typename B::T* y,
+                      typename B::T* z) {
+    Quads<B, Shape::TwoRes>::Run(body, n, {a, nullptr, y, z});
+}
+
+} // namespace brenn::vm
+
+#endif
