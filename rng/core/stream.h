@@ -1,0 +1,70 @@
+/* The stream record as the random-number code sees it: the 16-byte header in front
+ * of every generator's state, the registry lookups that go with it, and the chunk
+ * deletion shared by the stream and chunk functions. */
+#ifndef BRENN_RNG_CORE_STREAM_H
+#define BRENN_RNG_CORE_STREAM_H
+
+#include <stddef.h>
+#include <stdint.h>
+
+#include "brenn_rng.h"
+
+namespace brenn::rng {
+
+struct StreamHeader {
+    int32_t brng;
+    uint8_t headerTag;   // 1 at creation
+    uint8_t headerByte;  // 0
+    uint16_t headerWord; // 0
+    union {
+        QesChunk* chunks;   // newest first
+        uint64_t chunkSlot; // keeps the header 16 bytes wide with 32-bit pointers too
+    };
+};
+static_assert(sizeof(StreamHeader) == 16, "the stream header is 16 bytes");
+
+constexpr int kStreamAlignment = 128;
+constexpr int32_t kNewIdBase = 0x100000;
+
+inline StreamHeader* Header(void* stream) {
+    return static_cast<StreamHeader*>(stream);
+}
+inline const StreamHeader* Header(const void* stream) {
+    return static_cast<const StreamHeader*>(stream);
+}
+
+// Generator state, right after the header.
+template <typename State>
+inline State* StateOf(void* stream) {
+    return reinterpret_cast<State*>(static_cast<char*>(stream) + sizeof(StreamHeader));
+}
+
+// The row of a stream's generator, by the one split rule of the registry.
+inline const BrngRecord* RowOf(const void* stream) {
+    int32_t family, member;
+    const BrngRecord* table = __qesGetBrngBaseOffset(Header(stream)->brng, &family, &member);
+    return table + family;
+}
+
+// Member counts of the current table's families, and its filled rows.
+extern int32_t RegisteredMembers[512];
+extern int32_t RegisteredCount;
+
+// Split and validate: the row, or null when the id is unknown.
+const BrngRecord* ValidRow(int32_t id);
+
+// Deletes one cell: releases its reference in the shared table (which frees shared
+// data with the last one) or frees private data, then the cell itself.
+void DeleteChunkCell(QesChunk* cell);
+
+inline bool GuidIsZero(const uint64_t* guid) {
+    return guid == nullptr || (guid[0] == 0 && guid[1] == 0);
+}
+
+// Count of live rows of the shared table, read without the lock as the capacity
+// tests do.
+int32_t GlobTableCountUnlocked();
+
+} // namespace brenn::rng
+
+#endif
