@@ -1,0 +1,160 @@
+/* What the measuring tools know about each vector-math row: the reference operation
+ * (evaluated with MPFR/MPC or, for exact rows, natively), where its inputs live and
+ * which range is worth sampling densely, and the peer functions of SLEEF, glibc's
+ * libmvec and libm that the benchmark sets beside it. One entry a row of
+ * frame/rows.def, found by row name; the row list stays the table of contents, this
+ * table only adds what the tools need. Shared by the accuracy tool and the benchmark,
+ * so it has no dependency on MPFR. */
+#ifndef BRENN_TOOLS_ACCURACY_ROWTABLE_H
+#define BRENN_TOOLS_ACCURACY_ROWTABLE_H
+
+namespace brenn::tools {
+
+// Reference operations, by the function's name in the row list.
+enum class Ref {
+    // real, one argument
+    Ceil,
+    Floor,
+    Frac,
+    NearbyInt,
+    Rint,
+    Round,
+    Trunc,
+    Abs,
+    Inv,
+    Sqrt,
+    InvSqrt,
+    Cbrt,
+    InvCbrt,
+    Exp,
+    Ln,
+    Log10,
+    Cos,
+    Sin,
+    Tan,
+    Acos,
+    Acosh,
+    Asin,
+    Asinh,
+    Atan,
+    Atanh,
+    Cosh,
+    Sinh,
+    Tanh,
+    Erf,
+    Erfc,
+    ErfInv,
+    Sqr,
+    Expm1,
+    Log1p,
+    Pow3o2,
+    Pow2o3,
+    ErfcInv,
+    CdfNorm,
+    CdfNormInv,
+    LGamma,
+    TGamma,
+    ExpInt1,
+    Sinpi,
+    Cospi,
+    Tanpi,
+    Acospi,
+    Asinpi,
+    Atanpi,
+    Exp2,
+    Exp10,
+    Log2,
+    Sind,
+    Cosd,
+    Tand,
+    Logb,
+    // real, two arguments
+    Div,
+    Pow,
+    Atan2,
+    Hypot,
+    Add,
+    Sub,
+    Mul,
+    Atan2pi,
+    CopySign,
+    NextAfter,
+    Fdim,
+    Fmax,
+    Fmin,
+    MaxMag,
+    MinMag,
+    Powr,
+    Remainder,
+    Fmod,
+    // real, two results or scalars
+    SinCos,
+    Modf,
+    LinearFrac,
+    // complex
+    CCos,
+    CSin,
+    CTan,
+    CCosh,
+    CSinh,
+    CTanh,
+    CAcos,
+    CAsin,
+    CAtan,
+    CAcosh,
+    CAsinh,
+    CAtanh,
+    CExp,
+    CLn,
+    CLog10,
+    CSqrt,
+    Conj,
+    Cis,
+    CAbs,
+    CArg,
+    CDiv,
+    CPow,
+    CAdd,
+    CSub,
+    CMul,
+    CMulByConj,
+    // raw moves
+    Pack,
+};
+
+// Where the first argument's log-uniform samples are drawn.
+enum class Dom {
+    Any,   // the whole line, both signs
+    Pos,   // x >= 0
+    Unit,  // |x| <= 1
+    Prob,  // 0 <= x <= 1
+    Two,   // 0 <= x <= 2
+    GeOne, // x >= 1
+};
+
+struct RowFacts {
+    const char* row; // "sExp", as in the row list
+    Ref ref;
+    Dom dom;
+    double lo, hi;   // interesting range of a (real and imaginary parts for complex)
+    double blo, bhi; // interesting range of b (binary rows, scalar exponents)
+    // Peer base names, or null: SLEEF "exp" becomes Sleef_expf4_u10sse4 and the
+    // like; libmvec "exp" becomes _ZGVbN4v_expf / _ZGVbN2v_exp; libm "exp" becomes
+    // expf / exp (and "cexp" cexpf / cexp for complex rows).
+    const char* sleef;
+    const char* mvec;
+    const char* libm;
+};
+
+// The entry of a row, or null when the table lacks it.
+const RowFacts* FindRowFacts(const char* row);
+
+// All entries, in row-list order.
+const RowFacts* AllRowFacts(int* count);
+
+// Exact rows: results must match bit for bit (no ulp error allowed).
+bool IsExactRef(Ref ref);
+
+} // namespace brenn::tools
+
+#endif
