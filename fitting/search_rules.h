@@ -1,0 +1,296 @@
+// The rules of the cell searchers, site by site and block by block. Every searcher
+// gives the cell of a site as the count of nodes not above it, except that the right
+// end x[nx-1] lies in cell nx-1; they differ in how they find it.
+#ifndef BRENN_FITTING_SEARCH_RULES_H
+#define BRENN_FITTING_SEARCH_RULES_H
+
+#include "fitting/task.h"
+
+namespace brenn::fit {
+
+enum SearcherIndex {
+    kSearchUniform = 0,
+    kSearchQuasiUniform = 1,
+    kSearchSorted = 2,
+    kSearchPeak = 3,
+    kSearchHybrid = 4,
+    kSearchUserDef = 5,
+    kSearchUniUserDef = 6
+};
+
+template <typename T>
+using SearchCallback = int32_t (*)(const int64_t* count, const T* site, int64_t* cell,
+                                   int32_t* flag, void* params, int64_t extra);
+
+// What a searcher needs besides the sites: the partition, its scale, and for some the
+// table, the peak or the caller's callback.
+template <typename T>
+struct SearchSetup {
+    int index;
+    int64_t nx;
+    const T* x;
+    T scale;
+    const SearchPair* table; // hybrid; null: the whole partition is one bucket
+    int64_t peak;
+    SearchCallback<T> callback;
+    void* params;
+    int64_t extra;
+};
+
+// Uniform partition: the cell by the position alone; x holds the two ends.
+template <typename T>
+inline int64_t UniformCell(int64_t nx, T x0, T right, T scale, T s) {
+    if (s == right) return nx - 1;
+    if (s < x0) return 0;
+    T q = (s - x0) * scale;
+    if (!(q < static_cast<T>(nx))) return nx;
+    int64_t e = static_cast<int64_t>(q) + 1;
+    return e < nx ? e : nx;
+}
+
+// From a guess e (0 to nx), the walk to the true cell.
+template <typename T>
+inline int64_t WalkFrom(int64_t nx, const T* x, T s, int64_t e) {
+    int64_t c;
+    if (e >= nx) {
+        c = nx;
+        while (c > 0 && x[c - 1] > s)
+            --c;
+    } else if (s >= x[e]) {
+        c = e;
+        while (c < nx && x[c] <= s)
+            ++c;
+    } else {
+        c = e;
+        while (c > 0 && x[c - 1] > s)
+            --c;
+    }
+    return c;
+}
+
+template <typename T>
+inline int64_t QuasiUniformCell(int64_t nx, const T* x, T scale, T s, int64_t guess) {
+    if (s < x[0]) return 0;
+    if (s == x[nx - 1]) return nx - 1;
+    return WalkFrom(nx, x, s, guess);
+}
+
+template <typename T>
+inline int64_t PeakCell(int64_t nx, const T* x, int64_t p, T s) {
+    if (s == x[nx - 1]) return nx - 1;
+    int64_t c = p;
+    if (p >= nx) {
+        if (s > x[nx - 1]) return nx;
+        c = nx - 1;
+        while (c > 0 && x[c - 1] > s)
+            --c;
+        return c;
+    }
+    if (s >= x[p]) {
+        while (c < nx && x[c] <= s)
+            ++c;
+        return c;
+    }
+    if (p != 0 && x[p - 1] > s) {
+        while (c > 0 && x[c - 1] > s)
+            --c;
+    }
+    return c;
+}
+
+// Count of x[k] <= s for k in [lo, hi): two at a time with an early exit for short
+// ranges, eight at a time without one for longer ones.
+template <typename T>
+inline int64_t CountNotAbove(const T* x, int64_t lo, int64_t hi, T s) {
+    int64_t n = hi - lo;
+    const T* p = x + lo;
+    if (n >= 8) {
+        int64_t count = 0, k = 0;
+        for (; k + 8 <= n; k += 8) {
+            count += (p[k] <= s) + (p[k + 1] <= s) + (p[k + 2] <= s) + (p[k + 3] <= s) +
+                     (p[k + 4] <= s) + (p[k + 5] <= s) + (p[k + 6] <= s) + (p[k + 7] <= s);
+        }
+        for (; k < n; ++k)
+            count += p[k] <= s;
+        return count;
+    }
+    int64_t k = 0;
+    for (; k + 2 <= n; k += 2) {
+        bool a = p[k] <= s, b = p[k + 1] <= s;
+        if (!(a && b)) return k + a;
+    }
+    if (k < n && p[k] <= s) ++k;
+    return k;
+}
+
+constexpr int64_t kHybridLinearNodes = 20;
+
+template <typename T>
+inline int64_t HybridCell(int64_t nx, const T* x, const SearchPair* table, T scale, T s) {
+    if (s < x[0]) return 0;
+    if (s > x[nx - 1]) return nx;
+    if (s == x[nx - 1]) return nx - 1;
+    int64_t lo = 0, hi = nx - 1;
+    if (table != nullptr) {
+        int64_t b = static_cast<int64_t>((s - x[0]) * scale);
+        lo = table[b].lo;
+        hi = table[b].hi;
+    }
+    while (lo < hi - kHybridLinearNodes) {
+        int64_t m = (lo + hi) >> 1;
+        if (x[m] > s)
+            hi = m;
+        else
+            lo = m;
+    }
+    if (hi - lo < 2) return hi;
+    return lo + CountNotAbove(x, lo, hi, s);
+}
+
+// The sorted searcher's running walk over ascending sites.
+template <typename T>
+struct SortedWalk {
+    int64_t nx;
+    const T* x;
+    int64_t c;
+    bool fresh = true; // bisect before the next walk
+
+    int64_t Next(T s) {
+        if (s == x[nx - 1]) {
+            fresh = true;
+            return nx - 1;
+        }
+        if (fresh) {
+            int64_t half = nx / 2, hi = nx;
+            while (c < hi - half) {
+                int64_t m = (c + hi) / 2;
+                if (x[m] > s)
+                    hi = m;
+                else
+                    c = m;
+            }
+            fresh = false;
+        }
+        while (c < nx && x[c] <= s)
+            ++c;
+        return c;
+    }
+};
+
+// Runs a plain searcher (indices 0 to 4) over n sites into 32-bit cells. position is
+// the running cell of the sorted searcher, in and out.
+template <typename T>
+void SearchPlain(const SearchSetup<T>& st, int64_t n, const T* site, int32_t* cell,
+                 int64_t* position) {
+    int64_t nx = st.nx;
+    const T* x = st.x;
+    switch (st.index) {
+    case kSearchUniform: {
+        T x0 = x[0], right = x[1];
+        int64_t i = 0;
+        for (; i + 4 <= n; i += 4) {
+            cell[i] = static_cast<int32_t>(UniformCell(nx, x0, right, st.scale, site[i]));
+            cell[i + 1] = static_cast<int32_t>(UniformCell(nx, x0, right, st.scale, site[i + 1]));
+            cell[i + 2] = static_cast<int32_t>(UniformCell(nx, x0, right, st.scale, site[i + 2]));
+            cell[i + 3] = static_cast<int32_t>(UniformCell(nx, x0, right, st.scale, site[i + 3]));
+        }
+        for (; i < n; ++i)
+            cell[i] = static_cast<int32_t>(UniformCell(nx, x0, right, st.scale, site[i]));
+        break;
+    }
+    case kSearchQuasiUniform: {
+        // Guesses for a block of 32 first, then the walks.
+        int64_t guess[32];
+        T x0 = x[0], right = x[nx - 1];
+        for (int64_t i = 0; i < n; i += 32) {
+            int64_t m = n - i < 32 ? n - i : 32;
+            for (int64_t j = 0; j < m; ++j)
+                guess[j] = UniformCell(nx, x0, right, st.scale, site[i + j]);
+            for (int64_t j = 0; j < m; ++j)
+                cell[i + j] =
+                    static_cast<int32_t>(QuasiUniformCell(nx, x, st.scale, site[i + j], guess[j]));
+        }
+        break;
+    }
+    case kSearchSorted: {
+        SortedWalk<T> walk{nx, x, position != nullptr ? *position : 0};
+        for (int64_t i = 0; i < n; ++i)
+            cell[i] = static_cast<int32_t>(walk.Next(site[i]));
+        if (position != nullptr) *position = walk.c;
+        break;
+    }
+    case kSearchPeak:
+        for (int64_t i = 0; i < n; ++i)
+            cell[i] = static_cast<int32_t>(PeakCell(nx, x, st.peak, site[i]));
+        break;
+    default:
+        for (int64_t i = 0; i < n; ++i)
+            cell[i] = static_cast<int32_t>(HybridCell(nx, x, st.table, st.scale, site[i]));
+        break;
+    }
+}
+
+// Chooses the searcher: callback, partition hint, site hint, data hint, in that order.
+// -1026 for a malformed data hint.
+template <typename T>
+int32_t SelectSearcher(const FittingTask* task, const T* dataHint, bool callback, int64_t siteHint,
+                       int* index) {
+    if (callback) {
+        *index = task->xHint == FIT_X_UNIFORM ? kSearchUniUserDef : kSearchUserDef;
+        return FIT_STATUS_OK;
+    }
+    if (task->xHint == FIT_X_UNIFORM) {
+        *index = kSearchUniform;
+    } else if (task->xHint == FIT_X_QUASI_UNIFORM) {
+        *index = kSearchQuasiUniform;
+    } else if (siteHint == FIT_SITES_SORTED) {
+        *index = kSearchSorted;
+    } else if (dataHint != nullptr) {
+        if (dataHint[1] == T(1)) {
+            if (!(dataHint[4] >= T(0) && dataHint[4] <= static_cast<T>(task->nx)))
+                return FIT_STATUS_BAD_DATA_HINT;
+            *index = kSearchPeak;
+        } else if (dataHint[1] == T(0)) {
+            *index = kSearchHybrid;
+        } else {
+            return FIT_STATUS_BAD_DATA_HINT;
+        }
+    } else {
+        *index = kSearchHybrid;
+    }
+    return FIT_STATUS_OK;
+}
+
+// The searcher's scale and helpers from the task.
+template <typename T>
+SearchSetup<T> MakeSearchSetup(int index, const FittingTask* task, const T* dataHint,
+                               SearchCallback<T> callback, void* params, int64_t extra) {
+    SearchSetup<T> st{};
+    st.index = index;
+    st.nx = task->nx;
+    st.x = static_cast<const T*>(task->x);
+    st.callback = callback;
+    st.params = params;
+    st.extra = extra;
+    const T* x = st.x;
+    if (index == kSearchUniform || index == kSearchUniUserDef)
+        st.scale = static_cast<T>(st.nx - 1) / (x[1] - x[0]);
+    else if (index == kSearchQuasiUniform || index == kSearchUserDef)
+        st.scale = static_cast<T>(st.nx - 1) / (x[st.nx - 1] - x[0]);
+    else if (index == kSearchPeak)
+        st.peak = dataHint != nullptr ? static_cast<int64_t>(dataHint[4]) : 0;
+    else if (index == kSearchHybrid) {
+        st.scale = SearchScale<T>(task);
+        st.table = task->searchCells > 0 ? task->searchTable : nullptr;
+    }
+    return st;
+}
+
+// A user-defined searcher over n sites in blocks of 128: the callback's cells, with
+// the cells it does not vouch for corrected. Cells are stored 64-bit when wide.
+template <typename T>
+int32_t SearchUser(const SearchSetup<T>& st, int64_t n, const T* site, void* cell, bool wide);
+
+} // namespace brenn::fit
+
+#endif
