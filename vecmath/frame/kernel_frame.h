@@ -70,6 +70,14 @@ constexpr Layout LayoutOf() {
     else
         return Layout::Split;
 }
+// The public error name; rows that never report have none.
+template <class B>
+constexpr const char* NameOf() {
+    if constexpr (requires { B::kName; })
+        return B::kName;
+    else
+        return "";
+}
 template <class B>
 constexpr bool kHasScalar = requires {
     &B::Scalar;
@@ -173,12 +181,12 @@ struct Quads {
             v.y[i] = *ry;
             if constexpr (S == Shape::TwoRes) {
                 v.z[i] = *rz;
-                frame::ReportError(status, i, v.a, v.a, v.y, v.z, B::kName);
+                frame::ReportError(status, i, v.a, v.a, v.y, v.z, NameOf<B>());
                 *rz = v.z[i];
             } else if constexpr (S == Shape::Binary) {
-                frame::ReportError(status, i, v.a, v.b, v.y, v.y, B::kName);
+                frame::ReportError(status, i, v.a, v.b, v.y, v.y, NameOf<B>());
             } else {
-                frame::ReportError(status, i, v.a, v.a, v.y, v.y, B::kName);
+                frame::ReportError(status, i, v.a, v.a, v.y, v.y, NameOf<B>());
             }
             *ry = v.y[i];
         }
