@@ -1,5 +1,6 @@
 // Process services: spin locks, the environment, bounded copies, exit, and the
 // processor query for 256-bit AES.
+#include <atomic>
 #include <cpuid.h>
 #include <cstdlib>
 #include <cstring>
@@ -45,6 +46,22 @@ extern "C" int brenn_serv_memcpy_s(void* destination, size_t destinationSize, co
     }
     memmove(destination, source, count);
     return 0;
+}
+
+namespace {
+std::atomic<int> processEnding{0};
+void MarkProcessEnding() {
+    processEnding.store(1);
+}
+} // namespace
+
+extern "C" int brenn_serv_process_ending(void) {
+    // Exit handlers run in reverse order of registration, and the loader's own
+    // finaliser (which runs library destructors) is registered when the program
+    // starts; arming from a later call puts this handler before it.
+    static const bool armed = atexit(MarkProcessEnding) == 0;
+    (void)armed;
+    return processEnding.load();
 }
 
 extern "C" void brenn_serv_exit(int code) {

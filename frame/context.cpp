@@ -4,7 +4,6 @@
 
 #include <stdlib.h>
 #include <string.h>
-#include <time.h>
 
 #include "platform/serv.h"
 
@@ -63,32 +62,23 @@ void OnThreadExit(void* record) {
     brenn_serv_exit(3);
 }
 
-// Set at process end by the C library's exit handlers, which run before the
-// destructors of loaded libraries. The marker lives outside this library's image
-// and the handler is the C library's own `time`, so nothing is left pointing into
-// an unloaded image if the library is closed before the process ends.
-time_t* processEndingMarker = nullptr;
-
-extern "C" int __cxa_atexit(void (*function)(void*), void* argument, void* dso);
-
 __attribute__((constructor)) void OnLoad() {
-    processEndingMarker = static_cast<time_t*>(calloc(1, sizeof(time_t)));
-    if (processEndingMarker != nullptr)
-        __cxa_atexit(reinterpret_cast<void (*)(void*)>(reinterpret_cast<void*>(&time)),
-                     processEndingMarker, nullptr);
     // A loader here cannot be told to refuse the load: when the first record cannot
     // be made, message 760 has been printed and the lazy path tries again at use.
     LibraryEntry(1, false);
 }
 
+// The destructor runs both when the library is closed and when the process ends;
+// only the service library can tell the two apart (it stays loaded, and its exit
+// handler is armed after the program has started).
 __attribute__((destructor)) void OnUnload() {
-    bool ending = processEndingMarker == nullptr || *processEndingMarker != 0;
-    LibraryEntry(0, ending);
+    LibraryEntry(0, brenn_serv_process_ending() != 0);
 }
 
 } // namespace
 
 ThreadContext* GetThreadContextSlow() {
+    brenn_serv_process_ending(); // arms the exit watch once threads start using the library
     uint32_t index = contextTlsIndex.load(std::memory_order_acquire);
     ThreadContext* record = nullptr;
     if (index == process::kNoSlot) {

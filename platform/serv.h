@@ -47,6 +47,11 @@ BRENN_SERV_API int brenn_serv_getenv(const char* name, char* buffer, int size);
  * `first` is a channel word, 1 for every message the kernels print. */
 BRENN_SERV_API void brenn_serv_print(int first, int number, int count, ...);
 
+/* Non-zero once the process has begun to exit. The first call arms the watch; the
+ * service library is never unloaded, so the watch outlives any kernel library that
+ * armed it. */
+BRENN_SERV_API int brenn_serv_process_ending(void);
+
 /* Ends the process with the given code. */
 BRENN_SERV_API void brenn_serv_exit(int code) __attribute__((noreturn));
 
