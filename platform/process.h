@@ -30,7 +30,7 @@ int64_t HeapLiveBlocks(const PrivateHeap* heap);
 using ErrnoFunction = int* (*)();
 ErrnoFunction FindErrnoFunction();
 
-// Test control: make the next call of one operation fail.
+// Test control: make every call of one operation fail until reset with Fault::None.
 enum class Fault { None, TlsAlloc, TlsSetValue, HeapCreate, HeapAlloc };
 void InjectFault(Fault fault);
 
