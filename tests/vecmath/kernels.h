@@ -1,0 +1,77 @@
+// Test access to the vector-math rows through the library's own dispatch table, and
+// helpers for the floating-point state and ulp distances.
+#ifndef BRENN_TESTS_VECMATH_KERNELS_H
+#define BRENN_TESTS_VECMATH_KERNELS_H
+
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <dlfcn.h>
+#include <string>
+#include <xmmintrin.h>
+
+#include "brenn_vecmath.h"
+#include "brenn_vecmath_rows.h"
+
+namespace brenn::test {
+
+// The slots of a row, looked up in the library (a program's own reference to a row
+// symbol may be a copy).
+inline const DispatchRecord* Row(const std::string& name) {
+    return static_cast<const DispatchRecord*>(
+        dlsym(RTLD_DEFAULT, ("brenn_zar_kernel_" + name + "_ttab").c_str()));
+}
+inline BrennKernel Slot(const std::string& name, int slot) {
+    const DispatchRecord* r = Row(name);
+    return r ? (&r->kernelLA)[slot] : nullptr;
+}
+
+template <class T>
+using Unary = void (*)(int, const T*, T*);
+template <class T>
+using Binary = void (*)(int, const T*, const T*, T*);
+template <class T>
+using TwoRes = void (*)(int, const T*, T*, T*);
+
+template <class F>
+F As(BrennKernel k) {
+    return reinterpret_cast<F>(k);
+}
+
+inline uint32_t Bits(float x) {
+    return __builtin_bit_cast(uint32_t, x);
+}
+inline uint64_t Bits(double x) {
+    return __builtin_bit_cast(uint64_t, x);
+}
+
+// Identical, or both NaN.
+template <class T>
+bool SameValue(T a, T b) {
+    if (std::isnan(a) || std::isnan(b)) return std::isnan(a) && std::isnan(b);
+    return Bits(a) == Bits(b);
+}
+
+// Distance in ulps of the format (denormal spacing below the normal range).
+template <class T>
+double UlpError(T got, long double ref) {
+    constexpr int prec = sizeof(T) == 4 ? 24 : 53;
+    constexpr int emin = sizeof(T) == 4 ? -126 : -1022;
+    if ((long double)got == ref) return 0;
+    if (std::isinf(got) || std::isnan(got)) return 1e30;
+    int e;
+    frexpl(ref, &e);
+    if (e - 1 < emin) e = emin + 1;
+    return double(fabsl((long double)got - ref) / ldexpl(1.0L, e - prec));
+}
+
+// Caller's MXCSR around a body, restored afterwards.
+struct CsrScope {
+    unsigned saved;
+    explicit CsrScope(unsigned csr) : saved(_mm_getcsr()) { _mm_setcsr(csr); }
+    ~CsrScope() { _mm_setcsr(saved); }
+};
+
+} // namespace brenn::test
+
+#endif
