@@ -15,6 +15,10 @@
 
 using namespace brenn::tools;
 
+namespace brenn::tools {
+int RunSelfTest(); // selftest.cpp
+}
+
 namespace {
 
 const char* const kSlotName[3] = {"LA", "HA", "EP"};
@@ -84,13 +88,14 @@ void ListRow(const RowDesc& r) {
 
 void Usage() {
     fprintf(stderr, "usage: brenn_accuracy [--row NAME]... [--quick] [--samples N] [--seed S]\n"
-                    "                      [--out FILE] [--check] [--list]\n"
+                    "                      [--out FILE] [--check] [--list] [--selftest]\n"
                     "  --row NAME   measure only this row (e.g. sSqrt); repeatable\n"
                     "  --quick      a reduced sample (the ctest run)\n"
                     "  --samples N  random inputs a row (default 60000)\n"
                     "  --out FILE   write the markdown table (docs/accuracy.md)\n"
                     "  --check      exit 1 when a slot breaks its level's bound\n"
-                    "  --list       list the rows and which slots have kernels\n");
+                    "  --list       list the rows and which slots have kernels\n"
+                    "  --selftest   measure kernels of known quality and check the tool sees it\n");
 }
 
 } // namespace
@@ -123,6 +128,8 @@ int main(int argc, char** argv) {
             check = true;
         else if (a == "--list")
             list = true;
+        else if (a == "--selftest")
+            return RunSelfTest();
         else {
             Usage();
             return 2;

@@ -344,7 +344,8 @@ R NativeExact(Ref ref, R a, R b, R* second) {
     case Ref::Round:
         return round(a);
     case Ref::Frac:
-        return isinf(a) ? std::numeric_limits<R>::quiet_NaN() : copysign(a - trunc(a), a);
+        // the fraction of an infinity is a zero of its sign, as modf's is
+        return isinf(a) ? copysign(R(0), a) : copysign(a - trunc(a), a);
     case Ref::Abs:
         return fabs(a);
     case Ref::Sqr:
@@ -758,9 +759,8 @@ struct RowRun {
 };
 
 template <class R, bool Cx>
-void MeasureTyped(const RowDesc& row, const Options& options, SlotResult out[3]) {
-    const DispatchRecord& rec = BrennDispatchTable[row.index];
-    BrennKernel slots[3] = {rec.kernelLA, rec.kernelHA, rec.kernelEP};
+void MeasureTyped(const RowDesc& row, const Options& options, const BrennKernel slots[3],
+                  SlotResult out[3]) {
     if (!slots[0] && !slots[1] && !slots[2]) return;
     RowRun<R, Cx> run(row);
     run.MakeInputs(options);
@@ -793,7 +793,8 @@ bool SlotPresent(const RowDesc& row, int slot) {
     return (&rec.kernelLA)[slot] != nullptr;
 }
 
-void MeasureRow(const RowDesc& row, const Options& options, SlotResult out[3]) {
+void MeasureKernels(const RowDesc& row, const Options& options, const BrennKernel slots[3],
+                    SlotResult out[3]) {
     switch (row.shape) {
     case Shape::PackI:
     case Shape::PackM:
@@ -801,25 +802,31 @@ void MeasureRow(const RowDesc& row, const Options& options, SlotResult out[3]) {
     case Shape::UnpackI:
     case Shape::UnpackM:
     case Shape::UnpackV:
-        MeasurePackRow(row, options, out);
+        MeasurePackRow(row, options, slots, out);
         return;
     default:
         break;
     }
     switch (row.type) {
     case 's':
-        MeasureTyped<float, false>(row, options, out);
+        MeasureTyped<float, false>(row, options, slots, out);
         break;
     case 'd':
-        MeasureTyped<double, false>(row, options, out);
+        MeasureTyped<double, false>(row, options, slots, out);
         break;
     case 'c':
-        MeasureTyped<float, true>(row, options, out);
+        MeasureTyped<float, true>(row, options, slots, out);
         break;
     case 'z':
-        MeasureTyped<double, true>(row, options, out);
+        MeasureTyped<double, true>(row, options, slots, out);
         break;
     }
+}
+
+void MeasureRow(const RowDesc& row, const Options& options, SlotResult out[3]) {
+    const DispatchRecord& rec = BrennDispatchTable[row.index];
+    const BrennKernel slots[3] = {rec.kernelLA, rec.kernelHA, rec.kernelEP};
+    MeasureKernels(row, options, slots, out);
 }
 
 } // namespace brenn::tools

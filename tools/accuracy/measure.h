@@ -8,6 +8,7 @@
 
 #include <string>
 
+#include "brenn_types.h"
 #include "tools/accuracy/rowtable.h"
 
 namespace brenn::tools {
@@ -63,8 +64,14 @@ bool SlotPresent(const RowDesc& row, int slot);
 // Measures the present slots of a row.
 void MeasureRow(const RowDesc& row, const Options& options, SlotResult out[3]);
 
+// Measures given kernels as the three slots of a row (null: no kernel); the self-test
+// hands it kernels of known quality.
+void MeasureKernels(const RowDesc& row, const Options& options, const BrennKernel slots[3],
+                    SlotResult out[3]);
+
 // Checks a pack or unpack row bit for bit (both index widths). Defined in pack.cpp.
-void MeasurePackRow(const RowDesc& row, const Options& options, SlotResult out[3]);
+void MeasurePackRow(const RowDesc& row, const Options& options, const BrennKernel slots[3],
+                    SlotResult out[3]);
 
 } // namespace brenn::tools
 

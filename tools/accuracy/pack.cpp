@@ -133,9 +133,8 @@ long RunCase(const RowDesc& row, BrennKernel fn, const PackCase& pc, std::mt1993
 
 } // namespace
 
-void MeasurePackRow(const RowDesc& row, const Options& options, SlotResult out[3]) {
-    const DispatchRecord& rec = BrennDispatchTable[row.index];
-    BrennKernel slots[3] = {rec.kernelLA, rec.kernelHA, rec.kernelEP};
+void MeasurePackRow(const RowDesc& row, const Options& options, const BrennKernel slots[3],
+                    SlotResult out[3]) {
     std::mt19937_64 rng(options.seed + static_cast<uint64_t>(row.index));
     for (int s = 0; s < 3; ++s) {
         if (!slots[s]) continue;

@@ -1,0 +1,202 @@
+// The tool's own test: it measures kernels of known quality, written here, and checks
+// that it sees what they are: correct ones pass at their true error, and planted faults
+// (a word written past the end, a NaN pattern changed, a signalling NaN quieted by a
+// copy, a result one ulp off, a truncated reciprocal) are found. Every argument list
+// is driven once, so the tool is known to work on rows before their kernels land.
+#include <math.h>
+#include <stdio.h>
+#include <string.h>
+
+#include <string>
+
+#include "tools/accuracy/measure.h"
+
+namespace brenn::tools {
+
+namespace {
+
+extern "C" double _Complex cexp(double _Complex); // C99 libm, as the peers use it
+
+extern "C" {
+void GoodAdd(int n, const float* a, const float* b, float* y) {
+    for (int i = 0; i < n; ++i)
+        y[i] = a[i] + b[i];
+}
+void OverrunAdd(int n, const float* a, const float* b, float* y) {
+    for (int i = 0; i < n; ++i)
+        y[i] = a[i] + b[i];
+    y[n] = 0; // one past the end
+}
+void GoodAbs(int n, const float* a, float* y) {
+    for (int i = 0; i < n; ++i) {
+        volatile float unit = copysignf(1.0f, a[i]); // kept from being folded to fabsf
+        y[i] = a[i] * unit;
+    }
+}
+void MaskAbs(int n, const float* a, float* y) { // clears the sign of NaNs and keeps sNaN
+    for (int i = 0; i < n; ++i) {
+        uint32_t u;
+        memcpy(&u, &a[i], 4);
+        u &= 0x7FFFFFFFu;
+        memcpy(&y[i], &u, 4);
+    }
+}
+void GoodSqrt(int n, const double* a, double* y) {
+    for (int i = 0; i < n; ++i)
+        y[i] = sqrt(a[i]);
+}
+void UlpOffSqrt(int n, const double* a, double* y) {
+    for (int i = 0; i < n; ++i) {
+        y[i] = sqrt(a[i]);
+        if (a[i] > 2 && a[i] < 3) y[i] = nextafter(y[i], INFINITY);
+    }
+}
+void RcpInv(int n, const float* a, float* y) { // 12 good bits, as an EP body
+    for (int i = 0; i < n; ++i) {
+        float r = 1.0f / a[i];
+        uint32_t u;
+        memcpy(&u, &r, 4);
+        if (isfinite(r) && fabsf(r) >= 0x1p-126f) u &= ~0xFFFu;
+        memcpy(&y[i], &u, 4);
+    }
+}
+void LibmExp(int n, const double* a, double* y) {
+    for (int i = 0; i < n; ++i)
+        y[i] = exp(a[i]);
+}
+void LibmSinCos(int n, const float* a, float* y, float* z) {
+    for (int i = 0; i < n; ++i)
+        sincosf(a[i], &y[i], &z[i]);
+}
+void LibmPowx(int n, const float* a, float b, float* y) {
+    for (int i = 0; i < n; ++i)
+        y[i] = powf(a[i], b);
+}
+void PlainLinearFrac(int n, const double* a, const double* b, double sa, double ha, double sb,
+                     double hb, double* y) {
+    for (int i = 0; i < n; ++i)
+        y[i] = (sa * a[i] + ha) / (sb * b[i] + hb);
+}
+void LibmCExp(int n, const BrennComplex16* a, BrennComplex16* y) {
+    for (int i = 0; i < n; ++i) {
+        double _Complex z;
+        __real__ z = a[i].re;
+        __imag__ z = a[i].im;
+        double _Complex r = cexp(z);
+        y[i].re = __real__ r;
+        y[i].im = __imag__ r;
+    }
+}
+void LibmCAbs(int n, const BrennComplex8* a, float* y) {
+    for (int i = 0; i < n; ++i)
+        y[i] = hypotf(a[i].re, a[i].im);
+}
+void GoodModf(int n, const double* a, double* y, double* z) {
+    for (int i = 0; i < n; ++i) {
+        if (isnan(a[i])) {
+            y[i] = z[i] = a[i] + a[i];
+            continue;
+        }
+        z[i] = modf(a[i], &y[i]);
+    }
+}
+void GoodPackI(int64_t n, const double* a, int64_t inc, double* y, int32_t flag) {
+    if (flag == 1) {
+        n = static_cast<int32_t>(n);
+        inc = static_cast<int32_t>(inc);
+    }
+    for (int64_t i = 0; i < n; ++i)
+        memcpy(&y[i], &a[i * inc], 8);
+}
+void QuietingPackI(int64_t n, const float* a, int64_t inc, float* y, int32_t flag) {
+    if (flag == 1) {
+        n = static_cast<int32_t>(n);
+        inc = static_cast<int32_t>(inc);
+    }
+    volatile float one = 1.0f; // a real multiplication, which quiets signalling NaNs
+    for (int64_t i = 0; i < n; ++i)
+        y[i] = a[i * inc] * one;
+}
+void WideMaskPackM(int64_t n, const BrennComplex8* a, const void* mask, BrennComplex8* y,
+                   int32_t flag) { // reads masks as 32-bit whatever the flag: a fault
+    n = static_cast<int32_t>(n);
+    const int32_t* m = static_cast<const int32_t*>(mask);
+    for (int64_t i = 0, j = 0; i < n; ++i)
+        if (m[i]) y[j++] = a[i];
+}
+}
+
+const RowDesc* Row(const char* name) {
+    int count;
+    const RowDesc* rows = AllRows(&count);
+    for (int i = 0; i < count; ++i)
+        if (strcmp(rows[i].name, name) == 0) return &rows[i];
+    return nullptr;
+}
+
+int gFailures = 0;
+
+void Expect(bool ok, const char* what, const SlotResult& r) {
+    printf("%-4s %s: max %.3g ulp, %.1f bits, %ld differ, %ld bytes outside%s%s\n",
+           ok ? "ok" : "FAIL", what, r.maxUlp, r.minBits, r.mismatches, r.frameFaults,
+           r.worst.empty() ? "" : "; worst ", r.worst.c_str());
+    if (!ok) ++gFailures;
+}
+
+SlotResult Measure(const char* row, void (*fn)()) {
+    Options o;
+    o.randomSamples = 2000;
+    BrennKernel slots[3] = {reinterpret_cast<BrennKernel>(fn), nullptr, nullptr};
+    SlotResult out[3];
+    MeasureKernels(*Row(row), o, slots, out);
+    return out[0];
+}
+
+template <class F>
+void (*K(F f))() {
+    return reinterpret_cast<void (*)()>(f);
+}
+
+} // namespace
+
+int RunSelfTest() {
+    SlotResult r;
+    r = Measure("sAdd", K(GoodAdd));
+    Expect(r.present && r.mismatches == 0 && r.frameFaults == 0, "IEEE sAdd is exact", r);
+    r = Measure("sAdd", K(OverrunAdd));
+    Expect(r.frameFaults > 0, "a write past the end is caught", r);
+    r = Measure("sAbs", K(GoodAbs));
+    Expect(r.mismatches == 0, "Abs by multiplication keeps NaN patterns, quieted", r);
+    r = Measure("sAbs", K(MaskAbs));
+    Expect(r.mismatches > 0, "Abs that masks NaN signs and keeps sNaN is caught", r);
+    r = Measure("dSqrt", K(GoodSqrt));
+    Expect(r.maxUlp <= 0.5 && r.maxUlp > 0.4, "correctly rounded dSqrt is within 0.5 ulp", r);
+    r = Measure("dSqrt", K(UlpOffSqrt));
+    Expect(r.maxUlp > 1.0 && r.maxUlp < 1.5, "a result one ulp off shows as 1 to 1.5 ulp", r);
+    r = Measure("sInv", K(RcpInv));
+    Expect(r.minBits >= 11 && r.minBits < 13, "a 12-bit reciprocal has 11 to 13 correct bits", r);
+    r = Measure("dExp", K(LibmExp));
+    Expect(r.maxUlp < 1.0, "glibc exp is under 1 ulp", r);
+    r = Measure("sSinCos", K(LibmSinCos));
+    Expect(r.maxUlp < 1.0, "glibc sincosf is under 1 ulp on both results", r);
+    r = Measure("sPowx", K(LibmPowx));
+    Expect(r.maxUlp < 1.0, "glibc powf with a scalar exponent is under 1 ulp", r);
+    r = Measure("dLinearFrac", K(PlainLinearFrac));
+    Expect(r.maxUlp == 0, "LinearFrac as written matches its formula", r);
+    r = Measure("zExp", K(LibmCExp));
+    Expect(r.maxUlp < 2.0, "glibc cexp is within 2 ulp normwise", r);
+    r = Measure("cAbs", K(LibmCAbs));
+    Expect(r.maxUlp < 1.0, "hypotf as cAbs is under 1 ulp", r);
+    r = Measure("dModf", K(GoodModf));
+    Expect(r.mismatches == 0, "modf as Modf is exact on both results", r);
+    r = Measure("dPackI", K(GoodPackI));
+    Expect(r.mismatches == 0 && r.checked > 0, "dPackI by raw copy is exact", r);
+    r = Measure("sPackI", K(QuietingPackI));
+    Expect(r.mismatches > 0, "sPackI that quiets signalling NaNs is caught", r);
+    r = Measure("cPackM", K(WideMaskPackM));
+    Expect(r.mismatches > 0, "cPackM that ignores the 64-bit flag is caught", r);
+    printf("%d self-test failure(s)\n", gFailures);
+    return gFailures ? 1 : 0;
+}
+
+} // namespace brenn::tools
