@@ -10,6 +10,7 @@
 namespace brenn::frame {
 
 std::atomic<uint32_t> contextTlsIndex{process::kNoSlot};
+thread_local ThreadContext* cachedContext __attribute__((tls_model("initial-exec"))) = nullptr;
 
 namespace {
 
@@ -42,6 +43,7 @@ bool MakeRecord(uint32_t index, ThreadContext** out) {
     }
     memset(block, 0, kZeroedBytes);
     *out = static_cast<ThreadContext*>(block);
+    cachedContext = *out;
     return true;
 }
 
@@ -50,10 +52,12 @@ void FreeCallingThreadRecord(uint32_t index) {
     void* p = process::TlsGetValue(index);
     if (p != nullptr) process::HeapFree(contextHeap.load(std::memory_order_acquire), p);
     process::TlsSetValue(index, nullptr);
+    cachedContext = nullptr;
 }
 
 // The thread-detach path. The slot already reads null here; the record is freed.
 void OnThreadExit(void* record) {
+    cachedContext = nullptr;
     process::HeapFree(contextHeap.load(std::memory_order_acquire), record);
 }
 
@@ -98,10 +102,10 @@ ThreadContext* GetThreadContextSlow() {
             brenn_serv_unlock(&tlsLock);
         }
         void* p = process::TlsGetValue(index);
-        if (p != nullptr) return static_cast<ThreadContext*>(p);
+        if (p != nullptr) return cachedContext = static_cast<ThreadContext*>(p);
     } else {
         void* p = process::TlsGetValue(index);
-        if (p != nullptr) return static_cast<ThreadContext*>(p);
+        if (p != nullptr) return cachedContext = static_cast<ThreadContext*>(p);
     }
     if (MakeRecord(index, &record)) return record;
     FailNoRecord();

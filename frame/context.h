@@ -26,15 +26,17 @@ constexpr size_t kZeroedBytes = offsetof(ThreadContext, inputVectorPointer);
 
 extern std::atomic<uint32_t> contextTlsIndex;
 
+// The calling thread's record as last found in its slot: a thread-local copy of the
+// slot's value, so that the hot path reads it without a library call. It is set
+// whenever the slot is set and cleared whenever the record is freed.
+extern thread_local ThreadContext* cachedContext __attribute__((tls_model("initial-exec")));
+
 ThreadContext* GetThreadContextSlow();
 
-// Hot path: one unlocked compare and one slot read.
+// Hot path: one unlocked compare and one thread-local read.
 inline ThreadContext* GetThreadContext() {
-    uint32_t index = contextTlsIndex.load(std::memory_order_relaxed);
-    if (__builtin_expect(index != process::kNoSlot, 1)) {
-        void* p = process::TlsGetValue(index);
-        if (__builtin_expect(p != nullptr, 1)) return static_cast<ThreadContext*>(p);
-    }
+    ThreadContext* c = cachedContext;
+    if (__builtin_expect(c != nullptr, 1)) return c;
     return GetThreadContextSlow();
 }
 
