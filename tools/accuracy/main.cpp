@@ -90,8 +90,8 @@ void Usage() {
     fprintf(stderr, "usage: brenn_accuracy [--row NAME]... [--quick] [--samples N] [--seed S]\n"
                     "                      [--out FILE] [--check] [--list] [--selftest]\n"
                     "  --row NAME   measure only this row (e.g. sSqrt); repeatable\n"
-                    "  --quick      a reduced sample (the ctest run)\n"
-                    "  --samples N  random inputs a row (default 60000)\n"
+                    "  --quick      20000 inputs a row (the ctest run)\n"
+                    "  --samples N  random inputs a row (default 250000)\n"
                     "  --out FILE   write the markdown table (docs/accuracy.md)\n"
                     "  --check      exit 1 when a slot breaks its level's bound\n"
                     "  --list       list the rows and which slots have kernels\n"
@@ -135,7 +135,7 @@ int main(int argc, char** argv) {
             return 2;
         }
     }
-    if (quick) options.randomSamples = 3000;
+    if (quick) options.randomSamples = 20000;
 
     int count = 0;
     const RowDesc* rows = AllRows(&count);

@@ -54,7 +54,7 @@ struct SlotResult {
 };
 
 struct Options {
-    long randomSamples = 60000; // random inputs a row (a third from each kind)
+    long randomSamples = 250000; // random inputs a row (a third from each kind)
     uint64_t seed = 0x5EED2026;
 };
 

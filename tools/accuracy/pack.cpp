@@ -140,7 +140,7 @@ void MeasurePackRow(const RowDesc& row, const Options& options, const BrennKerne
         if (!slots[s]) continue;
         int same = -1;
         for (int q = 0; q < s; ++q)
-            if (slots[q] == slots[s]) same = q;
+            if (same < 0 && slots[q] == slots[s]) same = q;
         if (same >= 0) {
             out[s] = out[same];
             out[s].sameAs = same;
