@@ -57,7 +57,9 @@ void ErfcInv(mpfr_ptr r, mpfr_srcptr x) {
         mpfr_set_inf(r, 1);
     } else if (mpfr_cmp_ui(x, 2) == 0) {
         mpfr_set_inf(r, -1);
-    } else if (mpfr_cmp_ui(x, 1) <= 0) {
+    } else if (mpfr_cmp_ui(x, 1) == 0) {
+        mpfr_set_zero(r, 1); // the root itself: Newton's absolute accuracy would not do
+    } else if (mpfr_cmp_ui(x, 1) < 0) {
         ErfcInvUpper(r, x);
     } else {
         Tmp t;
@@ -125,6 +127,7 @@ void CdfNormInv(mpfr_ptr r, mpfr_srcptr p) {
     mpfr_sqrt_ui(s, 2, kN);
     mpfr_mul(t, t, s, kN);
     mpfr_neg(r, t, kN);
+    if (mpfr_zero_p(r)) mpfr_set_zero(r, 1); // Phi^-1(1/2) = +0
 }
 
 // E1(x) = -Ei(-x) for x > 0; +inf at 0; a domain error (NaN) below.

@@ -100,6 +100,45 @@ void GoodModf(int n, const double* a, double* y, double* z) {
         z[i] = modf(a[i], &y[i]);
     }
 }
+// Inverse error function and normal quantile by bisection on glibc's erf/erfc in
+// double, rounded to single: checks the tool's own inverses, which MPFR lacks.
+float Bisect(double (*f)(double), double target, double lo, double hi) {
+    for (;;) {
+        double mid = 0.5 * (lo + hi);
+        if (mid <= lo || mid >= hi) return static_cast<float>(mid);
+        (f(mid) < target ? lo : hi) = mid;
+    }
+}
+double CdfNormD(double y) {
+    return 0.5 * erfc(-y / sqrt(2.0));
+}
+void BisectErfInv(int n, const float* a, float* y) {
+    for (int i = 0; i < n; ++i) {
+        float x = a[i];
+        y[i] = isnan(x) || fabsf(x) > 1 ? NAN
+               : fabsf(x) == 1          ? copysignf(INFINITY, x)
+               : x == 0                 ? x
+                                        : Bisect(erf, x, -6, 6);
+    }
+}
+void BisectCdfNormInv(int n, const float* a, float* y) {
+    for (int i = 0; i < n; ++i) {
+        float p = a[i];
+        y[i] = isnan(p) || p < 0 || p > 1 ? NAN
+               : p == 0                   ? -INFINITY
+               : p == 1                   ? INFINITY
+               : p == 0.5f                ? 0.0f // the root, which bisection on erfc misses
+                                          : Bisect(CdfNormD, p, -40, 40);
+    }
+}
+void LibmLogb(int n, const double* a, double* y) {
+    for (int i = 0; i < n; ++i)
+        y[i] = logb(a[i]);
+}
+void LibmAtan2(int n, const float* a, const float* b, float* y) {
+    for (int i = 0; i < n; ++i)
+        y[i] = atan2f(a[i], b[i]);
+}
 void GoodPackI(int64_t n, const double* a, int64_t inc, double* y, int32_t flag) {
     if (flag == 1) {
         n = static_cast<int32_t>(n);
@@ -189,6 +228,14 @@ int RunSelfTest() {
     Expect(r.maxUlp < 1.0, "hypotf as cAbs is under 1 ulp", r);
     r = Measure("dModf", K(GoodModf));
     Expect(r.mismatches == 0, "modf as Modf is exact on both results", r);
+    r = Measure("sErfInv", K(BisectErfInv));
+    Expect(r.maxUlp < 0.6, "erfinv by bisection on erf agrees with the tool's inverse", r);
+    r = Measure("sCdfNormInv", K(BisectCdfNormInv));
+    Expect(r.maxUlp < 0.6, "the normal quantile by bisection agrees with the tool's", r);
+    r = Measure("dLogb", K(LibmLogb));
+    Expect(r.maxUlp == 0, "glibc logb matches the exponent reference exactly", r);
+    r = Measure("sAtan2", K(LibmAtan2));
+    Expect(r.maxUlp < 1.0, "glibc atan2f takes a as the ordinate, under 1 ulp", r);
     r = Measure("dPackI", K(GoodPackI));
     Expect(r.mismatches == 0 && r.checked > 0, "dPackI by raw copy is exact", r);
     r = Measure("sPackI", K(QuietingPackI));
