@@ -1,0 +1,90 @@
+// The affine post-pass of the continuous generators, r = r * scale + shift with an
+// optional lower bound, in the peel / eight / two / one shape. Every path multiplies
+// then adds then bounds, in that order, so the split does not change a result.
+#include <emmintrin.h>
+#include <stdint.h>
+
+#include "rng/dist/frame.h"
+
+namespace brenn::rng {
+
+namespace {
+
+template <typename T>
+struct Lanes;
+
+template <>
+struct Lanes<double> {
+    using V = __m128d;
+    static constexpr int kCount = 2;
+    static V Set(double x) { return _mm_set1_pd(x); }
+    static V Load(const double* p) { return _mm_load_pd(p); }
+    static void Store(double* p, V v) { _mm_store_pd(p, v); }
+    static V Fma(V x, V s, V t) { return _mm_add_pd(_mm_mul_pd(x, s), t); }
+    static V Max(V x, V m) { return _mm_max_pd(x, m); }
+};
+
+template <>
+struct Lanes<float> {
+    using V = __m128;
+    static constexpr int kCount = 4;
+    static V Set(float x) { return _mm_set1_ps(x); }
+    static V Load(const float* p) { return _mm_load_ps(p); }
+    static void Store(float* p, V v) { _mm_store_ps(p, v); }
+    static V Fma(V x, V s, V t) { return _mm_add_ps(_mm_mul_ps(x, s), t); }
+    static V Max(V x, V m) { return _mm_max_ps(x, m); }
+};
+
+// max(x, m) as the vector instruction does it: m when x is NaN.
+template <typename T>
+inline T ScalarMax(T x, T m) {
+    return x > m ? x : m;
+}
+
+template <typename T, bool Bounded>
+void Pass(int32_t n, T* r, T scale, T shift, T floor) {
+    using L = Lanes<T>;
+    auto one = [&](int32_t i) {
+        T v = r[i] * scale + shift;
+        r[i] = Bounded ? ScalarMax(v, floor) : v;
+    };
+    int32_t i = 0;
+    uintptr_t address = reinterpret_cast<uintptr_t>(r);
+    if (n < 8 || address % sizeof(T) != 0) {
+        for (; i < n; ++i)
+            one(i);
+        return;
+    }
+    for (; i < n && (reinterpret_cast<uintptr_t>(r + i) & 15) != 0; ++i)
+        one(i);
+    const typename L::V s = L::Set(scale), t = L::Set(shift), m = L::Set(floor);
+    auto block = [&](int32_t at) {
+        typename L::V v = L::Fma(L::Load(r + at), s, t);
+        if (Bounded) v = L::Max(v, m);
+        L::Store(r + at, v);
+    };
+    for (; i + 8 <= n; i += 8)
+        for (int k = 0; k < 8; k += L::kCount)
+            block(i + k);
+    for (; i + L::kCount <= n; i += L::kCount)
+        block(i);
+    for (; i < n; ++i)
+        one(i);
+}
+
+} // namespace
+
+void AffinePass(int32_t n, double* r, double scale, double shift) {
+    Pass<double, false>(n, r, scale, shift, 0.0);
+}
+void AffinePass(int32_t n, float* r, float scale, float shift) {
+    Pass<float, false>(n, r, scale, shift, 0.0f);
+}
+void AffinePassMax(int32_t n, double* r, double scale, double shift, double floor) {
+    Pass<double, true>(n, r, scale, shift, floor);
+}
+void AffinePassMax(int32_t n, float* r, float scale, float shift, float floor) {
+    Pass<float, true>(n, r, scale, shift, floor);
+}
+
+} // namespace brenn::rng
