@@ -1,0 +1,90 @@
+// Running moments of a set of variables and the merge of two such sets by weight.
+// Means and raw moments are weighted averages (on the data's scale); central moments
+// and the cross-product matrix are unnormalised sums of powers of the deviations, so
+// that parts computed apart (blocks, threads, former calls) join without loss:
+// the pairwise update of Chan, Golub and LeVeque, extended to orders 3 and 4 by Pebay.
+#ifndef BRENN_STATS_MOMENTS_H
+#define BRENN_STATS_MOMENTS_H
+
+#include <stdint.h>
+
+#include "platform/blas.h"
+
+namespace brenn::stats {
+
+template <typename T>
+struct MomentState {
+    T weight[2]; // sum of weights, sum of squared weights
+    T* mean;     // q weighted means
+    T* raw[3];   // q raw moments of orders 2, 3, 4 (weighted averages)
+    T* cen[3];   // q central sums of orders 2, 3, 4: sum of w d^k
+    T* cross;    // q x q, lower triangle column-major: (j, l), j >= l, at j + l * q
+};
+
+// Lays a state out over `memory`: 7 q elements, and q * q more with a matrix.
+// Returns the element after the last one used.
+template <typename T>
+T* LayOutState(MomentState<T>& s, T* memory, int64_t q, bool matrix) {
+    s.weight[0] = s.weight[1] = 0;
+    s.mean = memory;
+    for (int k = 0; k < 3; ++k)
+        s.raw[k] = memory + (1 + k) * q;
+    for (int k = 0; k < 3; ++k)
+        s.cen[k] = memory + (4 + k) * q;
+    T* end = memory + 7 * q;
+    s.cross = matrix ? end : nullptr;
+    return matrix ? end + q * q : end;
+}
+
+inline void Syr(int n, double alpha, const double* x, double* a) {
+    const int one = 1;
+    brenn_blas_xdsyr("L", &n, &alpha, x, &one, a, &n);
+}
+inline void Syr(int n, float alpha, const float* x, float* a) {
+    const int one = 1;
+    brenn_blas_xssyr("L", &n, &alpha, x, &one, a, &n);
+}
+
+// Joins b into a: moments up to `order` (1 to 4). With a matrix, b's cross-product is
+// added unless bCrossAdded says the caller has already added it into a's matrix; the
+// term of the two means is always added. `delta` is q elements of scratch.
+template <typename T>
+void MergeState(MomentState<T>& a, const MomentState<T>& b, int order, int64_t q, bool bCrossAdded,
+                T* delta) {
+    T bw = b.weight[0];
+    if (bw == 0) return; // nothing was seen: leave a exactly as it is
+    T aw = a.weight[0];
+    T n = aw + bw;
+    T fa = aw / n, fb = bw / n;
+    T nab = n * fa * fb; // aw * bw / n
+    for (int64_t j = 0; j < q; ++j) {
+        T d = b.mean[j] - a.mean[j];
+        delta[j] = d;
+        if (order >= 4) {
+            T d2 = d * d;
+            a.cen[2][j] += b.cen[2][j] + d2 * d2 * nab * (fa * fa - fa * fb + fb * fb) +
+                           T(6) * d2 * (fa * fa * b.cen[0][j] + fb * fb * a.cen[0][j]) +
+                           T(4) * d * (fa * b.cen[1][j] - fb * a.cen[1][j]);
+        }
+        if (order >= 3)
+            a.cen[1][j] += b.cen[1][j] + d * d * d * nab * (fa - fb) +
+                           T(3) * d * (fa * b.cen[0][j] - fb * a.cen[0][j]);
+        if (order >= 2) a.cen[0][j] += b.cen[0][j] + d * d * nab;
+        for (int k = 0; k + 2 <= order; ++k)
+            a.raw[k][j] = a.raw[k][j] * fa + b.raw[k][j] * fb;
+        a.mean[j] += d * fb;
+    }
+    if (a.cross != nullptr) {
+        if (!bCrossAdded)
+            for (int64_t l = 0; l < q; ++l)
+                for (int64_t j = l; j < q; ++j)
+                    a.cross[j + l * q] += b.cross[j + l * q];
+        if (aw != 0) Syr(static_cast<int>(q), nab, delta, a.cross);
+    }
+    a.weight[0] = n;
+    a.weight[1] += b.weight[1];
+}
+
+} // namespace brenn::stats
+
+#endif
