@@ -133,6 +133,32 @@ TEST(StatsEditTask, NullAddressGivesTheFieldsStatus) {
     EXPECT_EQ(_qesiSSEditTask(g.task, BRENN_SS_ED_GROUP_INDC, nullptr), -4038);
 }
 
+// A field set through an editor is what a compute reads: moments of one variable
+// through the general editor, then replaced by the thin editor.
+TEST(StatsEditTask, FieldsReachTheCompute) {
+    double x[3] = {1, 2, 6};
+    double mean1 = 0, mean2 = 0, aw[2] = {0, 0};
+    int32_t p = 1, n = 3, storage = BRENN_SS_MATRIX_STORAGE_ROWS;
+    TaskGuard g;
+    ASSERT_EQ(_qesdSSNewTask(&g.task, &p, &n, &storage, x, nullptr, nullptr, 0), 0);
+    ASSERT_EQ(_qesdSSEditTask(g.task, BRENN_SS_ED_MEAN, &mean1), 0);
+    ASSERT_EQ(_qesdSSEditTask(g.task, BRENN_SS_ED_MEAN, nullptr), -4006); // keeps &mean1
+    ASSERT_EQ(_qesdSSBasic(g.task, BRENN_SS_MEAN, BRENN_SS_METHOD_ONE_PASS, nullptr), 0);
+    EXPECT_EQ(mean1, 3.0);
+    // A thin editor with every address null changes nothing.
+    EXPECT_EQ(
+        __qesdSSEditMoments(g.task, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr),
+        0);
+    ASSERT_EQ(
+        __qessSSEditMoments(g.task, &mean2, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr),
+        0);
+    ASSERT_EQ(_qesdSSEditTask(g.task, BRENN_SS_ED_ACCUM_WEIGHT, aw), 0);
+    ASSERT_EQ(_qesdSSBasic(g.task, BRENN_SS_MEAN, BRENN_SS_METHOD_ONE_PASS, nullptr), 0);
+    EXPECT_EQ(mean2, 3.0);
+    EXPECT_EQ(aw[0], 3.0);
+    EXPECT_EQ(aw[1], 3.0);
+}
+
 TEST(StatsThinEditors, NullTaskAndBothNamesAreOneFunction) {
     EXPECT_EQ(__qesdSSEditCovCor(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr), -4031);
     EXPECT_EQ(__qessSSEditMissingVals(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
