@@ -173,13 +173,13 @@ void RandomPairs() {
     for (int i = 0; i < kN; ++i) {
         uint64_t u = gen(), w = gen();
         if constexpr (sizeof(T) == 4) u >>= 32, w >>= 32;
-        if (i % 4 == 1) { // exponents within 40 of each other
-            uint64_t e = (u >> kMant) % (sizeof(T) == 4 ? 200 : 2000) + 10;
-            uint64_t sig = (uint64_t(1) << kMant) - 1;
-            u = (u & ~(sig << 0) & (uint64_t(1) << (kMant + (sizeof(T) == 4 ? 8 : 11)))) |
-                (e << kMant) | (u & sig);
-            w = (w & (uint64_t(1) << (sizeof(T) == 4 ? 31 : 63))) |
-                ((e - 20 + (w >> 40) % 40) << kMant) | (w & sig);
+        if (i % 4 == 1) { // exponents within 20 of each other, denormals included
+            constexpr uint64_t sign = uint64_t(1) << (sizeof(T) * 8 - 1);
+            constexpr uint64_t sig = (uint64_t(1) << kMant) - 1;
+            uint64_t e = (u >> kMant) % (sizeof(T) == 4 ? 200 : 2000);
+            uint64_t f = e + (w >> kMant) % 41;
+            u = (u & sign) | ((e + 20) << kMant) | (u & sig);
+            w = (w & sign) | (f < 20 ? 0 : (f - 20) << kMant) | (w & sig);
         } else if (i % 4 == 2) { // small integers: ties of Remainder
             a[i] = T(int64_t(u % 2001) - 1000);
             b[i] = T(int64_t(w % 41) - 20) * T(i % 8 == 2 ? 1 : 0.5);
