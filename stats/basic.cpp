@@ -211,6 +211,7 @@ int32_t Basic(void* handle, uint64_t estimates, uint64_t method, const threader*
         a.order = order;
         a.matrix = matrix;
         a.blocked = kind != MethodOnePass;
+        a.rawSums = kind == MethodRawFirst;
         status = Accumulate(a, thr, s, tmp);
     }
     // A call that added no weight (all weights 0) leaves every result as it was.

@@ -33,6 +33,7 @@ struct Accumulation {
     int order; // 1 to 4
     bool matrix;
     bool blocked;
+    bool rawSums; // raw-first method: the blocked path sums raw powers of the data
     // Threads: the shares and the memory each thread made for its own.
     int slots;
     MomentState<T>* shares;
@@ -84,16 +85,24 @@ void Gather(const Accumulation<T>& a, int64_t i0, int64_t i1, T* out) {
 }
 
 // The deviations of a block from `centre`, one observation contiguous (the column-major
-// q x rows matrix of the BLAS), and with weights the same scaled by the weight.
-template <typename T, bool kVarRows>
+// q x rows matrix of the BLAS), and with weights the same scaled by the weight. With
+// kSum the weighted sums of the deviations go to sum1 on the way.
+template <typename T, bool kVarRows, bool kSum>
 void CentredCopy(const T* x, int64_t ld, int64_t i0, int64_t i1, int64_t q, const T* w,
-                 const T* centre, T* out, T* weighted) {
+                 const T* centre, T* out, T* weighted, T* sum1) {
+    if (kSum)
+        for (int64_t j = 0; j < q; ++j)
+            sum1[j] = 0;
     if (kVarRows) {
         for (int64_t j = 0; j < q; ++j) {
             const T* src = x + j * ld;
-            T c = centre[j];
-            for (int64_t i = i0; i < i1; ++i)
-                out[(i - i0) * q + j] = src[i] - c;
+            T c = centre[j], acc = 0;
+            for (int64_t i = i0; i < i1; ++i) {
+                T d = src[i] - c;
+                out[(i - i0) * q + j] = d;
+                if (kSum) acc += w != nullptr ? w[i] * d : d;
+            }
+            if (kSum) sum1[j] = acc;
         }
     } else {
         for (int64_t i = i0; i < i1; ++i) {
@@ -101,6 +110,11 @@ void CentredCopy(const T* x, int64_t ld, int64_t i0, int64_t i1, int64_t q, cons
             T* __restrict dst = out + (i - i0) * q;
             for (int64_t j = 0; j < q; ++j)
                 dst[j] = row[j] - centre[j];
+            if (kSum) {
+                T wi = w != nullptr ? w[i] : T(1);
+                for (int64_t j = 0; j < q; ++j)
+                    sum1[j] += wi * dst[j];
+            }
         }
     }
     if (weighted != nullptr)
@@ -113,8 +127,50 @@ void CentredCopy(const T* x, int64_t ld, int64_t i0, int64_t i1, int64_t q, cons
         }
 }
 
-// One block of the blocked path: block sums, moments around the block's mean with a
-// correction of that mean, the matrix through the BLAS, then the merge into s.
+template <typename T, bool kSum>
+void CentredCopyIn(bool varRows, const T* x, int64_t ld, int64_t i0, int64_t i1, int64_t q,
+                   const T* w, const T* centre, T* out, T* weighted, T* sum1) {
+    if (varRows)
+        CentredCopy<T, true, kSum>(x, ld, i0, i1, q, w, centre, out, weighted, sum1);
+    else
+        CentredCopy<T, false, kSum>(x, ld, i0, i1, q, w, centre, out, weighted, sum1);
+}
+
+// Sums of the weights and of their squares over [i0, i1).
+template <typename T>
+void WeightSums(const T* w, int64_t i0, int64_t i1, T sums[2]) {
+    if (w == nullptr) {
+        sums[0] = sums[1] = T(i1 - i0);
+        return;
+    }
+    double a = 0, b = 0;
+    for (int64_t i = i0; i < i1; ++i) {
+        a += w[i];
+        b += double(w[i]) * w[i];
+    }
+    sums[0] = T(a);
+    sums[1] = T(b);
+}
+
+// Moves central sums of powers 2 to `order` taken around a centre c to the centre
+// c + e, where e = (sum of w d) / wb (binomial shift); `sums` holds the sums of powers
+// 1 to 4 around c in mean and cen. The result replaces cen.
+template <typename T>
+inline void ShiftCentre(MomentState<T>& blk, int order, int64_t j, T e, T wb) {
+    T s2 = order >= 2 ? blk.cen[0][j] : T(0), s3 = order >= 3 ? blk.cen[1][j] : T(0);
+    T s4 = order >= 4 ? blk.cen[2][j] : T(0);
+    if (order >= 4)
+        blk.cen[2][j] = s4 - T(4) * e * s3 + T(6) * e * e * s2 - T(3) * wb * (e * e) * (e * e);
+    if (order >= 3) blk.cen[1][j] = s3 - T(3) * e * s2 + T(2) * wb * e * e * e;
+    if (order >= 2) blk.cen[0][j] = s2 - wb * e * e;
+}
+
+// One block of the blocked path. The block's moments are taken around a centre: the
+// running mean of the share (the first block's own mean for the first block), so that one
+// pass gives all sums of powers; the centre is then moved to the block's mean, raw
+// moments follow from the binomial expansion around the centre, and the matrix goes
+// through the BLAS on the centred copy. With rawSums (the raw-first method) the raw
+// sums are taken from the data themselves and the centre is the rounded block mean.
 template <typename T>
 void BlockStep(const Accumulation<T>& a, const T* x, int64_t ld, bool varRows, int64_t i0,
                int64_t i1, const T* w, MomentState<T>& s, MomentState<T>& blk, T* centre, T* delta,
@@ -122,34 +178,62 @@ void BlockStep(const Accumulation<T>& a, const T* x, int64_t ld, bool varRows, i
     const int64_t q = a.q;
     const bool weighted = w != nullptr;
     const BasicKernel<T>* table = BasicKernels<T>();
-    table[BlockIndex(GroupRaw, a.order, weighted, varRows)](x, ld, i0, i1, 0, q, w, &blk, nullptr);
-    T wb = blk.weight[0];
-    if (wb == 0) return; // a run of zero weights adds nothing
-    T inv = T(1) / wb;
-    for (int64_t j = 0; j < q; ++j) {
-        centre[j] = blk.mean[j] * inv;
-        for (int k = 0; k + 2 <= a.order; ++k)
-            blk.raw[k][j] *= inv;
+    T wb;
+    if (a.rawSums) {
+        table[BlockIndex(GroupRaw, a.order, weighted, varRows)](x, ld, i0, i1, 0, q, w, &blk,
+                                                                nullptr);
+        wb = blk.weight[0];
+        if (wb == 0) return; // a run of zero weights adds nothing
+        T inv = T(1) / wb;
+        for (int64_t j = 0; j < q; ++j) {
+            centre[j] = blk.mean[j] * inv;
+            for (int k = 0; k + 2 <= a.order; ++k)
+                blk.raw[k][j] *= inv;
+        }
+    } else if (s.weight[0] > 0) {
+        WeightSums(w, i0, i1, blk.weight);
+        wb = blk.weight[0];
+        if (wb == 0) return;
+        for (int64_t j = 0; j < q; ++j)
+            centre[j] = s.mean[j];
+    } else {
+        // The share's first block has no running mean yet: its own rounded mean is the
+        // centre, at the price of one more pass over this block alone.
+        table[BlockIndex(GroupRaw, 1, weighted, varRows)](x, ld, i0, i1, 0, q, w, &blk, nullptr);
+        wb = blk.weight[0];
+        if (wb == 0) return;
+        for (int64_t j = 0; j < q; ++j)
+            centre[j] = blk.mean[j] / wb;
     }
-    table[BlockIndex(GroupCentral, a.order, weighted, varRows)](x, ld, i0, i1, 0, q, w, &blk,
-                                                                centre);
-    // blk.mean now holds the sum of w d around the rounded mean: move the centre by
-    // e = that sum / wb and the sums of powers with it (binomial shift).
+    const bool fused = a.matrix && a.order == 1;
+    if (fused)
+        CentredCopyIn<T, true>(varRows, x, ld, i0, i1, q, w, centre, copy, copyW, blk.mean);
+    else
+        table[BlockIndex(GroupCentral, a.order, weighted, varRows)](x, ld, i0, i1, 0, q, w, &blk,
+                                                                    centre);
+    const T inv = T(1) / wb;
     for (int64_t j = 0; j < q; ++j) {
-        T e = blk.mean[j] * inv;
+        T c = centre[j], d1 = blk.mean[j];
+        if (!a.rawSums && a.order >= 2) {
+            // Raw sums around 0 from the sums around c, before the shift.
+            T d2 = blk.cen[0][j], d3 = a.order >= 3 ? blk.cen[1][j] : T(0);
+            T d4 = a.order >= 4 ? blk.cen[2][j] : T(0);
+            T c2 = c * c;
+            blk.raw[0][j] = (wb * c2 + T(2) * c * d1 + d2) * inv;
+            if (a.order >= 3)
+                blk.raw[1][j] = (wb * c2 * c + T(3) * c2 * d1 + T(3) * c * d2 + d3) * inv;
+            if (a.order >= 4)
+                blk.raw[2][j] =
+                    (wb * c2 * c2 + T(4) * c2 * c * d1 + T(6) * c2 * d2 + T(4) * c * d3 + d4) * inv;
+        }
+        T e = d1 * inv;
         delta[j] = e;
-        T s2 = blk.cen[0][j], s3 = blk.cen[1][j], s4 = blk.cen[2][j];
-        if (a.order >= 4)
-            blk.cen[2][j] = s4 - T(4) * e * s3 + T(6) * e * e * s2 - T(3) * wb * e * e * e * e;
-        if (a.order >= 3) blk.cen[1][j] = s3 - T(3) * e * s2 + T(2) * wb * e * e * e;
-        if (a.order >= 2) blk.cen[0][j] = s2 - wb * e * e;
-        blk.mean[j] = centre[j] + e;
+        ShiftCentre(blk, a.order, j, e, wb);
+        blk.mean[j] = c + e;
     }
     if (a.matrix) {
-        if (varRows)
-            CentredCopy<T, true>(x, ld, i0, i1, q, w, centre, copy, copyW);
-        else
-            CentredCopy<T, false>(x, ld, i0, i1, q, w, centre, copy, copyW);
+        if (!fused)
+            CentredCopyIn<T, false>(varRows, x, ld, i0, i1, q, w, centre, copy, copyW, nullptr);
         int rows = static_cast<int>(i1 - i0);
         if (weighted)
             Gemm(static_cast<int>(q), rows, copy, copyW, s.cross);

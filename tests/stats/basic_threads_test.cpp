@@ -78,7 +78,9 @@ TEST(StatsBasicThreads, FloatOnATeamOfFour) {
         Results<float> alone, pooled;
         ASSERT_EQ(RunCase(c, BRENN_SS_METHOD_ONE_PASS_B, nullptr, 1, alone), 0);
         ASSERT_EQ(RunCase(c, BRENN_SS_METHOD_ONE_PASS_B, &kFour, 1, pooled), 0);
-        ExpectSame(alone, pooled, 1e-5, "float");
+        // Two float computations differ by their own roundings: both are held to numpy.
+        ExpectMatches(c, alone, 1e-5, 1e-5, false, "float alone");
+        ExpectMatches(c, pooled, 1e-5, 1e-5, false, "float on four threads");
     }
 }
 
