@@ -141,7 +141,7 @@ BRENN_EXPORT BrngRecord* __qesGetBrngBaseOffset(int32_t id, int32_t* family, int
 
 BRENN_EXPORT int32_t __qesIsBrngValid(const BrngRecord* table, int32_t family, int32_t member) {
     if (table == __RegBrngs) return family < kLegacyRowLimit ? 0 : QES_RNG_STATUS_BAD_BRNG;
-    if (family >= RegisteredCount) return QES_RNG_STATUS_BAD_BRNG;
+    if (family < 0 || family >= RegisteredCount) return QES_RNG_STATUS_BAD_BRNG;
     return member < RegisteredMembers[family] ? 0 : QES_RNG_STATUS_BAD_BRNG;
 }
 

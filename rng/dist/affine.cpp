@@ -3,6 +3,7 @@
 // then adds then bounds, in that order, so the split does not change a result.
 #include <emmintrin.h>
 #include <stdint.h>
+#include <string.h>
 
 #include "rng/dist/frame.h"
 
@@ -44,9 +45,13 @@ inline T ScalarMax(T x, T m) {
 template <typename T, bool Bounded>
 void Pass(int32_t n, T* r, T scale, T shift, T floor) {
     using L = Lanes<T>;
+    // Element by element through memcpy, since the array need not be element-aligned.
     auto one = [&](int32_t i) {
-        T v = r[i] * scale + shift;
-        r[i] = Bounded ? ScalarMax(v, floor) : v;
+        T v;
+        memcpy(&v, r + i, sizeof v);
+        v = v * scale + shift;
+        if (Bounded) v = ScalarMax(v, floor);
+        memcpy(r + i, &v, sizeof v);
     };
     int32_t i = 0;
     uintptr_t address = reinterpret_cast<uintptr_t>(r);

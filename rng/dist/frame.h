@@ -8,10 +8,8 @@
 #include <stdint.h>
 
 #include "brenn_types.h"
-#include "frame/context.h"
 #include "frame/dispatch.h"
 #include "frame/fpenv.h"
-#include "frame/mode.h"
 
 namespace brenn::rng {
 
@@ -62,28 +60,20 @@ struct ErrorFrame {
     ErrorCallback savedCallback;
 };
 
-inline ErrorFrame ErrorModeEnter(ErrorCallback sentinel) {
-    frame::ThreadContext* c = frame::GetThreadContext();
-    ErrorFrame f{frame::ThreadMode(c), c->errorCallback};
-    frame::SetMode(kDistErrorMode);
-    c->errorCallback = sentinel;
-    return f;
-}
+ErrorFrame ErrorModeEnter(ErrorCallback sentinel);
+void ErrorModeLeave(const ErrorFrame& f);
 
-inline void ErrorModeLeave(const ErrorFrame& f) {
-    frame::ThreadContext* c = frame::GetThreadContext();
-    c->errorCallback = f.savedCallback; // callback first, the mode word after it
-    c->mode = f.savedMode;
-}
+// The kernel bracket: the denormal field fixed for one kernel call, the whole mode
+// word back afterwards.
+uint32_t BracketEnter();
+void BracketLeave(uint32_t saved);
 
-// A kernel call with the denormal field fixed, repeated around every call.
+// A kernel call in its bracket, repeated around every call.
 template <typename Kernel, typename... Args>
 inline void Bracketed(Kernel kernel, Args... args) {
-    frame::ThreadContext* c = frame::GetThreadContext();
-    uint32_t old = frame::ThreadMode(c);
-    frame::SetMode(kKernelDenormalMode);
+    uint32_t saved = BracketEnter();
     kernel(args...);
-    c->mode = old;
+    BracketLeave(saved);
 }
 
 // r[i] = r[i] * scale + shift, then at least `floor` when one is given: a scalar peel
