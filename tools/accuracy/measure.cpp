@@ -591,12 +591,13 @@ struct RowRun {
                 mpfr_set(r[i * K], mpc_realref(cr), MPFR_RNDN);
                 if (ky == 2) mpfr_set(r[i * K + 1], mpc_imagref(cr), MPFR_RNDN);
             } else if (shape == Shape::LinFrac) {
-                // the composition as written, rounded at each step: the kernel's contract
+                // the composition as written, rounded at each step: the kernel's contract;
+                // a zero scale makes its part a constant, whatever the vector holds there
                 const R* s = Scalars(i);
                 volatile R num = s[0] * A[i];
-                num = num + s[1];
+                num = s[0] == 0 ? s[1] : num + s[1];
                 volatile R den = s[2] * B[i];
-                den = den + s[3];
+                den = s[2] == 0 ? s[3] : den + s[3];
                 FT<R>::Set(r[i], num / den);
             } else if (shape == Shape::Binary || shape == Shape::Powx) {
                 FT<R>::Set(a, A[i]);

@@ -74,8 +74,8 @@ void LibmPowx(int n, const float* a, float b, float* y) {
 }
 void PlainLinearFrac(int n, const double* a, const double* b, double sa, double ha, double sb,
                      double hb, double* y) {
-    for (int i = 0; i < n; ++i)
-        y[i] = (sa * a[i] + ha) / (sb * b[i] + hb);
+    for (int i = 0; i < n; ++i) // a zero scale drops its vector, as the row's loops do
+        y[i] = (sa == 0 ? ha : sa * a[i] + ha) / (sb == 0 ? hb : sb * b[i] + hb);
 }
 void LibmCExp(int n, const BrennComplex16* a, BrennComplex16* y) {
     for (int i = 0; i < n; ++i) {
