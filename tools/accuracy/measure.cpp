@@ -323,6 +323,11 @@ R MinMag(R a, R b) {
     return fmin(a, b);
 }
 
+template <class R>
+R ZeroWithSignOf(R r, R a) {
+    return r == 0 ? copysign(R(0), a) : r;
+}
+
 // Exact reference of one element; second receives Modf's fraction.
 template <class R>
 R NativeExact(Ref ref, R a, R b, R* second) {
@@ -371,9 +376,11 @@ R NativeExact(Ref ref, R a, R b, R* second) {
     case Ref::MinMag:
         return MinMag(a, b);
     case Ref::Remainder:
-        return remainder(a, b);
+        // a zero remainder has the sign of a (IEEE 754); glibc loses it for some
+        // denormal divisors
+        return ZeroWithSignOf(remainder(a, b), a);
     case Ref::Fmod:
-        return fmod(a, b);
+        return ZeroWithSignOf(fmod(a, b), a);
     case Ref::Modf: {
         R ip;
         *second = modf(a, &ip);
