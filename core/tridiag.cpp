@@ -1,8 +1,9 @@
 // Tridiagonal solvers: Gaussian elimination with partial pivoting between neighbouring
 // rows, in one pass (factor and solve) or as a factorization kept for many right-hand
-// sides. Our own rather than LAPACK's: the spline systems are small to medium and a
-// call into LAPACK costs more than the elimination itself at those sizes (see the
-// fitting benchmark's tridiagonal lines).
+// sides. Our own rather than LAPACK's dgtsv/dgttrf/dgttrs: the fitting benchmark's
+// tridiagonal lines time both as equal within noise from 16 to 10^5 rows, and ours
+// takes 64-bit sizes (LAPACK's are 32-bit) and has single-precision forms that stay
+// in float.
 #include <cmath>
 
 #include "platform/tridiag.h"
