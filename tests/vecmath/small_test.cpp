@@ -235,6 +235,9 @@ TEST(SmallKernels, FmodAndRemainderReportOnlyTheSingularCases) {
             EXPECT_EQ(StatusOf(row.c_str(), x, 0.0f, &y), 0) << row;
     }
     // The report carries the row's public name and the element's index.
+    // The record's input-vector pointer is not cleared at creation: set it, so that the
+    // index counts from this call's vector.
+    brenn_zar_kernel_SetInterfInputVectorPointer(nullptr);
     brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_CALLBACK);
     static int index;
     static char name[32];
