@@ -213,3 +213,35 @@ TEST(StatsMinmax, AccumulatesOverBlocksWithIndicesAndSkipsNaN) {
 
 } // namespace
 } // namespace brenn::test
+
+namespace brenn::test {
+namespace {
+
+// With an index width of 0 every integer word is 32 bits: dimension, count, storage
+// words and indices. The estimates are those of the 64-bit task.
+TEST(StatsBasicBehaviour, ThirtyTwoBitWords) {
+    ReferenceCase c = RandomCase(4, 100, BRENN_SS_MATRIX_STORAGE_ROWS, false, 6);
+    c.hasIndices = true;
+    c.indices = {1, 0, 1, 1};
+    Results<double> wide;
+    ASSERT_EQ(RunCase(c, BRENN_SS_METHOD_ONE_PASS_B, nullptr, 1, wide), 0);
+    int32_t p = 4, n = 100, storage = BRENN_SS_MATRIX_STORAGE_ROWS, upper = 1;
+    int32_t indices[4] = {1, 0, 1, 1};
+    std::vector<double> mean(4, kUntouched), cov(10, kUntouched);
+    void* task = nullptr;
+    ASSERT_EQ(_qesdSSNewTask(&task, &p, &n, &storage, c.x.data(), nullptr, indices, 0), 0);
+    __qesdSSEditCovCor(task, mean.data(), cov.data(), &upper, nullptr, nullptr);
+    ASSERT_EQ(_qesdSSBasic(task, BRENN_SS_MEAN | BRENN_SS_COV, BRENN_SS_METHOD_ONE_PASS_B, nullptr),
+              0);
+    for (int j = 0; j < 4; ++j) {
+        EXPECT_NEAR(mean[j], wide.vectors[0][j], 1e-13 * std::fabs(wide.vectors[0][j]));
+        for (int l = j; l < 4; ++l)
+            EXPECT_NEAR(cov[FullIndex(1, 4, j, l)], wide.cov[j * 4 + l],
+                        j == 1 || l == 1 ? 0.0 : 1e-13 * std::fabs(wide.cov[j * 4 + l]))
+                << j << "," << l;
+    }
+    _qesSSDeleteTask(&task);
+}
+
+} // namespace
+} // namespace brenn::test
