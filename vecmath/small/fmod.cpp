@@ -1,10 +1,11 @@
 /* Fmod and Remainder, single and double: one kernel for all levels, exact results.
  *
- * The vector body covers the lanes whose result is a itself: |a| below |b| for Fmod
- * (b may be infinite), |b| above 2|a| for Remainder, with neither operand a NaN. Every
- * other lane goes to the scalar routine, which works on the integer significands and
- * never divides: a shift-and-subtract long division over the exponent difference,
- * keeping the last quotient bit for Remainder's round-to-even. A zero b or an infinite
+ * The single body works in double, where the remainder of a quotient below 2^24 is
+ * exact (see WideRemainder). The double body covers the lanes whose result is a
+ * itself: |a| below |b| for Fmod (b may be infinite), |b| above 2|a| for Remainder,
+ * with neither operand a NaN. Every other lane goes to the scalar routine, which works on the
+ * integer significands and never divides: a shift-and-subtract long division over the exponent
+ * difference, keeping the last quotient bit for Remainder's round-to-even. A zero b or an infinite
  * a gives NaN with status 2 (singularity: these domain cases report as such); a NaN
  * operand gives a NaN without report. */
 #include "frame/kernels.h"
@@ -222,6 +223,52 @@ inline typename Simd<T>::V KeepsA(typename Simd<T>::V a, typename Simd<T>::V b) 
     return Sd::FromInt(bad);
 }
 
+// The single body in double arithmetic, for quotients |a|/|b| below 2^24. A quotient
+// that is not an integer stays at least 2^-24 from one (|a| - k|b| is a multiple of
+// |b|'s last place), far beyond the 2^-29 that rounding to double moves a quotient
+// below 2^24, so q = trunc(|a|/|b|) is the true integer part; q*|b| has at most 48
+// bits and r = |a| - q*|b| lies in [0, |b|) on |b|'s grid: both exact. Remainder then
+// takes r - |b| past half of |b|, or at half when the quotient is odd. The result is
+// on the single grid, so the narrowing is exact, and gets a's sign.
+template <bool Rem>
+inline __m128d WideRemainder(__m128d x, __m128d y, __m128d& big) {
+    __m128d d = _mm_div_pd(x, y);
+    big = _mm_cmpge_pd(d, _mm_set1_pd(16777216.0));
+    __m128d q = _mm_round_pd(d, 0xB); // toward zero, no inexact flag
+    __m128d r = _mm_sub_pd(x, _mm_mul_pd(q, y));
+    if constexpr (Rem) {
+        __m128d half = _mm_mul_pd(q, _mm_set1_pd(0.5));
+        __m128d odd = _mm_cmpneq_pd(_mm_round_pd(half, 0xB), half);
+        __m128d twice = _mm_add_pd(r, r);
+        __m128d up = _mm_or_pd(_mm_cmpgt_pd(twice, y), _mm_and_pd(_mm_cmpeq_pd(twice, y), odd));
+        r = _mm_sub_pd(r, _mm_and_pd(up, y));
+    }
+    return r;
+}
+
+// Special lanes: a not finite, b zero, infinite or NaN, or a quotient of 2^24 or more.
+template <bool Rem>
+inline __m128 WideBodyS(__m128 a, __m128 b, __m128& special) {
+    using Sd = Simd<float>;
+    __m128i abs = _mm_set1_epi32(0x7FFFFFFF), inf = _mm_set1_epi32(0x7F800000);
+    __m128i ax = _mm_and_si128(Sd::AsInt(a), abs), ay = _mm_and_si128(Sd::AsInt(b), abs);
+    __m128i bad =
+        _mm_or_si128(_mm_cmpeq_epi32(ay, _mm_setzero_si128()),
+                     _mm_or_si128(_mm_cmpgt_epi32(ay, _mm_sub_epi32(inf, _mm_set1_epi32(1))),
+                                  _mm_cmpgt_epi32(ax, _mm_sub_epi32(inf, _mm_set1_epi32(1)))));
+    // Bad lanes compute 0 / 1, so the arithmetic raises nothing for them.
+    __m128 xf = _mm_andnot_ps(Sd::FromInt(bad), Sd::FromInt(ax));
+    __m128 yf = Sd::Blend(Sd::FromInt(ay), _mm_set1_ps(1.0f), Sd::FromInt(bad));
+    __m128d big0, big1;
+    __m128d r0 = WideRemainder<Rem>(_mm_cvtps_pd(xf), _mm_cvtps_pd(yf), big0);
+    __m128d r1 = WideRemainder<Rem>(_mm_cvtps_pd(_mm_movehl_ps(xf, xf)),
+                                    _mm_cvtps_pd(_mm_movehl_ps(yf, yf)), big1);
+    __m128 big = _mm_shuffle_ps(_mm_castpd_ps(big0), _mm_castpd_ps(big1), _MM_SHUFFLE(2, 0, 2, 0));
+    special = _mm_or_ps(Sd::FromInt(bad), big);
+    __m128 r = _mm_movelh_ps(_mm_cvtpd_ps(r0), _mm_cvtpd_ps(r1));
+    return _mm_xor_ps(r, _mm_and_ps(a, SignMask<float>()));
+}
+
 template <class Tp>
 struct FmodBody {
     using T = Tp;
@@ -229,8 +276,12 @@ struct FmodBody {
     static constexpr const char* kName =
         sizeof(T) == 4 ? ZAR_ERROR_NAME(sFmod) : ZAR_ERROR_NAME(dFmod);
     static V Eval(V a, V b, V& special) {
-        special = KeepsA<T, false>(a, b);
-        return a;
+        if constexpr (sizeof(T) == 4) {
+            return WideBodyS<false>(a, b, special);
+        } else {
+            special = KeepsA<T, false>(a, b);
+            return a;
+        }
     }
     static int Scalar(const T* a, const T* b, T* y) { return FmodScalar(a, b, y); }
 };
@@ -242,8 +293,12 @@ struct RemainderBody {
     static constexpr const char* kName =
         sizeof(T) == 4 ? ZAR_ERROR_NAME(sRemainder) : ZAR_ERROR_NAME(dRemainder);
     static V Eval(V a, V b, V& special) {
-        special = KeepsA<T, true>(a, b);
-        return a;
+        if constexpr (sizeof(T) == 4) {
+            return WideBodyS<true>(a, b, special);
+        } else {
+            special = KeepsA<T, true>(a, b);
+            return a;
+        }
     }
     static int Scalar(const T* a, const T* b, T* y) { return RemainderScalar(a, b, y); }
 };
