@@ -47,9 +47,13 @@ function(brenn_add_kernel_library)
   target_link_libraries(brenn_sse42 PRIVATE brenn_core Threads::Threads ${CMAKE_DL_LIBS} m
                         ${LAPACK_LIBRARIES} ${BLAS_LIBRARIES})
 
-  # The same objects as a static archive, for tests that reach internal functions.
-  add_library(brenn_sse42_static STATIC $<TARGET_OBJECTS:brenn_sse42_objects>)
-  target_include_directories(brenn_sse42_static PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
-  target_link_libraries(brenn_sse42_static PUBLIC brenn_core Threads::Threads ${CMAKE_DL_LIBS} m
+  # The same objects linked straight into a program, for tests and tools that reach
+  # internal functions. Objects, not an archive: the table's weak references to
+  # kernels and generators would not pull members out of an archive.
+  add_library(brenn_sse42_static INTERFACE)
+  target_sources(brenn_sse42_static INTERFACE $<TARGET_OBJECTS:brenn_sse42_objects>)
+  add_dependencies(brenn_sse42_static brenn_sse42_objects)
+  target_include_directories(brenn_sse42_static INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
+  target_link_libraries(brenn_sse42_static INTERFACE brenn_core Threads::Threads ${CMAKE_DL_LIBS} m
                         ${LAPACK_LIBRARIES} ${BLAS_LIBRARIES})
 endfunction()

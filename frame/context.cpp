@@ -10,7 +10,7 @@
 namespace brenn::frame {
 
 std::atomic<uint32_t> contextTlsIndex{process::kNoSlot};
-thread_local ThreadContext* cachedContext __attribute__((tls_model("initial-exec"))) = nullptr;
+__thread ThreadContext* cachedContext __attribute__((tls_model("initial-exec"))) = nullptr;
 
 namespace {
 

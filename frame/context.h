@@ -29,7 +29,7 @@ extern std::atomic<uint32_t> contextTlsIndex;
 // The calling thread's record as last found in its slot: a thread-local copy of the
 // slot's value, so that the hot path reads it without a library call. It is set
 // whenever the slot is set and cleared whenever the record is freed.
-extern thread_local ThreadContext* cachedContext __attribute__((tls_model("initial-exec")));
+extern __thread ThreadContext* cachedContext __attribute__((tls_model("initial-exec")));
 
 ThreadContext* GetThreadContextSlow();
 
