@@ -187,7 +187,7 @@ int32_t Basic(void* handle, uint64_t estimates, uint64_t method, const threader*
     int64_t* act = static_cast<int64_t*>(memory);
     int64_t q = ActiveVariables(task, p, act);
     MomentState<T> s;
-    T* tmp = LayOutState(s, reinterpret_cast<T*>(act + p), q, matrix);
+    T* tmp = LayOutState(s, reinterpret_cast<T*>(act + p), q, matrix, false);
     memset(reinterpret_cast<void*>(s.mean), 0, (tmp - s.mean) * sizeof(T));
     T* aw = static_cast<T*>(task->accumWeight);
     if (aw != nullptr && aw[0] > 0) {

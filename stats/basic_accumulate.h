@@ -256,18 +256,19 @@ void AccumulateShare(const Accumulation<T>& a, int64_t i0, int64_t i1, MomentSta
     const int64_t q = a.q;
     const bool weighted = a.w != nullptr;
     const int64_t rows = a.blocked ? BlockRows(q, weighted) : kOnePassRows;
-    // scratch: work/centre q, delta q, block state 7q (+ q * q on the one-pass path),
-    // gathered rows, centred copies
+    // scratch: work/centre, delta, block state (with a matrix on the one-pass path),
+    // gathered rows, centred copies; the vectors and states on 64-byte boundaries
+    const int64_t stride = PadTo64Bytes(q);
     T* work = scratch;
-    T* delta = work + q;
+    T* delta = work + stride;
     MomentState<T> blk;
-    T* gather = LayOutState(blk, delta + q, q, a.matrix && !a.blocked);
+    T* gather = LayOutState(blk, delta + stride, q, a.matrix && !a.blocked, true);
     T* copy = gather + (a.compact ? rows * q : 0);
     T* copyW = weighted ? copy + rows * q : nullptr;
 
     const BasicKernel<T>* table = BasicKernels<T>();
     const BasicKernel<T> onePass = table[OnePassIndex(a.matrix, a.order, weighted, a.variableRows)];
-    const size_t stateBytes = (gather - (delta + q)) * sizeof(T);
+    const size_t stateBytes = (gather - (delta + stride)) * sizeof(T);
     for (int64_t b0 = i0; b0 < i1;) {
         int64_t b1 = i1 - b0 > rows ? b0 + rows : i1;
         const T* x = a.x;
@@ -299,10 +300,10 @@ int64_t ShareScratchElements(const Accumulation<T>& a) {
     const int64_t q = a.q;
     const bool weighted = a.w != nullptr;
     const int64_t rows = a.blocked ? BlockRows(q, weighted) : kOnePassRows;
-    int64_t state = 7 * q + (a.matrix ? q * q : 0);
-    int64_t scratch = 9 * q + (a.compact ? rows * q : 0);
+    int64_t state = StateElements(q, a.matrix, true);
+    int64_t scratch = 2 * PadTo64Bytes(q) + StateElements(q, a.matrix && !a.blocked, true) +
+                      (a.compact ? rows * q : 0);
     if (a.blocked && a.matrix) scratch += rows * q * (weighted ? 2 : 1);
-    if (!a.blocked && a.matrix) scratch += q * q;
     return state + scratch;
 }
 
@@ -330,7 +331,7 @@ void ShareWorker(int thread, int team, void* context) {
     }
     a.memory[thread] = memory;
     MomentState<T>& s = a.shares[thread];
-    T* scratch = LayOutState(s, memory, a.q, a.matrix);
+    T* scratch = LayOutState(s, memory, a.q, a.matrix, true);
     memset(memory, 0, bytes);
     AccumulateShare(a, i0, i1, s, scratch);
 }

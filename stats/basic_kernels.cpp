@@ -1,6 +1,7 @@
 // The 64 accumulation kernels of the basic compute in both precisions; the layout of
 // the tables is told in basic_kernels.h.
 #include "stats/basic_kernels.h"
+#include "stats/four.h"
 
 #include <utility>
 
@@ -79,34 +80,38 @@ void OnePass(const T* x, int64_t ld, int64_t i0, int64_t i1, int64_t j0, int64_t
 template <typename T, int kM, bool kW>
 inline void SumsAlong(const T* __restrict xj, const T* __restrict w, int64_t i0, int64_t i1,
                       T centre, T* out) {
-    double acc[4][4] = {};
+    const FourD c = SplatD(centre);
+    FourD acc[4];
+    for (int k = 0; k < 4; ++k)
+        acc[k] = SplatD(0);
     int64_t i = i0;
-    for (; i + 4 <= i1; i += 4)
-        for (int u = 0; u < 4; ++u) {
-            double dv = xj[i + u] - centre;
-            double p = kW ? w[i + u] * dv : dv;
-            acc[0][u] += p;
-            if (kM >= 1) acc[1][u] += (p *= dv);
-            if (kM >= 2) acc[2][u] += (p *= dv);
-            if (kM >= 3) acc[3][u] += (p *= dv);
-        }
+    for (; i + 4 <= i1; i += 4) {
+        FourD dv = Four<T>::Wide(xj + i) - c;
+        FourD p = kW ? Four<T>::Wide(w + i) * dv : dv;
+        acc[0] = acc[0] + p;
+        if (kM >= 1) acc[1] = acc[1] + (p = p * dv);
+        if (kM >= 2) acc[2] = acc[2] + (p = p * dv);
+        if (kM >= 3) acc[3] = acc[3] + (p = p * dv);
+    }
+    double tail[4] = {0, 0, 0, 0};
     for (; i < i1; ++i) {
-        double dv = xj[i] - centre;
+        double dv = double(xj[i]) - double(centre);
         double p = kW ? w[i] * dv : dv;
-        acc[0][0] += p;
-        if (kM >= 1) acc[1][0] += (p *= dv);
-        if (kM >= 2) acc[2][0] += (p *= dv);
-        if (kM >= 3) acc[3][0] += (p *= dv);
+        tail[0] += p;
+        if (kM >= 1) tail[1] += (p *= dv);
+        if (kM >= 2) tail[2] += (p *= dv);
+        if (kM >= 3) tail[3] += (p *= dv);
     }
     for (int k = 0; k <= kM; ++k)
-        out[k] = static_cast<T>((acc[k][0] + acc[k][1]) + (acc[k][2] + acc[k][3]));
+        out[k] = static_cast<T>(SumLanes(acc[k]) + tail[k]);
 }
 
 // The same for the layout with one observation contiguous: the variables are the
-// inner loop, four a turn.
-template <typename T, int kM, bool kW, bool kC>
+// inner loop, four a turn, on result arrays (and centre) on a 64-byte boundary or not.
+template <typename T, int kM, bool kW, bool kC, bool kAligned>
 inline void SumsAcross(const T* x, int64_t ld, const T* w, int64_t i0, int64_t i1, int64_t j0,
                        int64_t j1, const T* centre, T* const out[4]) {
+    using F = Four<T>;
     T* __restrict o0 = out[0];
     T* __restrict o1 = out[1];
     T* __restrict o2 = out[2];
@@ -117,19 +122,27 @@ inline void SumsAcross(const T* x, int64_t ld, const T* w, int64_t i0, int64_t i
         if (kM >= 2) o2[j] = 0;
         if (kM >= 3) o3[j] = 0;
     }
+    const typename F::V zero = F::Splat(T(0));
     for (int64_t i = i0; i < i1; ++i) {
         const T* __restrict row = x + i * ld;
         T wi = kW ? w[i] : T(1);
+        const typename F::V wv = F::Splat(wi);
         int64_t j = j0;
-        for (; j + 4 <= j1; j += 4)
-            for (int u = 0; u < 4; ++u) {
-                T dv = row[j + u] - (kC ? centre[j + u] : T(0));
-                T p = kW ? wi * dv : dv;
-                o0[j + u] += p;
-                if (kM >= 1) o1[j + u] += (p *= dv);
-                if (kM >= 2) o2[j + u] += (p *= dv);
-                if (kM >= 3) o3[j + u] += (p *= dv);
-            }
+        for (; j + 4 <= j1; j += 4) {
+            typename F::V dv = F::template Load<false>(row + j) -
+                               (kC ? F::template Load<kAligned>(centre + j) : zero);
+            typename F::V p = kW ? wv * dv : dv;
+            F::template Store<kAligned>(o0 + j, F::template Load<kAligned>(o0 + j) + p);
+            if (kM >= 1)
+                F::template Store<kAligned>(o1 + j,
+                                            F::template Load<kAligned>(o1 + j) + (p = p * dv));
+            if (kM >= 2)
+                F::template Store<kAligned>(o2 + j,
+                                            F::template Load<kAligned>(o2 + j) + (p = p * dv));
+            if (kM >= 3)
+                F::template Store<kAligned>(o3 + j,
+                                            F::template Load<kAligned>(o3 + j) + (p = p * dv));
+        }
         for (; j < j1; ++j) {
             T dv = row[j] - (kC ? centre[j] : T(0));
             T p = kW ? wi * dv : dv;
@@ -152,7 +165,15 @@ void BlockSums(const T* x, int64_t ld, int64_t i0, int64_t i1, int64_t j0, int64
                 out[k][j] = sums[k];
         }
     } else {
-        SumsAcross<T, kM, kW, kC>(x, ld, w, i0, i1, j0, j1, centre, out);
+        // The result arrays of the library's own states start on 64-byte boundaries;
+        // the other version serves any other caller.
+        bool aligned = j0 == 0 && (!kC || On64Bytes(centre));
+        for (int k = 0; k <= kM; ++k)
+            aligned = aligned && On64Bytes(out[k]);
+        if (aligned)
+            SumsAcross<T, kM, kW, kC, true>(x, ld, w, i0, i1, j0, j1, centre, out);
+        else
+            SumsAcross<T, kM, kW, kC, false>(x, ld, w, i0, i1, j0, j1, centre, out);
     }
 }
 

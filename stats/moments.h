@@ -9,6 +9,7 @@
 #include <stdint.h>
 
 #include "platform/blas.h"
+#include "stats/four.h"
 
 namespace brenn::stats {
 
@@ -21,19 +22,27 @@ struct MomentState {
     T* cross;    // q x q, lower triangle column-major: (j, l), j >= l, at j + l * q
 };
 
-// Lays a state out over `memory`: 7 q elements, and q * q more with a matrix.
-// Returns the element after the last one used.
+// Lays a state out over `memory`: 7 arrays of q elements, and a q x q matrix. With
+// `padded` every array starts on a 64-byte boundary (when memory does), for the
+// aligned versions of the kernels. Returns the element after the last one used.
 template <typename T>
-T* LayOutState(MomentState<T>& s, T* memory, int64_t q, bool matrix) {
+T* LayOutState(MomentState<T>& s, T* memory, int64_t q, bool matrix, bool padded) {
+    const int64_t stride = padded ? PadTo64Bytes(q) : q;
     s.weight[0] = s.weight[1] = 0;
     s.mean = memory;
     for (int k = 0; k < 3; ++k)
-        s.raw[k] = memory + (1 + k) * q;
+        s.raw[k] = memory + (1 + k) * stride;
     for (int k = 0; k < 3; ++k)
-        s.cen[k] = memory + (4 + k) * q;
-    T* end = memory + 7 * q;
+        s.cen[k] = memory + (4 + k) * stride;
+    T* end = memory + 7 * stride;
     s.cross = matrix ? end : nullptr;
-    return matrix ? end + q * q : end;
+    return matrix ? end + (padded ? PadTo64Bytes(q * q) : q * q) : end;
+}
+
+// Elements LayOutState uses.
+inline int64_t StateElements(int64_t q, bool matrix, bool padded) {
+    if (!padded) return 7 * q + (matrix ? q * q : 0);
+    return 7 * PadTo64Bytes(q) + (matrix ? PadTo64Bytes(q * q) : 0);
 }
 
 inline void Syr(int n, double alpha, const double* x, double* a) {
