@@ -61,9 +61,10 @@ BRENN_EXPORT int32_t _qesSSDeleteTask(void** handle) {
     if (handle == nullptr) return BRENN_SS_ERROR_TASK_NULL;
     SSTask* task = static_cast<SSTask*>(*handle);
     if (task->privateBuffer != nullptr) brenn_serv_deallocate(task->privateBuffer);
-    // The hooks free what compute functions left in the task (streaming summaries).
-    for (int32_t i = 0; i < task->cleanupCount; ++i)
-        if (task->cleanup != nullptr) task->cleanup(task);
+    // The hook frees what compute functions left in the task (streaming summaries). The
+    // record has one hook word, so a count above 1 still calls it once: a second call
+    // would free the same blocks again.
+    if (task->cleanupCount > 0 && task->cleanup != nullptr) task->cleanup(task);
     brenn_serv_deallocate(task);
     *handle = nullptr;
     return BRENN_SS_OK;

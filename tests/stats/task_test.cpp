@@ -7,6 +7,7 @@
 
 #include "brenn_stats.h"
 #include "platform/serv.h"
+#include "stats/task.h"
 #include "tests/support/support.h"
 
 namespace {
@@ -76,6 +77,32 @@ TEST(StatsDeleteTask, NullAddressAndHandleCleared) {
     ASSERT_EQ(_qesdSSNewTask(&task, &p, nullptr, nullptr, nullptr, nullptr, nullptr, 0), 0);
     EXPECT_EQ(_qesSSDeleteTask(&task), 0);
     EXPECT_EQ(task, nullptr);
+    EXPECT_EQ(brenn_serv_live_allocations(), before);
+}
+
+int hookCalls = 0;
+void Hook(brenn::stats::SSTask* task) {
+    ++hookCalls;
+    brenn_serv_deallocate(task->streamState);
+    task->streamState = nullptr;
+}
+
+// What compute functions leave in a task goes with it: the private buffer, and what
+// the clean-up hook frees.
+TEST(StatsDeleteTask, FreesPrivateBufferAndRunsTheHook) {
+    int32_t p = 2;
+    void* handle = nullptr;
+    int64_t before = brenn_serv_live_allocations();
+    ASSERT_EQ(_qessSSNewTask(&handle, &p, nullptr, nullptr, nullptr, nullptr, nullptr, 0), 0);
+    auto* task = static_cast<brenn::stats::SSTask*>(handle);
+    EXPECT_EQ(task->taskTag, 2);
+    EXPECT_EQ(task->isDouble, 0);
+    task->privateBuffer = brenn_serv_allocate(64, 128);
+    task->streamState = brenn_serv_allocate(64, 128);
+    task->cleanup = Hook;
+    task->cleanupCount = 1;
+    EXPECT_EQ(_qesSSDeleteTask(&handle), 0);
+    EXPECT_EQ(hookCalls, 1);
     EXPECT_EQ(brenn_serv_live_allocations(), before);
 }
 
