@@ -57,7 +57,7 @@ int32_t Minmax(void* handle, uint64_t estimates, uint64_t method) {
     const bool wantMin = (estimates & BRENN_SS_MIN) != 0, wantMax = (estimates & BRENN_SS_MAX) != 0;
     if (wantMin && task->minimum == nullptr) return BRENN_SS_ERROR_MINIMUM_MISSING;
     if (wantMax && task->maximum == nullptr) return BRENN_SS_ERROR_MAXIMUM_MISSING;
-    if (method != BRENN_SS_METHOD_FAST && method != BRENN_SS_METHOD_ONE_PASS)
+    if ((method & (BRENN_SS_METHOD_FAST | BRENN_SS_METHOD_ONE_PASS)) == 0)
         return BRENN_SS_ERROR_METHOD;
     if (!wantMin && !wantMax) return BRENN_SS_OK;
     int64_t p = 0, n = 0;
