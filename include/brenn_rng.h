@@ -211,6 +211,12 @@ int32_t __qessBRngMCG59(void* stream, int32_t n, float* r, float a, float b);
 int32_t __qesdBRngMCG59(void* stream, int32_t n, double* r, double a, double b);
 int32_t __qesiBRngMCG59(void* stream, int32_t n, void* r);
 
+/* Mersenne Twister family. The state keeps raw (untempered) words. */
+int32_t __qesBRngMT19937InitStream(int32_t method, void* stream, int32_t n, const void* params);
+int32_t __qessBRngMT19937(void* stream, int32_t n, float* r, float a, float b);
+int32_t __qesdBRngMT19937(void* stream, int32_t n, double* r, double a, double b);
+int32_t __qesiBRngMT19937(void* stream, int32_t n, void* r);
+
 /* Distribution generators: method, stream, n, result, parameters. */
 int32_t _qessRngUniform(int32_t method, void* stream, int32_t n, float* r, float a, float b);
 int32_t _qesdRngUniform(int32_t method, void* stream, int32_t n, double* r, double a, double b);

@@ -1,0 +1,10 @@
+# Runs a table generator for one generator and compares its output with the
+# committed table.
+execute_process(COMMAND ${GEN} ${WHICH} ${OUT} RESULT_VARIABLE rc)
+if(NOT rc EQUAL 0)
+  message(FATAL_ERROR "generator failed: ${GEN} ${WHICH}")
+endif()
+execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${OUT} ${COMMITTED} RESULT_VARIABLE differ)
+if(NOT differ EQUAL 0)
+  message(FATAL_ERROR "${COMMITTED} differs from a fresh generation (${OUT})")
+endif()
