@@ -1,0 +1,258 @@
+/* Argument reduction shared by the trigonometric kernels, and the table evaluation it
+ * ends in.
+ *
+ * Large arguments are reduced in vector form, all lanes at once, so that one huge lane
+ * does not send its block to scalar code: each lane's biased exponent selects a window
+ * of the binary expansion of 1/pi (twoOverPiBits), the significand times that window is
+ * formed exactly with integer multiplications, and the product's top bits give x/(pi/64)
+ * modulo 128 (the index J) and the centred fraction. The result is sin(J pi/64 + r) by
+ * the table method with |r| <= pi/128; cosine is the same at J + 32.
+ *
+ * Single: 24-bit significand by a 96-bit window, in 16-bit limbs with 32-bit products
+ * (four lanes). Double: 53-bit significand by a 192-bit window, 32-bit words with 64-bit
+ * products (two lanes), the fraction kept to 128 bits as a high and a low double. */
+#ifndef BRENN_VECMATH_TRIG_REDUCE_H
+#define BRENN_VECMATH_TRIG_REDUCE_H
+
+#include <stdint.h>
+
+#include "vecmath/frame/simd.h"
+#include "vecmath/trig/tables.h"
+
+namespace brenn::vm::trig {
+
+constexpr double kPi64 = 0x1.921fb54442d18p-5; // pi/64 rounded
+constexpr double kPi64Lo = 0x1.1a62633145c07p-59;
+constexpr double k64OverPi = 0x1.45f306dc9c883p+4;
+constexpr double kShifterD = 6755399441055744.0; // 1.5 * 2^52
+constexpr float kShifterS = 12582912.0f;         // 1.5 * 2^23
+
+inline __m128i Lo16(__m128i v) {
+    return _mm_and_si128(v, _mm_set1_epi32(0xFFFF));
+}
+inline __m128i Hi16(__m128i v) {
+    return _mm_srli_epi32(v, 16);
+}
+
+// Two doubles from lanes 0-1 and 2-3 of a signed 32-bit vector.
+inline void IntToDouble(__m128i v, __m128d& d0, __m128d& d1) {
+    d0 = _mm_cvtepi32_pd(v);
+    d1 = _mm_cvtepi32_pd(_mm_srli_si128(v, 8));
+}
+
+// Reduction of four finite single magnitudes a (bits of |x|): J[k] = index mod 128 and
+// r (lanes 0-1 in r0, 2-3 in r1) with a = J pi/64 + r + 2 pi k, |r| <= pi/128.
+inline void LargeS(__m128 a, int32_t J[4], __m128d& r0, __m128d& r1) {
+    __m128i b = _mm_castps_si128(a);
+    __m128i e = _mm_srli_epi32(b, 23);
+    __m128i off = _mm_add_epi32(_mm_slli_epi32(e, 3), _mm_slli_epi32(e, 2)); // e * 12
+    const char* base = reinterpret_cast<const char*>(twoOverPiBits);
+    const uint32_t* row[4];
+    row[0] = reinterpret_cast<const uint32_t*>(base + _mm_extract_epi32(off, 0));
+    row[1] = reinterpret_cast<const uint32_t*>(base + _mm_extract_epi32(off, 1));
+    row[2] = reinterpret_cast<const uint32_t*>(base + _mm_extract_epi32(off, 2));
+    row[3] = reinterpret_cast<const uint32_t*>(base + _mm_extract_epi32(off, 3));
+    __m128i w[3]; // w[0] least significant
+    for (int k = 0; k < 3; ++k)
+        w[k] = _mm_set_epi32(int(row[3][2 - k]), int(row[2][2 - k]), int(row[1][2 - k]),
+                             int(row[0][2 - k]));
+    __m128i L[6];
+    for (int k = 0; k < 3; ++k) {
+        L[2 * k] = Lo16(w[k]);
+        L[2 * k + 1] = Hi16(w[k]);
+    }
+    __m128i m = _mm_or_si128(_mm_and_si128(b, _mm_set1_epi32(0x7FFFFF)), _mm_set1_epi32(0x800000));
+    __m128i ml = Lo16(m), mh = Hi16(m);
+    __m128i pl[6], ph[5];
+    for (int k = 0; k < 6; ++k)
+        pl[k] = _mm_mullo_epi32(ml, L[k]);
+    for (int k = 0; k < 5; ++k)
+        ph[k] = _mm_mullo_epi32(mh, L[k]);
+    // Columns of 16 bits with carries: digit k has weight 2^(16k).
+    __m128i d[6];
+    __m128i col = Lo16(pl[0]);
+    d[0] = Lo16(col);
+    __m128i carry = Hi16(col);
+    for (int k = 1; k < 6; ++k) {
+        col = _mm_add_epi32(_mm_add_epi32(Lo16(pl[k]), Hi16(pl[k - 1])), Lo16(ph[k - 1]));
+        if (k >= 2) col = _mm_add_epi32(col, Hi16(ph[k - 2]));
+        col = _mm_add_epi32(col, carry);
+        d[k] = Lo16(col);
+        carry = Hi16(col);
+    }
+    // Product bits 95..89 are x/(pi/64) mod 128; bits 88..25, read as a signed 64-bit
+    // number, the fraction centred on zero (bit 88 set means the next index up).
+    __m128i hi = _mm_or_si128(_mm_or_si128(_mm_slli_epi32(d[5], 23), _mm_slli_epi32(d[4], 7)),
+                              _mm_srli_epi32(d[3], 9));
+    __m128i lo = _mm_or_si128(_mm_or_si128(_mm_slli_epi32(d[3], 23), _mm_slli_epi32(d[2], 7)),
+                              _mm_srli_epi32(d[1], 9));
+    __m128i j = _mm_add_epi32(_mm_srli_epi32(d[5], 9),
+                              _mm_and_si128(_mm_srli_epi32(d[5], 8), _mm_set1_epi32(1)));
+    j = _mm_and_si128(j, _mm_set1_epi32(127));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(J), j);
+    __m128d h0, h1, l0, l1;
+    IntToDouble(hi, h0, h1);
+    IntToDouble(_mm_xor_si128(lo, _mm_set1_epi32(int(0x80000000u))), l0, l1);
+    const __m128d two31 = _mm_set1_pd(2147483648.0), two32 = _mm_set1_pd(4294967296.0);
+    const __m128d scale = _mm_set1_pd(0x1p-64 * kPi64);
+    r0 = _mm_mul_pd(_mm_add_pd(_mm_mul_pd(h0, two32), _mm_add_pd(l0, two31)), scale);
+    r1 = _mm_mul_pd(_mm_add_pd(_mm_mul_pd(h1, two32), _mm_add_pd(l1, two31)), scale);
+}
+
+// Exact product of two doubles (Dekker, without fused operations): p + e = a * b.
+inline void TwoProd(__m128d a, __m128d b, __m128d& p, __m128d& e) {
+    const __m128d split = _mm_set1_pd(134217729.0); // 2^27 + 1
+    p = _mm_mul_pd(a, b);
+    __m128d ta = _mm_mul_pd(a, split), tb = _mm_mul_pd(b, split);
+    __m128d ah = _mm_sub_pd(ta, _mm_sub_pd(ta, a)), al = _mm_sub_pd(a, ah);
+    __m128d bh = _mm_sub_pd(tb, _mm_sub_pd(tb, b)), bl = _mm_sub_pd(b, bh);
+    e = _mm_add_pd(_mm_add_pd(_mm_sub_pd(_mm_mul_pd(ah, bh), p), _mm_mul_pd(ah, bl)),
+                   _mm_add_pd(_mm_mul_pd(al, bh), _mm_mul_pd(al, bl)));
+}
+
+// Reduction of two finite double magnitudes: J[k] mod 128 and r = rh + rl, |r| <= pi/128.
+inline void LargeD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl) {
+    alignas(16) uint64_t bits[2];
+    _mm_store_si128(reinterpret_cast<__m128i*>(bits), _mm_castpd_si128(a));
+    const uint32_t* row0 = twoOverPiBits64[bits[0] >> 52];
+    const uint32_t* row1 = twoOverPiBits64[bits[1] >> 52];
+    __m128i w[6]; // w[0] least significant, one word in the low half of each 64-bit lane
+    for (int k = 0; k < 6; ++k)
+        w[k] = _mm_set_epi64x(row1[5 - k], row0[5 - k]);
+    __m128i m = _mm_or_si128(_mm_and_si128(_mm_castpd_si128(a), _mm_set1_epi64x(0xFFFFFFFFFFFFFll)),
+                             _mm_set1_epi64x(0x10000000000000ll));
+    __m128i ml = m, mh = _mm_srli_epi64(m, 32); // mul_epu32 reads the low 32 bits
+    const __m128i low32 = _mm_set1_epi64x(0xFFFFFFFFll);
+    __m128i pl[6], ph[6];
+    for (int k = 0; k < 6; ++k) {
+        pl[k] = _mm_mul_epu32(ml, w[k]);
+        ph[k] = _mm_mul_epu32(mh, w[k]);
+    }
+    // Columns of 32 bits: digit k has weight 2^(32k).
+    __m128i d[6];
+    __m128i carry = _mm_setzero_si128();
+    for (int k = 0; k < 6; ++k) {
+        __m128i col = _mm_add_epi64(_mm_and_si128(pl[k], low32), carry);
+        if (k >= 1)
+            col = _mm_add_epi64(
+                col, _mm_add_epi64(_mm_srli_epi64(pl[k - 1], 32), _mm_and_si128(ph[k - 1], low32)));
+        if (k >= 2) col = _mm_add_epi64(col, _mm_srli_epi64(ph[k - 2], 32));
+        d[k] = _mm_and_si128(col, low32);
+        carry = _mm_srli_epi64(col, 32);
+    }
+    // Bits 191..185: index mod 128; bits 184..121 (signed) and 120..57: the fraction.
+    __m128i hi = _mm_or_si128(_mm_or_si128(_mm_slli_epi64(d[5], 39), _mm_slli_epi64(d[4], 7)),
+                              _mm_srli_epi64(d[3], 25));
+    __m128i lo = _mm_or_si128(_mm_or_si128(_mm_slli_epi64(d[3], 39), _mm_slli_epi64(d[2], 7)),
+                              _mm_srli_epi64(d[1], 25));
+    __m128i j = _mm_add_epi64(_mm_srli_epi64(d[5], 25),
+                              _mm_and_si128(_mm_srli_epi64(d[5], 24), _mm_set1_epi64x(1)));
+    J[0] = _mm_cvtsi128_si32(j) & 127;
+    J[1] = _mm_extract_epi32(j, 2) & 127;
+    // hi as a double and its exact rest, plus lo: a 128-bit fraction as two doubles.
+    alignas(16) int64_t hv[2];
+    alignas(16) uint64_t lv[2];
+    _mm_store_si128(reinterpret_cast<__m128i*>(hv), hi);
+    _mm_store_si128(reinterpret_cast<__m128i*>(lv), lo);
+    alignas(16) double fh[2], fl[2];
+    for (int k = 0; k < 2; ++k) {
+        // Top 53 bits exactly (arithmetic shift: floor), the 11 below with lo.
+        fh[k] = double(hv[k] >> 11) * 2048.0;
+        fl[k] = double(hv[k] & 2047) + double(lv[k] >> 11) * 0x1p-53;
+    }
+    __m128d gh = _mm_load_pd(fh), gl = _mm_load_pd(fl);
+    // g = (gh + gl) 2^-64 turns; r = g * pi/64 in two parts.
+    __m128d s = _mm_add_pd(gh, gl);
+    gl = _mm_sub_pd(gl, _mm_sub_pd(s, gh));
+    gh = _mm_mul_pd(s, _mm_set1_pd(0x1p-64));
+    gl = _mm_mul_pd(gl, _mm_set1_pd(0x1p-64));
+    __m128d p, pe;
+    TwoProd(gh, _mm_set1_pd(kPi64), p, pe);
+    pe = _mm_add_pd(
+        pe, _mm_add_pd(_mm_mul_pd(gh, _mm_set1_pd(kPi64Lo)), _mm_mul_pd(gl, _mm_set1_pd(kPi64))));
+    rh = _mm_add_pd(p, pe);
+    rl = _mm_sub_pd(pe, _mm_sub_pd(rh, p));
+}
+
+// sin(J pi/64 + rh + rl) for |rh| <= pi/128 (rl much smaller) by the table: sin A cos r
+// + cos A sin r with short Taylor series; the result as a high part and a low part.
+inline void TableSin(const int32_t* J, __m128d rh, __m128d rl, __m128d& hi, __m128d& lo) {
+    const double* t0 = sinCosPi64[J[0] & 127];
+    const double* t1 = sinCosPi64[J[1] & 127];
+    __m128d q0 = _mm_loadu_pd(t0), q1 = _mm_loadu_pd(t1);
+    __m128d c0 = _mm_loadu_pd(t0 + 2), c1 = _mm_loadu_pd(t1 + 2);
+    __m128d sh = _mm_unpacklo_pd(q0, q1), sl = _mm_unpackhi_pd(q0, q1);
+    __m128d ch = _mm_unpacklo_pd(c0, c1), cl = _mm_unpackhi_pd(c0, c1);
+    __m128d u = _mm_mul_pd(rh, rh);
+    // sin r - r and cos r - 1
+    __m128d ps = _mm_add_pd(_mm_set1_pd(1.0 / 120), _mm_mul_pd(u, _mm_set1_pd(-1.0 / 5040)));
+    ps = _mm_mul_pd(_mm_mul_pd(rh, u), _mm_add_pd(_mm_set1_pd(-1.0 / 6), _mm_mul_pd(u, ps)));
+    __m128d pc = _mm_add_pd(_mm_set1_pd(1.0 / 24), _mm_mul_pd(u, _mm_set1_pd(-1.0 / 720)));
+    pc = _mm_mul_pd(u, _mm_add_pd(_mm_set1_pd(-0.5), _mm_mul_pd(u, pc)));
+    __m128d p = _mm_mul_pd(ch, rh);
+    hi = _mm_add_pd(sh, p);
+    __m128d e = _mm_add_pd(_mm_sub_pd(sh, hi), p); // |sh| >= |p| or sh = 0
+    __m128d t = _mm_add_pd(_mm_mul_pd(ch, _mm_add_pd(rl, ps)), _mm_mul_pd(sh, pc));
+    t = _mm_add_pd(t, _mm_add_pd(sl, _mm_mul_pd(cl, rh)));
+    lo = _mm_add_pd(e, t);
+}
+
+inline __m128d TableSin(const int32_t* J, __m128d rh, __m128d rl) {
+    __m128d hi, lo;
+    TableSin(J, rh, rl, hi, lo);
+    return _mm_add_pd(hi, lo);
+}
+
+// Four single lanes through the large reduction: sin (cosine with cos = true) of |x|
+// in double, narrowed to single.
+inline __m128 LargeSinS(__m128 a, bool cosine) {
+    alignas(16) int32_t J[4];
+    __m128d r0, r1;
+    LargeS(a, J, r0, r1);
+    if (cosine)
+        for (int k = 0; k < 4; ++k)
+            J[k] += 32;
+    __m128d z = _mm_setzero_pd();
+    __m128 lo = _mm_cvtpd_ps(TableSin(J, r0, z));
+    __m128 hi = _mm_cvtpd_ps(TableSin(J + 2, r1, z));
+    return _mm_movelh_ps(lo, hi);
+}
+
+// Lanes of a single block that need the large path: finite and above the limit.
+inline int LargeLanesS(__m128 a, uint32_t limitBits) {
+    __m128i b = _mm_castps_si128(a);
+    __m128i big = _mm_cmpgt_epi32(b, _mm_set1_epi32(int(limitBits)));
+    __m128i fin = _mm_cmplt_epi32(b, _mm_set1_epi32(0x7F800000));
+    return _mm_movemask_ps(_mm_castsi128_ps(_mm_and_si128(big, fin)));
+}
+inline int LargeLanesD(__m128d a, uint64_t limitBits) {
+    __m128i b = _mm_castpd_si128(a);
+    __m128i big = _mm_cmpgt_epi64(b, _mm_set1_epi64x(int64_t(limitBits)));
+    __m128i fin = _mm_cmpgt_epi64(_mm_set1_epi64x(0x7FF0000000000000ll), b);
+    return _mm_movemask_pd(_mm_castsi128_pd(_mm_and_si128(big, fin)));
+}
+
+// The scalar routine every trigonometric kernel shares: only infinity and NaN reach it.
+template <class T>
+int InfNanScalar(const T* a, T* y) {
+    T x = *a;
+    if (__builtin_isinf(x)) {
+        *y = Keep(x) * T(0); // NaN, raising invalid
+        return 1;
+    }
+    if (__builtin_isnan(x)) *y = x * x;
+    return 0;
+}
+
+// Lanes with the exponent field all ones, as the range-test mask.
+inline __m128 InfNanS(__m128 a) {
+    return _mm_castsi128_ps(_mm_cmpgt_epi32(_mm_castps_si128(a), _mm_set1_epi32(0x7F7FFFFF)));
+}
+inline __m128d InfNanD(__m128d a) {
+    return _mm_castsi128_pd(
+        _mm_cmpgt_epi64(_mm_castpd_si128(a), _mm_set1_epi64x(0x7FEFFFFFFFFFFFFFll)));
+}
+
+} // namespace brenn::vm::trig
+
+#endif

@@ -1,0 +1,22 @@
+/* The trigonometric tables (generated into tables.cpp by tools/trig): windows of the
+ * binary expansion of 1/pi by biased exponent, sin and cos at multiples of pi/64 in two
+ * parts, and pi/64 in three parts. */
+#ifndef BRENN_VECMATH_TRIG_TABLES_H
+#define BRENN_VECMATH_TRIG_TABLES_H
+
+#include <stdint.h>
+
+namespace brenn::vm {
+
+// 96 bits of 1/pi a row for single arguments (row offset = exponent * 12 bytes), 192
+// bits a row for double ones; most significant word first.
+extern const uint32_t twoOverPiBits[256][3];
+extern const uint32_t twoOverPiBits64[2048][6];
+// sin(j pi/64) high and low, cos(j pi/64) high and low, j = 0..127.
+extern const double sinCosPi64[128][4];
+// pi/64 = [0] + [1] + [2]; the first two have 24 significant bits.
+extern const double kPi64Parts[3];
+
+} // namespace brenn::vm
+
+#endif
