@@ -1,0 +1,136 @@
+/* Shared pieces of the logarithm family.
+ *
+ * Single split: x = 2^k * m with m in [2/3, 4/3), by integer arithmetic on the bits
+ * around the centre 0x3F2AAAAB (2/3), so that for x near 1 k is 0 and r = m - 1 is
+ * exact: no cancellation.
+ * Double core: m in [1, 2) from the significand, mh = m rounded to 9 fraction bits
+ * (the 513 rows of kLnRows), r = (mh*rcp - 1) + ml*rcp with the first product exact,
+ * |r| <= 2^-10; ln x = (k*ln2hi + Thi) + (r + r^2*P(r) + k*ln2lo + Tlo), where the
+ * first sum is exact (both on the 2^-42 grid). The result comes as that exact head H and
+ * a tail L, so that Log10, Log2 and Log1p can scale or correct it without a second
+ * rounding. Positive normal doubles only; the range tests keep the rest away. */
+#ifndef BRENN_VECMATH_EXPLOG_LOG_CORE_H
+#define BRENN_VECMATH_EXPLOG_LOG_CORE_H
+
+#include "vecmath/explog/explog_tables.h"
+#include "vecmath/frame/simd.h"
+
+namespace brenn::vm {
+
+constexpr double kLn2HiD = 0.69314718055989033; // 0x3FE62E42FEFA3800
+constexpr double kLn2LoD = 5.4979230187083712e-14;
+
+// Single: (bits(x) + 0x800000) signed below 0x1000000: zero, denormal, negative,
+// infinite or NaN.
+inline __m128 LogTestS(__m128 x) {
+    __m128i b = _mm_add_epi32(_mm_castps_si128(x), _mm_set1_epi32(0x800000));
+    return _mm_castsi128_ps(_mm_cmpgt_epi32(_mm_set1_epi32(0x1000000), b));
+}
+
+inline void LogSplitS(__m128 x, __m128& r, __m128& k) {
+    const __m128i c = _mm_set1_epi32(0x3F2AAAAB);
+    __m128i d = _mm_sub_epi32(_mm_castps_si128(x), c);
+    k = _mm_cvtepi32_ps(_mm_srai_epi32(d, 23));
+    __m128i m = _mm_add_epi32(_mm_and_si128(d, _mm_set1_epi32(0x7FFFFF)), c);
+    r = _mm_sub_ps(_mm_castsi128_ps(m), _mm_set1_ps(1.0f));
+}
+
+// Double: anything but a positive normal (zero, denormal, negative, infinite, NaN).
+inline __m128d LogTestD(__m128d x) {
+    return RangeTest<double>(x, ~0ull, 0x7FF0000000000000ull, 0xFFDFFFFFFFFFFFFFull);
+}
+
+enum class LnLevel { EP, LA, HA };
+
+// ln x = H + L for positive normal x, two lanes. EP: cubic, no tails (about 2^-33).
+template <LnLevel Lv>
+inline void LnCoreD(__m128d x, __m128d& h, __m128d& l) {
+    const __m128i xi = _mm_castpd_si128(x);
+    __m128d m =
+        _mm_castsi128_pd(_mm_or_si128(_mm_and_si128(xi, _mm_set1_epi64x(0x000FFFFFFFFFFFFFll)),
+                                      _mm_set1_epi64x(0x3FF0000000000000ll)));
+    __m128i e = _mm_srli_epi64(xi, 52);
+    __m128d k = _mm_sub_pd(_mm_cvtepi32_pd(_mm_shuffle_epi32(e, _MM_SHUFFLE(3, 1, 2, 0))),
+                           _mm_set1_pd(1023.0));
+    const __m128d sh = _mm_set1_pd(8796093022208.0); // 2^43: rounds m to 2^-9
+    __m128d t = _mm_add_pd(m, sh);
+    __m128d mh = _mm_sub_pd(t, sh);
+    __m128d ml = _mm_sub_pd(m, mh);
+    __m128i ti = _mm_castpd_si128(t);
+    const double* ra = kLnRows[_mm_cvtsi128_si32(ti) - 512];
+    const double* rb = kLnRows[_mm_extract_epi32(ti, 2) - 512];
+    __m128d a0 = _mm_load_pd(ra), b0 = _mm_load_pd(rb);
+    __m128d a1 = _mm_load_pd(ra + 2), b1 = _mm_load_pd(rb + 2);
+    __m128d rcp = _mm_unpacklo_pd(a0, b0), th = _mm_unpackhi_pd(a0, b0);
+    __m128d tl = _mm_unpacklo_pd(a1, b1);
+    __m128d r = _mm_add_pd(_mm_sub_pd(_mm_mul_pd(mh, rcp), _mm_set1_pd(1.0)), _mm_mul_pd(ml, rcp));
+    __m128d r2 = _mm_mul_pd(r, r);
+    __m128d p;
+    if constexpr (Lv == LnLevel::EP) {
+        // tools/explog/ln_double.sollya
+        p = _mm_add_pd(
+            _mm_set1_pd(-0.50000017880565972294704124578856863081455230712890625),
+            _mm_mul_pd(r, _mm_set1_pd(0.333333494261786322798712944859289564192295074462890625)));
+        // The exact head keeps x just below 1 (k = -1, last row) free of cancellation.
+        h = _mm_add_pd(_mm_mul_pd(k, _mm_set1_pd(kLn2HiD)), th);
+        l = _mm_add_pd(r, _mm_mul_pd(r2, p));
+        return;
+    } else {
+        p = _mm_add_pd(_mm_set1_pd(-0.25000019886943392),
+                       _mm_mul_pd(r, _mm_set1_pd(0.20000019344205111)));
+        p = _mm_add_pd(_mm_set1_pd(0.33333333333327408), _mm_mul_pd(r, p));
+        p = _mm_add_pd(_mm_set1_pd(-0.49999999999995254), _mm_mul_pd(r, p));
+    }
+    h = _mm_add_pd(_mm_mul_pd(k, _mm_set1_pd(kLn2HiD)), th);
+    __m128d tail = _mm_add_pd(_mm_mul_pd(k, _mm_set1_pd(kLn2LoD)), tl);
+    l = _mm_add_pd(r, _mm_add_pd(_mm_mul_pd(r2, p), tail));
+}
+
+// Splits a into a high part of 26 bits and the rest (Veltkamp), for exact products.
+inline void SplitD(__m128d a, __m128d& hi, __m128d& lo) {
+    __m128d t = _mm_mul_pd(a, _mm_set1_pd(134217729.0));
+    hi = _mm_sub_pd(t, _mm_sub_pd(t, a));
+    lo = _mm_sub_pd(a, hi);
+}
+
+// (H + L) * (ch + cl) rounded once in effect: H*ch exactly (Dekker, ch of 26 bits), the
+// rest as a small correction.
+inline __m128d ScaleLogD(__m128d h, __m128d l, double ch, double cl) {
+    __m128d s = _mm_add_pd(h, l);
+    __m128d e = _mm_add_pd(_mm_sub_pd(h, s), l);
+    __m128d sh, sl;
+    SplitD(s, sh, sl);
+    const __m128d c = _mm_set1_pd(ch);
+    __m128d ph = _mm_mul_pd(s, c);
+    __m128d pl = _mm_add_pd(_mm_sub_pd(_mm_mul_pd(sh, c), ph), _mm_mul_pd(sl, c));
+    __m128d corr = _mm_add_pd(
+        pl, _mm_add_pd(_mm_mul_pd(s, _mm_set1_pd(cl)), _mm_mul_pd(e, _mm_set1_pd(ch + cl))));
+    return _mm_add_pd(ph, corr);
+}
+
+// Scalar ln in double for any input, by the HA core (denormals scaled by 2^60):
+// NaN quieted, +inf, -inf for zero, NaN for negatives. No status: callers decide.
+inline double LnScalarD(double x) {
+    if (!(x > 0)) {
+        if (x == 0) return -1.0 / (x * x);
+        return (x - x) / (x - x); // negative or NaN: NaN (a NaN input quieted)
+    }
+    if (__builtin_isinf(x)) return x;
+    double bias = 0;
+    if (x < 2.2250738585072014e-308) {
+        x *= 1152921504606846976.0; // 2^60
+        bias = -60;
+    }
+    __m128d h, l;
+    LnCoreD<LnLevel::HA>(_mm_set_sd(x), h, l);
+    double hh = _mm_cvtsd_f64(h), ll = _mm_cvtsd_f64(l);
+    if (bias != 0) {
+        hh += bias * kLn2HiD; // exact: both on the 2^-42 grid
+        ll += bias * kLn2LoD;
+    }
+    return hh + ll;
+}
+
+} // namespace brenn::vm
+
+#endif
