@@ -78,6 +78,7 @@ inline int ExpScalarFinish(T x, T* y, T over, T under, Core core) {
     }
     T v = core(x);
     *y = v;
+    if (__builtin_isinf(v)) return kStatusOverflow; // at the limit itself
     constexpr T kMinNormal = sizeof(T) == 4 ? T(FLT_MIN) : T(DBL_MIN);
     return v < kMinNormal ? kStatusUnderflow : kStatusOk;
 }

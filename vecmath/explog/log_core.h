@@ -19,6 +19,9 @@ namespace brenn::vm {
 
 constexpr double kLn2HiD = 0.69314718055989033; // 0x3FE62E42FEFA3800
 constexpr double kLn2LoD = 5.4979230187083712e-14;
+// log10(e) and log2(e) as a 26-bit head and the rest, for ScaleLogD.
+constexpr double kLog10eHi = 0.434294484555721282958984375, kLog10eLo = -2.6524694553078553e-9;
+constexpr double kLog2eHi = 1.4426950514316558837890625, kLog2eLo = -1.0542692476429138e-8;
 
 // Single: (bits(x) + 0x800000) signed below 0x1000000: zero, denormal, negative,
 // infinite or NaN.
@@ -93,8 +96,8 @@ inline void SplitD(__m128d a, __m128d& hi, __m128d& lo) {
     lo = _mm_sub_pd(a, hi);
 }
 
-// (H + L) * (ch + cl) rounded once in effect: H*ch exactly (Dekker, ch of 26 bits), the
-// rest as a small correction.
+// (H + L) * (ch + cl) rounded once in effect: s*ch exactly (Dekker; ch has 26 bits, so
+// both partial products are exact), the rest as a small correction.
 inline __m128d ScaleLogD(__m128d h, __m128d l, double ch, double cl) {
     __m128d s = _mm_add_pd(h, l);
     __m128d e = _mm_add_pd(_mm_sub_pd(h, s), l);
