@@ -2,9 +2,24 @@
  * the hardware raises them. A body gives Op on registers and on single elements. Three
  * copies of the loop are chosen at entry (y is a, y is b, neither), so that the one
  * without aliasing may be scheduled freely; each runs 32 single (16 double) elements a
- * round and one element at a time for the rest, never touching memory beyond n. */
+ * round and one element at a time for the rest, never touching memory beyond n.
+ *
+ * The round is written out register by register: left as a loop over an array of eight
+ * registers, the compiler keeps the array on the stack at -O2 and every result makes a
+ * round trip through memory, which costs more than the arithmetic itself.
+ *
+ * A long call without aliasing writes y with non-temporal stores: y is then written
+ * without first being read into the cache (the read for ownership would otherwise be a
+ * third input stream), and the inputs are not evicted by it. Those stores need 16-byte
+ * aligned addresses, so the first few elements, up to y's boundary, go through the
+ * element loop; a y that is not aligned to its element size keeps the ordinary stores.
+ * A store fence before returning orders the streamed results before anything the caller
+ * does next. Short calls keep ordinary stores, since their results are usually read
+ * again soon and are best left in the cache. */
 #ifndef BRENN_VECMATH_FRAME_STREAM_FRAME_H
 #define BRENN_VECMATH_FRAME_STREAM_FRAME_H
+
+#include <stdint.h>
 
 #include "vecmath/frame/kernel_frame.h"
 
@@ -12,37 +27,86 @@ namespace brenn::vm {
 
 enum class Alias { None, YisA, YisB };
 
+// Bytes of y from which a call without aliasing streams its results past the cache.
+constexpr uintptr_t kStreamBytes = uintptr_t(1) << 20;
+
+inline void StreamStore(float* p, __m128 v) {
+    _mm_stream_ps(p, v);
+}
+inline void StreamStore(double* p, __m128d v) {
+    _mm_stream_pd(p, v);
+}
+
+// One round: eight registers of a and b, their results, eight stores (plain or
+// non-temporal). Loads come first so that the stores of a round, in place, cannot be
+// read back by the same round.
+template <bool NonTemporal, class B>
+inline void StreamRound(const B& body, const typename B::T* pa, const typename B::T* pb,
+                        typename B::T* py) {
+    using Sd = Simd<typename B::T>;
+    constexpr int L = Sd::kLanes;
+    typename Sd::V r0 = body.Op(Sd::Load(pa + 0 * L), Sd::Load(pb + 0 * L));
+    typename Sd::V r1 = body.Op(Sd::Load(pa + 1 * L), Sd::Load(pb + 1 * L));
+    typename Sd::V r2 = body.Op(Sd::Load(pa + 2 * L), Sd::Load(pb + 2 * L));
+    typename Sd::V r3 = body.Op(Sd::Load(pa + 3 * L), Sd::Load(pb + 3 * L));
+    typename Sd::V r4 = body.Op(Sd::Load(pa + 4 * L), Sd::Load(pb + 4 * L));
+    typename Sd::V r5 = body.Op(Sd::Load(pa + 5 * L), Sd::Load(pb + 5 * L));
+    typename Sd::V r6 = body.Op(Sd::Load(pa + 6 * L), Sd::Load(pb + 6 * L));
+    typename Sd::V r7 = body.Op(Sd::Load(pa + 7 * L), Sd::Load(pb + 7 * L));
+    if constexpr (NonTemporal) {
+        StreamStore(py + 0 * L, r0);
+        StreamStore(py + 1 * L, r1);
+        StreamStore(py + 2 * L, r2);
+        StreamStore(py + 3 * L, r3);
+        StreamStore(py + 4 * L, r4);
+        StreamStore(py + 5 * L, r5);
+        StreamStore(py + 6 * L, r6);
+        StreamStore(py + 7 * L, r7);
+    } else {
+        Sd::Store(py + 0 * L, r0);
+        Sd::Store(py + 1 * L, r1);
+        Sd::Store(py + 2 * L, r2);
+        Sd::Store(py + 3 * L, r3);
+        Sd::Store(py + 4 * L, r4);
+        Sd::Store(py + 5 * L, r5);
+        Sd::Store(py + 6 * L, r6);
+        Sd::Store(py + 7 * L, r7);
+    }
+}
+
 template <class B, Alias A>
 inline void StreamLoop(const B& body, int n, const typename B::T* a, const typename B::T* b,
                        typename B::T* y) {
     using T = typename B::T;
-    using Sd = Simd<T>;
-    using V = typename Sd::V;
-    constexpr int L = Sd::kLanes;
-    constexpr int kRound = 8 * L;
-    const T* __restrict pa = A == Alias::YisA ? y : a;
-    const T* __restrict pb = A == Alias::YisB ? y : b;
+    constexpr int kRound = 8 * Simd<T>::kLanes;
     int i = 0;
     if constexpr (A == Alias::None) {
+        const T* __restrict pa = a;
+        const T* __restrict pb = b;
         T* __restrict py = y;
-        for (; i + kRound <= n; i += kRound) {
-            V r[8];
-            for (int k = 0; k < 8; ++k)
-                r[k] = body.Op(Sd::Load(pa + i + k * L), Sd::Load(pb + i + k * L));
-            for (int k = 0; k < 8; ++k)
-                Sd::Store(py + i + k * L, r[k]);
+        const uintptr_t addr = reinterpret_cast<uintptr_t>(y);
+        if (uintptr_t(n) * sizeof(T) >= kStreamBytes && addr % sizeof(T) == 0) {
+            const int head = int(((16 - (addr & 15)) & 15) / sizeof(T));
+            for (; i < head; ++i)
+                py[i] = body.Op(pa[i], pb[i]);
+            for (; i + kRound <= n; i += kRound)
+                StreamRound<true>(body, pa + i, pb + i, py + i);
+            _mm_sfence();
+        } else {
+            for (; i + kRound <= n; i += kRound)
+                StreamRound<false>(body, pa + i, pb + i, py + i);
         }
+        for (; i < n; ++i)
+            py[i] = body.Op(pa[i], pb[i]);
     } else {
-        for (; i + kRound <= n; i += kRound) {
-            V r[8];
-            for (int k = 0; k < 8; ++k)
-                r[k] = body.Op(Sd::Load(pa + i + k * L), Sd::Load(pb + i + k * L));
-            for (int k = 0; k < 8; ++k)
-                Sd::Store(y + i + k * L, r[k]);
-        }
+        // y is one of the inputs: plain pointers, since the stores write what was read
+        const T* pa = A == Alias::YisA ? y : a;
+        const T* pb = A == Alias::YisB ? y : b;
+        for (; i + kRound <= n; i += kRound)
+            StreamRound<false>(body, pa + i, pb + i, y + i);
+        for (; i < n; ++i)
+            y[i] = body.Op(pa[i], pb[i]);
     }
-    for (; i < n; ++i)
-        y[i] = body.Op(pa[i], pb[i]);
 }
 
 template <class B>
