@@ -87,14 +87,13 @@ int main() {
         fprintf(out, "},\n");
     }
     fprintf(out, "};\n\n");
-    // pi/64 in three parts: the first two of 24 significant bits so that their
-    // products with an integer below 2^29 are exact, the third rounded.
+    // pi/64 in four parts: the first three of 24 significant bits so that their
+    // products with an integer below 2^29 are exact, the fourth rounded.
     mpfr_div_ui(t, pi, 64, MPFR_RNDN);
-    double p[3];
-    int keep[2] = {24, 24};
-    for (int k = 0; k < 3; ++k) {
-        if (k < 2) {
-            mpfr_set_prec(s, keep[k]);
+    double p[4];
+    for (int k = 0; k < 4; ++k) {
+        if (k < 3) {
+            mpfr_set_prec(s, 24);
             mpfr_set(s, t, MPFR_RNDZ);
             p[k] = mpfr_get_d(s, MPFR_RNDN);
             mpfr_set_prec(s, kPrec);
@@ -103,7 +102,22 @@ int main() {
         }
         mpfr_sub_d(t, t, p[k], MPFR_RNDN);
     }
-    fprintf(out, "const double kPi64Parts[3] = {%a, %a, %a};\n\n", p[0], p[1], p[2]);
+    fprintf(out, "const double kPi64Parts[4] = {%a, %a, %a, %a};\n\n", p[0], p[1], p[2], p[3]);
+    // pi/64 in three x87 extended parts: two of 35 significant bits (exact products with
+    // an integer below 2^29 in a 64-bit significand) and the rest rounded to 64 bits.
+    mpfr_div_ui(t, pi, 64, MPFR_RNDN);
+    mpfr_set_prec(s, 35);
+    mpfr_set(s, t, MPFR_RNDZ);
+    long double x0 = mpfr_get_ld(s, MPFR_RNDN);
+    mpfr_sub(t, t, s, MPFR_RNDN);
+    mpfr_set_prec(s, kPrec);
+    mpfr_set_prec(s, 35);
+    mpfr_set(s, t, MPFR_RNDZ);
+    long double x1 = mpfr_get_ld(s, MPFR_RNDN);
+    mpfr_sub(t, t, s, MPFR_RNDN);
+    mpfr_set_prec(s, kPrec);
+    long double x2 = mpfr_get_ld(t, MPFR_RNDN);
+    fprintf(out, "const long double kPi64PartsX[3] = {%LaL, %LaL, %LaL};\n\n", x0, x1, x2);
     fprintf(out, "} // namespace brenn::vm\n");
     mpfr_clears(pi, invPi, t, s, c, (mpfr_ptr)0);
     return 0;

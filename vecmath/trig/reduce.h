@@ -174,6 +174,42 @@ inline void LargeD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl) {
     rl = _mm_sub_pd(pe, _mm_sub_pd(rh, p));
 }
 
+// rh + rl = a + b exactly.
+inline void TwoSum(__m128d a, __m128d b, __m128d& rh, __m128d& rl) {
+    rh = _mm_add_pd(a, b);
+    __m128d bb = _mm_sub_pd(rh, a);
+    rl = _mm_add_pd(_mm_sub_pd(a, _mm_sub_pd(rh, bb)), _mm_sub_pd(b, bb));
+}
+
+// Short reduction of two double magnitudes below 2^24 at pi/64: j = round(a 64/pi),
+// J = j mod 128 (plus add), r = a - j pi/64 as two doubles. j < 2^29, so its products
+// with the first three parts of pi/64 (24 bits each) are exact; the sums are carried
+// exactly so that an argument close to a multiple of pi keeps its full precision.
+inline void ShortD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl, int add) {
+    const __m128d shifter = _mm_set1_pd(kShifterD);
+    __m128d t = _mm_add_pd(_mm_mul_pd(a, _mm_set1_pd(k64OverPi)), shifter);
+    __m128i ti = _mm_castpd_si128(t);
+    J[0] = _mm_cvtsi128_si32(ti) + add;
+    J[1] = _mm_extract_epi32(ti, 2) + add;
+    __m128d j = _mm_sub_pd(t, shifter);
+    __m128d r1 = _mm_sub_pd(a, _mm_mul_pd(j, _mm_set1_pd(kPi64Parts[0])));
+    __m128d h, l, e;
+    TwoSum(r1, _mm_mul_pd(j, _mm_set1_pd(-kPi64Parts[1])), h, l);
+    TwoSum(h, _mm_mul_pd(j, _mm_set1_pd(-kPi64Parts[2])), h, e);
+    l = _mm_sub_pd(_mm_add_pd(l, e), _mm_mul_pd(j, _mm_set1_pd(kPi64Parts[3])));
+    TwoSum(h, l, rh, rl); // renormalised: the series runs on rh alone
+}
+
+// Per-lane choice between two reductions, by a two-bit lane mask (bit k: lane k of b).
+inline void PickD(int mask, const int32_t* Jb, __m128d rhb, __m128d rlb, int32_t* J, __m128d& rh,
+                  __m128d& rl) {
+    __m128d m = _mm_castsi128_pd(_mm_set_epi64x(mask & 2 ? -1 : 0, mask & 1 ? -1 : 0));
+    rh = _mm_blendv_pd(rh, rhb, m);
+    rl = _mm_blendv_pd(rl, rlb, m);
+    if (mask & 1) J[0] = Jb[0];
+    if (mask & 2) J[1] = Jb[1];
+}
+
 // sin(J pi/64 + rh + rl) for |rh| <= pi/128 (rl much smaller) by the table: sin A cos r
 // + cos A sin r with short Taylor series; the result as a high part and a low part.
 inline void TableSin(const int32_t* J, __m128d rh, __m128d rl, __m128d& hi, __m128d& lo) {

@@ -14,8 +14,10 @@ extern const uint32_t twoOverPiBits[256][3];
 extern const uint32_t twoOverPiBits64[2048][6];
 // sin(j pi/64) high and low, cos(j pi/64) high and low, j = 0..127.
 extern const double sinCosPi64[128][4];
-// pi/64 = [0] + [1] + [2]; the first two have 24 significant bits.
-extern const double kPi64Parts[3];
+// pi/64 = [0] + [1] + [2] + [3]; the first three have 24 significant bits.
+extern const double kPi64Parts[4];
+// pi/64 = [0] + [1] + [2] in x87 extended; the first two have 35 significant bits.
+extern const long double kPi64PartsX[3];
 
 } // namespace brenn::vm
 
