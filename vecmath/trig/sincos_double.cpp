@@ -132,20 +132,24 @@ struct Both {
         alignas(16) int32_t J[2], K[2];
         __m128d rh, rl;
         if constexpr (L == Level::HA) {
-            alignas(16) double av[2], hv[2], lv[2];
+            // j as in ShortD, by the double shifter; the rest in x87 arithmetic.
+            const __m128d shifter = _mm_set1_pd(kShifterD);
+            __m128d t = _mm_add_pd(_mm_mul_pd(a, _mm_set1_pd(k64OverPi)), shifter);
+            __m128i ti = _mm_castpd_si128(t);
+            J[0] = _mm_cvtsi128_si32(ti) & 127;
+            J[1] = _mm_extract_epi32(ti, 2) & 127;
+            alignas(16) double av[2], jv[2], hv[2], lv[2];
             _mm_store_pd(av, a);
+            _mm_store_pd(jv, _mm_sub_pd(t, shifter));
             for (int k = 0; k < 2; ++k) {
-                long double j =
-                    __builtin_nearbyintl((long double)av[k] * (64.0L / 3.14159265358979323846L));
-                if (!(j < 536870912.0L)) j = 0; // large, infinite or NaN: set below
                 // a - j C0 and - j C1 are exact; the last product is rounded once.
+                long double j = jv[k];
                 long double r = ((long double)av[k] - j * kPi64PartsX[0]) - j * kPi64PartsX[1];
                 long double p = j * kPi64PartsX[2];
                 long double h = r - p;
                 long double l = (r - h) - p; // exact: |r| >= |p| or r - p exact
                 hv[k] = double(h);
                 lv[k] = double((h - (long double)hv[k]) + l);
-                J[k] = int32_t(j) & 127;
             }
             rh = _mm_load_pd(hv);
             rl = _mm_load_pd(lv);
