@@ -17,8 +17,9 @@ constexpr double kExpShifterD = 6755399441055744.0; // 1.5 * 2^52
 
 enum class ExpDegree { Four = 4, Five = 5, Six = 6 };
 
+// The part of the polynomial beyond r: p(r) = r + ExpPolyTail(r).
 template <ExpDegree D>
-inline __m128d ExpPolyD(__m128d r) {
+inline __m128d ExpPolyTail(__m128d r) {
     __m128d q;
     if constexpr (D == ExpDegree::Six) {
         q = _mm_add_pd(
@@ -46,7 +47,12 @@ inline __m128d ExpPolyD(__m128d r) {
         q = _mm_add_pd(_mm_set1_pd(0.5000000000009894307595459395088255405426025390625),
                        _mm_mul_pd(r, q));
     }
-    return _mm_add_pd(r, _mm_mul_pd(_mm_mul_pd(r, r), q));
+    return _mm_mul_pd(_mm_mul_pd(r, r), q);
+}
+
+template <ExpDegree D>
+inline __m128d ExpPolyD(__m128d r) {
+    return _mm_add_pd(r, ExpPolyTail<D>(r));
 }
 
 // Table rows of the two lanes of t (x*64/ln2 + shifter): Thi and Tlo.
@@ -80,6 +86,18 @@ inline __m128d ExpAssemble64(__m128d t, __m128d r) {
     __m128d p = ExpPolyD<D>(r);
     __m128d y = _mm_add_pd(th, _mm_add_pd(_mm_mul_pd(th, p), tl));
     return _mm_mul_pd(y, ExpScale64(t));
+}
+
+// Exact product a*b = hi + lo, two lanes (Dekker), for |a|, |b| well inside the range.
+inline void TwoProductV(__m128d a, __m128d b, __m128d& hi, __m128d& lo) {
+    const __m128d split = _mm_set1_pd(134217729.0);
+    __m128d ta = _mm_mul_pd(a, split), tb = _mm_mul_pd(b, split);
+    __m128d ah = _mm_sub_pd(ta, _mm_sub_pd(ta, a)), al = _mm_sub_pd(a, ah);
+    __m128d bh = _mm_sub_pd(tb, _mm_sub_pd(tb, b)), bl = _mm_sub_pd(b, bh);
+    hi = _mm_mul_pd(a, b);
+    lo = _mm_add_pd(_mm_add_pd(_mm_sub_pd(_mm_mul_pd(ah, bh), hi),
+                               _mm_add_pd(_mm_mul_pd(ah, bl), _mm_mul_pd(al, bh))),
+                    _mm_mul_pd(al, bl));
 }
 
 // Exact product a*b = hi + lo of two scalars (Dekker), for |a*b| well inside the range.
