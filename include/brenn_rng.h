@@ -158,6 +158,14 @@ void __qesRegisterGlobRODataReference(QesChunk* chunk, const uint64_t* guid);
 void __qesUnregisterGlobRODataReference(const uint64_t* guid);
 int32_t __qesGenerateNewGlobalRODataTableEntryId(uint64_t* guid, int32_t kind);
 
+/* Persistence: the version-2 stream image ("RNG"), in a file or a memory block.
+ * nameLength >= 0: name has that many bytes, not terminated; negative: terminated.
+ * A memory block for saving must be __qesGetStreamSize(stream) bytes long. */
+int32_t __qesSaveStreamF(const void* stream, const char* name, int32_t nameLength);
+int32_t __qesLoadStreamF(void** stream, const char* name, int32_t nameLength);
+int32_t __qesSaveStreamM(const void* stream, void* memory);
+int32_t __qesLoadStreamM(void** stream, const void* memory);
+
 /* Jumps. */
 int32_t __qesLeapfrogStream(void* stream, int32_t k, int32_t nstreams);
 int32_t __qesSkipAheadStream(void* stream, uint64_t nskip);

@@ -108,7 +108,9 @@ inline void SeedArray(uint32_t* mt, int n, int32_t keyLength, const uint32_t* ke
 //  - inside the block: a copy.
 inline void Serve(uint32_t* mt, int32_t* position, uint32_t* r, int32_t count, const Twist& t) {
     const int n = t.n, m = t.m;
-    const int32_t pos = *position;
+    // A position outside the block can only come from a damaged image; it reads as
+    // a used-up block rather than as an index.
+    const int32_t pos = static_cast<uint32_t>(*position) > static_cast<uint32_t>(n) ? n : *position;
     const int32_t unread = n - pos;
     if (count > n) {
         memcpy(r, mt + pos, sizeof(uint32_t) * unread);
