@@ -212,7 +212,10 @@ inline void PickD(int mask, const int32_t* Jb, __m128d rhb, __m128d rlb, int32_t
 
 // sin(J pi/64 + rh + rl) for |rh| <= pi/128 (rl much smaller) by the table: sin A cos r
 // + cos A sin r with short Taylor series; the result as a high part and a low part.
-inline void TableSin(const int32_t* J, __m128d rh, __m128d rl, __m128d& hi, __m128d& lo) {
+// With exact = true the product cos A * rh is carried exactly as well (for Tan at HA,
+// which divides two such results).
+inline void TableSin(const int32_t* J, __m128d rh, __m128d rl, __m128d& hi, __m128d& lo,
+                     bool exact = false) {
     const double* t0 = sinCosPi64[J[0] & 127];
     const double* t1 = sinCosPi64[J[1] & 127];
     __m128d q0 = _mm_loadu_pd(t0), q1 = _mm_loadu_pd(t1);
@@ -225,12 +228,16 @@ inline void TableSin(const int32_t* J, __m128d rh, __m128d rl, __m128d& hi, __m1
     ps = _mm_mul_pd(_mm_mul_pd(rh, u), _mm_add_pd(_mm_set1_pd(-1.0 / 6), _mm_mul_pd(u, ps)));
     __m128d pc = _mm_add_pd(_mm_set1_pd(1.0 / 24), _mm_mul_pd(u, _mm_set1_pd(-1.0 / 720)));
     pc = _mm_mul_pd(u, _mm_add_pd(_mm_set1_pd(-0.5), _mm_mul_pd(u, pc)));
-    __m128d p = _mm_mul_pd(ch, rh);
+    __m128d p, pe = _mm_setzero_pd();
+    if (exact)
+        TwoProd(ch, rh, p, pe);
+    else
+        p = _mm_mul_pd(ch, rh);
     hi = _mm_add_pd(sh, p);
     __m128d e = _mm_add_pd(_mm_sub_pd(sh, hi), p); // |sh| >= |p| or sh = 0
     __m128d t = _mm_add_pd(_mm_mul_pd(ch, _mm_add_pd(rl, ps)), _mm_mul_pd(sh, pc));
     t = _mm_add_pd(t, _mm_add_pd(sl, _mm_mul_pd(cl, rh)));
-    lo = _mm_add_pd(e, t);
+    lo = _mm_add_pd(_mm_add_pd(e, pe), t);
 }
 
 inline __m128d TableSin(const int32_t* J, __m128d rh, __m128d rl) {

@@ -1,0 +1,165 @@
+/* Tan in single and double, three levels.
+ *
+ * Single EP: n = round(|x| 2/pi) by the shifter, r = |x| - n pi/2 with pi/2 in three
+ * single parts, a rational form N/D on r; for n odd the result is -D/N. The division
+ * is a reciprocal estimate with one Newton step. Single LA and HA: in double, the table
+ * reduction at pi/64 and sin/cos by the table, divided. The short path holds to 8256;
+ * lanes above take the vector large reduction in the same block.
+ *
+ * Double: the table reduction (vector large path above 2^24) gives sin and cos each as
+ * two doubles; EP divides the sums, LA corrects the quotient once by its residual, HA
+ * does so with the product of the quotient and the cosine carried exactly and the table
+ * products exact too. Near a pole the cosine is small but accurate, so the result is a
+ * large finite number. */
+#include "frame/kernels.h"
+#include "vecmath/frame/kernel_frame.h"
+#include "vecmath/trig/level.h"
+#include "vecmath/trig/reduce.h"
+
+namespace brenn::vm::trig {
+namespace {
+
+constexpr uint32_t kLimitTanS = 0x46010000;         // 8256.0
+constexpr uint64_t kLimitD = 0x4170000000000000ull; // 2^24
+
+inline __m128 F(uint32_t b) {
+    return _mm_castsi128_ps(_mm_set1_epi32(int(b)));
+}
+
+// tan(J pi/64 + r) from the table: sin over cos, each as two doubles.
+template <Level L>
+inline __m128d TanTable(const int32_t* J, __m128d rh, __m128d rl) {
+    alignas(16) int32_t K[2] = {J[0] + 32, J[1] + 32};
+    __m128d sh, sl, ch, cl;
+    TableSin(J, rh, rl, sh, sl, L == Level::HA);
+    TableSin(K, rh, rl, ch, cl, L == Level::HA);
+    if constexpr (L == Level::EP) return _mm_div_pd(_mm_add_pd(sh, sl), _mm_add_pd(ch, cl));
+    // The low parts hold the series terms and are not small beside an ulp of the high
+    // parts: renormalise both before dividing.
+    __m128d h = _mm_add_pd(sh, sl);
+    sl = _mm_sub_pd(sl, _mm_sub_pd(h, sh));
+    sh = h;
+    h = _mm_add_pd(ch, cl);
+    cl = _mm_sub_pd(cl, _mm_sub_pd(h, ch));
+    ch = h;
+    __m128d q = _mm_div_pd(sh, ch);
+    __m128d res;
+    if constexpr (L == Level::HA) {
+        __m128d p, pe;
+        TwoProd(q, ch, p, pe);
+        res = _mm_sub_pd(_mm_sub_pd(sh, p), pe);
+    } else {
+        res = _mm_sub_pd(sh, _mm_mul_pd(q, ch));
+    }
+    res = _mm_sub_pd(_mm_add_pd(res, sl), _mm_mul_pd(q, cl));
+    return _mm_add_pd(q, _mm_div_pd(res, ch));
+}
+
+inline __m128 Narrow(__m128d d0, __m128d d1) {
+    return _mm_movelh_ps(_mm_cvtpd_ps(d0), _mm_cvtpd_ps(d1));
+}
+
+inline __m128 LaneMask(int bits) {
+    return _mm_castsi128_ps(
+        _mm_set_epi32(bits & 8 ? -1 : 0, bits & 4 ? -1 : 0, bits & 2 ? -1 : 0, bits & 1 ? -1 : 0));
+}
+
+// tan of four single magnitudes by the large reduction, in double.
+inline __m128 LargeTanS(__m128 a) {
+    alignas(16) int32_t J[4];
+    __m128d r0, r1, z = _mm_setzero_pd();
+    LargeS(a, J, r0, r1);
+    return Narrow(TanTable<Level::LA>(J, r0, z), TanTable<Level::LA>(J + 2, r1, z));
+}
+
+template <Level L>
+struct TanS {
+    using T = float;
+    static constexpr const char* kName = ZAR_ERROR_NAME(sTan);
+    static __m128 Eval(__m128 x, __m128& special) {
+        __m128 a = _mm_and_ps(x, AbsMask<float>());
+        special = InfNanS(a);
+        __m128 p;
+        if constexpr (L == Level::EP) {
+            const __m128 shifter = _mm_set1_ps(kShifterS);
+            __m128 t = _mm_add_ps(_mm_mul_ps(a, F(0x3F22F983)), shifter);
+            __m128 odd = _mm_castsi128_ps(_mm_cmpeq_epi32(
+                _mm_and_si128(_mm_castps_si128(t), _mm_set1_epi32(1)), _mm_set1_epi32(1)));
+            __m128 n = _mm_sub_ps(t, shifter);
+            __m128 r = _mm_sub_ps(a, _mm_mul_ps(n, F(0x3FC90000)));
+            r = _mm_sub_ps(r, _mm_mul_ps(n, F(0x39FDA000)));
+            r = _mm_sub_ps(r, _mm_mul_ps(n, F(0x33A22169)));
+            __m128 u = _mm_mul_ps(r, r);
+            __m128 num = _mm_mul_ps(r, _mm_add_ps(_mm_set1_ps(0.999999762f),
+                                                  _mm_mul_ps(u, _mm_set1_ps(-0.0958017409f))));
+            __m128 den =
+                _mm_add_ps(_mm_set1_ps(-0.42913565f), _mm_mul_ps(u, _mm_set1_ps(0.00971684884f)));
+            den = _mm_add_ps(_mm_set1_ps(1.0f), _mm_mul_ps(u, den));
+            // n odd: -D/N
+            __m128 top = _mm_blendv_ps(num, _mm_xor_ps(den, SignMask<float>()), odd);
+            __m128 bot = _mm_blendv_ps(den, num, odd);
+            __m128 rc = _mm_rcp_ps(bot);
+            rc = _mm_mul_ps(rc, _mm_sub_ps(_mm_set1_ps(2.0f), _mm_mul_ps(bot, rc)));
+            p = _mm_mul_ps(top, rc);
+        } else {
+            __m128d a0 = _mm_cvtps_pd(a), a1 = _mm_cvtps_pd(_mm_movehl_ps(a, a));
+            alignas(16) int32_t J[4];
+            __m128d h0, l0, h1, l1;
+            ShortD(_mm_min_pd(a0, _mm_set1_pd(16777216.0)), J, h0, l0, 0);
+            ShortD(_mm_min_pd(a1, _mm_set1_pd(16777216.0)), J + 2, h1, l1, 0);
+            p = Narrow(TanTable<L>(J, h0, l0), TanTable<L>(J + 2, h1, l1));
+        }
+        int big = LargeLanesS(a, kLimitTanS);
+        if (__builtin_expect(big != 0, 0)) p = _mm_blendv_ps(p, LargeTanS(a), LaneMask(big));
+        return _mm_xor_ps(p, _mm_and_ps(x, SignMask<float>()));
+    }
+    static int Scalar(const float* a, float* y) { return InfNanScalar(a, y); }
+};
+
+template <Level L>
+struct TanD {
+    using T = double;
+    static constexpr const char* kName = ZAR_ERROR_NAME(dTan);
+    static __m128d Eval(__m128d x, __m128d& special) {
+        __m128d a = _mm_and_pd(x, AbsMask<double>());
+        special = InfNanD(a);
+        alignas(16) int32_t J[2], K[2];
+        __m128d rh, rl;
+        ShortD(_mm_min_pd(a, _mm_set1_pd(16777216.0)), J, rh, rl, 0);
+        int big = LargeLanesD(a, kLimitD);
+        if (__builtin_expect(big != 0, 0)) {
+            __m128d bh, bl;
+            LargeD(a, K, bh, bl);
+            PickD(big, K, bh, bl, J, rh, rl);
+        }
+        return _mm_xor_pd(TanTable<L>(J, rh, rl), _mm_and_pd(x, SignMask<double>()));
+    }
+    static int Scalar(const double* a, double* y) { return InfNanScalar(a, y); }
+};
+
+} // namespace
+} // namespace brenn::vm::trig
+
+using namespace brenn::vm;
+using namespace brenn::vm::trig;
+
+extern "C" {
+void ZAR_KERNEL(sTan, EP) BRENN_SIG(s, Unary) {
+    RunUnary(TanS<Level::EP>{}, n, a, y);
+}
+void ZAR_KERNEL(sTan, LA) BRENN_SIG(s, Unary) {
+    RunUnary(TanS<Level::LA>{}, n, a, y);
+}
+void ZAR_KERNEL(sTan, HA) BRENN_SIG(s, Unary) {
+    RunUnary(TanS<Level::HA>{}, n, a, y);
+}
+void ZAR_KERNEL(dTan, EP) BRENN_SIG(d, Unary) {
+    RunUnary(TanD<Level::EP>{}, n, a, y);
+}
+void ZAR_KERNEL(dTan, LA) BRENN_SIG(d, Unary) {
+    RunUnary(TanD<Level::LA>{}, n, a, y);
+}
+void ZAR_KERNEL(dTan, HA) BRENN_SIG(d, Unary) {
+    RunUnary(TanD<Level::HA>{}, n, a, y);
+}
+}
