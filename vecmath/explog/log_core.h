@@ -46,8 +46,9 @@ inline __m128d LogTestD(__m128d x) {
 enum class LnLevel { EP, LA, HA };
 
 // ln x = H + L for positive normal x, two lanes. EP: cubic, no tails (about 2^-33).
+// As three terms for the exact scaling: ln x = h + r + t, h exact, |t| << |r|.
 template <LnLevel Lv>
-inline void LnCoreD(__m128d x, __m128d& h, __m128d& l) {
+inline void LnCoreD3(__m128d x, __m128d& h, __m128d& r, __m128d& t) {
     const __m128i xi = _mm_castpd_si128(x);
     __m128d m =
         _mm_castsi128_pd(_mm_or_si128(_mm_and_si128(xi, _mm_set1_epi64x(0x000FFFFFFFFFFFFFll)),
@@ -56,17 +57,17 @@ inline void LnCoreD(__m128d x, __m128d& h, __m128d& l) {
     __m128d k = _mm_sub_pd(_mm_cvtepi32_pd(_mm_shuffle_epi32(e, _MM_SHUFFLE(3, 1, 2, 0))),
                            _mm_set1_pd(1023.0));
     const __m128d sh = _mm_set1_pd(8796093022208.0); // 2^43: rounds m to 2^-9
-    __m128d t = _mm_add_pd(m, sh);
-    __m128d mh = _mm_sub_pd(t, sh);
+    __m128d ts = _mm_add_pd(m, sh);
+    __m128d mh = _mm_sub_pd(ts, sh);
     __m128d ml = _mm_sub_pd(m, mh);
-    __m128i ti = _mm_castpd_si128(t);
+    __m128i ti = _mm_castpd_si128(ts);
     const double* ra = kLnRows[_mm_cvtsi128_si32(ti) - 512];
     const double* rb = kLnRows[_mm_extract_epi32(ti, 2) - 512];
     __m128d a0 = _mm_load_pd(ra), b0 = _mm_load_pd(rb);
     __m128d a1 = _mm_load_pd(ra + 2), b1 = _mm_load_pd(rb + 2);
     __m128d rcp = _mm_unpacklo_pd(a0, b0), th = _mm_unpackhi_pd(a0, b0);
     __m128d tl = _mm_unpacklo_pd(a1, b1);
-    __m128d r = _mm_add_pd(_mm_sub_pd(_mm_mul_pd(mh, rcp), _mm_set1_pd(1.0)), _mm_mul_pd(ml, rcp));
+    r = _mm_add_pd(_mm_sub_pd(_mm_mul_pd(mh, rcp), _mm_set1_pd(1.0)), _mm_mul_pd(ml, rcp));
     __m128d r2 = _mm_mul_pd(r, r);
     __m128d p;
     if constexpr (Lv == LnLevel::EP) {
@@ -76,7 +77,7 @@ inline void LnCoreD(__m128d x, __m128d& h, __m128d& l) {
             _mm_mul_pd(r, _mm_set1_pd(0.333333494261786322798712944859289564192295074462890625)));
         // The exact head keeps x just below 1 (k = -1, last row) free of cancellation.
         h = _mm_add_pd(_mm_mul_pd(k, _mm_set1_pd(kLn2HiD)), th);
-        l = _mm_add_pd(r, _mm_mul_pd(r2, p));
+        t = _mm_mul_pd(r2, p);
         return;
     } else {
         p = _mm_add_pd(_mm_set1_pd(-0.25000019886943392),
@@ -86,7 +87,14 @@ inline void LnCoreD(__m128d x, __m128d& h, __m128d& l) {
     }
     h = _mm_add_pd(_mm_mul_pd(k, _mm_set1_pd(kLn2HiD)), th);
     __m128d tail = _mm_add_pd(_mm_mul_pd(k, _mm_set1_pd(kLn2LoD)), tl);
-    l = _mm_add_pd(r, _mm_add_pd(_mm_mul_pd(r2, p), tail));
+    t = _mm_add_pd(_mm_mul_pd(r2, p), tail);
+}
+
+template <LnLevel Lv>
+inline void LnCoreD(__m128d x, __m128d& h, __m128d& l) {
+    __m128d r, t;
+    LnCoreD3<Lv>(x, h, r, t);
+    l = _mm_add_pd(r, t);
 }
 
 // Splits a into a high part of 26 bits and the rest (Veltkamp), for exact products.
@@ -96,11 +104,14 @@ inline void SplitD(__m128d a, __m128d& hi, __m128d& lo) {
     lo = _mm_sub_pd(a, hi);
 }
 
-// (H + L) * (ch + cl) rounded once in effect: s*ch exactly (Dekker; ch has 26 bits, so
+// (h + r + t) * (ch + cl) rounded once in effect: s*ch exactly (Dekker; ch has 26 bits, so
 // both partial products are exact), the rest as a small correction.
-inline __m128d ScaleLogD(__m128d h, __m128d l, double ch, double cl) {
-    __m128d s = _mm_add_pd(h, l);
-    __m128d e = _mm_add_pd(_mm_sub_pd(h, s), l);
+inline __m128d ScaleLogD(__m128d h, __m128d r, __m128d t, double ch, double cl) {
+    // s + e = h + r + t, the sum h + r carried exactly (Knuth).
+    __m128d s = _mm_add_pd(h, r);
+    __m128d bb = _mm_sub_pd(s, h);
+    __m128d err = _mm_add_pd(_mm_sub_pd(h, _mm_sub_pd(s, bb)), _mm_sub_pd(r, bb));
+    __m128d e = _mm_add_pd(err, t);
     __m128d sh, sl;
     SplitD(s, sh, sl);
     const __m128d c = _mm_set1_pd(ch);
