@@ -38,6 +38,8 @@ constexpr double kSinLA[7] = {-0.16666666666666186,    0.0083333333332855416,
 // sin or cos of a = |x| below 2^24 by the pi reduction, without the sign of x.
 template <Level L>
 inline __m128d ShortPi(__m128d a, bool cosine) {
+    // Lanes above the limit are the large path's: clamped, they raise no flag here.
+    a = _mm_min_pd(a, _mm_set1_pd(16777216.0));
     const __m128d shifter = _mm_set1_pd(kShifterD);
     __m128d t = _mm_mul_pd(a, _mm_set1_pd(0.31830988618379069));
     if (cosine) t = _mm_add_pd(t, _mm_set1_pd(0.5));
@@ -68,7 +70,7 @@ inline __m128d ShortPi(__m128d a, bool cosine) {
 inline __m128d ByTable(__m128d a, bool cosine) {
     alignas(16) int32_t J[2], K[2];
     __m128d rh, rl;
-    ShortD(a, J, rh, rl, cosine ? 32 : 0);
+    ShortD(_mm_min_pd(a, _mm_set1_pd(16777216.0)), J, rh, rl, cosine ? 32 : 0);
     int big = LargeLanesD(a, kLimitD);
     if (__builtin_expect(big != 0, 0)) {
         __m128d bh, bl;
@@ -134,12 +136,14 @@ struct Both {
         if constexpr (L == Level::HA) {
             // j as in ShortD, by the double shifter; the rest in x87 arithmetic.
             const __m128d shifter = _mm_set1_pd(kShifterD);
-            __m128d t = _mm_add_pd(_mm_mul_pd(a, _mm_set1_pd(k64OverPi)), shifter);
+            __m128d t = _mm_add_pd(
+                _mm_mul_pd(_mm_min_pd(a, _mm_set1_pd(16777216.0)), _mm_set1_pd(k64OverPi)),
+                shifter);
             __m128i ti = _mm_castpd_si128(t);
             J[0] = _mm_cvtsi128_si32(ti) & 127;
             J[1] = _mm_extract_epi32(ti, 2) & 127;
             alignas(16) double av[2], jv[2], hv[2], lv[2];
-            _mm_store_pd(av, a);
+            _mm_store_pd(av, _mm_min_pd(a, _mm_set1_pd(16777216.0)));
             _mm_store_pd(jv, _mm_sub_pd(t, shifter));
             for (int k = 0; k < 2; ++k) {
                 // a - j C0 and - j C1 are exact; the last product is rounded once.
@@ -154,7 +158,7 @@ struct Both {
             rh = _mm_load_pd(hv);
             rl = _mm_load_pd(lv);
         } else {
-            ShortD(a, J, rh, rl, 0);
+            ShortD(_mm_min_pd(a, _mm_set1_pd(16777216.0)), J, rh, rl, 0);
         }
         int big = LargeLanesD(a, kLimitD);
         if (__builtin_expect(big != 0, 0)) {

@@ -65,6 +65,8 @@ inline __m128 Narrow(__m128d d0, __m128d d1) {
 // sign of x.
 template <Level L>
 inline __m128 Short(__m128 a, bool cosine) {
+    // Lanes above the limit are the large path's: clamped, they raise no flag here.
+    a = _mm_min_ps(a, F(kLimitS));
     const __m128 shifter = _mm_set1_ps(kShifterS);
     __m128 t = _mm_mul_ps(a, F(0x3EA2F983));
     if (cosine) t = _mm_add_ps(t, _mm_set1_ps(0.5f));

@@ -81,12 +81,14 @@ struct TanS {
         special = InfNanS(a);
         __m128 p;
         if constexpr (L == Level::EP) {
+            // Lanes above the limit are the large path's: clamped, they raise no flag.
+            __m128 as = _mm_min_ps(a, F(kLimitTanS));
             const __m128 shifter = _mm_set1_ps(kShifterS);
-            __m128 t = _mm_add_ps(_mm_mul_ps(a, F(0x3F22F983)), shifter);
+            __m128 t = _mm_add_ps(_mm_mul_ps(as, F(0x3F22F983)), shifter);
             __m128 odd = _mm_castsi128_ps(_mm_cmpeq_epi32(
                 _mm_and_si128(_mm_castps_si128(t), _mm_set1_epi32(1)), _mm_set1_epi32(1)));
             __m128 n = _mm_sub_ps(t, shifter);
-            __m128 r = _mm_sub_ps(a, _mm_mul_ps(n, F(0x3FC90000)));
+            __m128 r = _mm_sub_ps(as, _mm_mul_ps(n, F(0x3FC90000)));
             r = _mm_sub_ps(r, _mm_mul_ps(n, F(0x39FDA000)));
             r = _mm_sub_ps(r, _mm_mul_ps(n, F(0x33A22169)));
             __m128 u = _mm_mul_ps(r, r);

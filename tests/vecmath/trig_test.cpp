@@ -1,0 +1,247 @@
+// The trigonometric rows: huge arguments through the vector reduction at every
+// exponent, the seam between the short and the large path, blocks that mix huge and
+// small lanes, exact values (zeros, cos 0), statuses of infinities and NaN, and no
+// spurious flags. References are the C library's long double functions, whose error is
+// far below a single or double ulp.
+#include <cfloat>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "tests/vecmath/kernels.h"
+
+namespace brenn::test {
+namespace {
+
+constexpr int kSlots = 3; // LA, HA, EP
+
+enum class Fn { Sin, Cos, Tan };
+
+long double Ref(Fn f, long double x) {
+    switch (f) {
+    case Fn::Sin:
+        return sinl(x);
+    case Fn::Cos:
+        return cosl(x);
+    default:
+        return tanl(x);
+    }
+}
+
+// Whether got is within the slot's bound of ref: ulps at LA and HA, relative bits at EP.
+template <class T>
+bool WithinLevel(int slot, T got, long double ref, double* err) {
+    if (slot == 2) {
+        long double rel =
+            ref == 0 ? fabsl((long double)got) : fabsl(((long double)got - ref) / ref);
+        *err = rel == 0 ? 999 : -std::log2((double)rel);
+        return *err >= (sizeof(T) == 4 ? 11 : 26);
+    }
+    *err = UlpError(got, ref);
+    return *err <= (slot == 1 ? 1.0 : 4.0);
+}
+
+struct RowCase {
+    const char* name;
+    Fn fn;
+};
+const RowCase kSingle[] = {{"sSin", Fn::Sin}, {"sCos", Fn::Cos}, {"sTan", Fn::Tan}};
+const RowCase kDouble[] = {{"dSin", Fn::Sin}, {"dCos", Fn::Cos}, {"dTan", Fn::Tan}};
+
+template <class T>
+std::vector<T> Call(const char* row, int slot, const std::vector<T>& x) {
+    std::vector<T> y(x.size());
+    As<Unary<T>>(Slot(row, slot))(int(x.size()), x.data(), y.data());
+    return y;
+}
+
+template <class T>
+void ExpectAccurate(const RowCase& rc, int slot, const std::vector<T>& x) {
+    brenn_zar_kernel_SetErrStatus(0);
+    std::vector<T> y = Call(rc.name, slot, x);
+    EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 0) << rc.name;
+    int bad = 0;
+    for (size_t i = 0; i < x.size() && bad < 5; ++i) {
+        double err;
+        if (!WithinLevel(slot, y[i], Ref(rc.fn, x[i]), &err)) {
+            ++bad;
+            ADD_FAILURE() << rc.name << " slot " << slot << " x = " << std::hexfloat << x[i]
+                          << " got " << y[i] << " error " << std::defaultfloat << err;
+        }
+    }
+}
+
+// Every exponent of the format, random significands and signs: each row of the 1/pi
+// window table is used, and most through the vector large path.
+TEST(Trig, EveryExponentSingle) {
+    std::mt19937 gen(7);
+    std::vector<float> x;
+    for (uint32_t e = 1; e < 255; ++e)
+        for (int k = 0; k < 24; ++k)
+            x.push_back(__builtin_bit_cast(float, uint32_t((gen() & 0x807FFFFFu) | (e << 23))));
+    for (const RowCase& rc : kSingle)
+        for (int slot = 0; slot < kSlots; ++slot)
+            ExpectAccurate(rc, slot, x);
+}
+
+TEST(Trig, EveryExponentDouble) {
+    std::mt19937_64 gen(11);
+    std::vector<double> x;
+    for (uint64_t e = 1; e < 2047; e += 1)
+        for (int k = 0; k < 4; ++k)
+            x.push_back(
+                __builtin_bit_cast(double, uint64_t((gen() & 0x800FFFFFFFFFFFFFull) | (e << 52))));
+    for (const RowCase& rc : kDouble)
+        for (int slot = 0; slot < kSlots; ++slot)
+            ExpectAccurate(rc, slot, x);
+}
+
+// The named huge arguments, the seam at the single limit 10000 (short path) and the
+// next float (large path), and the arguments nearest to multiples of pi/2 in single,
+// where the reduction cancels most.
+TEST(Trig, HugeAndSeamArguments) {
+    std::vector<float> xs = {1e30f,
+                             -1e30f,
+                             FLT_MAX,
+                             10000.0f,
+                             std::nextafter(10000.0f, 2e4f),
+                             8256.0f,
+                             std::nextafter(8256.0f, 1e4f),
+                             16777216.0f,
+                             0x1.921fb6p+0f,
+                             0x1.921fb6p+1f,
+                             0x1.2d97c8p+3f,
+                             0x1.5fdbbep+7f,
+                             0x1.8eb246p+119f,
+                             0x1.b3a7e4p+27f};
+    for (const RowCase& rc : kSingle)
+        for (int slot = 0; slot < kSlots; ++slot)
+            ExpectAccurate(rc, slot, xs);
+    std::vector<double> xd = {1e300,
+                              -1e300,
+                              DBL_MAX,
+                              16777216.0,
+                              std::nextafter(16777216.0, 2e7),
+                              0x1.921fb54442d18p+0,
+                              0x1.921fb54442d18p+1,
+                              0x1.6ac5b262ca1ffp+849,
+                              0x1.8a5b0a6f7f2b7p+1023 * 0.5};
+    for (const RowCase& rc : kDouble)
+        for (int slot = 0; slot < kSlots; ++slot)
+            ExpectAccurate(rc, slot, xd);
+}
+
+// A block mixing one huge lane among small ones gives, lane for lane, the results that
+// each element gets alone: the masks keep each path's lanes apart.
+template <class T>
+void MixedMatchesAlone(const char* row) {
+    std::mt19937 gen(3);
+    std::uniform_real_distribution<T> small(-6, 6);
+    for (int hugeLane = 0; hugeLane < 16; ++hugeLane) {
+        std::vector<T> x(16);
+        for (T& v : x)
+            v = small(gen);
+        x[hugeLane] = sizeof(T) == 4 ? T(3.3e27) : T(4.4e250);
+        for (int slot = 0; slot < kSlots; ++slot) {
+            std::vector<T> y = Call(row, slot, x);
+            for (int i = 0; i < 16; ++i) {
+                std::vector<T> one = Call(row, slot, std::vector<T>{x[i]});
+                EXPECT_TRUE(SameValue(y[i], one[0]))
+                    << row << " slot " << slot << " lane " << i << " huge lane " << hugeLane;
+            }
+        }
+    }
+}
+
+TEST(Trig, MixedBlocksMatchElementsAlone) {
+    for (const char* r : {"sSin", "sCos", "sTan"})
+        MixedMatchesAlone<float>(r);
+    for (const char* r : {"dSin", "dCos", "dTan"})
+        MixedMatchesAlone<double>(r);
+}
+
+TEST(Trig, SinCosMatchesItsParts) {
+    std::vector<float> xs = {0.0f, -0.0f, 0.5f, -3.0f, 10000.0f, 1e30f, -7e12f};
+    std::vector<double> xd = {0.0, -0.0, 0.5, -3.0, 1e7, 1e300, -7e100};
+    for (int slot = 0; slot < kSlots; ++slot) {
+        std::vector<float> s(xs.size()), c(xs.size());
+        As<TwoRes<float>>(Slot("sSinCos", slot))(int(xs.size()), xs.data(), s.data(), c.data());
+        for (size_t i = 0; i < xs.size(); ++i) {
+            double err;
+            EXPECT_TRUE(WithinLevel(slot, s[i], sinl(xs[i]), &err)) << xs[i];
+            EXPECT_TRUE(WithinLevel(slot, c[i], cosl(xs[i]), &err)) << xs[i];
+        }
+        std::vector<double> sd(xd.size()), cd(xd.size());
+        As<TwoRes<double>>(Slot("dSinCos", slot))(int(xd.size()), xd.data(), sd.data(), cd.data());
+        for (size_t i = 0; i < xd.size(); ++i) {
+            double err;
+            EXPECT_TRUE(WithinLevel(slot, sd[i], sinl(xd[i]), &err)) << xd[i];
+            EXPECT_TRUE(WithinLevel(slot, cd[i], cosl(xd[i]), &err)) << xd[i];
+        }
+        EXPECT_EQ(Bits(s[1]), Bits(-0.0f));
+        EXPECT_EQ(c[0], 1.0f);
+        EXPECT_EQ(Bits(sd[1]), Bits(-0.0));
+        EXPECT_EQ(cd[0], 1.0);
+    }
+}
+
+// Signed zeros stay for the odd functions; cos 0 is exactly 1.
+TEST(Trig, ExactValuesAtZero) {
+    for (int slot = 0; slot < kSlots; ++slot) {
+        for (const char* r : {"sSin", "sTan"}) {
+            std::vector<float> y = Call(r, slot, std::vector<float>{-0.0f, 0.0f});
+            EXPECT_EQ(Bits(y[0]), Bits(-0.0f)) << r << slot;
+            EXPECT_EQ(Bits(y[1]), Bits(0.0f)) << r << slot;
+        }
+        for (const char* r : {"dSin", "dTan"}) {
+            std::vector<double> y = Call(r, slot, std::vector<double>{-0.0, 0.0});
+            EXPECT_EQ(Bits(y[0]), Bits(-0.0)) << r << slot;
+            EXPECT_EQ(Bits(y[1]), Bits(0.0)) << r << slot;
+        }
+        EXPECT_EQ(Call("sCos", slot, std::vector<float>{0.0f, -0.0f}), (std::vector<float>{1, 1}));
+        EXPECT_EQ(Call("dCos", slot, std::vector<double>{0.0, -0.0}), (std::vector<double>{1, 1}));
+    }
+}
+
+// Infinities give NaN with status 1 and raise invalid; NaN passes quietly with status 0;
+// finite arguments of any size leave no invalid flag and no status.
+template <class T>
+void Specials(const char* row) {
+    for (int slot = 0; slot < kSlots; ++slot) {
+        for (T inf : {T(INFINITY), T(-INFINITY)}) {
+            brenn_zar_kernel_SetErrStatus(0);
+            CsrScope csr(0x1F80);
+            std::vector<T> y = Call(row, slot, std::vector<T>{T(1), inf, T(2)});
+            EXPECT_TRUE(std::isnan(y[1])) << row << slot;
+            EXPECT_FALSE(std::isnan(y[0]) || std::isnan(y[2])) << row << slot;
+            EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 1) << row << slot;
+            EXPECT_TRUE(_mm_getcsr() & 1) << row << slot;
+        }
+        brenn_zar_kernel_SetErrStatus(0);
+        std::vector<T> y = Call(row, slot, std::vector<T>{T(NAN), T(-NAN)});
+        EXPECT_TRUE(std::isnan(y[0]) && std::isnan(y[1])) << row << slot;
+        EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 0) << row << slot;
+        CsrScope csr(0x1F80);
+        std::vector<T> x;
+        for (int k = 0; k < 37; ++k)
+            x.push_back(T(k % 2 ? -1 : 1) * std::pow(T(7), T(k % 14)) * T(k + 1));
+        x.push_back(sizeof(T) == 4 ? T(FLT_MAX) : T(DBL_MAX));
+        Call(row, slot, x);
+        EXPECT_FALSE(_mm_getcsr() & 1) << row << slot;
+        EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 0) << row << slot;
+    }
+}
+
+TEST(Trig, InfinityNaNAndFlags) {
+    brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_IGNORE);
+    for (const char* r : {"sSin", "sCos", "sTan"})
+        Specials<float>(r);
+    for (const char* r : {"dSin", "dCos", "dTan"})
+        Specials<double>(r);
+    brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);
+}
+
+} // namespace
+} // namespace brenn::test
