@@ -52,7 +52,7 @@ size_t Claimed(std::vector<uint8_t>& b) {
         }
         if (need > kMaxClaim) return 0;
         if (inside) return need;
-        b.resize(need + 64, 0);
+        b.resize(need + 64 > 2 * b.size() ? need + 64 : 2 * b.size(), 0); // geometric growth
     }
 }
 
