@@ -1,0 +1,349 @@
+// The exponential and logarithm rows: the values and statuses at their limits (overflow,
+// underflow, denormal results, poles, domain errors), the special values the family
+// shares, error mode 0x2000 (overflow and underflow settled in the vector path without a
+// flag or a status, NaN lanes still by the scalar routine), the index a report carries,
+// every length and alignment against the scalar routine's answers, and the scalar set-up
+// logarithms __qesdLn and __qessLn.
+#include <cfloat>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <random>
+#include <vector>
+#include <xmmintrin.h>
+
+#include "frame/dispatch.h"
+#include "tests/vecmath/kernels.h"
+#include "vecmath/explog/scalar_log.h"
+
+namespace brenn::test {
+namespace {
+
+using frame::RowIndex;
+
+template <class T>
+Unary<T> K(RowIndex row, int slot) {
+    return reinterpret_cast<Unary<T>>((&BrennDispatchTable[row].kernelLA)[slot]);
+}
+
+constexpr int kSlots[] = {frame::SlotLA, frame::SlotHA, frame::SlotEP};
+
+// One element through a slot: its result and the status it leaves.
+template <class T>
+T Call(RowIndex row, int slot, T x, int* status = nullptr) {
+    brenn_zar_kernel_SetErrStatus(0);
+    T y;
+    K<T>(row, slot)(1, &x, &y);
+    if (status) *status = brenn_zar_kernel_GetErrStatus();
+    return y;
+}
+
+struct ModeScope {
+    uint32_t saved;
+    explicit ModeScope(uint32_t errorMode) : saved(brenn_zar_kernel_SetMode(errorMode)) {}
+    ~ModeScope() { brenn_zar_kernel_SetMode(saved); }
+};
+
+const RowIndex kExpRowsS[] = {frame::Row_sExp, frame::Row_sExp2, frame::Row_sExp10};
+const RowIndex kExpRowsD[] = {frame::Row_dExp, frame::Row_dExp2, frame::Row_dExp10};
+const RowIndex kLogRowsS[] = {frame::Row_sLn, frame::Row_sLog10, frame::Row_sLog2};
+const RowIndex kLogRowsD[] = {frame::Row_dLn, frame::Row_dLog10, frame::Row_dLog2};
+
+TEST(ExpLog, ExpAtTheEdgesOfTheSingleRange) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    const float last = 88.72283172607422f;
+    for (int slot : kSlots) {
+        int status;
+        float y = Call(frame::Row_sExp, slot, last, &status);
+        EXPECT_TRUE(std::isfinite(y)) << slot;
+        EXPECT_EQ(status, 0);
+        y = Call(frame::Row_sExp, slot, std::nextafter(last, 100.0f), &status);
+        EXPECT_EQ(y, INFINITY);
+        EXPECT_EQ(status, 3);
+        // A denormal result is correct to the last place and counts as underflow.
+        y = Call(frame::Row_sExp, slot, -100.0f, &status);
+        EXPECT_EQ(status, 4) << slot;
+        EXPECT_EQ(std::fpclassify(y), FP_SUBNORMAL);
+        EXPECT_LE(UlpError(y, expl(-100.0L)), 1.0) << slot;
+        y = Call(frame::Row_sExp, slot, -104.0f, &status);
+        EXPECT_EQ(Bits(y), 0u);
+        EXPECT_EQ(status, 4);
+        // Every exponential is exactly 1 at both zeros and leaves no status.
+        for (RowIndex r : kExpRowsS)
+            for (float z : {0.0f, -0.0f}) {
+                EXPECT_EQ(Call(r, slot, z, &status), 1.0f);
+                EXPECT_EQ(status, 0);
+            }
+    }
+}
+
+TEST(ExpLog, ExpAtTheEdgesOfTheDoubleRange) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    const double last = 709.78271289338397;
+    for (int slot : kSlots) {
+        int status;
+        EXPECT_TRUE(std::isfinite(Call(frame::Row_dExp, slot, last, &status)));
+        EXPECT_EQ(status, 0);
+        EXPECT_EQ(Call(frame::Row_dExp, slot, std::nextafter(last, 1e3), &status), INFINITY);
+        EXPECT_EQ(status, 3);
+        double y = Call(frame::Row_dExp, slot, -740.0, &status);
+        EXPECT_EQ(status, 4);
+        EXPECT_EQ(std::fpclassify(y), FP_SUBNORMAL);
+        EXPECT_LE(UlpError(y, expl(-740.0L)), 1.0);
+        EXPECT_EQ(Call(frame::Row_dExp, slot, -746.0, &status), 0.0);
+        EXPECT_EQ(status, 4);
+        for (RowIndex r : kExpRowsD)
+            EXPECT_EQ(Call(r, slot, -0.0, &status), 1.0);
+        // Exp2 is exact at integers, down into the denormals, and overflows at 1024.
+        EXPECT_EQ(Call(frame::Row_dExp2, slot, -1074.0, &status), 5e-324);
+        EXPECT_EQ(status, 4);
+        EXPECT_EQ(Call(frame::Row_dExp2, slot, 1023.0, &status), 0x1p1023);
+        EXPECT_EQ(Call(frame::Row_dExp2, slot, 1024.0, &status), INFINITY);
+        EXPECT_EQ(status, 3);
+        EXPECT_EQ(Call(frame::Row_sExp2, slot, -149.0f, &status), FLT_TRUE_MIN);
+        EXPECT_EQ(Call(frame::Row_sExp10, slot, 10.0f, &status), 1e10f);
+        EXPECT_EQ(Call(frame::Row_dExp10, slot, 22.0, &status), 1e22);
+    }
+}
+
+TEST(ExpLog, InfinitiesAndNaNOfTheExponentials) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    for (int slot : kSlots) {
+        int status;
+        for (RowIndex r : kExpRowsS) {
+            EXPECT_EQ(Call(r, slot, INFINITY, &status), INFINITY);
+            EXPECT_EQ(Bits(Call(r, slot, -INFINITY, &status)), 0u);
+            EXPECT_EQ(status, 0);
+            EXPECT_TRUE(std::isnan(Call(r, slot, std::numeric_limits<float>::signaling_NaN())));
+        }
+        for (RowIndex r : kExpRowsD) {
+            EXPECT_EQ(Bits(Call(r, slot, -INFINITY, &status)), 0u);
+            EXPECT_TRUE(std::isnan(Call(r, slot, double(NAN), &status)));
+            EXPECT_EQ(status, 0);
+        }
+        // Expm1: -1 at -inf, the sign of zero kept, x itself for tiny x, no status for
+        // large negative x.
+        EXPECT_EQ(Call(frame::Row_sExpm1, slot, -INFINITY), -1.0f);
+        EXPECT_EQ(Call(frame::Row_sExpm1, slot, -200.0f, &status), -1.0f);
+        EXPECT_EQ(status, 0);
+        EXPECT_EQ(Bits(Call(frame::Row_sExpm1, slot, -0.0f)), Bits(-0.0f));
+        EXPECT_EQ(Bits(Call(frame::Row_dExpm1, slot, -0.0)), Bits(-0.0));
+        EXPECT_EQ(Call(frame::Row_dExpm1, slot, 1e-300), 1e-300);
+        EXPECT_EQ(Call(frame::Row_dExpm1, slot, 710.0, &status), INFINITY);
+        EXPECT_EQ(status, 3);
+        EXPECT_EQ(Call(frame::Row_sExpm1, slot, 89.0f, &status), INFINITY);
+        EXPECT_EQ(status, 3);
+    }
+}
+
+TEST(ExpLog, LogarithmsOfSpecialInputs) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    for (int slot : kSlots) {
+        int status;
+        for (RowIndex r : kLogRowsS) {
+            // x = 1 gives k = 0 and r = 0: exactly +0.
+            EXPECT_EQ(Bits(Call(r, slot, 1.0f, &status)), 0u) << r << " " << slot;
+            EXPECT_EQ(status, 0);
+            for (float z : {0.0f, -0.0f}) {
+                EXPECT_EQ(Call(r, slot, z, &status), -INFINITY);
+                EXPECT_EQ(status, 2);
+            }
+            for (float neg : {-1.0f, -FLT_TRUE_MIN, -INFINITY}) {
+                EXPECT_TRUE(std::isnan(Call(r, slot, neg, &status)));
+                EXPECT_EQ(status, 1);
+            }
+            EXPECT_EQ(Call(r, slot, INFINITY, &status), INFINITY);
+            EXPECT_EQ(status, 0);
+            EXPECT_TRUE(std::isnan(Call(r, slot, NAN, &status)));
+            EXPECT_EQ(status, 0);
+        }
+        for (RowIndex r : kLogRowsD) {
+            EXPECT_EQ(Bits(Call(r, slot, 1.0, &status)), 0u);
+            EXPECT_EQ(Call(r, slot, -0.0, &status), -INFINITY);
+            EXPECT_EQ(status, 2);
+            EXPECT_TRUE(std::isnan(Call(r, slot, -1e-300, &status)));
+            EXPECT_EQ(status, 1);
+        }
+        // Denormal inputs have their correct logarithm and no status.
+        float y = Call(frame::Row_sLn, slot, FLT_TRUE_MIN, &status);
+        EXPECT_EQ(status, 0);
+        EXPECT_LE(UlpError(y, logl((long double)FLT_TRUE_MIN)), 1.0);
+        EXPECT_EQ(Call(frame::Row_sLog2, slot, FLT_TRUE_MIN), -149.0f);
+        EXPECT_EQ(Call(frame::Row_dLog2, slot, 5e-324), -1074.0);
+        EXPECT_LE(UlpError(Call(frame::Row_dLn, slot, 5e-324), logl((long double)5e-324)), 1.0);
+        // 2/3 on both sides of the split's centre: no jump (EP has its 11 bits only).
+        float c = 2.0f / 3.0f;
+        double bound = slot == frame::SlotEP ? 8192.0 : 4.0;
+        for (float v : {std::nextafter(c, 0.0f), c, std::nextafter(c, 1.0f)})
+            EXPECT_LE(UlpError(Call(frame::Row_sLn, slot, v), logl(v)), bound) << v;
+    }
+}
+
+TEST(ExpLog, Log1pAndLogb) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    for (int slot : kSlots) {
+        int status;
+        EXPECT_EQ(Call(frame::Row_sLog1p, slot, 1e-30f, &status), 1e-30f);
+        EXPECT_EQ(status, 0);
+        EXPECT_EQ(Call(frame::Row_sLog1p, slot, FLT_TRUE_MIN), FLT_TRUE_MIN);
+        EXPECT_EQ(Bits(Call(frame::Row_sLog1p, slot, -0.0f)), Bits(-0.0f));
+        EXPECT_EQ(Call(frame::Row_dLog1p, slot, 1e-300), 1e-300);
+        EXPECT_EQ(Call(frame::Row_sLog1p, slot, -1.0f, &status), -INFINITY);
+        EXPECT_EQ(status, 2);
+        EXPECT_TRUE(std::isnan(Call(frame::Row_dLog1p, slot, -2.0, &status)));
+        EXPECT_EQ(status, 1);
+        EXPECT_EQ(Call(frame::Row_dLog1p, slot, -1.0, &status), -INFINITY);
+        EXPECT_EQ(status, 2);
+        // The rounding of 1 + x is recovered: log1p(2^-30 + 2^-60) keeps the low part.
+        double x = 0x1p-30 + 0x1p-60;
+        EXPECT_LE(UlpError(Call(frame::Row_dLog1p, slot, x), log1pl(x)), 1.0);
+
+        EXPECT_EQ(Call(frame::Row_sLogb, slot, -0.0f, &status), -INFINITY);
+        EXPECT_EQ(status, 2);
+        EXPECT_EQ(Call(frame::Row_sLogb, slot, FLT_TRUE_MIN, &status), -149.0f);
+        EXPECT_EQ(status, 0);
+        EXPECT_EQ(Call(frame::Row_sLogb, slot, -6.0f), 2.0f);
+        EXPECT_EQ(Call(frame::Row_sLogb, slot, -INFINITY), INFINITY);
+        EXPECT_EQ(Call(frame::Row_dLogb, slot, 5e-324), -1074.0);
+        EXPECT_EQ(Call(frame::Row_dLogb, slot, 0x1.8p-1000), -1000.0);
+    }
+}
+
+// In error mode exactly 0x2000 overflow and underflow lanes are blended in the vector
+// path: no scalar routine runs, so neither the overflow nor the underflow flag of the
+// scalar routine's arithmetic appears, and no status is left. NaN lanes and lanes
+// between the body's limit and the overflow limit still get the scalar routine's value.
+template <class T>
+void CheckNoErrorMode(RowIndex row, T over, T under) {
+    constexpr T kNaN = std::numeric_limits<T>::quiet_NaN();
+    std::vector<T> x = {T(1), over, T(2), under, kNaN, T(-1), over, T(0.5), under, T(3)};
+    for (int slot : kSlots) {
+        std::vector<T> y(x.size());
+        unsigned flags;
+        {
+            ModeScope mode(BRENN_MODE_ERRMODE_NOERR);
+            CsrScope csr(0x1F80);
+            brenn_zar_kernel_SetErrStatus(0);
+            K<T>(row, slot)(int(x.size()), x.data(), y.data());
+            flags = _mm_getcsr() & 0x3F;
+            EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 0);
+        }
+        EXPECT_EQ(flags & 0x18, 0u) << "overflow or underflow raised, slot " << slot;
+        EXPECT_EQ(y[1], T(INFINITY));
+        EXPECT_EQ(y[6], T(INFINITY));
+        EXPECT_EQ(Bits(y[3]), decltype(Bits(y[3]))(0));
+        EXPECT_TRUE(std::isnan(y[4]));
+        EXPECT_NEAR(y[2], T(std::exp(2.0)), T(1e-2)); // EP has 11 bits
+        // Any other error mode takes the scalar routine, whose arithmetic raises them.
+        {
+            ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+            CsrScope csr(0x1F80);
+            K<T>(row, slot)(int(x.size()), x.data(), y.data());
+            flags = _mm_getcsr() & 0x3F;
+            EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 4);
+        }
+        EXPECT_EQ(flags & 0x18, 0x18u) << slot;
+    }
+}
+
+TEST(ExpLog, ErrorModeNoneSettlesOverflowAndUnderflowInTheVectorPath) {
+    CheckNoErrorMode<float>(frame::Row_sExp, 200.0f, -200.0f);
+    CheckNoErrorMode<double>(frame::Row_dExp, 800.0, -800.0);
+    // Between the body's limit and the overflow limit: the scalar routine's value.
+    ModeScope mode(BRENN_MODE_ERRMODE_NOERR);
+    for (int slot : kSlots) {
+        float y = Call(frame::Row_sExp, slot, 88.0f);
+        EXPECT_LE(UlpError(y, expl(88.0L)), 4.0);
+        double d = Call(frame::Row_dExp, slot, -720.0);
+        EXPECT_LE(UlpError(d, expl(-720.0L)), 4.0);
+    }
+}
+
+// A report names the element by its index in the call, whatever the stage it was in.
+int gLastIndex = -1, gLastCode = 0;
+int Record(ErrorRecord* r) {
+    gLastIndex = r->index;
+    gLastCode = r->code;
+    r->r1 = 42.0; // the callback may replace the result
+    return 0;
+}
+
+TEST(ExpLog, ReportsCarryTheElementIndexAndTakeTheCallbackResult) {
+    ModeScope mode(BRENN_MODE_ERRMODE_CALLBACK);
+    ErrorCallback saved = brenn_zar_kernel_SetErrorCallBack(Record);
+    std::vector<float> x(21, 1.0f);
+    std::vector<float> y(21);
+    for (int at : {0, 5, 12, 20}) {
+        for (int slot : kSlots) {
+            std::fill(x.begin(), x.end(), 1.0f);
+            x[at] = 0.0f;
+            gLastIndex = -1;
+            K<float>(frame::Row_sLn, slot)(21, x.data(), y.data());
+            EXPECT_EQ(gLastIndex, at);
+            EXPECT_EQ(gLastCode, 2);
+            EXPECT_EQ(y[at], 42.0f);
+        }
+    }
+    brenn_zar_kernel_SetErrorCallBack(saved);
+}
+
+// Every length and alignment, in place too: each element as the row gives it alone.
+template <class T>
+void CheckLengths(RowIndex row) {
+    std::mt19937 gen(7);
+    std::uniform_real_distribution<double> u(-30, 30);
+    std::vector<T> base(64 + 4);
+    for (auto& v : base)
+        v = T(u(gen));
+    base[9] = T(1e6); // special lanes among good ones
+    base[17] = T(-0.0);
+    base[30] = std::numeric_limits<T>::quiet_NaN();
+    for (int slot : kSlots) {
+        std::vector<T> one(base.size());
+        for (size_t i = 0; i < base.size(); ++i)
+            one[i] = Call(row, slot, base[i]);
+        for (int off = 0; off < 4; ++off)
+            for (int n = 0; n <= 40; ++n) {
+                std::vector<T> y(base.size() + 2, T(-7));
+                K<T>(row, slot)(n, base.data() + off, y.data() + 1);
+                for (int i = 0; i < n; ++i)
+                    ASSERT_TRUE(SameValue(y[i + 1], one[i + off])) << n << " " << off << " " << i;
+                EXPECT_EQ(y[0], T(-7));
+                EXPECT_EQ(y[n + 1], T(-7));
+                std::vector<T> inplace(base.begin() + off, base.begin() + off + n);
+                K<T>(row, slot)(n, inplace.data(), inplace.data());
+                for (int i = 0; i < n; ++i)
+                    ASSERT_TRUE(SameValue(inplace[i], one[i + off]));
+            }
+    }
+}
+
+TEST(ExpLog, EveryLengthAlignmentAndAliasing) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    for (RowIndex r :
+         {frame::Row_sExp, frame::Row_sLn, frame::Row_sExpm1, frame::Row_sLog1p, frame::Row_sLog10})
+        CheckLengths<float>(r);
+    for (RowIndex r :
+         {frame::Row_dExp, frame::Row_dLn, frame::Row_dExpm1, frame::Row_dLog2, frame::Row_dLog1p})
+        CheckLengths<double>(r);
+}
+
+TEST(ExpLog, ScalarSetUpLogarithms) {
+    std::mt19937_64 gen(11);
+    for (int i = 0; i < 200000; ++i) {
+        uint64_t b = gen() & 0x7FFFFFFFFFFFFFFFull;
+        double x = __builtin_bit_cast(double, b);
+        if (!std::isfinite(x)) continue;
+        ASSERT_LE(UlpError(__qesdLn(x), logl(x)), 1.0) << x;
+        float f = __builtin_bit_cast(float, uint32_t(b >> 33));
+        if (std::isfinite(f)) ASSERT_LE(UlpError(__qessLn(f), logl(f)), 1.0) << f;
+    }
+    EXPECT_EQ(__qesdLn(1.0), 0.0);
+    EXPECT_EQ(__qesdLn(0.0), -INFINITY);
+    EXPECT_TRUE(std::isnan(__qesdLn(-1.0)));
+    EXPECT_EQ(__qesdLn(INFINITY), INFINITY);
+    EXPECT_EQ(__qessLn(-0.0f), -INFINITY);
+    EXPECT_TRUE(std::isnan(__qessLn(NAN)));
+}
+
+} // namespace
+} // namespace brenn::test
