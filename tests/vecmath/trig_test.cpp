@@ -243,5 +243,64 @@ TEST(Trig, InfinityNaNAndFlags) {
     brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);
 }
 
+// Degrees and units of pi: the reduction is exact, so whole multiples give exact zeros
+// and ones, and huge arguments (through the scalar routine's exact fmod) stay accurate.
+long double UnitRef(Fn f, bool degrees, long double x) {
+    long double r = fmodl(x, degrees ? 360.0L : 2.0L);
+    return Ref(f, r * (degrees ? 3.14159265358979323846264338327950288L / 180
+                               : 3.14159265358979323846264338327950288L));
+}
+
+template <class T>
+void UnitRows(const char (*rows)[8], bool degrees) {
+    const Fn fns[3] = {Fn::Sin, Fn::Cos, Fn::Tan};
+    std::vector<T> x = {T(0.25), T(-33.75), T(1e6) + T(0.375), T(16777216), T(1e30), T(-3e37)};
+    if (sizeof(T) == 8) x.insert(x.end(), {T(1e300), T(-0x1.8p60), T(123456789.125)});
+    for (int f = 0; f < 3; ++f)
+        for (int slot = 0; slot < kSlots; ++slot) {
+            brenn_zar_kernel_SetErrStatus(0);
+            std::vector<T> y = Call(rows[f], slot, x);
+            EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 0);
+            for (size_t i = 0; i < x.size(); ++i) {
+                long double ref = UnitRef(fns[f], degrees, fabsl(x[i]));
+                if (fns[f] != Fn::Cos && x[i] < 0) ref = -ref;
+                double err;
+                EXPECT_TRUE(WithinLevel(slot, y[i], ref, &err))
+                    << rows[f] << " slot " << slot << " x " << x[i] << " got " << y[i];
+            }
+        }
+}
+
+TEST(Trig, DegreesAndPiUnits) {
+    const char sd[3][8] = {"sSind", "sCosd", "sTand"}, sp[3][8] = {"sSinpi", "sCospi", "sTanpi"};
+    const char dd[3][8] = {"dSind", "dCosd", "dTand"}, dp[3][8] = {"dSinpi", "dCospi", "dTanpi"};
+    UnitRows<float>(sd, true);
+    UnitRows<float>(sp, false);
+    UnitRows<double>(dd, true);
+    UnitRows<double>(dp, false);
+    for (int slot = 0; slot < kSlots; ++slot) {
+        EXPECT_EQ(Call("sSind", slot, std::vector<float>{180, 360, 540, -180}),
+                  (std::vector<float>{0, 0, 0, 0}));
+        EXPECT_EQ(Call("sCosd", slot, std::vector<float>{0, 90, 180, 270}),
+                  (std::vector<float>{1, 0, -1, 0}));
+        EXPECT_EQ(Call("sTand", slot, std::vector<float>{45, -45, 135}),
+                  (std::vector<float>{1, -1, -1}));
+        EXPECT_EQ(Call("sSinpi", slot, std::vector<float>{1, 0.5, 1.5, 4194304}),
+                  (std::vector<float>{0, 1, -1, 0}));
+        EXPECT_EQ(Call("dSind", slot, std::vector<double>{180, 90, 1e300 - 1e300 + 720}),
+                  (std::vector<double>{0, 1, 0}));
+        EXPECT_EQ(Call("dCospi", slot, std::vector<double>{0, 0.5, 1, 0x1p60}),
+                  (std::vector<double>{1, 0, -1, 1}));
+        EXPECT_EQ(Bits(Call("sSind", slot, std::vector<float>{-0.0f})[0]), Bits(-0.0f));
+        EXPECT_EQ(Bits(Call("dTanpi", slot, std::vector<double>{-0.0})[0]), Bits(-0.0));
+    }
+    brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_IGNORE);
+    Specials<float>("sSind");
+    Specials<float>("sTanpi");
+    Specials<double>("dCosd");
+    Specials<double>("dSinpi");
+    brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);
+}
+
 } // namespace
 } // namespace brenn::test
