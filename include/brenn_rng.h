@@ -224,6 +224,10 @@ int32_t __qesBRngMT19937InitStream(int32_t method, void* stream, int32_t n, cons
 int32_t __qessBRngMT19937(void* stream, int32_t n, float* r, float a, float b);
 int32_t __qesdBRngMT19937(void* stream, int32_t n, double* r, double a, double b);
 int32_t __qesiBRngMT19937(void* stream, int32_t n, void* r);
+int32_t __qesBRngSFMT19937InitStream(int32_t method, void* stream, int32_t n, const void* params);
+int32_t __qessBRngSFMT19937(void* stream, int32_t n, float* r, float a, float b);
+int32_t __qesdBRngSFMT19937(void* stream, int32_t n, double* r, double a, double b);
+int32_t __qesiBRngSFMT19937(void* stream, int32_t n, void* r);
 
 /* Distribution generators: method, stream, n, result, parameters. */
 int32_t _qessRngUniform(int32_t method, void* stream, int32_t n, float* r, float a, float b);

@@ -1,0 +1,278 @@
+// SFMT19937 against the published reference output and a plain word-by-word
+// implementation written here: seeding with period certification, every cut of
+// a request (spilled words of a started group), the centred element forms, and
+// skip-ahead around the switch from Horner's scheme to the window, with every
+// remainder inside a group.
+#include <cstring>
+#include <random>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "brenn_rng.h"
+
+namespace {
+
+// ---- The reference: the published algorithm on plain 32-bit words ----------------
+
+struct RefSfmt {
+    uint32_t w[624];
+    int index = 624;
+
+    explicit RefSfmt(std::vector<uint32_t> key) {
+        if (key.empty()) key = {1};
+        const int size = 624, lag = 11, mid = 306;
+        for (auto& x : w)
+            x = 0x8B8B8B8Bu;
+        auto f1 = [](uint32_t x) { return (x ^ (x >> 27)) * 1664525u; };
+        auto f2 = [](uint32_t x) { return (x ^ (x >> 27)) * 1566083941u; };
+        size_t count = std::max<size_t>(key.size() + 1, size);
+        uint32_t r = f1(w[0] ^ w[mid] ^ w[size - 1]);
+        w[mid] += r;
+        r += static_cast<uint32_t>(key.size());
+        w[mid + lag] += r;
+        w[0] = r;
+        count--;
+        size_t i = 1, j = 0;
+        for (; j < count && j < key.size(); j++) {
+            r = f1(w[i] ^ w[(i + mid) % size] ^ w[(i + size - 1) % size]);
+            w[(i + mid) % size] += r;
+            r += key[j] + static_cast<uint32_t>(i);
+            w[(i + mid + lag) % size] += r;
+            w[i] = r;
+            i = (i + 1) % size;
+        }
+        for (; j < count; j++) {
+            r = f1(w[i] ^ w[(i + mid) % size] ^ w[(i + size - 1) % size]);
+            w[(i + mid) % size] += r;
+            r += static_cast<uint32_t>(i);
+            w[(i + mid + lag) % size] += r;
+            w[i] = r;
+            i = (i + 1) % size;
+        }
+        for (j = 0; j < size; j++) {
+            r = f2(w[i] + w[(i + mid) % size] + w[(i + size - 1) % size]);
+            w[(i + mid) % size] ^= r;
+            r -= static_cast<uint32_t>(i);
+            w[(i + mid + lag) % size] ^= r;
+            w[i] = r;
+            i = (i + 1) % size;
+        }
+        const uint32_t parity[4] = {1, 0, 0, 0x13C9E684u};
+        uint32_t inner = 0;
+        for (int k = 0; k < 4; k++)
+            inner ^= w[k] & parity[k];
+        for (int s = 16; s > 0; s >>= 1)
+            inner ^= inner >> s;
+        if (!(inner & 1)) w[0] ^= 1; // the first set bit of the parity words
+    }
+
+    // 128-bit shifts by bytes, as two 64-bit halves.
+    static void Shift(const uint32_t* in, uint32_t* out, bool left) {
+        uint64_t hi = (uint64_t{in[3]} << 32) | in[2], lo = (uint64_t{in[1]} << 32) | in[0];
+        uint64_t oh, ol;
+        if (left) {
+            oh = (hi << 8) | (lo >> 56);
+            ol = lo << 8;
+        } else {
+            ol = (lo >> 8) | (hi << 56);
+            oh = hi >> 8;
+        }
+        out[0] = static_cast<uint32_t>(ol);
+        out[1] = static_cast<uint32_t>(ol >> 32);
+        out[2] = static_cast<uint32_t>(oh);
+        out[3] = static_cast<uint32_t>(oh >> 32);
+    }
+
+    void Regenerate() {
+        const uint32_t mask[4] = {0xDFFFFFEFu, 0xDDFECB7Fu, 0xBFFAFFFFu, 0xBFFFFFF6u};
+        for (int g = 0; g < 156; ++g) {
+            uint32_t* a = w + 4 * g;
+            const uint32_t* b = w + 4 * ((g + 122) % 156);
+            const uint32_t* c = w + 4 * ((g + 154) % 156);
+            const uint32_t* d = w + 4 * ((g + 155) % 156);
+            uint32_t x[4], y[4];
+            Shift(a, x, true);
+            Shift(c, y, false);
+            for (int k = 0; k < 4; ++k)
+                a[k] = a[k] ^ x[k] ^ ((b[k] >> 11) & mask[k]) ^ y[k] ^ (d[k] << 18);
+        }
+    }
+
+    uint32_t Next() {
+        if (index == 624) {
+            Regenerate();
+            index = 0;
+        }
+        return w[index++];
+    }
+
+    std::vector<uint32_t> Take(size_t n) {
+        std::vector<uint32_t> v(n);
+        for (auto& x : v)
+            x = Next();
+        return v;
+    }
+};
+
+const std::vector<uint32_t> kKey = {0x1234, 0x5678, 0x9ABC, 0xDEF0};
+
+void* NewSfmt(const std::vector<uint32_t>& key) {
+    void* s = nullptr;
+    EXPECT_EQ(
+        __qesNewStreamEx(&s, QES_BRNG_SFMT19937, static_cast<int32_t>(key.size()), key.data()), 0);
+    return s;
+}
+
+std::vector<uint32_t> Words(void* s, int32_t n) {
+    std::vector<uint32_t> w(n > 0 ? n : 1);
+    EXPECT_EQ(__qesiBRngSFMT19937(s, n, w.data()), 0);
+    w.resize(n > 0 ? n : 0);
+    return w;
+}
+
+struct Tail {
+    int32_t position, spillPosition, spillCount;
+};
+Tail TailOf(void* s) {
+    Tail t;
+    const char* p = static_cast<const char*>(s) + 16 + 624 * 4;
+    std::memcpy(&t.position, p, 4);
+    std::memcpy(&t.spillPosition, p + 16, 4);
+    std::memcpy(&t.spillCount, p + 20, 4);
+    return t;
+}
+
+// ---- Known answers -----------------------------------------------------------------
+
+TEST(RngSfmt19937, PublishedReferenceOutput) {
+    // The published 64-bit outputs of the key {5, 4, 3, 2, 1}: each is two words,
+    // the earlier one in the low half.
+    const uint64_t published[] = {
+        2100341266307895239ull,  8344256300489757943ull,  15687933285484243894ull,
+        8268620370277076319ull,  12371852309826545459ull, 8800491541730110238ull,
+        18113268950100835773ull, 2886823658884438119ull,  3293667307248180724ull};
+    void* s = NewSfmt({5, 4, 3, 2, 1});
+    auto w = Words(s, 18);
+    for (int i = 0; i < 9; ++i)
+        EXPECT_EQ(w[2 * i] | (uint64_t{w[2 * i + 1]} << 32), published[i]) << i;
+    __qesDeleteStream(&s);
+    for (const auto& key : {kKey, std::vector<uint32_t>{5, 4, 3, 2, 1}, std::vector<uint32_t>{},
+                            std::vector<uint32_t>(700, 0x9E3779B9u)}) {
+        void* t = NewSfmt(key);
+        EXPECT_EQ(Words(t, 3000), RefSfmt(key).Take(3000));
+        __qesDeleteStream(&t);
+    }
+}
+
+// ---- Cutting a request -------------------------------------------------------------
+
+TEST(RngSfmt19937, ThreeAndFiveGiveTheEight) {
+    auto ref = RefSfmt(kKey).Take(8);
+    void* s = NewSfmt(kKey);
+    auto a = Words(s, 3);
+    Tail t = TailOf(s);
+    EXPECT_EQ(t.position, 4);
+    EXPECT_EQ(t.spillCount, 1);
+    EXPECT_EQ(t.spillPosition, 0);
+    auto b = Words(s, 5);
+    a.insert(a.end(), b.begin(), b.end());
+    EXPECT_EQ(a, ref);
+    EXPECT_EQ(TailOf(s).position % 4, 0);
+    __qesDeleteStream(&s);
+}
+
+TEST(RngSfmt19937, AnyCutGivesTheSameSequence) {
+    const std::vector<std::vector<int32_t>> cuts = {
+        {624, 1, 623, 625}, {625, 1, 1, 1, 1},  {1, 623, 1, 1248, 1249, 3},
+        {5001, 17, 2},      {0, 3, 0, 1501, 2}, {622, 3, 627, 1},
+        {1250, 1250, 2},    {2, 2, 2, 630},
+    };
+    for (const auto& cut : cuts) {
+        size_t total = 0;
+        for (int32_t c : cut)
+            total += c;
+        auto ref = RefSfmt(kKey).Take(total);
+        void* s = NewSfmt(kKey);
+        std::vector<uint32_t> got;
+        for (int32_t c : cut) {
+            auto w = Words(s, c);
+            got.insert(got.end(), w.begin(), w.end());
+        }
+        EXPECT_EQ(got, ref);
+        __qesDeleteStream(&s);
+    }
+    std::mt19937 rng(11);
+    auto ref = RefSfmt(kKey).Take(200000);
+    void* s = NewSfmt(kKey);
+    size_t at = 0;
+    while (at < ref.size()) {
+        int32_t c = static_cast<int32_t>(std::min<size_t>(rng() % 3000, ref.size() - at));
+        auto w = Words(s, c);
+        ASSERT_TRUE(std::equal(w.begin(), w.end(), ref.begin() + at)) << "at " << at;
+        at += c;
+    }
+    __qesDeleteStream(&s);
+}
+
+// ---- Element forms -----------------------------------------------------------------
+
+TEST(RngSfmt19937, CentredSignedRealForms) {
+    for (int len : {1, 3, 5, 624, 627, 1999}) {
+        auto ref = RefSfmt(kKey).Take(len);
+        void* s = NewSfmt(kKey);
+        void* t = NewSfmt(kKey);
+        std::vector<double> d(len);
+        std::vector<float> f(len);
+        ASSERT_EQ(__qesdBRngSFMT19937(s, len, d.data(), -2.0, 6.0), 0);
+        ASSERT_EQ(__qessBRngSFMT19937(t, len, f.data(), 1.0f, 2.0f), 0);
+        const float fs = static_cast<float>(1.0 * 0x1p-32), fm = 1.5f;
+        for (int i = 0; i < len; ++i) {
+            int32_t w = static_cast<int32_t>(ref[i]);
+            ASSERT_EQ(d[i], static_cast<double>(w) * (8.0 * 0x1p-32) + 2.0) << i;
+            ASSERT_EQ(f[i], static_cast<float>(w) * fs + fm) << i;
+        }
+        __qesDeleteStream(&s);
+        __qesDeleteStream(&t);
+    }
+}
+
+// ---- Jumps ----------------------------------------------------------------------------
+
+TEST(RngSfmt19937, SkipEqualsGenerateAndDiscard) {
+    const uint64_t g = 19968 * 4; // the Horner/window switch, in words
+    const uint64_t counts[] = {0,   1,     2,     3,     4, 5,     620,   623,   624,   625,    627,
+                               628, g - 4, g - 3, g - 1, g, g + 1, g + 2, g + 3, g + 4, 1000003};
+    auto seq = RefSfmt(kKey).Take(1000003 + 2000 + 1300);
+    for (size_t read : {size_t{0}, size_t{3}, size_t{6}, size_t{624}, size_t{1001}}) {
+        for (uint64_t c : counts) {
+            void* s = NewSfmt(kKey);
+            Words(s, static_cast<int32_t>(read));
+            ASSERT_EQ(__qesSkipAheadStream(s, c), 0);
+            auto w = Words(s, 1300);
+            ASSERT_TRUE(std::equal(w.begin(), w.end(), seq.begin() + read + c))
+                << "read " << read << " skip " << c;
+            __qesDeleteStream(&s);
+        }
+    }
+}
+
+TEST(RngSfmt19937, LongJumpsCommute) {
+    const uint64_t big = (uint64_t{1} << 40) + 3, other = 100001;
+    void* a = NewSfmt(kKey);
+    void* b = NewSfmt(kKey);
+    Words(a, 7);
+    Words(b, 7);
+    ASSERT_EQ(__qesSkipAheadStream(a, big), 0);
+    ASSERT_EQ(__qesSkipAheadStream(a, other), 0);
+    ASSERT_EQ(__qesSkipAheadStream(b, other), 0);
+    ASSERT_EQ(__qesSkipAheadStream(b, big), 0);
+    EXPECT_EQ(Words(a, 1000), Words(b, 1000));
+    EXPECT_EQ(__qesLeapfrogStream(a, 1, 4), QES_RNG_STATUS_NO_LEAPFROG);
+    uint64_t words[1] = {1};
+    EXPECT_EQ(__qesSkipAheadStreamEx(a, 1, words), QES_RNG_STATUS_NO_SKIPAHEAD_EX);
+    __qesDeleteStream(&a);
+    __qesDeleteStream(&b);
+}
+
+} // namespace
