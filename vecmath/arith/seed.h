@@ -2,7 +2,8 @@
  * on single values only, so the seed is taken on the significand (narrowed to single)
  * and the exponent is handled apart with integer arithmetic on the bits; the chains
  * that follow run in double. Only lanes that pass their kernel's range test (positive
- * or non-zero normals whose results stay normal) make sense here. */
+ * or non-zero normals whose results stay normal) make sense here. Also the range test
+ * of those chains, on the high words of the lanes. */
 #ifndef BRENN_VECMATH_ARITH_SEED_H
 #define BRENN_VECMATH_ARITH_SEED_H
 
@@ -10,33 +11,63 @@
 
 namespace brenn::vm {
 
-// About 1/x to 12 bits, for |x| with biased exponent 1 to 2045 (so 1/x is normal).
-inline __m128d ReciprocalSeed(__m128d x) {
-    __m128i xi = _mm_castpd_si128(x);
-    // Significand with x's sign in [1, 2).
-    __m128i m = _mm_or_si128(_mm_and_si128(xi, _mm_set1_epi64x(0x800FFFFFFFFFFFFFll)),
-                             _mm_set1_epi64x(0x3FF0000000000000ll));
-    __m128d r = _mm_cvtps_pd(_mm_rcp_ps(_mm_cvtpd_ps(_mm_castsi128_pd(m))));
-    // 2^-E has the biased exponent 2046 - Eb.
-    __m128i e = _mm_and_si128(xi, _mm_set1_epi64x(0x7FF0000000000000ll));
-    __m128i s = _mm_sub_epi64(_mm_set1_epi64x(0x7FE0000000000000ll), e);
-    return _mm_mul_pd(r, _mm_castsi128_pd(s));
+// The double range test (bits(x) & mask) + offset > limit, signed, for a mask, offset
+// and limit whose low 32 bits are 0, 0 and all ones: the low words can then neither
+// carry into the high words nor decide the compare, so the test is the 32-bit compare
+// of the high words, which is cheaper than the 64-bit one. The low words are cleared
+// so that their compare (0 > 0x7FFFFFFF) is false: the mask is all ones in the high
+// word of a special lane and zero elsewhere, so that OR-ing it onto a double makes a
+// quiet NaN of that lane alone; its sign bits are those of the 64-bit test.
+inline __m128d HighWordTest(__m128d x, uint32_t mask, uint32_t offset, uint32_t limit) {
+    __m128i b = _mm_and_si128(_mm_castpd_si128(x), _mm_set1_epi64x(int64_t(mask) << 32));
+    b = _mm_add_epi32(b, _mm_set1_epi64x(int64_t(offset) << 32));
+    return _mm_castsi128_pd(
+        _mm_cmpgt_epi32(b, _mm_set1_epi64x(int64_t((uint64_t(limit) << 32) | 0x7FFFFFFFu))));
 }
 
-// About 1/sqrt(x) to 12 bits, for positive normal x. x = 2^(2q) * m with m in [1, 4):
-// the seed is rsqrt(m) scaled by 2^-q.
+// The approximate instructions see single values; a double's significand is moved into
+// a single's by shifts alone. Shifting the bits right by 29 puts the top 23 bits of the
+// significand in the low word's significand field (the low exponent bits land above
+// them and are masked off), and shifting a single result left by 29 puts its exponent
+// and significand back in the double's fields, with the single's exponent bias. The
+// low word of each lane carries the value; the high word is zero going in, its result
+// (the approximation of +0, an infinity with zero low bits) is shifted out. No
+// conversion and no multiplication is needed, and the exponent is then added as an
+// integer. `keep` selects the bits kept from x, `exponent` the single's exponent bits.
+inline __m128 SignificandAsSingle(__m128i xi, int64_t keep, int64_t exponent) {
+    __m128i t = _mm_and_si128(_mm_srli_epi64(xi, 29), _mm_set1_epi64x(keep));
+    return _mm_castsi128_ps(_mm_or_si128(t, _mm_set1_epi64x(exponent)));
+}
+// The double whose exponent field is `s` plus the single r's biased exponent.
+inline __m128d SingleScaled(__m128 r, __m128i s) {
+    return _mm_castsi128_pd(_mm_add_epi64(_mm_slli_epi64(_mm_castps_si128(r), 29), s));
+}
+
+// About 1/x to 12 bits, for |x| with biased exponent 1 to 2044 (so 1/x is normal).
+// With x = m * 2^(E-1023), m in [1, 2) truncated to single: r = rcp(m) has a single
+// exponent e8 of 126 or 127, and 1/x = r * 2^(1023-E), whose biased exponent is
+// e8 + 896 + 1023 - E, between 1 and 2045 in the range above. Subtracting x's sign and
+// exponent bits from that constant as one 64-bit integer puts x's sign on the result
+// too (the borrow into bit 63 is the sign).
+inline __m128d ReciprocalSeed(__m128d x) {
+    __m128i xi = _mm_castpd_si128(x);
+    __m128 r = _mm_rcp_ps(SignificandAsSingle(xi, 0x007FFFFF, 0x3F800000));
+    __m128i s = _mm_sub_epi64(_mm_set1_epi64x(int64_t(896 + 1023) << 52),
+                              _mm_and_si128(xi, _mm_set1_epi64x(int64_t(0xFFF0000000000000ull))));
+    return SingleScaled(r, s);
+}
+
+// About 1/sqrt(x) to 12 bits, for positive normal x. The low bit of x's biased exponent
+// E sits just above the 23 significand bits after the shift; kept, it makes the single
+// exponent 127 for odd E and 126 for even E, so that m is in [1, 2) or [0.5, 1) and
+// x = m * 2^(2q) with q = (E >> 1) - 511. r = rsqrt(m) has exponent e8 of 126 or 127,
+// and 1/sqrt(x) = r * 2^-q has the biased exponent e8 + 896 + 511 - (E >> 1).
 inline __m128d RootSeed(__m128d x) {
     __m128i xi = _mm_castpd_si128(x);
-    // m's biased exponent is 1023 for an odd biased exponent of x (even E), else 1024.
-    __m128i odd = _mm_and_si128(xi, _mm_set1_epi64x(0x0010000000000000ll));
-    __m128i me = _mm_sub_epi64(_mm_set1_epi64x(0x4000000000000000ll), odd);
-    __m128i m = _mm_or_si128(_mm_and_si128(xi, _mm_set1_epi64x(0x000FFFFFFFFFFFFFll)), me);
-    __m128d r = _mm_cvtps_pd(_mm_rsqrt_ps(_mm_cvtpd_ps(_mm_castsi128_pd(m))));
-    // High words of x - m hold 2q << 20 (low words cancel); halve with an arithmetic
-    // shift and subtract from the bias to get 2^-q.
-    __m128i q = _mm_srai_epi32(_mm_sub_epi32(xi, m), 1);
-    __m128i s = _mm_sub_epi32(_mm_set1_epi64x(0x3FF0000000000000ll), q);
-    return _mm_mul_pd(r, _mm_castsi128_pd(s));
+    __m128 r = _mm_rsqrt_ps(SignificandAsSingle(xi, 0x00FFFFFF, 0x3F000000));
+    __m128i half = _mm_and_si128(_mm_srli_epi64(xi, 1), _mm_set1_epi64x(0x3FF0000000000000ll));
+    __m128i s = _mm_sub_epi64(_mm_set1_epi64x(int64_t(896 + 511) << 52), half);
+    return SingleScaled(r, s);
 }
 
 // Dekker's exact product a*b = hi + lo (no FMA available), for |a|, |b| below 2^995.
