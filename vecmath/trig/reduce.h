@@ -53,10 +53,12 @@ inline void LargeS(__m128 a, int32_t J[4], __m128d& r0, __m128d& r1) {
     row[2] = reinterpret_cast<const uint32_t*>(base + _mm_extract_epi32(off, 2));
     row[3] = reinterpret_cast<const uint32_t*>(base + _mm_extract_epi32(off, 3));
     __m128i w[3]; // w[0] least significant
+#pragma GCC unroll 8
     for (int k = 0; k < 3; ++k)
         w[k] = _mm_set_epi32(int(row[3][2 - k]), int(row[2][2 - k]), int(row[1][2 - k]),
                              int(row[0][2 - k]));
     __m128i L[6];
+#pragma GCC unroll 8
     for (int k = 0; k < 3; ++k) {
         L[2 * k] = Lo16(w[k]);
         L[2 * k + 1] = Hi16(w[k]);
@@ -64,8 +66,10 @@ inline void LargeS(__m128 a, int32_t J[4], __m128d& r0, __m128d& r1) {
     __m128i m = _mm_or_si128(_mm_and_si128(b, _mm_set1_epi32(0x7FFFFF)), _mm_set1_epi32(0x800000));
     __m128i ml = Lo16(m), mh = Hi16(m);
     __m128i pl[6], ph[5];
+#pragma GCC unroll 8
     for (int k = 0; k < 6; ++k)
         pl[k] = _mm_mullo_epi32(ml, L[k]);
+#pragma GCC unroll 8
     for (int k = 0; k < 5; ++k)
         ph[k] = _mm_mullo_epi32(mh, L[k]);
     // Columns of 16 bits with carries: digit k has weight 2^(16k).
@@ -73,6 +77,7 @@ inline void LargeS(__m128 a, int32_t J[4], __m128d& r0, __m128d& r1) {
     __m128i col = Lo16(pl[0]);
     d[0] = Lo16(col);
     __m128i carry = Hi16(col);
+#pragma GCC unroll 8
     for (int k = 1; k < 6; ++k) {
         col = _mm_add_epi32(_mm_add_epi32(Lo16(pl[k]), Hi16(pl[k - 1])), Lo16(ph[k - 1]));
         if (k >= 2) col = _mm_add_epi32(col, Hi16(ph[k - 2]));
@@ -117,6 +122,7 @@ inline void LargeD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl) {
     const uint32_t* row0 = twoOverPiBits64[bits[0] >> 52];
     const uint32_t* row1 = twoOverPiBits64[bits[1] >> 52];
     __m128i w[6]; // w[0] least significant, one word in the low half of each 64-bit lane
+#pragma GCC unroll 8
     for (int k = 0; k < 6; ++k)
         w[k] = _mm_set_epi64x(row1[5 - k], row0[5 - k]);
     __m128i m = _mm_or_si128(_mm_and_si128(_mm_castpd_si128(a), _mm_set1_epi64x(0xFFFFFFFFFFFFFll)),
@@ -124,6 +130,7 @@ inline void LargeD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl) {
     __m128i ml = m, mh = _mm_srli_epi64(m, 32); // mul_epu32 reads the low 32 bits
     const __m128i low32 = _mm_set1_epi64x(0xFFFFFFFFll);
     __m128i pl[6], ph[6];
+#pragma GCC unroll 8
     for (int k = 0; k < 6; ++k) {
         pl[k] = _mm_mul_epu32(ml, w[k]);
         ph[k] = _mm_mul_epu32(mh, w[k]);
@@ -131,6 +138,7 @@ inline void LargeD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl) {
     // Columns of 32 bits: digit k has weight 2^(32k).
     __m128i d[6];
     __m128i carry = _mm_setzero_si128();
+#pragma GCC unroll 8
     for (int k = 0; k < 6; ++k) {
         __m128i col = _mm_add_epi64(_mm_and_si128(pl[k], low32), carry);
         if (k >= 1)
@@ -155,6 +163,7 @@ inline void LargeD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl) {
     _mm_store_si128(reinterpret_cast<__m128i*>(hv), hi);
     _mm_store_si128(reinterpret_cast<__m128i*>(lv), lo);
     alignas(16) double fh[2], fl[2];
+#pragma GCC unroll 8
     for (int k = 0; k < 2; ++k) {
         // Top 53 bits exactly (arithmetic shift: floor), the 11 below with lo.
         fh[k] = double(hv[k] >> 11) * 2048.0;
@@ -253,6 +262,7 @@ inline __m128 LargeSinS(__m128 a, bool cosine) {
     __m128d r0, r1;
     LargeS(a, J, r0, r1);
     if (cosine)
+#pragma GCC unroll 8
         for (int k = 0; k < 4; ++k)
             J[k] += 32;
     __m128d z = _mm_setzero_pd();

@@ -23,6 +23,7 @@ constexpr uint64_t kLimitD = 0x4170000000000000ull; // 2^24
 
 inline __m128d Poly(__m128d u, const double* c, int k) {
     __m128d p = _mm_set1_pd(c[k - 1]);
+#pragma GCC unroll 8
     for (int i = k - 2; i >= 0; --i)
         p = _mm_add_pd(_mm_set1_pd(c[i]), _mm_mul_pd(u, p));
     return p;
@@ -145,6 +146,7 @@ struct Both {
             alignas(16) double av[2], jv[2], hv[2], lv[2];
             _mm_store_pd(av, _mm_min_pd(a, _mm_set1_pd(16777216.0)));
             _mm_store_pd(jv, _mm_sub_pd(t, shifter));
+#pragma GCC unroll 8
             for (int k = 0; k < 2; ++k) {
                 // a - j C0 and - j C1 are exact; the last product is rounded once.
                 long double j = jv[k];

@@ -2,9 +2,10 @@
  *
  * Single EP: n = round(|x| 2/pi) by the shifter, r = |x| - n pi/2 with pi/2 in three
  * single parts, a rational form N/D on r; for n odd the result is -D/N. The division
- * is a reciprocal estimate with one Newton step. Single LA and HA: in double, the table
- * reduction at pi/64 and sin/cos by the table, divided. The short path holds to 8256;
- * lanes above take the vector large reduction in the same block.
+ * is a reciprocal estimate with one Newton step. Single LA and HA: the same quadrant
+ * reduction in double with pi/2 in two parts, sine and cosine series in double, and
+ * their quotient. The short path holds to 8256; lanes above take the vector large
+ * reduction in the same block.
  *
  * Double: the table reduction (vector large path above 2^24) gives sin and cos each as
  * two doubles; EP divides the sums, LA corrects the quotient once by its residual, HA
@@ -64,6 +65,33 @@ inline __m128 LaneMask(int bits) {
         _mm_set_epi32(bits & 8 ? -1 : 0, bits & 4 ? -1 : 0, bits & 2 ? -1 : 0, bits & 1 ? -1 : 0));
 }
 
+// tan of two magnitudes below 8256 (single arguments widened) in double: n = round(a
+// 2/pi), r = a - n pi/2 with pi/2 in two parts (n has at most 13 bits, the first part
+// 33, so n times it is exact), sine and cosine series on [-pi/4, pi/4] good to 2^-29,
+// and s/c or -c/s by the parity of n.
+inline __m128d QuadrantTan(__m128d a) {
+    const __m128d shifter = _mm_set1_pd(kShifterD);
+    __m128d t = _mm_add_pd(_mm_mul_pd(a, _mm_set1_pd(0.63661977236758138)), shifter);
+    __m128d odd = _mm_castsi128_pd(_mm_cmpeq_epi64(
+        _mm_and_si128(_mm_castpd_si128(t), _mm_set1_epi64x(1)), _mm_set1_epi64x(1)));
+    __m128d n = _mm_sub_pd(t, shifter);
+    __m128d r = _mm_sub_pd(a, _mm_mul_pd(n, _mm_set1_pd(1.5707963267923333)));
+    r = _mm_sub_pd(r, _mm_mul_pd(n, _mm_set1_pd(2.5633441515945189e-12)));
+    __m128d u = _mm_mul_pd(r, r);
+    __m128d ps = _mm_add_pd(_mm_set1_pd(-1.0 / 5040), _mm_mul_pd(u, _mm_set1_pd(1.0 / 362880)));
+    ps = _mm_add_pd(_mm_set1_pd(1.0 / 120), _mm_mul_pd(u, ps));
+    ps = _mm_add_pd(_mm_set1_pd(-1.0 / 6), _mm_mul_pd(u, ps));
+    __m128d sn = _mm_add_pd(r, _mm_mul_pd(_mm_mul_pd(r, u), ps));
+    __m128d pc = _mm_add_pd(_mm_set1_pd(1.0 / 40320), _mm_mul_pd(u, _mm_set1_pd(-1.0 / 3628800)));
+    pc = _mm_add_pd(_mm_set1_pd(-1.0 / 720), _mm_mul_pd(u, pc));
+    pc = _mm_add_pd(_mm_set1_pd(1.0 / 24), _mm_mul_pd(u, pc));
+    pc = _mm_add_pd(_mm_set1_pd(-0.5), _mm_mul_pd(u, pc));
+    __m128d cs = _mm_add_pd(_mm_set1_pd(1.0), _mm_mul_pd(u, pc));
+    __m128d top = _mm_blendv_pd(sn, _mm_xor_pd(cs, SignMask<double>()), odd);
+    __m128d bot = _mm_blendv_pd(cs, sn, odd);
+    return _mm_div_pd(top, bot);
+}
+
 // tan of four single magnitudes by the large reduction, in double.
 inline __m128 LargeTanS(__m128 a) {
     alignas(16) int32_t J[4];
@@ -104,12 +132,9 @@ struct TanS {
             rc = _mm_mul_ps(rc, _mm_sub_ps(_mm_set1_ps(2.0f), _mm_mul_ps(bot, rc)));
             p = _mm_mul_ps(top, rc);
         } else {
-            __m128d a0 = _mm_cvtps_pd(a), a1 = _mm_cvtps_pd(_mm_movehl_ps(a, a));
-            alignas(16) int32_t J[4];
-            __m128d h0, l0, h1, l1;
-            ShortD(_mm_min_pd(a0, _mm_set1_pd(16777216.0)), J, h0, l0, 0);
-            ShortD(_mm_min_pd(a1, _mm_set1_pd(16777216.0)), J + 2, h1, l1, 0);
-            p = Narrow(TanTable<L>(J, h0, l0), TanTable<L>(J + 2, h1, l1));
+            __m128 as = _mm_min_ps(a, F(kLimitTanS));
+            p = Narrow(QuadrantTan(_mm_cvtps_pd(as)),
+                       QuadrantTan(_mm_cvtps_pd(_mm_movehl_ps(as, as))));
         }
         int big = LargeLanesS(a, kLimitTanS);
         if (__builtin_expect(big != 0, 0)) p = _mm_blendv_ps(p, LargeTanS(a), LaneMask(big));
