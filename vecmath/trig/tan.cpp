@@ -7,8 +7,9 @@
  * their quotient. The short path holds to 8256; lanes above take the vector large
  * reduction in the same block.
  *
- * Double: the table reduction (vector large path above 2^24) gives sin and cos each as
- * two doubles; EP divides the sums, LA corrects the quotient once by its residual, HA
+ * Double EP: a quadrant reduction with pi/2 in three parts and sine and cosine series
+ * to about 29 bits. Double LA and HA: the table reduction gives sin and cos each as two
+ * doubles; LA corrects the quotient once by its residual, HA
  * does so with the product of the quotient and the cosine carried exactly and the table
  * products exact too. Near a pole the cosine is small but accurate, so the result is a
  * large finite number. */
@@ -143,6 +144,33 @@ struct TanS {
     static int Scalar(const float* a, float* y) { return InfNanScalar(a, y); }
 };
 
+// dTan EP below 2^24: n = round(a 2/pi), r = a - n pi/2 with pi/2 in three parts (the
+// first two short, so that their products with n are exact), series for sine to r^9
+// and cosine to r^10 (about 2^-29 on [-pi/4, pi/4]) and s/c or -c/s by n's parity.
+inline __m128d QuadrantTanEP(__m128d a) {
+    const __m128d shifter = _mm_set1_pd(kShifterD);
+    __m128d t = _mm_add_pd(_mm_mul_pd(a, _mm_set1_pd(0.63661977236758138)), shifter);
+    __m128d odd = _mm_castsi128_pd(_mm_cmpeq_epi64(
+        _mm_and_si128(_mm_castpd_si128(t), _mm_set1_epi64x(1)), _mm_set1_epi64x(1)));
+    __m128d n = _mm_sub_pd(t, shifter);
+    __m128d r = _mm_sub_pd(a, _mm_mul_pd(n, _mm_set1_pd(1.570796251296997)));
+    r = _mm_sub_pd(r, _mm_mul_pd(n, _mm_set1_pd(7.549789415861596e-08)));
+    r = _mm_sub_pd(r, _mm_mul_pd(n, _mm_set1_pd(5.390302858158119e-15)));
+    __m128d u = _mm_mul_pd(r, r);
+    __m128d ps = _mm_add_pd(_mm_set1_pd(-1.0 / 5040), _mm_mul_pd(u, _mm_set1_pd(1.0 / 362880)));
+    ps = _mm_add_pd(_mm_set1_pd(1.0 / 120), _mm_mul_pd(u, ps));
+    ps = _mm_add_pd(_mm_set1_pd(-1.0 / 6), _mm_mul_pd(u, ps));
+    __m128d sn = _mm_add_pd(r, _mm_mul_pd(_mm_mul_pd(r, u), ps));
+    __m128d pc = _mm_add_pd(_mm_set1_pd(1.0 / 40320), _mm_mul_pd(u, _mm_set1_pd(-1.0 / 3628800)));
+    pc = _mm_add_pd(_mm_set1_pd(-1.0 / 720), _mm_mul_pd(u, pc));
+    pc = _mm_add_pd(_mm_set1_pd(1.0 / 24), _mm_mul_pd(u, pc));
+    pc = _mm_add_pd(_mm_set1_pd(-0.5), _mm_mul_pd(u, pc));
+    __m128d cs = _mm_add_pd(_mm_set1_pd(1.0), _mm_mul_pd(u, pc));
+    __m128d top = _mm_blendv_pd(sn, _mm_xor_pd(cs, SignMask<double>()), odd);
+    __m128d bot = _mm_blendv_pd(cs, sn, odd);
+    return _mm_div_pd(top, bot);
+}
+
 template <Level L>
 struct TanD {
     using T = double;
@@ -152,8 +180,17 @@ struct TanD {
         special = InfNanD(a);
         alignas(16) int32_t J[2], K[2];
         __m128d rh, rl;
-        ShortD(_mm_min_pd(a, _mm_set1_pd(16777216.0)), J, rh, rl, 0);
         int big = LargeLanesD(a, kLimitD);
+        if constexpr (L == Level::EP) {
+            __m128d p = QuadrantTanEP(_mm_min_pd(a, _mm_set1_pd(16777216.0)));
+            if (__builtin_expect(big != 0, 0)) {
+                LargeD(a, J, rh, rl);
+                __m128d m = _mm_castsi128_pd(_mm_set_epi64x(big & 2 ? -1 : 0, big & 1 ? -1 : 0));
+                p = _mm_blendv_pd(p, TanTable<L>(J, rh, rl), m);
+            }
+            return _mm_xor_pd(p, _mm_and_pd(x, SignMask<double>()));
+        }
+        ShortD(_mm_min_pd(a, _mm_set1_pd(16777216.0)), J, rh, rl, 0);
         if (__builtin_expect(big != 0, 0)) {
             __m128d bh, bl;
             LargeD(a, K, bh, bl);
