@@ -237,6 +237,7 @@ int32_t _qesiRngUniformBits(int32_t method, void* stream, int32_t n, void* r);
 int32_t _qesiRngUniformBits32(int32_t method, void* stream, int32_t n, uint32_t* r);
 int32_t _qesiRngUniformBits64(int32_t method, void* stream, int32_t n, uint64_t* r);
 int32_t _qesiRngBernoulli(int32_t method, void* stream, int32_t n, int32_t* r, double p);
+int32_t _qesiRngGeometric(int32_t method, void* stream, int32_t n, int32_t* r, double p);
 
 #ifdef __cplusplus
 }
