@@ -133,8 +133,8 @@ int Marker(ErrorRecord*) {
 
 TEST(RngGeometric, CallerSettingsComeBack) {
     brenn_zar_kernel_SetMode(0x2000 | 0x2);
+    brenn_zar_kernel_SetErrorCallBack(Marker); // may touch the error field itself
     uint32_t mode = brenn_zar_kernel_GetMode();
-    brenn_zar_kernel_SetErrorCallBack(Marker);
     uint32_t csr = brenn::frame::ReadCsr();
     std::vector<int32_t> r(3000, -7);
     for (uint32_t limit : {100000u, 1500u}) {
