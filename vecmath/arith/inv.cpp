@@ -144,22 +144,31 @@ struct DivHAs {
     static int Scalar(const float* a, const float* b, float* y) { return DivScalar(a, b, y); }
 };
 
-// Double reciprocal chain; Long selects LA's fourth-order correction. With the seed's
-// relative error e below 1.5 * 2^-12, the series 1 + e + e^2 cut after e^2 leaves e^3
-// (about 2^-34, EP) and cut after e^4 leaves e^5 (about 2^-57, well under LA's ulp);
-// what is left of LA's error is the rounding of x*r in the residual. The correction is
-// r*e * (1 + e) (* (1 + e^2)), whose factors are formed side by side: the chain is
-// latency-bound, so the shorter dependency path is worth the extra operation. The seed
+// Double reciprocal chain; Long selects LA. With the seed r's relative error
+// e = 1 - x*r below 1.5 * 2^-12, 1/x = r * (1 + e + e^2 + ...). EP cuts the series
+// after e^2, leaving e^3 (about 2^-34), and writes it in p = x*r as
+// 1 + e + e^2 = 3 - p*(3 - p), one operation fewer; the roundings near 1 and 3 cost a
+// few ulps, far below EP's bound. LA cuts after e^4, leaving e^5 (about 2^-57), and
+// adds the correction r*e * (1 + e) * (1 + e^2) to r last, so that only its own
+// roundings and that of x*r in the residual reach the result; the factors are formed
+// side by side, since the chain is bound by latency more than by operations. The seed
 // is taken from x as it is (integer operations and rcpps, which raise nothing), so it
-// need not wait for the range test; special lanes become NaN at the seed.
+// need not wait for the range test; special lanes become NaN at the seed. Div
+// multiplies by a last, so that a tiny quotient is rounded once, from one product.
 template <bool Long>
 inline __m128d RecipD(__m128d x, __m128d special) {
-    const __m128d one = _mm_set1_pd(1.0);
     __m128d r = _mm_or_pd(ReciprocalSeed(x), special);
-    __m128d e = _mm_sub_pd(one, _mm_mul_pd(x, r));
-    __m128d c = _mm_mul_pd(_mm_mul_pd(r, e), _mm_add_pd(one, e));
-    if constexpr (Long) c = _mm_mul_pd(c, _mm_add_pd(one, _mm_mul_pd(e, e)));
-    return _mm_add_pd(r, c);
+    __m128d p = _mm_mul_pd(x, r);
+    if constexpr (Long) {
+        const __m128d one = _mm_set1_pd(1.0);
+        __m128d e = _mm_sub_pd(one, p);
+        __m128d c = _mm_mul_pd(_mm_mul_pd(r, e), _mm_add_pd(one, e));
+        c = _mm_mul_pd(c, _mm_add_pd(one, _mm_mul_pd(e, e)));
+        return _mm_add_pd(r, c);
+    } else {
+        const __m128d three = _mm_set1_pd(3.0);
+        return _mm_mul_pd(r, _mm_sub_pd(three, _mm_mul_pd(p, _mm_sub_pd(three, p))));
+    }
 }
 
 template <bool Long>
