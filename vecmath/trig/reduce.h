@@ -249,9 +249,9 @@ inline void TableSin(const int32_t* J, __m128d rh, __m128d rl, __m128d& hi, __m1
     lo = _mm_add_pd(_mm_add_pd(e, pe), t);
 }
 
-inline __m128d TableSin(const int32_t* J, __m128d rh, __m128d rl) {
+inline __m128d TableSin(const int32_t* J, __m128d rh, __m128d rl, bool exact = false) {
     __m128d hi, lo;
-    TableSin(J, rh, rl, hi, lo);
+    TableSin(J, rh, rl, hi, lo, exact);
     return _mm_add_pd(hi, lo);
 }
 

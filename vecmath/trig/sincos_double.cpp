@@ -68,7 +68,7 @@ inline __m128d ShortPi(__m128d a, bool cosine) {
 }
 
 // sin (or cos) of every finite lane of a by the table, large lanes reduced in vector form.
-inline __m128d ByTable(__m128d a, bool cosine) {
+inline __m128d ByTable(__m128d a, bool cosine, bool exact) {
     alignas(16) int32_t J[2], K[2];
     __m128d rh, rl;
     ShortD(_mm_min_pd(a, _mm_set1_pd(16777216.0)), J, rh, rl, cosine ? 32 : 0);
@@ -79,7 +79,7 @@ inline __m128d ByTable(__m128d a, bool cosine) {
         if (cosine) K[0] += 32, K[1] += 32;
         PickD(big, K, bh, bl, J, rh, rl);
     }
-    return TableSin(J, rh, rl);
+    return TableSin(J, rh, rl, exact);
 }
 
 template <Level L, bool kCos>
@@ -100,10 +100,10 @@ struct Body {
                 if (__builtin_expect(big != 0, 0)) {
                     __m128d m =
                         _mm_castsi128_pd(_mm_set_epi64x(big & 2 ? -1 : 0, big & 1 ? -1 : 0));
-                    p = _mm_blendv_pd(p, ByTable(a, kCos), m);
+                    p = _mm_blendv_pd(p, ByTable(a, kCos, false), m);
                 }
             } else {
-                p = ByTable(a, kCos);
+                p = ByTable(a, kCos, true);
             }
         }
         if (!kCos) p = _mm_xor_pd(p, _mm_and_pd(x, SignMask<double>()));
@@ -114,7 +114,7 @@ struct Body {
         double x = *a;
         if (!(__builtin_fabs(x) <= 0x1.fffffffffffffp+1023)) return InfNanScalar(a, y);
         __m128d v = _mm_set1_pd(x);
-        __m128d p = ByTable(_mm_and_pd(v, AbsMask<double>()), kCos);
+        __m128d p = ByTable(_mm_and_pd(v, AbsMask<double>()), kCos, false);
         if (!kCos) p = _mm_xor_pd(p, _mm_and_pd(v, SignMask<double>()));
         *y = _mm_cvtsd_f64(p);
         return 0;
@@ -170,8 +170,9 @@ struct Both {
         }
         K[0] = J[0] + 32;
         K[1] = J[1] + 32;
-        s = _mm_xor_pd(TableSin(J, rh, rl), _mm_and_pd(x, SignMask<double>()));
-        c = TableSin(K, rh, rl);
+        constexpr bool exact = L == Level::HA;
+        s = _mm_xor_pd(TableSin(J, rh, rl, exact), _mm_and_pd(x, SignMask<double>()));
+        c = TableSin(K, rh, rl, exact);
     }
     static int Scalar(const double* a, double* y, double* z) {
         int st = InfNanScalar(a, y);
