@@ -224,6 +224,12 @@ int32_t __qesBRngMT19937InitStream(int32_t method, void* stream, int32_t n, cons
 int32_t __qessBRngMT19937(void* stream, int32_t n, float* r, float a, float b);
 int32_t __qesdBRngMT19937(void* stream, int32_t n, double* r, double a, double b);
 int32_t __qesiBRngMT19937(void* stream, int32_t n, void* r);
+/* MT2203: member m is id 0x900000 + m; members without verified parameters are
+ * refused at seeding with -1000. */
+int32_t __qesBRngMT2203InitStream(int32_t method, void* stream, int32_t n, const void* params);
+int32_t __qessBRngMT2203(void* stream, int32_t n, float* r, float a, float b);
+int32_t __qesdBRngMT2203(void* stream, int32_t n, double* r, double a, double b);
+int32_t __qesiBRngMT2203(void* stream, int32_t n, void* r);
 int32_t __qesBRngSFMT19937InitStream(int32_t method, void* stream, int32_t n, const void* params);
 int32_t __qessBRngSFMT19937(void* stream, int32_t n, float* r, float a, float b);
 int32_t __qesdBRngSFMT19937(void* stream, int32_t n, double* r, double a, double b);
