@@ -99,8 +99,6 @@ inline __m128d OnMagnitude(__m128d a) {
     return _mm_blendv_pd(q, direct, tiny);
 }
 
-template <Fn F, class V>
-inline V ApplySign(V p, V x);
 template <Fn F>
 inline __m128 ApplySign(__m128 p, __m128 x) {
     return F == Fn::Cos ? p : _mm_xor_ps(p, _mm_and_ps(x, SignMask<float>()));
@@ -147,14 +145,13 @@ struct BodyS {
     }
     static int Scalar(const float* a, float* y) {
         float x = *a;
-        if (!(__builtin_fabsf(x) <= FLT_MAX_)) return InfNanScalar(a, y);
+        if (!(__builtin_fabsf(x) <= 0x1.fffffep+127f)) return InfNanScalar(a, y);
         // |x| modulo the period, exactly, then the body on that one value.
         double r = fmod(__builtin_fabs(double(x)), UnitConst<U>::kPeriod);
         __m128d p = OnMagnitude<U, F, L>(_mm_set1_pd(r));
         *y = _mm_cvtss_f32(ApplySign<F>(_mm_cvtpd_ps(p), _mm_set1_ps(x)));
         return 0;
     }
-    static constexpr float FLT_MAX_ = 0x1.fffffep+127f;
 };
 
 template <Unit U, Fn F, Level L>
