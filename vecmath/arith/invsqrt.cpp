@@ -1,11 +1,12 @@
 /* InvSqrt, single and double.
  *
  * sInvSqrt: EP the approximate root reciprocal as it stands (about 11.4 bits); LA one
- * Newton step y = (-0.5*r)*(x*r*r - 3) (within 4 ulp); HA in double, the quotient of
- * the rounded root with a correction whose residual is exact, rounded once to single.
+ * Newton step y = (-0.5*r)*(x*r*r - 3) (within 4 ulp); HA a step of second order in
+ * double from the same seed, rounded once to single (within 0.5 ulp and a little).
  * dInvSqrt: LA and EP share one kernel, the seed on the significand with the exponent
- * apart and the series of (1 - e)^(-1/2) to fourth order (within 2 ulp); HA the
- * corrected quotient (within 1 ulp).
+ * apart and the series of (1 - e)^(-1/2) to fourth order (within 2 ulp); HA the seed
+ * cut short so that the residual is exact, and the series to fifth order (within 0.5
+ * ulp and a little). None divides or takes a square root.
  *
  * Scalar routine: +-0 gives the signed infinity with status 2; -inf and negatives NaN
  * with status 1; +inf gives +0, NaN itself; denormals and values near the top of the
@@ -86,14 +87,27 @@ struct InvSqrtLAs {
     static int Scalar(const float* a, float* y) { return InvSqrtScalar(a, y); }
 };
 
+// HA in double: the rsqrtps seed r of x itself (x is a single in range, so no
+// narrowing), widened, and one correction of second order in e = 1 - x*r^2, written in
+// p = x*r^2 as (1 - e)^(-1/2) ~ 1 + e/2 + 3e^2/8 = 1.875 - p*(1.25 - 0.375*p). With
+// |e| below 2^-10.4 the cut leaves about 2^-32, so the one rounding to single is within
+// 0.5 + 2^-8 ulp.
+inline __m128d InvSqrtStepD(__m128d x, __m128d r) {
+    __m128d p = _mm_mul_pd(_mm_mul_pd(x, r), r);
+    __m128d q = _mm_sub_pd(_mm_set1_pd(1.25), _mm_mul_pd(_mm_set1_pd(0.375), p));
+    return _mm_mul_pd(r, _mm_sub_pd(_mm_set1_pd(1.875), _mm_mul_pd(p, q)));
+}
+
 struct InvSqrtHAs {
     using T = float;
     static constexpr const char* kName = ZAR_ERROR_NAME(sInvSqrt);
     static __m128 Eval(__m128 x, __m128& special) {
         special = InvSqrtTestS(x);
         __m128 xx = _mm_or_ps(x, special);
-        __m128d lo = AccurateInvSqrt(_mm_cvtps_pd(xx));
-        __m128d hi = AccurateInvSqrt(_mm_cvtps_pd(_mm_movehl_ps(xx, xx)));
+        __m128 r = _mm_rsqrt_ps(xx);
+        __m128 xh = _mm_movehl_ps(xx, xx), rh = _mm_movehl_ps(r, r);
+        __m128d lo = InvSqrtStepD(_mm_cvtps_pd(xx), _mm_cvtps_pd(r));
+        __m128d hi = InvSqrtStepD(_mm_cvtps_pd(xh), _mm_cvtps_pd(rh));
         return _mm_movelh_ps(_mm_cvtpd_ps(lo), _mm_cvtpd_ps(hi));
     }
     static int Scalar(const float* a, float* y) { return InvSqrtScalar(a, y); }
@@ -115,12 +129,31 @@ struct InvSqrtLaEpD {
     static int Scalar(const double* a, double* y) { return InvSqrtScalar(a, y); }
 };
 
+// HA in double, from the seed alone and with no division: r is the seed cut to 13
+// significant bits, so that s = r*r is exact in 26 bits; x is split by its bits into
+// xh (26 bits) and xl, so that xh*s and xl*s are exact too, and the residual
+// e = 1 - x*s = (1 - xh*s) - xl*s is formed with one rounding of a term near 2^-37
+// (1 - xh*s is exact, xh*s being near 1). With |e| below 2^-9.8 the series of
+// (1 - e)^(-1/2) to e^5 leaves about 2^-61, and r + r*e*P(e) is within 0.5 ulp and a
+// little of 1/sqrt(x).
 struct InvSqrtHAd {
     using T = double;
     static constexpr const char* kName = ZAR_ERROR_NAME(dInvSqrt);
     static __m128d Eval(__m128d x, __m128d& special) {
         special = InvSqrtTestD(x);
-        return AccurateInvSqrt(_mm_or_pd(x, special));
+        const __m128d top13 = _mm_castsi128_pd(_mm_set1_epi64x(int64_t(0xFFFFFF0000000000ull)));
+        const __m128d top26 = _mm_castsi128_pd(_mm_set1_epi64x(int64_t(0xFFFFFFFFF8000000ull)));
+        __m128d r = _mm_and_pd(_mm_or_pd(RootSeed(x), special), top13);
+        __m128d s = _mm_mul_pd(r, r);
+        __m128d xx = _mm_or_pd(x, special);
+        __m128d xh = _mm_and_pd(xx, top26);
+        __m128d xl = _mm_sub_pd(xx, xh);
+        __m128d e = _mm_sub_pd(_mm_sub_pd(_mm_set1_pd(1.0), _mm_mul_pd(xh, s)), _mm_mul_pd(xl, s));
+        __m128d p = _mm_add_pd(_mm_set1_pd(35.0 / 128), _mm_mul_pd(e, _mm_set1_pd(63.0 / 256)));
+        p = _mm_add_pd(_mm_set1_pd(5.0 / 16), _mm_mul_pd(e, p));
+        p = _mm_add_pd(_mm_set1_pd(3.0 / 8), _mm_mul_pd(e, p));
+        p = _mm_add_pd(_mm_set1_pd(0.5), _mm_mul_pd(e, p));
+        return _mm_add_pd(r, _mm_mul_pd(_mm_mul_pd(r, e), p));
     }
     static int Scalar(const double* a, double* y) { return InvSqrtScalar(a, y); }
 };
