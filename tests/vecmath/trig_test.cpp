@@ -187,6 +187,22 @@ TEST(Trig, SinCosMatchesItsParts) {
     }
 }
 
+// The double HA SinCos reduces in x87 extended precision: the caller's control word (here
+// double precision, round up) comes back unchanged, and the results do not depend on it.
+TEST(Trig, SinCosExtendedLeavesControlWord) {
+    std::vector<double> x = {0.7, 3.14159265358979, 1e7 + 0.3, 1e300}, s1(4), c1(4), s2(4), c2(4);
+    As<TwoRes<double>>(Slot("dSinCos", 1))(4, x.data(), s1.data(), c1.data());
+    unsigned short saved, cw = 0x0A7F, after;
+    __asm__ volatile("fnstcw %0" : "=m"(saved));
+    __asm__ volatile("fldcw %0" : : "m"(cw));
+    As<TwoRes<double>>(Slot("dSinCos", 1))(4, x.data(), s2.data(), c2.data());
+    __asm__ volatile("fnstcw %0" : "=m"(after));
+    __asm__ volatile("fldcw %0" : : "m"(saved));
+    EXPECT_EQ(after, cw);
+    EXPECT_EQ(s1, s2);
+    EXPECT_EQ(c1, c2);
+}
+
 // Signed zeros stay for the odd functions; cos 0 is exactly 1.
 TEST(Trig, ExactValuesAtZero) {
     for (int slot = 0; slot < kSlots; ++slot) {
