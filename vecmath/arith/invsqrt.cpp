@@ -26,7 +26,7 @@ inline __m128 InvSqrtTestS(__m128 x) {
 }
 // Positive normals below 2^995, where the exact products of the HA chain have room.
 inline __m128d InvSqrtTestD(__m128d x) {
-    return RangeTest<double>(x, ~0ull, 0x7FF0000000000000ull, 0xFE10000000000000ull - 1);
+    return HighWordTest(x, 0xFFFFFFFFu, 0x7FF00000u, 0xFE0FFFFFu);
 }
 
 // One lane of the accurate double chain, with scaling for denormals and large values.

@@ -12,14 +12,17 @@
 namespace brenn::vm {
 
 // The double range test (bits(x) & mask) + offset > limit, signed, for a mask, offset
-// and limit whose low 32 bits are 0, 0 and all ones: the low words can then neither
-// carry into the high words nor decide the compare, so the test is the 32-bit compare
-// of the high words, which is cheaper than the 64-bit one. The low words are cleared
-// so that their compare (0 > 0x7FFFFFFF) is false: the mask is all ones in the high
-// word of a special lane and zero elsewhere, so that OR-ing it onto a double makes a
-// quiet NaN of that lane alone; its sign bits are those of the 64-bit test.
+// and limit whose low 32 bits are all ones, 0 and all ones: the low words can then
+// neither carry into the high words nor decide the compare, so the test is the 32-bit
+// compare of the high words, which is cheaper than the 64-bit one. The compare of the
+// low words (anything > 0x7FFFFFFF) is false, so the result is all ones in the high
+// word of a special lane and zero elsewhere: OR-ed onto a double it makes a quiet NaN
+// of that lane alone, and its sign bits are those of the 64-bit test. A mask of all
+// ones costs nothing.
 inline __m128d HighWordTest(__m128d x, uint32_t mask, uint32_t offset, uint32_t limit) {
-    __m128i b = _mm_and_si128(_mm_castpd_si128(x), _mm_set1_epi64x(int64_t(mask) << 32));
+    __m128i b = _mm_castpd_si128(x);
+    if (mask != 0xFFFFFFFFu)
+        b = _mm_and_si128(b, _mm_set1_epi64x(int64_t((uint64_t(mask) << 32) | 0xFFFFFFFFu)));
     b = _mm_add_epi32(b, _mm_set1_epi64x(int64_t(offset) << 32));
     return _mm_castsi128_pd(
         _mm_cmpgt_epi32(b, _mm_set1_epi64x(int64_t((uint64_t(limit) << 32) | 0x7FFFFFFFu))));

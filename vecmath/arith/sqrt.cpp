@@ -22,7 +22,7 @@ inline __m128 SqrtTestS(__m128 x) {
     return RangeTest<float>(x, 0xFFFFFFFFu, 0x7F800000u, 0xFEFFF000u);
 }
 inline __m128d SqrtTestD(__m128d x) {
-    return RangeTest<double>(x, ~0ull, 0x7FF0000000000000ull, 0xFFDFFFFFFFFFFFFFull);
+    return HighWordTest(x, 0xFFFFFFFFu, 0x7FF00000u, 0xFFDFFFFFu);
 }
 
 template <class T>
