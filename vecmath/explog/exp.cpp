@@ -202,10 +202,11 @@ struct ExpHAd : ExpBaseD {
         __m128d t = Add(Mul(x, C(92.332482616893657)), C(kShifterD));
         __m128d n = Sub(t, C(kShifterD));
         __m128d r = Sub(Sub(x, Mul(n, C(0.010830424696223417))), Mul(n, C(2.5728046223276691e-14)));
-        __m128d p = Add(C(0.041666723686623851), Mul(r, C(0.0083333341644141103)));
-        p = Add(C(0.16666666666677971), Mul(r, p));
-        p = Add(C(0.49999999999947747), Mul(r, p));
-        p = Add(r, Mul(Mul(r, r), p));
+        // Estrin's scheme: two independent pairs joined by r^2.
+        __m128d r2 = Mul(r, r);
+        __m128d p = Add(Add(C(0.49999999999947747), Mul(r, C(0.16666666666677971))),
+                        Mul(r2, Add(C(0.041666723686623851), Mul(r, C(0.0083333341644141103)))));
+        p = Add(r, Mul(r2, p));
         __m128i v = _mm_castpd_si128(t);
         const double *ra, *rb;
         Gather2<64>(kExpTable64D, v, ra, rb);

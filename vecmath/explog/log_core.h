@@ -80,10 +80,12 @@ inline void LnCoreD3(__m128d x, __m128d& h, __m128d& r, __m128d& t) {
         t = _mm_mul_pd(r2, p);
         return;
     } else {
-        p = _mm_add_pd(_mm_set1_pd(-0.25000019886943392),
-                       _mm_mul_pd(r, _mm_set1_pd(0.20000019344205111)));
-        p = _mm_add_pd(_mm_set1_pd(0.33333333333327408), _mm_mul_pd(r, p));
-        p = _mm_add_pd(_mm_set1_pd(-0.49999999999995254), _mm_mul_pd(r, p));
+        // Estrin's scheme: two independent pairs joined by r^2.
+        __m128d hi = _mm_add_pd(_mm_set1_pd(-0.25000019886943392),
+                                _mm_mul_pd(r, _mm_set1_pd(0.20000019344205111)));
+        __m128d lo = _mm_add_pd(_mm_set1_pd(-0.49999999999995254),
+                                _mm_mul_pd(r, _mm_set1_pd(0.33333333333327408)));
+        p = _mm_add_pd(lo, _mm_mul_pd(r2, hi));
     }
     h = _mm_add_pd(_mm_mul_pd(k, _mm_set1_pd(kLn2HiD)), th);
     __m128d tail = _mm_add_pd(_mm_mul_pd(k, _mm_set1_pd(kLn2LoD)), tl);
