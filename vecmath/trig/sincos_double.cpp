@@ -9,8 +9,9 @@
  *
  * Above 2^24 the LA and HA kernels reduce the lanes concerned in vector form (reduce.h)
  * and finish by the table; the EP kernel sends them to its scalar routine, which runs
- * the same reduction on the one element. SinCos evaluates both results from one
- * reduction by the table; at HA the reduction runs in x87 extended precision. */
+ * the same reduction on the one element. SinCos at EP runs the EP bodies of both; at LA
+ * and HA it evaluates both results from one reduction by the table, and at HA that
+ * reduction runs in x87 extended precision. */
 #include "frame/kernels.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/trig/level.h"
@@ -131,6 +132,14 @@ struct Both {
     static constexpr X87Rule kX87 = L == Level::HA ? X87Rule::Extended : X87Rule::Masked;
     static void Eval(__m128d x, __m128d& s, __m128d& c, __m128d& special) {
         __m128d a = _mm_and_pd(x, AbsMask<double>());
+        if constexpr (L == Level::EP) {
+            // The two pi reductions and series of Sin and Cos at EP; lanes above 2^24 go
+            // to the scalar routine, as in those rows.
+            special = RangeTest<double>(a, ~0ull, 0, kLimitD);
+            s = _mm_xor_pd(ShortPi<L>(a, false), _mm_and_pd(x, SignMask<double>()));
+            c = ShortPi<L>(a, true);
+            return;
+        }
         special = InfNanD(a);
         alignas(16) int32_t J[2], K[2];
         __m128d rh, rl;
@@ -175,6 +184,14 @@ struct Both {
         c = TableSin(K, rh, rl, exact);
     }
     static int Scalar(const double* a, double* y, double* z) {
+        double x = *a;
+        if (__builtin_fabs(x) <= 0x1.fffffffffffffp+1023) { // EP: above 2^24, in full
+            __m128d v = _mm_set1_pd(x), m = _mm_and_pd(v, AbsMask<double>());
+            *y = _mm_cvtsd_f64(
+                _mm_xor_pd(ByTable(m, false, false), _mm_and_pd(v, SignMask<double>())));
+            *z = _mm_cvtsd_f64(ByTable(m, true, false));
+            return 0;
+        }
         int st = InfNanScalar(a, y);
         InfNanScalar(a, z);
         return st;
