@@ -79,6 +79,7 @@ struct ExpBaseS {
 struct ExpEPs : ExpBaseS {
     static __m128 Eval(__m128 x, __m128& special) {
         special = ExpTestS(x);
+        x = _mm_andnot_ps(special, x); // special lanes run on 0: no flags of their own
         const __m128 shifter = C(12582912.0f);
         __m128 yy = Mul(x, C(1.4426950216f));
         __m128 t = Add(yy, shifter);
@@ -96,6 +97,7 @@ struct ExpEPs : ExpBaseS {
 struct ExpLAs : ExpBaseS {
     static __m128 Eval(__m128 x, __m128& special) {
         special = ExpTestS(x);
+        x = _mm_andnot_ps(special, x); // special lanes run on 0: no flags of their own
         const __m128 shifter = C(12582912.0f);
         __m128 t = Add(Mul(x, C(1.4426950216f)), shifter);
         __m128 n = Sub(t, shifter);
@@ -113,6 +115,7 @@ struct ExpLAs : ExpBaseS {
 struct ExpHAs : ExpBaseS {
     static __m128 Eval(__m128 x, __m128& special) {
         special = ExpTestS(x);
+        x = _mm_andnot_ps(special, x); // special lanes run on 0: no flags of their own
         const __m128 shifter = C(11534336.0f);
         __m128 t = Add(Mul(x, C(184.664963f)), shifter);
         __m128 n = Sub(shifter, t); // the negated integer
@@ -166,6 +169,7 @@ constexpr double kShifterD = 6755399441055744.0;
 struct ExpEPd : ExpBaseD {
     static __m128d Eval(__m128d x, __m128d& special) {
         special = ExpTestD(x);
+        x = _mm_andnot_pd(special, x); // special lanes run on 0: no flags of their own
         __m128d t = Add(Mul(x, C(184.66496523378731)), C(kShifterD));
         __m128d n = Sub(t, C(kShifterD));
         __m128d r = Sub(x, Mul(n, C(0.0054152123481245725)));
@@ -182,6 +186,7 @@ struct ExpEPd : ExpBaseD {
 struct ExpLAd : ExpBaseD {
     static __m128d Eval(__m128d x, __m128d& special) {
         special = ExpTestD(x);
+        x = _mm_andnot_pd(special, x); // special lanes run on 0: no flags of their own
         __m128d t = Add(Mul(x, C(1477.3197218702985)), C(kShifterD));
         __m128d n = Sub(t, C(kShifterD));
         __m128d r =
@@ -199,6 +204,7 @@ struct ExpLAd : ExpBaseD {
 struct ExpHAd : ExpBaseD {
     static __m128d Eval(__m128d x, __m128d& special) {
         special = ExpTestD(x);
+        x = _mm_andnot_pd(special, x); // special lanes run on 0: no flags of their own
         __m128d t = Add(Mul(x, C(92.332482616893657)), C(kShifterD));
         __m128d n = Sub(t, C(kShifterD));
         __m128d r = Sub(Sub(x, Mul(n, C(0.010830424696223417))), Mul(n, C(2.5728046223276691e-14)));

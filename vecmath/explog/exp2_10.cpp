@@ -62,6 +62,7 @@ struct Exp2S {
     static constexpr const char* kName = ZAR_ERROR_NAME(sExp2);
     static __m128 Eval(__m128 x, __m128& special) {
         special = RangeTest<float>(x, 0x7FFFFFFFu, 0u, 0x42FC0000u);
+        x = _mm_andnot_ps(special, x); // special lanes run on 0: no flags of their own
         return WidenS<Exp2Core>(x);
     }
     static int Scalar(const float* a, float* y) {
@@ -79,6 +80,7 @@ struct Exp10S {
     static constexpr const char* kName = ZAR_ERROR_NAME(sExp10);
     static __m128 Eval(__m128 x, __m128& special) {
         special = RangeTest<float>(x, 0x7FFFFFFFu, 0u, 0x4217B818u);
+        x = _mm_andnot_ps(special, x); // special lanes run on 0: no flags of their own
         return WidenS<Exp10Core>(x);
     }
     static int Scalar(const float* a, float* y) {
@@ -96,6 +98,7 @@ struct Exp2D {
     static constexpr const char* kName = ZAR_ERROR_NAME(dExp2);
     static __m128d Eval(__m128d x, __m128d& special) {
         special = RangeTest<double>(x, 0x7FFFFFFFFFFFFFFFull, 0ull, 0x408FF00000000000ull);
+        x = _mm_andnot_pd(special, x); // special lanes run on 0: no flags of their own
         return Exp2Core(x);
     }
     static int Scalar(const double* a, double* y) {
@@ -114,6 +117,7 @@ struct Exp10D {
     static constexpr const char* kName = ZAR_ERROR_NAME(dExp10);
     static __m128d Eval(__m128d x, __m128d& special) {
         special = RangeTest<double>(x, 0x7FFFFFFFFFFFFFFFull, 0ull, 0x4073300000000000ull);
+        x = _mm_andnot_pd(special, x); // special lanes run on 0: no flags of their own
         return Exp10Core(x);
     }
     static int Scalar(const double* a, double* y) {

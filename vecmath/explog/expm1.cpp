@@ -97,6 +97,7 @@ struct Expm1S {
     static constexpr const char* kName = ZAR_ERROR_NAME(sExpm1);
     static __m128 Eval(__m128 x, __m128& special) {
         special = RangeTest<float>(x, 0x7FFFFFFFu, 0u, 0x42AD496Bu);
+        x = _mm_andnot_ps(special, x); // special lanes run on 0: no flags of their own
         __m128d lo = Expm1Core<ExpDegree::Five, false>(_mm_cvtps_pd(x));
         __m128d hi = Expm1Core<ExpDegree::Five, false>(_mm_cvtps_pd(_mm_movehl_ps(x, x)));
         return _mm_movelh_ps(_mm_cvtpd_ps(lo), _mm_cvtpd_ps(hi));
@@ -117,6 +118,7 @@ struct Expm1D {
     static constexpr const char* kName = ZAR_ERROR_NAME(dExpm1);
     static __m128d Eval(__m128d x, __m128d& special) {
         special = RangeTest<double>(x, 0x7FFFFFFFFFFFFFFFull, 0ull, 0x4086200000000000ull);
+        x = _mm_andnot_pd(special, x); // special lanes run on 0: no flags of their own
         return Expm1Core<D, Exact>(x);
     }
     static int Scalar(const double* a, double* y) {

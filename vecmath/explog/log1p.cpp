@@ -83,6 +83,9 @@ struct Log1pS {
         __m128 u, c;
         OnePlusS(x, u, c);
         special = LogTestS(u);
+        // Special lanes run on 0, so that inf - inf and 1/0 raise no flag of their own.
+        x = _mm_andnot_ps(special, x);
+        OnePlusS(x, u, c);
         __m128 r, k, q;
         LogSplitS(u, r, k);
         if constexpr (LA)
@@ -91,8 +94,7 @@ struct Log1pS {
         else
             q = PolyS(r, {-0.5f, 0.332896233f, -0.267402589f, 0.219883725f});
         __m128 p = _mm_add_ps(r, _mm_mul_ps(_mm_mul_ps(r, r), q));
-        __m128 corr = _mm_add_ps(_mm_div_ps(c, _mm_or_ps(u, special)),
-                                 _mm_mul_ps(k, _mm_set1_ps(1.42860677e-06f)));
+        __m128 corr = _mm_add_ps(_mm_div_ps(c, u), _mm_mul_ps(k, _mm_set1_ps(1.42860677e-06f)));
         return KeepTiny(x,
                         _mm_add_ps(_mm_add_ps(p, corr), _mm_mul_ps(k, _mm_set1_ps(0.693145752f))));
     }
@@ -123,7 +125,9 @@ struct Log1pD {
         __m128d u, c;
         OnePlusD(x, u, c);
         special = LogTestD(u);
-        u = _mm_blendv_pd(u, _mm_set1_pd(1.0), special);
+        // Special lanes run on 0, so that inf - inf and 1/0 raise no flag of their own.
+        x = _mm_andnot_pd(special, x);
+        OnePlusD(x, u, c);
         __m128d h, r, t;
         LnCoreD3<Lv>(u, h, r, t);
         __m128d small = _mm_add_pd(t, _mm_div_pd(c, u));
