@@ -21,6 +21,11 @@
 
 namespace brenn::vm::trig {
 
+// The short path's helpers are inlined into the bodies, so that the two registers of a
+// round interleave; the large reduction stays out of line, off the common path.
+#define BRENN_TRIG_HOT inline __attribute__((always_inline))
+#define BRENN_TRIG_COLD inline __attribute__((noinline))
+
 constexpr double kPi64 = 0x1.921fb54442d18p-5; // pi/64 rounded
 constexpr double kPi64Lo = 0x1.1a62633145c07p-59;
 constexpr double k64OverPi = 0x1.45f306dc9c883p+4;
@@ -42,7 +47,7 @@ inline void IntToDouble(__m128i v, __m128d& d0, __m128d& d1) {
 
 // Reduction of four finite single magnitudes a (bits of |x|): J[k] = index mod 128 and
 // r (lanes 0-1 in r0, 2-3 in r1) with a = J pi/64 + r + 2 pi k, |r| <= pi/128.
-inline void LargeS(__m128 a, int32_t J[4], __m128d& r0, __m128d& r1) {
+BRENN_TRIG_COLD void LargeS(__m128 a, int32_t J[4], __m128d& r0, __m128d& r1) {
     __m128i b = _mm_castps_si128(a);
     __m128i e = _mm_srli_epi32(b, 23);
     __m128i off = _mm_add_epi32(_mm_slli_epi32(e, 3), _mm_slli_epi32(e, 2)); // e * 12
@@ -105,7 +110,7 @@ inline void LargeS(__m128 a, int32_t J[4], __m128d& r0, __m128d& r1) {
 }
 
 // Exact product of two doubles (Dekker, without fused operations): p + e = a * b.
-inline void TwoProd(__m128d a, __m128d b, __m128d& p, __m128d& e) {
+BRENN_TRIG_HOT void TwoProd(__m128d a, __m128d b, __m128d& p, __m128d& e) {
     const __m128d split = _mm_set1_pd(134217729.0); // 2^27 + 1
     p = _mm_mul_pd(a, b);
     __m128d ta = _mm_mul_pd(a, split), tb = _mm_mul_pd(b, split);
@@ -116,7 +121,7 @@ inline void TwoProd(__m128d a, __m128d b, __m128d& p, __m128d& e) {
 }
 
 // Reduction of two finite double magnitudes: J[k] mod 128 and r = rh + rl, |r| <= pi/128.
-inline void LargeD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl) {
+BRENN_TRIG_COLD void LargeD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl) {
     alignas(16) uint64_t bits[2];
     _mm_store_si128(reinterpret_cast<__m128i*>(bits), _mm_castpd_si128(a));
     const uint32_t* row0 = twoOverPiBits64[bits[0] >> 52];
@@ -184,7 +189,7 @@ inline void LargeD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl) {
 }
 
 // rh + rl = a + b exactly.
-inline void TwoSum(__m128d a, __m128d b, __m128d& rh, __m128d& rl) {
+BRENN_TRIG_HOT void TwoSum(__m128d a, __m128d b, __m128d& rh, __m128d& rl) {
     rh = _mm_add_pd(a, b);
     __m128d bb = _mm_sub_pd(rh, a);
     rl = _mm_add_pd(_mm_sub_pd(a, _mm_sub_pd(rh, bb)), _mm_sub_pd(b, bb));
@@ -194,7 +199,7 @@ inline void TwoSum(__m128d a, __m128d b, __m128d& rh, __m128d& rl) {
 // J = j mod 128 (plus add), r = a - j pi/64 as two doubles. j < 2^29, so its products
 // with the first three parts of pi/64 (24 bits each) are exact; the sums are carried
 // exactly so that an argument close to a multiple of pi keeps its full precision.
-inline void ShortD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl, int add) {
+BRENN_TRIG_HOT void ShortD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl, int add) {
     const __m128d shifter = _mm_set1_pd(kShifterD);
     __m128d t = _mm_add_pd(_mm_mul_pd(a, _mm_set1_pd(k64OverPi)), shifter);
     __m128i ti = _mm_castpd_si128(t);
@@ -210,8 +215,8 @@ inline void ShortD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl, int add) {
 }
 
 // Per-lane choice between two reductions, by a two-bit lane mask (bit k: lane k of b).
-inline void PickD(int mask, const int32_t* Jb, __m128d rhb, __m128d rlb, int32_t* J, __m128d& rh,
-                  __m128d& rl) {
+BRENN_TRIG_HOT void PickD(int mask, const int32_t* Jb, __m128d rhb, __m128d rlb, int32_t* J,
+                          __m128d& rh, __m128d& rl) {
     __m128d m = _mm_castsi128_pd(_mm_set_epi64x(mask & 2 ? -1 : 0, mask & 1 ? -1 : 0));
     rh = _mm_blendv_pd(rh, rhb, m);
     rl = _mm_blendv_pd(rl, rlb, m);
@@ -219,24 +224,40 @@ inline void PickD(int mask, const int32_t* Jb, __m128d rhb, __m128d rlb, int32_t
     if (mask & 2) J[1] = Jb[1];
 }
 
-// sin(J pi/64 + rh + rl) for |rh| <= pi/128 (rl much smaller) by the table: sin A cos r
-// + cos A sin r with short Taylor series; the result as a high part and a low part.
-// With exact = true the product cos A * rh is carried exactly as well (for Tan at HA,
-// which divides two such results).
-inline void TableSin(const int32_t* J, __m128d rh, __m128d rl, __m128d& hi, __m128d& lo,
-                     bool exact = false) {
+// The table method, in parts. A row holds sin A and cos A (A = J pi/64), each as a high
+// and a low double; with the series of r (|r| <= pi/128) the rows give
+//   sin(A + r) = sin A + cos A r + (cos A (sin r - r) + sin A (cos r - 1)) + ...
+// and cos(A + r) the same with (sin A, cos A) replaced by (cos A, -sin A).
+struct TableRow {
+    __m128d sh, sl, ch, cl;
+};
+struct Series {
+    __m128d ps, pc; // sin r - r, cos r - 1 (short Taylor series)
+};
+
+BRENN_TRIG_HOT TableRow LoadRows(const int32_t* J) {
     const double* t0 = sinCosPi64[J[0] & 127];
     const double* t1 = sinCosPi64[J[1] & 127];
     __m128d q0 = _mm_loadu_pd(t0), q1 = _mm_loadu_pd(t1);
     __m128d c0 = _mm_loadu_pd(t0 + 2), c1 = _mm_loadu_pd(t1 + 2);
-    __m128d sh = _mm_unpacklo_pd(q0, q1), sl = _mm_unpackhi_pd(q0, q1);
-    __m128d ch = _mm_unpacklo_pd(c0, c1), cl = _mm_unpackhi_pd(c0, c1);
+    return {_mm_unpacklo_pd(q0, q1), _mm_unpackhi_pd(q0, q1), _mm_unpacklo_pd(c0, c1),
+            _mm_unpackhi_pd(c0, c1)};
+}
+
+BRENN_TRIG_HOT Series SeriesOf(__m128d rh) {
     __m128d u = _mm_mul_pd(rh, rh);
-    // sin r - r and cos r - 1
     __m128d ps = _mm_add_pd(_mm_set1_pd(1.0 / 120), _mm_mul_pd(u, _mm_set1_pd(-1.0 / 5040)));
     ps = _mm_mul_pd(_mm_mul_pd(rh, u), _mm_add_pd(_mm_set1_pd(-1.0 / 6), _mm_mul_pd(u, ps)));
     __m128d pc = _mm_add_pd(_mm_set1_pd(1.0 / 24), _mm_mul_pd(u, _mm_set1_pd(-1.0 / 720)));
     pc = _mm_mul_pd(u, _mm_add_pd(_mm_set1_pd(-0.5), _mm_mul_pd(u, pc)));
+    return {ps, pc};
+}
+
+// sin(A + r) from a row (sh + sl = sin A, ch + cl = cos A) as a high and a low part.
+// With exact = true the product cos A * rh is carried exactly as well: near the zeros
+// of sine (A = pi/64 beside a multiple of pi) that product is as large as the result.
+BRENN_TRIG_HOT void Combine(__m128d sh, __m128d sl, __m128d ch, __m128d cl, __m128d rh, __m128d rl,
+                            const Series& r, bool exact, __m128d& hi, __m128d& lo) {
     __m128d p, pe = _mm_setzero_pd();
     if (exact)
         TwoProd(ch, rh, p, pe);
@@ -244,12 +265,32 @@ inline void TableSin(const int32_t* J, __m128d rh, __m128d rl, __m128d& hi, __m1
         p = _mm_mul_pd(ch, rh);
     hi = _mm_add_pd(sh, p);
     __m128d e = _mm_add_pd(_mm_sub_pd(sh, hi), p); // |sh| >= |p| or sh = 0
-    __m128d t = _mm_add_pd(_mm_mul_pd(ch, _mm_add_pd(rl, ps)), _mm_mul_pd(sh, pc));
+    __m128d t = _mm_add_pd(_mm_mul_pd(ch, _mm_add_pd(rl, r.ps)), _mm_mul_pd(sh, r.pc));
     t = _mm_add_pd(t, _mm_add_pd(sl, _mm_mul_pd(cl, rh)));
     lo = _mm_add_pd(_mm_add_pd(e, pe), t);
 }
 
-inline __m128d TableSin(const int32_t* J, __m128d rh, __m128d rl, bool exact = false) {
+// sin(J pi/64 + rh + rl) for |rh| <= pi/128 (rl much smaller), as a high and a low part.
+BRENN_TRIG_HOT void TableSin(const int32_t* J, __m128d rh, __m128d rl, __m128d& hi, __m128d& lo,
+                             bool exact = false) {
+    TableRow t = LoadRows(J);
+    Combine(t.sh, t.sl, t.ch, t.cl, rh, rl, SeriesOf(rh), exact, hi, lo);
+}
+
+// Sine and cosine at once from one row and one series.
+BRENN_TRIG_HOT void TableSinCos(const int32_t* J, __m128d rh, __m128d rl, bool exact, __m128d& s,
+                                __m128d& c) {
+    TableRow t = LoadRows(J);
+    Series r = SeriesOf(rh);
+    __m128d hi, lo;
+    Combine(t.sh, t.sl, t.ch, t.cl, rh, rl, r, exact, hi, lo);
+    s = _mm_add_pd(hi, lo);
+    const __m128d neg = _mm_set1_pd(-0.0);
+    Combine(t.ch, t.cl, _mm_xor_pd(t.sh, neg), _mm_xor_pd(t.sl, neg), rh, rl, r, exact, hi, lo);
+    c = _mm_add_pd(hi, lo);
+}
+
+BRENN_TRIG_HOT __m128d TableSin(const int32_t* J, __m128d rh, __m128d rl, bool exact = false) {
     __m128d hi, lo;
     TableSin(J, rh, rl, hi, lo, exact);
     return _mm_add_pd(hi, lo);

@@ -177,11 +177,8 @@ struct Both {
             LargeD(a, K, bh, bl);
             PickD(big, K, bh, bl, J, rh, rl);
         }
-        K[0] = J[0] + 32;
-        K[1] = J[1] + 32;
-        constexpr bool exact = L == Level::HA;
-        s = _mm_xor_pd(TableSin(J, rh, rl, exact), _mm_and_pd(x, SignMask<double>()));
-        c = TableSin(K, rh, rl, exact);
+        TableSinCos(J, rh, rl, L == Level::HA, s, c);
+        s = _mm_xor_pd(s, _mm_and_pd(x, SignMask<double>()));
     }
     static int Scalar(const double* a, double* y, double* z) {
         double x = *a;
