@@ -1,7 +1,8 @@
 // Generates vecmath/explog/explog_tables.cpp, the constant tables of the exponential
 // and logarithm kernels, from MPFR at 256 bits:
-//   exp tables: 2^(j/N) for N = 64, 128 (single and double, a high part and the rounded
-//   rest) and N = 1024 (double, one part);
+//   exp tables: 2^(j/N) for N = 128 in single (a high part and the rest relative to it),
+//   N = 64 and 128 in double (a high part and the rounded rest) and N = 1024 (double,
+//   one part);
 //   log rows: for the centres c = 1 + j/512, j = 0..512, a reciprocal of c rounded to
 //   43 bits (so that c times it is exact in double) and -ln of that reciprocal, split
 //   into a high part on the grid of 2^-42 (so that k*ln2hi + high is exact) and the
@@ -20,6 +21,8 @@ void Pow2(mpfr_t r, long j, long n) {
     mpfr_exp2(r, r, MPFR_RNDN);
 }
 
+// Single rows: the high part and the rest relative to it, (2^(j/N) - hi)/hi, so that
+// hi*(1 + lo + r + r^2/2) is the body's whole correction.
 void ExpTableF(FILE* out, const char* name, long n) {
     mpfr_t v, t;
     mpfr_inits2(kPrec, v, t, (mpfr_ptr)0);
@@ -28,6 +31,7 @@ void ExpTableF(FILE* out, const char* name, long n) {
         Pow2(v, j, n);
         float hi = mpfr_get_flt(v, MPFR_RNDN);
         mpfr_sub_d(t, v, hi, MPFR_RNDN);
+        mpfr_div_d(t, t, hi, MPFR_RNDN);
         float lo = mpfr_get_flt(t, MPFR_RNDN);
         std::fprintf(out, "    {%a, %a},\n", hi, lo);
     }
@@ -93,7 +97,6 @@ int main(int argc, char** argv) {
                       "// the double logarithm.\n"
                       "#include \"vecmath/explog/explog_tables.h\"\n\n"
                       "namespace brenn::vm {\n\n");
-    ExpTableF(out, "kExpTable64F", 64);
     ExpTableF(out, "kExpTable128F", 128);
     ExpTableD(out, "kExpTable64D", 64, true);
     ExpTableD(out, "kExpTable128D", 128, true);

@@ -124,7 +124,7 @@ struct ExpHAs : ExpBaseS {
         __m128i j = _mm_and_si128(v, _mm_set1_epi32(0x7F));
         alignas(16) int32_t idx[4];
         _mm_store_si128(reinterpret_cast<__m128i*>(idx), j);
-        // Rows of (T, Tl) pairs, transposed into a T and a Tl register.
+        // Rows of (T, Tl) pairs, Tl relative to T, transposed into a T and a Tl register.
         __m128 p01 = _mm_castpd_ps(
             _mm_loadh_pd(_mm_load_sd(reinterpret_cast<const double*>(kExpTable128F[idx[0]])),
                          reinterpret_cast<const double*>(kExpTable128F[idx[1]])));
