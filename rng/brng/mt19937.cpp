@@ -100,6 +100,8 @@ void JumpFinish(void* stream, const void* result, int32_t) {
 // jumps from the state with the block used up.
 int32_t JumpPrepare(void* stream, uint64_t* count, int32_t*) {
     Mt19937State* s = Ring(stream);
+    // A position out of range can only come from a damaged image: a used-up block.
+    if (static_cast<uint32_t>(s->position) > kN) s->position = kN;
     uint64_t unread = static_cast<uint64_t>(kN - s->position);
     if (*count <= unread) {
         s->position += static_cast<int32_t>(*count);

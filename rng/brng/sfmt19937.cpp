@@ -92,6 +92,11 @@ void KeepSpill(SfmtState* s, const uint32_t* group, int32_t used) {
 // last group beyond the request go to `spill`.
 void Serve(SfmtState* s, uint32_t* r, int32_t n) {
     int32_t served = 0;
+    // Spill fields out of their range can only come from a damaged image.
+    if (s->spillCount < 0 || s->spillCount > 3 || s->spillPosition < 0) {
+        s->spillPosition = 0;
+        s->spillCount = 0;
+    }
     while (s->spillPosition < s->spillCount && served < n)
         r[served++] = s->spill[s->spillPosition++];
     int32_t rest = n - served;
@@ -266,6 +271,12 @@ void JumpFinish(void* stream, const void* result, int32_t remainder) {
 // last of them as the remainder.
 int32_t JumpPrepare(void* stream, uint64_t* count, int32_t* remainder) {
     SfmtState* s = Ring(stream);
+    // Fields out of range can only come from a damaged image: a used-up block.
+    if (static_cast<uint32_t>(s->position) > kWords) s->position = kWords;
+    s->position &= ~3;
+    if (s->spillCount < 0 || s->spillCount > 3 || s->spillPosition < 0 ||
+        s->spillPosition > s->spillCount)
+        s->spillPosition = s->spillCount = 0;
     uint64_t spilled = static_cast<uint64_t>(s->spillCount - s->spillPosition);
     if (*count <= spilled) {
         s->spillPosition += static_cast<int32_t>(*count);

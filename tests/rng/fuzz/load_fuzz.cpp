@@ -59,15 +59,19 @@ size_t Claimed(std::vector<uint8_t>& b) {
 void Exercise(void* s) {
     int32_t id = __qesGetStreamStateBrng(s);
     if (id == QES_BRNG_MCG31M1 || id == QES_BRNG_MCG59 || id == QES_BRNG_MT19937 || id == 0 ||
-        id == 3) {
+        id == 3 || id == QES_BRNG_SFMT19937 ||
+        (id >= QES_BRNG_MT2203 && id < QES_BRNG_MT2203 + 6024)) {
         std::vector<uint64_t> words(1300);
         _qesiRngUniformBits(0, s, 1300, words.data());
+        __qesSkipAheadStream(s, 3001); // direct stepping, or Horner's scheme for SFMT
+        _qesiRngUniformBits(0, s, 700, words.data());
     }
 }
 
 void WriteSeeds(const char* dir) {
     int n = 0;
-    for (int32_t id : {QES_BRNG_MCG31M1, QES_BRNG_MCG59, QES_BRNG_MT19937}) {
+    for (int32_t id : {QES_BRNG_MCG31M1, QES_BRNG_MCG59, QES_BRNG_MT19937, QES_BRNG_SFMT19937,
+                       QES_BRNG_MT2203}) {
         for (int chunks = 0; chunks < 3; ++chunks) {
             uint32_t seed = 7;
             void* s = nullptr;
