@@ -21,8 +21,10 @@ struct Gen {
     int32_t brng;
     int32_t wordBytes;
 };
-const Gen kGenerators[] = {
-    {QES_BRNG_MCG31M1, 4}, {0, 4}, {QES_BRNG_MCG59, 8}, {3, 8}, {QES_BRNG_MT19937, 4}};
+const Gen kGenerators[] = {{QES_BRNG_MCG31M1, 4}, {0, 4},
+                           {QES_BRNG_MCG59, 8},   {3, 8},
+                           {QES_BRNG_MT19937, 4}, {QES_BRNG_SFMT19937, 4},
+                           {QES_BRNG_MT2203, 4},  {QES_BRNG_MT2203 + 6023, 4}};
 
 std::string TempPath(const char* tag) {
     return std::string(::testing::TempDir()) + "brenn_persist_" + tag + "_" +
@@ -91,7 +93,7 @@ TEST(RngPersist, RoundTripsContinueTheSequence) {
     for (const Gen& g : kGenerators) {
         for (bool chunks : {false, true}) {
             void* s = NewStream(g.brng);
-            Next(s, g.wordBytes, 1000); // somewhere inside a block
+            Next(s, g.wordBytes, 1001); // inside a block, and inside an SFMT group
             if (chunks) {
                 AddPrivate(s, 5, 40, 0x11);
                 AddPrivate(s, 7, 1, 0x22);
