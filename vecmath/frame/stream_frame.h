@@ -2,7 +2,8 @@
  * the hardware raises them. A body gives Op on registers and on single elements. Three
  * copies of the loop are chosen at entry (y is a, y is b, neither), so that the one
  * without aliasing may be scheduled freely; each runs 32 single (16 double) elements a
- * round and one element at a time for the rest, never touching memory beyond n.
+ * round, then one register at a time and one element at a time for the rest, never
+ * touching memory beyond n.
  *
  * The round is written out register by register: left as a loop over an array of eight
  * registers, the compiler keeps the array on the stack at -O2 and every result makes a
@@ -74,6 +75,19 @@ inline void StreamRound(const B& body, const typename B::T* pa, const typename B
     }
 }
 
+// The elements from i to n, a register at a time while a whole one is left, then one by
+// one, with plain stores.
+template <class B>
+inline void StreamRest(const B& body, int i, int n, const typename B::T* pa,
+                       const typename B::T* pb, typename B::T* py) {
+    using Sd = Simd<typename B::T>;
+    constexpr int L = Sd::kLanes;
+    for (; i + L <= n; i += L)
+        Sd::Store(py + i, body.Op(Sd::Load(pa + i), Sd::Load(pb + i)));
+    for (; i < n; ++i)
+        py[i] = body.Op(pa[i], pb[i]);
+}
+
 template <class B, Alias A>
 inline void StreamLoop(const B& body, int n, const typename B::T* a, const typename B::T* b,
                        typename B::T* y) {
@@ -96,16 +110,14 @@ inline void StreamLoop(const B& body, int n, const typename B::T* a, const typen
             for (; i + kRound <= n; i += kRound)
                 StreamRound<false>(body, pa + i, pb + i, py + i);
         }
-        for (; i < n; ++i)
-            py[i] = body.Op(pa[i], pb[i]);
+        StreamRest(body, i, n, pa, pb, py);
     } else {
         // y is one of the inputs: plain pointers, since the stores write what was read
         const T* pa = A == Alias::YisA ? y : a;
         const T* pb = A == Alias::YisB ? y : b;
         for (; i + kRound <= n; i += kRound)
             StreamRound<false>(body, pa + i, pb + i, y + i);
-        for (; i < n; ++i)
-            y[i] = body.Op(pa[i], pb[i]);
+        StreamRest(body, i, n, pa, pb, y);
     }
 }
 
