@@ -81,8 +81,7 @@ struct Log1pS {
     static int Scalar(const float* a, float* y) { return Log1pScalar(a, y); }
     static __m128 Eval(__m128 x, __m128& special) {
         __m128 u, c;
-        OnePlusS(x, u, c);
-        special = LogTestS(u);
+        special = LogTestS(_mm_add_ps(_mm_set1_ps(1.0f), x));
         // Special lanes run on 0, so that inf - inf and 1/0 raise no flag of their own.
         x = _mm_andnot_ps(special, x);
         OnePlusS(x, u, c);
@@ -123,8 +122,7 @@ struct Log1pD {
     static int Scalar(const double* a, double* y) { return Log1pScalar(a, y); }
     static __m128d Eval(__m128d x, __m128d& special) {
         __m128d u, c;
-        OnePlusD(x, u, c);
-        special = LogTestD(u);
+        special = LogTestD(_mm_add_pd(_mm_set1_pd(1.0), x));
         // Special lanes run on 0, so that inf - inf and 1/0 raise no flag of their own.
         x = _mm_andnot_pd(special, x);
         OnePlusD(x, u, c);
