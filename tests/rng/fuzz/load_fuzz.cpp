@@ -40,6 +40,8 @@ size_t Claimed(std::vector<uint8_t>& b) {
         uint32_t chunks = v2 ? Le(b, 16, 2) : Le(b, 12, 2);
         size_t need = at + stateBytes;
         int guid = b[0] == 0 ? 0 : (b[0] <= 2 ? 16 : -1);
+        // A version without a chunk layout still reads the first chunk's id.
+        if (guid < 0 && chunks > 0) need += 4;
         bool inside = need <= b.size();
         for (uint32_t k = 0; inside && guid >= 0 && k < chunks; ++k) {
             need += 4 + guid + 4;
