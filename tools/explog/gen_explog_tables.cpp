@@ -97,11 +97,13 @@ int main(int argc, char** argv) {
                       "// the double logarithm.\n"
                       "#include \"vecmath/explog/explog_tables.h\"\n\n"
                       "namespace brenn::vm {\n\n");
-    ExpTableF(out, "kExpTable128F", 128);
-    ExpTableD(out, "kExpTable64D", 64, true);
-    ExpTableD(out, "kExpTable128D", 128, true);
-    ExpTableD(out, "kExpTable1024D", 1024, false);
-    LogRows(out, "kLnRows", 512);
+    std::fprintf(out, "namespace single {\n\n");
+    ExpTableF(out, "expTable128", 128);
+    std::fprintf(out, "} // namespace single\n\n");
+    ExpTableD(out, "expTable64", 64, true);
+    ExpTableD(out, "expTable128", 128, true);
+    ExpTableD(out, "expTable1024", 1024, false);
+    LogRows(out, "lnRows", 512);
     std::fprintf(out, "} // namespace brenn::vm\n");
     return std::fclose(out) == 0 ? 0 : 1;
 }

@@ -126,11 +126,11 @@ struct ExpHAs : ExpBaseS {
         _mm_store_si128(reinterpret_cast<__m128i*>(idx), j);
         // Rows of (T, Tl) pairs, Tl relative to T, transposed into a T and a Tl register.
         __m128 p01 = _mm_castpd_ps(
-            _mm_loadh_pd(_mm_load_sd(reinterpret_cast<const double*>(kExpTable128F[idx[0]])),
-                         reinterpret_cast<const double*>(kExpTable128F[idx[1]])));
+            _mm_loadh_pd(_mm_load_sd(reinterpret_cast<const double*>(single::expTable128[idx[0]])),
+                         reinterpret_cast<const double*>(single::expTable128[idx[1]])));
         __m128 p23 = _mm_castpd_ps(
-            _mm_loadh_pd(_mm_load_sd(reinterpret_cast<const double*>(kExpTable128F[idx[2]])),
-                         reinterpret_cast<const double*>(kExpTable128F[idx[3]])));
+            _mm_loadh_pd(_mm_load_sd(reinterpret_cast<const double*>(single::expTable128[idx[2]])),
+                         reinterpret_cast<const double*>(single::expTable128[idx[3]])));
         __m128 tv = _mm_shuffle_ps(p01, p23, _MM_SHUFFLE(2, 0, 2, 0));
         __m128 tl = _mm_shuffle_ps(p01, p23, _MM_SHUFFLE(3, 1, 3, 1));
         __m128 s = Add(Add(r, tl), Mul(C(0.5f), Mul(r, r)));
@@ -176,7 +176,7 @@ struct ExpEPd : ExpBaseD {
         __m128d p = Add(r, Mul(Mul(r, r), C(0.49999908361121337)));
         __m128i v = _mm_castpd_si128(t);
         const double *ra, *rb;
-        Gather2<128>(kExpTable128D, v, ra, rb);
+        Gather2<128>(expTable128, v, ra, rb);
         __m128d tv = _mm_loadh_pd(_mm_load_sd(ra), rb);
         __m128d y = Add(tv, Mul(tv, p));
         return ScaleByLowWord<7>(y, v);
@@ -194,8 +194,8 @@ struct ExpLAd : ExpBaseD {
         __m128d p = Add(C(0.50000000357965391), Mul(r, C(0.16666666666666669)));
         p = Add(r, Mul(Mul(r, r), p));
         __m128i v = _mm_castpd_si128(t);
-        __m128d tv = _mm_set_pd(kExpTable1024D[_mm_extract_epi32(v, 2) & 1023],
-                                kExpTable1024D[_mm_cvtsi128_si32(v) & 1023]);
+        __m128d tv = _mm_set_pd(expTable1024[_mm_extract_epi32(v, 2) & 1023],
+                                expTable1024[_mm_cvtsi128_si32(v) & 1023]);
         __m128d y = Add(tv, Mul(tv, p));
         return ScaleByLowWord<10>(y, v);
     }
@@ -215,7 +215,7 @@ struct ExpHAd : ExpBaseD {
         p = Add(r, Mul(r2, p));
         __m128i v = _mm_castpd_si128(t);
         const double *ra, *rb;
-        Gather2<64>(kExpTable64D, v, ra, rb);
+        Gather2<64>(expTable64, v, ra, rb);
         __m128d a = _mm_load_pd(ra), b = _mm_load_pd(rb);
         __m128d th = _mm_unpacklo_pd(a, b), tl = _mm_unpackhi_pd(a, b);
         __m128d y = Add(th, Add(Mul(th, p), tl));

@@ -2,7 +2,7 @@
  * rows, which run in double): n = x*64/ln2 rounded by the shifter, j = n & 63,
  * m = n >> 6, r the reduced argument in base e (|r| <= ln2/128), p(r) ~ e^r - 1 fitted
  * for relative error (tools/explog/expm1_double.sollya) so that p is expm1 itself for
- * small arguments, and T = 2^(j/64) in two parts from kExpTable64D.
+ * small arguments, and T = 2^(j/64) in two parts from expTable64.
  * The caller forms n and r for its base; this header supplies the polynomial, the
  * table rows and the assembly e^x = 2^m*(Thi + (Thi*p + Tlo)). */
 #ifndef BRENN_VECMATH_EXPLOG_EXP_CORE_H
@@ -58,8 +58,8 @@ inline __m128d ExpPolyD(__m128d r) {
 // Table rows of the two lanes of t (x*64/ln2 + shifter): Thi and Tlo.
 inline void ExpRows64(__m128d t, __m128d& th, __m128d& tl) {
     __m128i v = _mm_castpd_si128(t);
-    __m128d a = _mm_load_pd(kExpTable64D[_mm_cvtsi128_si32(v) & 63]);
-    __m128d b = _mm_load_pd(kExpTable64D[_mm_extract_epi32(v, 2) & 63]);
+    __m128d a = _mm_load_pd(expTable64[_mm_cvtsi128_si32(v) & 63]);
+    __m128d b = _mm_load_pd(expTable64[_mm_extract_epi32(v, 2) & 63]);
     th = _mm_unpacklo_pd(a, b);
     tl = _mm_unpackhi_pd(a, b);
 }

@@ -48,7 +48,7 @@ inline double ExpScalarCore(double x, double xl = 0.0) {
     int ni = int(n);
     int j = ni & 63, m = (ni - j) / 64;
     double p = ExpPoly6(r);
-    double y = kExpTable64D[j][0] + (kExpTable64D[j][0] * p + kExpTable64D[j][1]);
+    double y = expTable64[j][0] + (expTable64[j][0] * p + expTable64[j][1]);
     int m1 = m / 2;
     return y * Pow2D(m1) * Pow2D(m - m1);
 }

@@ -5,7 +5,9 @@
 
 namespace brenn::vm {
 
-alignas(16) const float kExpTable128F[128][2] = {
+namespace single {
+
+alignas(16) const float expTable128[128][2] = {
     {0x1p+0, 0x0p+0},
     {0x1.0163dap+0, 0x1.3dacd2p-25},
     {0x1.02c9a4p+0, -0x1.844542p-28},
@@ -136,7 +138,9 @@ alignas(16) const float kExpTable128F[128][2] = {
     {0x1.fd3c22p+0, 0x1.73f078p-26},
 };
 
-alignas(16) const double kExpTable64D[64][2] = {
+} // namespace single
+
+alignas(16) const double expTable64[64][2] = {
     {0x1p+0, 0x0p+0},
     {0x1.02c9a3e778061p+0, -0x1.19083535b085dp-56},
     {0x1.059b0d3158574p+0, 0x1.d73e2a475b465p-55},
@@ -203,7 +207,7 @@ alignas(16) const double kExpTable64D[64][2] = {
     {0x1.fa7c1819e90d8p+0, 0x1.74853f3a5931ep-55},
 };
 
-alignas(16) const double kExpTable128D[128][2] = {
+alignas(16) const double expTable128[128][2] = {
     {0x1p+0, 0x0p+0},
     {0x1.0163da9fb3335p+0, 0x1.b61299ab8cdb7p-54},
     {0x1.02c9a3e778061p+0, -0x1.19083535b085dp-56},
@@ -334,7 +338,7 @@ alignas(16) const double kExpTable128D[128][2] = {
     {0x1.fd3c22b8f71f1p+0, 0x1.2eb74966579e7p-57},
 };
 
-alignas(16) const double kExpTable1024D[1024] = {
+alignas(16) const double expTable1024[1024] = {
     0x1p+0,
     0x1.002c605e2e8cfp+0,
     0x1.0058c86da1c0ap+0,
@@ -1361,7 +1365,7 @@ alignas(16) const double kExpTable1024D[1024] = {
     0x1.ffa74ea381efcp+0,
 };
 
-alignas(32) const double kLnRows[513][4] = {
+alignas(32) const double lnRows[513][4] = {
     {0x1p+0, 0x0p+0, 0x0p+0, 0.0},
     {0x1.ff007fc02p-1, 0x1.ff802a9bp-10, -0x1.bbc661d61c5cbp-44, 0.0},
     {0x1.fe01fe01fep-1, 0x1.ff00aa2bp-9, 0x1.2bc04a086b56bp-45, 0.0},

@@ -4,7 +4,7 @@
  * around the centre 0x3F2AAAAB (2/3), so that for x near 1 k is 0 and r = m - 1 is
  * exact: no cancellation.
  * Double core: m in [1, 2) from the significand, mh = m rounded to 9 fraction bits
- * (the 513 rows of kLnRows), r = (mh*rcp - 1) + ml*rcp with the first product exact,
+ * (the 513 rows of lnRows), r = (mh*rcp - 1) + ml*rcp with the first product exact,
  * |r| <= 2^-10; ln x = (k*ln2hi + Thi) + (r + r^2*P(r) + k*ln2lo + Tlo), where the
  * first sum is exact (both on the 2^-42 grid). The result comes as that exact head H and
  * a tail L, so that Log10, Log2 and Log1p can scale or correct it without a second
@@ -61,8 +61,8 @@ inline void LnCoreD3(__m128d x, __m128d& h, __m128d& r, __m128d& t) {
     __m128d mh = _mm_sub_pd(ts, sh);
     __m128d ml = _mm_sub_pd(m, mh);
     __m128i ti = _mm_castpd_si128(ts);
-    const double* ra = kLnRows[_mm_cvtsi128_si32(ti) - 512];
-    const double* rb = kLnRows[_mm_extract_epi32(ti, 2) - 512];
+    const double* ra = lnRows[_mm_cvtsi128_si32(ti) - 512];
+    const double* rb = lnRows[_mm_extract_epi32(ti, 2) - 512];
     __m128d a0 = _mm_load_pd(ra), b0 = _mm_load_pd(rb);
     __m128d a1 = _mm_load_pd(ra + 2), b1 = _mm_load_pd(rb + 2);
     __m128d rcp = _mm_unpacklo_pd(a0, b0), th = _mm_unpackhi_pd(a0, b0);
