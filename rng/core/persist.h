@@ -106,6 +106,14 @@ int32_t WriteImage(Sink& sink, const void* stream, int32_t writeStatus) {
     return status;
 }
 
+// True when an earlier cell of the stream has this non-zero guid with another size.
+inline bool SharedSizeDiffers(const void* stream, const uint64_t* guid, uint32_t size) {
+    if (GuidIsZero(guid)) return false;
+    for (const QesChunk* c = brenn::rng::Header(stream)->chunks; c != nullptr; c = c->next)
+        if (c->guid[0] == guid[0] && c->guid[1] == guid[1] && c->size != size) return true;
+    return false;
+}
+
 // Builds a stream from an image. A source has Get(data, bytes) -> bool; `bad` is
 // the medium's status for a malformed image. *made is the stream once allocated,
 // also when a later step fails: the caller closes its medium first, then keeps or
@@ -166,6 +174,12 @@ int32_t ReadImage(Source& source, void** made, int32_t bad) {
             break;
         }
         uint32_t size = Read32(fields);
+        // One shared table has one size: an image that gives a guid two sizes
+        // would leave a cell that claims more bytes than the block it shares.
+        if (SharedSizeDiffers(s, guid, size)) {
+            status = bad;
+            break;
+        }
         void* data = brenn_serv_allocate(size, kStreamAlignment);
         if (data == nullptr) {
             status = QES_STATUS_NO_MEMORY;

@@ -291,6 +291,36 @@ TEST(RngPersist, MalformedImages) {
     std::remove(path.c_str());
 }
 
+// Two chunks of one shared table with different sizes: the second would share the
+// first one's block while claiming its own size.
+TEST(RngPersist, OneGuidWithTwoSizesIsRefused) {
+    void* s = NewStream(QES_BRNG_MCG31M1);
+    uint64_t guid[2] = {0xABCDEF, 0x123};
+    auto image = SaveM(s);
+    image[16] = 2; // two chunks
+    for (uint32_t size : {1u, 9u}) {
+        uint8_t cell[24] = {};
+        cell[0] = 9;
+        std::memcpy(cell + 4, guid, 16);
+        std::memcpy(cell + 20, &size, 4);
+        image.insert(image.end(), cell, cell + 24);
+        image.insert(image.end(), size, 0x33);
+    }
+    int64_t live = brenn_serv_live_allocations();
+    void* m = reinterpret_cast<void*>(1);
+    EXPECT_EQ(__qesLoadStreamM(&m, image.data()), QES_RNG_STATUS_BAD_IMAGE_FORMAT);
+    EXPECT_EQ(m, nullptr);
+    EXPECT_EQ(brenn_serv_live_allocations(), live);
+    // With equal sizes the second cell joins the first one's table row.
+    image[24 + 8 + 25 + 20] = 1; // the second size, after the first cell of 25 bytes
+    image.erase(image.end() - 8, image.end());
+    ASSERT_EQ(__qesLoadStreamM(&m, image.data()), 0);
+    EXPECT_EQ(__qesGetNumChunks(m), 2);
+    __qesDeleteStream(&m);
+    EXPECT_EQ(brenn_serv_live_allocations(), live);
+    __qesDeleteStream(&s);
+}
+
 TEST(RngPersist, FileNamesAndFileErrors) {
     void* s = NewStream(QES_BRNG_MT19937);
     std::string path = TempPath("name");

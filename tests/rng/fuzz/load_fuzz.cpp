@@ -58,7 +58,30 @@ size_t Claimed(std::vector<uint8_t>& b) {
     }
 }
 
+std::vector<uint8_t> Save(void* s) {
+    std::vector<uint8_t> image(static_cast<size_t>(__qesGetStreamSize(s)));
+    if (__qesSaveStreamM(s, image.data()) != 0) std::abort();
+    return image;
+}
+
+std::vector<uint8_t> Reload(const std::vector<uint8_t>& image) {
+    void* t = nullptr;
+    if (__qesLoadStreamM(&t, image.data()) < 0) std::abort();
+    std::vector<uint8_t> again = Save(t);
+    __qesDeleteStream(&t);
+    return again;
+}
+
+// A loaded stream saves to an image that loads again; each load reverses the
+// chunk list, so two reloads give the same bytes.
+void RoundTrip(void* s) {
+    std::vector<uint8_t> image = Save(s);
+    std::vector<uint8_t> once = Reload(image);
+    if (once.size() != image.size() || Reload(once) != image) std::abort();
+}
+
 void Exercise(void* s) {
+    RoundTrip(s);
     int32_t id = __qesGetStreamStateBrng(s);
     if (id == QES_BRNG_MCG31M1 || id == QES_BRNG_MCG59 || id == QES_BRNG_MT19937 || id == 0 ||
         id == 3 || id == QES_BRNG_SFMT19937 ||
