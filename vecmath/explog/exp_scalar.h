@@ -1,5 +1,5 @@
 /* Scalar exponential in double for the special lanes of the exponential family: 2^n
- * times a table value of 2^(j/64) times e^r - 1 by a degree-5 polynomial, with the
+ * times a table value of 2^(j/64) times e^r - 1 by a degree-6 polynomial, with the
  * power of two applied in two multiplications so that a denormal result is rounded once.
  * Good to about half an ulp of double over the whole finite range, so that a single
  * result rounded from it is within an ulp and a double within one.
