@@ -6,7 +6,8 @@
 //   log rows: for the centres c = 1 + j/512, j = 0..512, a reciprocal of c rounded to
 //   43 bits (so that c times it is exact in double) and -ln of that reciprocal, split
 //   into a high part on the grid of 2^-42 (so that k*ln2hi + high is exact) and the
-//   rounded rest.
+//   rounded rest;
+//   the 128 rows of the scalar logarithm: the same for the middles c = 1 + (2j+1)/256.
 //   gen_explog_tables OUT
 #include <cstdio>
 #include <mpfr.h>
@@ -83,6 +84,30 @@ void LogRows(FILE* out, const char* name, long n) {
     mpfr_clears(c, rcp, l, t, hi, (mpfr_ptr)0);
 }
 
+// Rows of the scalar logarithm: centres c = 1 + (2j + 1)/256, j = 0..127, the middles
+// of the 128 intervals of [1, 2); the reciprocal and logarithm parts as in LogRows.
+void LogRows128(FILE* out, const char* name) {
+    mpfr_t c, rcp, l, t, hi;
+    mpfr_inits2(kPrec, c, l, t, hi, (mpfr_ptr)0);
+    mpfr_init2(rcp, 43);
+    std::fprintf(out, "alignas(32) const double %s[128][3] = {\n", name);
+    for (long j = 0; j < 128; ++j) {
+        mpfr_set_si(c, 257 + 2 * j, MPFR_RNDN);
+        mpfr_div_si(c, c, 256, MPFR_RNDN);
+        mpfr_ui_div(rcp, 1, c, MPFR_RNDN);
+        mpfr_log(l, rcp, MPFR_RNDN);
+        mpfr_neg(l, l, MPFR_RNDN);
+        mpfr_mul_2si(t, l, 42, MPFR_RNDN);
+        mpfr_rint(t, t, MPFR_RNDN);
+        mpfr_div_2si(hi, t, 42, MPFR_RNDN);
+        mpfr_sub(t, l, hi, MPFR_RNDN);
+        std::fprintf(out, "    {%a, %a, %a},\n", mpfr_get_d(rcp, MPFR_RNDN),
+                     mpfr_get_d(hi, MPFR_RNDN) + 0.0, mpfr_get_d(t, MPFR_RNDN) + 0.0);
+    }
+    std::fprintf(out, "};\n\n");
+    mpfr_clears(c, rcp, l, t, hi, (mpfr_ptr)0);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -104,6 +129,7 @@ int main(int argc, char** argv) {
     ExpTableD(out, "expTable128", 128, true);
     ExpTableD(out, "expTable1024", 1024, false);
     LogRows(out, "lnRows", 512);
+    LogRows128(out, "lnTable128");
     std::fprintf(out, "} // namespace brenn::vm\n");
     return std::fclose(out) == 0 ? 0 : 1;
 }

@@ -5,7 +5,9 @@
  *   expTable1024[j]        = 2^(j/1024), one double;
  *   lnRows[j]              = for the centre c = 1 + j/512: a reciprocal of c to 43 bits,
  *                        -ln(reciprocal) as a high part on the 2^-42 grid and the rest,
- *                          and a pad, so that a row is 32 bytes. */
+ *                          and a pad, so that a row is 32 bytes;
+ *   lnTable128[j]          = the same three values for the centre c = 1 + (2j + 1)/256,
+ *                          the rows of the scalar logarithm. */
 #ifndef BRENN_VECMATH_EXPLOG_EXPLOG_TABLES_H
 #define BRENN_VECMATH_EXPLOG_EXPLOG_TABLES_H
 
@@ -18,6 +20,7 @@ extern const double expTable64[64][2];
 extern const double expTable128[128][2];
 extern const double expTable1024[1024];
 extern const double lnRows[513][4];
+extern const double lnTable128[128][3];
 
 } // namespace brenn::vm
 
