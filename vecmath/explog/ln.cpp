@@ -79,16 +79,16 @@ struct LnHAs : LnBaseS {
         special = LogTestS(x);
         __m128 r, k;
         LogSplitS(x, r, k);
-        // The high coefficients by Estrin's scheme (their rounding is scaled down by r^4),
-        // the four low ones by Horner steps, so that Q's error is about the last step's
-        // half ulp while the chain stays short.
+        // The seven high coefficients by Estrin's scheme (their rounding is scaled down
+        // by r^2), the two low ones by Horner steps, so that Q's error is about the last
+        // step's half ulp while the chain stays short.
         __m128 r2 = _mm_mul_ps(r, r), r4 = _mm_mul_ps(r2, r2);
-        __m128 h = _mm_add_ps(_mm_add_ps(Pair(r, -0.16680488f, 0.140058696f),
-                                         _mm_mul_ps(r2, Pair(r, -0.121842608f, 0.139844373f))),
-                              _mm_mul_ps(r4, _mm_set1_ps(-0.12891686f)));
-        __m128 q = _mm_add_ps(_mm_set1_ps(0.200104058f), _mm_mul_ps(r, h));
-        q = _mm_add_ps(_mm_set1_ps(-0.249997973f), _mm_mul_ps(r, q));
-        q = _mm_add_ps(_mm_set1_ps(0.333332151f), _mm_mul_ps(r, q));
+        __m128 h =
+            _mm_add_ps(_mm_add_ps(Pair(r, -0.249997973f, 0.200104058f),
+                                  _mm_mul_ps(r2, Pair(r, -0.16680488f, 0.140058696f))),
+                       _mm_mul_ps(r4, _mm_add_ps(Pair(r, -0.121842608f, 0.139844373f),
+                                                 _mm_mul_ps(r2, _mm_set1_ps(-0.12891686f)))));
+        __m128 q = _mm_add_ps(_mm_set1_ps(0.333332151f), _mm_mul_ps(r, h));
         q = _mm_add_ps(_mm_set1_ps(-0.5f), _mm_mul_ps(r, q));
         // The sums r + r^2*Q and k*ln2hi + p are carried with their rounding errors
         // (Fast2Sum: |r| >= |r^2*Q|, and |k*ln2hi| >= |p| whenever k is not 0), so that
