@@ -1,11 +1,12 @@
 // x^count mod P(x) over GF(2), the remainder that a polynomial jump of a GF(2)-linear
 // generator applies to its state. The polynomial is held in 64-bit words, and each
-// square is reduced from the top a word at a time. Two reductions: a sparse P (the
-// generators' characteristic polynomials, 135 and 6711 terms with the highest lower
-// term 623 and 531 below the degree) clears up to 64 bits of the part above the degree
-// at once by XORing that chunk, shifted, at each lower term; a P whose lower terms are
-// dense or reach close to the degree clears one bit at a time by XORing all of P's
-// words, shifted. The cheaper of the two by operation count is used.
+// square is reduced from the top. A sparse P (MT19937's characteristic polynomial: 135
+// terms, the highest lower one 623 below the degree) clears up to 64 bits of the part
+// above the degree at once by XORing that chunk, shifted, at each lower term. A P with
+// many lower terms (SFMT19937's: 6711) clears four bits at a time by XORing a multiple
+// of P from a table of all sixteen at each offset of four bits, whole aligned words,
+// or one bit at a time when a lower term lies within 4 of the degree. The cheaper of
+// the two by a measured operation count is used.
 #include <emmintrin.h>
 #include <string.h>
 
@@ -53,7 +54,8 @@ struct Work {
     int32_t chunk; // bits cleared per sparse step: at most 64, at most the gap
     bool dense;
     uint64_t* r; // 2 * words + 2: the current polynomial and its square
-    uint64_t* p; // dense reduction only: P shifted by 0 to 63 bits, words + 1 words each
+    uint64_t* p; // dense reduction only: v(x) P(x) x^(4 offset) for v and offset below 16,
+                 // words + 1 words each
 };
 
 // Sparse reduction of r, whose bits lie below top. A chunk H of the bits at and above
@@ -76,10 +78,38 @@ void ReduceSparse(Work& w, int64_t top) {
     }
 }
 
-// Dense reduction: each set bit i at or above the degree is cleared by XORing P shifted
-// up by i - degree. P is kept in all 64 bit offsets within a word, so that each XOR is
-// of whole aligned words, two at a time.
-void ReduceDense(Work& w, int64_t top) {
+// r[0..span) ^= source[0..span), two words at a time.
+inline void XorWords(uint64_t* r, const uint64_t* source, int32_t span) {
+    int32_t j = 0;
+    for (; j + 2 <= span; j += 2) {
+        __m128i a = _mm_loadu_si128(reinterpret_cast<const __m128i*>(r + j));
+        __m128i b = _mm_loadu_si128(reinterpret_cast<const __m128i*>(source + j));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(r + j), _mm_xor_si128(a, b));
+    }
+    if (j < span) r[j] ^= source[j];
+}
+
+// The table entry holding v(x) P(x) x^(4 offset), for v of at most 4 bits.
+inline const uint64_t* Multiple(const Work& w, int offset, uint64_t v) {
+    return w.p + (16 * offset + static_cast<int>(v)) * (w.words + 1);
+}
+
+// Dense reduction, four bits at a time: the nibble H at position q (q - degree a
+// multiple of 4) stands for H x^(q - degree) x^degree; with a gap of at least 4 the
+// quotient is H itself, so one XOR of the table's H P, at its word offset, clears the
+// nibble and folds it down. The walk goes down by nibbles, below the one just cleared.
+void ReduceNibbles(Work& w, int64_t top) {
+    const int32_t span = w.words + 1;
+    for (int64_t s = (top - 1 - w.degree) & ~int64_t{3}; s >= 0; s -= 4) {
+        uint64_t h = (Get64(w.r, s + w.degree)) & 15;
+        if (h != 0) XorWords(w.r + (s >> 6), Multiple(w, static_cast<int>((s & 63) >> 2), h), span);
+    }
+}
+
+// Dense reduction when P has a lower term within 4 of the degree: each set bit i at or
+// above the degree is cleared by XORing P shifted up by i - degree, from the table's
+// single-bit entries, so that the XOR is of whole aligned words.
+void ReduceBits(Work& w, int64_t top) {
     const int32_t span = w.words + 1;
     const int32_t low = w.degree >> 6;
     for (int32_t k = static_cast<int32_t>((top - 1) >> 6); k >= low; --k) {
@@ -88,15 +118,35 @@ void ReduceDense(Work& w, int64_t top) {
             uint64_t v = w.r[k] & keep;
             if (v == 0) break;
             int64_t s = int64_t{64} * k + 63 - __builtin_clzll(v) - w.degree;
-            const uint64_t* source = w.p + (s & 63) * span;
-            uint64_t* d = w.r + (s >> 6);
-            int32_t j = 0;
-            for (; j + 2 <= span; j += 2) {
-                __m128i a = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d + j));
-                __m128i b = _mm_loadu_si128(reinterpret_cast<const __m128i*>(source + j));
-                _mm_storeu_si128(reinterpret_cast<__m128i*>(d + j), _mm_xor_si128(a, b));
-            }
-            if (j < span) d[j] ^= source[j];
+            int b = static_cast<int>(s & 63);
+            XorWords(w.r + (s >> 6), Multiple(w, b >> 2, uint64_t{1} << (b & 3)), span);
+        }
+    }
+}
+
+// The table of multiples: P shifted by each of the 64 bit offsets from P's own words,
+// then every 4-bit multiple at each offset of 4 as a sum of two smaller ones.
+void BuildMultiples(Work& w, int32_t termCount, const int32_t* terms) {
+    const int32_t span = w.words + 1;
+    uint64_t* base = w.p; // entry 0 (offset 0, v = 0) is free until the end
+    for (int32_t t = 0; t < termCount; ++t)
+        if (terms[t] <= w.degree) base[terms[t] >> 6] ^= uint64_t{1} << (terms[t] & 63);
+    for (int b = 0; b < 64; ++b) {
+        uint64_t* d = const_cast<uint64_t*>(Multiple(w, b >> 2, uint64_t{1} << (b & 3)));
+        d[0] = base[0] << b;
+        for (int32_t j = 1; j < span; ++j)
+            d[j] = b == 0 ? base[j] : (base[j] << b) | (base[j - 1] >> (64 - b));
+    }
+    memset(base, 0, static_cast<size_t>(span) * 8);
+    for (int offset = 0; offset < 16; ++offset) {
+        for (uint64_t v = 3; v < 16; ++v) {
+            uint64_t lowest = v & (0 - v);
+            if (v == lowest) continue;
+            uint64_t* d = const_cast<uint64_t*>(Multiple(w, offset, v));
+            const uint64_t* x = Multiple(w, offset, lowest);
+            const uint64_t* y = Multiple(w, offset, v ^ lowest);
+            for (int32_t j = 0; j < span; ++j)
+                d[j] = x[j] ^ y[j];
         }
     }
 }
@@ -112,8 +162,10 @@ void Square(Work& w) {
     }
     int64_t top = int64_t{128} * used;
     if (top <= w.degree) return;
-    if (w.dense)
-        ReduceDense(w, top);
+    if (w.dense && w.chunk >= 4)
+        ReduceNibbles(w, top);
+    else if (w.dense)
+        ReduceBits(w, top);
     else
         ReduceSparse(w, top);
 }
@@ -154,30 +206,23 @@ BRENN_EXPORT int32_t __qesPolyRem(uint64_t count, int32_t degree, int32_t termCo
     int32_t gap = w.lowerCount > 0 ? degree - terms[w.lowerCount - 1] : degree;
     w.chunk = gap < 64 ? gap : 64;
     // Per reduction of degree bits: the sparse walk does about degree / chunk steps of
-    // one unaligned XOR per lower term, the dense one about degree / 2 set bits of an
-    // aligned XOR of every word. Measured on the two generators' polynomials, a dense
-    // word costs about an eighth of a sparse term (MT19937: sparse 1.2 ms, dense 14 ms
-    // for 2^40; SFMT19937: sparse 79 ms, dense 15 ms).
+    // one unaligned XOR per lower term; the dense one about degree / 4 nibbles (or
+    // degree / 2 set bits when a lower term is within 4 of the degree) of an aligned XOR
+    // of every word. Measured on the two generators' polynomials a dense word costs
+    // about an eighth of a sparse term (MT19937, 2^40: sparse 1.2 ms, dense bit by bit
+    // 14 ms; SFMT19937: sparse 79 ms, dense bit by bit 15 ms).
+    const int32_t span = w.words + 1;
     double sparseCost = (static_cast<double>(degree) / w.chunk) * (w.lowerCount + 1);
-    double denseCost = 0.5 * degree * (w.words + 1) / 8;
+    double denseCost = (w.chunk >= 4 ? 0.25 : 0.5) * degree * span / 8;
     w.dense = denseCost < sparseCost;
 
-    int32_t span = w.words + 1;
-    size_t total = static_cast<size_t>(2 * w.words + 2 + (w.dense ? 64 * span : 0)) * 8;
+    size_t total = static_cast<size_t>(2 * w.words + 2 + (w.dense ? 256 * span : 0)) * 8;
     uint64_t* area = static_cast<uint64_t*>(brenn_serv_allocate(total, kStreamAlignment));
     if (area == nullptr) return QES_STATUS_NO_MEMORY;
     memset(area, 0, total);
     w.r = area;
     w.p = area + 2 * w.words + 2;
-    if (w.dense) {
-        for (int32_t t = 0; t < termCount; ++t) {
-            if (terms[t] > degree) continue;
-            for (int b = 0; b < 64; ++b) {
-                int32_t e = terms[t] + b;
-                w.p[b * span + (e >> 6)] ^= uint64_t{1} << (e & 63);
-            }
-        }
-    }
+    if (w.dense) BuildMultiples(w, termCount, terms);
     w.r[0] = 1;
     for (int bit = 63 - __builtin_clzll(count); bit >= 0; --bit) {
         Square(w);
