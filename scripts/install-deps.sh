@@ -6,6 +6,8 @@ set -euo pipefail
 packages=(
   # build
   build-essential g++ clang cmake ninja-build pkg-config git
+  # the loader fuzzer (libFuzzer and the sanitizer runtimes of clang)
+  libclang-rt-14-dev
   # tests and benchmarks
   libgtest-dev libgmock-dev libbenchmark-dev valgrind
   # runtime dependencies of the library
