@@ -8,9 +8,9 @@
  * modulo 128 (the index J) and the centred fraction. The result is sin(J pi/64 + r) by
  * the table method with |r| <= pi/128; cosine is the same at J + 32.
  *
- * Single: 24-bit significand by a 96-bit window, in 16-bit limbs with 32-bit products
- * (four lanes). Double: 53-bit significand by a 192-bit window, 32-bit words with 64-bit
- * products (two lanes), the fraction kept to 128 bits as a high and a low double. */
+ * Single: 24-bit significand by a 96-bit window, as three 32 by 32-bit products a lane
+ * (four lanes, two at a time). Double: 53-bit significand by a 192-bit window, 32-bit words with
+ * 64-bit products (two lanes), the fraction kept to 128 bits as a high and a low double. */
 #ifndef BRENN_VECMATH_TRIG_REDUCE_H
 #define BRENN_VECMATH_TRIG_REDUCE_H
 
@@ -32,13 +32,6 @@ constexpr double k64OverPi = 0x1.45f306dc9c883p+4;
 constexpr double kShifterD = 6755399441055744.0; // 1.5 * 2^52
 constexpr float kShifterS = 12582912.0f;         // 1.5 * 2^23
 
-inline __m128i Lo16(__m128i v) {
-    return _mm_and_si128(v, _mm_set1_epi32(0xFFFF));
-}
-inline __m128i Hi16(__m128i v) {
-    return _mm_srli_epi32(v, 16);
-}
-
 // Two doubles from lanes 0-1 and 2-3 of a signed 32-bit vector.
 inline void IntToDouble(__m128i v, __m128d& d0, __m128d& d1) {
     d0 = _mm_cvtepi32_pd(v);
@@ -47,59 +40,52 @@ inline void IntToDouble(__m128i v, __m128d& d0, __m128d& d1) {
 
 // Reduction of four finite single magnitudes a (bits of |x|): J[k] = index mod 128 and
 // r (lanes 0-1 in r0, 2-3 in r1) with a = J pi/64 + r + 2 pi k, |r| <= pi/128.
+// Each lane's row is one 16-byte load (its three words and one word beyond, unused),
+// transposed into three vectors of words; the 24-bit significand times each word is a
+// 64-bit product (mul_epu32, lanes 0 and 2, then 1 and 3). Bits 95..32 of the product
+// are the sum of the three products at 2^64, 2^32 and 1, taken modulo 2^64: the bits
+// above 95 drop out with the wrap.
 BRENN_TRIG_COLD void LargeS(__m128 a, int32_t J[4], __m128d& r0, __m128d& r1) {
     __m128i b = _mm_castps_si128(a);
-    __m128i e = _mm_srli_epi32(b, 23);
+    // Exponent 255 (infinity or NaN lanes, whose results are not used) would read past
+    // the last row: clamped.
+    __m128i e = _mm_min_epi32(_mm_srli_epi32(b, 23), _mm_set1_epi32(254));
     __m128i off = _mm_add_epi32(_mm_slli_epi32(e, 3), _mm_slli_epi32(e, 2)); // e * 12
     const char* base = reinterpret_cast<const char*>(twoOverPiBits);
-    const uint32_t* row[4];
-    row[0] = reinterpret_cast<const uint32_t*>(base + _mm_extract_epi32(off, 0));
-    row[1] = reinterpret_cast<const uint32_t*>(base + _mm_extract_epi32(off, 1));
-    row[2] = reinterpret_cast<const uint32_t*>(base + _mm_extract_epi32(off, 2));
-    row[3] = reinterpret_cast<const uint32_t*>(base + _mm_extract_epi32(off, 3));
-    __m128i w[3]; // w[0] least significant
-#pragma GCC unroll 8
-    for (int k = 0; k < 3; ++k)
-        w[k] = _mm_set_epi32(int(row[3][2 - k]), int(row[2][2 - k]), int(row[1][2 - k]),
-                             int(row[0][2 - k]));
-    __m128i L[6];
-#pragma GCC unroll 8
-    for (int k = 0; k < 3; ++k) {
-        L[2 * k] = Lo16(w[k]);
-        L[2 * k + 1] = Hi16(w[k]);
-    }
+    __m128i v0 = _mm_loadu_si128(reinterpret_cast<const __m128i*>(base + _mm_cvtsi128_si32(off)));
+    __m128i v1 =
+        _mm_loadu_si128(reinterpret_cast<const __m128i*>(base + _mm_extract_epi32(off, 1)));
+    __m128i v2 =
+        _mm_loadu_si128(reinterpret_cast<const __m128i*>(base + _mm_extract_epi32(off, 2)));
+    __m128i v3 =
+        _mm_loadu_si128(reinterpret_cast<const __m128i*>(base + _mm_extract_epi32(off, 3)));
+    __m128i lo01 = _mm_unpacklo_epi32(v0, v1), lo23 = _mm_unpacklo_epi32(v2, v3);
+    __m128i hi01 = _mm_unpackhi_epi32(v0, v1), hi23 = _mm_unpackhi_epi32(v2, v3);
+    __m128i w2 = _mm_unpacklo_epi64(lo01, lo23); // most significant word of each lane
+    __m128i w1 = _mm_unpackhi_epi64(lo01, lo23);
+    __m128i w0 = _mm_unpacklo_epi64(hi01, hi23); // least significant
     __m128i m = _mm_or_si128(_mm_and_si128(b, _mm_set1_epi32(0x7FFFFF)), _mm_set1_epi32(0x800000));
-    __m128i ml = Lo16(m), mh = Hi16(m);
-    __m128i pl[6], ph[5];
-#pragma GCC unroll 8
-    for (int k = 0; k < 6; ++k)
-        pl[k] = _mm_mullo_epi32(ml, L[k]);
-#pragma GCC unroll 8
-    for (int k = 0; k < 5; ++k)
-        ph[k] = _mm_mullo_epi32(mh, L[k]);
-    // Columns of 16 bits with carries: digit k has weight 2^(16k).
-    __m128i d[6];
-    __m128i col = Lo16(pl[0]);
-    d[0] = Lo16(col);
-    __m128i carry = Hi16(col);
-#pragma GCC unroll 8
-    for (int k = 1; k < 6; ++k) {
-        col = _mm_add_epi32(_mm_add_epi32(Lo16(pl[k]), Hi16(pl[k - 1])), Lo16(ph[k - 1]));
-        if (k >= 2) col = _mm_add_epi32(col, Hi16(ph[k - 2]));
-        col = _mm_add_epi32(col, carry);
-        d[k] = Lo16(col);
-        carry = Hi16(col);
-    }
-    // Product bits 95..89 are x/(pi/64) mod 128; bits 88..25, read as a signed 64-bit
-    // number, the fraction centred on zero (bit 88 set means the next index up).
-    __m128i hi = _mm_or_si128(_mm_or_si128(_mm_slli_epi32(d[5], 23), _mm_slli_epi32(d[4], 7)),
-                              _mm_srli_epi32(d[3], 9));
-    __m128i lo = _mm_or_si128(_mm_or_si128(_mm_slli_epi32(d[3], 23), _mm_slli_epi32(d[2], 7)),
-                              _mm_srli_epi32(d[1], 9));
-    __m128i j = _mm_add_epi32(_mm_srli_epi32(d[5], 9),
-                              _mm_and_si128(_mm_srli_epi32(d[5], 8), _mm_set1_epi32(1)));
-    j = _mm_and_si128(j, _mm_set1_epi32(127));
+    __m128i mo = _mm_srli_epi64(m, 32);
+    // X: product bits 95..32 (lanes 0 and 2 in xe, 1 and 3 in xo); t: bits 31..25.
+    __m128i pe0 = _mm_mul_epu32(m, w0), po0 = _mm_mul_epu32(mo, _mm_srli_epi64(w0, 32));
+    __m128i pe1 = _mm_mul_epu32(m, w1), po1 = _mm_mul_epu32(mo, _mm_srli_epi64(w1, 32));
+    __m128i pe2 = _mm_mul_epu32(m, w2), po2 = _mm_mul_epu32(mo, _mm_srli_epi64(w2, 32));
+    __m128i xe =
+        _mm_add_epi64(_mm_add_epi64(_mm_slli_epi64(pe2, 32), pe1), _mm_srli_epi64(pe0, 32));
+    __m128i xo =
+        _mm_add_epi64(_mm_add_epi64(_mm_slli_epi64(po2, 32), po1), _mm_srli_epi64(po0, 32));
+    // Bits 95..89 are x/(pi/64) mod 128; bits 88..25, read as a signed 64-bit number,
+    // the fraction centred on zero (bit 88 set means the next index up).
+    __m128i fe = _mm_or_si128(_mm_slli_epi64(xe, 7), _mm_srli_epi64(_mm_slli_epi64(pe0, 32), 57));
+    __m128i fo = _mm_or_si128(_mm_slli_epi64(xo, 7), _mm_srli_epi64(_mm_slli_epi64(po0, 32), 57));
+    // Back to four 32-bit lanes: J in the low word, the fraction as high and low words.
+    const __m128i half = _mm_set1_epi64x(1ll << 56); // rounds X / 2^57, modulo 128
+    __m128i je = _mm_srli_epi64(_mm_add_epi64(xe, half), 57);
+    __m128i jo = _mm_srli_epi64(_mm_add_epi64(xo, half), 57);
+    __m128i j = _mm_blend_epi16(je, _mm_slli_epi64(jo, 32), 0xCC);
     _mm_storeu_si128(reinterpret_cast<__m128i*>(J), j);
+    __m128i hi = _mm_blend_epi16(_mm_srli_epi64(fe, 32), fo, 0xCC);
+    __m128i lo = _mm_blend_epi16(fe, _mm_slli_epi64(fo, 32), 0xCC);
     __m128d h0, h1, l0, l1;
     IntToDouble(hi, h0, h1);
     IntToDouble(_mm_xor_si128(lo, _mm_set1_epi32(int(0x80000000u))), l0, l1);
