@@ -282,6 +282,21 @@ BRENN_TRIG_HOT __m128d TableSin(const int32_t* J, __m128d rh, __m128d rl, bool e
     return _mm_add_pd(hi, lo);
 }
 
+// sin(J pi/64 + r), |r| <= pi/128, for a result in single: the high parts of the row
+// and two terms of each series are enough (the first terms left out are below 2^-40).
+BRENN_TRIG_HOT __m128d TableSinS(const int32_t* J, __m128d r) {
+    const double* t0 = sinCosPi64[J[0] & 127];
+    const double* t1 = sinCosPi64[J[1] & 127];
+    __m128d sh = _mm_loadh_pd(_mm_load_sd(t0), t1);
+    __m128d ch = _mm_loadh_pd(_mm_load_sd(t0 + 2), t1 + 2);
+    __m128d u = _mm_mul_pd(r, r);
+    __m128d ps = _mm_mul_pd(
+        _mm_mul_pd(r, u), _mm_add_pd(_mm_set1_pd(-1.0 / 6), _mm_mul_pd(u, _mm_set1_pd(1.0 / 120))));
+    __m128d pc = _mm_mul_pd(u, _mm_add_pd(_mm_set1_pd(-0.5), _mm_mul_pd(u, _mm_set1_pd(1.0 / 24))));
+    __m128d t = _mm_add_pd(_mm_mul_pd(ch, ps), _mm_mul_pd(sh, pc));
+    return _mm_add_pd(sh, _mm_add_pd(_mm_mul_pd(ch, r), t));
+}
+
 // Four single lanes through the large reduction: sin (cosine with cos = true) of |x|
 // in double, narrowed to single.
 inline __m128 LargeSinS(__m128 a, bool cosine) {
@@ -292,9 +307,8 @@ inline __m128 LargeSinS(__m128 a, bool cosine) {
 #pragma GCC unroll 8
         for (int k = 0; k < 4; ++k)
             J[k] += 32;
-    __m128d z = _mm_setzero_pd();
-    __m128 lo = _mm_cvtpd_ps(TableSin(J, r0, z));
-    __m128 hi = _mm_cvtpd_ps(TableSin(J + 2, r1, z));
+    __m128 lo = _mm_cvtpd_ps(TableSinS(J, r0));
+    __m128 hi = _mm_cvtpd_ps(TableSinS(J + 2, r1));
     return _mm_movelh_ps(lo, hi);
 }
 

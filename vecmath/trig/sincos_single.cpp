@@ -130,12 +130,12 @@ struct BothBody {
         int big = LargeLanesS(a, kLimitS);
         if (__builtin_expect(big != 0, 0)) {
             alignas(16) int32_t J[4], K[4];
-            __m128d r0, r1, z = _mm_setzero_pd();
+            __m128d r0, r1;
             LargeS(a, J, r0, r1);
             for (int k = 0; k < 4; ++k)
                 K[k] = J[k] + 32;
-            __m128 ls = Narrow(TableSin(J, r0, z), TableSin(J + 2, r1, z));
-            __m128 lc = Narrow(TableSin(K, r0, z), TableSin(K + 2, r1, z));
+            __m128 ls = Narrow(TableSinS(J, r0), TableSinS(J + 2, r1));
+            __m128 lc = Narrow(TableSinS(K, r0), TableSinS(K + 2, r1));
             __m128i m = _mm_set_epi32(big & 8 ? -1 : 0, big & 4 ? -1 : 0, big & 2 ? -1 : 0,
                                       big & 1 ? -1 : 0);
             s = _mm_blendv_ps(s, ls, _mm_castsi128_ps(m));
