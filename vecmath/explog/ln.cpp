@@ -118,8 +118,8 @@ struct LnD : LnBaseD {
     static __m128d Eval(__m128d x, __m128d& special) {
         special = LogTestD(x);
         __m128d h, l;
-        // Special lanes take 1.0, so that their table index stays in the table.
-        LnCoreD<Lv>(_mm_blendv_pd(x, _mm_set1_pd(1.0), special), h, l);
+        // Special lanes run as they are: the core's m and k are in range for any bits.
+        LnCoreD<Lv>(x, h, l);
         return _mm_add_pd(h, l);
     }
 };

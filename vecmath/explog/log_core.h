@@ -53,16 +53,22 @@ inline void LnCoreD3(__m128d x, __m128d& h, __m128d& r, __m128d& t) {
     __m128d m =
         _mm_castsi128_pd(_mm_or_si128(_mm_and_si128(xi, _mm_set1_epi64x(0x000FFFFFFFFFFFFFll)),
                                       _mm_set1_epi64x(0x3FF0000000000000ll)));
+    // k without a conversion: the exponent field put under the bits of 2^52, less
+    // 2^52 + 1023 (exact). Any input gives a finite k and an m in [1, 2), so special
+    // lanes need no blend: their results are discarded.
     __m128i e = _mm_srli_epi64(xi, 52);
-    __m128d k = _mm_sub_pd(_mm_cvtepi32_pd(_mm_shuffle_epi32(e, _MM_SHUFFLE(3, 1, 2, 0))),
-                           _mm_set1_pd(1023.0));
+    __m128d k = _mm_sub_pd(_mm_castsi128_pd(_mm_or_si128(e, _mm_set1_epi64x(0x4330000000000000ll))),
+                           _mm_set1_pd(4503599627371519.0));
     const __m128d sh = _mm_set1_pd(8796093022208.0); // 2^43: rounds m to 2^-9
     __m128d ts = _mm_add_pd(m, sh);
     __m128d mh = _mm_sub_pd(ts, sh);
     __m128d ml = _mm_sub_pd(m, mh);
-    __m128i ti = _mm_castpd_si128(ts);
-    const double* ra = lnRows[_mm_cvtsi128_si32(ti) - 512];
-    const double* rb = lnRows[_mm_extract_epi32(ti, 2) - 512];
+    // The low bits of ts are 512*mh, 512 to 1024: made byte offsets of the 32-byte rows
+    // in the vector, so that each lane costs one extraction and no scalar arithmetic.
+    __m128i off = _mm_slli_epi64(_mm_and_si128(_mm_castpd_si128(ts), _mm_set1_epi64x(0x7FF)), 5);
+    const uintptr_t base = reinterpret_cast<uintptr_t>(&lnRows[0][0]) - 512 * sizeof(lnRows[0]);
+    const double* ra = reinterpret_cast<const double*>(base + uint64_t(_mm_cvtsi128_si64(off)));
+    const double* rb = reinterpret_cast<const double*>(base + uint64_t(_mm_extract_epi64(off, 1)));
     __m128d a0 = _mm_load_pd(ra), b0 = _mm_load_pd(rb);
     __m128d a1 = _mm_load_pd(ra + 2), b1 = _mm_load_pd(rb + 2);
     __m128d rcp = _mm_unpacklo_pd(a0, b0), th = _mm_unpackhi_pd(a0, b0);
