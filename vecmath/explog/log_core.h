@@ -63,12 +63,9 @@ inline void LnCoreD3(__m128d x, __m128d& h, __m128d& r, __m128d& t) {
     __m128d ts = _mm_add_pd(m, sh);
     __m128d mh = _mm_sub_pd(ts, sh);
     __m128d ml = _mm_sub_pd(m, mh);
-    // The low bits of ts are 512*mh, 512 to 1024: made byte offsets of the 32-byte rows
-    // in the vector, so that each lane costs one extraction and no scalar arithmetic.
-    __m128i off = _mm_slli_epi64(_mm_and_si128(_mm_castpd_si128(ts), _mm_set1_epi64x(0x7FF)), 5);
-    const uintptr_t base = reinterpret_cast<uintptr_t>(&lnRows[0][0]) - 512 * sizeof(lnRows[0]);
-    const double* ra = reinterpret_cast<const double*>(base + uint64_t(_mm_cvtsi128_si64(off)));
-    const double* rb = reinterpret_cast<const double*>(base + uint64_t(_mm_extract_epi64(off, 1)));
+    __m128i ti = _mm_castpd_si128(ts);
+    const double* ra = lnRows[_mm_cvtsi128_si32(ti) - 512];
+    const double* rb = lnRows[_mm_extract_epi32(ti, 2) - 512];
     __m128d a0 = _mm_load_pd(ra), b0 = _mm_load_pd(rb);
     __m128d a1 = _mm_load_pd(ra + 2), b1 = _mm_load_pd(rb + 2);
     __m128d rcp = _mm_unpacklo_pd(a0, b0), th = _mm_unpackhi_pd(a0, b0);
