@@ -197,7 +197,9 @@ BRENN_TRIG_HOT void ShortD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl, in
     TwoSum(r1, _mm_mul_pd(j, _mm_set1_pd(-kPi64Parts[1])), h, l);
     TwoSum(h, _mm_mul_pd(j, _mm_set1_pd(-kPi64Parts[2])), h, e);
     l = _mm_sub_pd(_mm_add_pd(l, e), _mm_mul_pd(j, _mm_set1_pd(kPi64Parts[3])));
-    TwoSum(h, l, rh, rl); // renormalised: the series runs on rh alone
+    // Renormalised, the series running on rh alone: |h| >= |l|, so the fast sum is exact.
+    rh = _mm_add_pd(h, l);
+    rl = _mm_sub_pd(l, _mm_sub_pd(rh, h));
 }
 
 // Per-lane choice between two reductions, by a two-bit lane mask (bit k: lane k of b).
@@ -242,18 +244,24 @@ BRENN_TRIG_HOT Series SeriesOf(__m128d rh) {
 // sin(A + r) from a row (sh + sl = sin A, ch + cl = cos A) as a high and a low part.
 // With exact = true the product cos A * rh is carried exactly as well: near the zeros
 // of sine (A = pi/64 beside a multiple of pi) that product is as large as the result.
+// Both factors are cut to 26 significant bits by a mask, so that the product of the
+// heads is exact; the tails' products go to the low part.
 BRENN_TRIG_HOT void Combine(__m128d sh, __m128d sl, __m128d ch, __m128d cl, __m128d rh, __m128d rl,
                             const Series& r, bool exact, __m128d& hi, __m128d& lo) {
-    __m128d p, pe = _mm_setzero_pd();
-    if (exact)
-        TwoProd(ch, rh, p, pe);
-    else
+    __m128d p, t = _mm_add_pd(_mm_mul_pd(ch, _mm_add_pd(rl, r.ps)), _mm_mul_pd(sh, r.pc));
+    if (exact) {
+        const __m128d head = _mm_castsi128_pd(_mm_set1_epi64x(int64_t(0xFFFFFFFFF8000000ull)));
+        __m128d chh = _mm_and_pd(ch, head), rhh = _mm_and_pd(rh, head);
+        __m128d chl = _mm_add_pd(_mm_sub_pd(ch, chh), cl), rhl = _mm_sub_pd(rh, rhh);
+        p = _mm_mul_pd(chh, rhh);
+        t = _mm_add_pd(t, _mm_add_pd(sl, _mm_add_pd(_mm_mul_pd(chh, rhl), _mm_mul_pd(chl, rh))));
+    } else {
         p = _mm_mul_pd(ch, rh);
+        t = _mm_add_pd(t, _mm_add_pd(sl, _mm_mul_pd(cl, rh)));
+    }
     hi = _mm_add_pd(sh, p);
     __m128d e = _mm_add_pd(_mm_sub_pd(sh, hi), p); // |sh| >= |p| or sh = 0
-    __m128d t = _mm_add_pd(_mm_mul_pd(ch, _mm_add_pd(rl, r.ps)), _mm_mul_pd(sh, r.pc));
-    t = _mm_add_pd(t, _mm_add_pd(sl, _mm_mul_pd(cl, rh)));
-    lo = _mm_add_pd(_mm_add_pd(e, pe), t);
+    lo = _mm_add_pd(e, t);
 }
 
 // sin(J pi/64 + rh + rl) for |rh| <= pi/128 (rl much smaller), as a high and a low part.
