@@ -39,8 +39,14 @@ inline void LogSplitS(__m128 x, __m128& r, __m128& k) {
 }
 
 // Double: anything but a positive normal (zero, denormal, negative, infinite, NaN).
+// bits(x) + 0x7FF0000000000000 (wrapping) signed above 0xFFDFFFFFFFFFFFFF. The limit is
+// passed through an empty asm so that the compiler keeps the one pcmpgtq and does not
+// turn it into a compare with the limit plus one and a negation.
 inline __m128d LogTestD(__m128d x) {
-    return RangeTest<double>(x, ~0ull, 0x7FF0000000000000ull, 0xFFDFFFFFFFFFFFFFull);
+    __m128i b = _mm_add_epi64(_mm_castpd_si128(x), _mm_set1_epi64x(0x7FF0000000000000ll));
+    __m128i limit = _mm_set1_epi64x(int64_t(0xFFDFFFFFFFFFFFFFull));
+    asm("" : "+x"(limit));
+    return _mm_castsi128_pd(_mm_cmpgt_epi64(b, limit));
 }
 
 enum class LnLevel { EP, LA, HA };
