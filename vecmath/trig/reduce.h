@@ -183,8 +183,11 @@ BRENN_TRIG_HOT void TwoSum(__m128d a, __m128d b, __m128d& rh, __m128d& rl) {
 
 // Short reduction of two double magnitudes below 2^24 at pi/64: j = round(a 64/pi),
 // J = j mod 128 (plus add), r = a - j pi/64 as two doubles. j < 2^29, so its products
-// with the first three parts of pi/64 (24 bits each) are exact; the sums are carried
-// exactly so that an argument close to a multiple of pi keeps its full precision.
+// with the first three parts of pi/64 (24 bits each) are exact. The first two
+// differences are exact as they stand: a - j C0 and j C1 are multiples of 2^-58 (of
+// 2^-52 when a >= 1; j = 0 below pi/128) and their difference is below 2^-5. The third
+// is carried exactly so that an argument close to a multiple of pi keeps its full
+// precision.
 BRENN_TRIG_HOT void ShortD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl, int add) {
     const __m128d shifter = _mm_set1_pd(kShifterD);
     __m128d t = _mm_add_pd(_mm_mul_pd(a, _mm_set1_pd(k64OverPi)), shifter);
@@ -193,10 +196,10 @@ BRENN_TRIG_HOT void ShortD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl, in
     J[1] = _mm_extract_epi32(ti, 2) + add;
     __m128d j = _mm_sub_pd(t, shifter);
     __m128d r1 = _mm_sub_pd(a, _mm_mul_pd(j, _mm_set1_pd(kPi64Parts[0])));
-    __m128d h, l, e;
-    TwoSum(r1, _mm_mul_pd(j, _mm_set1_pd(-kPi64Parts[1])), h, l);
-    TwoSum(h, _mm_mul_pd(j, _mm_set1_pd(-kPi64Parts[2])), h, e);
-    l = _mm_sub_pd(_mm_add_pd(l, e), _mm_mul_pd(j, _mm_set1_pd(kPi64Parts[3])));
+    r1 = _mm_sub_pd(r1, _mm_mul_pd(j, _mm_set1_pd(kPi64Parts[1])));
+    __m128d h, l;
+    TwoSum(r1, _mm_mul_pd(j, _mm_set1_pd(-kPi64Parts[2])), h, l);
+    l = _mm_sub_pd(l, _mm_mul_pd(j, _mm_set1_pd(kPi64Parts[3])));
     // Renormalised, the series running on rh alone: |h| >= |l|, so the fast sum is exact.
     rh = _mm_add_pd(h, l);
     rl = _mm_sub_pd(l, _mm_sub_pd(rh, h));
