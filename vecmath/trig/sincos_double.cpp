@@ -69,7 +69,7 @@ inline __m128d ShortPi(__m128d a, bool cosine) {
 }
 
 // sin (or cos) of every finite lane of a by the table, large lanes reduced in vector form.
-inline __m128d ByTable(__m128d a, bool cosine, bool exact) {
+BRENN_TRIG_HOT __m128d ByTable(__m128d a, bool cosine, bool exact) {
     alignas(16) int32_t J[2], K[2];
     __m128d rh, rl;
     ShortD(_mm_min_pd(a, _mm_set1_pd(16777216.0)), J, rh, rl, cosine ? 32 : 0);
@@ -81,6 +81,10 @@ inline __m128d ByTable(__m128d a, bool cosine, bool exact) {
         PickD(big, K, bh, bl, J, rh, rl);
     }
     return TableSin(J, rh, rl, exact);
+}
+// The same out of line, for the LA kernels' rare lanes above 2^24.
+BRENN_TRIG_COLD __m128d ByTableLarge(__m128d a, bool cosine) {
+    return ByTable(a, cosine, false);
 }
 
 template <Level L, bool kCos>
@@ -101,7 +105,7 @@ struct Body {
                 if (__builtin_expect(big != 0, 0)) {
                     __m128d m =
                         _mm_castsi128_pd(_mm_set_epi64x(big & 2 ? -1 : 0, big & 1 ? -1 : 0));
-                    p = _mm_blendv_pd(p, ByTable(a, kCos, false), m);
+                    p = _mm_blendv_pd(p, ByTableLarge(a, kCos), m);
                 }
             } else {
                 p = ByTable(a, kCos, true);
