@@ -121,9 +121,9 @@ struct ExpHAs : ExpBaseS {
         __m128 n = Sub(shifter, t); // the negated integer
         __m128 r = Add(Add(x, Mul(n, C(0.00541687012f))), Mul(n, C(-1.65776908e-06f)));
         // The shifter's bits end in seven zeros, so the index is bits(t) & 0x7F, masked in
-        // the scalar unit (the vector pipes are the busy ones), and the scale's exponent
-        // field ((bits(t) - bits(shifter)) >> 7) + 127, shifted left 23, is
-        // (bits(t) >> 7) << 23 plus the bits of 1.0: the shifter's part leaves the word.
+        // the scalar unit (the vector pipes are the busy ones), and the binary exponent
+        // (bits(t) - bits(shifter)) >> 7 shifted left 23 is (bits(t) >> 7) << 23: the
+        // shifter's part leaves the word.
         alignas(16) int32_t idx[4];
         _mm_store_si128(reinterpret_cast<__m128i*>(idx), _mm_castps_si128(t));
         // Rows of (T, Tl) pairs, Tl relative to T, transposed into a T and a Tl register.
@@ -137,10 +137,12 @@ struct ExpHAs : ExpBaseS {
         __m128 tl = _mm_shuffle_ps(p01, p23, _MM_SHUFFLE(3, 1, 3, 1));
         __m128 s = Add(Add(r, tl), Mul(C(0.5f), Mul(r, r)));
         __m128 p = Add(Mul(s, tv), tv);
+        // 2^m put in by an integer add on p's exponent field, not by a multiplication with
+        // a scale: inside the range test the result is normal (at the lowest n that passes,
+        // m = -126 comes with p above 1), so the two are the same.
         __m128i k = _mm_slli_epi32(_mm_srli_epi32(_mm_castps_si128(t), 7), 23);
         static_assert(((0x4B300000u >> 7) << 23) == 0);
-        k = _mm_add_epi32(k, _mm_set1_epi32(0x3F800000));
-        return Mul(p, _mm_castsi128_ps(k));
+        return _mm_castsi128_ps(_mm_add_epi32(_mm_castps_si128(p), k));
     }
 };
 
