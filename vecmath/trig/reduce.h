@@ -323,18 +323,24 @@ inline __m128 LargeSinS(__m128 a, bool cosine) {
     return _mm_movelh_ps(lo, hi);
 }
 
-// Lanes of a single block that need the large path: finite and above the limit.
+// Lanes of a block that need the large path: finite and above the limit. One compare
+// on the common path; infinity and NaN lanes (the scalar routine's) are taken out only
+// when some lane is above the limit.
 inline int LargeLanesS(__m128 a, uint32_t limitBits) {
     __m128i b = _mm_castps_si128(a);
-    __m128i big = _mm_cmpgt_epi32(b, _mm_set1_epi32(int(limitBits)));
-    __m128i fin = _mm_cmplt_epi32(b, _mm_set1_epi32(0x7F800000));
-    return _mm_movemask_ps(_mm_castsi128_ps(_mm_and_si128(big, fin)));
+    int big = _mm_movemask_ps(_mm_castsi128_ps(_mm_cmpgt_epi32(b, _mm_set1_epi32(int(limitBits)))));
+    if (__builtin_expect(big != 0, 0))
+        big &= ~_mm_movemask_ps(_mm_castsi128_ps(_mm_cmpgt_epi32(b, _mm_set1_epi32(0x7F7FFFFF))));
+    return big;
 }
 inline int LargeLanesD(__m128d a, uint64_t limitBits) {
     __m128i b = _mm_castpd_si128(a);
-    __m128i big = _mm_cmpgt_epi64(b, _mm_set1_epi64x(int64_t(limitBits)));
-    __m128i fin = _mm_cmpgt_epi64(_mm_set1_epi64x(0x7FF0000000000000ll), b);
-    return _mm_movemask_pd(_mm_castsi128_pd(_mm_and_si128(big, fin)));
+    int big =
+        _mm_movemask_pd(_mm_castsi128_pd(_mm_cmpgt_epi64(b, _mm_set1_epi64x(int64_t(limitBits)))));
+    if (__builtin_expect(big != 0, 0))
+        big &= ~_mm_movemask_pd(
+            _mm_castsi128_pd(_mm_cmpgt_epi64(b, _mm_set1_epi64x(0x7FEFFFFFFFFFFFFFll))));
+    return big;
 }
 
 // The scalar routine every trigonometric kernel shares: only infinity and NaN reach it.
