@@ -90,17 +90,17 @@ struct LnHAs : LnBaseS {
                                                  _mm_mul_ps(r2, _mm_set1_ps(-0.12891686f)))));
         __m128 q = _mm_add_ps(_mm_set1_ps(0.333332151f), _mm_mul_ps(r, h));
         q = _mm_add_ps(_mm_set1_ps(-0.5f), _mm_mul_ps(r, q));
-        // The sums r + r^2*Q and k*ln2hi + p are carried with their rounding errors
-        // (Fast2Sum: |r| >= |r^2*Q|, and |k*ln2hi| >= |p| whenever k is not 0), so that
-        // only the last addition rounds at the result's scale: near x = 4/3, where p is
-        // larger than the result, two roundings would otherwise reach an ulp.
-        __m128 t = _mm_mul_ps(r2, q);
-        __m128 ph = _mm_add_ps(r, t);
-        __m128 pl = _mm_add_ps(_mm_sub_ps(r, ph), t);
+        // k*ln2hi + r is carried exactly with its rounding error (Fast2Sum: |k*ln2hi| is
+        // above |r| whenever k is not 0, and for k = 0 the sum is r itself), and r^2*Q
+        // and k*ln2lo join that error, so that only the last addition rounds at the
+        // result's scale: near x = 2/3, where p = r + r^2*Q is of the result's size, two
+        // roundings would otherwise reach an ulp. Carrying the sum at r rather than at p
+        // takes one exact step, not two.
         __m128 kh = _mm_mul_ps(k, _mm_set1_ps(0.693145752f));
-        __m128 s = _mm_add_ps(kh, ph);
-        __m128 e = _mm_add_ps(_mm_sub_ps(kh, s), ph);
-        __m128 lo = _mm_add_ps(_mm_add_ps(e, pl), _mm_mul_ps(k, _mm_set1_ps(1.42860677e-06f)));
+        __m128 s = _mm_add_ps(kh, r);
+        __m128 e = _mm_add_ps(_mm_sub_ps(kh, s), r);
+        __m128 lo = _mm_add_ps(_mm_add_ps(e, _mm_mul_ps(r2, q)),
+                               _mm_mul_ps(k, _mm_set1_ps(1.42860677e-06f)));
         return _mm_add_ps(s, lo);
     }
 };
