@@ -234,23 +234,27 @@ struct ExpHAd : ExpBaseD {
 
 using namespace brenn::vm;
 
+// The whole frame inlined into the kernel: the rounds stay in one loop with the
+// constants in registers, not a call per round.
+#define BRENN_FLAT __attribute__((flatten))
+
 extern "C" {
 void ZAR_KERNEL(sExp, EP) BRENN_SIG(s, Unary) {
     RunUnary(ExpEPs{}, n, a, y);
 }
-void ZAR_KERNEL(sExp, LA) BRENN_SIG(s, Unary) {
+BRENN_FLAT void ZAR_KERNEL(sExp, LA) BRENN_SIG(s, Unary) {
     RunUnary(ExpLAs{}, n, a, y);
 }
-void ZAR_KERNEL(sExp, HA) BRENN_SIG(s, Unary) {
+BRENN_FLAT void ZAR_KERNEL(sExp, HA) BRENN_SIG(s, Unary) {
     RunUnary(ExpHAs{}, n, a, y);
 }
 void ZAR_KERNEL(dExp, EP) BRENN_SIG(d, Unary) {
     RunUnary(ExpEPd{}, n, a, y);
 }
-void ZAR_KERNEL(dExp, LA) BRENN_SIG(d, Unary) {
+BRENN_FLAT void ZAR_KERNEL(dExp, LA) BRENN_SIG(d, Unary) {
     RunUnary(ExpLAd{}, n, a, y);
 }
-void ZAR_KERNEL(dExp, HA) BRENN_SIG(d, Unary) {
+BRENN_FLAT void ZAR_KERNEL(dExp, HA) BRENN_SIG(d, Unary) {
     RunUnary(ExpHAd{}, n, a, y);
 }
 }

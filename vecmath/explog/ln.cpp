@@ -129,23 +129,27 @@ struct LnD : LnBaseD {
 
 using namespace brenn::vm;
 
+// The whole frame inlined into the kernel: the rounds stay in one loop with the
+// constants in registers, not a call per round.
+#define BRENN_FLAT __attribute__((flatten))
+
 extern "C" {
 void ZAR_KERNEL(sLn, EP) BRENN_SIG(s, Unary) {
     RunUnary(LnEPs{}, n, a, y);
 }
-void ZAR_KERNEL(sLn, LA) BRENN_SIG(s, Unary) {
+BRENN_FLAT void ZAR_KERNEL(sLn, LA) BRENN_SIG(s, Unary) {
     RunUnary(LnLAs{}, n, a, y);
 }
-void ZAR_KERNEL(sLn, HA) BRENN_SIG(s, Unary) {
+BRENN_FLAT void ZAR_KERNEL(sLn, HA) BRENN_SIG(s, Unary) {
     RunUnary(LnHAs{}, n, a, y);
 }
 void ZAR_KERNEL(dLn, EP) BRENN_SIG(d, Unary) {
     RunUnary(LnD<LnLevel::EP>{}, n, a, y);
 }
-void ZAR_KERNEL(dLn, LA) BRENN_SIG(d, Unary) {
+BRENN_FLAT void ZAR_KERNEL(dLn, LA) BRENN_SIG(d, Unary) {
     RunUnary(LnD<LnLevel::LA>{}, n, a, y);
 }
-void ZAR_KERNEL(dLn, HA) BRENN_SIG(d, Unary) {
+BRENN_FLAT void ZAR_KERNEL(dLn, HA) BRENN_SIG(d, Unary) {
     RunUnary(LnD<LnLevel::HA>{}, n, a, y);
 }
 }
