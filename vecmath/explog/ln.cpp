@@ -99,8 +99,9 @@ struct LnHAs : LnBaseS {
         __m128 kh = _mm_mul_ps(k, _mm_set1_ps(0.693145752f));
         __m128 s = _mm_add_ps(kh, r);
         __m128 e = _mm_add_ps(_mm_sub_ps(kh, s), r);
-        __m128 lo = _mm_add_ps(_mm_add_ps(e, _mm_mul_ps(r2, q)),
-                               _mm_mul_ps(k, _mm_set1_ps(1.42860677e-06f)));
+        // The terms that are ready early are summed first: r^2*Q ends the longest chain.
+        __m128 lo = _mm_add_ps(_mm_add_ps(e, _mm_mul_ps(k, _mm_set1_ps(1.42860677e-06f))),
+                               _mm_mul_ps(r2, q));
         return _mm_add_ps(s, lo);
     }
 };
