@@ -3,7 +3,7 @@
  * sExp: EP works in base 2 (y = x*log2e split by the shifter, cubic in the fraction,
  * 2^n put in by an integer add on the exponent field); LA reduces in base e with a
  * two-part ln 2 and a degree-5 polynomial; HA reduces by ln2/128 with the 128-entry
- * table and a second-order correction, scaled by a multiplication.
+ * table and a second-order correction, 2^m added to the exponent field as in EP.
  * dExp: n and j from x*N/ln2 by the shifter; T*(1 + p(r)) with the table of N entries:
  * EP N = 128 and a quadratic, LA N = 1024 and a cubic, HA N = 64 and degree 5.
  * Range test on |x| (87.33654 in single, 708.39 in double, inside the last normal
