@@ -63,13 +63,13 @@ TEST(Reporter, NoErrorHandlingIsAnExactCompare) {
     WithMode(0x2000, [&] {
         errno = 0;
         brenn_zar_kernel_SetErrStatus(5);
-        ReportErrorS(1, 1, a, a, y, y, "vsLog1p");
+        ReportErrorS(1, 1, a, a, y, y, "vsExpm1");
         EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 5);
         EXPECT_EQ(errno, 0);
     });
     WithMode(0x2200, [&] { // another bit beside 0x2000: the report goes on
         errno = 0;
-        ReportErrorS(1, 1, a, a, y, y, "vsLog1p");
+        ReportErrorS(1, 1, a, a, y, y, "vsExpm1");
         EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 1);
         EXPECT_EQ(errno, 33);
     });
@@ -177,11 +177,11 @@ TEST(Reporter, IndexCountsFromTheRegisteredInputVector) {
     WithMode(0x1000, [&] {
         brenn_zar_kernel_SetErrorCallBack(CaptureAndPass);
         brenn_zar_kernel_SetInterfInputVectorPointer(whole);
-        ReportErrorS(1, 7, whole + 100, whole + 100, y + 100, y + 100, "vsLog1p");
+        ReportErrorS(1, 7, whole + 100, whole + 100, y + 100, y + 100, "vsExpm1");
         EXPECT_EQ(lastRecord.index, 107);
         EXPECT_EQ(lastRecord.a1, 107.0); // values come from the block's own index
         brenn_zar_kernel_SetInterfInputVectorPointer(nullptr);
-        ReportErrorS(1, 7, whole + 100, whole + 100, y + 100, y + 100, "vsLog1p");
+        ReportErrorS(1, 7, whole + 100, whole + 100, y + 100, y + 100, "vsExpm1");
         EXPECT_EQ(lastRecord.index, 7);
     });
     BrennComplex16 za[300] = {}, zy[300] = {};
@@ -235,8 +235,8 @@ TEST(Reporter, StandardErrorShowsTheNameAndValueLinesByShape) {
     float a[1] = {-1}, b[1] = {2}, y[1] = {0}, z[1] = {5};
     float zero[1] = {0};
     WithMode(0x0400, [&] {
-        std::string unary = brenn::test::CaptureStderr([&] { ReportErrorS(1, 0, a, a, y, y, "vsLog1p"); });
-        EXPECT_NE(unary.find("vsLog1p: domain error"), std::string::npos) << unary;
+        std::string unary = brenn::test::CaptureStderr([&] { ReportErrorS(1, 0, a, a, y, y, "vsExpm1"); });
+        EXPECT_NE(unary.find("vsExpm1: domain error"), std::string::npos) << unary;
         EXPECT_NE(unary.find("    argument[0] = -1"), std::string::npos) << unary;
         EXPECT_NE(unary.find("    result[0] = 0"), std::string::npos) << unary;
 
