@@ -10,25 +10,13 @@
 #include <benchmark/benchmark.h>
 #include <x86intrin.h>
 
+#include "bench/rng/measure.h"
 #include "brenn_rng.h"
 
 namespace {
 
-constexpr int kBlock = 1024;
-
-template <typename Body>
-void Measure(benchmark::State& state, Body body) {
-    uint64_t cycles = 0;
-    int64_t elements = 0;
-    for (auto _ : state) {
-        uint64_t t0 = __rdtsc();
-        body();
-        cycles += __rdtsc() - t0;
-        elements += kBlock;
-    }
-    state.counters["per_cycle"] = static_cast<double>(elements) / static_cast<double>(cycles);
-    state.SetItemsProcessed(elements);
-}
+using brenn::bench::kBlock;
+using brenn::bench::Measure;
 
 void* Stream(int32_t brng) {
     void* s = nullptr;

@@ -10,6 +10,7 @@
 #include <benchmark/benchmark.h>
 #include <x86intrin.h>
 
+#include "bench/rng/measure.h"
 #include "brenn_rng.h"
 
 #ifdef BRENN_BENCH_GSL
@@ -18,22 +19,8 @@
 
 namespace {
 
-constexpr int kBlock = 1024;
-
-// Runs body once per iteration and reports elements per time-stamp cycle.
-template <typename Body>
-void Measure(benchmark::State& state, Body body) {
-    uint64_t cycles = 0;
-    int64_t elements = 0;
-    for (auto _ : state) {
-        uint64_t t0 = __rdtsc();
-        body();
-        cycles += __rdtsc() - t0;
-        elements += kBlock;
-    }
-    state.counters["per_cycle"] = static_cast<double>(elements) / static_cast<double>(cycles);
-    state.SetItemsProcessed(elements);
-}
+using brenn::bench::kBlock;
+using brenn::bench::Measure;
 
 void* Stream(int32_t brng) {
     void* s = nullptr;

@@ -8,10 +8,11 @@
 #include "frame/export.h"
 #include "rng/core/stream.h"
 #include "rng/dist/frame.h"
+#include "vecmath/explog/scalar_log.h"
 
 // Weak, like the registry's generator entries: a developer build of the random
 // numbers without the vector-math kernels still links, and refuses Geometric.
-extern "C" __attribute__((weak)) double __qesdLn(double x);
+#pragma weak __qesdLn
 
 namespace {
 
