@@ -17,22 +17,26 @@ QesChunk* NewCell() {
     return static_cast<QesChunk*>(brenn_serv_allocate(sizeof(QesChunk), kStreamAlignment));
 }
 
-// A cell whose guid is not in the table yet: it becomes the row's first reference
-// when there is room, or turns private when the table is (nearly) full.
-void ShareNewGuid(QesChunk* cell) {
-    if (GlobTableCountUnlocked() >= kGlobUnlockedLimit) {
+// Links a cell with a guid to the table in one locked step: the row's block when
+// another stream brought it first, else a new row with the cell's own block. When
+// the table is (nearly) full the cell turns private and forgets its guid. So a
+// cell with a guid always holds exactly one reference and never owns its block; a
+// cell without one owns it.
+void ShareByGuid(QesChunk* cell) {
+    void* row = GlobShare(cell->guid, cell->data, kGlobUnlockedLimit);
+    if (row == nullptr) {
         cell->guid[0] = cell->guid[1] = 0;
         return;
     }
-    GlobAppend(cell->guid, cell->data);
+    cell->data = row;
 }
 
 } // namespace
 
 void DeleteChunkCell(QesChunk* cell) {
-    if (!GuidIsZero(cell->guid) && GlobContains(cell->guid)) {
+    if (!GuidIsZero(cell->guid)) {
         // The table owns shared data and frees it with the last reference.
-        GlobRelease(cell->guid);
+        GlobReleaseOne(cell->guid);
     } else if (cell->data != nullptr) {
         brenn_serv_deallocate(cell->data);
     }
@@ -52,24 +56,11 @@ BRENN_EXPORT int32_t __qesAddChunk(void* stream, int32_t id, const uint64_t* gui
     cell->data = data;
     cell->guid[0] = cell->guid[1] = 0;
     if (!GuidIsZero(guid)) {
+        // When another stream brought the same block first the cell uses its copy;
+        // the caller keeps its own block.
         cell->guid[0] = guid[0];
         cell->guid[1] = guid[1];
-        if (GlobContains(guid)) {
-            // Another stream brought the same block first: use its copy. The caller
-            // keeps its own block.
-            void* shared = GlobAcquire(guid);
-            if (shared != nullptr) {
-                cell->data = shared;
-            } else {
-                // The last holder let the row go between the two looks. Linking the
-                // cell with its guid but no reference would let its deletion take a
-                // reference that a later row gives to another stream, so the cell
-                // starts the row again instead.
-                ShareNewGuid(cell);
-            }
-        } else {
-            ShareNewGuid(cell);
-        }
+        ShareByGuid(cell);
     }
     StreamHeader* h = Header(stream);
     cell->next = h->chunks;
@@ -124,38 +115,28 @@ BRENN_EXPORT void __qesDeleteChunksById(void* stream, int32_t id) {
 BRENN_EXPORT int32_t __qesCopyChunks(void* destination, const void* source) {
     StreamHeader* d = Header(destination);
     for (const QesChunk* s = Header(source)->chunks; s != nullptr; s = s->next) {
-        bool shared = !GuidIsZero(s->guid) && GlobContains(s->guid);
-        void* data = s->data;
-        bool copied = false;
-        if (!shared) {
-            data = brenn_serv_allocate(s->size, kStreamAlignment);
-            if (data == nullptr && s->size != 0) goto fail;
-            if (s->size != 0) memcpy(data, s->data, s->size);
-            copied = true;
-        }
-        {
-            QesChunk* cell = NewCell();
-            if (cell == nullptr) {
-                if (copied) brenn_serv_deallocate(data);
-                goto fail;
-            }
-            cell->id = s->id;
-            cell->size = s->size;
-            cell->data = data;
-            cell->guid[0] = s->guid[0];
-            cell->guid[1] = s->guid[1];
-            if (!GuidIsZero(cell->guid)) {
-                void* row = GlobAcquire(cell->guid);
-                if (row != nullptr) {
-                    if (copied) brenn_serv_deallocate(data); // the shared block serves
-                    cell->data = row;
-                } else {
-                    ShareNewGuid(cell);
+        QesChunk* cell = NewCell();
+        if (cell == nullptr) goto fail;
+        cell->id = s->id;
+        cell->size = s->size;
+        cell->guid[0] = s->guid[0];
+        cell->guid[1] = s->guid[1];
+        // A shared block gains a reference; a private one (or one whose row went
+        // away under the source) is copied.
+        cell->data = GuidIsZero(cell->guid) ? nullptr : GlobAcquire(cell->guid);
+        if (cell->data == nullptr) {
+            cell->guid[0] = cell->guid[1] = 0;
+            if (s->size != 0) {
+                cell->data = brenn_serv_allocate(s->size, kStreamAlignment);
+                if (cell->data == nullptr) {
+                    brenn_serv_deallocate(cell);
+                    goto fail;
                 }
+                memcpy(cell->data, s->data, s->size);
             }
-            cell->next = d->chunks;
-            d->chunks = cell;
         }
+        cell->next = d->chunks;
+        d->chunks = cell;
     }
     return QES_STATUS_OK;
 fail:

@@ -63,16 +63,37 @@ void* GlobAcquire(const uint64_t* guid) {
     return data;
 }
 
-bool GlobAppend(const uint64_t* guid, void* data) {
+void* GlobShare(const uint64_t* guid, void* data, int32_t rowLimit) {
     GlobLock();
-    int32_t count = globCount.load(std::memory_order_relaxed);
-    bool added = count < kGlobRows;
-    if (added) {
-        globTable[count] = GlobRODataEntry{guid[0], guid[1], 1, data};
-        globCount.store(count + 1, std::memory_order_relaxed);
+    void* result = nullptr;
+    if (GlobRODataEntry* e = FindLocked(guid); e != nullptr) {
+        e->refCount += 1;
+        result = e->data;
+    } else {
+        int32_t count = globCount.load(std::memory_order_relaxed);
+        if (count < rowLimit && count < kGlobRows) {
+            globTable[count] = GlobRODataEntry{guid[0], guid[1], 1, data};
+            globCount.store(count + 1, std::memory_order_relaxed);
+            result = data;
+        }
     }
     GlobUnlock();
-    return added;
+    return result;
+}
+
+bool GlobReleaseOne(const uint64_t* guid) {
+    GlobLock();
+    GlobRODataEntry* e = FindLocked(guid);
+    if (e != nullptr && --e->refCount == 0) {
+        if (e->data != nullptr) brenn_serv_deallocate(e->data);
+        int32_t last = globCount.load(std::memory_order_relaxed) - 1;
+        GlobRODataEntry* end = &globTable[last];
+        if (e != end) *e = *end;
+        *end = GlobRODataEntry{};
+        globCount.store(last, std::memory_order_relaxed);
+    }
+    GlobUnlock();
+    return e != nullptr;
 }
 
 void GlobRelease(const uint64_t* guid) {

@@ -13,10 +13,15 @@ void GlobUnlock();
 bool GlobContains(const uint64_t* guid);
 // Adds a reference to the guid's row and returns its data; null when absent.
 void* GlobAcquire(const uint64_t* guid);
-// Appends a row with one reference when the table has room; false when full.
-bool GlobAppend(const uint64_t* guid, void* data);
 // Drops one reference of every row with the guid, freeing data at zero.
 void GlobRelease(const uint64_t* guid);
+// In one locked step: a reference to the guid's row when there is one (its data is
+// returned), else a new row holding `data` when fewer than `rowLimit` rows are in
+// use (`data` is returned), else null: the caller keeps its block privately.
+void* GlobShare(const uint64_t* guid, void* data, int32_t rowLimit);
+// Drops one reference of the first row with the guid, freeing data at zero; false
+// when no row has it.
+bool GlobReleaseOne(const uint64_t* guid);
 
 } // namespace brenn::rng
 
