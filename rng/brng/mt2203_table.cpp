@@ -8,10 +8,15 @@ namespace brenn::rng {
 
 namespace {
 
-const Mt2203Member kRows[] = {
-    {0, 0xAF81055Fu, 0xDD7EEF80u, 0xEFD78000u},    {1, 0x832604E1u, 0x66AD7F80u, 0xEBD58000u},
-    {2, 0x92F70739u, 0x656D7780u, 0xEFC50000u},    {3, 0x8B75046Eu, 0x76957780u, 0xEFC48000u},
-    {6023, 0xE8761D4Bu, 0x72967680u, 0xEFEB0000u},
+struct Row {
+    int32_t member;
+    Mt2203Member values;
+};
+
+const Row kRows[] = {
+    {0, {0xAF81055Fu, 0xDD7EEF80u, 0xEFD78000u}},    {1, {0x832604E1u, 0x66AD7F80u, 0xEBD58000u}},
+    {2, {0x92F70739u, 0x656D7780u, 0xEFC50000u}},    {3, {0x8B75046Eu, 0x76957780u, 0xEFC48000u}},
+    {6023, {0xE8761D4Bu, 0x72967680u, 0xEFEB0000u}},
 };
 
 } // namespace
@@ -26,7 +31,7 @@ const Mt2203Member* FindMt2203Member(int32_t member) {
             hi = mid;
     }
     if (lo < static_cast<int>(sizeof(kRows) / sizeof(kRows[0])) && kRows[lo].member == member)
-        return &kRows[lo];
+        return &kRows[lo].values;
     return nullptr;
 }
 

@@ -1,6 +1,6 @@
 /* The member parameters of MT2203: twist constant and the two tempering masks of
- * each member whose row has been verified (primitive characteristic polynomial of
- * degree 2203, by tools/mt/mt2203_dc). Members without a row cannot be seeded. */
+ * each member, verified by tools/mt/mt2203_dc (primitive characteristic polynomial
+ * of degree 2203, distinct twist constants). */
 #ifndef BRENN_RNG_BRNG_MT2203_TABLE_H
 #define BRENN_RNG_BRNG_MT2203_TABLE_H
 
@@ -9,13 +9,12 @@
 namespace brenn::rng {
 
 struct Mt2203Member {
-    int32_t member;
     uint32_t matrixA, temperB, temperC;
 };
 
 constexpr int32_t kMt2203Members = 6024;
 
-// Rows sorted by member; null when the member has no verified row.
+// The member's row; null outside the family or when the member has no row.
 const Mt2203Member* FindMt2203Member(int32_t member);
 
 } // namespace brenn::rng

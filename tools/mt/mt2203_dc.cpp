@@ -1,165 +1,194 @@
-// Dynamic creation of MT2203 members, as far as this program goes: the twist
-// constant of a member must give the 69-word recurrence (r = 5 lower bits, middle
-// distance 34) a characteristic polynomial that is primitive of degree 2203. Since
-// 2^2203 - 1 is prime, that is irreducibility, tested as t^(2^2203) = t mod phi
-// with no linear factor; phi itself comes from Berlekamp-Massey on the raw
-// sequence of the candidate's own recurrence.
+// The member table of MT2203 by the dynamic-creation method: twist constants whose
+// 69-word recurrence has a primitive characteristic polynomial of degree 2203
+// (mt2203_primitive.h), and, per constant, tempering masks for the best
+// equidistribution (mt2203_temper, a separate program). This one searches the
+// constants, writes the table source and verifies the committed table:
 //
-//   mt2203_dc verify            every row of the member table is primitive
-//   mt2203_dc search N SEED     prints N primitive twist constants (top bit set)
-//
-// The second half of the published method, the search of the tempering masks for
-// the best equidistribution, is not written yet; until it is, constants found by
-// `search` cannot become member rows.
+//   mt2203_dc search FIRST LAST [SEED]   "member a" lines for members FIRST..LAST;
+//                                        each member draws from its own stream, so
+//                                        ranges can run in parallel processes
+//   mt2203_dc table ROWS OUT             table source from "member a b c ..." lines
+//   mt2203_dc verify [STEP]              every STEP-th row (and the published ones):
+//                                        primitive, and the library's own generator
+//                                        output annihilated by the polynomial; all
+//                                        twist constants distinct
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <map>
 #include <random>
+#include <set>
+#include <string>
 #include <vector>
 
+#include "brenn_rng.h"
 #include "rng/brng/mt2203_table.h"
+#include "tools/mt/mt2203_primitive.h"
 
 namespace {
 
-constexpr int kN = 69, kM = 34, kDegree = 2203;
-constexpr uint32_t kUpper = 0xFFFFFFE0u;
-constexpr int kWords = (kDegree + 63) / 64; // 35 words of 64 bits below t^2203
+using brenn::gf2::Poly;
+using brenn::rng::Mt2203Member;
+using brenn::rng::kMt2203Members;
+namespace mt2203 = brenn::mt2203;
 
-using Poly = std::vector<uint64_t>;
+constexpr int kSieveDegree = 12;
 
-bool Bit(const Poly& p, int i) {
-    return (p[i >> 6] >> (i & 63)) & 1;
+// The published rows (members 0 to 3 and 6023); the search fills the others.
+const std::map<int, Mt2203Member> kPublished = {
+    {0, {0xAF81055Fu, 0xDD7EEF80u, 0xEFD78000u}},    {1, {0x832604E1u, 0x66AD7F80u, 0xEBD58000u}},
+    {2, {0x92F70739u, 0x656D7780u, 0xEFC50000u}},    {3, {0x8B75046Eu, 0x76957780u, 0xEFC48000u}},
+    {6023, {0xE8761D4Bu, 0x72967680u, 0xEFEB0000u}},
+};
+
+// Draws twist constants (top bit set, as the published ones) for one member until
+// one is primitive.
+uint32_t SearchMember(const mt2203::Sieve& sieve, int member, uint32_t seed, long* tried) {
+    std::seed_seq seq{seed, static_cast<uint32_t>(member), 0x2203u};
+    std::mt19937 pick(seq);
+    for (*tried = 1;; ++*tried) {
+        uint32_t a = static_cast<uint32_t>(pick()) | 0x80000000u;
+        bool published = false;
+        for (const auto& [m, row] : kPublished)
+            published |= row.matrixA == a;
+        if (!published && mt2203::Primitive(sieve, a)) return a;
+    }
 }
-void Flip(Poly& p, int i) {
-    p[i >> 6] ^= uint64_t{1} << (i & 63);
+
+// The first outputs of the library's generator for a member are a sequence that
+// phi must annihilate word-wise (tempering mixes bits within a word only): for
+// every i, the XOR of w[i + j] over the terms t^j of phi is zero.
+bool AnnihilatesLibraryOutput(int member, const Poly& phi) {
+    void* s = nullptr;
+    uint32_t seed = 5489u + static_cast<uint32_t>(member);
+    if (__qesNewStreamEx(&s, QES_BRNG_MT2203 + member, 1, &seed) != 0) return false;
+    constexpr int kChecks = 96;
+    std::vector<uint32_t> w(mt2203::kDegree + kChecks + 1);
+    int32_t status = __qesiBRngMT2203(s, static_cast<int32_t>(w.size()), w.data());
+    __qesDeleteStream(&s);
+    if (status != 0) return false;
+    std::vector<int> terms;
+    for (int j = 0; j <= mt2203::kDegree; ++j)
+        if (brenn::gf2::Coeff(phi, j)) terms.push_back(j);
+    for (int i = 0; i < kChecks; ++i) {
+        uint32_t x = 0;
+        for (int j : terms)
+            x ^= w[i + j];
+        if (x != 0) return false;
+    }
+    return true;
 }
 
-// Minimal polynomial of a bit sequence (connection form, C[0] = 1) and its length.
-Poly BerlekampMassey(const std::vector<uint8_t>& s, int* length) {
-    const int n = static_cast<int>(s.size());
-    Poly c(n / 64 + 2, 0), b(n / 64 + 2, 0), t;
-    c[0] = b[0] = 1;
-    int l = 0, m = 1;
-    for (int i = 0; i < n; ++i) {
-        int d = s[i];
-        for (int j = 1; j <= l; ++j)
-            d ^= Bit(c, j) & s[i - j];
-        if (d == 0) {
-            ++m;
+int Verify(int step) {
+    int checked = 0, bad = 0, missing = 0;
+    std::set<uint32_t> seen;
+    for (int m = 0; m < kMt2203Members; ++m) {
+        const Mt2203Member* row = brenn::rng::FindMt2203Member(m);
+        if (row == nullptr) {
+            ++missing;
             continue;
         }
-        t = c;
-        for (int j = 0; j + m < n; ++j)
-            if (Bit(b, j)) Flip(c, j + m);
-        if (2 * l <= i) {
-            l = i + 1 - l;
-            b = t;
-            m = 1;
-        } else {
-            ++m;
+        if (!seen.insert(row->matrixA).second) {
+            std::printf("member %d: twist constant 0x%08X used twice\n", m, row->matrixA);
+            ++bad;
+        }
+        auto published = kPublished.find(m);
+        if (published != kPublished.end() &&
+            (published->second.matrixA != row->matrixA ||
+             published->second.temperB != row->temperB ||
+             published->second.temperC != row->temperC)) {
+            std::printf("member %d: differs from the published row\n", m);
+            ++bad;
+        }
+        if ((row->temperB & 0x7Fu) != 0 || (row->temperC & 0x7FFFu) != 0 ||
+            (row->matrixA >> 31) == 0) {
+            std::printf("member %d: malformed constants\n", m);
+            ++bad;
+        }
+        if (m % step != 0 && published == kPublished.end()) continue;
+        ++checked;
+        Poly phi = mt2203::CharPoly(row->matrixA);
+        if (!mt2203::FrobeniusIrreducible(phi)) {
+            std::printf("member %d: 0x%08X is not primitive\n", m, row->matrixA);
+            ++bad;
+        } else if (!AnnihilatesLibraryOutput(m, phi)) {
+            std::printf("member %d: the generator's output does not follow phi\n", m);
+            ++bad;
         }
     }
-    *length = l;
-    return c;
+    std::printf("%d members, %d without a row, %d checked for primitivity (%s products), %d "
+                "faults\n",
+                kMt2203Members, missing, checked, brenn::gf2::ProductKind(), bad);
+    return bad == 0 ? 0 : 1;
 }
 
-// Characteristic polynomial phi (bit i = coefficient of t^i) of the recurrence with
-// twist constant a, or an empty polynomial when its degree is not 2203.
-Poly CharPoly(uint32_t a) {
-    std::mt19937 fill(a);
-    uint32_t x[kN];
-    for (auto& w : x)
-        w = static_cast<uint32_t>(fill());
-    std::vector<uint8_t> seq(2 * kDegree + 64);
-    int k = 0;
-    for (auto& bit : seq) {
-        uint32_t y = (x[k] & kUpper) | (x[(k + 1) % kN] & ~kUpper);
-        x[k] = x[(k + kM) % kN] ^ (y >> 1) ^ ((y & 1) ? a : 0);
-        bit = x[k] & 1;
-        k = (k + 1) % kN;
+int Search(int first, int last, uint32_t seed) {
+    mt2203::Sieve sieve = mt2203::MakeSieve(kSieveDegree);
+    for (int m = first; m <= last; ++m) {
+        if (kPublished.count(m) != 0) continue;
+        long tried = 0;
+        uint32_t a = SearchMember(sieve, m, seed, &tried);
+        std::printf("%d 0x%08X %ld\n", m, a, tried);
+        std::fflush(stdout);
     }
-    int l = 0;
-    Poly c = BerlekampMassey(seq, &l);
-    if (l != kDegree) return {};
-    Poly phi(kWords + 1, 0);
-    for (int i = 0; i <= l; ++i)
-        if (Bit(c, i)) Flip(phi, l - i);
-    return phi;
+    return 0;
 }
 
-// p = p^2 mod phi, p below t^2203.
-void SquareMod(Poly& p, const Poly& phi) {
-    Poly sq(2 * kWords + 2, 0);
-    for (int i = 0; i < kDegree; ++i)
-        if (Bit(p, i)) Flip(sq, 2 * i);
-    for (int i = 2 * kDegree - 2; i >= kDegree; --i) {
-        if (!Bit(sq, i)) continue;
-        int shift = i - kDegree; // add phi * t^shift, which clears bit i
-        int ws = shift >> 6, bs = shift & 63;
-        for (int j = 0; j <= kWords; ++j) {
-            uint64_t v = phi[j];
-            if (v == 0) continue;
-            sq[j + ws] ^= v << bs;
-            if (bs != 0 && j + ws + 1 < static_cast<int>(sq.size()))
-                sq[j + ws + 1] ^= v >> (64 - bs);
-        }
+int Table(const char* rowsPath, const char* outPath) {
+    std::map<int, Mt2203Member> rows = kPublished;
+    FILE* in = std::fopen(rowsPath, "r");
+    if (in == nullptr) return 1;
+    char line[256];
+    while (std::fgets(line, sizeof line, in) != nullptr) {
+        int m;
+        unsigned a, b, c;
+        if (std::sscanf(line, "%d %x %x %x", &m, &a, &b, &c) != 4) continue;
+        if (m < 0 || m >= kMt2203Members || kPublished.count(m) != 0) continue;
+        rows[m] = Mt2203Member{a, b, c};
     }
-    for (int j = 0; j < kWords; ++j)
-        p[j] = sq[j];
-    p.resize(kWords + 1);
-    p[kWords] = 0;
-    if (kDegree % 64) p[kWords - 1] &= (uint64_t{1} << (kDegree % 64)) - 1;
-}
-
-bool Primitive(uint32_t a) {
-    Poly phi = CharPoly(a);
-    if (phi.empty()) return false;
-    // No factor t or t + 1: constant term set and an odd number of terms.
-    int terms = 0;
-    for (uint64_t w : phi)
-        terms += __builtin_popcountll(w);
-    if (!Bit(phi, 0) || terms % 2 == 0) return false;
-    Poly p(kWords + 1, 0);
-    p[0] = 2; // t
-    for (int i = 0; i < kDegree; ++i)
-        SquareMod(p, phi);
-    Poly t(kWords + 1, 0);
-    t[0] = 2;
-    return p == t;
+    std::fclose(in);
+    if (static_cast<int>(rows.size()) != kMt2203Members) {
+        std::fprintf(stderr, "%zu rows of %d\n", rows.size(), kMt2203Members);
+        return 1;
+    }
+    FILE* out = std::fopen(outPath, "w");
+    if (out == nullptr) return 1;
+    std::fprintf(out,
+                 "// The member rows of MT2203: twist constant and tempering masks, indexed by\n"
+                 "// member. Members 0 to 3 and 6023 are the published rows of exponent 2203;\n"
+                 "// the others were found by tools/mt (mt2203_dc search, then mt2203_temper) and\n"
+                 "// are checked by `mt2203_dc verify`. Written by `mt2203_dc table`.\n"
+                 "#include \"rng/brng/mt2203_table.h\"\n\n"
+                 "namespace brenn::rng {\n\n"
+                 "namespace {\n\n"
+                 "// clang-format off\n"
+                 "const Mt2203Member kRows[kMt2203Members] = {\n");
+    for (const auto& [m, r] : rows)
+        std::fprintf(out, "    {0x%08Xu, 0x%08Xu, 0x%08Xu},%s\n", r.matrixA, r.temperB, r.temperC,
+                     m % 16 == 0 ? (" // " + std::to_string(m)).c_str() : "");
+    std::fprintf(out, "};\n"
+                      "// clang-format on\n\n"
+                      "} // namespace\n\n"
+                      "const Mt2203Member* FindMt2203Member(int32_t member) {\n"
+                      "    if (member < 0 || member >= kMt2203Members) return nullptr;\n"
+                      "    return &kRows[member];\n"
+                      "}\n\n"
+                      "} // namespace brenn::rng\n");
+    std::fclose(out);
+    return 0;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc >= 2 && std::strcmp(argv[1], "verify") == 0) {
-        int rows = 0, bad = 0;
-        for (int32_t m = 0; m < brenn::rng::kMt2203Members; ++m) {
-            const brenn::rng::Mt2203Member* row = brenn::rng::FindMt2203Member(m);
-            if (row == nullptr) continue;
-            ++rows;
-            if (!Primitive(row->matrixA)) {
-                std::printf("member %d: 0x%08X is not primitive\n", m, row->matrixA);
-                ++bad;
-            }
-        }
-        std::printf("%d rows, %d not primitive, %d members without a row\n", rows, bad,
-                    brenn::rng::kMt2203Members - rows);
-        return bad == 0 ? 0 : 1;
-    }
-    if (argc == 4 && std::strcmp(argv[1], "search") == 0) {
-        int want = std::atoi(argv[2]);
-        std::mt19937 pick(static_cast<uint32_t>(std::strtoul(argv[3], nullptr, 0)));
-        for (long tried = 1; want > 0; ++tried) {
-            uint32_t a = static_cast<uint32_t>(pick()) | 0x80000000u;
-            if (Primitive(a)) {
-                std::printf("0x%08X after %ld candidates\n", a, tried);
-                std::fflush(stdout);
-                --want;
-            }
-        }
-        return 0;
-    }
-    std::fprintf(stderr, "usage: mt2203_dc verify | search N SEED\n");
+    if (argc >= 2 && std::strcmp(argv[1], "verify") == 0)
+        return Verify(argc >= 3 ? std::max(1, std::atoi(argv[2])) : 1);
+    if (argc >= 4 && std::strcmp(argv[1], "search") == 0)
+        return Search(std::atoi(argv[2]), std::atoi(argv[3]),
+                      argc >= 5 ? static_cast<uint32_t>(std::strtoul(argv[4], nullptr, 0)) : 2203u);
+    if (argc == 4 && std::strcmp(argv[1], "table") == 0) return Table(argv[2], argv[3]);
+    std::fprintf(stderr, "usage: mt2203_dc verify [STEP] | search FIRST LAST [SEED] | table ROWS OUT\n");
     return 2;
 }
