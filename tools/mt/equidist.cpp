@@ -155,41 +155,62 @@ struct Reducer {
 
 } // namespace
 
-bool ComputeEquidist(const MtParams& p, EquidistProfile* k, int vmax) {
-    k->fill(0);
-    if (vmax < 1 || vmax > 32) return false;
-    const int degree = p.Degree();
-    // vmax unit vectors and the vector of one nonzero state generate the lattice.
-    Reducer red(p, vmax + 1);
+namespace {
+
+// The lattice of the top vmax bits from its generators: vmax unit vectors and the
+// vector of one nonzero state.
+bool StartLattice(Reducer& red, int vmax) {
     for (int j = 0; j < vmax; ++j)
         red.vecs[j].lead = 0x80000000u >> j;
     Vec& seed = red.vecs[vmax];
     uint32_t x = 19650218u;
-    for (int i = 0; i < p.n; ++i) {
+    for (int i = 0; i < red.p.n; ++i) {
         seed.buf[i] = x;
         x = 1812433253u * (x ^ (x >> 30)) + static_cast<uint32_t>(i + 1);
     }
     seed.delay = 0;
     seed.lead = red.Step(seed);
-    if (!red.Normalize(seed, TopMask(vmax))) return false;
+    return red.Normalize(seed, TopMask(vmax));
+}
 
+// Reduces for the top v bits and reads k(v) off the basis; -1 when degenerate.
+int ReduceAndRead(Reducer& red, int v) {
+    const uint32_t mask = TopMask(v);
+    for (Vec& vec : red.vecs)
+        if (vec.alive && !red.Normalize(vec, mask)) return -1;
+    if (!red.Reduce(mask)) return -1;
+    int alive = 0, sum = 0, best = red.p.Degree();
+    for (const Vec& vec : red.vecs) {
+        if (!vec.alive) continue;
+        ++alive;
+        sum += vec.delay + 1;
+        if (vec.delay + 1 < best) best = vec.delay + 1;
+    }
+    // A reduced basis has exactly v vectors whose lengths add up to p.
+    if (alive != v || sum != red.p.Degree()) return -1;
+    return best;
+}
+
+} // namespace
+
+bool ComputeEquidist(const MtParams& p, EquidistProfile* k, int vmax) {
+    k->fill(0);
+    if (vmax < 1 || vmax > 32) return false;
+    Reducer red(p, vmax + 1);
+    if (!StartLattice(red, vmax)) return false;
     for (int v = vmax; v >= 1; --v) {
-        const uint32_t mask = TopMask(v);
-        for (Vec& vec : red.vecs)
-            if (vec.alive && !red.Normalize(vec, mask)) return false;
-        if (!red.Reduce(mask)) return false;
-        int alive = 0, sum = 0, best = degree;
-        for (const Vec& vec : red.vecs) {
-            if (!vec.alive) continue;
-            ++alive;
-            sum += vec.delay + 1;
-            if (vec.delay + 1 < best) best = vec.delay + 1;
-        }
-        // A reduced basis has exactly v vectors whose lengths add up to p.
-        if (alive != v || sum != degree) return false;
-        (*k)[v - 1] = best;
+        int kv = ReduceAndRead(red, v);
+        if (kv < 0) return false;
+        (*k)[v - 1] = kv;
     }
     return true;
+}
+
+int EquidistAt(const MtParams& p, int v) {
+    if (v < 1 || v > 32) return -1;
+    Reducer red(p, v + 1);
+    if (!StartLattice(red, v)) return -1;
+    return ReduceAndRead(red, v);
 }
 
 namespace {

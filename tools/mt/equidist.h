@@ -48,6 +48,9 @@ int TotalDefect(const EquidistProfile& k, int degree);
 // shows up as a degenerate lattice), true otherwise. Work is O(p) states per v.
 bool ComputeEquidist(const MtParams& p, EquidistProfile* k, int vmax = 32);
 
+// k(v) alone (one reduction instead of vmax of them); -1 when degenerate.
+int EquidistAt(const MtParams& p, int v);
+
 // k(v) for one v by Gaussian elimination on the p-bit functionals of the
 // tempered output bits; roughly p^3/64 word operations, for checks only.
 int EquidistBySlowElimination(const MtParams& p, int v);
