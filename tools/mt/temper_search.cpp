@@ -67,9 +67,12 @@ StepBits TemperStepBits(int v) {
     return s;
 }
 
-TemperMasks SearchTempering(uint32_t a, const TemperSearchOptions& options) {
+namespace {
+
+// One beam search and its repair; the seed orders the ties.
+TemperMasks SearchOnce(uint32_t a, const TemperSearchOptions& options, uint64_t seed) {
     TemperMasks out;
-    uint64_t rng = 0x6D74323230330000ull ^ a;
+    uint64_t rng = seed;
     const int width = options.beamWidth < 1 ? 1 : options.beamWidth;
     std::vector<Candidate> beam{Candidate{0, 0, 0, 0, 0}};
     std::vector<Candidate> next;
@@ -77,7 +80,8 @@ TemperMasks SearchTempering(uint32_t a, const TemperSearchOptions& options) {
         const StepBits bits = TemperStepBits(v);
         const int bound = EquidistBound(kDegree, v);
         next.clear();
-        for (const Candidate& parent : beam)
+        for (const Candidate& parent : beam) {
+            const size_t first = next.size();
             for (int m = 0; m < (1 << bits.count); ++m) {
                 Candidate child = parent;
                 for (int i = 0; i < bits.count; ++i)
@@ -93,6 +97,15 @@ TemperMasks SearchTempering(uint32_t a, const TemperSearchOptions& options) {
                 child.order = NextRandom(rng);
                 next.push_back(child);
             }
+            // At most perParent extensions of one parent go on, so that the beam
+            // does not collapse onto the descendants of a single early choice.
+            const size_t cap = static_cast<size_t>(std::max(options.perParent, 1));
+            if (next.size() - first > cap) {
+                std::partial_sort(next.begin() + first, next.begin() + first + cap, next.end(),
+                                  Better);
+                next.resize(first + cap);
+            }
+        }
         const size_t keep = std::min(next.size(), static_cast<size_t>(width));
         std::partial_sort(next.begin(), next.begin() + keep, next.end(), Better);
         next.resize(keep);
@@ -112,7 +125,48 @@ TemperMasks SearchTempering(uint32_t a, const TemperSearchOptions& options) {
             out.totalDefect = defect;
         }
     }
+    // A late dimension (typically v = 16) can miss its bound by a wide margin for
+    // every survivor; single-bit changes anywhere in the masks often repair it.
+    for (int pass = 0; out.ok && pass < options.repairPasses; ++pass) {
+        bool improved = false;
+        for (int bit = 0; bit < 42; ++bit) {
+            uint32_t b = out.b, c = out.c;
+            if (bit < 25)
+                b ^= MsbBit(bit);
+            else
+                c ^= MsbBit(bit - 25);
+            EquidistProfile k;
+            ++out.evaluations;
+            if (!ComputeEquidist(Mt2203Params(a, b, c), &k)) continue;
+            const int defect = TotalDefect(k, kDegree);
+            if (defect < out.totalDefect) {
+                out.b = b;
+                out.c = c;
+                out.k = k;
+                out.totalDefect = defect;
+                improved = true;
+            }
+        }
+        if (!improved) break;
+    }
     return out;
+}
+
+} // namespace
+
+TemperMasks SearchTempering(uint32_t a, const TemperSearchOptions& options) {
+    TemperMasks best;
+    int evaluations = 0;
+    for (int attempt = 0; attempt <= options.retries; ++attempt) {
+        TemperMasks t =
+            SearchOnce(a, options, (0x6D74323230330000ull ^ a) + 0x1000000000ull * attempt);
+        evaluations += t.evaluations;
+        if (!t.ok) return TemperMasks{};
+        if (!best.ok || t.totalDefect < best.totalDefect) best = t;
+        if (best.totalDefect <= options.retryAbove) break;
+    }
+    best.evaluations = evaluations;
+    return best;
 }
 
 } // namespace brenn::mt

@@ -15,6 +15,15 @@ struct TemperSearchOptions {
     // Partial assignments kept from one step to the next; each costs up to eight
     // evaluations of k(v) a step.
     int beamWidth = 8;
+    // Extensions of one assignment that may survive a step.
+    int perParent = 8;
+    // Rounds of single-bit changes tried on the result (each up to 42 full
+    // profiles); a round that improves nothing ends them.
+    int repairPasses = 2;
+    // Whole searches repeated with other tie orders while the total defect stays
+    // above retryAbove (the published rows have 699 to 713).
+    int retries = 2;
+    int retryAbove = 730;
 };
 
 struct TemperMasks {
