@@ -1,13 +1,14 @@
 // mt2203_temper: tempering masks for MT2203 members.
 //
-//   mt2203_temper [-j THREADS] [-w BEAM] [-k] [FILE]
+//   mt2203_temper [-j THREADS] [-w BEAM] [-r RETRIES] [-k] [FILE]
 //
 // Reads lines "member a" (a in hex; blank lines and lines starting with '#' are
 // skipped) from FILE or standard input and writes "member a b c totaldefect" in
 // the input order, each line as soon as it and all before it are done. -k appends
-// the 32 values k(1..32). Work is shared by THREADS threads (default 2). A twist
-// constant whose recurrence is degenerate is reported on standard error and makes
-// the exit status 1; its line is left out.
+// the 32 values k(1..32); -w and -r set the beam width and the number of whole
+// searches repeated while the total defect stays high (0 halves the time). Work is shared by
+// THREADS threads (default 2). A twist constant whose recurrence is degenerate is reported on
+// standard error and makes the exit status 1; its line is left out.
 #include <atomic>
 #include <cinttypes>
 #include <cstdio>
@@ -31,7 +32,7 @@ struct Job {
 };
 
 int Usage() {
-    std::fprintf(stderr, "usage: mt2203_temper [-j THREADS] [-w BEAM] [-k] [FILE]\n");
+    std::fprintf(stderr, "usage: mt2203_temper [-j THREADS] [-w BEAM] [-r RETRIES] [-k] [FILE]\n");
     return 2;
 }
 
@@ -47,6 +48,8 @@ int main(int argc, char** argv) {
             threads = std::atoi(argv[++i]);
         else if (!std::strcmp(argv[i], "-w") && i + 1 < argc)
             options.beamWidth = std::atoi(argv[++i]);
+        else if (!std::strcmp(argv[i], "-r") && i + 1 < argc)
+            options.retries = std::atoi(argv[++i]);
         else if (!std::strcmp(argv[i], "-k"))
             profile = true;
         else if (argv[i][0] == '-' || path)
@@ -54,7 +57,7 @@ int main(int argc, char** argv) {
         else
             path = argv[i];
     }
-    if (threads < 1 || options.beamWidth < 1) return Usage();
+    if (threads < 1 || options.beamWidth < 1 || options.retries < 0) return Usage();
     FILE* in = path ? std::fopen(path, "r") : stdin;
     if (!in) {
         std::fprintf(stderr, "mt2203_temper: cannot open %s\n", path);
