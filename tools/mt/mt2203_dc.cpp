@@ -4,9 +4,11 @@
 // equidistribution (mt2203_temper, a separate program). This one searches the
 // constants, writes the table source and verifies the committed table:
 //
-//   mt2203_dc search FIRST LAST [SEED]   "member a" lines for members FIRST..LAST;
-//                                        each member draws from its own stream, so
+//   mt2203_dc search FIRST LAST [SEED]   "member a1 a2 tried" lines for members
+//                                        FIRST..LAST: the first two primitive
+//                                        constants of each member's own stream, so
 //                                        ranges can run in parallel processes
+//   mt2203_dc pick FILE...               "member a" lines, constants made distinct
 //   mt2203_dc table ROWS OUT             table source from "member a b c ..." lines
 //   mt2203_dc verify [STEP]              every STEP-th row (and the published ones):
 //                                        primitive, and the library's own generator
@@ -43,18 +45,24 @@ const std::map<int, Mt2203Member> kPublished = {
     {6023, {0xE8761D4Bu, 0x72967680u, 0xEFEB0000u}},
 };
 
-// Draws twist constants (top bit set, as the published ones) for one member until
-// one is primitive.
-uint32_t SearchMember(const mt2203::Sieve& sieve, int member, uint32_t seed, long* tried) {
+// Twist constants of one member, in the order its own stream draws them (top bit
+// set, as the published ones), that are primitive.
+struct Drawn {
+    uint32_t first, second;
+    long tried;
+};
+Drawn SearchMember(const mt2203::Sieve& sieve, int member, uint32_t seed) {
     std::seed_seq seq{seed, static_cast<uint32_t>(member), 0x2203u};
     std::mt19937 pick(seq);
-    for (*tried = 1;; ++*tried) {
+    uint32_t found[2];
+    int count = 0;
+    long tried = 0;
+    while (count < 2) {
+        ++tried;
         uint32_t a = static_cast<uint32_t>(pick()) | 0x80000000u;
-        bool published = false;
-        for (const auto& [m, row] : kPublished)
-            published |= row.matrixA == a;
-        if (!published && mt2203::Primitive(sieve, a)) return a;
+        if (mt2203::Primitive(sieve, a)) found[count++] = a;
     }
+    return {found[0], found[1], tried};
 }
 
 // The first outputs of the library's generator for a member are a sequence that
@@ -124,15 +132,51 @@ int Verify(int step) {
     return bad == 0 ? 0 : 1;
 }
 
+// Two constants a member, so that `pick` can keep the constants distinct: about
+// 5.6 million constants with the top bit set are primitive, and among 6019 draws a
+// few coincide.
 int Search(int first, int last, uint32_t seed) {
     mt2203::Sieve sieve = mt2203::MakeSieve(kSieveDegree);
     for (int m = first; m <= last; ++m) {
         if (kPublished.count(m) != 0) continue;
-        long tried = 0;
-        uint32_t a = SearchMember(sieve, m, seed, &tried);
-        std::printf("%d 0x%08X %ld\n", m, a, tried);
+        Drawn d = SearchMember(sieve, m, seed);
+        std::printf("%d 0x%08X 0x%08X %ld\n", m, d.first, d.second, d.tried);
         std::fflush(stdout);
     }
+    return 0;
+}
+
+// In member order, each member takes its first constant unless an earlier member
+// (or a published row) has it, then its second.
+int Pick(int files, char** paths) {
+    std::map<int, std::pair<uint32_t, uint32_t>> drawn;
+    for (int i = 0; i < files; ++i) {
+        FILE* in = std::fopen(paths[i], "r");
+        if (in == nullptr) return 1;
+        char line[256];
+        int m;
+        unsigned a, b;
+        while (std::fgets(line, sizeof line, in) != nullptr)
+            if (std::sscanf(line, "%d %x %x", &m, &a, &b) == 3) drawn[m] = {a, b};
+        std::fclose(in);
+    }
+    std::set<uint32_t> taken;
+    for (const auto& [m, row] : kPublished)
+        taken.insert(row.matrixA);
+    int second = 0;
+    for (const auto& [m, pair] : drawn) {
+        uint32_t a = pair.first;
+        if (taken.count(a) != 0) {
+            a = pair.second;
+            ++second;
+        }
+        if (!taken.insert(a).second) {
+            std::fprintf(stderr, "member %d: both constants taken\n", m);
+            return 1;
+        }
+        std::printf("%d 0x%08X\n", m, a);
+    }
+    std::fprintf(stderr, "%zu members, %d took their second constant\n", drawn.size(), second);
     return 0;
 }
 
@@ -188,7 +232,9 @@ int main(int argc, char** argv) {
     if (argc >= 4 && std::strcmp(argv[1], "search") == 0)
         return Search(std::atoi(argv[2]), std::atoi(argv[3]),
                       argc >= 5 ? static_cast<uint32_t>(std::strtoul(argv[4], nullptr, 0)) : 2203u);
+    if (argc >= 3 && std::strcmp(argv[1], "pick") == 0) return Pick(argc - 2, argv + 2);
     if (argc == 4 && std::strcmp(argv[1], "table") == 0) return Table(argv[2], argv[3]);
-    std::fprintf(stderr, "usage: mt2203_dc verify [STEP] | search FIRST LAST [SEED] | table ROWS OUT\n");
+    std::fprintf(stderr, "usage: mt2203_dc verify [STEP] | search FIRST LAST [SEED] | pick FILE... "
+                         "| table ROWS OUT\n");
     return 2;
 }
