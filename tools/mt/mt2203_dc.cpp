@@ -11,10 +11,14 @@
 //   mt2203_dc pick FILE...               "member a" lines, constants made distinct
 //   mt2203_dc table ROWS OUT             table source from "member a b c ..." lines
 //   mt2203_dc verify [STEP]              every STEP-th row (and the published ones):
-//                                        primitive, and the library's own generator
-//                                        output annihilated by the polynomial; all
-//                                        twist constants distinct
+//                                        primitive, the library's own generator
+//                                        output annihilated by the polynomial, total
+//                                        dimension defect of the tempered output
+//                                        within bound; all twist constants distinct
+//   mt2203_dc report OUT                 the equidistribution of every row, as a
+//                                        Markdown page
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -27,6 +31,7 @@
 
 #include "brenn_rng.h"
 #include "rng/brng/mt2203_table.h"
+#include "tools/mt/equidist.h"
 #include "tools/mt/mt2203_primitive.h"
 
 namespace {
@@ -37,6 +42,9 @@ using brenn::rng::kMt2203Members;
 namespace mt2203 = brenn::mt2203;
 
 constexpr int kSieveDegree = 12;
+// Total dimension defect a row may have: the published rows have 699 to 713, and
+// the tempering search leaves every found row below this.
+constexpr int kDefectBound = 760;
 
 // The published rows (members 0 to 3 and 6023); the search fills the others.
 const std::map<int, Mt2203Member> kPublished = {
@@ -123,6 +131,14 @@ int Verify(int step) {
             ++bad;
         } else if (!AnnihilatesLibraryOutput(m, phi)) {
             std::printf("member %d: the generator's output does not follow phi\n", m);
+            ++bad;
+        }
+        brenn::mt::EquidistProfile k{};
+        if (!brenn::mt::ComputeEquidist(
+                brenn::mt::Mt2203Params(row->matrixA, row->temperB, row->temperC), &k) ||
+            brenn::mt::TotalDefect(k, mt2203::kDegree) > kDefectBound) {
+            std::printf("member %d: total dimension defect %d above %d\n", m,
+                        brenn::mt::TotalDefect(k, mt2203::kDegree), kDefectBound);
             ++bad;
         }
     }
@@ -224,6 +240,72 @@ int Table(const char* rowsPath, const char* outPath) {
     return 0;
 }
 
+// The equidistribution of the whole table: total defects and, per v, how many
+// members reach the bound, with the published rows beside them.
+int Report(const char* outPath) {
+    std::vector<int> totals;
+    std::array<std::vector<int>, 32> perV;
+    std::map<int, int> publishedTotal;
+    for (int m = 0; m < kMt2203Members; ++m) {
+        const Mt2203Member* row = brenn::rng::FindMt2203Member(m);
+        if (row == nullptr) continue;
+        brenn::mt::EquidistProfile k{};
+        if (!brenn::mt::ComputeEquidist(
+                brenn::mt::Mt2203Params(row->matrixA, row->temperB, row->temperC), &k))
+            return 1;
+        int total = brenn::mt::TotalDefect(k, mt2203::kDegree);
+        totals.push_back(total);
+        if (kPublished.count(m) != 0) publishedTotal[m] = total;
+        for (int v = 1; v <= 32; ++v)
+            perV[v - 1].push_back(k[v - 1]);
+    }
+    if (totals.empty()) return 1;
+    FILE* out = std::fopen(outPath, "w");
+    if (out == nullptr) return 1;
+    std::vector<int> sorted = totals;
+    std::sort(sorted.begin(), sorted.end());
+    double mean = 0;
+    for (int t : totals)
+        mean += t;
+    mean /= static_cast<double>(totals.size());
+    std::fprintf(out, "# MT2203 member table: equidistribution\n\n"
+                      "Written by `mt2203_dc report` from the committed table. k(v) is the "
+                      "dimension of equidistribution of the top v bits of the tempered output "
+                      "(lattice reduction, tools/mt/equidist.h); the bound is floor(2203/v) and the "
+                      "total dimension defect the sum of bound - k(v) over v = 1..32. Every row's "
+                      "twist constant gives a primitive characteristic polynomial "
+                      "(`mt2203_dc verify`).\n\n");
+    std::fprintf(out, "%zu rows. Total defect: min %d, median %d, mean %.1f, max %d.\n\n",
+                 totals.size(), sorted.front(), sorted[sorted.size() / 2], mean, sorted.back());
+    std::fprintf(out, "Published rows:");
+    for (const auto& [m, t] : publishedTotal)
+        std::fprintf(out, " member %d: %d;", m, t);
+    std::fprintf(out, "\n\n| Total defect | Rows |\n|---|---|\n");
+    const int edges[] = {700, 710, 720, 730, 740, 750, 760, 1 << 30};
+    int low = 0;
+    for (int e : edges) {
+        long count = std::count_if(totals.begin(), totals.end(),
+                                   [&](int t) { return t >= low && t < e; });
+        if (e == (1 << 30))
+            std::fprintf(out, "| %d and above | %ld |\n", low, count);
+        else
+            std::fprintf(out, "| %d to %d | %ld |\n", low, e - 1, count);
+        low = e;
+    }
+    std::fprintf(out, "\n| v | bound | min k(v) | median k(v) | rows at the bound |\n"
+                      "|---|---|---|---|---|\n");
+    for (int v = 1; v <= 32; ++v) {
+        std::vector<int> k = perV[v - 1];
+        std::sort(k.begin(), k.end());
+        int bound = brenn::mt::EquidistBound(mt2203::kDegree, v);
+        long at = std::count(k.begin(), k.end(), bound);
+        std::fprintf(out, "| %d | %d | %d | %d | %ld |\n", v, bound, k.front(), k[k.size() / 2],
+                     at);
+    }
+    std::fclose(out);
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -232,9 +314,10 @@ int main(int argc, char** argv) {
     if (argc >= 4 && std::strcmp(argv[1], "search") == 0)
         return Search(std::atoi(argv[2]), std::atoi(argv[3]),
                       argc >= 5 ? static_cast<uint32_t>(std::strtoul(argv[4], nullptr, 0)) : 2203u);
+    if (argc == 3 && std::strcmp(argv[1], "report") == 0) return Report(argv[2]);
     if (argc >= 3 && std::strcmp(argv[1], "pick") == 0) return Pick(argc - 2, argv + 2);
     if (argc == 4 && std::strcmp(argv[1], "table") == 0) return Table(argv[2], argv[3]);
     std::fprintf(stderr, "usage: mt2203_dc verify [STEP] | search FIRST LAST [SEED] | pick FILE... "
-                         "| table ROWS OUT\n");
+                         "| table ROWS OUT | report OUT\n");
     return 2;
 }
