@@ -12,22 +12,13 @@
 
 #include "frame/export.h"
 #include "platform/serv.h"
+#include "rng/core/bitspread.h"
 #include "rng/core/polyrem.h"
 #include "rng/core/stream.h"
 
 namespace brenn::rng {
 
 namespace {
-
-// Spreads the 32 bits of v so that bit i lands on bit 2i.
-inline uint64_t Spread32(uint64_t v) {
-    v = (v | (v << 16)) & 0x0000FFFF0000FFFFull;
-    v = (v | (v << 8)) & 0x00FF00FF00FF00FFull;
-    v = (v | (v << 4)) & 0x0F0F0F0F0F0F0F0Full;
-    v = (v | (v << 2)) & 0x3333333333333333ull;
-    v = (v | (v << 1)) & 0x5555555555555555ull;
-    return v;
-}
 
 // The 64 bits of p from bit position on; p has a word beyond the last one read.
 inline uint64_t Get64(const uint64_t* p, int64_t position) {

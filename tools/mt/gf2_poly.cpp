@@ -1,6 +1,8 @@
 // GF(2)[t] arithmetic of the MT2203 member search (see gf2_poly.h).
 #include "tools/mt/gf2_poly.h"
 
+#include "rng/core/bitspread.h"
+
 #include <immintrin.h>
 
 #include <algorithm>
@@ -65,17 +67,6 @@ bool HasPclmul() {
 }
 
 bool portableProduct = !HasPclmul();
-
-// Spreads the 32 bits of x to the even bit positions of a 64-bit word (a square).
-uint64_t Spread(uint32_t x) {
-    uint64_t v = x;
-    v = (v | (v << 16)) & 0x0000FFFF0000FFFFull;
-    v = (v | (v << 8)) & 0x00FF00FF00FF00FFull;
-    v = (v | (v << 4)) & 0x0F0F0F0F0F0F0F0Full;
-    v = (v | (v << 2)) & 0x3333333333333333ull;
-    v = (v | (v << 1)) & 0x5555555555555555ull;
-    return v;
-}
 
 // a mod t^bits.
 void Truncate(Poly& a, int bits) {
@@ -154,8 +145,8 @@ Poly Mul(const Poly& a, const Poly& b) {
 Poly Square(const Poly& a) {
     Poly r(2 * a.size(), 0);
     for (std::size_t i = 0; i < a.size(); ++i) {
-        r[2 * i] = Spread(static_cast<uint32_t>(a[i]));
-        r[2 * i + 1] = Spread(static_cast<uint32_t>(a[i] >> 32));
+        r[2 * i] = rng::Spread32(a[i]);
+        r[2 * i + 1] = rng::Spread32(a[i] >> 32);
     }
     Trim(r);
     return r;
