@@ -4,14 +4,15 @@
 // skip-ahead around the switch from Horner's scheme to the window, with every
 // remainder inside a group.
 #include <cstring>
-#include <random>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "brenn_rng.h"
+#include "tests/rng/brng_harness.h"
 
 namespace {
+
+using namespace brenn::test;
 
 // ---- The reference: the published algorithm on plain 32-bit words ----------------
 
@@ -106,29 +107,14 @@ struct RefSfmt {
         }
         return w[index++];
     }
-
-    std::vector<uint32_t> Take(size_t n) {
-        std::vector<uint32_t> v(n);
-        for (auto& x : v)
-            x = Next();
-        return v;
-    }
 };
 
-const std::vector<uint32_t> kKey = {0x1234, 0x5678, 0x9ABC, 0xDEF0};
+const Words32 kKey = {0x1234, 0x5678, 0x9ABC, 0xDEF0};
+const WordBrng kSfmt = {QES_BRNG_SFMT19937, kKey, __qesiBRngSFMT19937, __qessBRngSFMT19937,
+                        __qesdBRngSFMT19937};
 
-void* NewSfmt(const std::vector<uint32_t>& key) {
-    void* s = nullptr;
-    EXPECT_EQ(
-        __qesNewStreamEx(&s, QES_BRNG_SFMT19937, static_cast<int32_t>(key.size()), key.data()), 0);
-    return s;
-}
-
-std::vector<uint32_t> Words(void* s, int32_t n) {
-    std::vector<uint32_t> w(n > 0 ? n : 1);
-    EXPECT_EQ(__qesiBRngSFMT19937(s, n, w.data()), 0);
-    w.resize(n > 0 ? n : 0);
-    return w;
+Words32 Ref(const Words32& key, size_t n) {
+    return Draw(RefSfmt(key), n);
 }
 
 struct Tail {
@@ -152,127 +138,72 @@ TEST(RngSfmt19937, PublishedReferenceOutput) {
         2100341266307895239ull,  8344256300489757943ull,  15687933285484243894ull,
         8268620370277076319ull,  12371852309826545459ull, 8800491541730110238ull,
         18113268950100835773ull, 2886823658884438119ull,  3293667307248180724ull};
-    void* s = NewSfmt({5, 4, 3, 2, 1});
-    auto w = Words(s, 18);
+    auto w = FirstWords(kSfmt, {5, 4, 3, 2, 1}, 18);
     for (int i = 0; i < 9; ++i)
         EXPECT_EQ(w[2 * i] | (uint64_t{w[2 * i + 1]} << 32), published[i]) << i;
-    __qesDeleteStream(&s);
-    for (const auto& key : {kKey, std::vector<uint32_t>{5, 4, 3, 2, 1}, std::vector<uint32_t>{},
-                            std::vector<uint32_t>(700, 0x9E3779B9u)}) {
-        void* t = NewSfmt(key);
-        EXPECT_EQ(Words(t, 3000), RefSfmt(key).Take(3000));
-        __qesDeleteStream(&t);
-    }
+    for (const Words32& key : {kKey, Words32{5, 4, 3, 2, 1}, Words32{}, Words32(700, 0x9E3779B9u)})
+        EXPECT_EQ(FirstWords(kSfmt, key, 3000), Ref(key, 3000));
 }
 
 // ---- Cutting a request -------------------------------------------------------------
 
 TEST(RngSfmt19937, ThreeAndFiveGiveTheEight) {
-    auto ref = RefSfmt(kKey).Take(8);
-    void* s = NewSfmt(kKey);
-    auto a = Words(s, 3);
+    void* s = New(kSfmt);
+    auto a = Take(kSfmt, s, 3);
     Tail t = TailOf(s);
     EXPECT_EQ(t.position, 4);
     EXPECT_EQ(t.spillCount, 1);
     EXPECT_EQ(t.spillPosition, 0);
-    auto b = Words(s, 5);
+    auto b = Take(kSfmt, s, 5);
     a.insert(a.end(), b.begin(), b.end());
-    EXPECT_EQ(a, ref);
+    EXPECT_EQ(a, Ref(kKey, 8));
     EXPECT_EQ(TailOf(s).position % 4, 0);
     __qesDeleteStream(&s);
 }
 
 TEST(RngSfmt19937, AnyCutGivesTheSameSequence) {
-    const std::vector<std::vector<int32_t>> cuts = {
-        {624, 1, 623, 625}, {625, 1, 1, 1, 1},  {1, 623, 1, 1248, 1249, 3},
-        {5001, 17, 2},      {0, 3, 0, 1501, 2}, {622, 3, 627, 1},
-        {1250, 1250, 2},    {2, 2, 2, 630},
-    };
-    for (const auto& cut : cuts) {
-        size_t total = 0;
-        for (int32_t c : cut)
-            total += c;
-        auto ref = RefSfmt(kKey).Take(total);
-        void* s = NewSfmt(kKey);
-        std::vector<uint32_t> got;
-        for (int32_t c : cut) {
-            auto w = Words(s, c);
-            got.insert(got.end(), w.begin(), w.end());
-        }
-        EXPECT_EQ(got, ref);
-        __qesDeleteStream(&s);
-    }
-    std::mt19937 rng(11);
-    auto ref = RefSfmt(kKey).Take(200000);
-    void* s = NewSfmt(kKey);
-    size_t at = 0;
-    while (at < ref.size()) {
-        int32_t c = static_cast<int32_t>(std::min<size_t>(rng() % 3000, ref.size() - at));
-        auto w = Words(s, c);
-        ASSERT_TRUE(std::equal(w.begin(), w.end(), ref.begin() + at)) << "at " << at;
-        at += c;
-    }
-    __qesDeleteStream(&s);
+    ExpectCutsMatch(kSfmt, Ref(kKey, 200000),
+                    {{624, 1, 623, 625},
+                     {625, 1, 1, 1, 1},
+                     {1, 623, 1, 1248, 1249, 3},
+                     {5001, 17, 2},
+                     {0, 3, 0, 1501, 2},
+                     {622, 3, 627, 1},
+                     {1250, 1250, 2},
+                     {2, 2, 2, 630}},
+                    11);
 }
 
 // ---- Element forms -----------------------------------------------------------------
 
+// The word as a signed integer scaled about the middle of the interval.
+double CentredD(uint32_t w, double a, double b) {
+    return static_cast<double>(static_cast<int32_t>(w)) * ((b - a) * 0x1p-32) + (a + b) / 2;
+}
+float CentredF(uint32_t w, float a, float b) {
+    const float scale = static_cast<float>((static_cast<double>(b) - a) * 0x1p-32);
+    return static_cast<float>(static_cast<int32_t>(w)) * scale + (a + b) / 2;
+}
+
 TEST(RngSfmt19937, CentredSignedRealForms) {
-    for (int len : {1, 3, 5, 624, 627, 1999}) {
-        auto ref = RefSfmt(kKey).Take(len);
-        void* s = NewSfmt(kKey);
-        void* t = NewSfmt(kKey);
-        std::vector<double> d(len);
-        std::vector<float> f(len);
-        ASSERT_EQ(__qesdBRngSFMT19937(s, len, d.data(), -2.0, 6.0), 0);
-        ASSERT_EQ(__qessBRngSFMT19937(t, len, f.data(), 1.0f, 2.0f), 0);
-        const float fs = static_cast<float>(1.0 * 0x1p-32), fm = 1.5f;
-        for (int i = 0; i < len; ++i) {
-            int32_t w = static_cast<int32_t>(ref[i]);
-            ASSERT_EQ(d[i], static_cast<double>(w) * (8.0 * 0x1p-32) + 2.0) << i;
-            ASSERT_EQ(f[i], static_cast<float>(w) * fs + fm) << i;
-        }
-        __qesDeleteStream(&s);
-        __qesDeleteStream(&t);
-    }
+    ExpectRealForms(kSfmt, Ref(kKey, 2000), {1, 3, 5, 624, 627, 1999},
+                    {-2.0, 6.0, 1.0f, 2.0f, CentredD, CentredF});
 }
 
 // ---- Jumps ----------------------------------------------------------------------------
 
 TEST(RngSfmt19937, SkipEqualsGenerateAndDiscard) {
     const uint64_t g = 19968 * 4; // the Horner/window switch, in words
-    const uint64_t counts[] = {0,   1,     2,     3,     4, 5,     620,   623,   624,   625,    627,
-                               628, g - 4, g - 3, g - 1, g, g + 1, g + 2, g + 3, g + 4, 1000003};
-    auto seq = RefSfmt(kKey).Take(1000003 + 2000 + 1300);
-    for (size_t read : {size_t{0}, size_t{3}, size_t{6}, size_t{624}, size_t{1001}}) {
-        for (uint64_t c : counts) {
-            void* s = NewSfmt(kKey);
-            Words(s, static_cast<int32_t>(read));
-            ASSERT_EQ(__qesSkipAheadStream(s, c), 0);
-            auto w = Words(s, 1300);
-            ASSERT_TRUE(std::equal(w.begin(), w.end(), seq.begin() + read + c))
-                << "read " << read << " skip " << c;
-            __qesDeleteStream(&s);
-        }
-    }
+    ExpectSkipsMatch(kSfmt, Ref(kKey, 1000003 + 2000 + 1300), {0, 3, 6, 624, 1001},
+                     {0,   1,     2,     3,     4, 5,     620,   623,   624,   625,    627,
+                      628, g - 4, g - 3, g - 1, g, g + 1, g + 2, g + 3, g + 4, 1000003});
 }
 
 TEST(RngSfmt19937, LongJumpsCommute) {
-    const uint64_t big = (uint64_t{1} << 40) + 3, other = 100001;
-    void* a = NewSfmt(kKey);
-    void* b = NewSfmt(kKey);
-    Words(a, 7);
-    Words(b, 7);
-    ASSERT_EQ(__qesSkipAheadStream(a, big), 0);
-    ASSERT_EQ(__qesSkipAheadStream(a, other), 0);
-    ASSERT_EQ(__qesSkipAheadStream(b, other), 0);
-    ASSERT_EQ(__qesSkipAheadStream(b, big), 0);
-    EXPECT_EQ(Words(a, 1000), Words(b, 1000));
-    EXPECT_EQ(__qesLeapfrogStream(a, 1, 4), QES_RNG_STATUS_NO_LEAPFROG);
-    uint64_t words[1] = {1};
-    EXPECT_EQ(__qesSkipAheadStreamEx(a, 1, words), QES_RNG_STATUS_NO_SKIPAHEAD_EX);
-    __qesDeleteStream(&a);
-    __qesDeleteStream(&b);
+    ExpectLongJumpsCommute(kSfmt, (uint64_t{1} << 40) + 3, 100001);
+    void* s = New(kSfmt);
+    ExpectNoLeapfrogNorSkipEx(s);
+    __qesDeleteStream(&s);
 }
 
 } // namespace
