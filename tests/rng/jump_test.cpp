@@ -1,6 +1,6 @@
-// The number theory of the jumps: 3 x 3 matrix powers and their tables, the GF(2)
-// remainder against a plain computation, and the two polynomial jump drivers on a
-// small GF(2)-linear generator written here, against stepping it.
+// The number theory of the jumps: 3 x 3 matrix powers and their tables, and the two
+// polynomial jump drivers on a small GF(2)-linear generator written here, against
+// stepping it. (The GF(2) remainder itself is tested in polyrem_test.cpp.)
 #include <cstring>
 #include <vector>
 
@@ -97,102 +97,6 @@ TEST(RngVect3, LongCountsAgreeAcrossPaths) {
         }
         EXPECT_EQ(std::memcmp(v, a, sizeof v), 0);
         return true;
-    });
-}
-
-// ---- GF(2) ----------------------------------------------------------------------
-
-// x^count mod P by multiplying by x count times, on a plain bit vector.
-std::vector<int> DirectRem(uint64_t count, int degree, const std::vector<int>& terms) {
-    std::vector<int> r(degree + 1, 0);
-    r[0] = 1;
-    for (uint64_t c = 0; c < count; ++c) {
-        for (int i = degree; i > 0; --i)
-            r[i] = r[i - 1];
-        r[0] = 0;
-        if (r[degree])
-            for (int t : terms)
-                r[t] ^= 1;
-    }
-    r.resize(degree);
-    return r;
-}
-
-std::vector<int> Bits(const std::vector<uint32_t>& w, int n) {
-    std::vector<int> b(n);
-    for (int i = 0; i < n; ++i)
-        b[i] = (w[i / 32] >> (i % 32)) & 1;
-    return b;
-}
-
-TEST(RngPolyRem, AgreesWithRepeatedMultiplicationByX) {
-    const std::vector<std::vector<int>> polys = {
-        {0, 1, 5}, {0, 38, 89}, {0, 3, 7, 12, 64}, {0, 1, 2, 3, 5, 8, 13, 21, 34, 55, 70}};
-    for (const auto& terms : polys) {
-        int degree = terms.back();
-        int wc = (degree + 31) / 32 + 1;
-        for (uint64_t count :
-             {0ull, 1ull, 4ull, 63ull, 64ull, 65ull, 89ull, 200ull, 1000ull, 4097ull}) {
-            std::vector<uint32_t> out(wc, 0xDEADBEEF);
-            ASSERT_EQ(__qesPolyRem(count, degree, static_cast<int>(terms.size()), terms.data(), wc,
-                                   out.data()),
-                      0);
-            EXPECT_EQ(Bits(out, degree), DirectRem(count, degree, terms)) << degree << " " << count;
-            for (int i = degree; i < wc * 32; ++i)
-                ASSERT_EQ((out[i / 32] >> (i % 32)) & 1, 0u);
-        }
-    }
-    // A count below the degree is a single bit.
-    std::vector<int> t = {0, 38, 89};
-    std::vector<uint32_t> out(4);
-    __qesPolyRem(70, 89, 3, t.data(), 4, out.data());
-    EXPECT_EQ(out[2], 1u << 6);
-    EXPECT_EQ(out[0] | out[1] | out[3], 0u);
-}
-
-// x^(a+b) = x^a x^b mod P, for counts too long to multiply out.
-TEST(RngPolyRem, LongCountsAreConsistentProducts) {
-    std::vector<int> terms = {0, 38, 89};
-    auto rem = [&](uint64_t c) {
-        std::vector<uint32_t> o(4);
-        EXPECT_EQ(__qesPolyRem(c, 89, 3, terms.data(), 4, o.data()), 0);
-        return Bits(o, 89);
-    };
-    auto mul = [&](const std::vector<int>& a, const std::vector<int>& b) {
-        std::vector<int> p(2 * 89, 0);
-        for (int i = 0; i < 89; ++i)
-            if (a[i])
-                for (int j = 0; j < 89; ++j)
-                    p[i + j] ^= b[j];
-        for (int i = 2 * 89 - 1; i >= 89; --i)
-            if (p[i])
-                for (int t : terms)
-                    p[i - 89 + t] ^= 1;
-        p.resize(89);
-        return p;
-    };
-    uint64_t a = 0x123456789ABull, b = 0xFEDCBA987ull;
-    EXPECT_EQ(rem(a + b), mul(rem(a), rem(b)));
-    auto pow2 = [&](int e) { // x^(2^e) by squaring
-        std::vector<int> r = rem(2);
-        for (int k = 1; k < e; ++k)
-            r = mul(r, r);
-        return r;
-    };
-    // x^(2^89) = x for a primitive polynomial of degree 89.
-    std::vector<int> x1(89, 0);
-    x1[1] = 1;
-    EXPECT_EQ(pow2(89), x1);
-    EXPECT_EQ(pow2(40), rem(1ull << 40));
-}
-
-TEST(RngPolyRem, AllocationFailureIsReported) {
-    std::vector<int> terms = {0, 38, 89};
-    brenn::test::SweepAllocationFailures([&] {
-        std::vector<uint32_t> o(4);
-        int32_t status = __qesPolyRem(12345, 89, 3, terms.data(), 4, o.data());
-        if (status != 0) EXPECT_EQ(status, QES_STATUS_NO_MEMORY);
-        return status == 0;
     });
 }
 

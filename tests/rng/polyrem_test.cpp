@@ -1,9 +1,6 @@
 // The GF(2) remainder x^count mod P against a plain bit-by-bit computation, on random
 // divisors of many degrees (sparse, dense, with lower terms close to the degree or far
-// below it) and on the two generators' characteristic polynomials; and the time of
-// the remainder behind a jump of 2^40 for each generator.
-#include <chrono>
-#include <cstdio>
+// below it) and on the two generators' characteristic polynomials.
 #include <random>
 #include <vector>
 
@@ -11,6 +8,7 @@
 
 #include "brenn_rng.h"
 #include "rng/brng/mt_jump.h"
+#include "tests/support/support.h"
 
 namespace {
 
@@ -18,14 +16,9 @@ using namespace brenn::rng;
 
 using Bits = std::vector<uint8_t>;
 
-// a * b mod P with one byte a coefficient, reduced one bit at a time from the top by
-// flipping a bit at each term.
-Bits MulMod(const Bits& a, const Bits& b, int degree, const std::vector<int>& terms) {
-    Bits p(2 * degree, 0);
-    for (int i = 0; i < degree; ++i)
-        if (a[i])
-            for (int j = 0; j < degree; ++j)
-                p[i + j] ^= b[j];
+// A product of degree below 2 degree reduced mod P one bit at a time from the top, by
+// flipping a bit at each term; one byte a coefficient.
+Bits Reduce(Bits p, int degree, const std::vector<int>& terms) {
     for (int i = 2 * degree - 1; i >= degree; --i)
         if (p[i])
             for (int t : terms)
@@ -34,17 +27,21 @@ Bits MulMod(const Bits& a, const Bits& b, int degree, const std::vector<int>& te
     return p;
 }
 
-// Squaring alone, cheaper than MulMod for the large degrees.
+Bits MulMod(const Bits& a, const Bits& b, int degree, const std::vector<int>& terms) {
+    Bits p(2 * degree, 0);
+    for (int i = 0; i < degree; ++i)
+        if (a[i])
+            for (int j = 0; j < degree; ++j)
+                p[i + j] ^= b[j];
+    return Reduce(p, degree, terms);
+}
+
+// Squaring alone spreads the bits, far cheaper than MulMod for the large degrees.
 Bits SquareMod(const Bits& a, int degree, const std::vector<int>& terms) {
     Bits p(2 * degree, 0);
     for (int i = 0; i < degree; ++i)
         p[2 * i] = a[i];
-    for (int i = 2 * degree - 1; i >= degree; --i)
-        if (p[i])
-            for (int t : terms)
-                p[i - degree + t] ^= 1;
-    p.resize(degree);
-    return p;
+    return Reduce(p, degree, terms);
 }
 
 Bits PlainRem(uint64_t count, int degree, const std::vector<int>& terms) {
@@ -108,9 +105,12 @@ TEST(RngPolyRemWords, RandomDivisorsOfManyDegrees) {
                 if (gap > degree) continue;
                 std::vector<int> terms = RandomDivisor(rng, degree, density, gap);
                 std::uniform_int_distribution<uint64_t> any;
+                // Counts below the degree are a single bit; from the degree on they
+                // need reducing.
                 for (uint64_t count :
-                     {uint64_t(degree), uint64_t(2 * degree - 1), uint64_t(2 * degree),
-                      uint64_t(1) << 40, any(rng), ~uint64_t{0}})
+                     {uint64_t{0}, uint64_t{1}, uint64_t(degree - 1), uint64_t(degree),
+                      uint64_t(2 * degree - 1), uint64_t(2 * degree), uint64_t(1) << 40, any(rng),
+                      ~uint64_t{0}})
                     Check(count, terms);
             }
         }
@@ -153,24 +153,14 @@ TEST(RngPolyRemWords, ProductsOfLongCounts) {
     EXPECT_EQ(rem(a + b), MulMod(rem(a), rem(b), degree, mt));
 }
 
-TEST(RngPolyRemWords, TimeOfJumpRemainders) {
-    struct Case {
-        const char* name;
-        int degree, termCount;
-        const int32_t* terms;
-        uint64_t count;
-    } cases[] = {
-        {"MT19937", kMt19937Degree, kMt19937TermCount, kMt19937Terms, (uint64_t{1} << 40) - 624},
-        {"SFMT19937", kSfmt19937Degree, kSfmt19937TermCount, kSfmt19937Terms,
-         (uint64_t{1} << 38) - 156}};
-    for (const Case& c : cases) {
-        std::vector<uint32_t> out(624);
-        auto t0 = std::chrono::steady_clock::now();
-        ASSERT_EQ(__qesPolyRem(c.count, c.degree, c.termCount, c.terms, 624, out.data()), 0);
-        double ms = std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - t0)
-                        .count();
-        std::printf("%s remainder for a jump of 2^40 words: %.2f ms\n", c.name, ms);
-    }
+TEST(RngPolyRemWords, AllocationFailureIsReported) {
+    std::vector<int> terms = {0, 38, 89};
+    brenn::test::SweepAllocationFailures([&] {
+        std::vector<uint32_t> o(4);
+        int32_t status = __qesPolyRem(12345, 89, 3, terms.data(), 4, o.data());
+        if (status != 0) EXPECT_EQ(status, QES_STATUS_NO_MEMORY);
+        return status == 0;
+    });
 }
 
 } // namespace
