@@ -12,10 +12,13 @@
 #include "brenn_vecmath.h"
 #include "frame/fpenv.h"
 #include "rng/dist/frame.h"
+#include "tests/rng/toy_brng.h"
 
 namespace {
 
 using namespace brenn::rng;
+using brenn::test::NewStepStream;
+using brenn::test::StepBrngId;
 
 void* NewStream(int32_t brng, uint32_t seed) {
     void* s = nullptr;
@@ -27,45 +30,6 @@ void* Copy(void* s) {
     void* c = nullptr;
     EXPECT_EQ(__qesCopyStream(&c, s), 0);
     return c;
-}
-
-// ---- A generator that fails after a number of words ---------------------------
-
-struct Failing {
-    uint32_t served, limit;
-};
-Failing* FailState(void* s) {
-    return reinterpret_cast<Failing*>(static_cast<char*>(s) + 16);
-}
-int32_t FailInit(int32_t, void* s, int32_t n, const void* p) {
-    FailState(s)->served = 0;
-    FailState(s)->limit = n > 0 ? *static_cast<const uint32_t*>(p) : 0;
-    return 0;
-}
-template <typename T>
-int32_t Serve(void* s, int32_t n, T* r, T a, T b) {
-    Failing* f = FailState(s);
-    if (f->served + n > f->limit) return QES_RNG_STATUS_RDRAND_FAILED;
-    for (int32_t i = 0; i < n; ++i)
-        r[i] = a + (b - a) * static_cast<T>((f->served++ % 7) / 7.0);
-    return 0;
-}
-int32_t FailS(void* s, int32_t n, float* r, float a, float b) {
-    return Serve(s, n, r, a, b);
-}
-int32_t FailD(void* s, int32_t n, double* r, double a, double b) {
-    return Serve(s, n, r, a, b);
-}
-int32_t FailI(void* s, int32_t n, void* r) {
-    return Serve(s, n, static_cast<uint32_t*>(r), 0u, 7u);
-}
-
-int32_t FailingId() {
-    static int32_t id = [] {
-        BrngRecord r{24, 1, 1, 4, 32, FailInit, FailS, FailD, FailI};
-        return __qesRegisterBrng(&r);
-    }();
-    return id;
 }
 
 // ---- Caller settings --------------------------------------------------------------
@@ -144,9 +108,7 @@ TEST(RngDistFrame, BracketRestoresAnEmptyField) {
 
 TEST(RngDistFrame, EveryEntryLeavesTheCallerAsItWas) {
     void* ok = NewStream(QES_BRNG_MCG31M1, 5);
-    uint32_t limit = 1500;
-    void* failing = nullptr;
-    ASSERT_EQ(__qesNewStreamEx(&failing, FailingId(), 1, &limit), 0);
+    void* failing = NewStepStream(1500);
     std::vector<double> d(3000);
     std::vector<float> f(3000);
     std::vector<int32_t> i(3000);
@@ -294,9 +256,7 @@ TEST(RngUniform, IntegersAreFloorsOfDoubleUniforms) {
 
 // A generator failure stops the work: earlier blocks stay written.
 TEST(RngUniform, FailureKeepsEarlierBlocks) {
-    uint32_t limit = 1500;
-    void* s = nullptr;
-    ASSERT_EQ(__qesNewStreamEx(&s, FailingId(), 1, &limit), 0);
+    void* s = NewStepStream(1500);
     std::vector<int32_t> r(3000, -99);
     EXPECT_EQ(_qesiRngUniform(0, s, 3000, r.data(), 0, 7), QES_RNG_STATUS_RDRAND_FAILED);
     for (int k = 0; k < 1024; ++k)
@@ -342,7 +302,7 @@ TEST(RngBits, FamiliesGiveTheirBitFormsOrRefuse) {
         EXPECT_EQ(_qesiRngUniformBits32(0, l, 1, &word), 0);
         __qesDeleteStream(&l);
     }
-    for (int32_t id : {int32_t{QES_BRNG_MCG31M1}, int32_t{0}, FailingId()}) {
+    for (int32_t id : {int32_t{QES_BRNG_MCG31M1}, int32_t{0}, StepBrngId()}) {
         uint32_t limit = 10;
         void* r = nullptr;
         ASSERT_EQ(__qesNewStreamEx(&r, id, 1, &limit), 0);

@@ -11,48 +11,15 @@
 #include "brenn_vecmath.h"
 #include "frame/dispatch.h"
 #include "frame/fpenv.h"
+#include "tests/rng/toy_brng.h"
 
 namespace {
+
+using brenn::test::NewStepStream;
 
 void* NewMt(uint32_t seed) {
     void* s = nullptr;
     EXPECT_EQ(__qesNewStreamEx(&s, QES_BRNG_MT19937, 1, &seed), 0);
-    return s;
-}
-
-// A generator whose uniforms step through k / 7, so that 0 comes every seventh
-// word, and which fails once `limit` words have been served.
-struct Steps {
-    uint32_t served, limit;
-};
-Steps* StepState(void* s) {
-    return reinterpret_cast<Steps*>(static_cast<char*>(s) + 16);
-}
-int32_t StepInit(int32_t, void* s, int32_t n, const void* p) {
-    StepState(s)->served = 0;
-    StepState(s)->limit = n > 0 ? *static_cast<const uint32_t*>(p) : 0;
-    return 0;
-}
-int32_t StepS(void* s, int32_t n, float* r, float a, float b) {
-    Steps* st = StepState(s);
-    if (st->served + n > st->limit) return QES_RNG_STATUS_RDRAND_FAILED;
-    for (int32_t i = 0; i < n; ++i)
-        r[i] = a + (b - a) * static_cast<float>((st->served++ % 7) / 7.0);
-    return 0;
-}
-int32_t StepD(void*, int32_t, double*, double, double) {
-    return QES_STATUS_BAD_METHOD;
-}
-int32_t StepI(void*, int32_t, void*) {
-    return QES_STATUS_BAD_METHOD;
-}
-void* NewSteps(uint32_t limit) {
-    static int32_t id = [] {
-        BrngRecord r{24, 1, 1, 4, 32, StepInit, StepS, StepD, StepI};
-        return __qesRegisterBrng(&r);
-    }();
-    void* s = nullptr;
-    EXPECT_EQ(__qesNewStreamEx(&s, id, 1, &limit), 0);
     return s;
 }
 
@@ -88,7 +55,7 @@ TEST(RngGeometric, EachVariateIsTheFloorOfOneScaledLogarithm) {
 }
 
 TEST(RngGeometric, ZeroUniformMeetsTheSentinel) {
-    void* s = NewSteps(100);
+    void* s = NewStepStream(100);
     std::vector<int32_t> r(14);
     ASSERT_EQ(_qesiRngGeometric(0, s, 14, r.data(), 0.5), 0);
     float c = static_cast<float>(1.0 / std::log(0.5));
@@ -138,7 +105,7 @@ TEST(RngGeometric, CallerSettingsComeBack) {
     uint32_t csr = brenn::frame::ReadCsr();
     std::vector<int32_t> r(3000, -7);
     for (uint32_t limit : {100000u, 1500u}) {
-        void* s = NewSteps(limit);
+        void* s = NewStepStream(limit);
         int32_t status = _qesiRngGeometric(0, s, 3000, r.data(), 0.25);
         EXPECT_EQ(status, limit == 1500u ? QES_RNG_STATUS_RDRAND_FAILED : 0);
         EXPECT_EQ(brenn_zar_kernel_GetMode(), mode);

@@ -1,6 +1,7 @@
 // The congruential generators against a plain recurrence written here: integer,
 // double and single outputs for ordinary and edge seeds, any cut of a request into
 // calls, and leapfrog and skip-ahead against generating and discarding.
+#include <algorithm>
 #include <cstring>
 #include <vector>
 
@@ -14,18 +15,18 @@ constexpr uint64_t kM31 = 2147483647;
 constexpr uint64_t kA31 = 1132489760;
 constexpr uint64_t kMask59 = (uint64_t{1} << 59) - 1;
 constexpr uint64_t kA59 = 302875106592253ull;
+// The MCG31M1 scale is the double nearest 1 / (2^31 - 1), written as the library has it.
+constexpr double kScale31 = 4.656612875245797e-10;
+static_assert(kScale31 == 1.0 / 2147483647.0);
 
-// Reference sequences: element i of a fresh stream, straight from the recurrence.
-std::vector<uint64_t> Ref31(uint64_t x, int n, uint64_t a = kA31) {
-    std::vector<uint64_t> v(n);
-    for (int i = 0; i < n; ++i, x = x * a % kM31)
-        v[i] = x;
-    return v;
+bool Is59(int32_t brng) {
+    return brng == QES_BRNG_MCG59 || brng == 3;
 }
 
-std::vector<uint64_t> Ref59(uint64_t x, int n, uint64_t a = kA59) {
+// Element i of a fresh stream, straight from the recurrence.
+std::vector<uint64_t> Ref(bool is59, uint64_t x, int n) {
     std::vector<uint64_t> v(n);
-    for (int i = 0; i < n; ++i, x = x * a & kMask59)
+    for (int i = 0; i < n; ++i, x = is59 ? x * kA59 & kMask59 : x * kA31 % kM31)
         v[i] = x;
     return v;
 }
@@ -36,24 +37,39 @@ void* NewStream(int32_t brng, std::vector<uint32_t> seed) {
     return s;
 }
 
-uint64_t First(int32_t brng, std::vector<uint32_t> seed) {
-    void* s = NewStream(brng, seed);
-    uint64_t w[2] = {0, 0};
-    _qesiRngUniformBits(0, s, 1, w);
-    __qesDeleteStream(&s);
-    return brng == QES_BRNG_MCG59 ? w[0] : static_cast<uint32_t>(w[0]);
+// The next n raw words, widened to 64 bits.
+std::vector<uint64_t> Words(void* s, int n, bool is59) {
+    std::vector<uint64_t> out(n);
+    if (is59) {
+        EXPECT_EQ(_qesiRngUniformBits(0, s, n, out.data()), 0);
+    } else {
+        std::vector<uint32_t> w(n);
+        EXPECT_EQ(_qesiRngUniformBits(0, s, n, w.data()), 0);
+        std::copy(w.begin(), w.end(), out.begin());
+    }
+    return out;
 }
 
 TEST(RngMcgSeeding, EdgeSeedsFoldToOne) {
-    EXPECT_EQ(First(QES_BRNG_MCG31M1, {0}), 1u);
-    EXPECT_EQ(First(QES_BRNG_MCG31M1, {0x7FFFFFFF}), 1u);
-    EXPECT_EQ(First(QES_BRNG_MCG31M1, {0x80000000u}), 1u);
-    EXPECT_EQ(First(QES_BRNG_MCG31M1, {0xFFFFFFFFu}), 0xFFFFFFFFu % kM31);
-    EXPECT_EQ(First(QES_BRNG_MCG31M1, {}), 1u);
-    EXPECT_EQ(First(QES_BRNG_MCG59, {0, 0x8000000}), 1u);
-    EXPECT_EQ(First(QES_BRNG_MCG59, {0}), 1u);
-    EXPECT_EQ(First(QES_BRNG_MCG59, {}), 1u);
-    EXPECT_EQ(First(QES_BRNG_MCG59, {5, 0xFFFFFFFFu, 7}), 5 + (uint64_t{0x7FFFFFF} << 32));
+    struct {
+        int32_t brng;
+        std::vector<uint32_t> seed;
+        uint64_t first;
+    } cases[] = {{QES_BRNG_MCG31M1, {0}, 1},
+                 {QES_BRNG_MCG31M1, {0x7FFFFFFF}, 1},
+                 {QES_BRNG_MCG31M1, {0x80000000u}, 1},
+                 {QES_BRNG_MCG31M1, {0xFFFFFFFFu}, 0xFFFFFFFFu % kM31},
+                 {QES_BRNG_MCG31M1, {}, 1},
+                 {QES_BRNG_MCG59, {0, 0x8000000}, 1},
+                 {QES_BRNG_MCG59, {0}, 1},
+                 {QES_BRNG_MCG59, {}, 1},
+                 {QES_BRNG_MCG59, {5, 0xFFFFFFFFu, 7}, 5 + (uint64_t{0x7FFFFFF} << 32)}};
+    for (const auto& c : cases) {
+        void* s = NewStream(c.brng, c.seed);
+        EXPECT_EQ(Words(s, 1, Is59(c.brng))[0], c.first) << c.brng << " " << c.seed.size();
+        __qesDeleteStream(&s);
+    }
+    // MCG59 keeps the multiplier beside the state word.
     void* s = NewStream(QES_BRNG_MCG59, {0});
     uint64_t state[2];
     std::memcpy(state, static_cast<char*>(s) + 16, 16);
@@ -79,17 +95,9 @@ std::vector<Case> Cases() {
             {3, {42}, 42}};
 }
 
-bool Is59(int32_t brng) {
-    return brng == QES_BRNG_MCG59 || brng == 3;
-}
-
-std::vector<uint64_t> Ref(const Case& c, int n) {
-    return Is59(c.brng) ? Ref59(c.x0, n) : Ref31(c.x0, n);
-}
-
 // Expected real outputs, by the element formulas of each generator.
 double RefDouble(bool is59, uint64_t x, double a, double b) {
-    if (!is59) return static_cast<double>(x) * ((b - a) * 4.656612875245797e-10) + a;
+    if (!is59) return static_cast<double>(x) * ((b - a) * kScale31) + a;
     double s = (b - a) * 0x1p-59;
     return static_cast<double>(x & 0xFFFFFFFF) * s +
            static_cast<double>(x & ~uint64_t{0xFFFFFFFF}) * s + a;
@@ -97,8 +105,7 @@ double RefDouble(bool is59, uint64_t x, double a, double b) {
 
 float RefFloat(bool is59, uint64_t x, float a, float b) {
     double span = static_cast<double>(b) - static_cast<double>(a);
-    if (!is59)
-        return static_cast<float>(static_cast<double>(x) * (span * 4.656612875245797e-10) + a);
+    if (!is59) return static_cast<float>(static_cast<double>(x) * (span * kScale31) + a);
     double v = static_cast<double>(x & 0xFFFFFFFF) + static_cast<double>(x & ~uint64_t{0xFFFFFFFF});
     return static_cast<float>(v * (span * 0x1p-59) + static_cast<double>(a));
 }
@@ -107,21 +114,17 @@ TEST(RngMcgOutput, ThreeFormsEqualTheRecurrence) {
     const int n = 1000;
     for (const Case& c : Cases()) {
         bool is59 = Is59(c.brng);
-        auto ref = Ref(c, n + 1);
+        auto ref = Ref(is59, c.x0, n + 1);
         void* s = NewStream(c.brng, c.seed);
         void* t = NewStream(c.brng, c.seed);
         void* u = NewStream(c.brng, c.seed);
-        std::vector<uint64_t> w(n);
-        std::vector<uint32_t> w32(n);
-        ASSERT_EQ(_qesiRngUniformBits(0, s, n, is59 ? static_cast<void*>(w.data()) : w32.data()),
-                  0);
+        auto w = Words(s, n, is59);
         std::vector<double> d(n);
         std::vector<float> f(n);
         ASSERT_EQ(_qesdRngUniform(0, t, n, d.data(), -3.0, 5.5), 0);
         ASSERT_EQ(_qessRngUniform(0, u, n, f.data(), 2.0f, 2.5f), 0);
         for (int i = 0; i < n; ++i) {
-            uint64_t got = is59 ? w[i] : w32[i];
-            ASSERT_EQ(got, ref[i]) << c.brng << " element " << i;
+            ASSERT_EQ(w[i], ref[i]) << c.brng << " element " << i;
             ASSERT_EQ(d[i], RefDouble(is59, ref[i], -3.0, 5.5)) << c.brng << " element " << i;
             ASSERT_EQ(f[i], RefFloat(is59, ref[i], 2.0f, 2.5f)) << c.brng << " element " << i;
         }
@@ -135,15 +138,13 @@ TEST(RngMcgOutput, ThreeFormsEqualTheRecurrence) {
     }
 }
 
+// The largest residue of MCG31M1 maps just below 1.
 TEST(RngMcgOutput, UnitIntervalStaysBelowOne) {
-    // The largest residue of MCG31M1 maps just below 1, and the smallest above 0.
     void* s = NewStream(QES_BRNG_MCG31M1, {0x7FFFFFFE});
     double d;
     _qesdRngUniform(0, s, 1, &d, 0.0, 1.0);
     EXPECT_LT(d, 1.0);
-    EXPECT_EQ(d, 2147483646.0 * 4.656612875245797e-10);
     __qesDeleteStream(&s);
-    EXPECT_EQ(4.656612875245797e-10, 1.0 / 2147483647.0);
 }
 
 // A request cut into calls at every pair of points in the first 40 elements gives
@@ -151,7 +152,7 @@ TEST(RngMcgOutput, UnitIntervalStaysBelowOne) {
 TEST(RngMcgOutput, AnyCutGivesTheSameSequence) {
     for (int32_t brng : {QES_BRNG_MCG31M1, QES_BRNG_MCG59}) {
         bool is59 = Is59(brng);
-        auto ref = is59 ? Ref59(777, 40) : Ref31(777, 40);
+        auto ref = Ref(is59, 777, 40);
         for (int cut1 = 1; cut1 < 40; ++cut1) {
             for (int cut2 = cut1; cut2 < 40; ++cut2) {
                 void* s = NewStream(brng, {777});
@@ -175,23 +176,10 @@ TEST(RngMcgOutput, AnyCutGivesTheSameSequence) {
     }
 }
 
-std::vector<uint64_t> Words(void* s, int n, bool is59) {
-    std::vector<uint64_t> out(n);
-    if (is59) {
-        _qesiRngUniformBits(0, s, n, out.data());
-    } else {
-        std::vector<uint32_t> w(n);
-        _qesiRngUniformBits(0, s, n, w.data());
-        for (int i = 0; i < n; ++i)
-            out[i] = w[i];
-    }
-    return out;
-}
-
 TEST(RngMcgJumps, LeapfrogAndSkipEqualGenerateAndDiscard) {
     for (int32_t brng : {QES_BRNG_MCG31M1, QES_BRNG_MCG59}) {
         bool is59 = Is59(brng);
-        auto ref = is59 ? Ref59(99, 2000) : Ref31(99, 2000);
+        auto ref = Ref(is59, 99, 2000);
         // Element 1, 4, 7, ... for k = 1 of 3 streams; a skip by 2 then counts the
         // stream's own elements.
         void* s = NewStream(brng, {99});

@@ -35,18 +35,10 @@ struct RefSfmt {
         w[0] = r;
         count--;
         size_t i = 1, j = 0;
-        for (; j < count && j < key.size(); j++) {
+        for (; j < count; j++) { // the key words, then the index alone
             r = f1(w[i] ^ w[(i + mid) % size] ^ w[(i + size - 1) % size]);
             w[(i + mid) % size] += r;
-            r += key[j] + static_cast<uint32_t>(i);
-            w[(i + mid + lag) % size] += r;
-            w[i] = r;
-            i = (i + 1) % size;
-        }
-        for (; j < count; j++) {
-            r = f1(w[i] ^ w[(i + mid) % size] ^ w[(i + size - 1) % size]);
-            w[(i + mid) % size] += r;
-            r += static_cast<uint32_t>(i);
+            r += (j < key.size() ? key[j] : 0) + static_cast<uint32_t>(i);
             w[(i + mid + lag) % size] += r;
             w[i] = r;
             i = (i + 1) % size;

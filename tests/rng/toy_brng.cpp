@@ -1,4 +1,4 @@
-// The toy generator of the stream-core tests: a counter with a fixed extra word.
+// The generators registered by tests: the toy counter and the stepping generator.
 #include "tests/rng/toy_brng.h"
 
 #include <gtest/gtest.h>
@@ -32,6 +32,35 @@ int32_t ToyD(void* stream, int32_t n, double* r, double a, double b) {
     return QES_STATUS_OK;
 }
 
+struct Steps {
+    uint32_t served, limit;
+};
+Steps* StepState(void* s) {
+    return reinterpret_cast<Steps*>(static_cast<char*>(s) + 16);
+}
+int32_t StepInit(int32_t, void* s, int32_t n, const void* p) {
+    StepState(s)->served = 0;
+    StepState(s)->limit = n > 0 ? *static_cast<const uint32_t*>(p) : 0;
+    return 0;
+}
+template <typename T, typename U>
+int32_t Serve(void* s, int32_t n, T* r, U word) {
+    Steps* st = StepState(s);
+    if (st->served + n > st->limit) return QES_RNG_STATUS_RDRAND_FAILED;
+    for (int32_t i = 0; i < n; ++i)
+        r[i] = word(st->served++ % 7);
+    return 0;
+}
+int32_t StepS(void* s, int32_t n, float* r, float a, float b) {
+    return Serve(s, n, r, [&](uint32_t k) { return a + (b - a) * static_cast<float>(k / 7.0); });
+}
+int32_t StepD(void* s, int32_t n, double* r, double a, double b) {
+    return Serve(s, n, r, [&](uint32_t k) { return a + (b - a) * (k / 7.0); });
+}
+int32_t StepI(void* s, int32_t n, void* r) {
+    return Serve(s, n, static_cast<uint32_t*>(r), [](uint32_t k) { return k; });
+}
+
 } // namespace
 
 int32_t ToyBrngId() {
@@ -45,6 +74,20 @@ int32_t ToyBrngId() {
 void* NewToyStream(uint32_t seed) {
     void* s = nullptr;
     EXPECT_EQ(__qesNewStreamEx(&s, ToyBrngId(), 1, &seed), 0);
+    return s;
+}
+
+int32_t StepBrngId() {
+    static int32_t id = [] {
+        BrngRecord r{24, 1, 1, 4, 32, StepInit, StepS, StepD, StepI};
+        return __qesRegisterBrng(&r);
+    }();
+    return id;
+}
+
+void* NewStepStream(uint32_t limit) {
+    void* s = nullptr;
+    EXPECT_EQ(__qesNewStreamEx(&s, StepBrngId(), 1, &limit), 0);
     return s;
 }
 

@@ -1,5 +1,6 @@
-// A small generator registered at run time for tests of the stream core: its state
-// is one counter word and a second word that the seed does not reach.
+// Small generators registered at run time for tests: the toy of the stream-core tests,
+// whose state is one counter word and a second word that the seed does not reach; and
+// a stepping generator that fails on demand, for the distribution tests.
 #ifndef BRENN_TESTS_RNG_TOY_BRNG_H
 #define BRENN_TESTS_RNG_TOY_BRNG_H
 
@@ -19,6 +20,12 @@ void* NewToyStream(uint32_t seed);
 inline uint32_t* ToyState(void* stream) {
     return reinterpret_cast<uint32_t*>(static_cast<char*>(stream) + 16);
 }
+
+// The stepping generator: its uniforms run through k / 7 for k = 0, 1, 2, ... (so an
+// exact 0 comes every seventh word), its integer words are k mod 7, and a request that
+// would pass `limit` words in all fails with QES_RNG_STATUS_RDRAND_FAILED.
+int32_t StepBrngId();
+void* NewStepStream(uint32_t limit);
 
 } // namespace brenn::test
 
