@@ -1,4 +1,5 @@
-// Checks shared by the tests of the 32-bit-word generators: a plain twisted GFSR
+// Checks shared by the random-number tests: the allocation-failure sweep of a call
+// that returns a status; and for the 32-bit-word generators a plain twisted GFSR
 // reference with array seeding, requests cut into pieces against one long request,
 // skip-ahead against generating and discarding, jumps that commute and compose, and
 // the real forms word by word.
@@ -6,16 +7,28 @@
 #define BRENN_TESTS_RNG_BRNG_HARNESS_H
 
 #include <algorithm>
+#include <functional>
 #include <random>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include "brenn_rng.h"
+#include "tests/support/support.h"
 
 namespace brenn::test {
 
 using Words32 = std::vector<uint32_t>;
+
+// Sweeps the allocation failures of attempt, which returns the status of the call
+// under test (after its own checks): any failure must be QES_STATUS_NO_MEMORY.
+inline void SweepNoMemory(const std::function<int32_t()>& attempt) {
+    SweepAllocationFailures([&] {
+        int32_t status = attempt();
+        if (status != 0) EXPECT_EQ(status, QES_STATUS_NO_MEMORY);
+        return status == 0;
+    });
+}
 
 // The first n outputs of a reference generator with a Next().
 template <typename Ref>

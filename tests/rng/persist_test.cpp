@@ -13,6 +13,7 @@
 
 #include "brenn_rng.h"
 #include "platform/serv.h"
+#include "tests/rng/brng_harness.h"
 #include "tests/support/support.h"
 
 namespace {
@@ -78,6 +79,16 @@ void WriteFile(const std::string& path, const std::vector<uint8_t>& bytes) {
     ASSERT_NE(f, nullptr);
     if (!bytes.empty()) std::fwrite(bytes.data(), bytes.size(), 1, f);
     std::fclose(f);
+}
+
+// A load from memory that fails with `status`, clears the caller's pointer and leaves
+// nothing allocated.
+void ExpectLoadRefused(const std::vector<uint8_t>& image, int32_t status) {
+    int64_t live = brenn_serv_live_allocations();
+    void* m = reinterpret_cast<void*>(1);
+    EXPECT_EQ(__qesLoadStreamM(&m, image.data()), status);
+    EXPECT_EQ(m, nullptr);
+    EXPECT_EQ(brenn_serv_live_allocations(), live);
 }
 
 uint32_t Le32(const std::vector<uint8_t>& v, size_t at) {
@@ -218,11 +229,7 @@ TEST(RngPersist, OlderHeaderForm) {
     auto r0 = OldImage(0, true, s, state, {});
     ASSERT_EQ(__qesLoadStreamM(&m, r0.data()), 0);
     __qesDeleteStream(&m);
-    int64_t live = brenn_serv_live_allocations();
-    auto r1 = OldImage(0, true, s, state, chunk);
-    EXPECT_EQ(__qesLoadStreamM(&m, r1.data()), QES_RNG_STATUS_FILE_READ);
-    EXPECT_EQ(m, nullptr);
-    EXPECT_EQ(brenn_serv_live_allocations(), live);
+    ExpectLoadRefused(OldImage(0, true, s, state, chunk), QES_RNG_STATUS_FILE_READ);
     __qesDeleteStream(&s);
 }
 
@@ -238,12 +245,8 @@ TEST(RngPersist, MalformedImages) {
         void* f = reinterpret_cast<void*>(1);
         EXPECT_EQ(__qesLoadStreamF(&f, path.c_str(), -1), fileStatus);
         EXPECT_EQ(f, nullptr);
-        if (memoryStatus != 0) {
-            bytes.resize(bytes.size() + 256, 0); // the block is as long as it claims
-            void* m = reinterpret_cast<void*>(1);
-            EXPECT_EQ(__qesLoadStreamM(&m, bytes.data()), memoryStatus);
-            EXPECT_EQ(m, nullptr);
-        }
+        bytes.resize(bytes.size() + 256, 0); // the block is as long as it claims
+        if (memoryStatus != 0) ExpectLoadRefused(bytes, memoryStatus);
         EXPECT_EQ(brenn_serv_live_allocations(), live);
     };
     both({2, 0, 0}, QES_RNG_STATUS_FILE_READ, 0); // a file of 3 bytes
@@ -306,11 +309,9 @@ TEST(RngPersist, OneGuidWithTwoSizesIsRefused) {
         image.insert(image.end(), cell, cell + 24);
         image.insert(image.end(), size, 0x33);
     }
+    ExpectLoadRefused(image, QES_RNG_STATUS_BAD_IMAGE_FORMAT);
     int64_t live = brenn_serv_live_allocations();
-    void* m = reinterpret_cast<void*>(1);
-    EXPECT_EQ(__qesLoadStreamM(&m, image.data()), QES_RNG_STATUS_BAD_IMAGE_FORMAT);
-    EXPECT_EQ(m, nullptr);
-    EXPECT_EQ(brenn_serv_live_allocations(), live);
+    void* m = nullptr;
     // With equal sizes the second cell joins the first one's table row.
     image[24 + 8 + 25 + 20] = 1; // the second size, after the first cell of 25 bytes
     image.erase(image.end() - 8, image.end());
@@ -352,11 +353,8 @@ TEST(RngPersist, AllocationFailuresLeaveNothing) {
     auto image = SaveM(s);
     std::string path = TempPath("oom");
     std::string counted = path + "zz";
-    brenn::test::SweepAllocationFailures([&] {
-        int32_t status = __qesSaveStreamF(s, counted.c_str(), static_cast<int32_t>(path.size()));
-        if (status != 0) EXPECT_EQ(status, QES_STATUS_NO_MEMORY);
-        return status == 0;
-    });
+    brenn::test::SweepNoMemory(
+        [&] { return __qesSaveStreamF(s, counted.c_str(), static_cast<int32_t>(path.size())); });
     EXPECT_EQ(ReadFile(path), image);
     auto load = [&](bool file) {
         void* t = reinterpret_cast<void*>(1);
@@ -364,16 +362,14 @@ TEST(RngPersist, AllocationFailuresLeaveNothing) {
             file ? __qesLoadStreamF(&t, counted.c_str(), static_cast<int32_t>(path.size()))
                  : __qesLoadStreamM(&t, image.data());
         if (status != 0) {
-            EXPECT_EQ(status, QES_STATUS_NO_MEMORY);
             EXPECT_EQ(t, nullptr);
-            return false;
+            return status;
         }
         EXPECT_EQ(__qesGetNumChunks(t), 2);
-        __qesDeleteStream(&t);
-        return true;
+        return __qesDeleteStream(&t);
     };
-    brenn::test::SweepAllocationFailures([&] { return load(false); });
-    brenn::test::SweepAllocationFailures([&] { return load(true); });
+    brenn::test::SweepNoMemory([&] { return load(false); });
+    brenn::test::SweepNoMemory([&] { return load(true); });
     __qesDeleteStream(&s);
     std::remove(path.c_str());
 }
