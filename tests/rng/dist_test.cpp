@@ -17,20 +17,7 @@
 namespace {
 
 using namespace brenn::rng;
-using brenn::test::NewStepStream;
-using brenn::test::StepBrngId;
-
-void* NewStream(int32_t brng, uint32_t seed) {
-    void* s = nullptr;
-    EXPECT_EQ(__qesNewStreamEx(&s, brng, 1, &seed), 0);
-    return s;
-}
-
-void* Copy(void* s) {
-    void* c = nullptr;
-    EXPECT_EQ(__qesCopyStream(&c, s), 0);
-    return c;
-}
+using namespace brenn::test;
 
 // ---- Caller settings --------------------------------------------------------------
 
@@ -107,7 +94,7 @@ TEST(RngDistFrame, BracketRestoresAnEmptyField) {
 }
 
 TEST(RngDistFrame, EveryEntryLeavesTheCallerAsItWas) {
-    void* ok = NewStream(QES_BRNG_MCG31M1, 5);
+    void* ok = NewSeeded(QES_BRNG_MCG31M1, 5);
     void* failing = NewStepStream(1500);
     std::vector<double> d(3000);
     std::vector<float> f(3000);
@@ -208,8 +195,8 @@ TEST(RngUniform, AccurateModeKeepsResultsOnTheInterval) {
     // The largest MCG31M1 word on a narrow interval far from 0 rounds to b itself,
     // which the clamp keeps; on an interval whose width overflows, every raw result
     // leaves the interval and the clamp brings it back.
-    void* s0 = NewStream(QES_BRNG_MCG31M1, 0x7FFFFFFE);
-    void* c0 = Copy(s0);
+    void* s0 = NewSeeded(QES_BRNG_MCG31M1, 0x7FFFFFFE);
+    void* c0 = CopyOf(s0);
     double raw, clamped;
     _qesdRngUniform(0, s0, 1, &raw, 1e10, 1e10 + 1);
     _qesdRngUniform(QES_RNG_METHOD_UNIFORM_ACCURATE, c0, 1, &clamped, 1e10, 1e10 + 1);
@@ -224,7 +211,7 @@ TEST(RngUniform, AccurateModeKeepsResultsOnTheInterval) {
     }
     __qesDeleteStream(&s0);
     __qesDeleteStream(&c0);
-    void* s = NewStream(QES_BRNG_MCG59, 3);
+    void* s = NewSeeded(QES_BRNG_MCG59, 3);
     std::vector<float> f(5000);
     _qessRngUniform(QES_RNG_METHOD_UNIFORM_ACCURATE, s, 5000, f.data(), 1.0f, 1.0000002f);
     for (float v : f)
@@ -233,8 +220,8 @@ TEST(RngUniform, AccurateModeKeepsResultsOnTheInterval) {
 }
 
 TEST(RngUniform, IntegersAreFloorsOfDoubleUniforms) {
-    void* s = NewStream(QES_BRNG_MCG59, 11);
-    void* c = Copy(s);
+    void* s = NewSeeded(QES_BRNG_MCG59, 11);
+    void* c = CopyOf(s);
     std::vector<int32_t> r(2500);
     std::vector<double> d(2500);
     ASSERT_EQ(_qesiRngUniform(0, s, 2500, r.data(), -1000, 1000), 0);
@@ -271,8 +258,8 @@ TEST(RngUniform, FailureKeepsEarlierBlocks) {
 // ---- Raw bits -------------------------------------------------------------------
 
 TEST(RngBits, FamiliesGiveTheirBitFormsOrRefuse) {
-    void* s = NewStream(QES_BRNG_MCG59, 123);
-    void* c = Copy(s);
+    void* s = NewSeeded(QES_BRNG_MCG59, 123);
+    void* c = CopyOf(s);
     const int n = 4096 + 5; // two whole blocks and a rest
     std::vector<uint32_t> top(n);
     std::vector<uint64_t> words(2 * n);
@@ -296,37 +283,28 @@ TEST(RngBits, FamiliesGiveTheirBitFormsOrRefuse) {
 
     // The legacy id of MCG59 takes the same path; MCG31M1 (31 bits) refuses and
     // its stream stays where it was.
-    for (int32_t id : {3}) {
-        void* l = NewStream(id, 123);
-        uint32_t word;
-        EXPECT_EQ(_qesiRngUniformBits32(0, l, 1, &word), 0);
-        __qesDeleteStream(&l);
-    }
+    void* l = NewSeeded(3, 123);
+    uint32_t word;
+    EXPECT_EQ(_qesiRngUniformBits32(0, l, 1, &word), 0);
+    __qesDeleteStream(&l);
     for (int32_t id : {int32_t{QES_BRNG_MCG31M1}, int32_t{0}, StepBrngId()}) {
-        uint32_t limit = 10;
-        void* r = nullptr;
-        ASSERT_EQ(__qesNewStreamEx(&r, id, 1, &limit), 0);
-        void* rc = Copy(r);
+        void* r = NewSeeded(id, 10); // the stepping generator: 10 words
+        void* rc = CopyOf(r);
         uint32_t word = 0xAAAA;
         uint64_t wide = 0xBBBB;
         EXPECT_EQ(_qesiRngUniformBits32(0, r, 1, &word), QES_RNG_ERROR_BITS_NOT_SUPPORTED);
         EXPECT_EQ(_qesiRngUniformBits64(0, r, 1, &wide), QES_RNG_ERROR_BITS_NOT_SUPPORTED);
         EXPECT_EQ(word, 0xAAAAu);
         EXPECT_EQ(wide, 0xBBBBu);
-        uint32_t a, b;
-        _qesiRngUniformBits(0, r, 1, &a);
-        _qesiRngUniformBits(0, rc, 1, &b);
-        EXPECT_EQ(a, b);
-        __qesDeleteStream(&r);
-        __qesDeleteStream(&rc);
+        ExpectInStepAndDelete(r, rc);
     }
 }
 
 // ---- Bernoulli ------------------------------------------------------------------
 
 TEST(RngBernoulli, OneUniformPerVariateComparedWithP) {
-    void* s = NewStream(QES_BRNG_MCG31M1, 77);
-    void* c = Copy(s);
+    void* s = NewSeeded(QES_BRNG_MCG31M1, 77);
+    void* c = CopyOf(s);
     std::vector<int32_t> r(3000);
     std::vector<float> u(3000);
     ASSERT_EQ(_qesiRngBernoulli(0, s, 3000, r.data(), 0.3), 0);

@@ -15,13 +15,7 @@
 
 namespace {
 
-using brenn::test::NewStepStream;
-
-void* NewMt(uint32_t seed) {
-    void* s = nullptr;
-    EXPECT_EQ(__qesNewStreamEx(&s, QES_BRNG_MT19937, 1, &seed), 0);
-    return s;
-}
+using namespace brenn::test;
 
 // The expected count of one uniform, by the same slot and the same rounding.
 int32_t Expected(float u, double p) {
@@ -34,22 +28,15 @@ int32_t Expected(float u, double p) {
 TEST(RngGeometric, EachVariateIsTheFloorOfOneScaledLogarithm) {
     for (double p : {0.5, 0.1, 0.9, 1e-3}) {
         for (int32_t n : {1, 5, 1024, 1025, 3000}) {
-            void* s = NewMt(42);
-            void* t = nullptr;
-            ASSERT_EQ(__qesCopyStream(&t, s), 0);
+            void* s = NewSeeded(QES_BRNG_MT19937, 42);
+            void* t = CopyOf(s);
             std::vector<int32_t> r(n);
             ASSERT_EQ(_qesiRngGeometric(0, s, n, r.data(), p), 0);
             std::vector<float> u(n);
             ASSERT_EQ(_qessRngUniform(0, t, n, u.data(), 0.0f, 1.0f), 0);
             for (int32_t i = 0; i < n; ++i)
                 ASSERT_EQ(r[i], Expected(u[i], p)) << "p " << p << " i " << i;
-            // One uniform a variate: both streams stand at the same word.
-            uint32_t a, b;
-            _qesiRngUniformBits(0, s, 1, &a);
-            _qesiRngUniformBits(0, t, 1, &b);
-            EXPECT_EQ(a, b);
-            __qesDeleteStream(&s);
-            __qesDeleteStream(&t);
+            ExpectInStepAndDelete(s, t); // one uniform a variate
         }
     }
 }
@@ -71,7 +58,7 @@ TEST(RngGeometric, ZeroUniformMeetsTheSentinel) {
 TEST(RngGeometric, MeanAndProbabilities) {
     const double p = 0.3;
     const int32_t n = 1000000;
-    void* s = NewMt(7);
+    void* s = NewSeeded(QES_BRNG_MT19937, 7);
     std::vector<int32_t> r(n);
     ASSERT_EQ(_qesiRngGeometric(0, s, n, r.data(), p), 0);
     double mean = 0;
@@ -118,7 +105,7 @@ TEST(RngGeometric, CallerSettingsComeBack) {
     // The first block was complete before the failure and stays.
     EXPECT_EQ(r[1], Expected(1.0f / 7, 0.25));
     int32_t untouched = 5;
-    void* s = NewMt(1);
+    void* s = NewSeeded(QES_BRNG_MT19937, 1);
     EXPECT_EQ(_qesiRngGeometric(0, s, 0, &untouched, 0.5), 0);
     EXPECT_EQ(untouched, 5);
     __qesDeleteStream(&s);

@@ -61,34 +61,49 @@ int32_t StepI(void* s, int32_t n, void* r) {
     return Serve(s, n, static_cast<uint32_t*>(r), [](uint32_t k) { return k; });
 }
 
+int32_t Register(BrngRecord r) {
+    return __qesRegisterBrng(&r);
+}
+
 } // namespace
 
+void* NewSeeded(int32_t id, uint32_t seed) {
+    void* s = nullptr;
+    EXPECT_EQ(__qesNewStreamEx(&s, id, 1, &seed), 0);
+    return s;
+}
+
+void* CopyOf(void* stream) {
+    void* c = nullptr;
+    EXPECT_EQ(__qesCopyStream(&c, stream), 0);
+    return c;
+}
+
+void ExpectInStepAndDelete(void* a, void* b) {
+    uint64_t x = 0, y = 0; // wide enough for any word size
+    EXPECT_EQ(_qesiRngUniformBits(0, a, 1, &x), 0);
+    EXPECT_EQ(_qesiRngUniformBits(0, b, 1, &y), 0);
+    EXPECT_EQ(x, y);
+    __qesDeleteStream(&a);
+    __qesDeleteStream(&b);
+}
+
 int32_t ToyBrngId() {
-    static int32_t id = [] {
-        BrngRecord r{24, 1, 1, 4, 32, ToyInit, ToyS, ToyD, ToyI};
-        return __qesRegisterBrng(&r);
-    }();
+    static int32_t id = Register({24, 1, 1, 4, 32, ToyInit, ToyS, ToyD, ToyI});
     return id;
 }
 
 void* NewToyStream(uint32_t seed) {
-    void* s = nullptr;
-    EXPECT_EQ(__qesNewStreamEx(&s, ToyBrngId(), 1, &seed), 0);
-    return s;
+    return NewSeeded(ToyBrngId(), seed);
 }
 
 int32_t StepBrngId() {
-    static int32_t id = [] {
-        BrngRecord r{24, 1, 1, 4, 32, StepInit, StepS, StepD, StepI};
-        return __qesRegisterBrng(&r);
-    }();
+    static int32_t id = Register({24, 1, 1, 4, 32, StepInit, StepS, StepD, StepI});
     return id;
 }
 
 void* NewStepStream(uint32_t limit) {
-    void* s = nullptr;
-    EXPECT_EQ(__qesNewStreamEx(&s, StepBrngId(), 1, &limit), 0);
-    return s;
+    return NewSeeded(StepBrngId(), limit);
 }
 
 } // namespace brenn::test

@@ -1,6 +1,7 @@
 // Small generators registered at run time for tests: the toy of the stream-core tests,
-// whose state is one counter word and a second word that the seed does not reach; and
-// a stepping generator that fails on demand, for the distribution tests.
+// whose state is one counter word and a second word that the seed does not reach; a
+// stepping generator that fails on demand, for the distribution tests; and stream
+// helpers of those tests.
 #ifndef BRENN_TESTS_RNG_TOY_BRNG_H
 #define BRENN_TESTS_RNG_TOY_BRNG_H
 
@@ -9,6 +10,15 @@
 #include "brenn_rng.h"
 
 namespace brenn::test {
+
+// A stream of generator `id` seeded with the one word `seed`, and a copy of a stream;
+// both fail the test on error.
+void* NewSeeded(int32_t id, uint32_t seed);
+void* CopyOf(void* stream);
+
+// Expects a and b to give the same next raw word, so that both have used the same
+// number of words; then deletes both.
+void ExpectInStepAndDelete(void* a, void* b);
 
 // Registers the toy family once per process and returns its id.
 int32_t ToyBrngId();
