@@ -14,9 +14,12 @@
 #include "brenn_rng.h"
 #include "platform/serv.h"
 #include "tests/rng/brng_harness.h"
+#include "tests/rng/toy_brng.h"
 #include "tests/support/support.h"
 
 namespace {
+
+using namespace brenn::test;
 
 struct Gen {
     int32_t brng;
@@ -43,13 +46,6 @@ std::vector<uint8_t> Next(void* s, int32_t wordBytes, int n = 700) {
     std::vector<uint8_t> w(static_cast<size_t>(n) * wordBytes);
     EXPECT_EQ(_qesiRngUniformBits(0, s, n, w.data()), 0);
     return w;
-}
-
-void* AddPrivate(void* s, int32_t id, uint32_t size, uint8_t fill) {
-    void* data = brenn_serv_allocate(size, 128);
-    std::memset(data, fill, size);
-    EXPECT_EQ(__qesAddChunk(s, id, nullptr, data, size), 0);
-    return data;
 }
 
 std::vector<uint8_t> SaveM(void* s) {
@@ -123,8 +119,7 @@ TEST(RngPersist, RoundTripsContinueTheSequence) {
             if (chunks) {
                 // Both cells come back, the list reversed: the oldest is now newest.
                 ASSERT_EQ(__qesGetNumChunks(f), 2);
-                const QesChunk* head =
-                    *reinterpret_cast<QesChunk* const*>(static_cast<char*>(f) + 8);
+                const QesChunk* head = HeadChunk(f);
                 EXPECT_EQ(head->id, 5);
                 EXPECT_EQ(head->size, 40u);
                 EXPECT_EQ(static_cast<uint8_t*>(head->data)[39], 0x11);
@@ -144,10 +139,9 @@ TEST(RngPersist, RoundTripsContinueTheSequence) {
 TEST(RngPersist, ImageBytes) {
     void* s = NewStream(QES_BRNG_MT19937);
     Next(s, 4, 3);
-    void* data = AddPrivate(s, 9, 12, 0x5A);
+    AddPrivate(s, 9, 12, 0x5A);
     uint64_t guid[2] = {0x0102030405060708ull, 0x1112131415161718ull};
-    void* shared = brenn_serv_allocate(8, 128);
-    std::memset(shared, 0x77, 8);
+    void* shared = FilledBlock(8, 0x77);
     ASSERT_EQ(__qesAddChunk(s, 13, guid, shared, 8), 0);
     auto image = SaveM(s);
     const size_t state = 2520 - 16;
@@ -172,7 +166,6 @@ TEST(RngPersist, ImageBytes) {
     EXPECT_EQ(Le32(image, at), 9u);
     EXPECT_EQ(Le32(image, at + 4) | Le32(image, at + 12), 0u);
     EXPECT_EQ(image[at + 24 + 11], 0x5A);
-    (void)data;
     // Loading the shared chunk joins the live row of the table: the loaded stream
     // shares the block, and the copy read from the image is not kept.
     int64_t live = brenn_serv_live_allocations();
@@ -353,7 +346,7 @@ TEST(RngPersist, AllocationFailuresLeaveNothing) {
     auto image = SaveM(s);
     std::string path = TempPath("oom");
     std::string counted = path + "zz";
-    brenn::test::SweepNoMemory(
+    SweepNoMemory(
         [&] { return __qesSaveStreamF(s, counted.c_str(), static_cast<int32_t>(path.size())); });
     EXPECT_EQ(ReadFile(path), image);
     auto load = [&](bool file) {
@@ -368,8 +361,8 @@ TEST(RngPersist, AllocationFailuresLeaveNothing) {
         EXPECT_EQ(__qesGetNumChunks(t), 2);
         return __qesDeleteStream(&t);
     };
-    brenn::test::SweepNoMemory([&] { return load(false); });
-    brenn::test::SweepNoMemory([&] { return load(true); });
+    SweepNoMemory([&] { return load(false); });
+    SweepNoMemory([&] { return load(true); });
     __qesDeleteStream(&s);
     std::remove(path.c_str());
 }

@@ -11,17 +11,6 @@
 
 namespace {
 
-struct Split {
-    BrngRecord* table;
-    int32_t family, member;
-};
-
-Split SplitId(int32_t id) {
-    Split s{};
-    s.table = __qesGetBrngBaseOffset(id, &s.family, &s.member);
-    return s;
-}
-
 int32_t Dummy4(int32_t, void*, int32_t, const void*) {
     return 0;
 }
@@ -35,27 +24,29 @@ int32_t DummyI(void*, int32_t, void*) {
     return 0;
 }
 
-TEST(RngRegistry, LegacyIdsSplitWithWhMembersOnRowFour) {
+// Legacy ids below 281 index the old table, with the WH members on row four; current
+// ids split into family and member.
+TEST(RngRegistry, IdsSplitIntoTableFamilyAndMember) {
     struct {
-        int32_t id, family, member;
-    } cases[] = {{0, 0, 0},     {3, 3, 0},     {4, 4, 0},     {5, 4, 1},
-                 {276, 4, 272}, {277, 277, 0}, {278, 278, 0}, {-7, -7, 0}};
+        int32_t id;
+        BrngRecord* table;
+        int32_t family, member;
+    } cases[] = {{0, __RegBrngs, 0, 0},
+                 {3, __RegBrngs, 3, 0},
+                 {4, __RegBrngs, 4, 0},
+                 {5, __RegBrngs, 4, 1},
+                 {276, __RegBrngs, 4, 272},
+                 {277, __RegBrngs, 277, 0},
+                 {278, __RegBrngs, 278, 0},
+                 {-7, __RegBrngs, -7, 0},
+                 {QES_BRNG_WH + 272, __RegBrngsNew, 4, 272},
+                 {QES_BRNG_PHILOX4X32X10, __RegBrngsNew, 15, 0}};
     for (auto& c : cases) {
-        Split s = SplitId(c.id);
-        EXPECT_EQ(s.table, __RegBrngs) << c.id;
-        EXPECT_EQ(s.family, c.family) << c.id;
-        EXPECT_EQ(s.member, c.member) << c.id;
+        int32_t family, member;
+        EXPECT_EQ(__qesGetBrngBaseOffset(c.id, &family, &member), c.table) << c.id;
+        EXPECT_EQ(family, c.family) << c.id;
+        EXPECT_EQ(member, c.member) << c.id;
     }
-}
-
-TEST(RngRegistry, CurrentIdsSplitByFamilyAndMember) {
-    Split s = SplitId(QES_BRNG_WH + 272);
-    EXPECT_EQ(s.table, __RegBrngsNew);
-    EXPECT_EQ(s.family, 4);
-    EXPECT_EQ(s.member, 272);
-    s = SplitId(QES_BRNG_PHILOX4X32X10);
-    EXPECT_EQ(s.family, 15);
-    EXPECT_EQ(s.member, 0);
 }
 
 TEST(RngRegistry, ValidityFollowsMemberCountsAndTheLegacyBound) {

@@ -13,21 +13,7 @@
 
 namespace {
 
-using brenn::test::NewToyStream;
-using brenn::test::ToyBrngId;
-using brenn::test::ToyState;
-
-QesChunk* Head(void* stream) {
-    QesChunk* c;
-    std::memcpy(&c, static_cast<char*>(stream) + 8, sizeof c);
-    return c;
-}
-
-void* Block(uint32_t size, unsigned char fill) {
-    void* p = brenn_serv_allocate(size, 128);
-    std::memset(p, fill, size);
-    return p;
-}
+using namespace brenn::test;
 
 TEST(RngStream, NewStreamFillsHeaderAndSeeds) {
     void* s = NewToyStream(41);
@@ -36,7 +22,7 @@ TEST(RngStream, NewStreamFillsHeaderAndSeeds) {
     EXPECT_EQ(__qesGetStreamStateBrng(s), ToyBrngId());
     EXPECT_EQ(static_cast<unsigned char*>(s)[4], 1);
     EXPECT_EQ(static_cast<unsigned char*>(s)[5], 0);
-    EXPECT_EQ(Head(s), nullptr);
+    EXPECT_EQ(HeadChunk(s), nullptr);
     EXPECT_EQ(ToyState(s)[0], 41u);
     EXPECT_EQ(__qesGetStreamSize(s), 24 + 8);
     EXPECT_EQ(__qesDeleteStream(&s), 0);
@@ -65,10 +51,10 @@ TEST(RngStream, AllocateStreamValidatesAndLeavesTheState) {
 
 TEST(RngChunks, SearchFindsTheNewestCellAndSizeCountsEveryCell) {
     void* s = NewToyStream(1);
-    ASSERT_EQ(__qesAddChunk(s, 5, nullptr, Block(40, 1), 40), 0);
-    void* newer = Block(8, 2);
+    ASSERT_EQ(__qesAddChunk(s, 5, nullptr, FilledBlock(40, 1), 40), 0);
+    void* newer = FilledBlock(8, 2);
     ASSERT_EQ(__qesAddChunk(s, 5, nullptr, newer, 8), 0);
-    ASSERT_EQ(__qesAddChunk(s, 3, nullptr, Block(16, 3), 16), 0);
+    ASSERT_EQ(__qesAddChunk(s, 3, nullptr, FilledBlock(16, 3), 16), 0);
     EXPECT_EQ(__qesSearchChunk(s, 5), newer);
     EXPECT_EQ(__qesSearchChunk(s, 9), nullptr);
     EXPECT_EQ(__qesGetNumChunks(s), 3);
@@ -84,38 +70,38 @@ TEST(RngChunks, SearchFindsTheNewestCellAndSizeCountsEveryCell) {
 // becomes C alone and B drops out of it.
 TEST(RngChunks, DeleteByIdLeavesTheHeadAtTheLastKeptCell) {
     void* s = NewToyStream(1);
-    __qesAddChunk(s, 2, nullptr, Block(4, 0), 4); // C
-    __qesAddChunk(s, 3, nullptr, Block(4, 0), 4); // B
-    __qesAddChunk(s, 6, nullptr, Block(4, 0), 4); // A
-    QesChunk* b = Head(s)->next;
+    AddPrivate(s, 2, 4, 0); // C
+    AddPrivate(s, 3, 4, 0); // B
+    AddPrivate(s, 6, 4, 0); // A
+    QesChunk* b = HeadChunk(s)->next;
     QesChunk* c = b->next;
     __qesDeleteChunksById(s, 6);
-    EXPECT_EQ(Head(s), c);
+    EXPECT_EQ(HeadChunk(s), c);
     EXPECT_EQ(__qesGetNumChunks(s), 1);
     // B is out of the list and still the caller's to free.
     brenn_serv_deallocate(b->data);
     brenn_serv_deallocate(b);
 
     // The hypergeometric use: one own cell replaced by a new one.
-    __qesAddChunk(s, 6, nullptr, Block(4, 0), 4);
+    AddPrivate(s, 6, 4, 0);
     __qesDeleteChunksById(s, 6);
-    EXPECT_EQ(Head(s), c);
+    EXPECT_EQ(HeadChunk(s), c);
     __qesDeleteChunksById(s, 2);
-    EXPECT_EQ(Head(s), nullptr);
+    EXPECT_EQ(HeadChunk(s), nullptr);
     __qesDeleteStream(&s);
 }
 
 TEST(RngStream, CopyDuplicatesPrivateChunksInReverseOrder) {
     void* s = NewToyStream(77);
     ToyState(s)[1] = 5;
-    __qesAddChunk(s, 1, nullptr, Block(12, 0x11), 12);
-    __qesAddChunk(s, 2, nullptr, Block(20, 0x22), 20);
+    AddPrivate(s, 1, 12, 0x11);
+    AddPrivate(s, 2, 20, 0x22);
     void* c = nullptr;
     ASSERT_EQ(__qesCopyStream(&c, s), 0);
     EXPECT_EQ(ToyState(c)[0], 77u);
     EXPECT_EQ(ToyState(c)[1], 5u);
-    EXPECT_EQ(Head(c)->id, 1);
-    EXPECT_EQ(Head(c)->next->id, 2);
+    EXPECT_EQ(HeadChunk(c)->id, 1);
+    EXPECT_EQ(HeadChunk(c)->next->id, 2);
     EXPECT_NE(__qesSearchChunk(c, 2), __qesSearchChunk(s, 2));
     EXPECT_EQ(std::memcmp(__qesSearchChunk(c, 2), __qesSearchChunk(s, 2), 20), 0);
     __qesDeleteStream(&c);
@@ -126,8 +112,8 @@ TEST(RngStream, CopyStateMovesOnlyTheSeedWordsAndTheChunks) {
     void* a = NewToyStream(10);
     void* b = NewToyStream(20);
     ToyState(b)[1] = 99;
-    __qesAddChunk(a, 4, nullptr, Block(8, 4), 8);
-    __qesAddChunk(b, 7, nullptr, Block(8, 7), 8);
+    AddPrivate(a, 4, 8, 4);
+    AddPrivate(b, 7, 8, 7);
     EXPECT_EQ(__qesCopyStreamState(a, a), 0);
     EXPECT_EQ(__qesGetNumChunks(a), 1);
     ASSERT_EQ(__qesCopyStreamState(b, a), 0);
@@ -144,7 +130,7 @@ TEST(RngChunks, SharedGuidRaisesTheReferenceAndFreesOnce) {
     __qesGenerateNewGlobalRODataTableEntryId(guid, 9);
     EXPECT_EQ(guid[1], 9u);
     void* s = NewToyStream(1);
-    void* first = Block(64, 1);
+    void* first = FilledBlock(64, 1);
     ASSERT_EQ(__qesAddChunk(s, 9, guid, first, 64), 0);
     GlobRODataEntry* e = nullptr;
     ASSERT_EQ(__qesFindGlobRODataTableEntry(&e, guid), 0);
@@ -154,7 +140,7 @@ TEST(RngChunks, SharedGuidRaisesTheReferenceAndFreesOnce) {
     // A second stream bringing its own block gets the shared one; its block stays
     // its own.
     void* t = NewToyStream(2);
-    void* mine = Block(64, 2);
+    void* mine = FilledBlock(64, 2);
     ASSERT_EQ(__qesAddChunk(t, 9, guid, mine, 64), 0);
     EXPECT_EQ(__qesSearchChunk(t, 9), first);
     EXPECT_EQ(e->refCount, 2u);
@@ -188,10 +174,10 @@ TEST(RngGlobTable, LimitsAreOneTwentySevenUnlockedAndOneTwentyEightLocked) {
     // At 127 rows a new guid makes a private cell, freed directly with its stream.
     void* s = NewToyStream(1);
     uint64_t fresh[2] = {5, 5};
-    void* data = Block(16, 0);
+    void* data = FilledBlock(16, 0);
     ASSERT_EQ(__qesAddChunk(s, 9, fresh, data, 16), 0);
-    EXPECT_EQ(Head(s)->guid[0], 0u);
-    EXPECT_EQ(Head(s)->guid[1], 0u);
+    EXPECT_EQ(HeadChunk(s)->guid[0], 0u);
+    EXPECT_EQ(HeadChunk(s)->guid[1], 0u);
     EXPECT_EQ(__qesFindGlobRODataTableEntry(&e, fresh), QES_RNG_STATUS_GLOB_NOT_FOUND);
     // The locked limit still takes the 128th row, and refuses the 129th.
     guids[127][0] = 9999;
@@ -209,7 +195,7 @@ TEST(RngGlobTable, LimitsAreOneTwentySevenUnlockedAndOneTwentyEightLocked) {
 TEST(RngGlobTable, RegisterReferenceHandsOutTheRowsData) {
     uint64_t guid[2] = {42, 43};
     GlobRODataEntry* e = nullptr;
-    void* data = Block(8, 0);
+    void* data = FilledBlock(8, 0);
     ASSERT_EQ(__qesCreateGlobRODataTableEntry(&e, guid, data), 0);
     QesChunk cell{};
     __qesRegisterGlobRODataReference(&cell, guid);
@@ -224,8 +210,8 @@ TEST(RngGlobTable, RegisterReferenceHandsOutTheRowsData) {
 
 TEST(RngStream, EveryAllocationFailureReturnsNoMemoryWithoutLeaks) {
     void* s = NewToyStream(3);
-    __qesAddChunk(s, 1, nullptr, Block(12, 1), 12);
-    __qesAddChunk(s, 2, nullptr, Block(24, 2), 24);
+    AddPrivate(s, 1, 12, 1);
+    AddPrivate(s, 2, 24, 2);
     // A copy that fails part way keeps no chunk; a failed copy of the state leaves
     // the target without chunks.
     brenn::test::SweepNoMemory([&] {

@@ -7,7 +7,12 @@
 
 #include <stdint.h>
 
+#include <cstring>
+
+#include <gtest/gtest.h>
+
 #include "brenn_rng.h"
+#include "platform/serv.h"
 
 namespace brenn::test {
 
@@ -25,6 +30,27 @@ int32_t ToyBrngId();
 
 // A stream of the toy generator seeded with `seed`; fails the test on error.
 void* NewToyStream(uint32_t seed);
+
+// A block of the service allocator filled with `fill`, as a chunk's data.
+inline void* FilledBlock(uint32_t size, unsigned char fill) {
+    void* p = brenn_serv_allocate(size, 128);
+    std::memset(p, fill, size);
+    return p;
+}
+
+// Adds `size` bytes of `fill` as the private chunk `id`; returns its data.
+inline void* AddPrivate(void* stream, int32_t id, uint32_t size, unsigned char fill) {
+    void* data = FilledBlock(size, fill);
+    EXPECT_EQ(__qesAddChunk(stream, id, nullptr, data, size), 0);
+    return data;
+}
+
+// The head of a stream's chunk list: its newest cell.
+inline QesChunk* HeadChunk(const void* stream) {
+    QesChunk* c;
+    std::memcpy(&c, static_cast<const char*>(stream) + 8, sizeof c);
+    return c;
+}
 
 // The toy state after the header: counter, extra.
 inline uint32_t* ToyState(void* stream) {
