@@ -7,9 +7,11 @@
 
 #include <gtest/gtest.h>
 
-#include "brenn_rng.h"
+#include "tests/rng/brng_harness.h"
 
 namespace {
+
+using brenn::test::NewKeyed;
 
 constexpr uint64_t kM31 = 2147483647;
 constexpr uint64_t kA31 = 1132489760;
@@ -29,12 +31,6 @@ std::vector<uint64_t> Ref(bool is59, uint64_t x, int n) {
     for (int i = 0; i < n; ++i, x = is59 ? x * kA59 & kMask59 : x * kA31 % kM31)
         v[i] = x;
     return v;
-}
-
-void* NewStream(int32_t brng, std::vector<uint32_t> seed) {
-    void* s = nullptr;
-    EXPECT_EQ(__qesNewStreamEx(&s, brng, static_cast<int32_t>(seed.size()), seed.data()), 0);
-    return s;
 }
 
 // The next n raw words, widened to 64 bits.
@@ -65,12 +61,12 @@ TEST(RngMcgSeeding, EdgeSeedsFoldToOne) {
                  {QES_BRNG_MCG59, {}, 1},
                  {QES_BRNG_MCG59, {5, 0xFFFFFFFFu, 7}, 5 + (uint64_t{0x7FFFFFF} << 32)}};
     for (const auto& c : cases) {
-        void* s = NewStream(c.brng, c.seed);
+        void* s = NewKeyed(c.brng, c.seed);
         EXPECT_EQ(Words(s, 1, Is59(c.brng))[0], c.first) << c.brng << " " << c.seed.size();
         __qesDeleteStream(&s);
     }
     // MCG59 keeps the multiplier beside the state word.
-    void* s = NewStream(QES_BRNG_MCG59, {0});
+    void* s = NewKeyed(QES_BRNG_MCG59, {0});
     uint64_t state[2];
     std::memcpy(state, static_cast<char*>(s) + 16, 16);
     EXPECT_EQ(state[0], 1u);
@@ -115,9 +111,9 @@ TEST(RngMcgOutput, ThreeFormsEqualTheRecurrence) {
     for (const Case& c : Cases()) {
         bool is59 = Is59(c.brng);
         auto ref = Ref(is59, c.x0, n + 1);
-        void* s = NewStream(c.brng, c.seed);
-        void* t = NewStream(c.brng, c.seed);
-        void* u = NewStream(c.brng, c.seed);
+        void* s = NewKeyed(c.brng, c.seed);
+        void* t = NewKeyed(c.brng, c.seed);
+        void* u = NewKeyed(c.brng, c.seed);
         auto w = Words(s, n, is59);
         std::vector<double> d(n);
         std::vector<float> f(n);
@@ -140,7 +136,7 @@ TEST(RngMcgOutput, ThreeFormsEqualTheRecurrence) {
 
 // The largest residue of MCG31M1 maps just below 1.
 TEST(RngMcgOutput, UnitIntervalStaysBelowOne) {
-    void* s = NewStream(QES_BRNG_MCG31M1, {0x7FFFFFFE});
+    void* s = NewKeyed(QES_BRNG_MCG31M1, {0x7FFFFFFE});
     double d;
     _qesdRngUniform(0, s, 1, &d, 0.0, 1.0);
     EXPECT_LT(d, 1.0);
@@ -155,7 +151,7 @@ TEST(RngMcgOutput, AnyCutGivesTheSameSequence) {
         auto ref = Ref(is59, 777, 40);
         for (int cut1 = 1; cut1 < 40; ++cut1) {
             for (int cut2 = cut1; cut2 < 40; ++cut2) {
-                void* s = NewStream(brng, {777});
+                void* s = NewKeyed(brng, {777});
                 std::vector<double> d(40);
                 _qesdRngUniform(0, s, cut1, d.data(), 0.0, 1.0);
                 if (cut2 > cut1) _qesdRngUniform(0, s, cut2 - cut1, d.data() + cut1, 0.0, 1.0);
@@ -167,7 +163,7 @@ TEST(RngMcgOutput, AnyCutGivesTheSameSequence) {
             }
         }
         // Unaligned result arrays take the same path.
-        void* s = NewStream(brng, {777});
+        void* s = NewKeyed(brng, {777});
         std::vector<float> f(41);
         _qessRngUniform(0, s, 40, f.data() + 1, 0.0f, 1.0f);
         for (int i = 0; i < 40; ++i)
@@ -182,14 +178,14 @@ TEST(RngMcgJumps, LeapfrogAndSkipEqualGenerateAndDiscard) {
         auto ref = Ref(is59, 99, 2000);
         // Element 1, 4, 7, ... for k = 1 of 3 streams; a skip by 2 then counts the
         // stream's own elements.
-        void* s = NewStream(brng, {99});
+        void* s = NewKeyed(brng, {99});
         ASSERT_EQ(__qesLeapfrogStream(s, 1, 3), 0);
         auto w = Words(s, 3, is59);
         EXPECT_EQ(w[0], ref[1]);
         EXPECT_EQ(w[1], ref[4]);
         EXPECT_EQ(w[2], ref[7]);
         __qesDeleteStream(&s);
-        s = NewStream(brng, {99});
+        s = NewKeyed(brng, {99});
         __qesLeapfrogStream(s, 1, 3);
         ASSERT_EQ(__qesSkipAheadStream(s, 2), 0);
         w = Words(s, 40, is59);
@@ -198,7 +194,7 @@ TEST(RngMcgJumps, LeapfrogAndSkipEqualGenerateAndDiscard) {
         __qesDeleteStream(&s);
 
         for (uint64_t skip : {0ull, 1ull, 7ull, 8ull, 999ull, 1500ull}) {
-            s = NewStream(brng, {99});
+            s = NewKeyed(brng, {99});
             ASSERT_EQ(__qesSkipAheadStream(s, skip), 0);
             w = Words(s, 100, is59);
             for (int i = 0; i < 100; ++i)
@@ -207,13 +203,13 @@ TEST(RngMcgJumps, LeapfrogAndSkipEqualGenerateAndDiscard) {
         }
         // A huge skip against the period: MCG31M1's period is 2^31 - 2, MCG59's
         // 2^57, so these land back on element 5.
-        s = NewStream(brng, {99});
+        s = NewKeyed(brng, {99});
         uint64_t period = is59 ? (uint64_t{1} << 57) : kM31 - 1;
         ASSERT_EQ(__qesSkipAheadStream(s, 3 * period + 5), 0);
         EXPECT_EQ(Words(s, 1, is59)[0], ref[5]);
         __qesDeleteStream(&s);
 
-        s = NewStream(brng, {99});
+        s = NewKeyed(brng, {99});
         EXPECT_EQ(__qesLeapfrogStream(s, 0, -1), QES_RNG_STATUS_BAD_STREAM_COUNT);
         EXPECT_EQ(__qesLeapfrogStream(s, 0, 1), 0);
         uint64_t one = 1;

@@ -36,10 +36,7 @@ std::string TempPath(const char* tag) {
 }
 
 void* NewStream(int32_t brng) {
-    uint32_t seed[3] = {12345, 678, 9};
-    void* s = nullptr;
-    EXPECT_EQ(__qesNewStreamEx(&s, brng, 3, seed), 0);
-    return s;
+    return NewKeyed(brng, {12345, 678, 9});
 }
 
 std::vector<uint8_t> Next(void* s, int32_t wordBytes, int n = 700) {

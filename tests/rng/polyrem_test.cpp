@@ -118,23 +118,20 @@ TEST(RngPolyRemWords, RandomDivisorsOfManyDegrees) {
     }
 }
 
+// Degree 19937 with a dense lower part reaching up to the degree, and sparse ones with
+// the highest lower term far below it and right under it; then the two generators'
+// own polynomials. The plain reference reduces bit by bit, so counts stay small
+// enough for a few reductions, or are powers it reaches by squaring.
 TEST(RngPolyRemWords, LargeDivisors) {
     std::mt19937_64 rng(7);
-    // Degree 19937 with a dense lower part reaching up to the degree, and sparse ones
-    // with the highest lower term far below it and right under it. The plain reference
-    // reduces bit by bit, so counts stay small enough for a few reductions.
     Check(3 * 19937 + 12345, RandomDivisor(rng, 19937, 0.5, 1));
     Check(5 * 19937 + 1, RandomDivisor(rng, 19937, 0.01, 600));
     Check(4 * 19937 - 7, RandomDivisor(rng, 19937, 0.005, 1));
     Check(70000, RandomDivisor(rng, 19968, 0.3, 40));
-}
-
-TEST(RngPolyRemWords, GeneratorPolynomials) {
     std::vector<int> mt(kMt19937Terms, kMt19937Terms + kMt19937TermCount);
-    std::vector<int> sfmt(kSfmt19937Terms, kSfmt19937Terms + kSfmt19937TermCount);
     Check(uint64_t{1} << 40, mt);
     Check(0x100000 - 624 + 3, mt);
-    Check(123456789, sfmt);
+    Check(123456789, std::vector<int>(kSfmt19937Terms, kSfmt19937Terms + kSfmt19937TermCount));
 }
 
 // x^(a+b) = x^a x^b and, for the primitive MT polynomial, x^(2^19937) = x: long counts

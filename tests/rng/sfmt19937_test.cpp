@@ -60,21 +60,14 @@ struct RefSfmt {
         if (!(inner & 1)) w[0] ^= 1; // the first set bit of the parity words
     }
 
-    // 128-bit shifts by bytes, as two 64-bit halves.
+    // 128-bit shifts by one byte, the first word the lowest.
     static void Shift(const uint32_t* in, uint32_t* out, bool left) {
-        uint64_t hi = (uint64_t{in[3]} << 32) | in[2], lo = (uint64_t{in[1]} << 32) | in[0];
-        uint64_t oh, ol;
-        if (left) {
-            oh = (hi << 8) | (lo >> 56);
-            ol = lo << 8;
-        } else {
-            ol = (lo >> 8) | (hi << 56);
-            oh = hi >> 8;
-        }
-        out[0] = static_cast<uint32_t>(ol);
-        out[1] = static_cast<uint32_t>(ol >> 32);
-        out[2] = static_cast<uint32_t>(oh);
-        out[3] = static_cast<uint32_t>(oh >> 32);
+        unsigned __int128 v = 0;
+        for (int k = 3; k >= 0; --k)
+            v = v << 32 | in[k];
+        v = left ? v << 8 : v >> 8;
+        for (int k = 0; k < 4; ++k)
+            out[k] = static_cast<uint32_t>(v >> (32 * k));
     }
 
     void Regenerate() {
