@@ -331,8 +331,12 @@ TEST(RngPersist, FileNamesAndFileErrors) {
     // A directory opens for reading but gives no bytes.
     EXPECT_EQ(__qesLoadStreamF(&f, "/", -1), QES_RNG_STATUS_FILE_READ);
     // A full device takes the buffered writes and fails at the close.
-    if (access("/dev/full", W_OK) == 0)
+    // A chunk larger than the buffer is written at once, and that write fails.
+    if (access("/dev/full", W_OK) == 0) {
         EXPECT_EQ(__qesSaveStreamF(s, "/dev/full", -1), QES_RNG_STATUS_FILE_CLOSE);
+        AddPrivate(s, 5, 1 << 16, 0x5A);
+        EXPECT_EQ(__qesSaveStreamF(s, "/dev/full", -1), QES_RNG_STATUS_FILE_WRITE);
+    }
     __qesDeleteStream(&s);
 }
 
