@@ -1,7 +1,10 @@
 // The tour's random-number step: a stream of the MCG31M1 generator, a block of
 // double uniforms from it, a copy that continues the same sequence, and a
-// leapfrogged stream that serves every third element.
+// leapfrogged stream that serves every third element; then the Mersenne Twister
+// family: MT2203 members as parallel streams, an MT19937 skip-ahead, and a stream
+// saved to memory and loaded again.
 #include <cstdio>
+#include <vector>
 
 #include "brenn_rng.h"
 
@@ -43,4 +46,37 @@ void TourRandom() {
     __qesDeleteStream(&third);
     __qesDeleteStream(&copy);
     __qesDeleteStream(&stream);
+
+    // Members of MT2203 with one seed: independent streams for parallel work.
+    std::printf("random: first words of MT2203 members 0, 1, 3000 and 6023, one seed:");
+    for (int32_t member : {0, 1, 3000, 6023}) {
+        void* m = nullptr;
+        uint32_t w = 0;
+        if (__qesNewStreamEx(&m, QES_BRNG_MT2203 + member, 1, &seed) == QES_STATUS_OK)
+            __qesiBRngMT2203(m, 1, &w);
+        std::printf(" %08x", w);
+        __qesDeleteStream(&m);
+    }
+    std::printf("\n");
+
+    // Skip-ahead: a jump of 2^40 words lands where generating them would.
+    void* mt = nullptr;
+    __qesNewStreamEx(&mt, QES_BRNG_MT19937, 1, &seed);
+    __qesSkipAheadStream(mt, uint64_t{1} << 40);
+    double after[2];
+    _qesdRngUniform(0, mt, 2, after, 0.0, 1.0);
+    std::printf("random: MT19937 after a jump of 2^40: %.9f %.9f\n", after[0], after[1]);
+
+    // Saved to memory and loaded, the stream continues where it was.
+    std::vector<char> image(static_cast<size_t>(__qesGetStreamSize(mt)));
+    __qesSaveStreamM(mt, image.data());
+    void* loaded = nullptr;
+    __qesLoadStreamM(&loaded, image.data());
+    double x = 0, y = 0;
+    _qesdRngUniform(0, mt, 1, &x, 0.0, 1.0);
+    if (loaded != nullptr) _qesdRngUniform(0, loaded, 1, &y, 0.0, 1.0);
+    std::printf("random: next of the stream and of its saved image (%zu bytes): %.9f %.9f\n",
+                image.size(), x, y);
+    __qesDeleteStream(&loaded);
+    __qesDeleteStream(&mt);
 }

@@ -44,7 +44,7 @@ BRENN_EXPORT int32_t __qesBRngMT2203InitStream(int32_t method, void* stream, int
         int32_t family, member;
         __qesGetBrngBaseOffset(Header(stream)->brng, &family, &member);
         const Mt2203Member* row = FindMt2203Member(member);
-        if (row == nullptr) return QES_RNG_STATUS_BAD_BRNG; // no verified parameters yet
+        if (row == nullptr) return QES_RNG_STATUS_BAD_BRNG; // not a member of the family
         mt::SeedArray(s->mt, kN, n, static_cast<const uint32_t*>(params));
         s->position = kN;
         s->matrixA = row->matrixA;

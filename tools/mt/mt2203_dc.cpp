@@ -4,12 +4,14 @@
 // equidistribution (mt2203_temper, a separate program). This one searches the
 // constants, writes the table source and verifies the committed table:
 //
-//   mt2203_dc search FIRST LAST [SEED]   "member a1 a2 tried" lines for members
-//                                        FIRST..LAST: the first two primitive
+//   mt2203_dc search FIRST LAST [SEED [COUNT]]
+//                                        "member a1 a2 ... tried" lines for members
+//                                        FIRST..LAST: the first COUNT (2) primitive
 //                                        constants of each member's own stream, so
 //                                        ranges can run in parallel processes
 //   mt2203_dc pick FILE...               "member a" lines, constants made distinct
-//   mt2203_dc table ROWS OUT             table source from "member a b c ..." lines
+//   mt2203_dc table OUT ROWS...          table source from "member a b c defect"
+//                                        lines, the least defect of each member
 //   mt2203_dc verify [STEP]              every STEP-th row (and the published ones):
 //                                        primitive, the library's own generator
 //                                        output annihilated by the polynomial, total
@@ -42,9 +44,10 @@ using brenn::rng::kMt2203Members;
 namespace mt2203 = brenn::mt2203;
 
 constexpr int kSieveDegree = 12;
-// Total dimension defect a row may have: the published rows have 699 to 713, and
-// the tempering search leaves every found row below this.
-constexpr int kDefectBound = 760;
+// Total dimension defect a row may have: the published rows have 699 to 713. A
+// member whose first constant cannot be tempered to this (about 4 %) takes a
+// further constant of its stream.
+constexpr int kDefectBound = 730;
 
 // The published rows (members 0 to 3 and 6023); the search fills the others.
 const std::map<int, Mt2203Member> kPublished = {
@@ -53,24 +56,19 @@ const std::map<int, Mt2203Member> kPublished = {
     {6023, {0xE8761D4Bu, 0x72967680u, 0xEFEB0000u}},
 };
 
-// Twist constants of one member, in the order its own stream draws them (top bit
-// set, as the published ones), that are primitive.
-struct Drawn {
-    uint32_t first, second;
-    long tried;
-};
-Drawn SearchMember(const mt2203::Sieve& sieve, int member, uint32_t seed) {
+// The first `count` twist constants of one member's own stream (top bit set, as
+// the published ones) that are primitive, and the candidates drawn for them.
+std::vector<uint32_t> SearchMember(const mt2203::Sieve& sieve, int member, uint32_t seed,
+                                   int count, long* tried) {
     std::seed_seq seq{seed, static_cast<uint32_t>(member), 0x2203u};
     std::mt19937 pick(seq);
-    uint32_t found[2];
-    int count = 0;
-    long tried = 0;
-    while (count < 2) {
-        ++tried;
+    std::vector<uint32_t> found;
+    for (*tried = 0; static_cast<int>(found.size()) < count;) {
+        ++*tried;
         uint32_t a = static_cast<uint32_t>(pick()) | 0x80000000u;
-        if (mt2203::Primitive(sieve, a)) found[count++] = a;
+        if (mt2203::Primitive(sieve, a)) found.push_back(a);
     }
-    return {found[0], found[1], tried};
+    return found;
 }
 
 // The first outputs of the library's generator for a member are a sequence that
@@ -148,15 +146,20 @@ int Verify(int step) {
     return bad == 0 ? 0 : 1;
 }
 
-// Two constants a member, so that `pick` can keep the constants distinct: about
-// 5.6 million constants with the top bit set are primitive, and among 6019 draws a
-// few coincide.
-int Search(int first, int last, uint32_t seed) {
+// COUNT (default two) constants a member: two let `pick` keep the constants
+// distinct (about 5.6 million constants with the top bit set are primitive, and
+// among 6019 draws a few coincide); more give a member whose first constant
+// tempers badly other constants to try.
+int Search(int first, int last, uint32_t seed, int count) {
     mt2203::Sieve sieve = mt2203::MakeSieve(kSieveDegree);
     for (int m = first; m <= last; ++m) {
         if (kPublished.count(m) != 0) continue;
-        Drawn d = SearchMember(sieve, m, seed);
-        std::printf("%d 0x%08X 0x%08X %ld\n", m, d.first, d.second, d.tried);
+        long tried = 0;
+        std::vector<uint32_t> found = SearchMember(sieve, m, seed, count, &tried);
+        std::printf("%d", m);
+        for (uint32_t a : found)
+            std::printf(" 0x%08X", a);
+        std::printf(" %ld\n", tried);
         std::fflush(stdout);
     }
     return 0;
@@ -196,19 +199,35 @@ int Pick(int files, char** paths) {
     return 0;
 }
 
-int Table(const char* rowsPath, const char* outPath) {
+// Rows "member a b c totaldefect ..." from one or more runs of mt2203_temper; a
+// member met in several keeps its row of least total defect: a second run with a
+// wider search on the rows that came out worst, and for the few twist constants
+// that no search tempers well, the member's further constants.
+int Table(const char* outPath, int files, char** rowsPaths) {
     std::map<int, Mt2203Member> rows = kPublished;
-    FILE* in = std::fopen(rowsPath, "r");
-    if (in == nullptr) return 1;
-    char line[256];
-    while (std::fgets(line, sizeof line, in) != nullptr) {
-        int m;
-        unsigned a, b, c;
-        if (std::sscanf(line, "%d %x %x %x", &m, &a, &b, &c) != 4) continue;
-        if (m < 0 || m >= kMt2203Members || kPublished.count(m) != 0) continue;
-        rows[m] = Mt2203Member{a, b, c};
+    std::map<int, int> defects;
+    for (int i = 0; i < files; ++i) {
+        FILE* in = std::fopen(rowsPaths[i], "r");
+        if (in == nullptr) return 1;
+        char line[512];
+        while (std::fgets(line, sizeof line, in) != nullptr) {
+            int m, defect;
+            unsigned a, b, c;
+            if (std::sscanf(line, "%d %x %x %x %d", &m, &a, &b, &c, &defect) != 5) continue;
+            if (m < 0 || m >= kMt2203Members || kPublished.count(m) != 0) continue;
+            auto known = defects.find(m);
+            if (known != defects.end() && known->second <= defect) continue;
+            rows[m] = Mt2203Member{a, b, c};
+            defects[m] = defect;
+        }
+        std::fclose(in);
     }
-    std::fclose(in);
+    std::set<uint32_t> twists;
+    for (const auto& [m, r] : rows)
+        if (!twists.insert(r.matrixA).second) {
+            std::fprintf(stderr, "member %d: twist constant 0x%08X used twice\n", m, r.matrixA);
+            return 1;
+        }
     if (static_cast<int>(rows.size()) != kMt2203Members) {
         std::fprintf(stderr, "%zu rows of %d\n", rows.size(), kMt2203Members);
         return 1;
@@ -313,11 +332,12 @@ int main(int argc, char** argv) {
         return Verify(argc >= 3 ? std::max(1, std::atoi(argv[2])) : 1);
     if (argc >= 4 && std::strcmp(argv[1], "search") == 0)
         return Search(std::atoi(argv[2]), std::atoi(argv[3]),
-                      argc >= 5 ? static_cast<uint32_t>(std::strtoul(argv[4], nullptr, 0)) : 2203u);
+                      argc >= 5 ? static_cast<uint32_t>(std::strtoul(argv[4], nullptr, 0)) : 2203u,
+                      argc >= 6 ? std::max(2, std::atoi(argv[5])) : 2);
     if (argc == 3 && std::strcmp(argv[1], "report") == 0) return Report(argv[2]);
     if (argc >= 3 && std::strcmp(argv[1], "pick") == 0) return Pick(argc - 2, argv + 2);
-    if (argc == 4 && std::strcmp(argv[1], "table") == 0) return Table(argv[2], argv[3]);
-    std::fprintf(stderr, "usage: mt2203_dc verify [STEP] | search FIRST LAST [SEED] | pick FILE... "
-                         "| table ROWS OUT | report OUT\n");
+    if (argc >= 4 && std::strcmp(argv[1], "table") == 0) return Table(argv[2], argc - 3, argv + 3);
+    std::fprintf(stderr, "usage: mt2203_dc verify [STEP] | search FIRST LAST [SEED [COUNT]] | pick FILE... "
+                         "| table OUT ROWS... | report OUT\n");
     return 2;
 }
