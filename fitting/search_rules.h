@@ -4,6 +4,8 @@
 #ifndef BRENN_FITTING_SEARCH_RULES_H
 #define BRENN_FITTING_SEARCH_RULES_H
 
+#include <smmintrin.h>
+
 #include "fitting/task.h"
 
 namespace brenn::fit {
@@ -125,6 +127,16 @@ inline int64_t CountNotAbove(const T* x, int64_t lo, int64_t hi, T s) {
 
 constexpr int64_t kHybridLinearNodes = 20;
 
+// The bucket of a site inside the partition. The conversion of a NaN (or of anything
+// beyond 64 bits) is INT64_MIN on this hardware, whose byte offset into the table wraps
+// to that of bucket 0; such a site reads bucket 0, without the overflow.
+template <typename T>
+inline int64_t HybridBucket(T x0, T scale, T s) {
+    T q = (s - x0) * scale;
+    constexpr T kLimit = T(9223372036854775808.0);
+    return q > -kLimit && q < kLimit ? static_cast<int64_t>(q) : 0;
+}
+
 template <typename T>
 inline int64_t HybridCell(int64_t nx, const T* x, const SearchPair* table, T scale, T s) {
     if (s < x[0]) return 0;
@@ -132,7 +144,7 @@ inline int64_t HybridCell(int64_t nx, const T* x, const SearchPair* table, T sca
     if (s == x[nx - 1]) return nx - 1;
     int64_t lo = 0, hi = nx - 1;
     if (table != nullptr) {
-        int64_t b = static_cast<int64_t>((s - x[0]) * scale);
+        int64_t b = HybridBucket(x[0], scale, s);
         lo = table[b].lo;
         hi = table[b].hi;
     }
@@ -145,6 +157,111 @@ inline int64_t HybridCell(int64_t nx, const T* x, const SearchPair* table, T sca
     }
     if (hi - lo < 2) return hi;
     return lo + CountNotAbove(x, lo, hi, s);
+}
+
+// The long form of CountNotAbove (8 to 20 nodes, every one counted) as a fixed window
+// of 20 nodes from p, those at n and beyond masked off: the same sum without a branch.
+// The whole window must lie inside the partition.
+inline int64_t CountWindow(const double* p, int64_t n, double s) {
+    __m128d sv = _mm_set1_pd(s);
+    __m128i nv = _mm_set1_epi64x(n);
+    __m128i index = _mm_set_epi64x(1, 0);
+    __m128i acc = _mm_setzero_si128();
+    for (int k = 0; k < kHybridLinearNodes; k += 2) {
+        __m128i le = _mm_castpd_si128(_mm_cmple_pd(_mm_loadu_pd(p + k), sv));
+        acc = _mm_sub_epi64(acc, _mm_and_si128(le, _mm_cmpgt_epi64(nv, index)));
+        index = _mm_add_epi64(index, _mm_set1_epi64x(2));
+    }
+    return _mm_cvtsi128_si64(acc) + _mm_extract_epi64(acc, 1);
+}
+
+inline int64_t CountWindow(const float* p, int64_t n, float s) {
+    __m128 sv = _mm_set1_ps(s);
+    __m128i nv = _mm_set1_epi32(static_cast<int32_t>(n));
+    __m128i index = _mm_set_epi32(3, 2, 1, 0);
+    __m128i acc = _mm_setzero_si128();
+    for (int k = 0; k < kHybridLinearNodes; k += 4) {
+        __m128i le = _mm_castps_si128(_mm_cmple_ps(_mm_loadu_ps(p + k), sv));
+        acc = _mm_sub_epi32(acc, _mm_and_si128(le, _mm_cmpgt_epi32(nv, index)));
+        index = _mm_add_epi32(index, _mm_set1_epi32(4));
+    }
+    acc = _mm_add_epi32(acc, _mm_shuffle_epi32(acc, 0x4E));
+    acc = _mm_add_epi32(acc, _mm_shuffle_epi32(acc, 0xB1));
+    return _mm_cvtsi128_si32(acc);
+}
+
+// Sites searched side by side by the hybrid searcher. A lone search is a chain of
+// dependent loads, each a likely cache miss in a large partition; with this many
+// searches in step, the loads of one round are independent and their misses overlap.
+constexpr int kHybridLanes = 16;
+
+// The hybrid rule over a block of sites, lane by lane: the same steps as HybridCell,
+// with the same midpoints, so the same cells; only their order in time differs.
+template <typename T>
+void HybridCells(int64_t nx, const T* x, const SearchPair* table, T scale, int64_t n, const T* site,
+                 int32_t* cell) {
+    T x0 = x[0], right = x[nx - 1];
+    for (int64_t i = 0; i < n; i += kHybridLanes) {
+        int g = n - i < kHybridLanes ? static_cast<int>(n - i) : kHybridLanes;
+        int32_t* out = cell + i;
+        T s[kHybridLanes];
+        int64_t lo[kHybridLanes], hi[kHybridLanes];
+        uint32_t pending = 0;
+        // Sites outside or at the right end settle here; their lanes, and those past
+        // the block's end, idle through the rounds with lo = hi = 0.
+        for (int j = 0; j < kHybridLanes; ++j) {
+            T v = j < g ? site[i + j] : x0;
+            s[j] = v;
+            lo[j] = hi[j] = 0;
+            if (j >= g) continue;
+            if (v < x0) {
+                out[j] = 0;
+            } else if (v > right) {
+                out[j] = static_cast<int32_t>(nx);
+            } else if (v == right) {
+                out[j] = static_cast<int32_t>(nx - 1);
+            } else {
+                if (table != nullptr) {
+                    const SearchPair& e = table[HybridBucket(x0, scale, v)];
+                    lo[j] = e.lo;
+                    hi[j] = e.hi;
+                } else {
+                    hi[j] = nx - 1;
+                }
+                pending |= 1u << j;
+            }
+        }
+        // Bisection rounds until every lane is down to 20 nodes. A lane that is done
+        // reads x[0] and keeps its bounds; the updates are selects, not branches.
+        for (bool more = pending != 0; more;) {
+            more = false;
+            for (int j = 0; j < kHybridLanes; ++j) {
+                int64_t l = lo[j], h = hi[j];
+                bool active = l < h - kHybridLinearNodes;
+                int64_t m = active ? (l + h) >> 1 : 0;
+                bool above = x[m] > s[j];
+                int64_t upper = -static_cast<int64_t>(active & above);
+                int64_t lower = -static_cast<int64_t>(active & !above);
+                h ^= (h ^ m) & upper;
+                l ^= (l ^ m) & lower;
+                hi[j] = h;
+                lo[j] = l;
+                more |= l < h - kHybridLinearNodes;
+            }
+        }
+        for (int j = 0; j < g; ++j) {
+            if (!((pending >> j) & 1)) continue;
+            int64_t l = lo[j], h = hi[j], w = h - l;
+            int64_t c;
+            if (w < 2)
+                c = h;
+            else if (w < 8 || l < 0 || l > nx - kHybridLinearNodes)
+                c = l + CountNotAbove(x, l, h, s[j]);
+            else
+                c = l + CountWindow(x + l, w, s[j]);
+            out[j] = static_cast<int32_t>(c);
+        }
+    }
 }
 
 // The sorted searcher's running walk over ascending sites.
@@ -224,8 +341,7 @@ void SearchPlain(const SearchSetup<T>& st, int64_t n, const T* site, int32_t* ce
             cell[i] = static_cast<int32_t>(PeakCell(nx, x, st.peak, site[i]));
         break;
     default:
-        for (int64_t i = 0; i < n; ++i)
-            cell[i] = static_cast<int32_t>(HybridCell(nx, x, st.table, st.scale, site[i]));
+        HybridCells(nx, x, st.table, st.scale, n, site, cell);
         break;
     }
 }
