@@ -167,6 +167,7 @@ inline int64_t CountWindow(const double* p, int64_t n, double s) {
     __m128i nv = _mm_set1_epi64x(n);
     __m128i index = _mm_set_epi64x(1, 0);
     __m128i acc = _mm_setzero_si128();
+#pragma GCC unroll 10
     for (int k = 0; k < kHybridLinearNodes; k += 2) {
         __m128i le = _mm_castpd_si128(_mm_cmple_pd(_mm_loadu_pd(p + k), sv));
         acc = _mm_sub_epi64(acc, _mm_and_si128(le, _mm_cmpgt_epi64(nv, index)));
@@ -180,6 +181,7 @@ inline int64_t CountWindow(const float* p, int64_t n, float s) {
     __m128i nv = _mm_set1_epi32(static_cast<int32_t>(n));
     __m128i index = _mm_set_epi32(3, 2, 1, 0);
     __m128i acc = _mm_setzero_si128();
+#pragma GCC unroll 5
     for (int k = 0; k < kHybridLinearNodes; k += 4) {
         __m128i le = _mm_castps_si128(_mm_cmple_ps(_mm_loadu_ps(p + k), sv));
         acc = _mm_sub_epi32(acc, _mm_and_si128(le, _mm_cmpgt_epi32(nv, index)));
@@ -188,6 +190,16 @@ inline int64_t CountWindow(const float* p, int64_t n, float s) {
     acc = _mm_add_epi32(acc, _mm_shuffle_epi32(acc, 0x4E));
     acc = _mm_add_epi32(acc, _mm_shuffle_epi32(acc, 0xB1));
     return _mm_cvtsi128_si32(acc);
+}
+
+// All ones when a > s (false for a NaN), from the SSE compare itself: a mask to
+// select with, where the compiler would turn a plain comparison into a branch.
+inline int64_t AboveMask(double a, double s) {
+    return _mm_cvtsi128_si64(_mm_castpd_si128(_mm_cmpgt_sd(_mm_set_sd(a), _mm_set_sd(s))));
+}
+
+inline int64_t AboveMask(float a, float s) {
+    return _mm_cvtsi128_si32(_mm_castps_si128(_mm_cmpgt_ss(_mm_set_ss(a), _mm_set_ss(s))));
 }
 
 // Sites searched side by side by the hybrid searcher. A lone search is a chain of
@@ -231,19 +243,22 @@ void HybridCells(int64_t nx, const T* x, const SearchPair* table, T scale, int64
                 pending |= 1u << j;
             }
         }
-        // Bisection rounds until every lane is down to 20 nodes. A lane that is done
-        // reads x[0] and keeps its bounds; the updates are selects, not branches.
+        // Bisection rounds until every lane is down to 20 nodes, the same for all lanes
+        // so that the step compiles to selects rather than branches (which would be
+        // mispredicted half the time).
         for (bool more = pending != 0; more;) {
             more = false;
             for (int j = 0; j < kHybridLanes; ++j) {
                 int64_t l = lo[j], h = hi[j];
-                bool active = l < h - kHybridLinearNodes;
-                int64_t m = active ? (l + h) >> 1 : 0;
-                bool above = x[m] > s[j];
-                int64_t upper = -static_cast<int64_t>(active & above);
-                int64_t lower = -static_cast<int64_t>(active & !above);
-                h ^= (h ^ m) & upper;
-                l ^= (l ^ m) & lower;
+                // All ones while the lane has more than 20 nodes. A lane that is done
+                // compares x[0], which is not above its site (or it lies outside and
+                // lo = hi = 0), with lo as the midpoint: the update leaves it as it is.
+                int64_t active = (l - h + kHybridLinearNodes) >> 63;
+                int64_t mid = (l + h) >> 1;
+                int64_t m = l + ((mid - l) & active);
+                int64_t above = AboveMask(x[mid & active], s[j]);
+                h ^= (h ^ m) & above;
+                l ^= (l ^ m) & ~above;
                 hi[j] = h;
                 lo[j] = l;
                 more |= l < h - kHybridLinearNodes;
