@@ -14,14 +14,18 @@
  *   kLayout     (optional) Split (default), NoHead or HandTuned
  *   FixNoError  (optional) vector fix-up of lanes for error mode exactly 0x2000:
  *               int FixNoError(const V* x, V* r, int bits) returns the bits left
+ *   kRound      (optional) 16 for a main stage of sixteen elements a round (four quads),
+ *               for bodies whose chains are long enough that more independent work a
+ *               round pays; the elements left after those rounds take one round of
+ *               eight if eight remain, then the tail as usual. Split and NoHead only.
  * and the frame does the rest: environment entry and exit, the split at the input's
  * 16-byte boundary, the partial blocks filled with the safe value 0.75 (nothing outside
- * the vectors is read or written), eight elements a round in the main stage, the lane
- * mask of the range test, the two phases of special handling with the reporter call
- * and the reload of y, and in-place operation (y may equal a or b).
+ * the vectors is read or written), eight (or sixteen) elements a round in the main
+ * stage, the lane mask of the range test, the two phases of special handling with the
+ * reporter call and the reload of y, and in-place operation (y may equal a or b).
  *
  * The frame works in quads of four elements (one single register, two double ones);
- * a main-stage round is two quads. */
+ * a main-stage round is two quads (four with kRound = 16). */
 #ifndef BRENN_VECMATH_FRAME_KERNEL_FRAME_H
 #define BRENN_VECMATH_FRAME_KERNEL_FRAME_H
 
@@ -77,6 +81,16 @@ constexpr const char* NameOf() {
         return B::kName;
     else
         return "";
+}
+// Elements a main-stage round: 8 unless the body asks for 16.
+template <class B>
+constexpr int RoundOf() {
+    if constexpr (requires { B::kRound; }) {
+        static_assert(B::kRound == 8 || B::kRound == 16, "a round is 8 or 16 elements");
+        return B::kRound;
+    } else {
+        return 8;
+    }
 }
 template <class B>
 constexpr bool kHasScalar = requires {
@@ -251,6 +265,37 @@ struct Quads {
         }
     }
 
+    // A main-stage round of sixteen: four quads evaluated before the one test of their
+    // special bits; with a special lane, the quads' results go through memory and the
+    // special lanes are handled quad by quad, lane 0 up, as in a round of eight.
+    static inline void Round16(const B& body, const Env<B>& env, const Args<T>& v, int i) {
+        // Unrolled, so that the quads stay in registers and interleave.
+        Q q[4];
+        int bits = 0;
+#pragma GCC unroll 4
+        for (int k = 0; k < 4; ++k)
+            bits |= Eval(body, v.a + i + 4 * k, At(v.b, i + 4 * k), q[k]) << (4 * k);
+        if (__builtin_expect(bits == 0, 1)) {
+#pragma GCC unroll 4
+            for (int k = 0; k < 4; ++k)
+                Store(q[k], v.y + i + 4 * k, At(v.z, i + 4 * k));
+            return;
+        }
+        if constexpr (kHasScalar<B>) {
+            alignas(16) T ry[16], rz[16];
+            for (int k = 0; k < 4; ++k)
+                Store(q[k], ry + 4 * k, rz + 4 * k);
+            for (int k = 0; k < 4; ++k) {
+                int b = (bits >> (4 * k)) & 0xF;
+                if (b) Special(body, env, v, i + 4 * k, q[k], b, ry + 4 * k, rz + 4 * k);
+            }
+            for (int k = 0; k < 16; ++k) {
+                v.y[i + k] = ry[k];
+                if constexpr (S == Shape::TwoRes) v.z[i + k] = rz[k];
+            }
+        }
+    }
+
     // Hand-tuned fall-back: one element through the scalar routine, which gives the
     // result for any input; a non-zero status is reported on the spot.
     static inline void One(const B& body, const Args<T>& v, int i) {
@@ -271,6 +316,12 @@ struct Quads {
                 if (head >= n) head = n;
                 if (head > 0) Partial(body, env, v, 0, head);
                 i = head;
+            }
+            if constexpr (RoundOf<B>() == 16) {
+                static_assert(layout != Layout::HandTuned, "rounds of 16 need the scalar split");
+                int end16 = i + ((n - i) & ~15);
+                for (; i < end16; i += 16)
+                    Round16(body, env, v, i);
             }
             int end = i + ((n - i) & ~7);
             for (; i < end; i += 8) {

@@ -106,6 +106,7 @@ template <Level L, bool kCos>
 struct SinCosBody {
     using T = float;
     static constexpr const char* kName = kCos ? ZAR_ERROR_NAME(sCos) : ZAR_ERROR_NAME(sSin);
+    static constexpr int kRound = 16;
     static __m128 Eval(__m128 x, __m128& special) {
         __m128 a = _mm_and_ps(x, AbsMask<float>());
         special = InfNanS(a);
@@ -122,6 +123,7 @@ template <Level L>
 struct BothBody {
     using T = float;
     static constexpr const char* kName = ZAR_ERROR_NAME(sSinCos);
+    static constexpr int kRound = 16;
     static void Eval(__m128 x, __m128& s, __m128& c, __m128& special) {
         __m128 a = _mm_and_ps(x, AbsMask<float>());
         special = InfNanS(a);
@@ -156,32 +158,36 @@ struct BothBody {
 using namespace brenn::vm;
 using namespace brenn::vm::trig;
 
+// The whole frame inlined into each kernel: GCC at -O2 leaves the round (and the two-result
+// body) out of line, a call every sixteen elements with the constants reloaded each time.
+#define BRENN_FLAT __attribute__((flatten))
+
 extern "C" {
-void ZAR_KERNEL(sSin, EP) BRENN_SIG(s, Unary) {
+BRENN_FLAT void ZAR_KERNEL(sSin, EP) BRENN_SIG(s, Unary) {
     RunUnary(SinCosBody<Level::EP, false>{}, n, a, y);
 }
-void ZAR_KERNEL(sSin, LA) BRENN_SIG(s, Unary) {
+BRENN_FLAT void ZAR_KERNEL(sSin, LA) BRENN_SIG(s, Unary) {
     RunUnary(SinCosBody<Level::LA, false>{}, n, a, y);
 }
-void ZAR_KERNEL(sSin, HA) BRENN_SIG(s, Unary) {
+BRENN_FLAT void ZAR_KERNEL(sSin, HA) BRENN_SIG(s, Unary) {
     RunUnary(SinCosBody<Level::HA, false>{}, n, a, y);
 }
-void ZAR_KERNEL(sCos, EP) BRENN_SIG(s, Unary) {
+BRENN_FLAT void ZAR_KERNEL(sCos, EP) BRENN_SIG(s, Unary) {
     RunUnary(SinCosBody<Level::EP, true>{}, n, a, y);
 }
-void ZAR_KERNEL(sCos, LA) BRENN_SIG(s, Unary) {
+BRENN_FLAT void ZAR_KERNEL(sCos, LA) BRENN_SIG(s, Unary) {
     RunUnary(SinCosBody<Level::LA, true>{}, n, a, y);
 }
-void ZAR_KERNEL(sCos, HA) BRENN_SIG(s, Unary) {
+BRENN_FLAT void ZAR_KERNEL(sCos, HA) BRENN_SIG(s, Unary) {
     RunUnary(SinCosBody<Level::HA, true>{}, n, a, y);
 }
-void ZAR_KERNEL(sSinCos, EP) BRENN_SIG(s, TwoRes) {
+BRENN_FLAT void ZAR_KERNEL(sSinCos, EP) BRENN_SIG(s, TwoRes) {
     RunTwoRes(BothBody<Level::EP>{}, n, a, y, z);
 }
-void ZAR_KERNEL(sSinCos, LA) BRENN_SIG(s, TwoRes) {
+BRENN_FLAT void ZAR_KERNEL(sSinCos, LA) BRENN_SIG(s, TwoRes) {
     RunTwoRes(BothBody<Level::LA>{}, n, a, y, z);
 }
-void ZAR_KERNEL(sSinCos, HA) BRENN_SIG(s, TwoRes) {
+BRENN_FLAT void ZAR_KERNEL(sSinCos, HA) BRENN_SIG(s, TwoRes) {
     RunTwoRes(BothBody<Level::HA>{}, n, a, y, z);
 }
 }
