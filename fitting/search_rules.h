@@ -161,45 +161,54 @@ inline int64_t HybridCell(int64_t nx, const T* x, const SearchPair* table, T sca
 
 // The long form of CountNotAbove (8 to 20 nodes, every one counted) as a fixed window
 // of 20 nodes from p, those at n and beyond masked off: the same sum without a branch.
-// The whole window must lie inside the partition.
+// The compares are packed down to one bit mask (two bits a node in double precision,
+// one in single) and counted at once. The whole window must lie inside the partition.
 inline int64_t CountWindow(const double* p, int64_t n, double s) {
     __m128d sv = _mm_set1_pd(s);
-    __m128i nv = _mm_set1_epi64x(n);
-    __m128i index = _mm_set_epi64x(1, 0);
-    __m128i acc = _mm_setzero_si128();
-#pragma GCC unroll 10
-    for (int k = 0; k < kHybridLinearNodes; k += 2) {
-        __m128i le = _mm_castpd_si128(_mm_cmple_pd(_mm_loadu_pd(p + k), sv));
-        acc = _mm_sub_epi64(acc, _mm_and_si128(le, _mm_cmpgt_epi64(nv, index)));
-        index = _mm_add_epi64(index, _mm_set1_epi64x(2));
-    }
-    return _mm_cvtsi128_si64(acc) + _mm_extract_epi64(acc, 1);
+    __m128i c[10];
+    for (int k = 0; k < 10; ++k)
+        c[k] = _mm_castpd_si128(_mm_cmple_pd(_mm_loadu_pd(p + 2 * k), sv));
+    __m128i q0 = _mm_packs_epi16(_mm_packs_epi32(c[0], c[1]), _mm_packs_epi32(c[2], c[3]));
+    __m128i q1 = _mm_packs_epi16(_mm_packs_epi32(c[4], c[5]), _mm_packs_epi32(c[6], c[7]));
+    __m128i q2 = _mm_packs_epi16(_mm_packs_epi32(c[8], c[9]), _mm_setzero_si128());
+    uint64_t bits = static_cast<uint64_t>(_mm_movemask_epi8(q0)) |
+                    static_cast<uint64_t>(_mm_movemask_epi8(q1)) << 16 |
+                    static_cast<uint64_t>(_mm_movemask_epi8(q2)) << 32;
+    bits &= (uint64_t(1) << (2 * n)) - 1;
+    return __builtin_popcountll(bits) >> 1;
 }
 
 inline int64_t CountWindow(const float* p, int64_t n, float s) {
     __m128 sv = _mm_set1_ps(s);
-    __m128i nv = _mm_set1_epi32(static_cast<int32_t>(n));
-    __m128i index = _mm_set_epi32(3, 2, 1, 0);
-    __m128i acc = _mm_setzero_si128();
-#pragma GCC unroll 5
-    for (int k = 0; k < kHybridLinearNodes; k += 4) {
-        __m128i le = _mm_castps_si128(_mm_cmple_ps(_mm_loadu_ps(p + k), sv));
-        acc = _mm_sub_epi32(acc, _mm_and_si128(le, _mm_cmpgt_epi32(nv, index)));
-        index = _mm_add_epi32(index, _mm_set1_epi32(4));
-    }
-    acc = _mm_add_epi32(acc, _mm_shuffle_epi32(acc, 0x4E));
-    acc = _mm_add_epi32(acc, _mm_shuffle_epi32(acc, 0xB1));
-    return _mm_cvtsi128_si32(acc);
+    __m128i c[5];
+    for (int k = 0; k < 5; ++k)
+        c[k] = _mm_castps_si128(_mm_cmple_ps(_mm_loadu_ps(p + 4 * k), sv));
+    __m128i zero = _mm_setzero_si128();
+    __m128i q0 = _mm_packs_epi16(_mm_packs_epi32(c[0], c[1]), _mm_packs_epi32(c[2], c[3]));
+    __m128i q1 = _mm_packs_epi16(_mm_packs_epi32(c[4], zero), zero);
+    uint32_t bits = static_cast<uint32_t>(_mm_movemask_epi8(q0)) |
+                    static_cast<uint32_t>(_mm_movemask_epi8(q1)) << 16;
+    bits &= (uint32_t(1) << n) - 1;
+    return __builtin_popcount(bits);
 }
 
-// All ones when a > s (false for a NaN), from the SSE compare itself: a mask to
-// select with, where the compiler would turn a plain comparison into a branch.
-inline int64_t AboveMask(double a, double s) {
-    return _mm_cvtsi128_si64(_mm_castpd_si128(_mm_cmpgt_sd(_mm_set_sd(a), _mm_set_sd(s))));
+// x[i0] > s0 and x[i1] > s1 as two 64-bit masks (false for a NaN); s holds s0, s1.
+inline __m128i AbovePair(const double* x, int64_t i0, int64_t i1, const double* s) {
+    __m128d v = _mm_loadh_pd(_mm_load_sd(x + i0), x + i1);
+    return _mm_castpd_si128(_mm_cmpgt_pd(v, _mm_loadu_pd(s)));
 }
 
-inline int64_t AboveMask(float a, float s) {
-    return _mm_cvtsi128_si32(_mm_castps_si128(_mm_cmpgt_ss(_mm_set_ss(a), _mm_set_ss(s))));
+inline __m128i AbovePair(const float* x, int64_t i0, int64_t i1, const float* s) {
+    __m128 v = _mm_unpacklo_ps(_mm_load_ss(x + i0), _mm_load_ss(x + i1));
+    __m128 sv = _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(s)));
+    return _mm_cvtepi32_epi64(_mm_castps_si128(_mm_cmpgt_ps(v, sv)));
+}
+
+// (a + b) >> 1 with the sign kept, lane by lane: SSE has no 64-bit arithmetic shift.
+inline __m128i HalfSum(__m128i a, __m128i b) {
+    __m128i sum = _mm_add_epi64(a, b);
+    __m128i sign = _mm_and_si128(sum, _mm_set1_epi64x(INT64_MIN));
+    return _mm_or_si128(_mm_srli_epi64(sum, 1), sign);
 }
 
 // Sites searched side by side by the hybrid searcher. A lone search is a chain of
@@ -216,8 +225,8 @@ void HybridCells(int64_t nx, const T* x, const SearchPair* table, T scale, int64
     for (int64_t i = 0; i < n; i += kHybridLanes) {
         int g = n - i < kHybridLanes ? static_cast<int>(n - i) : kHybridLanes;
         int32_t* out = cell + i;
-        T s[kHybridLanes];
-        int64_t lo[kHybridLanes], hi[kHybridLanes];
+        alignas(16) T s[kHybridLanes];
+        alignas(16) int64_t lo[kHybridLanes], hi[kHybridLanes];
         uint32_t pending = 0;
         // Sites outside or at the right end settle here; their lanes, and those past
         // the block's end, idle through the rounds with lo = hi = 0.
@@ -243,26 +252,29 @@ void HybridCells(int64_t nx, const T* x, const SearchPair* table, T scale, int64
                 pending |= 1u << j;
             }
         }
-        // Bisection rounds until every lane is down to 20 nodes, the same for all lanes
-        // so that the step compiles to selects rather than branches (which would be
-        // mispredicted half the time).
+        // Bisection rounds until every lane is down to 20 nodes, two lanes a vector:
+        // selects rather than branches, which would be mispredicted half the time.
         for (bool more = pending != 0; more;) {
-            more = false;
-            for (int j = 0; j < kHybridLanes; ++j) {
-                int64_t l = lo[j], h = hi[j];
+            __m128i any = _mm_setzero_si128();
+            const __m128i limit = _mm_set1_epi64x(kHybridLinearNodes);
+            for (int j = 0; j < kHybridLanes; j += 2) {
+                __m128i l = _mm_load_si128(reinterpret_cast<const __m128i*>(lo + j));
+                __m128i h = _mm_load_si128(reinterpret_cast<const __m128i*>(hi + j));
                 // All ones while the lane has more than 20 nodes. A lane that is done
                 // compares x[0], which is not above its site (or it lies outside and
                 // lo = hi = 0), with lo as the midpoint: the update leaves it as it is.
-                int64_t active = (l - h + kHybridLinearNodes) >> 63;
-                int64_t mid = (l + h) >> 1;
-                int64_t m = l + ((mid - l) & active);
-                int64_t above = AboveMask(x[mid & active], s[j]);
-                h ^= (h ^ m) & above;
-                l ^= (l ^ m) & ~above;
-                hi[j] = h;
-                lo[j] = l;
-                more |= l < h - kHybridLinearNodes;
+                __m128i active = _mm_cmpgt_epi64(_mm_sub_epi64(h, limit), l);
+                __m128i mid = _mm_and_si128(HalfSum(l, h), active);
+                __m128i above =
+                    AbovePair(x, _mm_cvtsi128_si64(mid), _mm_extract_epi64(mid, 1), s + j);
+                __m128i m = _mm_blendv_epi8(l, mid, active);
+                h = _mm_blendv_epi8(h, m, above);
+                l = _mm_blendv_epi8(m, l, above);
+                _mm_store_si128(reinterpret_cast<__m128i*>(lo + j), l);
+                _mm_store_si128(reinterpret_cast<__m128i*>(hi + j), h);
+                any = _mm_or_si128(any, _mm_cmpgt_epi64(_mm_sub_epi64(h, limit), l));
             }
+            more = !_mm_testz_si128(any, any);
         }
         for (int j = 0; j < g; ++j) {
             if (!((pending >> j) & 1)) continue;
