@@ -18,6 +18,11 @@
  *               for bodies whose chains are long enough that more independent work a
  *               round pays; the elements left after those rounds take one round of
  *               eight if eight remain, then the tail as usual. Split and NoHead only.
+ *   EvalWide    (optional, with kRound = 16) the whole round at once, so that the body
+ *               can interleave its registers and test its range once a round:
+ *               int EvalWide(const V* x, V* y) (unary), (const V* x, V* y, V* z)
+ *               (two result), sixteen elements' registers each; returns the special-
+ *               lane bits (bit j for element j of the round)
  * and the frame does the rest: environment entry and exit, the split at the input's
  * 16-byte boundary, the partial blocks filled with the safe value 0.75 (nothing outside
  * the vectors is read or written), eight (or sixteen) elements a round in the main
@@ -95,6 +100,10 @@ constexpr int RoundOf() {
 template <class B>
 constexpr bool kHasScalar = requires {
     &B::Scalar;
+};
+template <class B>
+constexpr bool kHasWide = requires {
+    &B::EvalWide;
 };
 template <class B>
 constexpr bool kHasFix = requires {
@@ -272,9 +281,28 @@ struct Quads {
         // Unrolled, so that the quads stay in registers and interleave.
         Q q[4];
         int bits = 0;
+        if constexpr (kHasWide<B>) {
+            static_assert(S != Shape::Binary, "no wide form for two inputs");
+            constexpr int N = 16 / L;
+            V x[N], y[N], z[N];
+#pragma GCC unroll 16
+            for (int k = 0; k < N; ++k)
+                x[k] = Sd::Load(v.a + i + k * L);
+            if constexpr (S == Shape::Unary)
+                bits = body.EvalWide(x, y);
+            else
+                bits = body.EvalWide(x, y, z);
+#pragma GCC unroll 16
+            for (int k = 0; k < N; ++k) {
+                q[k / R].x[k % R] = x[k];
+                q[k / R].y[k % R] = y[k];
+                if constexpr (S == Shape::TwoRes) q[k / R].z[k % R] = z[k];
+            }
+        } else {
 #pragma GCC unroll 4
-        for (int k = 0; k < 4; ++k)
-            bits |= Eval(body, v.a + i + 4 * k, At(v.b, i + 4 * k), q[k]) << (4 * k);
+            for (int k = 0; k < 4; ++k)
+                bits |= Eval(body, v.a + i + 4 * k, At(v.b, i + 4 * k), q[k]) << (4 * k);
+        }
         if (__builtin_expect(bits == 0, 1)) {
 #pragma GCC unroll 4
             for (int k = 0; k < 4; ++k)

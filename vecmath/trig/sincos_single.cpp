@@ -26,71 +26,111 @@ inline __m128 F(uint32_t b) {
     return _mm_castsi128_ps(_mm_set1_epi32(int(b)));
 }
 
+// The short path works on N registers at once, each step over all of them before the
+// next, so that their chains interleave in the code (a round of sixteen is four
+// registers); one register is N = 1.
+#define BRENN_EACH(k, N) _Pragma("GCC unroll 16") for (int k = 0; k < (N); ++k)
+
 // Odd series at each level on r in [-pi/2, pi/2] (lanes as single).
-inline __m128 SeriesEP(__m128 r, bool cosine) {
-    __m128 u = _mm_mul_ps(r, r);
-    __m128 p = _mm_add_ps(F(cosine ? 0xBE29E73F : 0xBE29E72F), _mm_mul_ps(u, F(0x3BF84524)));
-    return _mm_mul_ps(r, _mm_add_ps(F(0x3F7FF87C), _mm_mul_ps(u, p)));
+template <int N>
+inline void SeriesEP(const __m128* r, bool cosine, __m128* p) {
+    __m128 u[N], q[N];
+    BRENN_EACH(k, N) u[k] = _mm_mul_ps(r[k], r[k]);
+    BRENN_EACH(k, N) {
+        q[k] = _mm_add_ps(F(cosine ? 0xBE29E73F : 0xBE29E72F), _mm_mul_ps(u[k], F(0x3BF84524)));
+    }
+    BRENN_EACH(k, N) p[k] = _mm_mul_ps(r[k], _mm_add_ps(F(0x3F7FF87C), _mm_mul_ps(u[k], q[k])));
 }
-inline __m128 SeriesLA(__m128 r) {
-    __m128 u = _mm_mul_ps(r, r);
-    __m128 p =
-        _mm_add_ps(_mm_set1_ps(-0x1.9f70fp-13f), _mm_mul_ps(u, _mm_set1_ps(0x1.5dc908p-19f)));
-    p = _mm_add_ps(_mm_set1_ps(0x1.110edap-7f), _mm_mul_ps(u, p));
-    p = _mm_add_ps(_mm_set1_ps(-0x1.55554cp-3f), _mm_mul_ps(u, p));
-    return _mm_add_ps(r, _mm_mul_ps(_mm_mul_ps(r, u), p));
+template <int N>
+inline void SeriesLA(const __m128* r, __m128* p) {
+    __m128 u[N], q[N];
+    BRENN_EACH(k, N) u[k] = _mm_mul_ps(r[k], r[k]);
+    BRENN_EACH(k, N) {
+        q[k] = _mm_add_ps(_mm_set1_ps(-0x1.9f70fp-13f),
+                          _mm_mul_ps(u[k], _mm_set1_ps(0x1.5dc908p-19f)));
+    }
+    BRENN_EACH(k, N) q[k] = _mm_add_ps(_mm_set1_ps(0x1.110edap-7f), _mm_mul_ps(u[k], q[k]));
+    BRENN_EACH(k, N) q[k] = _mm_add_ps(_mm_set1_ps(-0x1.55554cp-3f), _mm_mul_ps(u[k], q[k]));
+    BRENN_EACH(k, N) p[k] = _mm_add_ps(r[k], _mm_mul_ps(_mm_mul_ps(r[k], u[k]), q[k]));
 }
-inline __m128d SeriesHA(__m128d r) {
-    __m128d u = _mm_mul_pd(r, r);
-    __m128d p = _mm_add_pd(_mm_set1_pd(-0.00019809602902257352),
-                           _mm_mul_pd(u, _mm_set1_pd(2.605780638722852e-06)));
-    p = _mm_add_pd(_mm_set1_pd(0.0083330662460856901), _mm_mul_pd(u, p));
-    p = _mm_add_pd(_mm_set1_pd(-0.16666659550427829), _mm_mul_pd(u, p));
-    return _mm_add_pd(r, _mm_mul_pd(_mm_mul_pd(r, u), p));
+template <int M>
+inline void SeriesHA(const __m128d* r, __m128d* p) {
+    __m128d u[M], q[M];
+    BRENN_EACH(k, M) u[k] = _mm_mul_pd(r[k], r[k]);
+    BRENN_EACH(k, M) {
+        q[k] = _mm_add_pd(_mm_set1_pd(-0.00019809602902257352),
+                          _mm_mul_pd(u[k], _mm_set1_pd(2.605780638722852e-06)));
+    }
+    BRENN_EACH(k, M) q[k] = _mm_add_pd(_mm_set1_pd(0.0083330662460856901), _mm_mul_pd(u[k], q[k]));
+    BRENN_EACH(k, M) q[k] = _mm_add_pd(_mm_set1_pd(-0.16666659550427829), _mm_mul_pd(u[k], q[k]));
+    BRENN_EACH(k, M) p[k] = _mm_add_pd(r[k], _mm_mul_pd(_mm_mul_pd(r[k], u[k]), q[k]));
 }
 
-// r = a - n pi in double, lanes 0-1 and 2-3.
-inline void ReduceD(__m128 a, __m128 n, __m128d& r0, __m128d& r1) {
+// r = a - n pi in double, lanes 0-1 of register k in r[2k], 2-3 in r[2k+1].
+template <int N>
+inline void ReduceD(const __m128* a, const __m128* n, __m128d* r) {
     const __m128d ph = _mm_set1_pd(3.1415926535846666), pl = _mm_set1_pd(5.1266883031890378e-12);
-    __m128d a0 = _mm_cvtps_pd(a), a1 = _mm_cvtps_pd(_mm_movehl_ps(a, a));
-    __m128d n0 = _mm_cvtps_pd(n), n1 = _mm_cvtps_pd(_mm_movehl_ps(n, n));
-    r0 = _mm_sub_pd(_mm_sub_pd(a0, _mm_mul_pd(n0, ph)), _mm_mul_pd(n0, pl));
-    r1 = _mm_sub_pd(_mm_sub_pd(a1, _mm_mul_pd(n1, ph)), _mm_mul_pd(n1, pl));
+    __m128d ad[2 * N], nd[2 * N];
+    BRENN_EACH(k, N) {
+        ad[2 * k] = _mm_cvtps_pd(a[k]);
+        ad[2 * k + 1] = _mm_cvtps_pd(_mm_movehl_ps(a[k], a[k]));
+        nd[2 * k] = _mm_cvtps_pd(n[k]);
+        nd[2 * k + 1] = _mm_cvtps_pd(_mm_movehl_ps(n[k], n[k]));
+    }
+    BRENN_EACH(k, 2 * N)
+    r[k] = _mm_sub_pd(_mm_sub_pd(ad[k], _mm_mul_pd(nd[k], ph)), _mm_mul_pd(nd[k], pl));
 }
 inline __m128 Narrow(__m128d d0, __m128d d1) {
     return _mm_movelh_ps(_mm_cvtpd_ps(d0), _mm_cvtpd_ps(d1));
 }
 
 // sin(a) (cosine = false) or cos(a) (true) of a = |x| by the short path, without the
-// sign of x.
+// sign of x, for N registers. Lanes above the limit are the large path's: with kClamp
+// they are clamped and raise no flag here; without, the caller has seen that there are
+// none (then the clamp changes nothing).
+template <Level L, int N, bool kClamp>
+inline void ShortN(const __m128* x, bool cosine, __m128* p) {
+    __m128 a[N], t[N], sign[N], n[N];
+    BRENN_EACH(k, N) a[k] = kClamp ? _mm_min_ps(x[k], F(kLimitS)) : x[k];
+    const __m128 shifter = _mm_set1_ps(kShifterS);
+    BRENN_EACH(k, N) t[k] = _mm_mul_ps(a[k], F(0x3EA2F983));
+    if (cosine) BRENN_EACH(k, N) t[k] = _mm_add_ps(t[k], _mm_set1_ps(0.5f));
+    BRENN_EACH(k, N) t[k] = _mm_add_ps(t[k], shifter);
+    BRENN_EACH(k, N) sign[k] = _mm_castsi128_ps(_mm_slli_epi32(_mm_castps_si128(t[k]), 31));
+    BRENN_EACH(k, N) n[k] = _mm_sub_ps(t[k], shifter);
+    if (cosine) BRENN_EACH(k, N) n[k] = _mm_sub_ps(n[k], _mm_set1_ps(0.5f));
+    if constexpr (L == Level::EP) {
+        __m128 r[N];
+        BRENN_EACH(k, N) r[k] = _mm_sub_ps(a[k], _mm_mul_ps(n[k], F(0x40490000)));
+        BRENN_EACH(k, N) r[k] = _mm_sub_ps(r[k], _mm_mul_ps(n[k], F(0x3A7DA000)));
+        BRENN_EACH(k, N) r[k] = _mm_sub_ps(r[k], _mm_mul_ps(n[k], F(0x34222169)));
+        SeriesEP<N>(r, cosine, p);
+    } else {
+        __m128d r[2 * N];
+        ReduceD<N>(a, n, r);
+        if constexpr (L == Level::LA) {
+            __m128 rs[N];
+            BRENN_EACH(k, N) rs[k] = Narrow(r[2 * k], r[2 * k + 1]);
+            SeriesLA<N>(rs, p);
+        } else {
+            __m128d pd[2 * N];
+            SeriesHA<2 * N>(r, pd);
+            BRENN_EACH(k, N) p[k] = Narrow(pd[2 * k], pd[2 * k + 1]);
+        }
+    }
+    BRENN_EACH(k, N) p[k] = _mm_xor_ps(p[k], sign[k]);
+    // cos of tiny arguments: exactly 1.0, as the rounded value is.
+    if (cosine) {
+        BRENN_EACH(k, N) {
+            p[k] = _mm_blendv_ps(p[k], _mm_set1_ps(1.0f), _mm_cmplt_ps(a[k], F(0x39800000)));
+        }
+    }
+}
+
 template <Level L>
 inline __m128 Short(__m128 a, bool cosine) {
-    // Lanes above the limit are the large path's: clamped, they raise no flag here.
-    a = _mm_min_ps(a, F(kLimitS));
-    const __m128 shifter = _mm_set1_ps(kShifterS);
-    __m128 t = _mm_mul_ps(a, F(0x3EA2F983));
-    if (cosine) t = _mm_add_ps(t, _mm_set1_ps(0.5f));
-    t = _mm_add_ps(t, shifter);
-    __m128 sign = _mm_castsi128_ps(_mm_slli_epi32(_mm_castps_si128(t), 31));
-    __m128 n = _mm_sub_ps(t, shifter);
-    if (cosine) n = _mm_sub_ps(n, _mm_set1_ps(0.5f));
     __m128 p;
-    if constexpr (L == Level::EP) {
-        __m128 r = _mm_sub_ps(a, _mm_mul_ps(n, F(0x40490000)));
-        r = _mm_sub_ps(r, _mm_mul_ps(n, F(0x3A7DA000)));
-        r = _mm_sub_ps(r, _mm_mul_ps(n, F(0x34222169)));
-        p = SeriesEP(r, cosine);
-    } else {
-        __m128d r0, r1;
-        ReduceD(a, n, r0, r1);
-        if constexpr (L == Level::LA)
-            p = SeriesLA(Narrow(r0, r1));
-        else
-            p = Narrow(SeriesHA(r0), SeriesHA(r1));
-    }
-    p = _mm_xor_ps(p, sign);
-    // cos of tiny arguments: exactly 1.0, as the rounded value is.
-    if (cosine) p = _mm_blendv_ps(p, _mm_set1_ps(1.0f), _mm_cmplt_ps(a, F(0x39800000)));
+    ShortN<L, 1, true>(&a, cosine, &p);
     return p;
 }
 
@@ -100,6 +140,15 @@ inline __m128 WithLarge(__m128 a, __m128 p, int big, bool cosine) {
     __m128i m =
         _mm_set_epi32(big & 8 ? -1 : 0, big & 4 ? -1 : 0, big & 2 ? -1 : 0, big & 1 ? -1 : 0);
     return _mm_blendv_ps(p, l, _mm_castsi128_ps(m));
+}
+
+// Magnitudes of a round's four registers, and whether any lane is above the limit
+// (infinity and NaN are, as bits): one compare on the largest of them.
+inline bool AnyAboveS(const __m128* x, __m128* a) {
+    BRENN_EACH(k, 4) a[k] = _mm_and_ps(x[k], AbsMask<float>());
+    __m128i m = _mm_max_epi32(_mm_max_epi32(_mm_castps_si128(a[0]), _mm_castps_si128(a[1])),
+                              _mm_max_epi32(_mm_castps_si128(a[2]), _mm_castps_si128(a[3])));
+    return _mm_movemask_ps(_mm_castsi128_ps(_mm_cmpgt_epi32(m, _mm_set1_epi32(int(kLimitS))))) != 0;
 }
 
 template <Level L, bool kCos>
@@ -115,6 +164,23 @@ struct SinCosBody {
         if (__builtin_expect(big != 0, 0)) p = WithLarge(a, p, big, kCos);
         if (!kCos) p = _mm_xor_ps(p, _mm_and_ps(x, SignMask<float>()));
         return p;
+    }
+    // A round of sixteen: with no lane above the limit (the common case), the short
+    // path on the four registers together, unclamped; otherwise quad by quad.
+    static int EvalWide(const __m128* x, __m128* y) {
+        __m128 a[4];
+        if (__builtin_expect(AnyAboveS(x, a), 0)) {
+            int bits = 0;
+            BRENN_EACH(k, 4) {
+                __m128 special;
+                y[k] = Eval(x[k], special);
+                bits |= _mm_movemask_ps(special) << (4 * k);
+            }
+            return bits;
+        }
+        ShortN<L, 4, false>(a, kCos, y);
+        if (!kCos) BRENN_EACH(k, 4) y[k] = _mm_xor_ps(y[k], _mm_and_ps(x[k], SignMask<float>()));
+        return 0;
     }
     static int Scalar(const float* a, float* y) { return InfNanScalar(a, y); }
 };
@@ -144,6 +210,22 @@ struct BothBody {
             c = _mm_blendv_ps(c, lc, _mm_castsi128_ps(m));
         }
         s = _mm_xor_ps(s, _mm_and_ps(x, SignMask<float>()));
+    }
+    static int EvalWide(const __m128* x, __m128* s, __m128* c) {
+        __m128 a[4];
+        if (__builtin_expect(AnyAboveS(x, a), 0)) {
+            int bits = 0;
+            BRENN_EACH(k, 4) {
+                __m128 special;
+                Eval(x[k], s[k], c[k], special);
+                bits |= _mm_movemask_ps(special) << (4 * k);
+            }
+            return bits;
+        }
+        ShortN<L, 4, false>(a, false, s);
+        ShortN<L, 4, false>(a, true, c);
+        BRENN_EACH(k, 4) s[k] = _mm_xor_ps(s[k], _mm_and_ps(x[k], SignMask<float>()));
+        return 0;
     }
     static int Scalar(const float* a, float* y, float* z) {
         int st = InfNanScalar(a, y);
