@@ -319,12 +319,13 @@ TEST(Trig, DegreesAndPiUnits) {
     brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);
 }
 
-// The single sine and cosine rows run their main stage sixteen elements a round, all
-// four registers at once when no lane is above the short path's limit and quad by quad
-// otherwise. Whatever the length, the start's alignment and where huge, tiny,
-// infinite or NaN lanes fall, each element must come out as it does alone (a call of
-// one element takes the partial-block path, one register, clamped); special lanes are
-// reported in order, also in place.
+// The single sine, cosine and tangent rows run their main stage sixteen elements a
+// round, all four registers at once when no lane is above the short path's limit and
+// quad by quad otherwise. Whatever the length, the start's alignment and where huge,
+// tiny, infinite or NaN lanes fall, each element must come out as it does alone (a call
+// of one element takes the partial-block path, one register, clamped); special lanes
+// are reported in order, also in place.
+
 // Runs a row (unary, or the two-result sSinCos) on n elements; z stays empty for unary.
 void RunRow(const char* row, int slot, int n, const float* a, float* y, float* z) {
     if (z)
@@ -352,6 +353,7 @@ std::vector<float> Pattern(int kind, int n, std::mt19937& gen) {
             if (i % 3 == 0) x[i] = std::ldexp(x[i], -14);
             if (i % 7 == 1) x[i] = i % 2 ? -0.0f : 0.0f;
             if (i % 11 == 2) x[i] = i % 2 ? 10000.0f : std::nextafter(10000.0f, 2e4f);
+            if (i % 13 == 3) x[i] = i % 2 ? -8256.0f : std::nextafter(8256.0f, 1e4f);
             break;
         }
     }
@@ -361,7 +363,7 @@ std::vector<float> Pattern(int kind, int n, std::mt19937& gen) {
 TEST(TrigRounds, EveryElementAsAlone) {
     brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_IGNORE);
     std::mt19937 gen(5);
-    for (const char* row : {"sSin", "sCos", "sSinCos"}) {
+    for (const char* row : {"sSin", "sCos", "sSinCos", "sTan"}) {
         const bool two = std::string(row) == "sSinCos";
         for (int slot = 0; slot < kSlots; ++slot)
             for (int kind = 0; kind < 4; ++kind)
@@ -404,7 +406,7 @@ TEST(TrigRounds, SpecialLanesReportedInOrderInPlace) {
     for (int i : infs)
         x[i] = i % 2 ? -INFINITY : INFINITY;
     x[9] = NAN; // special, but not an error
-    for (const char* row : {"sSin", "sCos", "sSinCos"}) {
+    for (const char* row : {"sSin", "sCos", "sSinCos", "sTan"}) {
         const bool two = std::string(row) == "sSinCos";
         for (int slot = 0; slot < kSlots; ++slot) {
             brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_IGNORE);

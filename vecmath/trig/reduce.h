@@ -26,6 +26,10 @@ namespace brenn::vm::trig {
 #define BRENN_TRIG_HOT inline __attribute__((always_inline))
 #define BRENN_TRIG_COLD inline __attribute__((noinline))
 
+// The single bodies evaluate a round of sixteen as four registers, each step over all
+// of them before the next, so that their long chains interleave in the code.
+#define BRENN_EACH(k, N) _Pragma("GCC unroll 16") for (int k = 0; k < (N); ++k)
+
 constexpr double kPi64 = 0x1.921fb54442d18p-5; // pi/64 rounded
 constexpr double kPi64Lo = 0x1.1a62633145c07p-59;
 constexpr double k64OverPi = 0x1.45f306dc9c883p+4;
@@ -353,6 +357,16 @@ int InfNanScalar(const T* a, T* y) {
     }
     if (__builtin_isnan(x)) *y = x * x;
     return 0;
+}
+
+// Magnitudes of a round's four single registers, and whether any lane is above the
+// limit (infinity and NaN are, as bits): one compare on the largest of them.
+inline bool AnyAboveS(const __m128* x, __m128* a, uint32_t limitBits) {
+    BRENN_EACH(k, 4) a[k] = _mm_and_ps(x[k], AbsMask<float>());
+    __m128i m = _mm_max_epi32(_mm_max_epi32(_mm_castps_si128(a[0]), _mm_castps_si128(a[1])),
+                              _mm_max_epi32(_mm_castps_si128(a[2]), _mm_castps_si128(a[3])));
+    return _mm_movemask_ps(_mm_castsi128_ps(_mm_cmpgt_epi32(m, _mm_set1_epi32(int(limitBits))))) !=
+           0;
 }
 
 // Lanes with the exponent field all ones, as the range-test mask.

@@ -26,11 +26,6 @@ inline __m128 F(uint32_t b) {
     return _mm_castsi128_ps(_mm_set1_epi32(int(b)));
 }
 
-// The short path works on N registers at once, each step over all of them before the
-// next, so that their chains interleave in the code (a round of sixteen is four
-// registers); one register is N = 1.
-#define BRENN_EACH(k, N) _Pragma("GCC unroll 16") for (int k = 0; k < (N); ++k)
-
 // Odd series at each level on r in [-pi/2, pi/2] (lanes as single).
 template <int N>
 inline void SeriesEP(const __m128* r, bool cosine, __m128* p) {
@@ -85,9 +80,9 @@ inline __m128 Narrow(__m128d d0, __m128d d1) {
 }
 
 // sin(a) (cosine = false) or cos(a) (true) of a = |x| by the short path, without the
-// sign of x, for N registers. Lanes above the limit are the large path's: with kClamp
-// they are clamped and raise no flag here; without, the caller has seen that there are
-// none (then the clamp changes nothing).
+// sign of x, for N registers, each step over all of them before the next. Lanes above the limit are
+// the large path's: with kClamp they are clamped and raise no flag here; without, the caller has
+// seen that there are none (then the clamp changes nothing).
 template <Level L, int N, bool kClamp>
 inline void ShortN(const __m128* x, bool cosine, __m128* p) {
     __m128 a[N], t[N], sign[N], n[N];
@@ -142,15 +137,6 @@ inline __m128 WithLarge(__m128 a, __m128 p, int big, bool cosine) {
     return _mm_blendv_ps(p, l, _mm_castsi128_ps(m));
 }
 
-// Magnitudes of a round's four registers, and whether any lane is above the limit
-// (infinity and NaN are, as bits): one compare on the largest of them.
-inline bool AnyAboveS(const __m128* x, __m128* a) {
-    BRENN_EACH(k, 4) a[k] = _mm_and_ps(x[k], AbsMask<float>());
-    __m128i m = _mm_max_epi32(_mm_max_epi32(_mm_castps_si128(a[0]), _mm_castps_si128(a[1])),
-                              _mm_max_epi32(_mm_castps_si128(a[2]), _mm_castps_si128(a[3])));
-    return _mm_movemask_ps(_mm_castsi128_ps(_mm_cmpgt_epi32(m, _mm_set1_epi32(int(kLimitS))))) != 0;
-}
-
 template <Level L, bool kCos>
 struct SinCosBody {
     using T = float;
@@ -169,7 +155,7 @@ struct SinCosBody {
     // path on the four registers together, unclamped; otherwise quad by quad.
     static int EvalWide(const __m128* x, __m128* y) {
         __m128 a[4];
-        if (__builtin_expect(AnyAboveS(x, a), 0)) {
+        if (__builtin_expect(AnyAboveS(x, a, kLimitS), 0)) {
             int bits = 0;
             BRENN_EACH(k, 4) {
                 __m128 special;
@@ -213,7 +199,7 @@ struct BothBody {
     }
     static int EvalWide(const __m128* x, __m128* s, __m128* c) {
         __m128 a[4];
-        if (__builtin_expect(AnyAboveS(x, a), 0)) {
+        if (__builtin_expect(AnyAboveS(x, a, kLimitS), 0)) {
             int bits = 0;
             BRENN_EACH(k, 4) {
                 __m128 special;
