@@ -84,7 +84,7 @@ inline __m128 Narrow(__m128d d0, __m128d d1) {
 // the large path's: with kClamp they are clamped and raise no flag here; without, the caller has
 // seen that there are none (then the clamp changes nothing).
 template <Level L, int N, bool kClamp>
-inline void ShortN(const __m128* x, bool cosine, __m128* p) {
+inline void ShortN(const __m128* x, bool cosine, __m128* p, const __m128* signOf = nullptr) {
     __m128 a[N], t[N], sign[N], n[N];
     BRENN_EACH(k, N) a[k] = kClamp ? _mm_min_ps(x[k], F(kLimitS)) : x[k];
     const __m128 shifter = _mm_set1_ps(kShifterS);
@@ -92,6 +92,9 @@ inline void ShortN(const __m128* x, bool cosine, __m128* p) {
     if (cosine) BRENN_EACH(k, N) t[k] = _mm_add_ps(t[k], _mm_set1_ps(0.5f));
     BRENN_EACH(k, N) t[k] = _mm_add_ps(t[k], shifter);
     BRENN_EACH(k, N) sign[k] = _mm_castsi128_ps(_mm_slli_epi32(_mm_castps_si128(t[k]), 31));
+    // The sign of x for sine goes in with the quadrant's: one value a register to keep.
+    if (signOf)
+        BRENN_EACH(k, N) sign[k] = _mm_xor_ps(sign[k], _mm_and_ps(signOf[k], SignMask<float>()));
     BRENN_EACH(k, N) n[k] = _mm_sub_ps(t[k], shifter);
     if (cosine) BRENN_EACH(k, N) n[k] = _mm_sub_ps(n[k], _mm_set1_ps(0.5f));
     if constexpr (L == Level::EP) {
@@ -164,8 +167,7 @@ struct SinCosBody {
             }
             return bits;
         }
-        ShortN<L, 4, false>(a, kCos, y);
-        if (!kCos) BRENN_EACH(k, 4) y[k] = _mm_xor_ps(y[k], _mm_and_ps(x[k], SignMask<float>()));
+        ShortN<L, 4, false>(a, kCos, y, kCos ? nullptr : x);
         return 0;
     }
     static int Scalar(const float* a, float* y) { return InfNanScalar(a, y); }
@@ -208,9 +210,8 @@ struct BothBody {
             }
             return bits;
         }
-        ShortN<L, 4, false>(a, false, s);
+        ShortN<L, 4, false>(a, false, s, x);
         ShortN<L, 4, false>(a, true, c);
-        BRENN_EACH(k, 4) s[k] = _mm_xor_ps(s[k], _mm_and_ps(x[k], SignMask<float>()));
         return 0;
     }
     static int Scalar(const float* a, float* y, float* z) {
