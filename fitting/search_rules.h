@@ -50,24 +50,35 @@ inline int64_t UniformCell(int64_t nx, T x0, T right, T scale, T s) {
     return e < nx ? e : nx;
 }
 
+// The walks of a guess, up past the nodes not above s and down past those above it,
+// four nodes a test while all four pass and then one by one: the same stop as a walk
+// node by node, whatever the nodes, with a quarter of the loop branches. A long walk
+// node by node runs at the rate of taken branches, and that rate hangs on where the
+// loop happens to lie in memory.
+template <typename T>
+inline int64_t WalkUp(int64_t nx, const T* x, T s, int64_t c) {
+    while (c + 4 <= nx && ((x[c] <= s) & (x[c + 1] <= s) & (x[c + 2] <= s) & (x[c + 3] <= s)))
+        c += 4;
+    while (c < nx && x[c] <= s)
+        ++c;
+    return c;
+}
+
+template <typename T>
+inline int64_t WalkDown(const T* x, T s, int64_t c) {
+    while (c >= 4 && ((x[c - 1] > s) & (x[c - 2] > s) & (x[c - 3] > s) & (x[c - 4] > s)))
+        c -= 4;
+    while (c > 0 && x[c - 1] > s)
+        --c;
+    return c;
+}
+
 // From a guess e (0 to nx), the walk to the true cell.
 template <typename T>
 inline int64_t WalkFrom(int64_t nx, const T* x, T s, int64_t e) {
-    int64_t c;
-    if (e >= nx) {
-        c = nx;
-        while (c > 0 && x[c - 1] > s)
-            --c;
-    } else if (s >= x[e]) {
-        c = e;
-        while (c < nx && x[c] <= s)
-            ++c;
-    } else {
-        c = e;
-        while (c > 0 && x[c - 1] > s)
-            --c;
-    }
-    return c;
+    if (e >= nx) return WalkDown(x, s, nx);
+    if (s >= x[e]) return WalkUp(nx, x, s, e);
+    return WalkDown(x, s, e);
 }
 
 template <typename T>

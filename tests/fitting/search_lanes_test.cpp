@@ -1,8 +1,10 @@
-// The hybrid searcher's lanes (sixteen sites in step) against the lone-site rule,
+// The searchers' fast paths against their plain forms. The hybrid searcher's lanes
+// (sixteen sites in step) against the lone-site rule,
 // cell for cell: every block length around the lane count, sites at and beside nodes,
 // outside, at the ends, infinite and NaN; fresh, stale and arbitrary tables, and no
 // table. The lone rule is the reference even where no cell is "right" (a stale table,
-// a NaN), because the searcher must give what its steps give.
+// a NaN), because the searcher must give what its steps give. The guess walks, four
+// nodes a test, against a walk node by node.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -138,6 +140,50 @@ TEST(FittingSearchLanes, ArbitraryTablesAndUnorderedNodesDouble) {
 }
 TEST(FittingSearchLanes, ArbitraryTablesAndUnorderedNodesSingle) {
     ArbitraryTablesAndUnorderedNodes<float>();
+}
+
+} // namespace
+
+namespace {
+
+// The guess walks of the quasi-uniform and user-defined searchers skip four nodes at a
+// time; they must stop where a walk node by node stops, from every guess, over nodes
+// in order and out of order, with sites between, on and beyond the nodes.
+template <typename T>
+int64_t NodeByNodeWalk(int64_t nx, const T* x, T s, int64_t e) {
+    int64_t c = e >= nx ? nx : e;
+    if (e < nx && s >= x[e]) {
+        while (c < nx && x[c] <= s)
+            ++c;
+    } else {
+        while (c > 0 && x[c - 1] > s)
+            --c;
+    }
+    return c;
+}
+
+template <typename T>
+void WalksStopWhereANodeByNodeWalkStops() {
+    for (int64_t nx : {1, 2, 3, 4, 5, 7, 8, 9, 33}) {
+        for (bool ordered : {true, false}) {
+            std::vector<T> x = RandomSites<T>(nx, 90 + nx, -1.0, 1.0);
+            if (ordered) std::sort(x.begin(), x.end());
+            std::vector<T> sites = RandomSites<T>(40, nx, -1.2, 1.2);
+            sites.insert(sites.end(), x.begin(), x.end());
+            sites.push_back(std::numeric_limits<T>::quiet_NaN());
+            for (T s : sites)
+                for (int64_t e = 0; e <= nx; ++e)
+                    ASSERT_EQ(WalkFrom(nx, x.data(), s, e), NodeByNodeWalk(nx, x.data(), s, e))
+                        << "nx " << nx << " ordered " << ordered << " guess " << e << " site " << s;
+        }
+    }
+}
+
+TEST(FittingSearchLanes, WalksStopWhereANodeByNodeWalkStopsDouble) {
+    WalksStopWhereANodeByNodeWalkStops<double>();
+}
+TEST(FittingSearchLanes, WalksStopWhereANodeByNodeWalkStopsSingle) {
+    WalksStopWhereANodeByNodeWalkStops<float>();
 }
 
 } // namespace
