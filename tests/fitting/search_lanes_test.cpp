@@ -1,10 +1,10 @@
 // The searchers' fast paths against their plain forms. The hybrid searcher's lanes
-// (sixteen sites in step) against the lone-site rule,
-// cell for cell: every block length around the lane count, sites at and beside nodes,
-// outside, at the ends, infinite and NaN; fresh, stale and arbitrary tables, and no
-// table. The lone rule is the reference even where no cell is "right" (a stale table,
-// a NaN), because the searcher must give what its steps give. The guess walks, four
-// nodes a test, against a walk node by node.
+// (sixteen sites in step) against the lone-site rule, cell for cell: every block
+// length around the lane count, sites at and beside nodes, outside, at the ends,
+// infinite and NaN; fresh, stale and arbitrary tables, and no table. The lone rule is
+// the reference even where no cell is "right" (a stale table, a NaN), because the
+// searcher must give what its steps give. The guess walks, four nodes a test, against
+// a walk node by node.
 #include <gtest/gtest.h>
 
 #include <cmath>
