@@ -223,8 +223,9 @@ inline __m128i HalfSum(__m128i a, __m128i b) {
 }
 
 // Sites searched side by side by the hybrid searcher. A lone search is a chain of
-// dependent loads, each a likely cache miss in a large partition; with this many
-// searches in step, the loads of one round are independent and their misses overlap.
+// dependent loads, each a likely cache miss in a large partition, and of branches
+// that go either way at random; with this many searches in step and selects in place
+// of the branches, the loads of one round are independent and their misses overlap.
 constexpr int kHybridLanes = 16;
 
 // The hybrid rule over a block of sites, lane by lane: the same steps as HybridCell,
