@@ -369,6 +369,19 @@ inline bool AnyAboveS(const __m128* x, __m128* a, uint32_t limitBits) {
            0;
 }
 
+// A round of sixteen quad by quad, when a lane is above the short path's limit: each
+// register through the body's Eval, their special bits packed for the frame.
+template <class Body>
+inline int EvalQuadsS(const __m128* x, __m128* y) {
+    int bits = 0;
+    BRENN_EACH(k, 4) {
+        __m128 special;
+        y[k] = Body::Eval(x[k], special);
+        bits |= _mm_movemask_ps(special) << (4 * k);
+    }
+    return bits;
+}
+
 // Lanes with the exponent field all ones, as the range-test mask.
 inline __m128 InfNanS(__m128 a) {
     return _mm_castsi128_ps(_mm_cmpgt_epi32(_mm_castps_si128(a), _mm_set1_epi32(0x7F7FFFFF)));

@@ -158,15 +158,7 @@ struct SinCosBody {
     // path on the four registers together, unclamped; otherwise quad by quad.
     static int EvalWide(const __m128* x, __m128* y) {
         __m128 a[4];
-        if (__builtin_expect(AnyAboveS(x, a, kLimitS), 0)) {
-            int bits = 0;
-            BRENN_EACH(k, 4) {
-                __m128 special;
-                y[k] = Eval(x[k], special);
-                bits |= _mm_movemask_ps(special) << (4 * k);
-            }
-            return bits;
-        }
+        if (__builtin_expect(AnyAboveS(x, a, kLimitS), 0)) return EvalQuadsS<SinCosBody>(x, y);
         ShortN<L, 4, false>(a, kCos, y, kCos ? nullptr : x);
         return 0;
     }

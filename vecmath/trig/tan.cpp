@@ -180,15 +180,7 @@ struct TanS {
     // registers together, unclamped; otherwise quad by quad.
     static int EvalWide(const __m128* x, __m128* y) {
         __m128 a[4];
-        if (__builtin_expect(AnyAboveS(x, a, kLimitTanS), 0)) {
-            int bits = 0;
-            BRENN_EACH(k, 4) {
-                __m128 special;
-                y[k] = Eval(x[k], special);
-                bits |= _mm_movemask_ps(special) << (4 * k);
-            }
-            return bits;
-        }
+        if (__builtin_expect(AnyAboveS(x, a, kLimitTanS), 0)) return EvalQuadsS<TanS>(x, y);
         ShortTan<L, 4, false>(a, y);
         BRENN_EACH(k, 4) y[k] = _mm_xor_ps(y[k], _mm_and_ps(x[k], SignMask<float>()));
         return 0;
