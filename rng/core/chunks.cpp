@@ -11,7 +11,9 @@ namespace brenn::rng {
 
 namespace {
 
-constexpr int32_t kGlobUnlockedLimit = 127; // the locked tests use 128; kept apart on purpose
+// Chunks share a block only while fewer than 127 rows are in use; the exported entry
+// that makes a row may use all 128.
+constexpr int32_t kChunkRowLimit = 127;
 
 QesChunk* NewCell() {
     return static_cast<QesChunk*>(brenn_serv_allocate(sizeof(QesChunk), kStreamAlignment));
@@ -23,7 +25,7 @@ QesChunk* NewCell() {
 // cell with a guid always holds exactly one reference and never owns its block; a
 // cell without one owns it.
 void ShareByGuid(QesChunk* cell) {
-    void* row = GlobShare(cell->guid, cell->data, kGlobUnlockedLimit);
+    void* row = GlobShare(cell->guid, cell->data, kChunkRowLimit);
     if (row == nullptr) {
         cell->guid[0] = cell->guid[1] = 0;
         return;

@@ -1,7 +1,8 @@
 // The process-wide table of read-only blocks that streams of one kind share (the
 // direction tables of quasi-random streams), keyed by a 128-bit guid and counted by
-// reference. One spin lock guards it; the count is also read without the lock by
-// the capacity tests of the chunk functions, which is why it is atomic.
+// reference. One spin lock guards it, rows and count alike: the chunk functions test
+// the capacity and add the row in one locked step, so two streams bringing the same
+// guid cannot both add one.
 #include <atomic>
 #include <x86intrin.h>
 
@@ -16,15 +17,37 @@ constexpr int32_t kGlobRows = 128;
 namespace {
 
 GlobRODataEntry globTable[kGlobRows];
-std::atomic<int32_t> globCount{0};
+int32_t globCount = 0; // rows in use, under the lock
 std::atomic<int32_t> globLock{0};
 
 // Row of a guid, or null; the lock is held by the caller.
 GlobRODataEntry* FindLocked(const uint64_t* guid) {
-    int32_t count = globCount.load(std::memory_order_relaxed);
+    int32_t count = globCount;
     for (int32_t i = 0; i < count; ++i)
         if (globTable[i].idLow == guid[0] && globTable[i].idHigh == guid[1]) return &globTable[i];
     return nullptr;
+}
+
+// A new row with one reference, or null when the table is full; the lock is held.
+GlobRODataEntry* AppendLocked(const uint64_t* guid, void* data) {
+    int32_t count = globCount;
+    if (count >= kGlobRows) return nullptr;
+    globTable[count] = GlobRODataEntry{guid[0], guid[1], 1, data};
+    globCount = count + 1;
+    return &globTable[count];
+}
+
+// Drops one reference of a row; at zero the row gives its data back and the last row
+// takes its place. True when the row went; the lock is held.
+bool ReleaseLocked(GlobRODataEntry* e) {
+    if (--e->refCount != 0) return false;
+    if (e->data != nullptr) brenn_serv_deallocate(e->data);
+    int32_t last = globCount - 1;
+    GlobRODataEntry* end = &globTable[last];
+    if (e != end) *e = *end;
+    *end = GlobRODataEntry{};
+    globCount = last;
+    return true;
 }
 
 } // namespace
@@ -40,11 +63,8 @@ void GlobUnlock() {
     globLock.store(0, std::memory_order_release);
 }
 
-int32_t GlobTableCountUnlocked() {
-    return globCount.load(std::memory_order_relaxed);
-}
-
-bool GlobContains(const uint64_t* guid) {
+// Looks for a guid under the lock.
+static bool GlobContains(const uint64_t* guid) {
     GlobLock();
     bool found = FindLocked(guid) != nullptr;
     GlobUnlock();
@@ -69,13 +89,9 @@ void* GlobShare(const uint64_t* guid, void* data, int32_t rowLimit) {
     if (GlobRODataEntry* e = FindLocked(guid); e != nullptr) {
         e->refCount += 1;
         result = e->data;
-    } else {
-        int32_t count = globCount.load(std::memory_order_relaxed);
-        if (count < rowLimit && count < kGlobRows) {
-            globTable[count] = GlobRODataEntry{guid[0], guid[1], 1, data};
-            globCount.store(count + 1, std::memory_order_relaxed);
-            result = data;
-        }
+    } else if (globCount < rowLimit &&
+               AppendLocked(guid, data) != nullptr) {
+        result = data;
     }
     GlobUnlock();
     return result;
@@ -84,36 +100,21 @@ void* GlobShare(const uint64_t* guid, void* data, int32_t rowLimit) {
 bool GlobReleaseOne(const uint64_t* guid) {
     GlobLock();
     GlobRODataEntry* e = FindLocked(guid);
-    if (e != nullptr && --e->refCount == 0) {
-        if (e->data != nullptr) brenn_serv_deallocate(e->data);
-        int32_t last = globCount.load(std::memory_order_relaxed) - 1;
-        GlobRODataEntry* end = &globTable[last];
-        if (e != end) *e = *end;
-        *end = GlobRODataEntry{};
-        globCount.store(last, std::memory_order_relaxed);
-    }
+    if (e != nullptr) ReleaseLocked(e);
     GlobUnlock();
     return e != nullptr;
 }
 
-void GlobRelease(const uint64_t* guid) {
+// Drops one reference of every row with the guid (rows made by the exported entry may
+// share one), freeing data at zero.
+static void GlobRelease(const uint64_t* guid) {
     GlobLock();
-    // Every matching row loses one reference; a row at zero gives its data back and
-    // is replaced by the last row.
+    // Every matching row loses one reference; a row that goes is replaced by the last
+    // row, which is then looked at in its place.
     int32_t i = 0;
-    while (i < globCount.load(std::memory_order_relaxed)) {
-        GlobRODataEntry& e = globTable[i];
-        if (e.idLow == guid[0] && e.idHigh == guid[1]) {
-            e.refCount -= 1;
-            if (e.refCount == 0) {
-                if (e.data != nullptr) brenn_serv_deallocate(e.data);
-                int32_t last = globCount.load(std::memory_order_relaxed) - 1;
-                if (i != last) globTable[i] = globTable[last];
-                globTable[last] = GlobRODataEntry{};
-                globCount.store(last, std::memory_order_relaxed);
-                continue; // the moved row is looked at in its new place
-            }
-        }
+    while (i < globCount) {
+        GlobRODataEntry* e = &globTable[i];
+        if (e->idLow == guid[0] && e->idHigh == guid[1] && ReleaseLocked(e)) continue;
         ++i;
     }
     GlobUnlock();
@@ -136,15 +137,10 @@ BRENN_EXPORT int32_t __qesFindGlobRODataTableEntry(GlobRODataEntry** entry, cons
 BRENN_EXPORT int32_t __qesCreateGlobRODataTableEntry(GlobRODataEntry** entry, const uint64_t* guid,
                                                      void* data) {
     GlobLock();
-    int32_t count = globCount.load(std::memory_order_relaxed);
-    if (count >= kGlobRows) {
-        GlobUnlock();
-        return QES_RNG_STATUS_GLOB_TABLE_FULL;
-    }
-    globTable[count] = GlobRODataEntry{guid[0], guid[1], 1, data};
-    globCount.store(count + 1, std::memory_order_relaxed);
-    *entry = &globTable[count];
+    GlobRODataEntry* e = AppendLocked(guid, data);
     GlobUnlock();
+    if (e == nullptr) return QES_RNG_STATUS_GLOB_TABLE_FULL;
+    *entry = e;
     return QES_STATUS_OK;
 }
 
@@ -159,7 +155,7 @@ BRENN_EXPORT void __qesRegisterGlobRODataReference(QesChunk* chunk, const uint64
 }
 
 BRENN_EXPORT void __qesUnregisterGlobRODataReference(const uint64_t* guid) {
-    if (GlobContains(guid)) GlobRelease(guid);
+    GlobRelease(guid); // nothing when no row has it
 }
 
 BRENN_EXPORT int32_t __qesGenerateNewGlobalRODataTableEntryId(uint64_t* guid, int32_t kind) {

@@ -9,12 +9,8 @@ namespace brenn::rng {
 
 void GlobLock();
 void GlobUnlock();
-// Looks for a guid under the lock.
-bool GlobContains(const uint64_t* guid);
 // Adds a reference to the guid's row and returns its data; null when absent.
 void* GlobAcquire(const uint64_t* guid);
-// Drops one reference of every row with the guid, freeing data at zero.
-void GlobRelease(const uint64_t* guid);
 // In one locked step: a reference to the guid's row when there is one (its data is
 // returned), else a new row holding `data` when fewer than `rowLimit` rows are in
 // use (`data` is returned), else null: the caller keeps its block privately.

@@ -61,10 +61,6 @@ inline bool GuidIsZero(const uint64_t* guid) {
     return guid == nullptr || (guid[0] == 0 && guid[1] == 0);
 }
 
-// Count of live rows of the shared table, read without the lock as the capacity
-// tests do.
-int32_t GlobTableCountUnlocked();
-
 } // namespace brenn::rng
 
 #endif
