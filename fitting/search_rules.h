@@ -148,28 +148,6 @@ inline int64_t HybridBucket(T x0, T scale, T s) {
     return q > -kLimit && q < kLimit ? static_cast<int64_t>(q) : 0;
 }
 
-template <typename T>
-inline int64_t HybridCell(int64_t nx, const T* x, const SearchPair* table, T scale, T s) {
-    if (s < x[0]) return 0;
-    if (s > x[nx - 1]) return nx;
-    if (s == x[nx - 1]) return nx - 1;
-    int64_t lo = 0, hi = nx - 1;
-    if (table != nullptr) {
-        int64_t b = HybridBucket(x[0], scale, s);
-        lo = table[b].lo;
-        hi = table[b].hi;
-    }
-    while (lo < hi - kHybridLinearNodes) {
-        int64_t m = (lo + hi) >> 1;
-        if (x[m] > s)
-            hi = m;
-        else
-            lo = m;
-    }
-    if (hi - lo < 2) return hi;
-    return lo + CountNotAbove(x, lo, hi, s);
-}
-
 // The long form of CountNotAbove (8 to 20 nodes, every one counted) as a fixed window
 // of 20 nodes from p, those at n and beyond masked off: the same sum without a branch.
 // The compares are packed down to one bit mask (two bits a node in double precision,
@@ -228,8 +206,11 @@ inline __m128i HalfSum(__m128i a, __m128i b) {
 // of the branches, the loads of one round are independent and their misses overlap.
 constexpr int kHybridLanes = 16;
 
-// The hybrid rule over a block of sites, lane by lane: the same steps as HybridCell,
-// with the same midpoints, so the same cells; only their order in time differs.
+// The hybrid rule over a block of sites, lane by lane. For one site the rule is: below
+// the first node cell 0, above the last nx, at the last nx - 1; otherwise the table's
+// bucket gives a range, bisection narrows it to 20 nodes or fewer, and the nodes not
+// above the site are counted. The lanes take the same midpoints, so the same cells;
+// only their order in time differs.
 template <typename T>
 void HybridCells(int64_t nx, const T* x, const SearchPair* table, T scale, int64_t n, const T* site,
                  int32_t* cell) {

@@ -20,6 +20,30 @@ using namespace brenn::fittest;
 
 namespace {
 
+// The hybrid rule for one site, step by step: the table's bucket narrows the range,
+// bisection down to 20 nodes, then the nodes not above the site are counted.
+template <typename T>
+inline int64_t HybridCell(int64_t nx, const T* x, const SearchPair* table, T scale, T s) {
+    if (s < x[0]) return 0;
+    if (s > x[nx - 1]) return nx;
+    if (s == x[nx - 1]) return nx - 1;
+    int64_t lo = 0, hi = nx - 1;
+    if (table != nullptr) {
+        int64_t b = HybridBucket(x[0], scale, s);
+        lo = table[b].lo;
+        hi = table[b].hi;
+    }
+    while (lo < hi - kHybridLinearNodes) {
+        int64_t m = (lo + hi) >> 1;
+        if (x[m] > s)
+            hi = m;
+        else
+            lo = m;
+    }
+    if (hi - lo < 2) return hi;
+    return lo + CountNotAbove(x, lo, hi, s);
+}
+
 template <typename T>
 std::vector<T> AwkwardSites(const std::vector<T>& x, int64_t n, uint64_t seed) {
     std::mt19937_64 rng(seed);
