@@ -18,7 +18,7 @@
  *               for bodies whose chains are long enough that more independent work a
  *               round pays; the elements left after those rounds take one round of
  *               eight if eight remain, then the tail as usual. Split and NoHead only.
- *   EvalWide    (optional, with kRound = 16) the whole round at once, so that the body
+ *   EvalWide    (required with kRound = 16) the whole round at once, so that the body
  *               can interleave its registers and test its range once a round:
  *               int EvalWide(const V* x, V* y) (unary), (const V* x, V* y, V* z)
  *               (two result), sixteen elements' registers each; returns the special-
@@ -274,34 +274,29 @@ struct Quads {
         }
     }
 
-    // A main-stage round of sixteen: four quads evaluated before the one test of their
-    // special bits; with a special lane, the quads' results go through memory and the
+    // A main-stage round of sixteen: the body's whole-round form evaluates the four
+    // quads before the one test of their special bits (four quads one after another
+    // gained nothing over rounds of eight); with a special lane, the quads' results go through memory and the
     // special lanes are handled quad by quad, lane 0 up, as in a round of eight.
     static inline void Round16(const B& body, const Env<B>& env, const Args<T>& v, int i) {
-        // Unrolled, so that the quads stay in registers and interleave.
+        static_assert(kHasWide<B>, "rounds of sixteen pay only with the whole-round form");
+        static_assert(S != Shape::Binary, "no wide form for two inputs");
         Q q[4];
-        int bits = 0;
-        if constexpr (kHasWide<B>) {
-            static_assert(S != Shape::Binary, "no wide form for two inputs");
-            constexpr int N = 16 / L;
-            V x[N], y[N], z[N];
+        constexpr int N = 16 / L;
+        V x[N], y[N], z[N];
 #pragma GCC unroll 16
-            for (int k = 0; k < N; ++k)
-                x[k] = Sd::Load(v.a + i + k * L);
-            if constexpr (S == Shape::Unary)
-                bits = body.EvalWide(x, y);
-            else
-                bits = body.EvalWide(x, y, z);
+        for (int k = 0; k < N; ++k)
+            x[k] = Sd::Load(v.a + i + k * L);
+        int bits;
+        if constexpr (S == Shape::Unary)
+            bits = body.EvalWide(x, y);
+        else
+            bits = body.EvalWide(x, y, z);
 #pragma GCC unroll 16
-            for (int k = 0; k < N; ++k) {
-                q[k / R].x[k % R] = x[k];
-                q[k / R].y[k % R] = y[k];
-                if constexpr (S == Shape::TwoRes) q[k / R].z[k % R] = z[k];
-            }
-        } else {
-#pragma GCC unroll 4
-            for (int k = 0; k < 4; ++k)
-                bits |= Eval(body, v.a + i + 4 * k, At(v.b, i + 4 * k), q[k]) << (4 * k);
+        for (int k = 0; k < N; ++k) {
+            q[k / R].x[k % R] = x[k];
+            q[k / R].y[k % R] = y[k];
+            if constexpr (S == Shape::TwoRes) q[k / R].z[k % R] = z[k];
         }
         if (__builtin_expect(bits == 0, 1)) {
 #pragma GCC unroll 4
