@@ -34,13 +34,16 @@ function(brenn_add_kernel_library)
   add_custom_target(brenn_exports DEPENDS ${gen}/brenn_sse42.map ${gen}/brenn_sse42.exports)
 
   add_library(brenn_sse42_objects OBJECT ${sources})
-  target_include_directories(brenn_sse42_objects PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
+  target_include_directories(brenn_sse42_objects PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include
+                             ${BRENN_GENERATED_INCLUDE})
   target_compile_options(brenn_sse42_objects PRIVATE $<$<COMPILE_LANGUAGE:CXX>:${BRENN_LIB_FLAGS}>)
   target_compile_definitions(brenn_sse42_objects PRIVATE BRENN_KERNEL_BUILD)
 
   add_library(brenn_sse42 SHARED $<TARGET_OBJECTS:brenn_sse42_objects>)
   add_dependencies(brenn_sse42 brenn_exports)
-  target_include_directories(brenn_sse42 PUBLIC ${PROJECT_SOURCE_DIR}/include)
+  target_include_directories(brenn_sse42 PUBLIC
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include> $<BUILD_INTERFACE:${BRENN_GENERATED_INCLUDE}>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/brenn>)
   target_link_options(brenn_sse42 PRIVATE -Wl,--version-script=${gen}/brenn_sse42.map
                       -Wl,-z,noexecstack -Wl,--no-undefined)
   set_target_properties(brenn_sse42 PROPERTIES LINK_DEPENDS ${gen}/brenn_sse42.map)
@@ -53,7 +56,8 @@ function(brenn_add_kernel_library)
   add_library(brenn_sse42_static INTERFACE)
   target_sources(brenn_sse42_static INTERFACE $<TARGET_OBJECTS:brenn_sse42_objects>)
   add_dependencies(brenn_sse42_static brenn_sse42_objects)
-  target_include_directories(brenn_sse42_static INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
+  target_include_directories(brenn_sse42_static INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include
+                             ${BRENN_GENERATED_INCLUDE})
   target_link_libraries(brenn_sse42_static INTERFACE brenn_core Threads::Threads ${CMAKE_DL_LIBS} m
                         ${LAPACK_LIBRARIES} ${BLAS_LIBRARIES})
 endfunction()
