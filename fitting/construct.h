@@ -58,7 +58,8 @@ struct BlockJob {
 template <typename Job>
 void RunBlocks(int64_t nx, int64_t nf, const threader* thr, Job& job) {
     int64_t cells = nx - 1;
-    if (nx * nf < kPlainWork) {
+    // nx * nf below kPlainWork, without forming the product of two caller's counts.
+    if (nx <= (kPlainWork - 1) / nf) {
         job(BlockJob{0, cells, 0, nf});
         return;
     }

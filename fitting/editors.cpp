@@ -1,35 +1,30 @@
 // The editors and queries of the fitting task. A task that is not editable takes
 // every edit and query (but EditPPSpline1D) as a no-op returning 0.
-#include <cstring>
-
 #include "fitting/task.h"
 #include "frame/export.h"
-#include "platform/serv.h"
 
 namespace brenn::fit {
 
 template <typename T>
-int32_t SetCoefficientPointers(FittingTask* task, T* sCoeff) {
-    if (task->sCoeff != nullptr) brenn_serv_deallocate(static_cast<void*>(task->sCoeff));
-    task->sCoeff = nullptr;
+int32_t SetCoefficientPointers(FittingTask* task, T* sCoeff, int64_t sCoeffHint) {
     int64_t ny = task->ny;
-    auto* block = static_cast<void**>(brenn_serv_allocate(ny * sizeof(void*), 128));
-    if (block == nullptr) return FIT_STATUS_NO_MEMORY;
-    std::memset(static_cast<void*>(block), 0, ny * sizeof(void*));
-    task->sCoeff = block;
-    if (task->sCoeffHint & FIT_Y_FIRST_ROW_ONLY) {
+    if (int32_t s = RenewPointerBlock(&task->sCoeff, &task->sCoeffSlots, ny)) return s;
+    void** block = task->sCoeff;
+    if (sCoeffHint & FIT_Y_FIRST_ROW_ONLY) {
         block[0] = sCoeff;
         return FIT_STATUS_OK;
     }
     // The knot form has nx pieces, every other spline nx-1 cells.
-    int64_t stride = task->sOrder * task->nx - (task->sType == FIT_TYPE_KNOTS ? 0 : task->sOrder);
+    uint64_t order = static_cast<uint64_t>(task->sOrder);
+    uint64_t stride =
+        order * static_cast<uint64_t>(task->nx) - (task->sType == FIT_TYPE_KNOTS ? 0 : order);
     for (int64_t i = 0; i < ny; ++i)
-        block[i] = sCoeff + i * stride;
+        block[i] = ElementAt(sCoeff, i, stride);
     return FIT_STATUS_OK;
 }
 
-template int32_t SetCoefficientPointers<double>(FittingTask*, double*);
-template int32_t SetCoefficientPointers<float>(FittingTask*, float*);
+template int32_t SetCoefficientPointers<double>(FittingTask*, double*, int64_t);
+template int32_t SetCoefficientPointers<float>(FittingTask*, float*, int64_t);
 
 namespace {
 
@@ -59,10 +54,7 @@ int32_t EditPPSpline(FitTaskHandle handle, int64_t sOrder, int64_t sType, int64_
     task->ic = ic;
     if (sCoeff != nullptr) {
         if (task->ny == 0) return FIT_STATUS_BAD_NY;
-        // The slots depend on the hint being set now.
-        task->sCoeffHint = sCoeffHint;
-        int32_t status = SetCoefficientPointers<T>(task, sCoeff);
-        if (status != 0) return status;
+        if (int32_t s = SetCoefficientPointers<T>(task, sCoeff, sCoeffHint)) return s;
     }
     task->sCoeffHint = sCoeffHint;
     return FIT_STATUS_OK;
@@ -80,8 +72,6 @@ int32_t EditPtr(FitTaskHandle handle, int64_t id, const T* pointer) {
         return FIT_STATUS_OK;
     case FIT_PARAM_Y:
         if (pointer == nullptr) return FIT_STATUS_BAD_Y;
-        if (task->y != nullptr) brenn_serv_deallocate(static_cast<void*>(task->y));
-        task->y = nullptr;
         return SetFunctionPointers<T>(task, pointer, task->ny, task->yHint);
     case FIT_PARAM_IC:
         if (pointer == nullptr) return FIT_STATUS_BAD_IC;
@@ -94,7 +84,7 @@ int32_t EditPtr(FitTaskHandle handle, int64_t id, const T* pointer) {
     case FIT_PARAM_SCOEFF:
         if (pointer == nullptr) return FIT_STATUS_BAD_COEFF_PTR;
         if (task->ny == 0) return FIT_STATUS_BAD_NY;
-        return SetCoefficientPointers<T>(task, const_cast<T*>(pointer));
+        return SetCoefficientPointers<T>(task, const_cast<T*>(pointer), task->sCoeffHint);
     default:
         return FIT_STATUS_BAD_PARAM_ID;
     }
@@ -109,6 +99,8 @@ int32_t EditIdxPtr(FitTaskHandle handle, int64_t id, int64_t index, const void* 
         if (index < 0 || index >= task->ny) return FIT_STATUS_BAD_INDEX;
         if (pointer == nullptr) return FIT_STATUS_BAD_Y;
         if (task->y == nullptr) return FIT_STATUS_BAD_Y;
+        // ny raised after the block was made: no slot for the function yet.
+        if (index >= task->ySlots) return FIT_STATUS_BAD_INDEX;
         task->y[index] = pointer;
         return FIT_STATUS_OK;
     }
@@ -116,6 +108,7 @@ int32_t EditIdxPtr(FitTaskHandle handle, int64_t id, int64_t index, const void* 
         if (index < 0 || index >= task->ny) return FIT_STATUS_BAD_INDEX;
         if (pointer == nullptr) return FIT_STATUS_BAD_COEFF_PTR;
         if (task->sCoeff == nullptr) return FIT_STATUS_BAD_COEFF_PTR;
+        if (index >= task->sCoeffSlots) return FIT_STATUS_BAD_INDEX;
         task->sCoeff[index] = const_cast<void*>(pointer);
         return FIT_STATUS_OK;
     }
@@ -152,16 +145,18 @@ int32_t QueryIdxPtr(FitTaskHandle handle, int64_t id, int64_t index, void** out)
     auto* task = static_cast<FittingTask*>(handle);
     if (task == nullptr) return FIT_STATUS_NULL_TASK;
     if (out == nullptr) return FIT_STATUS_NULL_OUT;
-    // The bound is inclusive: index ny passes, as the existing interface has it.
+    // The bound is inclusive: index ny passes, as the existing interface has it, and
+    // reads the null slot past the functions'. A slot that the block lacks (ny raised
+    // after it was made) reads as null too.
     if (index < 0 || index > task->ny) return FIT_STATUS_BAD_INDEX;
     if (!Editable(task)) return FIT_STATUS_OK;
     if (id == FIT_PARAM_Y) {
         if (task->yHint == FIT_Y_COLUMNS) return FIT_STATUS_BAD_Y_HINT;
-        *out = task->y != nullptr ? const_cast<void*>(task->y[index]) : nullptr;
+        *out = index < task->ySlots ? const_cast<void*>(task->y[index]) : nullptr;
         return FIT_STATUS_OK;
     }
     if (id == FIT_PARAM_SCOEFF) {
-        *out = task->sCoeff != nullptr ? task->sCoeff[index] : nullptr;
+        *out = index < task->sCoeffSlots ? task->sCoeff[index] : nullptr;
         return FIT_STATUS_OK;
     }
     return FIT_STATUS_BAD_PARAM_ID;

@@ -4,6 +4,10 @@
 #ifndef BRENN_FITTING_EVALUATE_H
 #define BRENN_FITTING_EVALUATE_H
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
 #include "fitting/partition.h"
 
 namespace brenn::fit {
@@ -131,24 +135,38 @@ void EvalStep(const EvalSetup<T>& e, YAccess<T, Columns> y, int64_t n, const T* 
     }
 }
 
-// Tolerance of a uniform partition's nodes, whose places are computed: 2^-40.
+// How near a site must lie to a uniform partition's node, whose place is computed, to
+// be on it: 2^-40 in double. In single that is far below the rounding of the node
+// itself, which a caller's own placing of it differs from by a few units of the last
+// place; there it is 16 units of the larger end (2^-40 if more), and never more than
+// a quarter step, so that no site between two nodes passes.
 constexpr double kLookupTolerance = 9.094947017729282e-13;
+
+template <typename T>
+inline T LookupTolerance(const Nodes<T>& x) {
+    if constexpr (sizeof(T) == sizeof(double)) {
+        return T(kLookupTolerance);
+    } else {
+        T ends = std::max(std::fabs(x.x[0]), std::fabs(x.x[1]));
+        T tolerance = std::max(T(16) * std::numeric_limits<T>::epsilon() * ends,
+                               static_cast<T>(kLookupTolerance));
+        return std::min(tolerance, std::fabs(x.step) / T(4));
+    }
+}
 
 // The node of each site for a look-up; the index of the first site on no node, or n.
 template <typename T>
 int64_t LookupNodes(const EvalSetup<T>& e, int64_t n, const T* site, const int32_t* cell,
                     int64_t* node) {
     int64_t nx = e.nx;
+    T tolerance = e.x.uniform ? LookupTolerance(e.x) : T(0);
     for (int64_t j = 0; j < n; ++j) {
         int64_t c = cell[j];
         T s = site[j];
         if (c == 0) return j;
         auto equal = [&](int64_t k) {
             if (k < 0 || k >= nx) return false;
-            if (e.x.uniform) {
-                T diff = s - e.x[k];
-                return (diff < 0 ? -diff : diff) <= static_cast<T>(kLookupTolerance);
-            }
+            if (e.x.uniform) return std::fabs(s - e.x[k]) <= tolerance;
             return s == e.x.x[k];
         };
         if (equal(nx - 1) && (c >= nx - 1))

@@ -7,6 +7,7 @@
 #include "fitting/evaluate.h"
 #include "fitting/search_rules.h"
 #include "frame/export.h"
+#include "platform/bytes.h"
 #include "platform/serv.h"
 
 namespace brenn::fit {
@@ -144,7 +145,9 @@ int32_t RunCallback(const Interp<T>& in, InterpCallback<T> callback, void* param
     T stackValues[kSiteBlock * kStackDerivatives];
     T* values = stackValues;
     if (nd > kStackDerivatives) {
-        values = static_cast<T*>(brenn_serv_allocate(kSiteBlock * nd * sizeof(T), 128));
+        size_t bytes;
+        if (!BytesFor(nd, kSiteBlock * sizeof(T), &bytes)) return FIT_STATUS_NO_MEMORY;
+        values = static_cast<T*>(brenn_serv_allocate(bytes, 128));
         if (values == nullptr) return FIT_STATUS_NO_MEMORY;
     }
     int32_t status = callback(&count, values, pickedSites, pickedCells, params, f);
@@ -320,7 +323,9 @@ int32_t Interpolate(FitTaskHandle handle, int64_t type, int64_t nsite, const T* 
             wide ? static_cast<const int64_t*>(dorder)[k] : static_cast<const int32_t*>(dorder)[k];
         if (v == 0) continue;
         if (nd == kStackDerivatives && ders == dersStack) {
-            ders = static_cast<int64_t*>(brenn_serv_allocate(ndorder * sizeof(int64_t), 128));
+            size_t bytes;
+            if (!BytesFor(ndorder, sizeof(int64_t), &bytes)) return FIT_STATUS_NO_MEMORY;
+            ders = static_cast<int64_t*>(brenn_serv_allocate(bytes, 128));
             if (ders == nullptr) return FIT_STATUS_NO_MEMORY;
             std::memcpy(ders, dersStack, sizeof(dersStack));
         }
@@ -354,9 +359,9 @@ int32_t Interpolate(FitTaskHandle handle, int64_t type, int64_t nsite, const T* 
     if (in.values) {
         bool usesY = kind >= kEvalStepLeftContinuous;
         if (usesY) {
-            if (task->y == nullptr) return FIT_STATUS_BAD_Y;
+            if (int32_t s = CheckFunctionPointers(task, in.eval.yColumns)) return s;
         } else if (!(kind == kEvalGeneric && task->sOrder == 0)) {
-            if (task->sCoeff == nullptr) return FIT_STATUS_BAD_COEFF_PTR;
+            if (int32_t s = CheckCoefficientPointers(task)) return s;
         }
     }
     in.nsite = nsite;
@@ -379,9 +384,15 @@ int32_t Interpolate(FitTaskHandle handle, int64_t type, int64_t nsite, const T* 
     in.leftParams = leftParams;
     in.rightParams = rightParams;
     in.interiorParams = interiorParams;
-    in.blockElements = kSiteBlock * in.nf * nd;
+    // One thread's result block, in bytes; a size past what can be allocated is
+    // refused where a block is needed.
+    size_t blockBytes = 0, rowBytes = 0;
+    bool blockFits =
+        BytesFor(nd, kSiteBlock * sizeof(T), &rowBytes) && BytesFor(in.nf, rowBytes, &blockBytes);
+    in.blockElements = blockFits ? static_cast<int64_t>(blockBytes / sizeof(T)) : 0;
     bool copied =
         layout != FIT_RESULT_FUNCTIONS_SITES_DERIVATIVES && layout != FIT_RESULT_FIRST_ROW;
+    if (copied && in.values && !blockFits) return FIT_STATUS_NO_MEMORY;
 
     // A few sites: one block on the calling thread.
     T stackBlock[kStackResult];
@@ -391,7 +402,7 @@ int32_t Interpolate(FitTaskHandle handle, int64_t type, int64_t nsite, const T* 
             if (in.blockElements <= kStackResult) {
                 block = stackBlock;
             } else {
-                block = static_cast<T*>(brenn_serv_allocate(in.blockElements * sizeof(T), 128));
+                block = static_cast<T*>(brenn_serv_allocate(blockBytes, 128));
                 if (block == nullptr) return FIT_STATUS_NO_MEMORY;
                 release.blocks = block;
             }
@@ -403,11 +414,12 @@ int32_t Interpolate(FitTaskHandle handle, int64_t type, int64_t nsite, const T* 
     int threads = thr != nullptr ? thr->maxThreads() : 1;
     if (threads < 1) threads = 1;
     if (copied && in.values) {
-        if (in.blockElements * threads <= kStackResult) {
+        size_t allBytes;
+        if (!BytesFor(threads, blockBytes, &allBytes)) return FIT_STATUS_NO_MEMORY;
+        if (allBytes <= sizeof(stackBlock)) {
             in.blocks = stackBlock;
         } else {
-            in.blocks =
-                static_cast<T*>(brenn_serv_allocate(in.blockElements * threads * sizeof(T), 128));
+            in.blocks = static_cast<T*>(brenn_serv_allocate(allBytes, 128));
             if (in.blocks == nullptr) return FIT_STATUS_NO_MEMORY;
             release.blocks = in.blocks;
         }

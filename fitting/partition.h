@@ -14,8 +14,14 @@ struct Nodes {
     const T* x;
     bool uniform;
     T x0, step;
+    int64_t last; // nx-1
 
-    T operator[](int64_t i) const { return uniform ? x0 + static_cast<T>(i) * step : x[i]; }
+    // A uniform partition's right end is the one given, not x0 + (nx-1)*step, which
+    // rounding can put beside it: knots and sites placed at the end must meet it.
+    T operator[](int64_t i) const {
+        if (!uniform) return x[i];
+        return i == last ? x[1] : x0 + static_cast<T>(i) * step;
+    }
 };
 
 template <typename T>
@@ -23,7 +29,7 @@ inline Nodes<T> NodesOf(const FittingTask* task) {
     const T* x = static_cast<const T*>(task->x);
     bool uniform = (task->xHint & FIT_X_UNIFORM) != 0;
     T step = uniform ? (x[1] - x[0]) / static_cast<T>(task->nx - 1) : T(0);
-    return {x, uniform, x[0], step};
+    return {x, uniform, x[0], step, task->nx - 1};
 }
 
 template <typename T>

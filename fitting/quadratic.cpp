@@ -6,6 +6,7 @@
 #include "fitting/construct.h"
 #include "fitting/partition.h"
 #include "frame/export.h"
+#include "platform/bytes.h"
 #include "platform/serv.h"
 #include "platform/tridiag.h"
 
@@ -34,7 +35,9 @@ int32_t MidpointWorker(FittingTask* task, const threader*) {
     T stackWork[kStackPoints];
     T* w = stackWork;
     if (nx >= kStackPoints) {
-        w = static_cast<T*>(brenn_serv_allocate((nx + 1) * sizeof(T), 128));
+        size_t bytes = sizeof(T); // nx + 1 elements
+        if (!AddBytesFor(&bytes, nx, sizeof(T))) return FIT_STATUS_NO_MEMORY;
+        w = static_cast<T*>(brenn_serv_allocate(bytes, 128));
         if (w == nullptr) return FIT_STATUS_NO_MEMORY;
     }
     auto h = [&](int64_t i) { return Uniform ? x.step : x[i + 1] - x[i]; };
@@ -98,7 +101,10 @@ int32_t KnotWorker(FittingTask* task, const threader*) {
     const T* bc = static_cast<const T*>(task->bc);
     int64_t order = task->sOrder;
 
-    auto* work = static_cast<T*>(brenn_serv_allocate((nx + 1) * 8 * sizeof(T) + 64, 128));
+    // Eight vectors of nx + 1 elements, and 64 bytes.
+    size_t bytes = 64 + 8 * sizeof(T);
+    if (!AddBytesFor(&bytes, nx, 8 * sizeof(T))) return FIT_STATUS_NO_MEMORY;
+    auto* work = static_cast<T*>(brenn_serv_allocate(bytes, 128));
     if (work == nullptr) return FIT_STATUS_NO_MEMORY;
     T* t = work;
     T* xi = t + (nx + 1);

@@ -4,6 +4,7 @@
 
 #include "fitting/search_rules.h"
 #include "frame/export.h"
+#include "platform/bytes.h"
 #include "platform/serv.h"
 
 namespace brenn::fit {
@@ -111,7 +112,9 @@ int32_t SearchBatch(const SearchSetup<T>& st, int64_t nsite, const T* site, int6
         if (nsite < kStackSites) {
             made = buffer;
         } else {
-            heap = static_cast<T*>(brenn_serv_allocate(nsite * sizeof(T), 128));
+            size_t bytes;
+            if (!BytesFor(nsite, sizeof(T), &bytes)) return FIT_STATUS_NO_MEMORY;
+            heap = static_cast<T*>(brenn_serv_allocate(bytes, 128));
             if (heap == nullptr) return FIT_STATUS_NO_MEMORY;
             made = heap;
         }

@@ -5,6 +5,7 @@
 
 #include "fitting/task.h"
 #include "frame/export.h"
+#include "platform/bytes.h"
 #include "platform/serv.h"
 
 namespace brenn::fit {
@@ -65,6 +66,7 @@ int32_t NewTask(FitTaskHandle* handle, int64_t nx, const T* x, int64_t xHint, in
     if (nx < 2) return FIT_STATUS_BAD_NX;
     if (x == nullptr) return FIT_STATUS_BAD_X;
     if (!KnownXHint(xHint)) return FIT_STATUS_BAD_X_HINT;
+    if (ny < 0) return FIT_STATUS_BAD_NY;
     if (ny != 0 && y == nullptr) return FIT_STATUS_BAD_Y;
     if (ny == 0 && y != nullptr) return FIT_STATUS_BAD_NY;
     if (!KnownYHint(yHint)) return FIT_STATUS_BAD_Y_HINT;
@@ -96,16 +98,32 @@ int32_t NewTask(FitTaskHandle* handle, int64_t nx, const T* x, int64_t xHint, in
 
 } // namespace
 
+template <typename P>
+int32_t RenewPointerBlock(P** block, int64_t* slots, int64_t used) {
+    // A size past what can be allocated is refused before the old block goes, so that
+    // the edit leaves the task as it was; only the allocator's own failure loses it.
+    size_t bytes = sizeof(void*);
+    if (!AddBytesFor(&bytes, used, sizeof(void*))) return FIT_STATUS_NO_MEMORY;
+    if (*block != nullptr) brenn_serv_deallocate(static_cast<void*>(*block));
+    *slots = 0;
+    *block = static_cast<P*>(brenn_serv_allocate(bytes, 128));
+    if (*block == nullptr) return FIT_STATUS_NO_MEMORY;
+    std::memset(static_cast<void*>(*block), 0, bytes);
+    *slots = used + 1;
+    return FIT_STATUS_OK;
+}
+
+template int32_t RenewPointerBlock<const void*>(const void***, int64_t*, int64_t);
+template int32_t RenewPointerBlock<void*>(void***, int64_t*, int64_t);
+
 template <typename T>
 int32_t SetFunctionPointers(FittingTask* task, const T* y, int64_t ny, int64_t yHint) {
-    int64_t slots = yHint == FIT_Y_COLUMNS ? 1 : (ny > 0 ? ny : 1);
-    auto* block = static_cast<const void**>(brenn_serv_allocate(slots * sizeof(void*), 128));
-    task->y = block;
-    if (block == nullptr) return FIT_STATUS_NO_MEMORY;
-    std::memset(static_cast<void*>(block), 0, slots * sizeof(void*));
+    int64_t used = yHint == FIT_Y_COLUMNS ? 1 : (ny > 0 ? ny : 1);
+    if (int32_t s = RenewPointerBlock(&task->y, &task->ySlots, used)) return s;
+    const void** block = task->y;
     if (yHint == FIT_Y_NO_HINT || yHint == FIT_Y_ROWS) {
-        for (int64_t i = 0; i < slots; ++i)
-            block[i] = y + i * task->nx;
+        for (int64_t i = 0; i < used; ++i)
+            block[i] = ElementAt(y, i, static_cast<uint64_t>(task->nx));
     } else if (yHint == FIT_Y_COLUMNS || yHint == FIT_Y_FIRST_ROW_ONLY) {
         block[0] = y;
     }
@@ -115,15 +133,27 @@ int32_t SetFunctionPointers(FittingTask* task, const T* y, int64_t ny, int64_t y
 template int32_t SetFunctionPointers<double>(FittingTask*, const double*, int64_t, int64_t);
 template int32_t SetFunctionPointers<float>(FittingTask*, const float*, int64_t, int64_t);
 
-int32_t CheckConstructionPointers(const FittingTask* task, bool columns) {
-    int64_t nf = task->ny > 0 ? task->ny : 1;
-    if (task->y == nullptr) return FIT_STATUS_BAD_Y;
-    for (int64_t f = 0; f < (columns ? 1 : nf); ++f)
-        if (task->y[f] == nullptr) return FIT_STATUS_BAD_Y;
-    if (task->sCoeff == nullptr) return FIT_STATUS_BAD_COEFF_PTR;
-    for (int64_t f = 0; f < nf; ++f)
-        if (task->sCoeff[f] == nullptr) return FIT_STATUS_BAD_COEFF_PTR;
-    return FIT_STATUS_OK;
+namespace {
+
+// Slots 0 to used-1 all inside the block and set.
+template <typename P>
+bool AllSet(P* const* block, int64_t slots, int64_t used) {
+    if (block == nullptr || used > slots) return false;
+    for (int64_t f = 0; f < used; ++f)
+        if (block[f] == nullptr) return false;
+    return true;
+}
+
+} // namespace
+
+int32_t CheckFunctionPointers(const FittingTask* task, bool columns) {
+    int64_t used = columns ? 1 : (task->ny > 0 ? task->ny : 1);
+    return AllSet(task->y, task->ySlots, used) ? FIT_STATUS_OK : FIT_STATUS_BAD_Y;
+}
+
+int32_t CheckCoefficientPointers(const FittingTask* task) {
+    int64_t used = task->ny > 0 ? task->ny : 1;
+    return AllSet(task->sCoeff, task->sCoeffSlots, used) ? FIT_STATUS_OK : FIT_STATUS_BAD_COEFF_PTR;
 }
 
 } // namespace brenn::fit

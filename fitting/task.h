@@ -50,6 +50,11 @@ struct FittingTask {
         double d;
         float s;
     } searchScale;
+    // The library's own, past the record's fields: the slots of the two owned pointer
+    // blocks. ny can be edited after a block was made, so every access to a slot is
+    // tested against the block that exists, not against ny.
+    int64_t ySlots;
+    int64_t sCoeffSlots;
 };
 
 template <typename T>
@@ -91,20 +96,42 @@ inline YAccess<T, Columns> FunctionValues(const FittingTask* task, int64_t f) {
     return {static_cast<const T*>(task->y[f]), 1};
 }
 
-// Allocates the block of function pointers for the storage hint and fills it (rows:
-// one pointer a function nx elements apart; columns and first-row-only: slot 0).
+// base + index*stride elements, formed in unsigned arithmetic. The pointer blocks are
+// filled from the caller's counts, whose product need not describe memory that exists
+// (such pointers are then the caller's not to use) and must not overflow here.
+template <typename T>
+inline T* ElementAt(T* base, int64_t index, uint64_t stride) {
+    uint64_t bytes = static_cast<uint64_t>(index) * stride * sizeof(T);
+    return reinterpret_cast<T*>(reinterpret_cast<uintptr_t>(base) + bytes);
+}
+
+// Frees *block and puts a zeroed one of used slots and a null one in its place, with
+// its slot count. -1001 when it can't be had: a size past what can be allocated leaves
+// the old block as it was, a failed allocation leaves the field null.
+template <typename P>
+int32_t RenewPointerBlock(P** block, int64_t* slots, int64_t used);
+
+// Renews the block of function pointers for the storage hint and fills it (rows: one
+// pointer a function nx elements apart; columns and first-row-only: slot 0). The null
+// slot past the functions' is what the query's inclusive bound reads.
 template <typename T>
 int32_t SetFunctionPointers(FittingTask* task, const T* y, int64_t ny, int64_t yHint);
 
-// Allocates the block of coefficient pointers: ny slots, slot f at f*stride elements
-// (stride sOrder*nx, less one cell unless the knot form's nx pieces), or slot 0 only
-// when the hint has the bit 128.
+// The same for the coefficient pointers: ny slots and the null one, slot f at f*stride
+// elements (stride sOrder*nx, less one cell unless the knot form's nx pieces), or slot
+// 0 only when sCoeffHint has the bit 128.
 template <typename T>
-int32_t SetCoefficientPointers(FittingTask* task, T* sCoeff);
+int32_t SetCoefficientPointers(FittingTask* task, T* sCoeff, int64_t sCoeffHint);
 
-// Checks that the y pointers and the coefficient pointers that a construction needs
-// are there: -1008 and -1016 otherwise.
-int32_t CheckConstructionPointers(const FittingTask* task, bool columns);
+// The pointers that the functions' values and coefficients need, all of them set:
+// -1008 and -1016 otherwise.
+int32_t CheckFunctionPointers(const FittingTask* task, bool columns);
+int32_t CheckCoefficientPointers(const FittingTask* task);
+
+inline int32_t CheckConstructionPointers(const FittingTask* task, bool columns) {
+    if (int32_t s = CheckFunctionPointers(task, columns)) return s;
+    return CheckCoefficientPointers(task);
+}
 
 } // namespace brenn::fit
 

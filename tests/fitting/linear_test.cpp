@@ -1,5 +1,6 @@
-// Linear spline construction: exact coefficients, the storage forms, the blocking
-// frame across threaders, and the refusals.
+// Linear spline construction in both precisions, over one table of cases: exact
+// coefficients, the storage forms, the blocking frame across threaders, and the
+// refusals.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -10,6 +11,10 @@
 using namespace brenn::fittest;
 
 namespace {
+
+template <typename T>
+class FittingLinear : public ::testing::Test {};
+TYPED_TEST_SUITE(FittingLinear, Precisions, PrecisionNames);
 
 template <typename T>
 void CoefficientsAreTheSlopes(int64_t nx, int64_t ny, int64_t yHint, int64_t xHint) {
@@ -38,8 +43,7 @@ void CoefficientsAreTheSlopes(int64_t nx, int64_t ny, int64_t yHint, int64_t xHi
                 // Exact to rounding: the slope from a division, a reciprocal or the step.
                 double slope = (static_cast<double>(yv(i + 1)) - yv(i)) /
                                (static_cast<double>(x[i + 1]) - x[i]);
-                ASSERT_NEAR(cell[1], slope,
-                            4 * std::numeric_limits<T>::epsilon() * (std::fabs(slope) + 1e-3))
+                ASSERT_NEAR(cell[1], slope, 4 * kEps<T> * (std::fabs(slope) + 1e-3))
                     << f << " " << i;
             }
         runs.push_back(c);
@@ -50,34 +54,47 @@ void CoefficientsAreTheSlopes(int64_t nx, int64_t ny, int64_t yHint, int64_t xHi
         ASSERT_EQ(0, std::memcmp(r.data(), runs[0].data(), r.size() * sizeof(T)));
 }
 
-TEST(FittingLinear, CoefficientsAcrossFormsAndBlocks) {
-    CoefficientsAreTheSlopes<double>(2, 1, 16, 0);     // one cell, plain loop
-    CoefficientsAreTheSlopes<double>(128, 1, 16, 0);   // blocked, one block
-    CoefficientsAreTheSlopes<double>(1026, 17, 16, 0); // 2 x 5 blocks: the threader
-    CoefficientsAreTheSlopes<double>(1026, 17, 32, 0); // interleaved values
-    CoefficientsAreTheSlopes<double>(3000, 6, 0, 4);   // uniform partition
-    CoefficientsAreTheSlopes<float>(5000, 3, 32, 4);
-    CoefficientsAreTheSlopes<float>(777, 9, 16, 0);
+TYPED_TEST(FittingLinear, CoefficientsAcrossFormsAndBlocks) {
+    struct Case {
+        int64_t nx, ny, yHint, xHint;
+    } cases[] = {
+        {2, 1, 16, 0},     // one cell, plain loop
+        {128, 1, 16, 0},   // blocked, one block
+        {1026, 17, 16, 0}, // 2 x 5 blocks: the threader
+        {1026, 17, 32, 0}, // interleaved values
+        {777, 9, 0, 0},    // no storage hint: rows
+        {3000, 6, 16, 4},  // uniform partition
+        {5000, 3, 32, 4},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(::testing::Message() << "nx " << c.nx << " ny " << c.ny << " yHint " << c.yHint
+                                          << " xHint " << c.xHint);
+        CoefficientsAreTheSlopes<TypeParam>(c.nx, c.ny, c.yHint, c.xHint);
+    }
 }
 
-TEST(FittingLinear, Refusals) {
-    std::vector<double> x = {0, 1, 2, 3}, y = {1, 2, 3, 1}, c(6);
+TYPED_TEST(FittingLinear, Refusals) {
+    using T = TypeParam;
+    std::vector<T> x = {0, 1, 2, 3}, y = {1, 2, 3, 1}, c(6);
     FitTaskHandle t = nullptr;
-    ASSERT_EQ(NewTask<double>(&t, 4, x.data(), 0, 1, y.data(), 16), 0);
-    ASSERT_EQ(EditPP<double>(t, 2, 0, 64, nullptr, 0, nullptr, c.data()), 0);
-    EXPECT_EQ(Linear<double>(t, nullptr, 1), FIT_STATUS_FLAG_REFUSED);
-    EXPECT_EQ(Linear<double>(nullptr, nullptr), FIT_STATUS_NULL_TASK);
-    ASSERT_EQ(Linear<double>(t, nullptr), 0); // periodic: ends equal
-    y[3] = std::nextafter(1.0, 2.0);
+    ASSERT_EQ(NewTask<T>(&t, 4, x.data(), 0, 1, y.data(), 16), 0);
+    ASSERT_EQ(EditPP<T>(t, 2, 0, 64, nullptr, 0, nullptr, c.data()), 0);
+    EXPECT_EQ(Linear<T>(t, nullptr, 1), FIT_STATUS_FLAG_REFUSED);
+    EXPECT_EQ(Linear<T>(nullptr, nullptr), FIT_STATUS_NULL_TASK);
+    ASSERT_EQ(Linear<T>(t, nullptr), 0); // periodic: ends equal
+    y[3] = std::nextafter(T(1), T(2));
     c.assign(6, -7);
-    EXPECT_EQ(Linear<double>(t, nullptr), FIT_STATUS_BAD_PERIODIC_VAL);
+    EXPECT_EQ(Linear<T>(t, nullptr), FIT_STATUS_BAD_PERIODIC_VAL);
     EXPECT_EQ(c[0], -7); // nothing written
     ASSERT_EQ(brenn_df_kernel_iEditVal(t, FIT_PARAM_BCTYPE, 0), 0);
     ASSERT_EQ(brenn_df_kernel_iEditVal(t, FIT_PARAM_YHINT, 128), 0);
     ASSERT_EQ(brenn_df_kernel_iEditVal(t, FIT_PARAM_NY, 2), 0);
     // A function whose pointer never came through EditIdxPtr.
-    ASSERT_EQ(brenn_df_kernel_dEditPtr(t, FIT_PARAM_Y, y.data()), 0);
-    EXPECT_EQ(Linear<double>(t, nullptr), FIT_STATUS_BAD_Y);
+    ASSERT_EQ(EditPtr<T>(t, FIT_PARAM_Y, y.data()), 0);
+    EXPECT_EQ(Linear<T>(t, nullptr), FIT_STATUS_BAD_Y);
+    // A coefficient block made for fewer functions than ny has now.
+    ASSERT_EQ(EditIdxPtr<T>(t, FIT_PARAM_Y, 1, y.data()), 0);
+    EXPECT_EQ(Linear<T>(t, nullptr), FIT_STATUS_BAD_COEFF_PTR);
     brenn_df_kernel_DeleteTask(&t);
 }
 
