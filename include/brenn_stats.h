@@ -25,8 +25,11 @@
  * running state; set `accumWeight` to zero to start, then call again with each block.
  * Estimates that are not sums are brought back to running sums with the formulas above,
  * so the arrays that the requirement rules name must keep what the last call wrote.
- * A continued correlation without a covariance, cross-product or central moment 2
- * array cannot recover the variances and gives BRENN_SS_ERROR_COV_MISSING.
+ * What those arrays can't hold (the sums of squares behind a correlation asked without
+ * a covariance or cross-product, the lower central sums behind a central sum of order
+ * 3 or 4) the task keeps itself from call to call, for the `accumWeight` array it was
+ * fed with. A block of a data set that another task fed before can't be joined to
+ * those and gives BRENN_SS_ERROR_METHOD.
  */
 #ifndef BRENN_STATS_H
 #define BRENN_STATS_H

@@ -7,12 +7,14 @@
 
 #include "brenn_stats.h"
 #include "frame/export.h"
+#include "platform/bytes.h"
 #include "platform/serv.h"
 #include "platform/threader.h"
 #include "stats/basic_accumulate.h"
 #include "stats/basic_convert.h"
 #include "stats/basic_finish.h"
 #include "stats/basic_plan.h"
+#include "stats/carried_sums.h"
 #include "stats/matrix_storage.h"
 #include "stats/task.h"
 #include "stats/vector_ops.h"
@@ -49,14 +51,33 @@ T* Arr(const SSTask* task, int position) {
     return static_cast<T*>(PositionArray(task, position));
 }
 
-// Turns what a former call left in the arrays back into running state.
+// True when the needed arrays hold the mean and the raw moments up to order k + 2, from
+// which the central sum of that order follows.
+bool RawGivesCentral(uint32_t needed, int k) {
+    if (!Has(needed, PosMean) && !Has(needed, PosSum)) return false;
+    for (int i = 0; i <= k; ++i)
+        if (!Has(needed, PosRaw2 + i) && !Has(needed, PosRawSum2 + i)) return false;
+    return true;
+}
+
+// Turns what a former call left in the arrays (and the sums of `carried` orders that it
+// kept in the task) back into running state. A central sum that an estimate depends on
+// and that nothing holds can't be rebuilt: a block of a data set that this task did not
+// feed before can't be joined then.
 template <typename T>
-int32_t LoadState(const SSTask* task, uint32_t needed, MethodKind kind, int order,
+int32_t LoadState(const SSTask* task, uint32_t needed, MethodKind kind, int order, uint32_t carried,
                   const int64_t* act, int64_t q, int64_t p, const int64_t storage[3],
                   MomentState<T>& s, T* tmp) {
     const T w = s.weight[0], w2 = s.weight[1];
     const T spread = w * w - w2;
     const T fromUnbiased = spread > 0 ? spread / w : T(0); // one observation: sums are 0
+    const double* kept = carried != 0 ? FindCarriedSums(task, p, s.weight) : nullptr;
+    auto keptSum = [&](int64_t j, int k, T* v) {
+        if (kept == nullptr || k >= kCarriedOrders || isnan(kept[j * kCarriedOrders + k]))
+            return false;
+        *v = static_cast<T>(kept[j * kCarriedOrders + k]);
+        return true;
+    };
     for (int64_t c = 0; c < q; ++c) {
         int64_t j = act[c];
         s.mean[c] = Has(needed, PosMean)  ? Arr<T>(task, PosMean)[j]
@@ -74,8 +95,11 @@ int32_t LoadState(const SSTask* task, uint32_t needed, MethodKind kind, int orde
                 v = Arr<T>(task, PosCenSum2 + k)[j];
             else if (Has(needed, PosCen2 + k))
                 v = Arr<T>(task, PosCen2 + k)[j] * (k == 0 ? fromUnbiased : w);
-            else
+            else if (!((carried >> k) & 1u) || !keptSum(j, k, &v)) {
+                if (((carried >> k) & 1u) && !RawGivesCentral(needed, k))
+                    return BRENN_SS_ERROR_METHOD;
                 v = CentralFromRaw(k, w, s.mean[c], s.raw[0][c], s.raw[1][c], s.raw[2][c]);
+            }
             s.cen[k][c] = v;
         }
     }
@@ -88,11 +112,14 @@ int32_t LoadState(const SSTask* task, uint32_t needed, MethodKind kind, int orde
     } else if (Has(needed, PosCov)) {
         LoadMatrix(s.cross, Arr<T>(task, PosCov), storage[0], p, act, q, fromUnbiased);
     } else {
-        // Correlation alone: the variances come from the central moment 2 or sum 2.
-        bool haveVariance =
-            (kind != MethodRawFirst && Has(needed, PosCenSum2)) || Has(needed, PosCen2);
-        if (!haveVariance) return BRENN_SS_ERROR_COV_MISSING;
-        VSqrt(q, s.cen[0], tmp);
+        // Correlation alone: scaled back to a cross-product with the sums of squares.
+        T* squares = s.cen[0];
+        if (order < 2) {
+            squares = tmp + q;
+            for (int64_t c = 0; c < q; ++c)
+                if (!keptSum(act[c], 0, &squares[c])) return BRENN_SS_ERROR_METHOD;
+        }
+        VSqrt(q, squares, tmp);
         LoadMatrix(s.cross, Arr<T>(task, PosCor), storage[1], p, act, q, T(1));
         for (int64_t b = 0; b < q; ++b)
             for (int64_t a = b; a < q; ++a)
@@ -180,8 +207,16 @@ int32_t Basic(void* handle, uint64_t estimates, uint64_t method, const threader*
 
     const int order = HighestOrder(needed);
     const bool matrix = NeedsMatrix(needed);
-    // One block: the active variables, then the running state and a few vectors.
-    size_t bytes = p * sizeof(int64_t) + (12 * p + (matrix ? p * p : 0)) * sizeof(T);
+    T* aw = static_cast<T*>(task->accumWeight);
+    // Only a data set fed in blocks (through accumWeight) carries sums between calls.
+    const uint32_t carried = aw != nullptr ? CarriedOrders(needed, kind) : 0;
+    if (carried != 0 && !ReserveCarriedSums(task, p)) return BRENN_SS_ERROR_ALLOC;
+    // One block: the active variables, the running state and five vectors of scratch.
+    size_t bytes = 0;
+    if (!AddBytesFor(&bytes, p, sizeof(int64_t)) ||
+        !AddStateBytes(&bytes, p, matrix, false, sizeof(T)) ||
+        !AddBytesFor(&bytes, p, 5 * sizeof(T)))
+        return BRENN_SS_ERROR_ALLOC;
     void* memory = brenn_serv_allocate(bytes, 128);
     if (memory == nullptr) return BRENN_SS_ERROR_ALLOC;
     int64_t* act = static_cast<int64_t*>(memory);
@@ -189,11 +224,10 @@ int32_t Basic(void* handle, uint64_t estimates, uint64_t method, const threader*
     MomentState<T> s;
     T* tmp = LayOutState(s, reinterpret_cast<T*>(act + p), q, matrix, false);
     memset(reinterpret_cast<void*>(s.mean), 0, (tmp - s.mean) * sizeof(T));
-    T* aw = static_cast<T*>(task->accumWeight);
     if (aw != nullptr && aw[0] > 0) {
         s.weight[0] = aw[0];
         s.weight[1] = aw[1];
-        status = LoadState(task, needed, kind, order, act, q, p, storage, s, tmp);
+        status = LoadState(task, needed, kind, order, carried, act, q, p, storage, s, tmp);
     }
     const T before = s.weight[0];
     if (status == 0 && q > 0) {
@@ -221,6 +255,7 @@ int32_t Basic(void* handle, uint64_t estimates, uint64_t method, const threader*
             aw[0] = s.weight[0];
             aw[1] = s.weight[1];
         }
+        if (carried != 0) KeepCarriedSums(task, p, act, q, order, carried, s);
     }
     brenn_serv_deallocate(memory);
     return status;

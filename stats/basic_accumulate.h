@@ -11,6 +11,7 @@
 
 #include "brenn_stats.h"
 #include "platform/blas.h"
+#include "platform/bytes.h"
 #include "platform/serv.h"
 #include "platform/threader.h"
 #include "stats/basic_kernels.h"
@@ -295,16 +296,24 @@ void AccumulateShare(const Accumulation<T>& a, int64_t i0, int64_t i1, MomentSta
     }
 }
 
+// Bytes of a thread's memory: its state and the scratch of AccumulateShare. False when
+// they overflow.
 template <typename T>
-int64_t ShareScratchElements(const Accumulation<T>& a) {
+bool ShareScratchBytes(const Accumulation<T>& a, size_t* bytes) {
     const int64_t q = a.q;
     const bool weighted = a.w != nullptr;
     const int64_t rows = a.blocked ? BlockRows(q, weighted) : kOnePassRows;
-    int64_t state = StateElements(q, a.matrix, true);
-    int64_t scratch = 2 * PadTo64Bytes(q) + StateElements(q, a.matrix && !a.blocked, true) +
-                      (a.compact ? rows * q : 0);
-    if (a.blocked && a.matrix) scratch += rows * q * (weighted ? 2 : 1);
-    return state + scratch;
+    // Copies of a block's rows: gathered when variables are left out, and centred (with
+    // their weighted twin) for the BLAS on the blocked path.
+    const int64_t copies = (a.compact ? 1 : 0) + (a.blocked && a.matrix ? (weighted ? 2 : 1) : 0);
+    size_t total = 0, row;
+    if (!AddStateBytes(&total, q, a.matrix, true, sizeof(T)) ||
+        !AddStateBytes(&total, q, a.matrix && !a.blocked, true, sizeof(T)) ||
+        !AddBytesFor(&total, PadTo64Bytes(q), 2 * sizeof(T)) || !BytesFor(q, sizeof(T), &row) ||
+        !AddBytesFor(&total, rows * copies, row))
+        return false;
+    *bytes = total;
+    return true;
 }
 
 // Shares for a team of `team` threads: at most the slots, and none so small that the
@@ -323,8 +332,9 @@ void ShareWorker(int thread, int team, void* context) {
     int shares = ShareCount(a, team);
     if (thread >= shares) return;
     int64_t i0 = a.n * thread / shares, i1 = a.n * (thread + 1) / shares;
-    size_t bytes = static_cast<size_t>(ShareScratchElements(a)) * sizeof(T);
-    T* memory = static_cast<T*>(brenn_serv_allocate(bytes, 128));
+    size_t bytes = 0;
+    T* memory =
+        ShareScratchBytes(a, &bytes) ? static_cast<T*>(brenn_serv_allocate(bytes, 128)) : nullptr;
     if (memory == nullptr) {
         a.status.store(BRENN_SS_ERROR_ALLOC, std::memory_order_relaxed);
         return;
@@ -343,7 +353,10 @@ int32_t Accumulate(Accumulation<T>& a, const threader* thr, MomentState<T>& tota
     int slots = thr != nullptr && thr->maxThreads != nullptr ? thr->maxThreads() : 1;
     if (slots < 1) slots = 1;
     a.slots = slots;
-    void* block = brenn_serv_allocate(slots * (sizeof(MomentState<T>) + sizeof(void*)), 128);
+    size_t bytes;
+    if (!BytesFor(slots, sizeof(MomentState<T>) + sizeof(void*), &bytes))
+        return BRENN_SS_ERROR_ALLOC;
+    void* block = brenn_serv_allocate(bytes, 128);
     if (block == nullptr) return BRENN_SS_ERROR_ALLOC;
     a.shares = static_cast<MomentState<T>*>(block);
     a.memory = reinterpret_cast<void**>(a.shares + slots);

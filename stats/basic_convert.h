@@ -8,6 +8,7 @@
 #include <stdint.h>
 
 #include "brenn_stats.h"
+#include "platform/bytes.h"
 #include "platform/serv.h"
 #include "stats/basic_finish.h"
 
@@ -29,7 +30,11 @@ int32_t ConvertFromSums(SSTask* task, uint32_t requested, int64_t p, const int64
             w2 += weights[i] * weights[i];
         }
     }
-    void* memory = brenn_serv_allocate(p * sizeof(int64_t) + 7 * p * sizeof(T), 128);
+    // The active variables, then the means, c2, c3, c4 and two vectors of scratch.
+    size_t bytes = 0;
+    if (!AddBytesFor(&bytes, p, sizeof(int64_t)) || !AddBytesFor(&bytes, p, 6 * sizeof(T)))
+        return BRENN_SS_ERROR_ALLOC;
+    void* memory = brenn_serv_allocate(bytes, 128);
     if (memory == nullptr) return BRENN_SS_ERROR_ALLOC;
     int64_t* act = static_cast<int64_t*>(memory);
     int64_t q = ActiveVariables(task, p, act);

@@ -3,6 +3,7 @@
 // compact copy first, so that the loops over observations carry no test of the index.
 #include "brenn_stats.h"
 #include "frame/export.h"
+#include "platform/bytes.h"
 #include "platform/serv.h"
 #include "stats/basic_finish.h"
 #include "stats/task.h"
@@ -67,7 +68,10 @@ int32_t Minmax(void* handle, uint64_t estimates, uint64_t method) {
         return BRENN_SS_ERROR_OBSERVATION_COUNT;
     if (task->observations == nullptr) return BRENN_SS_ERROR_OBSERVATIONS_MISSING;
 
-    void* memory = brenn_serv_allocate(p * (sizeof(int64_t) + 2 * sizeof(T)), 128);
+    // The active variables, then the running extremes of each.
+    size_t bytes;
+    if (!BytesFor(p, sizeof(int64_t) + 2 * sizeof(T), &bytes)) return BRENN_SS_ERROR_ALLOC;
+    void* memory = brenn_serv_allocate(bytes, 128);
     if (memory == nullptr) return BRENN_SS_ERROR_ALLOC;
     int64_t* act = static_cast<int64_t*>(memory);
     int64_t q = ActiveVariables(task, p, act);

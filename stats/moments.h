@@ -9,6 +9,7 @@
 #include <stdint.h>
 
 #include "platform/blas.h"
+#include "platform/bytes.h"
 #include "stats/four.h"
 
 namespace brenn::stats {
@@ -39,10 +40,16 @@ T* LayOutState(MomentState<T>& s, T* memory, int64_t q, bool matrix, bool padded
     return matrix ? end + (padded ? PadTo64Bytes(q * q) : q * q) : end;
 }
 
-// Elements LayOutState uses.
-inline int64_t StateElements(int64_t q, bool matrix, bool padded) {
-    if (!padded) return 7 * q + (matrix ? q * q : 0);
-    return 7 * PadTo64Bytes(q) + (matrix ? PadTo64Bytes(q * q) : 0);
+// Adds the bytes that LayOutState uses for q variables of `width` bytes to *total;
+// false when the size overflows (platform/bytes.h).
+inline bool AddStateBytes(size_t* total, int64_t q, bool matrix, bool padded, size_t width) {
+    size_t vector, square = 0;
+    if (!BytesFor(q, width, &vector)) return false;
+    if (matrix && !BytesFor(q, vector, &square)) return false;
+    // Past these checks q * q and the padding of q and of q * q fit an int64_t.
+    const int64_t stride = padded ? PadTo64Bytes(q) : q;
+    const int64_t squareElements = !matrix ? 0 : padded ? PadTo64Bytes(q * q) : q * q;
+    return AddBytesFor(total, stride, 7 * width) && AddBytesFor(total, squareElements, width);
 }
 
 inline void Syr(int n, double alpha, const double* x, double* a) {

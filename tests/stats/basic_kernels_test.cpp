@@ -96,7 +96,9 @@ TEST(StatsKernels, OnePassEntriesGiveTwoPassMoments) {
         for (bool cov : {false, true})
             for (bool weighted : {false, true})
                 for (bool varRows : {false, true}) {
-                    std::vector<double> memory(StateElements(d.q, true, false) + d.q);
+                    size_t bytes = 0;
+                    ASSERT_TRUE(AddStateBytes(&bytes, d.q, true, false, sizeof(double)));
+                    std::vector<double> memory(bytes / sizeof(double) + d.q);
                     MomentState<double> s;
                     double* work = LayOutState(s, memory.data(), d.q, cov, false);
                     int index = OnePassIndex(cov, order, weighted, varRows);
