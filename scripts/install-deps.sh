@@ -17,6 +17,8 @@ packages=(
   python3 python3-numpy python3-scipy
   # fitting of coefficients and statistical quality of generators
   sollya dieharder
+  # API reference and the Debian packages (scripts/package.sh)
+  doxygen dpkg-dev fakeroot file lintian
 )
 
 missing=()
