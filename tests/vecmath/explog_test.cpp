@@ -7,7 +7,10 @@
 #include <cfloat>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <iomanip>
 #include <random>
+#include <sstream>
+#include <string>
 #include <vector>
 #include <xmmintrin.h>
 
@@ -103,6 +106,138 @@ TEST(ExpLog, ExpAtTheEdgesOfTheDoubleRange) {
         EXPECT_EQ(Call(frame::Row_sExp10, slot, 10.0f, &status), 1e10f);
         EXPECT_EQ(Call(frame::Row_dExp10, slot, 22.0, &status), 1e22);
     }
+}
+
+// Where each exponential leaves the normal range, in both precisions and every slot. At
+// the top: arguments up to the last one with a finite result (every float of the last
+// twentieth, in double a spread over the last hundredth and the last ulps one by one),
+// and the first arguments above it. At the bottom: results around the smallest normal,
+// through the denormals, to the first argument whose result is +0. Each element alone,
+// so that its status and flags are its own. The limits are exact: the arguments whose
+// correctly rounded results are the last finite, the first non-zero and the first normal
+// ones (MPFR at 256 bits).
+template <class T>
+struct ExpLimits {
+    RowIndex row;
+    long double (*ref)(long double);
+    T lastFinite;
+    T firstNonZero; // 0: no underflow (Expm1 goes to -1)
+    T firstNormal;
+};
+
+template <class T>
+const std::vector<ExpLimits<T>>& ExpLimitRows();
+template <>
+const std::vector<ExpLimits<float>>& ExpLimitRows() {
+    static const std::vector<ExpLimits<float>> rows = {
+        {frame::Row_sExp, expl, 0x1.62e42ep+6f, -0x1.9fe368p+6f, -0x1.5d589ep+6f},
+        {frame::Row_sExp2, exp2l, 0x1.fffffep+6f, -0x1.2bfffep+7f, -126.0f},
+        {frame::Row_sExp10, exp10l, 0x1.344134p+5f, -0x1.693c6ap+5f, -0x1.2f7030p+5f},
+        {frame::Row_sExpm1, expm1l, 0x1.62e42ep+6f, 0, 0},
+    };
+    return rows;
+}
+template <>
+const std::vector<ExpLimits<double>>& ExpLimitRows() {
+    static const std::vector<ExpLimits<double>> rows = {
+        {frame::Row_dExp, expl, 0x1.62e42fefa39efp+9, -0x1.74910d52d3051p+9, -0x1.6232bdd7abcd2p+9},
+        {frame::Row_dExp2, exp2l, 0x1.fffffffffffffp+9, -0x1.0cbffffffffffp+10, -1022.0},
+        {frame::Row_dExp10, exp10l, 0x1.34413509f79fep+8, -0x1.439b746e36b52p+8,
+         -0x1.33a7146f72a41p+8},
+        {frame::Row_dExpm1, expm1l, 0x1.62e42fefa39efp+9, 0, 0},
+    };
+    return rows;
+}
+
+// The level's bound in ulps: HA 1, LA 4, EP 11 good bits in single and 26 in double.
+template <class T>
+double LevelBound(int slot) {
+    if (slot == frame::SlotHA) return 1.0;
+    if (slot == frame::SlotLA) return 4.0;
+    return sizeof(T) == 4 ? 0x1p13 : 0x1p27;
+}
+
+// Every argument of [from, to] if there are at most `all` of them; otherwise `spread`
+// evenly placed ones and the `ends` arguments at each end one by one.
+template <class T>
+std::vector<T> Arguments(T from, T to, int all, int spread, int ends) {
+    std::vector<T> x;
+    T v = from;
+    for (int i = 0; i <= all && v <= to; ++i, v = std::nextafter(v, to + 1))
+        x.push_back(v);
+    if (v > to) return x;
+    x.clear();
+    for (int i = 0; i <= spread; ++i)
+        x.push_back(T(from + (long double)(to - from) * i / spread));
+    T a = from, b = to;
+    for (int i = 0; i < ends; ++i, a = std::nextafter(a, to), b = std::nextafter(b, from))
+        x.push_back(a), x.push_back(b);
+    return x;
+}
+
+// What one element alone gives against what the limits say it must: empty when right.
+template <class T>
+std::string ExpLimitFault(const ExpLimits<T>& e, int slot, T x) {
+    constexpr T kMinNormal = std::numeric_limits<T>::min();
+    int status;
+    unsigned flags;
+    T y;
+    {
+        CsrScope csr(0x1F80);
+        y = Call(e.row, slot, x, &status);
+        flags = _mm_getcsr() & 0x3F;
+    }
+    const bool over = x > e.lastFinite, zero = e.firstNonZero != 0 && x < e.firstNonZero;
+    const int wantStatus = over ? 3 : (zero || std::fabs(y) < kMinNormal) ? 4 : 0;
+    std::ostringstream fault;
+    if (over && y != T(INFINITY))
+        fault << "not +inf";
+    else if (zero && Bits(y) != 0)
+        fault << "not +0";
+    else if (!over && !zero && !(y != 0 && UlpError(y, e.ref(x)) <= LevelBound<T>(slot)))
+        fault << "off by " << UlpError(y, e.ref(x)) << " ulp";
+    else if (status != wantStatus)
+        fault << "status " << status << ", not " << wantStatus;
+    else if (bool(flags & 0x8) != over)
+        fault << "overflow flag " << bool(flags & 0x8);
+    if (fault.str().empty()) return {};
+    fault << ": " << frame::kRowInfo[e.row].name << " slot " << slot << " x " << std::hexfloat << x
+          << " (" << std::defaultfloat << std::setprecision(17) << x << ") y " << y;
+    return fault.str();
+}
+
+template <class T>
+void CheckExpLimits() {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    const T wide = sizeof(T) == 4 ? T(0.05) : T(0.01);
+    for (const ExpLimits<T>& e : ExpLimitRows<T>()) {
+        std::vector<T> x = Arguments<T>(e.lastFinite - wide, e.lastFinite, 20000, 4000, 500);
+        T above = e.lastFinite;
+        for (int i = 0; i < 4; ++i)
+            x.push_back(above = std::nextafter(above, T(INFINITY)));
+        x.push_back(e.lastFinite + wide);
+        if (e.firstNonZero != 0) {
+            // Normal results just above the smallest normal, the whole denormal band, and
+            // the first arguments whose result is +0.
+            for (T v : Arguments<T>(e.firstNonZero, e.firstNormal + wide, 0, 4000, 2000))
+                x.push_back(v);
+            T below = e.firstNonZero;
+            for (int i = 0; i < 4; ++i)
+                x.push_back(below = std::nextafter(below, -T(INFINITY)));
+        }
+        for (int slot : kSlots) {
+            int shown = 0;
+            for (T v : x) {
+                std::string fault = ExpLimitFault(e, slot, v);
+                if (!fault.empty() && shown++ < 5) ADD_FAILURE() << fault;
+            }
+        }
+    }
+}
+
+TEST(ExpLog, EveryExponentialAtTheEndsOfItsRange) {
+    CheckExpLimits<float>();
+    CheckExpLimits<double>();
 }
 
 TEST(ExpLog, InfinitiesAndNaNOfTheExponentials) {

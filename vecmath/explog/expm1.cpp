@@ -8,8 +8,9 @@
  * carries th*r and the middle sum exactly; LA degree 6 in plain arithmetic; EP degree 4;
  * the single kernel widens to double with degree 5 and rounds once.
  * Range test |x| above 708 (double) or 86.6433945 (single); the scalar routine gives
- * +inf with status 3 above the overflow limit, -1 for large negative x, and the core's
- * value otherwise. Error mode 0x2000 blends the overflow lanes to +inf. */
+ * +inf with status 3 above the overflow limit, -1 for large negative x, e^x itself
+ * above 709 (where the core's scale 2^m would pass 2^1022), and the core's value
+ * otherwise. Error mode 0x2000 blends the overflow lanes to +inf. */
 #include "frame/kernels.h"
 #include "vecmath/explog/exp_core.h"
 #include "vecmath/explog/exp_fixup.h"
@@ -70,6 +71,11 @@ inline __m128d Expm1Core(__m128d x) {
 template <ExpDegree D, bool Exact>
 inline double Expm1Value(double x) {
     if (x < -700.0) return -1.0 + 0x1p-1000; // -1, inexact
+    // From 709.08 up (m = 1023) the core's 2^-m is a denormal that its exponent field
+    // cannot hold, and from 709.7773 (m = 1024) its 2^m is 2^1024, an overflow where the
+    // result is still finite. Up here e^x - 1 is e^x far below its last place, and the
+    // scalar exponential applies its power of two in two steps.
+    if (x > 709.0) return ExpScalarCore(x);
     return _mm_cvtsd_f64(Expm1Core<D, Exact>(_mm_set1_pd(x)));
 }
 
