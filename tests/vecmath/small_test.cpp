@@ -6,7 +6,9 @@
 #include <cmath>
 #include <gtest/gtest.h>
 #include <random>
+#include <string>
 #include <vector>
+#include <xmmintrin.h>
 
 #include "tests/vecmath/kernels.h"
 
@@ -53,19 +55,29 @@ struct Libm<double> {
     static inline double (*volatile remainder)(double, double) = ::remainder;
 };
 
+// C99's fmax and fmin take a NaN operand, signalling or quiet, as missing data: the
+// other operand; only two NaNs give a NaN. The C library's functions return a quiet NaN
+// for a signalling operand instead, so they serve for the other operands only.
+template <class T>
+T MissingData(T a, T b, T (*ordered)(T, T)) {
+    if (std::isnan(a)) return std::isnan(b) ? a + b : b;
+    if (std::isnan(b)) return a;
+    return ordered(a, b);
+}
+
 // Magnitude selection as the rows define it: the larger (smaller) magnitude, and on a
-// tie or a NaN the C library's fmax (fmin) of the operands.
+// tie or a NaN what Fmax (Fmin) gives.
 template <class T>
 T MaxMagRef(T a, T b) {
     if (std::isgreater(std::fabs(a), std::fabs(b))) return a;
     if (std::isless(std::fabs(a), std::fabs(b))) return b;
-    return Libm<T>::fmax(a, b);
+    return MissingData<T>(a, b, Libm<T>::fmax);
 }
 template <class T>
 T MinMagRef(T a, T b) {
     if (std::isless(std::fabs(a), std::fabs(b))) return a;
     if (std::isgreater(std::fabs(a), std::fabs(b))) return b;
-    return Libm<T>::fmin(a, b);
+    return MissingData<T>(a, b, Libm<T>::fmin);
 }
 
 template <class T>
@@ -75,8 +87,8 @@ std::vector<Oracle<T>> Oracles() {
         {"CopySign", [](T a, T b) { return M::copysign(a, b); }},
         {"NextAfter", [](T a, T b) { return M::nextafter(a, b); }},
         {"Fdim", [](T a, T b) { return M::fdim(a, b); }},
-        {"Fmax", [](T a, T b) { return M::fmax(a, b); }},
-        {"Fmin", [](T a, T b) { return M::fmin(a, b); }},
+        {"Fmax", [](T a, T b) { return MissingData<T>(a, b, M::fmax); }},
+        {"Fmin", [](T a, T b) { return MissingData<T>(a, b, M::fmin); }},
         {"MaxMag", MaxMagRef<T>},
         {"MinMag", MinMagRef<T>},
         {"Fmod", [](T a, T b) { return M::fmod(a, b); }},
@@ -197,6 +209,86 @@ void RandomPairs() {
 TEST(SmallKernels, RandomOperandsMatchTheCLibraryBitForBit) {
     RandomPairs<float>();
     RandomPairs<double>();
+}
+
+// Fmax, Fmin, MaxMag and MinMag take a NaN of either kind and sign as missing data, in
+// either operand, at every level, in any lane of the head, the body or the tail, among
+// ordered lanes: the other operand, to the bit. Invalid is raised exactly when an
+// operand is signalling; two NaNs give a quiet NaN.
+template <class T>
+bool IsQuiet(T x) {
+    constexpr uint64_t quietBit = sizeof(T) == 4 ? 0x00400000u : 0x0008000000000000ull;
+    return std::isnan(x) && (Bits(x) & quietBit);
+}
+
+// One NaN-bearing pair at lane `at` of a call of eleven elements (a head, a round of
+// eight and a tail at either offset) among ordered pairs: the pair's result, and
+// whether the call raised invalid.
+template <class T>
+bool MinMaxLane(const char* fn, int slot, int off, int at, T x, T w, T& y) {
+    constexpr int kLen = 11;
+    alignas(16) T a[kLen + 1], b[kLen + 1], r[kLen + 1];
+    for (int i = 0; i <= kLen; ++i)
+        a[i] = T(i + 1), b[i] = T(-i - 1.5);
+    a[off + at] = x;
+    b[off + at] = w;
+    unsigned flags;
+    {
+        CsrScope csr(0x1F80);
+        As<Binary<T>>(Slot(RowName<T>(fn), slot))(kLen, a + off, b + off, r + off);
+        flags = _mm_getcsr();
+    }
+    y = r[off + at];
+    return flags & 0x1;
+}
+
+template <class T>
+void MinMaxNaNs() {
+    brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_IGNORE);
+    constexpr bool s = sizeof(T) == 4;
+    const T nans[] = {s ? FromU<T>(0x7FC00000u) : FromU<T>(0x7FF8000000000000ull),
+                      s ? FromU<T>(0xFFC12345u) : FromU<T>(0xFFF8000000012345ull),
+                      s ? FromU<T>(0x7F800001u) : FromU<T>(0x7FF0000000000001ull),
+                      s ? FromU<T>(0xFFA00000u) : FromU<T>(0xFFF4000000000000ull),
+                      s ? FromU<T>(0x7FBFFFFFu) : FromU<T>(0x7FF7FFFFFFFFFFFFull)};
+    const T others[] = {T(1.5),
+                        T(-2),
+                        T(0),
+                        T(-0.0),
+                        INFINITY,
+                        -INFINITY,
+                        std::numeric_limits<T>::denorm_min(),
+                        std::numeric_limits<T>::max()};
+    int shown = 0;
+    auto check = [&](const char* fn, int slot, int off, int at, T x, T w, bool wantInvalid,
+                     bool (*right)(T, T)) {
+        T y;
+        bool invalid = MinMaxLane(fn, slot, off, at, x, w, y);
+        if ((invalid != wantInvalid || !right(y, std::isnan(x) ? w : x)) && shown++ < 8)
+            ADD_FAILURE() << RowName<T>(fn) << " slot " << slot << " lane " << off + at << " of "
+                          << std::hex << Bits(x) << " and " << Bits(w) << " gives " << Bits(y)
+                          << std::dec << (invalid ? ", invalid" : ", no invalid");
+    };
+    auto isOther = [](T y, T other) { return Bits(y) == Bits(other); };
+    auto isQuietNaN = [](T y, T) { return IsQuiet(y); };
+    for (const char* fn : {"Fmax", "Fmin", "MaxMag", "MinMag"})
+        for (int slot = 0; slot < 3; ++slot)
+            for (int off = 0; off < 2; ++off)
+                for (int at = 0; at < 11; ++at)
+                    for (T x : nans) {
+                        for (T w : others) {
+                            check(fn, slot, off, at, x, w, !IsQuiet(x), isOther);
+                            check(fn, slot, off, at, w, x, !IsQuiet(x), isOther);
+                        }
+                        for (T w : nans)
+                            check(fn, slot, off, at, x, w, !IsQuiet(x) || !IsQuiet(w), isQuietNaN);
+                    }
+    brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);
+}
+
+TEST(SmallKernels, MinAndMaxTakeEveryNaNAsMissingData) {
+    MinMaxNaNs<float>();
+    MinMaxNaNs<double>();
 }
 
 template <class T>

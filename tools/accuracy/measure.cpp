@@ -318,17 +318,35 @@ bool NanBitsMatter(Ref ref) {
     }
 }
 
+// Fmax and Fmin by C99's rule: a NaN operand, signalling or quiet, is missing data and
+// the other operand is the result; two NaNs give a NaN. The C library's fmax and fmin
+// return a quiet NaN for a signalling operand (the 2008 maxNum), so they judge ordered
+// operands only.
+template <class R>
+R MissingData(R a, R b, R (*ordered)(R, R)) {
+    if (isnan(a)) return isnan(b) ? a + b : b;
+    if (isnan(b)) return a;
+    return ordered(a, b);
+}
+template <class R>
+R Fmax(R a, R b) {
+    return MissingData<R>(a, b, [](R x, R w) { return fmax(x, w); });
+}
+template <class R>
+R Fmin(R a, R b) {
+    return MissingData<R>(a, b, [](R x, R w) { return fmin(x, w); });
+}
 template <class R>
 R MaxMag(R a, R b) {
     if (fabs(a) > fabs(b)) return a;
     if (fabs(b) > fabs(a)) return b;
-    return fmax(a, b);
+    return Fmax(a, b);
 }
 template <class R>
 R MinMag(R a, R b) {
     if (fabs(a) < fabs(b)) return a;
     if (fabs(b) < fabs(a)) return b;
-    return fmin(a, b);
+    return Fmin(a, b);
 }
 
 template <class R>
@@ -376,9 +394,9 @@ R NativeExact(Ref ref, R a, R b, R* second) {
     case Ref::Fdim:
         return fdim(a, b);
     case Ref::Fmax:
-        return fmax(a, b);
+        return Fmax(a, b);
     case Ref::Fmin:
-        return fmin(a, b);
+        return Fmin(a, b);
     case Ref::MaxMag:
         return MaxMag(a, b);
     case Ref::MinMag:

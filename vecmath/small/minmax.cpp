@@ -1,16 +1,22 @@
 /* CopySign, NextAfter, Fdim, Fmax, Fmin, MaxMag and MinMag, single and double: one
- * kernel for all levels, exact results equal to the C library's, no report.
+ * kernel for all levels, exact results, no report.
  *
  * CopySign works on the bits alone, so a NaN keeps its payload and its signalling bit.
  * Fdim is a - b where a > b and +0 elsewhere; a NaN operand passes through the
- * subtraction, quieted. Fmax and Fmin follow the C rule that a NaN operand yields the
- * other one: the vector body is maxps/minps, which give b for equal operands (so the
- * maximum of +0 and -0 is -0, as in the C library); lanes with a NaN go to the scalar
- * routine, which returns the other operand, or a + b (a quiet NaN) if either is
- * signalling. MaxMag and MinMag give the operand of larger (smaller) magnitude; on equal
- * magnitudes, and for NaN, they are Fmax (Fmin) of the operands. NextAfter steps the
- * integer view of a by one toward b; a zero a (the step crosses the sign) and NaN go
- * to the scalar routine. */
+ * subtraction, quieted. NextAfter steps the integer view of a by one toward b; a zero a
+ * (the step crosses the sign) and NaN go to the scalar routine.
+ *
+ * Fmax, Fmin, MaxMag and MinMag share one rule for NaN, C99's for fmax and fmin: a NaN
+ * operand is missing data and the result is the other operand. That holds for a
+ * signalling NaN as for a quiet one (C99 makes no exception for it, and neither does
+ * the 2019 IEEE 754 maximumNumber; the C library here follows the 2008 maxNum instead
+ * and returns a quiet NaN). Only two NaN operands give a NaN, quieted. Invalid is
+ * raised exactly when an operand is signalling: NaN lanes are taken out of the body's
+ * maxps/minps and ordered compares, which would raise it for quiet ones too, and go to
+ * the scalar routine. On ordered operands Fmax and Fmin are maxps and minps, which give
+ * b for equal operands (so the maximum of +0 and -0 is -0, as in the C library);
+ * MaxMag and MinMag give the operand of larger (smaller) magnitude, and on equal
+ * magnitudes Fmax (Fmin) of the operands. */
 #include "frame/kernels.h"
 #include "vecmath/frame/kernel_frame.h"
 
@@ -32,6 +38,7 @@ struct Ops<float> {
     static V Lt(V a, V b) { return _mm_cmplt_ps(a, b); }
     static V Le(V a, V b) { return _mm_cmple_ps(a, b); }
     static V Unord(V a, V b) { return _mm_cmpunord_ps(a, b); }
+    static V AndNot(V m, V v) { return _mm_andnot_ps(m, v); }
     static V Zero() { return _mm_setzero_ps(); }
     static __m128i SubInt(__m128i a, __m128i b) { return _mm_sub_epi32(a, b); }
     static __m128i One() { return _mm_set1_epi32(1); }
@@ -49,31 +56,33 @@ struct Ops<double> {
     static V Lt(V a, V b) { return _mm_cmplt_pd(a, b); }
     static V Le(V a, V b) { return _mm_cmple_pd(a, b); }
     static V Unord(V a, V b) { return _mm_cmpunord_pd(a, b); }
+    static V AndNot(V m, V v) { return _mm_andnot_pd(m, v); }
     static V Zero() { return _mm_setzero_pd(); }
     static __m128i SubInt(__m128i a, __m128i b) { return _mm_sub_epi64(a, b); }
     static __m128i One() { return _mm_set1_epi64x(1); }
 };
 
-// A signalling NaN: exponent all ones, quiet bit clear, some other significand bit set.
-inline bool IsSignalling(float x) {
-    uint32_t u = BitsOf(x) & 0x7FFFFFFFu;
-    return u > 0x7F800000u && u < 0x7FC00000u;
-}
-inline bool IsSignalling(double x) {
-    uint64_t u = BitsOf(x) & 0x7FFFFFFFFFFFFFFFull;
-    return u > 0x7FF0000000000000ull && u < 0x7FF8000000000000ull;
-}
-
-// The C rule for a NaN operand of fmax and fmin: the other operand, or a quiet NaN
-// through a + b when either is signalling.
+// A lane with a NaN operand: the other operand; two NaN operands give a quiet NaN
+// through a + b. The tests are quiet compares, so a quiet NaN raises nothing.
 template <class T>
 int NanPick(const T* a, const T* b, T* y) {
     T x = *a, w = *b;
-    if (IsSignalling(x) || IsSignalling(w))
-        *y = Keep(x) + w;
+    if (__builtin_isnan(x))
+        *y = __builtin_isnan(w) ? Keep(x) + w : w;
     else
-        *y = __builtin_isnan(w) ? x : w;
+        *y = x;
     return 0;
+}
+
+// The operands of a min/max body with NaN lanes made +0, so that maxps, minps and the
+// ordered compares (which raise invalid on a quiet NaN too) see numbers only; the NaN
+// lanes are marked special, by an unordered compare that raises invalid only for a
+// signalling NaN, and their results come from NanPick.
+template <class T>
+inline void OrderedOnly(typename Ops<T>::V& a, typename Ops<T>::V& b, typename Ops<T>::V& special) {
+    special = Ops<T>::Unord(a, b);
+    a = Ops<T>::AndNot(special, a);
+    b = Ops<T>::AndNot(special, b);
 }
 
 template <class Tp>
@@ -92,13 +101,7 @@ struct FdimBody {
     static V Eval(V a, V b, V&) {
         // Where a <= b the difference is replaced by +0 (the AND-NOT clears it); an
         // unordered compare is false, so a NaN comes through the subtraction.
-        return AndNot(O::Le(a, b), O::Sub(a, b));
-    }
-    static V AndNot(V m, V v) {
-        if constexpr (sizeof(T) == 4)
-            return _mm_andnot_ps(m, v);
-        else
-            return _mm_andnot_pd(m, v);
+        return O::AndNot(O::Le(a, b), O::Sub(a, b));
     }
 };
 
@@ -119,7 +122,7 @@ struct FmaxBody {
     using O = Ops<T>;
     using V = typename O::V;
     static V Eval(V a, V b, V& special) {
-        special = O::Unord(a, b);
+        OrderedOnly<T>(a, b, special);
         return MaxOf<T>(a, b);
     }
     static int Scalar(const T* a, const T* b, T* y) { return NanPick(a, b, y); }
@@ -131,7 +134,7 @@ struct FminBody {
     using O = Ops<T>;
     using V = typename O::V;
     static V Eval(V a, V b, V& special) {
-        special = O::Unord(a, b);
+        OrderedOnly<T>(a, b, special);
         return MinOf<T>(a, b);
     }
     static int Scalar(const T* a, const T* b, T* y) { return NanPick(a, b, y); }
@@ -145,7 +148,7 @@ struct MagBody {
     using O = Ops<T>;
     using V = typename O::V;
     static V Eval(V a, V b, V& special) {
-        special = O::Unord(a, b);
+        OrderedOnly<T>(a, b, special);
         V ma = O::And(a, AbsMask<T>()), mb = O::And(b, AbsMask<T>());
         V aWins = Big ? O::Lt(mb, ma) : O::Lt(ma, mb);
         V bWins = Big ? O::Lt(ma, mb) : O::Lt(mb, ma);
