@@ -1,6 +1,7 @@
 /* The kernel frame: the one place where the outer rules of an element-wise kernel live.
  *
- * A family file supplies a body, a small struct of mathematics:
+ * A family file supplies a body, a small struct of mathematics written in the vector
+ * vocabulary of vec.h:
  *   using T = float or double;
  *   Eval(...)   the vector arithmetic on one register, with the range test written as
  *               integer compares that set an all-ones lane mask in `special`
@@ -8,6 +9,7 @@
  *               binary:     V Eval(V a, V b, V& special)
  *               two result: void Eval(V x, V& y, V& z, V& special)
  *   Scalar(...) (optional) the routine for one special lane; returns the status
+ *               (status.h names them)
  *               unary: int Scalar(const T* a, T* y); binary: (a, b, y); two result: (a, y, z)
  *   kName       the public error name, when Scalar can return a non-zero status
  *   kX87, kCsr  (optional) entry rules; Masked and Common when absent
@@ -39,7 +41,9 @@
 #include "frame/fpenv.h"
 #include "frame/mode.h"
 #include "frame/report.h"
-#include "vecmath/frame/simd.h"
+#include "vecmath/frame/simd.h" // for the bodies not yet written in the vocabulary
+#include "vecmath/frame/status.h"
+#include "vecmath/frame/vec.h"
 
 namespace brenn::vm {
 
@@ -153,9 +157,8 @@ inline T* At(T* p, int i) {
 template <class B, Shape S>
 struct Quads {
     using T = typename B::T;
-    using Sd = Simd<T>;
-    using V = typename Sd::V;
-    static constexpr int L = Sd::kLanes;
+    using V = Vec<T>;
+    static constexpr int L = kLanes<T>;
     static constexpr int R = 4 / L; // registers per quad
 
     // One quad of results and the special-lane bits of its four lanes.
@@ -168,24 +171,24 @@ struct Quads {
         int bits = 0;
         for (int k = 0; k < R; ++k) {
             V special = V{};
-            q.x[k] = Sd::Load(a + k * L);
+            q.x[k] = Load(a + k * L);
             if constexpr (S == Shape::Unary) {
                 q.y[k] = body.Eval(q.x[k], special);
             } else if constexpr (S == Shape::Binary) {
-                q.w[k] = Sd::Load(b + k * L);
+                q.w[k] = Load(b + k * L);
                 q.y[k] = body.Eval(q.x[k], q.w[k], special);
             } else {
                 body.Eval(q.x[k], q.y[k], q.z[k], special);
             }
-            if constexpr (kHasScalar<B>) bits |= Sd::LaneBits(special) << (k * L);
+            if constexpr (kHasScalar<B>) bits |= MaskBits(special) << (k * L);
         }
         return bits;
     }
 
     static inline void Store(const Q& q, T* y, T* z) {
         for (int k = 0; k < R; ++k) {
-            Sd::Store(y + k * L, q.y[k]);
-            if constexpr (S == Shape::TwoRes) Sd::Store(z + k * L, q.z[k]);
+            vm::Store(y + k * L, q.y[k]);
+            if constexpr (S == Shape::TwoRes) vm::Store(z + k * L, q.z[k]);
         }
     }
 
@@ -193,23 +196,23 @@ struct Quads {
     // returned a status, the result stored, reported and read back from y (a callback
     // may have replaced it).
     static inline void Lane(const B& body, const Args<T>& v, int i, T* ry, T* rz) {
-        int status;
+        int st;
         if constexpr (S == Shape::Unary)
-            status = body.Scalar(v.a + i, ry);
+            st = body.Scalar(v.a + i, ry);
         else if constexpr (S == Shape::Binary)
-            status = body.Scalar(v.a + i, v.b + i, ry);
+            st = body.Scalar(v.a + i, v.b + i, ry);
         else
-            status = body.Scalar(v.a + i, ry, rz);
-        if (__builtin_expect(status != 0, 0)) {
+            st = body.Scalar(v.a + i, ry, rz);
+        if (__builtin_expect(st != status::kNone, 0)) {
             v.y[i] = *ry;
             if constexpr (S == Shape::TwoRes) {
                 v.z[i] = *rz;
-                frame::ReportError(status, i, v.a, v.a, v.y, v.z, NameOf<B>());
+                frame::ReportError(st, i, v.a, v.a, v.y, v.z, NameOf<B>());
                 *rz = v.z[i];
             } else if constexpr (S == Shape::Binary) {
-                frame::ReportError(status, i, v.a, v.b, v.y, v.y, NameOf<B>());
+                frame::ReportError(st, i, v.a, v.b, v.y, v.y, NameOf<B>());
             } else {
-                frame::ReportError(status, i, v.a, v.a, v.y, v.y, NameOf<B>());
+                frame::ReportError(st, i, v.a, v.a, v.y, v.y, NameOf<B>());
             }
             *ry = v.y[i];
         }
@@ -223,7 +226,7 @@ struct Quads {
             if (env.errorByte == kErrorModeNone) {
                 bits = body.FixNoError(q.x, q.y, bits);
                 for (int k = 0; k < R; ++k)
-                    Sd::Store(ry + k * L, q.y[k]);
+                    vm::Store(ry + k * L, q.y[k]);
             }
         }
         for (int lane = 0; lane < 4; ++lane)
@@ -276,8 +279,8 @@ struct Quads {
 
     // A main-stage round of sixteen: the body's whole-round form evaluates the four
     // quads before the one test of their special bits (four quads one after another
-    // gained nothing over rounds of eight); with a special lane, the quads' results go through memory and the
-    // special lanes are handled quad by quad, lane 0 up, as in a round of eight.
+    // gained nothing over rounds of eight); with a special lane, the quads' results go through
+    // memory and the special lanes are handled quad by quad, lane 0 up, as in a round of eight.
     static inline void Round16(const B& body, const Env<B>& env, const Args<T>& v, int i) {
         static_assert(kHasWide<B>, "rounds of sixteen pay only with the whole-round form");
         static_assert(S != Shape::Binary, "no wide form for two inputs");
@@ -286,7 +289,7 @@ struct Quads {
         V x[N], y[N], z[N];
 #pragma GCC unroll 16
         for (int k = 0; k < N; ++k)
-            x[k] = Sd::Load(v.a + i + k * L);
+            x[k] = Load(v.a + i + k * L);
         int bits;
         if constexpr (S == Shape::Unary)
             bits = body.EvalWide(x, y);

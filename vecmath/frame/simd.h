@@ -1,12 +1,12 @@
-/* The thin vector vocabulary that kernel bodies are written against: one register type
- * per element type, unaligned loads and stores, bit views for the integer range tests,
- * blends and lane masks. Only SSE up to 4.2 is used, so that results do not depend on
- * the machine. */
+/* The register struct Simd<T> and the range test RangeTest<T>(x, mask, offset, limit)
+ * in the form that the exponential, logarithm, trigonometric and min-max bodies were
+ * written against before the vocabulary of vec.h. New code uses vec.h; this header
+ * goes once those bodies have moved to it. */
 #ifndef BRENN_VECMATH_FRAME_SIMD_H
 #define BRENN_VECMATH_FRAME_SIMD_H
 
-#include <nmmintrin.h>
-#include <stdint.h>
+#include "vecmath/frame/scalar.h"
+#include "vecmath/frame/vec.h"
 
 namespace brenn::vm {
 
@@ -50,53 +50,14 @@ struct Simd<double> {
     static V Blend(V f, V t, V mask) { return _mm_blendv_pd(f, t, mask); }
 };
 
-// Sign-clearing and sign-only masks of the element type.
-template <class T>
-inline typename Simd<T>::V AbsMask() {
-    if constexpr (sizeof(T) == 4)
-        return Simd<T>::SplatBits(0x7FFFFFFFu);
-    else
-        return Simd<T>::SplatBits(0x7FFFFFFFFFFFFFFFull);
-}
-template <class T>
-inline typename Simd<T>::V SignMask() {
-    if constexpr (sizeof(T) == 4)
-        return Simd<T>::SplatBits(0x80000000u);
-    else
-        return Simd<T>::SplatBits(0x8000000000000000ull);
-}
-
-// The range test every family uses: (bits(x) & mask) + offset, read as signed, greater
-// than limit. Offset turns an unsigned window into one signed compare.
+// The full-width range test of vec_range.h with the window as three arguments.
 template <class T>
 inline typename Simd<T>::V RangeTest(typename Simd<T>::V x, typename Simd<T>::Bits andMask,
                                      typename Simd<T>::Bits offset, typename Simd<T>::Bits limit) {
-    using S = Simd<T>;
-    __m128i b = _mm_and_si128(S::AsInt(x), S::SplatInt(andMask));
-    b = S::AddInt(b, S::SplatInt(offset));
-    return S::GreaterInt(b, S::SplatInt(limit));
-}
-
-// Scalar bit views.
-inline uint32_t BitsOf(float x) {
-    return __builtin_bit_cast(uint32_t, x);
-}
-inline uint64_t BitsOf(double x) {
-    return __builtin_bit_cast(uint64_t, x);
-}
-inline float FloatOf(uint32_t b) {
-    return __builtin_bit_cast(float, b);
-}
-inline double DoubleOf(uint64_t b) {
-    return __builtin_bit_cast(double, b);
-}
-
-// Forces a value through memory so that the compiler keeps an operation that exists
-// for its flag (a division making an infinity, an invalid operation making a NaN).
-template <class T>
-inline T Keep(T v) {
-    volatile T t = v;
-    return t;
+    if constexpr (sizeof(T) == 4)
+        return RangeTest(x, Range32{andMask, offset, limit});
+    else
+        return RangeTest(x, Range64{andMask, offset, limit});
 }
 
 } // namespace brenn::vm

@@ -31,47 +31,41 @@ enum class Alias { None, YisA, YisB };
 // Bytes of y from which a call without aliasing streams its results past the cache.
 constexpr uintptr_t kStreamBytes = uintptr_t(1) << 20;
 
-inline void StreamStore(float* p, __m128 v) {
-    _mm_stream_ps(p, v);
-}
-inline void StreamStore(double* p, __m128d v) {
-    _mm_stream_pd(p, v);
-}
-
 // One round: eight registers of a and b, their results, eight stores (plain or
 // non-temporal). Loads come first so that the stores of a round, in place, cannot be
 // read back by the same round.
 template <bool NonTemporal, class B>
 inline void StreamRound(const B& body, const typename B::T* pa, const typename B::T* pb,
                         typename B::T* py) {
-    using Sd = Simd<typename B::T>;
-    constexpr int L = Sd::kLanes;
-    typename Sd::V r0 = body.Op(Sd::Load(pa + 0 * L), Sd::Load(pb + 0 * L));
-    typename Sd::V r1 = body.Op(Sd::Load(pa + 1 * L), Sd::Load(pb + 1 * L));
-    typename Sd::V r2 = body.Op(Sd::Load(pa + 2 * L), Sd::Load(pb + 2 * L));
-    typename Sd::V r3 = body.Op(Sd::Load(pa + 3 * L), Sd::Load(pb + 3 * L));
-    typename Sd::V r4 = body.Op(Sd::Load(pa + 4 * L), Sd::Load(pb + 4 * L));
-    typename Sd::V r5 = body.Op(Sd::Load(pa + 5 * L), Sd::Load(pb + 5 * L));
-    typename Sd::V r6 = body.Op(Sd::Load(pa + 6 * L), Sd::Load(pb + 6 * L));
-    typename Sd::V r7 = body.Op(Sd::Load(pa + 7 * L), Sd::Load(pb + 7 * L));
+    using T = typename B::T;
+    using V = Vec<T>;
+    constexpr int L = kLanes<T>;
+    V r0 = body.Op(Load(pa + 0 * L), Load(pb + 0 * L));
+    V r1 = body.Op(Load(pa + 1 * L), Load(pb + 1 * L));
+    V r2 = body.Op(Load(pa + 2 * L), Load(pb + 2 * L));
+    V r3 = body.Op(Load(pa + 3 * L), Load(pb + 3 * L));
+    V r4 = body.Op(Load(pa + 4 * L), Load(pb + 4 * L));
+    V r5 = body.Op(Load(pa + 5 * L), Load(pb + 5 * L));
+    V r6 = body.Op(Load(pa + 6 * L), Load(pb + 6 * L));
+    V r7 = body.Op(Load(pa + 7 * L), Load(pb + 7 * L));
     if constexpr (NonTemporal) {
-        StreamStore(py + 0 * L, r0);
-        StreamStore(py + 1 * L, r1);
-        StreamStore(py + 2 * L, r2);
-        StreamStore(py + 3 * L, r3);
-        StreamStore(py + 4 * L, r4);
-        StreamStore(py + 5 * L, r5);
-        StreamStore(py + 6 * L, r6);
-        StreamStore(py + 7 * L, r7);
+        StoreStream(py + 0 * L, r0);
+        StoreStream(py + 1 * L, r1);
+        StoreStream(py + 2 * L, r2);
+        StoreStream(py + 3 * L, r3);
+        StoreStream(py + 4 * L, r4);
+        StoreStream(py + 5 * L, r5);
+        StoreStream(py + 6 * L, r6);
+        StoreStream(py + 7 * L, r7);
     } else {
-        Sd::Store(py + 0 * L, r0);
-        Sd::Store(py + 1 * L, r1);
-        Sd::Store(py + 2 * L, r2);
-        Sd::Store(py + 3 * L, r3);
-        Sd::Store(py + 4 * L, r4);
-        Sd::Store(py + 5 * L, r5);
-        Sd::Store(py + 6 * L, r6);
-        Sd::Store(py + 7 * L, r7);
+        Store(py + 0 * L, r0);
+        Store(py + 1 * L, r1);
+        Store(py + 2 * L, r2);
+        Store(py + 3 * L, r3);
+        Store(py + 4 * L, r4);
+        Store(py + 5 * L, r5);
+        Store(py + 6 * L, r6);
+        Store(py + 7 * L, r7);
     }
 }
 
@@ -80,10 +74,9 @@ inline void StreamRound(const B& body, const typename B::T* pa, const typename B
 template <class B>
 inline void StreamRest(const B& body, int i, int n, const typename B::T* pa,
                        const typename B::T* pb, typename B::T* py) {
-    using Sd = Simd<typename B::T>;
-    constexpr int L = Sd::kLanes;
+    constexpr int L = kLanes<typename B::T>;
     for (; i + L <= n; i += L)
-        Sd::Store(py + i, body.Op(Sd::Load(pa + i), Sd::Load(pb + i)));
+        Store(py + i, body.Op(Load(pa + i), Load(pb + i)));
     for (; i < n; ++i)
         py[i] = body.Op(pa[i], pb[i]);
 }
@@ -92,7 +85,7 @@ template <class B, Alias A>
 inline void StreamLoop(const B& body, int n, const typename B::T* a, const typename B::T* b,
                        typename B::T* y) {
     using T = typename B::T;
-    constexpr int kRound = 8 * Simd<T>::kLanes;
+    constexpr int kRound = 8 * kLanes<T>;
     int i = 0;
     if constexpr (A == Alias::None) {
         const T* __restrict pa = a;
@@ -105,7 +98,7 @@ inline void StreamLoop(const B& body, int n, const typename B::T* a, const typen
                 py[i] = body.Op(pa[i], pb[i]);
             for (; i + kRound <= n; i += kRound)
                 StreamRound<true>(body, pa + i, pb + i, py + i);
-            _mm_sfence();
+            StreamFence();
         } else {
             for (; i + kRound <= n; i += kRound)
                 StreamRound<false>(body, pa + i, pb + i, py + i);
