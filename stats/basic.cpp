@@ -207,16 +207,16 @@ int32_t Basic(void* handle, uint64_t estimates, uint64_t method, const threader*
 
     const int order = HighestOrder(needed);
     const bool matrix = NeedsMatrix(needed);
-    T* aw = static_cast<T*>(task->accumWeight);
-    // Only a data set fed in blocks (through accumWeight) carries sums between calls.
-    const uint32_t carried = aw != nullptr ? CarriedOrders(needed, kind) : 0;
-    if (carried != 0 && !ReserveCarriedSums(task, p)) return BRENN_SS_ERROR_ALLOC;
     // One block: the active variables, the running state and five vectors of scratch.
     size_t bytes = 0;
     if (!AddBytesFor(&bytes, p, sizeof(int64_t)) ||
         !AddStateBytes(&bytes, p, matrix, false, sizeof(T)) ||
         !AddBytesFor(&bytes, p, 5 * sizeof(T)))
         return BRENN_SS_ERROR_ALLOC;
+    T* aw = static_cast<T*>(task->accumWeight);
+    // Only a data set fed in blocks (through accumWeight) carries sums between calls.
+    const uint32_t carried = aw != nullptr ? CarriedOrders(needed, kind) : 0;
+    if (carried != 0 && !ReserveCarriedSums(task, p)) return BRENN_SS_ERROR_ALLOC;
     void* memory = brenn_serv_allocate(bytes, 128);
     if (memory == nullptr) return BRENN_SS_ERROR_ALLOC;
     int64_t* act = static_cast<int64_t*>(memory);
