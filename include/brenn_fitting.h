@@ -1,4 +1,5 @@
-/* Data fitting: the task record's editors and queries, spline construction, cell
+/** @file brenn_fitting.h
+ * Data fitting: the task record's editors and queries, spline construction, cell
  * search and interpolation of one-dimensional functions on a partition.
  *
  * A task holds addresses of the caller's arrays (partition, function values,

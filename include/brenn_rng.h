@@ -1,4 +1,5 @@
-/* Random numbers: generator registry, streams, chunks, the shared read-only data
+/** @file brenn_rng.h
+ * Random numbers: generator registry, streams, chunks, the shared read-only data
  * table, jumps, basic generators and distribution generators.
  *
  * A stream is one record made by __qesNewStreamEx and ended by __qesDeleteStream.

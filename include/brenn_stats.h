@@ -1,4 +1,5 @@
-/* Summary statistics: the task record's editors and the compute entries of the kernel
+/** @file brenn_stats.h
+ * Summary statistics: the task record's editors and the compute entries of the kernel
  * library, with the numbers that cross its boundary (statuses, parameter ids, method
  * bits, estimate bits and storage words) as named constants.
  *
