@@ -1,7 +1,8 @@
 // The small exact kernels (CopySign, NextAfter, Fdim, Fmax, Fmin, MaxMag, MinMag, Fmod,
-// Remainder) against the C library on special values and random bit patterns, their
-// statuses, LinearFrac against its expression, and every length and misalignment
-// without a touch outside the vectors.
+// Remainder) against the C library on special values and random bit patterns (the
+// min/max rows with C99's rule for a signalling NaN, where the library differs), the
+// min/max rows' NaN lanes and invalid flag, their statuses, LinearFrac against its
+// expression, and every length and misalignment without a touch outside the vectors.
 #define _GNU_SOURCE 1
 #include <cmath>
 #include <gtest/gtest.h>
