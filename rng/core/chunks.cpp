@@ -21,11 +21,12 @@ QesChunk* NewCell() {
 
 // Links a cell with a guid to the table in one locked step: the row's block when
 // another stream brought it first, else a new row with the cell's own block. When
-// the table is (nearly) full the cell turns private and forgets its guid. So a
-// cell with a guid always holds exactly one reference and never owns its block; a
-// cell without one owns it.
+// the table is (nearly) full, or the row's block has another size than the cell
+// claims, the cell turns private and forgets its guid. So a cell with a guid always
+// holds exactly one reference, never owns its block and has the row's size; a cell
+// without one owns it.
 void ShareByGuid(QesChunk* cell) {
-    void* row = GlobShare(cell->guid, cell->data, kChunkRowLimit);
+    void* row = GlobShare(cell->guid, cell->data, cell->size, kChunkRowLimit);
     if (row == nullptr) {
         cell->guid[0] = cell->guid[1] = 0;
         return;
@@ -125,7 +126,7 @@ BRENN_EXPORT int32_t __qesCopyChunks(void* destination, const void* source) {
         cell->guid[1] = s->guid[1];
         // A shared block gains a reference; a private one (or one whose row went
         // away under the source) is copied.
-        cell->data = GuidIsZero(cell->guid) ? nullptr : GlobAcquire(cell->guid);
+        cell->data = GuidIsZero(cell->guid) ? nullptr : GlobAcquire(cell->guid, s->size);
         if (cell->data == nullptr) {
             cell->guid[0] = cell->guid[1] = 0;
             if (s->size != 0) {

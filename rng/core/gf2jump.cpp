@@ -3,6 +3,7 @@
 // costs one state addition per set bit of g; the sliding window of 8 bits cuts the
 // additions by about eight at the price of a table of 128 states.
 #include "frame/export.h"
+#include "platform/bytes.h"
 #include "platform/serv.h"
 #include "rng/core/polyrem.h"
 #include "rng/core/stream.h"
@@ -19,8 +20,12 @@ int32_t TopBit(const uint32_t* g, int32_t wordCount) {
     return -1;
 }
 
-void* Allocate(int64_t bytes) {
-    return brenn_serv_allocate(static_cast<size_t>(bytes), kStreamAlignment);
+// count blocks of `width` bytes, or null when the size does not fit (a negative
+// count among them), as when the allocator refuses.
+void* Allocate(int32_t count, size_t width) {
+    size_t bytes;
+    if (!BytesFor(count, width, &bytes)) return nullptr;
+    return brenn_serv_allocate(bytes, kStreamAlignment);
 }
 
 } // namespace
@@ -35,8 +40,8 @@ BRENN_EXPORT int32_t __qes_SkipAheadHorner(void* stream, QesJumpZeroFn zero, Qes
     if (count == 0) return QES_STATUS_OK;
     int32_t remainder = 0;
     if (prepare(stream, &count, &remainder) == 0) return QES_STATUS_OK;
-    uint32_t* g = static_cast<uint32_t*>(Allocate(int64_t{wordCount} * 8));
-    void* scratch = Allocate(stateBytes);
+    uint32_t* g = static_cast<uint32_t*>(Allocate(wordCount, 8));
+    void* scratch = Allocate(stateBytes, 1);
     if (g == nullptr || scratch == nullptr) {
         brenn_serv_deallocate(g);
         brenn_serv_deallocate(scratch);
@@ -69,15 +74,17 @@ BRENN_EXPORT int32_t __qes_SkipAheadSWin(void* stream, QesJumpZeroFn zero, QesJu
     if (count == 0) return QES_STATUS_OK;
     int32_t remainder = 0;
     if (prepare(stream, &count, &remainder) == 0) return QES_STATUS_OK;
-    uint32_t* g = static_cast<uint32_t*>(Allocate(int64_t{wordCount} * 8));
-    char* table = static_cast<char*>(Allocate(int64_t{stateBytes} * kWindowStates));
-    void* result = Allocate(stateBytes);
-    void* scratch = Allocate(stateBytes);
+    uint32_t* g = static_cast<uint32_t*>(Allocate(wordCount, 8));
+    char* table = static_cast<char*>(Allocate(stateBytes, kWindowStates));
+    void* result = Allocate(stateBytes, 1);
+    void* scratch = Allocate(stateBytes, 1);
     int32_t status = QES_STATUS_NO_MEMORY;
     if (g != nullptr && table != nullptr && result != nullptr && scratch != nullptr)
         status = __qesPolyRem(count, degree, termCount, terms, wordCount, g);
     if (status == QES_STATUS_OK) {
-        auto entry = [&](uint32_t value) { return table + int64_t{stateBytes} * value; };
+        auto entry = [&](uint32_t value) {
+            return table + static_cast<size_t>(stateBytes) * value;
+        };
         // Entry v holds (x^7 + v(x)) applied to the stream: the window's leading one
         // and its seven lower bits. Walking the values in reflected Gray order, each
         // entry is the previous one plus a single power of the transition.

@@ -3,6 +3,11 @@
 // reference. One spin lock guards it, rows and count alike: the chunk functions test
 // the capacity and add the row in one locked step, so two streams bringing the same
 // guid cannot both add one.
+//
+// A guid names one block, so it has one size: beside each row the table keeps the
+// size that the chunk which made it gave. A chunk that claims another size for the
+// guid (two images that disagree, say) never shares the row; it keeps its own block
+// as a private chunk would, so a cell's size always describes the block it holds.
 #include <atomic>
 #include <x86intrin.h>
 
@@ -16,8 +21,12 @@ constexpr int32_t kGlobRows = 128;
 
 namespace {
 
+// Rows made by the exported entry come without a size: no chunk joins them by guid.
+constexpr uint64_t kUnknownBytes = UINT64_MAX;
+
 GlobRODataEntry globTable[kGlobRows];
-int32_t globCount = 0; // rows in use, under the lock
+uint64_t globBytes[kGlobRows]; // the block size of each row
+int32_t globCount = 0;         // rows in use, under the lock
 std::atomic<int32_t> globLock{0};
 
 // Row of a guid, or null; the lock is held by the caller.
@@ -28,11 +37,21 @@ GlobRODataEntry* FindLocked(const uint64_t* guid) {
     return nullptr;
 }
 
+uint64_t& BytesOf(const GlobRODataEntry* e) {
+    return globBytes[e - globTable];
+}
+
+// True when a cell of `size` bytes may hold the row's block; the lock is held.
+bool SizeFits(const GlobRODataEntry* e, uint32_t size) {
+    return BytesOf(e) == size;
+}
+
 // A new row with one reference, or null when the table is full; the lock is held.
-GlobRODataEntry* AppendLocked(const uint64_t* guid, void* data) {
+GlobRODataEntry* AppendLocked(const uint64_t* guid, void* data, uint64_t bytes) {
     int32_t count = globCount;
     if (count >= kGlobRows) return nullptr;
     globTable[count] = GlobRODataEntry{guid[0], guid[1], 1, data};
+    globBytes[count] = bytes;
     globCount = count + 1;
     return &globTable[count];
 }
@@ -44,7 +63,10 @@ bool ReleaseLocked(GlobRODataEntry* e) {
     if (e->data != nullptr) brenn_serv_deallocate(e->data);
     int32_t last = globCount - 1;
     GlobRODataEntry* end = &globTable[last];
-    if (e != end) *e = *end;
+    if (e != end) {
+        *e = *end;
+        BytesOf(e) = BytesOf(end);
+    }
     *end = GlobRODataEntry{};
     globCount = last;
     return true;
@@ -71,11 +93,11 @@ static bool GlobContains(const uint64_t* guid) {
     return found;
 }
 
-void* GlobAcquire(const uint64_t* guid) {
+void* GlobAcquire(const uint64_t* guid, uint32_t size) {
     GlobLock();
     GlobRODataEntry* e = FindLocked(guid);
     void* data = nullptr;
-    if (e != nullptr) {
+    if (e != nullptr && SizeFits(e, size)) {
         e->refCount += 1;
         data = e->data;
     }
@@ -83,14 +105,15 @@ void* GlobAcquire(const uint64_t* guid) {
     return data;
 }
 
-void* GlobShare(const uint64_t* guid, void* data, int32_t rowLimit) {
+void* GlobShare(const uint64_t* guid, void* data, uint32_t size, int32_t rowLimit) {
     GlobLock();
     void* result = nullptr;
     if (GlobRODataEntry* e = FindLocked(guid); e != nullptr) {
-        e->refCount += 1;
-        result = e->data;
-    } else if (globCount < rowLimit &&
-               AppendLocked(guid, data) != nullptr) {
+        if (SizeFits(e, size)) {
+            e->refCount += 1;
+            result = e->data;
+        }
+    } else if (globCount < rowLimit && AppendLocked(guid, data, size) != nullptr) {
         result = data;
     }
     GlobUnlock();
@@ -137,17 +160,18 @@ BRENN_EXPORT int32_t __qesFindGlobRODataTableEntry(GlobRODataEntry** entry, cons
 BRENN_EXPORT int32_t __qesCreateGlobRODataTableEntry(GlobRODataEntry** entry, const uint64_t* guid,
                                                      void* data) {
     GlobLock();
-    GlobRODataEntry* e = AppendLocked(guid, data);
+    GlobRODataEntry* e = AppendLocked(guid, data, kUnknownBytes);
     GlobUnlock();
     if (e == nullptr) return QES_RNG_STATUS_GLOB_TABLE_FULL;
     *entry = e;
     return QES_STATUS_OK;
 }
 
+// A row whose size is known hands its block only to a cell of that size.
 BRENN_EXPORT void __qesRegisterGlobRODataReference(QesChunk* chunk, const uint64_t* guid) {
     GlobLock();
     GlobRODataEntry* e = FindLocked(guid);
-    if (e != nullptr) {
+    if (e != nullptr && (BytesOf(e) == kUnknownBytes || SizeFits(e, chunk->size))) {
         e->refCount += 1;
         chunk->data = e->data;
     }

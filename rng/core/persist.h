@@ -79,18 +79,21 @@ inline Header ParseHeader(const uint8_t* bytes) {
 }
 
 // Writes the whole image. A sink has Put(data, bytes) -> bool. The status of the
-// chunks is that of the last chunk's data alone, the small fields not counting.
+// chunks is that of the last chunk's data alone, the small fields not counting. A
+// stream that no image can hold (see __qesGetStreamSize) is refused before the sink
+// sees a byte.
 template <typename Sink>
 int32_t WriteImage(Sink& sink, const void* stream, int32_t writeStatus) {
-    BrngRecord row;
-    int32_t status = __qesGetBrngProperties(brenn::rng::Header(stream)->brng, &row);
-    if (status != QES_STATUS_OK) return status;
+    int32_t size = __qesGetStreamSize(stream);
+    if (size < 0) return size;
+    const BrngRecord* row = BuiltRowOf(stream);
     uint8_t h[kHeaderBytes];
-    MakeHeader(h, stream, row.stateSize);
+    MakeHeader(h, stream, row->stateSize);
     if (!sink.Put(h, kHeaderBytes)) return writeStatus;
-    size_t stateBytes = static_cast<size_t>(row.stateSize) - sizeof(StreamHeader);
+    size_t stateBytes = static_cast<size_t>(row->stateSize) - sizeof(StreamHeader);
     if (!sink.Put(static_cast<const char*>(stream) + sizeof(StreamHeader), stateBytes))
         return writeStatus;
+    int32_t status = QES_STATUS_OK;
     for (const QesChunk* c = brenn::rng::Header(stream)->chunks; c != nullptr; c = c->next) {
         uint8_t fields[4];
         Write32(fields, static_cast<uint32_t>(c->id));
@@ -106,18 +109,16 @@ int32_t WriteImage(Sink& sink, const void* stream, int32_t writeStatus) {
     return status;
 }
 
-// True when an earlier cell of the stream has this non-zero guid with another size.
-inline bool SharedSizeDiffers(const void* stream, const uint64_t* guid, uint32_t size) {
-    if (GuidIsZero(guid)) return false;
-    for (const QesChunk* c = brenn::rng::Header(stream)->chunks; c != nullptr; c = c->next)
-        if (c->guid[0] == guid[0] && c->guid[1] == guid[1] && c->size != size) return true;
-    return false;
-}
+// The longest image: what __qesGetStreamSize can announce, and so the longest that
+// the writer makes. A loader refuses a chunk that would carry an image past it
+// before allocating for it, whatever the medium holds.
+constexpr uint64_t kMaxImageBytes = INT32_MAX;
 
-// Builds a stream from an image. A source has Get(data, bytes) -> bool; `bad` is
-// the medium's status for a malformed image. *made is the stream once allocated,
-// also when a later step fails: the caller closes its medium first, then keeps or
-// deletes it by Conclude.
+// Builds a stream from an image. A source has Get(data, bytes) -> bool and Left(),
+// the bytes it still holds (UINT64_MAX when it cannot tell); `bad` is the medium's
+// status for a malformed image. *made is the stream once allocated, also when a
+// later step fails: the caller closes its medium first, then keeps or deletes it
+// by Conclude.
 template <typename Source>
 int32_t ReadImage(Source& source, void** made, int32_t bad) {
     *made = nullptr;
@@ -127,22 +128,21 @@ int32_t ReadImage(Source& source, void** made, int32_t bad) {
     if (!source.Get(bytes + 8, static_cast<size_t>(rest))) return QES_RNG_STATUS_FILE_READ;
     Header h = ParseHeader(bytes);
     if (!h.magic) return bad;
-    // A negative id passes the legacy validation (the front-end refuses it for
-    // callers), but an image is outside data: it must not index below the table.
-    if (h.brng < 0) return bad;
     int32_t family, member;
     BrngRecord* table = __qesGetBrngBaseOffset(h.brng, &family, &member);
-    BrngRecord row;
-    if (__qesIsBrngValid(table, family, member) != QES_STATUS_OK ||
-        __qesGetBrngProperties(h.brng, &row) != QES_STATUS_OK)
-        return bad;
-    if (static_cast<int64_t>(row.stateSize) - 16 != static_cast<int64_t>(h.stateBytes) ||
+    // An image is outside data: its id must name a generator that this build can
+    // run. Abstract streams are refused too: their state holds the saving process's
+    // buffer and callback addresses, which mean nothing (and must not be called) here.
+    const BrngRecord* row = BuiltRow(h.brng);
+    if (row == nullptr || (table == __RegBrngsNew && family >= 9 && family <= 11)) return bad;
+    if (static_cast<int64_t>(row->stateSize) - 16 != static_cast<int64_t>(h.stateBytes) ||
         h.headerSize < kHeaderBytes)
         return bad;
     void* s = nullptr;
     int32_t status = __qesAllocateStream(&s, table, h.brng, family, member);
     if (status != QES_STATUS_OK) return status;
     *made = s;
+    uint64_t length = static_cast<uint64_t>(8 + rest) + h.stateBytes;
     if (!source.Get(static_cast<char*>(s) + sizeof(StreamHeader), h.stateBytes))
         status = QES_RNG_STATUS_FILE_READ;
     if (status == QES_STATUS_OK) {
@@ -158,6 +158,7 @@ int32_t ReadImage(Source& source, void** made, int32_t bad) {
             break;
         }
         int32_t id = static_cast<int32_t>(Read32(fields));
+        length += 8;
         if (h.version == 1 || h.version == 2) {
             uint8_t g[16];
             if (!source.Get(g, 16)) {
@@ -165,6 +166,7 @@ int32_t ReadImage(Source& source, void** made, int32_t bad) {
                 break;
             }
             memcpy(guid, g, 16);
+            length += 16;
         } else if (h.version != 0) {
             status = QES_RNG_STATUS_FILE_READ; // no chunk layout for this version
             break;
@@ -174,9 +176,15 @@ int32_t ReadImage(Source& source, void** made, int32_t bad) {
             break;
         }
         uint32_t size = Read32(fields);
-        // One shared table has one size: an image that gives a guid two sizes
-        // would leave a cell that claims more bytes than the block it shares.
-        if (SharedSizeDiffers(s, guid, size)) {
+        // The claim is weighed before anything is allocated for it: data that the
+        // medium does not hold is a short read, an image longer than any written a
+        // malformed one.
+        length += size;
+        if (size > source.Left()) {
+            status = QES_RNG_STATUS_FILE_READ;
+            break;
+        }
+        if (length > kMaxImageBytes) {
             status = bad;
             break;
         }
@@ -195,8 +203,9 @@ int32_t ReadImage(Source& source, void** made, int32_t bad) {
             brenn_serv_deallocate(data);
             break;
         }
-        // A guid already in the shared table joins its row; the block just read
-        // then has no owner, and is let go here rather than left behind.
+        // A guid already in the shared table (with this size) joins its row; the
+        // block just read then has no owner, and is let go here rather than left
+        // behind.
         if (brenn::rng::Header(s)->chunks->data != data) brenn_serv_deallocate(data);
     }
     return status;

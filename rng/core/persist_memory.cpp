@@ -1,6 +1,7 @@
 // Saving a stream into a caller's memory block and loading it back. The block must
 // be as long as __qesGetStreamSize says (on save) or as the image says (on load):
-// the memory forms read and write with a running position and make no length test.
+// the memory forms read and write with a running position and make no length test
+// beyond refusing an image longer than any that the writer makes.
 #include "frame/export.h"
 #include "rng/core/persist.h"
 
@@ -17,6 +18,8 @@ struct MemorySink {
     }
 };
 
+// The block's length is not given, so a chunk's claim is bounded only by the
+// longest image there is.
 struct MemorySource {
     const uint8_t* at;
     bool Get(void* data, size_t bytes) {
@@ -24,6 +27,7 @@ struct MemorySource {
         at += bytes;
         return true;
     }
+    uint64_t Left() const { return UINT64_MAX; }
 };
 
 } // namespace

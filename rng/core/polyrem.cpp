@@ -11,6 +11,7 @@
 #include <string.h>
 
 #include "frame/export.h"
+#include "platform/bytes.h"
 #include "platform/serv.h"
 #include "rng/core/bitspread.h"
 #include "rng/core/polyrem.h"
@@ -82,7 +83,8 @@ inline void XorWords(uint64_t* r, const uint64_t* source, int32_t span) {
 
 // The table entry holding v(x) P(x) x^(4 offset), for v of at most 4 bits.
 inline const uint64_t* Multiple(const Work& w, int offset, uint64_t v) {
-    return w.p + (16 * offset + static_cast<int>(v)) * (w.words + 1);
+    return w.p + static_cast<size_t>(16 * offset + static_cast<int>(v)) *
+                     static_cast<size_t>(w.words + 1);
 }
 
 // Dense reduction, four bits at a time: the nibble H at position q (q - degree a
@@ -182,7 +184,9 @@ using namespace brenn::rng;
 BRENN_EXPORT int32_t __qesPolyRem(uint64_t count, int32_t degree, int32_t termCount,
                                   const int32_t* terms, int32_t wordCount, uint32_t* out) {
     if (count < static_cast<uint64_t>(degree)) {
-        memset(out, 0, static_cast<size_t>(wordCount) * 4);
+        size_t bytes;
+        if (!BytesFor(wordCount, 4, &bytes)) return QES_STATUS_NO_MEMORY;
+        memset(out, 0, bytes);
         out[count >> 5] = uint32_t{1} << (count & 31);
         return QES_STATUS_OK;
     }
@@ -207,7 +211,11 @@ BRENN_EXPORT int32_t __qesPolyRem(uint64_t count, int32_t degree, int32_t termCo
     double denseCost = (w.chunk >= 4 ? 0.25 : 0.5) * degree * span / 8;
     w.dense = denseCost < sparseCost;
 
-    size_t total = static_cast<size_t>(2 * w.words + 2 + (w.dense ? 256 * span : 0)) * 8;
+    // The table of multiples grows with the degree, which a caller gives.
+    size_t total = 0;
+    if (!AddBytesFor(&total, 2 * int64_t{w.words} + 2, 8) ||
+        (w.dense && !AddBytesFor(&total, 256 * int64_t{span}, 8)))
+        return QES_STATUS_NO_MEMORY;
     uint64_t* area = static_cast<uint64_t*>(brenn_serv_allocate(total, kStreamAlignment));
     if (area == nullptr) return QES_STATUS_NO_MEMORY;
     memset(area, 0, total);

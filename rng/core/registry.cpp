@@ -107,16 +107,26 @@ __attribute__((visibility("default"))) BrngRecord __RegBrngsNew[512] = {
 namespace brenn::rng {
 
 constexpr int kLegacyRowLimit = 281; // deliberately past the two blank rows 279, 280
-constexpr int kFamilies = 512;
 
-int32_t RegisteredMembers[kFamilies] = {1, 1, 1, 1, 273, 1, 1, 1, 6024, 1, 1, 1, 1, 1, 1, 1};
+int32_t RegisteredMembers[kRegistryRows] = {1, 1, 1, 1, 273, 1, 1, 1, 6024, 1, 1, 1, 1, 1, 1, 1};
 int32_t RegisteredCount = 16;
 
 const BrngRecord* ValidRow(int32_t id) {
     int32_t family, member;
     const BrngRecord* table = __qesGetBrngBaseOffset(id, &family, &member);
+    if (family < 0 || family >= kRegistryRows) return nullptr;
     if (__qesIsBrngValid(table, family, member) != QES_STATUS_OK) return nullptr;
     return table + family;
+}
+
+bool IsBuilt(const BrngRecord* row) {
+    return row->initStream != nullptr && row->sGenerate != nullptr && row->dGenerate != nullptr &&
+           row->iGenerate != nullptr;
+}
+
+const BrngRecord* BuiltRow(int32_t id) {
+    const BrngRecord* row = ValidRow(id);
+    return row != nullptr && IsBuilt(row) ? row : nullptr;
 }
 
 } // namespace brenn::rng

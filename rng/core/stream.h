@@ -25,6 +25,7 @@ static_assert(sizeof(StreamHeader) == 16, "the stream header is 16 bytes");
 
 constexpr int kStreamAlignment = 128;
 constexpr int32_t kNewIdBase = 0x100000;
+constexpr int32_t kRegistryRows = 512; // rows of each table
 
 inline StreamHeader* Header(void* stream) {
     return static_cast<StreamHeader*>(stream);
@@ -39,19 +40,26 @@ inline State* StateOf(void* stream) {
     return reinterpret_cast<State*>(static_cast<char*>(stream) + sizeof(StreamHeader));
 }
 
-// The row of a stream's generator, by the one split rule of the registry.
-inline const BrngRecord* RowOf(const void* stream) {
-    int32_t family, member;
-    const BrngRecord* table = __qesGetBrngBaseOffset(Header(stream)->brng, &family, &member);
-    return table + family;
-}
-
 // Member counts of the current table's families, and its filled rows.
-extern int32_t RegisteredMembers[512];
+extern int32_t RegisteredMembers[kRegistryRows];
 extern int32_t RegisteredCount;
 
-// Split and validate: the row, or null when the id is unknown.
+// Split and validate: the row, or null when the id is unknown. The legacy test
+// passes negative ids (refusing them is the front-end's duty towards callers), but
+// no row lies below the table, so here they are unknown.
 const BrngRecord* ValidRow(int32_t id);
+
+// The row of an id whose generator is in this build, or null. A registered family
+// whose source is not built has sizes and null entries; to every entry that would
+// run, copy, save or load its streams it is an unknown id, so that nothing ever
+// calls through a null entry.
+const BrngRecord* BuiltRow(int32_t id);
+bool IsBuilt(const BrngRecord* row);
+
+// The row of a stream's generator when it is built, else null.
+inline const BrngRecord* BuiltRowOf(const void* stream) {
+    return BuiltRow(Header(stream)->brng);
+}
 
 // Deletes one cell: releases its reference in the shared table (which frees shared
 // data with the last one) or frees private data, then the cell itself.

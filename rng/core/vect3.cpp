@@ -4,6 +4,7 @@
 #include <string.h>
 
 #include "frame/export.h"
+#include "platform/bytes.h"
 #include "platform/serv.h"
 #include "rng/core/jumptables.h"
 #include "rng/core/stream.h"
@@ -103,12 +104,13 @@ BRENN_EXPORT int32_t __qesiVect3PowArrayMod(uint32_t* vector, const uint32_t* ro
     // The count is worked on in a scratch copy: on the stack for short counts.
     uint64_t local[10] = {};
     uint64_t* scratch = local;
+    size_t bytes = 0;
+    if (n > 0 && !BytesFor(n, sizeof(uint64_t), &bytes)) return QES_STATUS_NO_MEMORY;
     if (n > 10) {
-        scratch = static_cast<uint64_t*>(
-            brenn_serv_allocate(static_cast<size_t>(n) * 8, kStreamAlignment));
+        scratch = static_cast<uint64_t*>(brenn_serv_allocate(bytes, kStreamAlignment));
         if (scratch == nullptr) return QES_STATUS_NO_MEMORY;
     }
-    if (n > 0) memcpy(scratch, words, static_cast<size_t>(n) * 8);
+    if (n > 0) memcpy(scratch, words, bytes);
     Matrix base, result;
     Companion(base, row);
     PowerOver(result, base, n, scratch, Modulus(modulus));

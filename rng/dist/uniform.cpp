@@ -1,6 +1,7 @@
 // The uniform distribution generators: single and double uniforms straight from the
 // basic generator's real entries (with the optional clamp to [a, b]), and integer
-// uniforms as floors of double uniforms taken in blocks.
+// uniforms as floors of double uniforms taken in blocks. A stream whose generator is
+// not built (or whose id is unknown) is refused before any entry is called.
 #include <math.h>
 
 #include "frame/export.h"
@@ -26,7 +27,9 @@ void Clamp(int32_t n, T* r, T a, T b) {
 
 BRENN_EXPORT int32_t _qessRngUniform(int32_t method, void* stream, int32_t n, float* r, float a,
                                      float b) {
-    int32_t status = RowOf(stream)->sGenerate(stream, n, r, a, b);
+    const BrngRecord* row = BuiltRowOf(stream);
+    if (row == nullptr) return QES_RNG_STATUS_BAD_BRNG;
+    int32_t status = row->sGenerate(stream, n, r, a, b);
     if (status < 0) return status;
     if ((method & QES_RNG_METHOD_UNIFORM_ACCURATE) && n >= 1) Clamp(n, r, a, b);
     return status;
@@ -34,7 +37,9 @@ BRENN_EXPORT int32_t _qessRngUniform(int32_t method, void* stream, int32_t n, fl
 
 BRENN_EXPORT int32_t _qesdRngUniform(int32_t method, void* stream, int32_t n, double* r, double a,
                                      double b) {
-    int32_t status = RowOf(stream)->dGenerate(stream, n, r, a, b);
+    const BrngRecord* row = BuiltRowOf(stream);
+    if (row == nullptr) return QES_RNG_STATUS_BAD_BRNG;
+    int32_t status = row->dGenerate(stream, n, r, a, b);
     if (status < 0) return status;
     if ((method & QES_RNG_METHOD_UNIFORM_ACCURATE) && n >= 1) Clamp(n, r, a, b);
     return status;
@@ -57,5 +62,7 @@ BRENN_EXPORT int32_t _qesiRngUniform(int32_t method, void* stream, int32_t n, in
 }
 
 BRENN_EXPORT int32_t _qesiRngUniformBits(int32_t method, void* stream, int32_t n, void* r) {
-    return RowOf(stream)->iGenerate(stream, n, r);
+    const BrngRecord* row = BuiltRowOf(stream);
+    if (row == nullptr) return QES_RNG_STATUS_BAD_BRNG;
+    return row->iGenerate(stream, n, r);
 }

@@ -263,53 +263,8 @@ TEST(RngPersist, MalformedImages) {
     for (size_t cut : {size_t{1}, size_t{50}, size_t{100}, size_t{110}, size_t{124}})
         both(std::vector<uint8_t>(chunked.begin(), chunked.end() - cut), QES_RNG_STATUS_FILE_READ,
              0);
-    // The processor checks run after the state is read and leave no stream.
-    for (int32_t id : {QES_BRNG_TRNG, QES_BRNG_ARS5}) {
-        BrngRecord row;
-        ASSERT_EQ(__qesGetBrngProperties(id, &row), 0);
-        std::vector<uint8_t> img(24 + row.stateSize - 16, 0);
-        img[0] = 2;
-        std::memcpy(img.data() + 4, "RNG", 3);
-        img[8] = 24;
-        img[12] = static_cast<uint8_t>(row.stateSize - 16);
-        std::memcpy(img.data() + 20, &id, 4);
-        bool has = id == QES_BRNG_TRNG ? __qesCPUisRDRAND() : __qesCPUisAES();
-        int32_t expect =
-            has ? 0 : (id == QES_BRNG_TRNG ? QES_RNG_STATUS_NO_RDRAND : QES_RNG_STATUS_NO_AES);
-        void* m = nullptr;
-        EXPECT_EQ(__qesLoadStreamM(&m, img.data()), expect);
-        if (m != nullptr) __qesDeleteStream(&m);
-    }
     __qesDeleteStream(&s);
     std::remove(path.c_str());
-}
-
-// Two chunks of one shared table with different sizes: the second would share the
-// first one's block while claiming its own size.
-TEST(RngPersist, OneGuidWithTwoSizesIsRefused) {
-    void* s = NewStream(QES_BRNG_MCG31M1);
-    uint64_t guid[2] = {0xABCDEF, 0x123};
-    auto image = SaveM(s);
-    image[16] = 2; // two chunks
-    for (uint32_t size : {1u, 9u}) {
-        uint8_t cell[24] = {};
-        cell[0] = 9;
-        std::memcpy(cell + 4, guid, 16);
-        std::memcpy(cell + 20, &size, 4);
-        image.insert(image.end(), cell, cell + 24);
-        image.insert(image.end(), size, 0x33);
-    }
-    ExpectLoadRefused(image, QES_RNG_STATUS_BAD_IMAGE_FORMAT);
-    int64_t live = brenn_serv_live_allocations();
-    void* m = nullptr;
-    // With equal sizes the second cell joins the first one's table row.
-    image[24 + 8 + 25 + 20] = 1; // the second size, after the first cell of 25 bytes
-    image.erase(image.end() - 8, image.end());
-    ASSERT_EQ(__qesLoadStreamM(&m, image.data()), 0);
-    EXPECT_EQ(__qesGetNumChunks(m), 2);
-    __qesDeleteStream(&m);
-    EXPECT_EQ(brenn_serv_live_allocations(), live);
-    __qesDeleteStream(&s);
 }
 
 TEST(RngPersist, FileNamesAndFileErrors) {
