@@ -62,7 +62,7 @@ def main():
       "per element, the best round of each run; multiply by the ratio to get core cycles.\n"
       % (machine(), ctx.get("num_cpus", "?"), ctx.get("tsc_mhz", "?"), ctx.get("core_mhz", "?"),
          ctx.get("tsc_ticks_per_core_cycle", "?")))
-    w("Inputs are uniform over each function's interesting range (tools/accuracy/rowtable.cpp). "
+    w("Inputs are uniform over each function's interesting range (tools/accuracy/rows.def). "
       "Peers: SLEEF SSE4 functions (u05/u10/u15 beside HA, u35 beside LA and EP), glibc libmvec "
       "SSE (`_ZGVbN4v_*`, `_ZGVbN2v_*`, 4 ulp) and scalar libm, where they have the function; "
       "Inv and Div, which no library offers, are set beside a plain compiled loop of IEEE "

@@ -1,7 +1,9 @@
 // The accuracy tool: measures every slot of every row that has a kernel (or the rows
 // named with --row), writes the table of docs/accuracy.md, and with --check fails when
-// a slot breaks its level's bound: exact rows bit for bit, HA 1 ulp (0.5 for Div, Sqrt
-// and Inv), LA 4 ulps, EP 11 correct bits in single precision and 26 in double.
+// a slot breaks its level's bound (exact rows bit for bit, HA 1 ulp, 0.5 for Rounded
+// rows, LA 4 ulps, EP 11 correct bits in single precision and 26 in double) or the
+// ceiling kept for it in ceilings.def; --write-ceilings rewrites those ceilings from
+// the run.
 #include <math.h>
 #include <stdio.h>
 #include <stdlib.h>
@@ -11,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "tools/accuracy/ceilings.h"
 #include "tools/accuracy/measure.h"
 
 using namespace brenn::tools;
@@ -23,8 +26,15 @@ namespace {
 
 const char* const kSlotName[3] = {"LA", "HA", "EP"};
 
-bool SinglePrecision(const RowDesc& r) {
-    return r.type == 's' || r.type == 'c';
+// The figure a slot is judged by: ulps for LA and HA, correct bits for EP.
+double Figure(int slot, const SlotResult& s) {
+    return slot == 2 ? s.minBits : s.maxUlp;
+}
+
+std::string LimitText(int slot, double limit) {
+    char buf[32];
+    snprintf(buf, sizeof buf, slot == 2 ? ">= %g bits" : "<= %g ulp", limit);
+    return buf;
 }
 
 // The bound a slot is held to, as text, and whether the result meets it.
@@ -33,26 +43,29 @@ bool WithinBound(const RowDesc& r, int slot, const SlotResult& s, std::string* b
         *bound = "no writes outside y";
         return false;
     }
-    if (IsExactRef(r.facts->ref)) {
+    if (IsExact(*r.facts)) {
         *bound = "exact";
         return s.mismatches == 0;
     }
-    if (slot == 2) {
-        int bits = SinglePrecision(r) ? 11 : 26;
-        *bound = ">= " + std::to_string(bits) + " bits";
-        return s.minBits >= bits;
+    double limit = LevelBound(*r.facts, slot);
+    *bound = LimitText(slot, limit);
+    return WithinLimit(slot, Figure(slot, s), limit);
+}
+
+// The ceiling kept for a slot, as text, and whether the result stays under it. Exact
+// rows are held by their bound alone.
+bool WithinCeiling(const RowDesc& r, int slot, const SlotResult& s, std::string* ceiling) {
+    if (IsExact(*r.facts)) {
+        *ceiling = "exact";
+        return true;
     }
-    double limit = 4;
-    if (slot == 1) {
-        Ref f = r.facts->ref;
-        bool rounded =
-            (r.type == 's' || r.type == 'd') && (f == Ref::Div || f == Ref::Sqrt || f == Ref::Inv);
-        limit = rounded ? 0.5 : 1.0;
+    const CeilingLine* c = FindCeiling(r.index, slot);
+    if (!c) {
+        *ceiling = "none";
+        return false;
     }
-    char buf[32];
-    snprintf(buf, sizeof buf, "<= %g ulp", limit);
-    *bound = buf;
-    return s.maxUlp <= limit;
+    *ceiling = LimitText(slot, c->value);
+    return WithinLimit(slot, Figure(slot, s), c->value);
 }
 
 std::string Fmt(double v, const char* f) {
@@ -87,15 +100,55 @@ void ListRow(const RowDesc& r) {
 }
 
 void Usage() {
-    fprintf(stderr, "usage: brenn_accuracy [--row NAME]... [--quick] [--samples N] [--seed S]\n"
-                    "                      [--out FILE] [--check] [--list] [--selftest]\n"
-                    "  --row NAME   measure only this row (e.g. sSqrt); repeatable\n"
-                    "  --quick      20000 inputs a row (the ctest run)\n"
-                    "  --samples N  random inputs a row (default 250000)\n"
-                    "  --out FILE   write the markdown table (docs/accuracy.md)\n"
-                    "  --check      exit 1 when a slot breaks its level's bound\n"
-                    "  --list       list the rows and which slots have kernels\n"
-                    "  --selftest   measure kernels of known quality and check the tool sees it\n");
+    fprintf(stderr,
+            "usage: brenn_accuracy [--row NAME]... [--quick] [--samples N] [--seed S]\n"
+            "                      [--out FILE] [--check] [--write-ceilings FILE] [--list]\n"
+            "                      [--selftest]\n"
+            "  --row NAME   measure only this row (e.g. sSqrt); repeatable\n"
+            "  --quick      %ld inputs a row (the ctest)\n"
+            "  --samples N  random inputs a row (default %ld)\n"
+            "  --out FILE   write the markdown table (docs/accuracy.md)\n"
+            "  --check      exit 1 when a slot breaks its level's bound or its ceiling\n"
+            "  --write-ceilings FILE  write ceilings.def with the measured rows' ceilings\n"
+            "               (the other rows' kept as they are); full runs only\n"
+            "  --list       list the rows and which slots have kernels\n"
+            "  --selftest   measure kernels of known quality and check the tool sees it\n",
+            kQuickSamples, kFullSamples);
+}
+
+bool Wanted(const std::vector<std::string>& only, const char* name) {
+    if (only.empty()) return true;
+    for (const std::string& n : only)
+        if (n == name) return true;
+    return false;
+}
+
+// The ceilings of a run's measured rows, with the kept ones of the other rows, in
+// row and slot order. Reports each change.
+std::vector<CeilingLine> NewCeilings(const RowDesc* rows, int count,
+                                     const std::vector<std::string>& only,
+                                     const std::vector<std::vector<SlotResult>>& results) {
+    std::vector<CeilingLine> lines;
+    for (int i = 0; i < count; ++i) {
+        const RowDesc& r = rows[i];
+        bool measured = Wanted(only, r.name);
+        for (int s = 0; s < 3; ++s) {
+            const CeilingLine* kept = FindCeiling(r.index, s);
+            if (!measured) {
+                if (kept) lines.push_back(*kept);
+                continue;
+            }
+            const SlotResult& x = results[i][s];
+            if (!x.present || IsExact(*r.facts)) continue;
+            CeilingLine c{r.index, s, CeilingFor(*r.facts, s, Figure(s, x))};
+            lines.push_back(c);
+            if (!kept || kept->value != c.value)
+                fprintf(stderr, "%s %s ceiling: %s -> %s\n", r.name, kSlotName[s],
+                        kept ? LimitText(s, kept->value).c_str() : "none",
+                        LimitText(s, c.value).c_str());
+        }
+    }
+    return lines;
 }
 
 } // namespace
@@ -104,6 +157,7 @@ int main(int argc, char** argv) {
     Options options;
     std::vector<std::string> only;
     const char* outPath = nullptr;
+    const char* ceilingsPath = nullptr;
     bool check = false, list = false, quick = false;
     for (int i = 1; i < argc; ++i) {
         std::string a = argv[i];
@@ -126,6 +180,8 @@ int main(int argc, char** argv) {
             outPath = next();
         else if (a == "--check")
             check = true;
+        else if (a == "--write-ceilings")
+            ceilingsPath = next();
         else if (a == "--list")
             list = true;
         else if (a == "--selftest")
@@ -135,16 +191,17 @@ int main(int argc, char** argv) {
             return 2;
         }
     }
-    if (quick) options.randomSamples = 20000;
+    if (quick) options.randomSamples = kQuickSamples;
+    if (ceilingsPath && (options.randomSamples != kFullSamples || options.seed != kDefaultSeed)) {
+        // a quick run sees a subset of the full run's inputs, so only ceilings taken
+        // from the full run on the default seed are sure to hold in it
+        fprintf(stderr, "brenn_accuracy: --write-ceilings needs a full run (default samples "
+                        "and seed)\n");
+        return 2;
+    }
 
     int count = 0;
     const RowDesc* rows = AllRows(&count);
-    for (int i = 0; i < count; ++i)
-        if (!rows[i].facts) {
-            fprintf(stderr, "brenn_accuracy: row %s has no entry in tools/accuracy/rowtable.cpp\n",
-                    rows[i].name);
-            return 2;
-        }
     for (const std::string& name : only) {
         bool found = false;
         for (int i = 0; i < count; ++i)
@@ -157,19 +214,15 @@ int main(int argc, char** argv) {
 
     std::string table, missing;
     int measured = 0, failures = 0, withKernels = 0;
+    std::vector<std::vector<SlotResult>> results(count, std::vector<SlotResult>(3));
     for (int i = 0; i < count; ++i) {
         const RowDesc& r = rows[i];
-        if (!only.empty()) {
-            bool want = false;
-            for (const std::string& name : only)
-                want |= name == r.name;
-            if (!want) continue;
-        }
-        SlotResult res[3];
+        if (!Wanted(only, r.name)) continue;
         if (list) {
             ListRow(r);
             continue;
         }
+        SlotResult* res = results[i].data();
         MeasureRow(r, options, res);
         if (!res[0].present && !res[1].present && !res[2].present) {
             missing += missing.empty() ? r.name : std::string(", ") + r.name;
@@ -180,19 +233,23 @@ int main(int argc, char** argv) {
             const SlotResult& x = res[s];
             if (!x.present) {
                 table += std::string("| ") + r.name + " | " + kSlotName[s] +
-                         " | not implemented | | | | | |\n";
+                         " | not implemented | | | | | | |\n";
                 continue;
             }
             ++measured;
-            std::string bound;
-            bool ok = WithinBound(r, s, x, &bound);
-            if (!ok) ++failures;
-            bool exact = IsExactRef(r.facts->ref);
+            std::string bound, ceiling;
+            bool inBound = WithinBound(r, s, x, &bound);
+            bool underCeiling = WithinCeiling(r, s, x, &ceiling);
+            if (!inBound || !underCeiling) ++failures;
+            bool exact = IsExact(*r.facts);
             std::string err = exact ? (x.mismatches ? Fmt(x.maxUlp, "%.3g") + " (" +
                                                           std::to_string(x.mismatches) + " differ)"
                                                     : "exact")
                                     : Fmt(x.maxUlp, "%.3f");
             std::string bits = exact ? "" : Fmt(x.minBits, "%.1f");
+            std::string status = !inBound        ? "**FAILS**"
+                                 : !underCeiling ? "**above ceiling**"
+                                                 : "ok";
             std::string notes;
             if (x.sameAs >= 0) notes = std::string("kernel of ") + kSlotName[x.sameAs];
             if (x.zeroSign)
@@ -203,17 +260,34 @@ int main(int argc, char** argv) {
                          " bytes written outside y";
             std::string worst = x.worst.empty() ? "" : "`" + x.worst + "`";
             table += std::string("| ") + r.name + " | " + kSlotName[s] + " | " + err + " | " +
-                     bits + " | " + bound + " | " + (ok ? "ok" : "**FAILS**") + " | " +
+                     bits + " | " + ceiling + " | " + bound + " | " + status + " | " +
                      std::to_string(x.checked) + " | " + notes +
                      (notes.empty() || worst.empty() ? "" : "; ") +
                      (worst.empty() ? "" : "worst: " + worst) + " |\n";
-            if (!ok)
+            if (!inBound)
                 fprintf(stderr, "%s %s: %s (bound %s) %s\n", r.name, kSlotName[s], err.c_str(),
                         bound.c_str(), x.worst.c_str());
+            else if (!underCeiling && ceiling == "none")
+                fprintf(stderr,
+                        "%s %s: no ceiling; measure it with brenn_accuracy --row %s "
+                        "--write-ceilings tools/accuracy/ceilings.def\n",
+                        r.name, kSlotName[s], r.name);
+            else if (!underCeiling)
+                fprintf(stderr, "%s %s: %s, %s bits (ceiling %s) %s\n", r.name, kSlotName[s],
+                        err.c_str(), bits.c_str(), ceiling.c_str(), x.worst.c_str());
         }
         fprintf(stderr, "%-14s measured\n", r.name);
     }
     if (list) return 0;
+
+    if (ceilingsPath) {
+        std::string text = CeilingsFileText(NewCeilings(rows, count, only, results));
+        FILE* f = fopen(ceilingsPath, "w");
+        if (!f || fputs(text.c_str(), f) < 0 || fclose(f) != 0) {
+            fprintf(stderr, "brenn_accuracy: cannot write %s\n", ceilingsPath);
+            return 2;
+        }
+    }
 
     if (outPath) {
         FILE* f = fopen(outPath, "w");
@@ -247,16 +321,24 @@ int main(int argc, char** argv) {
                 "(Div, Sqrt, Inv <= 0.5 ulp, correctly rounded); LA <= 4 ulp; EP >= 11 "
                 "correct bits in single and 26 in double.\n\n",
                 options.randomSamples, static_cast<int>(160));
-        fprintf(f, "%d of %d rows have kernels; %d slots measured, %d outside their bound.\n\n",
+        fprintf(f,
+                "Each implemented slot is also held to a ceiling (`tools/accuracy/ceilings.def`), "
+                "taken from a full run: its worst error plus max(0.05 ulp, 10 %%), or its "
+                "fewest correct bits less 0.5 (EP), never beyond the bound, so that a kernel "
+                "that gets worse fails the check while still inside its level's bound. "
+                "Status: ok, **FAILS** (outside the bound) or **above ceiling**.\n\n");
+        fprintf(f,
+                "%d of %d rows have kernels; %d slots measured, %d outside their bound or "
+                "ceiling.\n\n",
                 withKernels, only.empty() ? count : static_cast<int>(only.size()), measured,
                 failures);
-        fprintf(f, "| Row | Slot | Max error (ulp) | Correct bits | Bound | Status | Elements | "
-                   "Notes and worst input |\n|---|---|---|---|---|---|---|---|\n");
+        fprintf(f, "| Row | Slot | Max error (ulp) | Correct bits | Ceiling | Bound | Status | "
+                   "Elements | Notes and worst input |\n|---|---|---|---|---|---|---|---|---|\n");
         fputs(table.c_str(), f);
         if (!missing.empty()) fprintf(f, "\nRows without kernels yet: %s.\n", missing.c_str());
         fclose(f);
     }
-    fprintf(stderr, "%d rows with kernels, %d slots measured, %d outside their bound\n",
+    fprintf(stderr, "%d rows with kernels, %d slots measured, %d outside their bound or ceiling\n",
             withKernels, measured, failures);
     return check && failures ? 1 : 0;
 }

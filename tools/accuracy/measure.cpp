@@ -20,6 +20,13 @@ namespace brenn::tools {
 
 namespace {
 
+// Totals of inputs are whole multiples of this many elements (see MakeInputs).
+constexpr long kRoundUp = 64;
+
+// The short calls of the frame sweep start within the first kSweepSpan inputs, which a
+// quick run has too (its fewest: a fifth of its random inputs, plus the specials).
+constexpr long kSweepSpan = kQuickSamples / 5;
+
 RowDesc gRows[] = {
 #define ROW(t, Fn, Shape_, Thunk, Share, cLA, cHA, cEP, Reports)                                   \
     {#t #Fn, #t[0], Shape::Shape_, frame::Row_##t##Fn, nullptr},
@@ -296,28 +303,6 @@ double ComplexError(const R* y, mpfr_srcptr re, mpfr_srcptr im, double* bits, bo
 
 // ---- native references of exact rows ---------------------------------------------------
 
-// Rows whose NaN results must carry the (quieted) payload of a NaN input bit for bit.
-bool NanBitsMatter(Ref ref) {
-    switch (ref) {
-    case Ref::Ceil:
-    case Ref::Floor:
-    case Ref::Frac:
-    case Ref::NearbyInt:
-    case Ref::Rint:
-    case Ref::Round:
-    case Ref::Trunc:
-    case Ref::Abs:
-    case Ref::Sqr:
-    case Ref::Add:
-    case Ref::Sub:
-    case Ref::Mul:
-    case Ref::Modf:
-        return true;
-    default:
-        return false;
-    }
-}
-
 // Fmax and Fmin by C99's rule: a NaN operand, signalling or quiet, is missing data and
 // the other operand is the result; two NaNs give a NaN. The C library's fmax and fmin
 // return a quiet NaN for a signalling operand (the 2008 maxNum), so they judge ordered
@@ -354,10 +339,11 @@ R ZeroWithSignOf(R r, R a) {
     return r == 0 ? copysign(R(0), a) : r;
 }
 
-// Exact reference of one element; second receives Modf's fraction.
+// Exact reference of one element; second receives Modf's fraction. With nanBits (rule
+// ExactNaN) a NaN input must come out as itself, quieted.
 template <class R>
-R NativeExact(Ref ref, R a, R b, R* second) {
-    if (NanBitsMatter(ref)) {
+R NativeExact(Ref ref, bool nanBits, R a, R b, R* second) {
+    if (nanBits) {
         // NaN in, the first NaN operand out, quieted: what the arithmetic gives
         if (isnan(a)) return *second = Quiet(a), Quiet(a);
         if ((ref == Ref::Add || ref == Ref::Sub || ref == Ref::Mul) && isnan(b)) return Quiet(b);
@@ -418,10 +404,10 @@ R NativeExact(Ref ref, R a, R b, R* second) {
 }
 
 template <class R>
-bool ExactMatch(Ref ref, R y, R want, bool nanIn) {
+bool ExactMatch(bool nanBits, R y, R want, bool nanIn) {
     if (Bits(y) == Bits(want)) return true;
     if (!isnan(want)) return false;
-    if (nanIn && NanBitsMatter(ref)) return false;
+    if (nanIn && nanBits) return false;
     return isnan(y);
 }
 
@@ -474,7 +460,7 @@ struct RowRun {
     const RowDesc& row;
     const RowFacts& f;
     Shape shape;
-    bool exact;
+    bool exact, nanBits;
     int ka, kb, ky, outs, K; // components of a, b, y; outputs; reference words an element
     int group;               // elements sharing one set of scalars (Powx, LinFrac)
     long n = 0;
@@ -483,7 +469,8 @@ struct RowRun {
     MpfrArray* refs = nullptr;
 
     RowRun(const RowDesc& r)
-        : row(r), f(*r.facts), shape(r.shape), exact(IsExactRef(r.facts->ref)) {
+        : row(r), f(*r.facts), shape(r.shape), exact(IsExact(*r.facts)),
+          nanBits(r.facts->rule == Rule::ExactNaN) {
         ka = (shape == Shape::Cis || !Cx) ? 1 : 2;
         kb = Cx ? 2 : 1;
         ky = (shape == Shape::AbsArg || !Cx) ? 1 : 2;
@@ -496,13 +483,16 @@ struct RowRun {
     bool HasB() const { return shape == Shape::Binary || shape == Shape::LinFrac; }
     int ScalarCount() const { return shape == Shape::Powx ? kb : shape == Shape::LinFrac ? 4 : 0; }
 
+    // The inputs of a run with fewer samples are the first inputs of a run with more
+    // (same seed): the random draws come one element after another from one stream,
+    // the scalars of group g from a stream of their own, and the count is padded to
+    // whole rounds (kRoundUp), so that a short run calls its kernels on the same
+    // elements in the same rounds as a long one and cannot see a larger error.
     void MakeInputs(const Options& o) {
         std::mt19937_64 rng(o.seed ^ (uint64_t(row.index) * 0x9E3779B97F4A7C15ull));
-        bool slowRef =
-            !exact && (Cx || shape == Shape::Cis || f.ref == Ref::ErfInv || f.ref == Ref::ErfcInv ||
-                       f.ref == Ref::CdfNormInv || f.ref == Ref::LGamma || f.ref == Ref::TGamma ||
-                       f.ref == Ref::ExpInt1);
-        long random = slowRef ? std::max(o.randomSamples / 5, 600L) : o.randomSamples;
+        std::mt19937_64 scalarRng(o.seed ^ (uint64_t(row.index) * 0xC2B2AE3D27D4EB4Full));
+        long random =
+            f.rule == Rule::UlpSlow ? std::max(o.randomSamples / 5, 600L) : o.randomSamples;
         // special inputs first, so the short calls of the frame sweep meet them at every lane
         bool pairs = HasB() || Cx;
         std::vector<R> sp = Specials<R>(f.lo, f.hi, pairs);
@@ -527,6 +517,7 @@ struct RowRun {
             sa = Specials<R>(f.lo, f.hi, false);
         }
         n = static_cast<long>(sa.size() / ka) + random;
+        n = (n + kRoundUp - 1) / kRoundUp * kRoundUp;
         A = sa;
         B = sb;
         for (long i = static_cast<long>(sa.size() / ka); i < n; ++i) {
@@ -556,13 +547,13 @@ struct RowRun {
             if (shape == Shape::Powx) {
                 for (int c = 0; c < kb; ++c) {
                     R v = g < 13 ? (c == 0 ? fixed[g] : R(0))
-                                 : SampleReal<R>(rng, 2, Dom::Any, f.blo, f.bhi);
+                                 : SampleReal<R>(scalarRng, 2, Dom::Any, f.blo, f.bhi);
                     if (c == 1 && g >= 13 && (g & 1)) v = R(0);
                     S.push_back(v);
                 }
             } else if (shape == Shape::LinFrac) {
                 for (int c = 0; c < 4; ++c) {
-                    R v = SampleReal<R>(rng, 2, Dom::Any, -4, 4);
+                    R v = SampleReal<R>(scalarRng, 2, Dom::Any, -4, 4);
                     if ((g % 4 == 1 && c == 0) || (g % 4 == 2 && c == 2)) v = 0; // constant loops
                     S.push_back(v);
                 }
@@ -595,7 +586,7 @@ struct RowRun {
                 }
                 R second = 0;
                 R b = HasB() ? B[i] : R(0);
-                eref[i * K] = NativeExact<R>(f.ref, A[i], b, &second);
+                eref[i * K] = NativeExact<R>(f.ref, nanBits, A[i], b, &second);
                 if (outs == 2) eref[i * K + 1] = second;
             }
             return;
@@ -657,7 +648,7 @@ struct RowRun {
                 bool nanIn = NanIn(i);
                 for (int c = 0; c < ky; ++c) {
                     R want = eref[i * K + o * ky + c], got = out[o][c];
-                    if (!ExactMatch(f.ref, got, want, nanIn)) {
+                    if (!ExactMatch(nanBits, got, want, nanIn)) {
                         ++t.mismatches;
                         double d = (isnan(got) || isnan(want)) ? INFINITY
                                                                : fabs(Ordinal(got) - Ordinal(want));
@@ -770,13 +761,13 @@ struct RowRun {
         // places that walk the special inputs through every lane
         int lanes = std::max<int>(1, 16 / static_cast<int>(sizeof(R) * ka));
         bool canInPlace = shape != Shape::AbsArg && shape != Shape::Cis;
-        long place = 0;
+        long place = 0, span = std::min(n, kSweepSpan);
         for (int len = 1; len <= 40; ++len)
             for (int aoff = 0; aoff < lanes; ++aoff)
                 for (int yoff = 0; yoff <= lanes; ++yoff) {
                     bool inPlace = yoff == lanes;
                     if (inPlace && !canInPlace) continue;
-                    long start = (place++ * 7) % std::max<long>(1, n - len);
+                    long start = (place++ * 7) % std::max<long>(1, span - len);
                     if (start / group != (start + len - 1) / group) start = (start / group) * group;
                     if (start + len > n) continue;
                     faults += CallAndCheck(fn, start, len, aoff, inPlace ? aoff : yoff, inPlace, t);
@@ -791,6 +782,60 @@ struct RowRun {
         out.worst = t.worstIndex >= 0 ? Describe(t.worstIndex, t) : "";
     }
 };
+
+bool IsPackShape(Shape shape) {
+    switch (shape) {
+    case Shape::PackI:
+    case Shape::PackM:
+    case Shape::PackV:
+    case Shape::UnpackI:
+    case Shape::UnpackM:
+    case Shape::UnpackV:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// f.operator()<R, Cx>() for a row's element type: R its real type, Cx complex.
+template <class F>
+auto ByElementType(char type, F&& f) {
+    switch (type) {
+    case 's':
+        return f.template operator()<float, false>();
+    case 'd':
+        return f.template operator()<double, false>();
+    case 'c':
+        return f.template operator()<float, true>();
+    default:
+        return f.template operator()<double, true>();
+    }
+}
+
+template <class R, bool Cx>
+bool NestedTyped(const RowDesc& row, const Options& fewer, const Options& more, std::string* why) {
+    RowRun<R, Cx> a(row), b(row);
+    a.MakeInputs(fewer);
+    b.MakeInputs(more);
+    auto same = [](const std::vector<R>& x, const std::vector<R>& y, size_t count) {
+        return count <= x.size() && count <= y.size() &&
+               memcmp(x.data(), y.data(), count * sizeof(R)) == 0;
+    };
+    const long groups = (a.n + a.group - 1) / a.group;
+    const size_t scalars = static_cast<size_t>(groups * a.ScalarCount());
+    if (a.n % kRoundUp != 0 || b.n % kRoundUp != 0)
+        *why = "input counts " + std::to_string(a.n) + " and " + std::to_string(b.n) +
+               " are not whole rounds";
+    else if (a.n > b.n || !same(a.A, b.A, a.A.size()) || !same(a.B, b.B, a.B.size()))
+        *why = "the shorter run's inputs are not the first inputs of the longer run";
+    else if (!same(a.S, b.S, scalars))
+        *why = "the scalars of a group differ between the runs";
+    else if (std::min(a.n, kSweepSpan) != std::min(b.n, kSweepSpan))
+        *why = "the short calls start in different spans";
+    else
+        return true;
+    return false;
+}
 
 template <class R, bool Cx>
 void MeasureTyped(const RowDesc& row, const Options& options, const BrennKernel slots[3],
@@ -817,8 +862,10 @@ void MeasureTyped(const RowDesc& row, const Options& options, const BrennKernel 
 
 const RowDesc* AllRows(int* count) {
     *count = static_cast<int>(sizeof(gRows) / sizeof(gRows[0]));
+    int facts = 0;
+    const RowFacts* all = AllRowFacts(&facts); // in row order, one entry a row
     for (RowDesc& r : gRows)
-        if (!r.facts) r.facts = FindRowFacts(r.name);
+        r.facts = &all[r.index];
     return gRows;
 }
 
@@ -829,32 +876,15 @@ bool SlotPresent(const RowDesc& row, int slot) {
 
 void MeasureKernels(const RowDesc& row, const Options& options, const BrennKernel slots[3],
                     SlotResult out[3]) {
-    switch (row.shape) {
-    case Shape::PackI:
-    case Shape::PackM:
-    case Shape::PackV:
-    case Shape::UnpackI:
-    case Shape::UnpackM:
-    case Shape::UnpackV:
-        MeasurePackRow(row, options, slots, out);
-        return;
-    default:
-        break;
-    }
-    switch (row.type) {
-    case 's':
-        MeasureTyped<float, false>(row, options, slots, out);
-        break;
-    case 'd':
-        MeasureTyped<double, false>(row, options, slots, out);
-        break;
-    case 'c':
-        MeasureTyped<float, true>(row, options, slots, out);
-        break;
-    case 'z':
-        MeasureTyped<double, true>(row, options, slots, out);
-        break;
-    }
+    if (IsPackShape(row.shape)) return MeasurePackRow(row, options, slots, out);
+    ByElementType(row.type,
+                  [&]<class R, bool Cx>() { MeasureTyped<R, Cx>(row, options, slots, out); });
+}
+
+bool InputsNest(const RowDesc& row, const Options& fewer, const Options& more, std::string* why) {
+    if (IsPackShape(row.shape)) return true; // exact rows with inputs of their own
+    return ByElementType(
+        row.type, [&]<class R, bool Cx>() { return NestedTyped<R, Cx>(row, fewer, more, why); });
 }
 
 void MeasureRow(const RowDesc& row, const Options& options, SlotResult out[3]) {

@@ -53,9 +53,15 @@ struct SlotResult {
     std::string worst;    // input, result and reference at the largest error
 };
 
+// Random inputs a row of a full run (the report and the ceilings) and of a quick one
+// (the ctest).
+constexpr long kFullSamples = 250000;
+constexpr long kQuickSamples = 20000;
+constexpr uint64_t kDefaultSeed = 0x5EED2026;
+
 struct Options {
-    long randomSamples = 250000; // random inputs a row (a third from each kind)
-    uint64_t seed = 0x5EED2026;
+    long randomSamples = kFullSamples; // random inputs a row (a third from each kind)
+    uint64_t seed = kDefaultSeed;
 };
 
 // Whether a slot of the row has a kernel in the dispatch table.
@@ -68,6 +74,11 @@ void MeasureRow(const RowDesc& row, const Options& options, SlotResult out[3]);
 // hands it kernels of known quality.
 void MeasureKernels(const RowDesc& row, const Options& options, const BrennKernel slots[3],
                     SlotResult out[3]);
+
+// Whether a run with the options `fewer` (fewer samples, same seed) calls the row's
+// kernels on a subset of the elements, in the same rounds, that a run with `more` does,
+// so that it cannot see a larger error; says why not otherwise.
+bool InputsNest(const RowDesc& row, const Options& fewer, const Options& more, std::string* why);
 
 // Checks a pack or unpack row bit for bit (both index widths). Defined in pack.cpp.
 void MeasurePackRow(const RowDesc& row, const Options& options, const BrennKernel slots[3],

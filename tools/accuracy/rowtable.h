@@ -1,10 +1,11 @@
 /* What the measuring tools know about each vector-math row: the reference operation
- * (evaluated with MPFR/MPC or, for exact rows, natively), where its inputs live and
- * which range is worth sampling densely, and the peer functions of SLEEF, glibc's
- * libmvec and libm that the benchmark sets beside it. One entry a row of
- * frame/rows.def, found by row name; the row list stays the table of contents, this
- * table only adds what the tools need. Shared by the accuracy tool and the benchmark,
- * so it has no dependency on MPFR. */
+ * (evaluated with MPFR/MPC or, for exact rows, natively) and the rule results are
+ * judged by, where its inputs live and which range is worth sampling densely, the peer
+ * functions of SLEEF, glibc's libmvec and libm that the benchmark sets beside it, and
+ * the family file of its kernels. The entries are made from tools/accuracy/rows.def,
+ * one line a row of frame/rows.def in the same order; the row list stays the table of
+ * contents, this table only adds what the tools need. Shared by the accuracy tool and
+ * the benchmark, so it has no dependency on MPFR. */
 #ifndef BRENN_TOOLS_ACCURACY_ROWTABLE_H
 #define BRENN_TOOLS_ACCURACY_ROWTABLE_H
 
@@ -132,9 +133,19 @@ enum class Dom {
     GeOne, // x >= 1
 };
 
+// How a row's results are judged (the rule column of rows.def).
+enum class Rule {
+    ExactNaN, // bit for bit; a NaN input must come out as that NaN, quieted
+    Exact,    // bit for bit; any NaN where a NaN is due
+    Rounded,  // ulps; the HA slot is correctly rounded (at most 0.5 ulp)
+    Ulp,      // ulps against the reference
+    UlpSlow,  // ulps; the reference is slow, so a fifth of the random inputs
+};
+
 struct RowFacts {
     const char* row; // "sExp", as in the row list
     Ref ref;
+    Rule rule;
     Dom dom;
     double lo, hi;   // interesting range of a (real and imaginary parts for complex)
     double blo, bhi; // interesting range of b (binary rows, scalar exponents)
@@ -144,16 +155,19 @@ struct RowFacts {
     const char* sleef;
     const char* mvec;
     const char* libm;
+    const char* family; // "vecmath/explog/exp.cpp", or null while the row has no kernels
 };
 
-// The entry of a row, or null when the table lacks it.
+// The entry of a row, or null for a name that is no row.
 const RowFacts* FindRowFacts(const char* row);
 
-// All entries, in row-list order.
+// All entries, in row-list order: entry i is dispatch row i.
 const RowFacts* AllRowFacts(int* count);
 
 // Exact rows: results must match bit for bit (no ulp error allowed).
-bool IsExactRef(Ref ref);
+inline bool IsExact(const RowFacts& f) {
+    return f.rule == Rule::Exact || f.rule == Rule::ExactNaN;
+}
 
 } // namespace brenn::tools
 

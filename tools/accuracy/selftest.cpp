@@ -2,7 +2,9 @@
 // that it sees what they are: correct ones pass at their true error, and planted faults
 // (a word written past the end, a NaN pattern changed, a signalling NaN quieted by a
 // copy, a result one ulp off, a truncated reciprocal) are found. Every argument list
-// is driven once, so the tool is known to work on rows before their kernels land.
+// is driven once, so the tool is known to work on rows before their kernels land. And
+// the quick run's inputs are checked to nest in the full run's, which is what lets the
+// quick ctest hold each slot to a ceiling taken from a full run.
 #include <math.h>
 #include <stdio.h>
 #include <string.h>
@@ -196,6 +198,31 @@ void (*K(F f))() {
     return reinterpret_cast<void (*)()>(f);
 }
 
+// Every row's quick inputs nest in its full run's; a run on another seed does not.
+void CheckNesting() {
+    Options quick, full, other;
+    quick.randomSamples = kQuickSamples;
+    other.randomSamples = kQuickSamples;
+    other.seed = kDefaultSeed + 1;
+    int count = 0, nested = 0;
+    const RowDesc* rows = AllRows(&count);
+    std::string why, first;
+    for (int i = 0; i < count; ++i) {
+        if (InputsNest(rows[i], quick, full, &why))
+            ++nested;
+        else if (first.empty())
+            first = std::string(rows[i].name) + ": " + why;
+    }
+    bool ok = nested == count;
+    printf("%-4s the quick run's inputs nest in the full run's (%d of %d rows)%s%s\n",
+           ok ? "ok" : "FAIL", nested, count, first.empty() ? "" : "; ", first.c_str());
+    if (!ok) ++gFailures;
+    ok = !InputsNest(*Row("sExp"), other, full, &why);
+    printf("%-4s a quick run on another seed does not nest (%s)\n", ok ? "ok" : "FAIL",
+           why.c_str());
+    if (!ok) ++gFailures;
+}
+
 } // namespace
 
 int RunSelfTest() {
@@ -242,6 +269,7 @@ int RunSelfTest() {
     Expect(r.mismatches > 0, "sPackI that quiets signalling NaNs is caught", r);
     r = Measure("cPackM", K(WideMaskPackM));
     Expect(r.mismatches > 0, "cPackM that ignores the 64-bit flag is caught", r);
+    CheckNesting();
     printf("%d self-test failure(s)\n", gFailures);
     return gFailures ? 1 : 0;
 }
