@@ -6,35 +6,28 @@
 namespace brenn::vm {
 namespace {
 
-struct AddS {
-    using T = float;
-    static __m128 Op(__m128 a, __m128 b) { return _mm_add_ps(a, b); }
-    static float Op(float a, float b) { return a + b; }
-};
-struct SubS {
-    using T = float;
-    static __m128 Op(__m128 a, __m128 b) { return _mm_sub_ps(a, b); }
-    static float Op(float a, float b) { return a - b; }
-};
-struct MulS {
-    using T = float;
-    static __m128 Op(__m128 a, __m128 b) { return _mm_mul_ps(a, b); }
-    static float Op(float a, float b) { return a * b; }
-};
-struct AddD {
-    using T = double;
-    static __m128d Op(__m128d a, __m128d b) { return _mm_add_pd(a, b); }
-    static double Op(double a, double b) { return a + b; }
-};
-struct SubD {
-    using T = double;
-    static __m128d Op(__m128d a, __m128d b) { return _mm_sub_pd(a, b); }
-    static double Op(double a, double b) { return a - b; }
-};
-struct MulD {
-    using T = double;
-    static __m128d Op(__m128d a, __m128d b) { return _mm_mul_pd(a, b); }
-    static double Op(double a, double b) { return a * b; }
+enum class Arith { Add, Sub, Mul };
+
+// The operation on registers and on single elements: one IEEE operation either way.
+template <class Tp, Arith A>
+struct ArithBody {
+    using T = Tp;
+    static Vec<T> Op(Vec<T> a, Vec<T> b) {
+        if constexpr (A == Arith::Add)
+            return Add(a, b);
+        else if constexpr (A == Arith::Sub)
+            return Sub(a, b);
+        else
+            return Mul(a, b);
+    }
+    static T Op(T a, T b) {
+        if constexpr (A == Arith::Add)
+            return a + b;
+        else if constexpr (A == Arith::Sub)
+            return a - b;
+        else
+            return a * b;
+    }
 };
 
 } // namespace
@@ -44,28 +37,28 @@ using namespace brenn::vm;
 
 extern "C" {
 void ZAR_KERNEL(sAdd, All) BRENN_SIG(s, Binary) {
-    RunStream(AddS{}, n, a, b, y);
+    RunStream(ArithBody<float, Arith::Add>{}, n, a, b, y);
 }
 void ZAR_KERNEL(sSub, All) BRENN_SIG(s, Binary) {
-    RunStream(SubS{}, n, a, b, y);
+    RunStream(ArithBody<float, Arith::Sub>{}, n, a, b, y);
 }
 void ZAR_KERNEL(sMul, All) BRENN_SIG(s, Binary) {
-    RunStream(MulS{}, n, a, b, y);
+    RunStream(ArithBody<float, Arith::Mul>{}, n, a, b, y);
 }
 void ZAR_KERNEL(dAdd, All) BRENN_SIG(d, Binary) {
-    RunStream(AddD{}, n, a, b, y);
+    RunStream(ArithBody<double, Arith::Add>{}, n, a, b, y);
 }
 void ZAR_KERNEL(dSub, All) BRENN_SIG(d, Binary) {
-    RunStream(SubD{}, n, a, b, y);
+    RunStream(ArithBody<double, Arith::Sub>{}, n, a, b, y);
 }
 void ZAR_KERNEL(dMul, All) BRENN_SIG(d, Binary) {
-    RunStream(MulD{}, n, a, b, y);
+    RunStream(ArithBody<double, Arith::Mul>{}, n, a, b, y);
 }
 // Sqr is the product of a with itself.
 void ZAR_KERNEL(sSqr, All) BRENN_SIG(s, Unary) {
-    RunStream(MulS{}, n, a, a, y);
+    RunStream(ArithBody<float, Arith::Mul>{}, n, a, a, y);
 }
 void ZAR_KERNEL(dSqr, All) BRENN_SIG(d, Unary) {
-    RunStream(MulD{}, n, a, a, y);
+    RunStream(ArithBody<double, Arith::Mul>{}, n, a, a, y);
 }
 }

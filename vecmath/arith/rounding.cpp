@@ -11,62 +11,46 @@
 namespace brenn::vm {
 namespace {
 
-template <class Tp, int Imm>
+template <class Tp, int Mode>
 struct RoundBody {
     using T = Tp;
-    using V = typename Simd<T>::V;
-    static V Eval(V x, V&) {
-        if constexpr (sizeof(T) == 4)
-            return _mm_round_ps(x, Imm);
-        else
-            return _mm_round_pd(x, Imm);
-    }
+    using V = Vec<T>;
+    static V Eval(V x, V&) { return RoundBy<Mode>(x); }
 };
 
 // Halves away from zero: r = nearest-even(|x|), one more where |x| - r is exactly 0.5.
 template <class Tp>
 struct HalfAway {
     using T = Tp;
-    using Sd = Simd<T>;
-    using V = typename Sd::V;
+    using V = Vec<T>;
     static constexpr Layout kLayout = Layout::NoHead;
     static V Eval(V x, V&) {
-        V sign = SignMask<T>();
-        if constexpr (sizeof(T) == 4) {
-            __m128 a = _mm_and_ps(x, AbsMask<T>());
-            __m128 r = _mm_round_ps(a, 0x0);
-            __m128 up = _mm_cmpeq_ps(_mm_sub_ps(a, r), _mm_set1_ps(0.5f));
-            r = _mm_add_ps(r, _mm_and_ps(up, _mm_set1_ps(1.0f)));
-            return _mm_or_ps(r, _mm_and_ps(x, sign));
-        } else {
-            __m128d a = _mm_and_pd(x, AbsMask<T>());
-            __m128d r = _mm_round_pd(a, 0x0);
-            __m128d up = _mm_cmpeq_pd(_mm_sub_pd(a, r), _mm_set1_pd(0.5));
-            r = _mm_add_pd(r, _mm_and_pd(up, _mm_set1_pd(1.0)));
-            return _mm_or_pd(r, _mm_and_pd(x, sign));
-        }
+        V a = Abs(x);
+        V r = RoundEven(a);
+        V up = Eq(Sub(a, r), Set<T>(0.5));
+        r = Add(r, IfThenElseZero(up, Set<T>(1)));
+        return Or(r, SignBit(x));
     }
 };
 
 // Infinity or NaN: exponent field all ones.
-template <class T>
-inline typename Simd<T>::V NotFinite(typename Simd<T>::V x) {
-    if constexpr (sizeof(T) == 4)
-        return RangeTest<float>(x, 0x7FFFFFFFu, 0u, 0x7F7FFFFFu);
-    else
-        return RangeTest<double>(x, 0x7FFFFFFFFFFFFFFFull, 0ull, 0x7FEFFFFFFFFFFFFFull);
+template <class V>
+inline V NotFinite(V x) {
+    using T = ElemOf<V>;
+    return RangeTest(x, LaneRange<T>{Format<T>::kAbs, 0, Format<T>::kExpField - 1});
 }
 
-// x - trunc(x) with x's sign OR-ed back (a negative integer gives -0).
-template <class T, int Imm>
-inline typename Simd<T>::V FracOf(typename Simd<T>::V x, typename Simd<T>::V& whole) {
-    if constexpr (sizeof(T) == 4) {
-        whole = _mm_round_ps(x, Imm);
-        return _mm_or_ps(_mm_sub_ps(x, whole), _mm_and_ps(x, SignMask<T>()));
-    } else {
-        whole = _mm_round_pd(x, Imm);
-        return _mm_or_pd(_mm_sub_pd(x, whole), _mm_and_pd(x, SignMask<T>()));
-    }
+// Special lanes become a quiet NaN (of x's sign), so that inf - inf raises nothing.
+template <class V>
+inline V QuietSpecial(V x, V special) {
+    return Or(x, And(special, AbsMask<ElemOf<V>>()));
+}
+
+// x - whole(x) with x's sign OR-ed back (a negative integer gives -0).
+template <int Mode, class V>
+inline V FracOf(V x, V& whole) {
+    whole = RoundBy<Mode>(x);
+    return Or(Sub(x, whole), SignBit(x));
 }
 
 template <class T>
@@ -77,21 +61,16 @@ inline T SignedZeroOf(T x) {
 template <class Tp>
 struct FracBody {
     using T = Tp;
-    using V = typename Simd<T>::V;
+    using V = Vec<T>;
     static V Eval(V x, V& special) {
-        special = NotFinite<T>(x);
-        // Special lanes become a quiet NaN so that inf - inf raises nothing.
-        if constexpr (sizeof(T) == 4)
-            x = _mm_or_ps(x, _mm_and_ps(special, AbsMask<T>()));
-        else
-            x = _mm_or_pd(x, _mm_and_pd(special, AbsMask<T>()));
+        special = NotFinite(x);
         V whole;
-        return FracOf<T, 0x3>(x, whole);
+        return FracOf<rounding::kTowardZero>(QuietSpecial(x, special), whole);
     }
     static int Scalar(const T* a, T* y) {
         T x = *a;
         *y = __builtin_isnan(x) ? x + x : SignedZeroOf(x);
-        return 0;
+        return status::kNone;
     }
 };
 
@@ -100,14 +79,10 @@ struct FracBody {
 template <class Tp>
 struct ModfBody {
     using T = Tp;
-    using V = typename Simd<T>::V;
+    using V = Vec<T>;
     static void Eval(V x, V& y, V& z, V& special) {
-        special = NotFinite<T>(x);
-        if constexpr (sizeof(T) == 4)
-            x = _mm_or_ps(x, _mm_and_ps(special, AbsMask<T>()));
-        else
-            x = _mm_or_pd(x, _mm_and_pd(special, AbsMask<T>()));
-        z = FracOf<T, 0xB>(x, y);
+        special = NotFinite(x);
+        z = FracOf<rounding::kTowardZero | rounding::kNoInexact>(QuietSpecial(x, special), y);
     }
     static int Scalar(const T* a, T* y, T* z) {
         T x = *a;
@@ -117,7 +92,7 @@ struct ModfBody {
             *y = x;
             *z = SignedZeroOf(x);
         }
-        return 0;
+        return status::kNone;
     }
 };
 
@@ -126,15 +101,10 @@ struct ModfBody {
 template <class Tp>
 struct AbsBody {
     using T = Tp;
-    using V = typename Simd<T>::V;
+    using V = Vec<T>;
     static constexpr CsrRule kCsr = CsrRule::MaskOnly;
     static constexpr Layout kLayout = Layout::NoHead;
-    static V Eval(V x, V&) {
-        if constexpr (sizeof(T) == 4)
-            return _mm_mul_ps(x, _mm_or_ps(_mm_and_ps(x, SignMask<T>()), _mm_set1_ps(1.0f)));
-        else
-            return _mm_mul_pd(x, _mm_or_pd(_mm_and_pd(x, SignMask<T>()), _mm_set1_pd(1.0)));
-    }
+    static V Eval(V x, V&) { return Mul(x, Or(SignBit(x), Set<T>(1))); }
 };
 
 } // namespace
@@ -144,19 +114,19 @@ using namespace brenn::vm;
 
 #define BRENN_ROUNDING_KERNELS(t, Tp)                                                              \
     void ZAR_KERNEL(t##Ceil, All) BRENN_SIG(t, Unary) {                                            \
-        RunUnary(RoundBody<Tp, 0x2>{}, n, a, y);                                                   \
+        RunUnary(RoundBody<Tp, rounding::kUp>{}, n, a, y);                                         \
     }                                                                                              \
     void ZAR_KERNEL(t##Floor, All) BRENN_SIG(t, Unary) {                                           \
-        RunUnary(RoundBody<Tp, 0x1>{}, n, a, y);                                                   \
+        RunUnary(RoundBody<Tp, rounding::kDown>{}, n, a, y);                                       \
     }                                                                                              \
     void ZAR_KERNEL(t##Trunc, All) BRENN_SIG(t, Unary) {                                           \
-        RunUnary(RoundBody<Tp, 0x3>{}, n, a, y);                                                   \
+        RunUnary(RoundBody<Tp, rounding::kTowardZero>{}, n, a, y);                                 \
     }                                                                                              \
     void ZAR_KERNEL(t##Rint, All) BRENN_SIG(t, Unary) {                                            \
-        RunUnary(RoundBody<Tp, 0x4>{}, n, a, y);                                                   \
+        RunUnary(RoundBody<Tp, rounding::kByMode>{}, n, a, y);                                     \
     }                                                                                              \
     void ZAR_KERNEL(t##NearbyInt, All) BRENN_SIG(t, Unary) {                                       \
-        RunUnary(RoundBody<Tp, 0xC>{}, n, a, y);                                                   \
+        RunUnary(RoundBody<Tp, rounding::kByMode | rounding::kNoInexact>{}, n, a, y);              \
     }                                                                                              \
     void ZAR_KERNEL(t##Round, All) BRENN_SIG(t, Unary) {                                           \
         RunUnary(HalfAway<Tp>{}, n, a, y);                                                         \

@@ -2,31 +2,14 @@
  * on single values only, so the seed is taken on the significand (narrowed to single)
  * and the exponent is handled apart with integer arithmetic on the bits; the chains
  * that follow run in double. Only lanes that pass their kernel's range test (positive
- * or non-zero normals whose results stay normal) make sense here. Also the range test
- * of those chains, on the high words of the lanes. */
+ * or non-zero normals whose results stay normal) make sense here. Also the series
+ * coefficients and the accurate root reciprocal that the chains share. */
 #ifndef BRENN_VECMATH_ARITH_SEED_H
 #define BRENN_VECMATH_ARITH_SEED_H
 
-#include "vecmath/frame/simd.h"
+#include "vecmath/frame/vec.h"
 
 namespace brenn::vm {
-
-// The double range test (bits(x) & mask) + offset > limit, signed, for a mask, offset
-// and limit whose low 32 bits are all ones, 0 and all ones: the low words can then
-// neither carry into the high words nor decide the compare, so the test is the 32-bit
-// compare of the high words, which is cheaper than the 64-bit one. The compare of the
-// low words (anything > 0x7FFFFFFF) is false, so the result is all ones in the high
-// word of a special lane and zero elsewhere: OR-ed onto a double it makes a quiet NaN
-// of that lane alone, and its sign bits are those of the 64-bit test. A mask of all
-// ones costs nothing.
-inline __m128d HighWordTest(__m128d x, uint32_t mask, uint32_t offset, uint32_t limit) {
-    __m128i b = _mm_castpd_si128(x);
-    if (mask != 0xFFFFFFFFu)
-        b = _mm_and_si128(b, _mm_set1_epi64x(int64_t((uint64_t(mask) << 32) | 0xFFFFFFFFu)));
-    b = _mm_add_epi32(b, _mm_set1_epi64x(int64_t(offset) << 32));
-    return _mm_castsi128_pd(
-        _mm_cmpgt_epi32(b, _mm_set1_epi64x(int64_t((uint64_t(limit) << 32) | 0x7FFFFFFFu))));
-}
 
 // The approximate instructions see single values; a double's significand is moved into
 // a single's by shifts alone. Shifting the bits right by 29 puts the top 23 bits of the
@@ -37,14 +20,18 @@ inline __m128d HighWordTest(__m128d x, uint32_t mask, uint32_t offset, uint32_t 
 // (the approximation of +0, an infinity with zero low bits) is shifted out. No
 // conversion and no multiplication is needed, and the exponent is then added as an
 // integer. `keep` selects the bits kept from x, `exponent` the single's exponent bits.
-inline __m128 SignificandAsSingle(__m128i xi, int64_t keep, int64_t exponent) {
-    __m128i t = _mm_and_si128(_mm_srli_epi64(xi, 29), _mm_set1_epi64x(keep));
-    return _mm_castsi128_ps(_mm_or_si128(t, _mm_set1_epi64x(exponent)));
+inline __m128 SignificandAsSingle(I64x2 xi, int64_t keep, int64_t exponent) {
+    I64x2 t = And(ShiftRight<29>(xi), Set<int64_t>(keep));
+    return BitCast<__m128>(Or(t, Set<int64_t>(exponent)));
 }
 // The double whose exponent field is `s` plus the single r's biased exponent.
-inline __m128d SingleScaled(__m128 r, __m128i s) {
-    return _mm_castsi128_pd(_mm_add_epi64(_mm_slli_epi64(_mm_castps_si128(r), 29), s));
+inline __m128d SingleScaled(__m128 r, I64x2 s) {
+    return AsFloat(Add(ShiftLeft<29>(BitCast<I64x2>(r)), s));
 }
+
+// The single exponent bias seen from the double's: a single's biased exponent e8 is the
+// double exponent field e8 + kRebias.
+constexpr int64_t kRebias = Format<double>::kBias - Format<float>::kBias; // 896
 
 // About 1/x to 12 bits, for |x| with biased exponent 1 to 2044 (so 1/x is normal).
 // With x = m * 2^(E-1023), m in [1, 2) truncated to single: r = rcp(m) has a single
@@ -53,10 +40,10 @@ inline __m128d SingleScaled(__m128 r, __m128i s) {
 // exponent bits from that constant as one 64-bit integer puts x's sign on the result
 // too (the borrow into bit 63 is the sign).
 inline __m128d ReciprocalSeed(__m128d x) {
-    __m128i xi = _mm_castpd_si128(x);
-    __m128 r = _mm_rcp_ps(SignificandAsSingle(xi, 0x007FFFFF, 0x3F800000));
-    __m128i s = _mm_sub_epi64(_mm_set1_epi64x(int64_t(896 + 1023) << 52),
-                              _mm_and_si128(xi, _mm_set1_epi64x(int64_t(0xFFF0000000000000ull))));
+    I64x2 xi = AsInt(x);
+    __m128 r = ApproxRecip(SignificandAsSingle(xi, 0x007FFFFF, 0x3F800000));
+    I64x2 s = Sub(Set<int64_t>((kRebias + 1023) << 52),
+                  And(xi, Set<uint64_t>(Format<double>::kSign | Format<double>::kExpField)));
     return SingleScaled(r, s);
 }
 
@@ -66,36 +53,30 @@ inline __m128d ReciprocalSeed(__m128d x) {
 // x = m * 2^(2q) with q = (E >> 1) - 511. r = rsqrt(m) has exponent e8 of 126 or 127,
 // and 1/sqrt(x) = r * 2^-q has the biased exponent e8 + 896 + 511 - (E >> 1).
 inline __m128d RootSeed(__m128d x) {
-    __m128i xi = _mm_castpd_si128(x);
-    __m128 r = _mm_rsqrt_ps(SignificandAsSingle(xi, 0x00FFFFFF, 0x3F000000));
-    __m128i half = _mm_and_si128(_mm_srli_epi64(xi, 1), _mm_set1_epi64x(0x3FF0000000000000ll));
-    __m128i s = _mm_sub_epi64(_mm_set1_epi64x(int64_t(896 + 511) << 52), half);
+    I64x2 xi = AsInt(x);
+    __m128 r = ApproxRecipSqrt(SignificandAsSingle(xi, 0x00FFFFFF, 0x3F000000));
+    I64x2 half = And(ShiftRight<1>(xi), Set<int64_t>(0x3FF0000000000000ll)); // E >> 1
+    I64x2 s = Sub(Set<int64_t>((kRebias + 511) << 52), half);
     return SingleScaled(r, s);
 }
 
-// Dekker's exact product a*b = hi + lo (no FMA available), for |a|, |b| below 2^995.
-inline void ExactProduct(__m128d a, __m128d b, __m128d& hi, __m128d& lo) {
-    const __m128d split = _mm_set1_pd(134217729.0); // 2^27 + 1
-    __m128d ta = _mm_mul_pd(a, split), tb = _mm_mul_pd(b, split);
-    __m128d ah = _mm_sub_pd(ta, _mm_sub_pd(ta, a)), al = _mm_sub_pd(a, ah);
-    __m128d bh = _mm_sub_pd(tb, _mm_sub_pd(tb, b)), bl = _mm_sub_pd(b, bh);
-    hi = _mm_mul_pd(a, b);
-    lo = _mm_add_pd(_mm_add_pd(_mm_sub_pd(_mm_mul_pd(ah, bh), hi),
-                               _mm_add_pd(_mm_mul_pd(ah, bl), _mm_mul_pd(al, bh))),
-                    _mm_mul_pd(al, bl));
-}
+// (1 - e)^(-1/2) = 1 + e*P(e): P to fourth order, its coefficients moved from the
+// series' 1/2, 3/8, 5/16, 35/128 for the seed's range of e, so that the chains of dSqrt
+// LA and dInvSqrt LA and EP stay within 2 ulp.
+constexpr double kRootSeries[] = {0.49999999999997785, 0.37500000000001366, 0.31250016501874495,
+                                  0.27343754675366555};
 
 // 1/sqrt(x) to within about half an ulp: the quotient of the rounded root, then one
 // correction whose residual 1 - x*y*y is formed exactly. Positive normal x below
 // 2^995 (the exact products need head room).
 inline __m128d AccurateInvSqrt(__m128d x) {
-    const __m128d one = _mm_set1_pd(1.0);
-    __m128d y = _mm_div_pd(one, _mm_sqrt_pd(x));
+    const __m128d one = Set<double>(1.0);
+    __m128d y = Div(one, Sqrt(x));
     __m128d ph, pl, qh, ql;
-    ExactProduct(x, y, ph, pl);  // x*y = ph + pl, near sqrt(x)
-    ExactProduct(ph, y, qh, ql); // ph*y = qh + ql, near 1
-    __m128d e = _mm_sub_pd(_mm_sub_pd(one, qh), _mm_add_pd(ql, _mm_mul_pd(pl, y)));
-    return _mm_add_pd(y, _mm_mul_pd(y, _mm_mul_pd(_mm_set1_pd(0.5), e)));
+    TwoProduct(x, y, ph, pl);  // x*y = ph + pl, near sqrt(x)
+    TwoProduct(ph, y, qh, ql); // ph*y = qh + ql, near 1
+    __m128d e = Sub(Sub(one, qh), Add(ql, Mul(pl, y)));
+    return Add(y, Mul(y, Mul(Set<double>(0.5), e)));
 }
 
 } // namespace brenn::vm

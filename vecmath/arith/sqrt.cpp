@@ -10,126 +10,82 @@
  * Scalar routine: -inf and negatives give NaN with status 1; -0 gives -0, +inf and NaN
  * themselves (NaN quieted), denormals their correctly rounded root, all with status 0. */
 #include "frame/kernels.h"
+#include "vecmath/arith/ranges.h"
 #include "vecmath/arith/seed.h"
 #include "vecmath/frame/kernel_frame.h"
+#include "vecmath/frame/level.h"
 
 namespace brenn::vm {
 namespace {
-
-// Positive normals pass; zero, negatives, denormals, infinities, NaN and (single) the
-// last few values below the largest finite are special.
-inline __m128 SqrtTestS(__m128 x) {
-    return RangeTest<float>(x, 0xFFFFFFFFu, 0x7F800000u, 0xFEFFF000u);
-}
-inline __m128d SqrtTestD(__m128d x) {
-    return HighWordTest(x, 0xFFFFFFFFu, 0x7FF00000u, 0xFFDFFFFFu);
-}
 
 template <class T>
 int SqrtScalar(const T* a, T* y) {
     T x = *a;
     if (__builtin_isinf(x) && x < 0) {
         *y = Keep(x) - x; // inf - inf: NaN with the invalid flag
-        return 1;
+        return status::kDomain;
     }
     if (__builtin_isnan(x) || __builtin_isinf(x)) {
         *y = x + x;
-        return 0;
+        return status::kNone;
     }
     if (x == 0) {
         *y = x;
-        return 0;
+        return status::kNone;
     }
     if (x < 0) {
         *y = Keep(T(0)) / Keep(T(0));
-        return 1;
+        return status::kDomain;
     }
     // Positive (denormal or near the top): the root instruction in double is
     // correctly rounded, and for single its 53 bits round again correctly to 24.
-    double r = _mm_cvtsd_f64(_mm_sqrt_sd(_mm_setzero_pd(), _mm_set_sd(double(x))));
-    *y = T(r);
-    return 0;
+    *y = T(__builtin_sqrt(double(x)));
+    return status::kNone;
 }
 
-struct SqrtEPs {
-    using T = float;
-    static constexpr const char* kName = ZAR_ERROR_NAME(sSqrt);
-    static __m128 Eval(__m128 x, __m128& special) {
-        special = SqrtTestS(x);
-        __m128 r = _mm_or_ps(_mm_rsqrt_ps(x), special);
-        return _mm_mul_ps(x, r);
-    }
-    static int Scalar(const float* a, float* y) { return SqrtScalar(a, y); }
-};
-
-struct SqrtLAs {
-    using T = float;
-    static constexpr const char* kName = ZAR_ERROR_NAME(sSqrt);
-    static __m128 Eval(__m128 x, __m128& special) {
-        special = SqrtTestS(x);
-        __m128 r = _mm_or_ps(_mm_rsqrt_ps(x), special);
-        __m128 g = _mm_mul_ps(x, r);
-        __m128 h = _mm_mul_ps(_mm_set1_ps(0.5f), r);
-        __m128 e = _mm_sub_ps(_mm_set1_ps(0.5f), _mm_mul_ps(g, h));
-        return _mm_add_ps(g, _mm_mul_ps(g, e));
-    }
-    static int Scalar(const float* a, float* y) { return SqrtScalar(a, y); }
-};
-
-struct SqrtHAs {
-    using T = float;
-    static constexpr const char* kName = ZAR_ERROR_NAME(sSqrt);
-    static __m128 Eval(__m128 x, __m128& special) {
-        special = SqrtTestS(x);
-        return _mm_sqrt_ps(_mm_or_ps(x, special));
-    }
-    static int Scalar(const float* a, float* y) { return SqrtScalar(a, y); }
-};
-
-// g = x*r and e = 1 - g*r from the double seed; special lanes are NaN from here.
-inline void SqrtChainStart(__m128d x, __m128d special, __m128d& g, __m128d& e) {
-    __m128d r = _mm_or_pd(RootSeed(x), special);
-    g = _mm_mul_pd(x, r);
-    e = _mm_sub_pd(_mm_set1_pd(1.0), _mm_mul_pd(g, r));
+// Single EP and LA from the root reciprocal estimate r (special lanes NaN): x*r, and at
+// LA one Goldschmidt step with h = r/2.
+template <Level L>
+inline __m128 RootOf(__m128 x, __m128 special) {
+    __m128 r = NaNWhere(special, ApproxRecipSqrt(x));
+    __m128 g = Mul(x, r);
+    if constexpr (L == Level::EP) return g;
+    __m128 h = Mul(Set<float>(0.5f), r);
+    __m128 e = Sub(Set<float>(0.5f), Mul(g, h));
+    return Add(g, Mul(g, e));
 }
 
-struct SqrtEPd {
-    using T = double;
-    static constexpr const char* kName = ZAR_ERROR_NAME(dSqrt);
-    static __m128d Eval(__m128d x, __m128d& special) {
-        special = SqrtTestD(x);
-        __m128d g, e;
-        SqrtChainStart(x, special, g, e);
-        __m128d p = _mm_add_pd(_mm_set1_pd(0.5), _mm_mul_pd(e, _mm_set1_pd(0.375)));
-        return _mm_add_pd(g, _mm_mul_pd(_mm_mul_pd(g, e), p));
-    }
-    static int Scalar(const double* a, double* y) { return SqrtScalar(a, y); }
-};
+// Double EP and LA from the seed: g = x*r and e = 1 - g*r, then g + g*e*P(e) with P
+// the series of (1 - e)^(-1/2) beyond 1, to second order (EP) or fourth (LA).
+constexpr double kRootSeries2[] = {0.5, 0.375};
 
-struct SqrtLAd {
-    using T = double;
-    static constexpr const char* kName = ZAR_ERROR_NAME(dSqrt);
-    static __m128d Eval(__m128d x, __m128d& special) {
-        special = SqrtTestD(x);
-        __m128d g, e;
-        SqrtChainStart(x, special, g, e);
-        __m128d p = _mm_add_pd(_mm_set1_pd(0.31250016501874495),
-                               _mm_mul_pd(e, _mm_set1_pd(0.27343754675366555)));
-        p = _mm_add_pd(_mm_set1_pd(0.37500000000001366), _mm_mul_pd(e, p));
-        p = _mm_add_pd(_mm_set1_pd(0.49999999999997785), _mm_mul_pd(e, p));
-        return _mm_add_pd(g, _mm_mul_pd(_mm_mul_pd(g, e), p));
-    }
-    static int Scalar(const double* a, double* y) { return SqrtScalar(a, y); }
-};
+template <Level L>
+inline __m128d RootOf(__m128d x, __m128d special) {
+    __m128d r = NaNWhere(special, RootSeed(x));
+    __m128d g = Mul(x, r);
+    __m128d e = Sub(Set<double>(1.0), Mul(g, r));
+    __m128d p;
+    if constexpr (L == Level::EP)
+        p = Horner(e, kRootSeries2);
+    else
+        p = Horner(e, kRootSeries);
+    return Add(g, Mul(Mul(g, e), p));
+}
 
-struct SqrtHAd {
-    using T = double;
-    static constexpr const char* kName = ZAR_ERROR_NAME(dSqrt);
-    static __m128d Eval(__m128d x, __m128d& special) {
-        special = SqrtTestD(x);
-        return _mm_sqrt_pd(_mm_or_pd(x, special));
+// HA is the correctly rounded root instruction.
+template <class Tp, Level L>
+struct SqrtBody {
+    using T = Tp;
+    using V = Vec<T>;
+    static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Sqrt);
+    static V Eval(V x, V& special) {
+        special = RangeTest(x, ArithRanges<T>::kRoot);
+        if constexpr (L == Level::HA)
+            return Sqrt(NaNWhere(special, x));
+        else
+            return RootOf<L>(x, special);
     }
-    static int Scalar(const double* a, double* y) { return SqrtScalar(a, y); }
+    static int Scalar(const T* a, T* y) { return SqrtScalar(a, y); }
 };
 
 } // namespace
@@ -139,21 +95,21 @@ using namespace brenn::vm;
 
 extern "C" {
 void ZAR_KERNEL(sSqrt, EP) BRENN_SIG(s, Unary) {
-    RunUnary(SqrtEPs{}, n, a, y);
+    RunUnary(SqrtBody<float, Level::EP>{}, n, a, y);
 }
 void ZAR_KERNEL(sSqrt, LA) BRENN_SIG(s, Unary) {
-    RunUnary(SqrtLAs{}, n, a, y);
+    RunUnary(SqrtBody<float, Level::LA>{}, n, a, y);
 }
 void ZAR_KERNEL(sSqrt, HA) BRENN_SIG(s, Unary) {
-    RunUnary(SqrtHAs{}, n, a, y);
+    RunUnary(SqrtBody<float, Level::HA>{}, n, a, y);
 }
 void ZAR_KERNEL(dSqrt, EP) BRENN_SIG(d, Unary) {
-    RunUnary(SqrtEPd{}, n, a, y);
+    RunUnary(SqrtBody<double, Level::EP>{}, n, a, y);
 }
 void ZAR_KERNEL(dSqrt, LA) BRENN_SIG(d, Unary) {
-    RunUnary(SqrtLAd{}, n, a, y);
+    RunUnary(SqrtBody<double, Level::LA>{}, n, a, y);
 }
 void ZAR_KERNEL(dSqrt, HA) BRENN_SIG(d, Unary) {
-    RunUnary(SqrtHAd{}, n, a, y);
+    RunUnary(SqrtBody<double, Level::HA>{}, n, a, y);
 }
 }

@@ -38,6 +38,8 @@
 
 #include <stdint.h>
 
+#include <type_traits>
+
 #include "frame/fpenv.h"
 #include "frame/mode.h"
 #include "frame/report.h"
@@ -83,6 +85,11 @@ constexpr Layout LayoutOf() {
     else
         return Layout::Split;
 }
+// The public error name of the row Fn of a body's element type T, for bodies written
+// once for both: "vsSqrt" or "vdSqrt".
+#define ZAR_ERROR_NAME_OF(T, Fn)                                                                   \
+    (std::is_same_v<T, float> ? ZAR_ERROR_NAME(s##Fn) : ZAR_ERROR_NAME(d##Fn))
+
 // The public error name; rows that never report have none.
 template <class B>
 constexpr const char* NameOf() {

@@ -128,6 +128,12 @@ BRENN_VEC __m128 ApproxRecip(__m128 x) {
 BRENN_VEC __m128 ApproxRecipSqrt(__m128 x) {
     return _mm_rsqrt_ps(x);
 }
+// The estimate of lane 0 alone, the other lanes of x passed through: with SetFirst, a
+// scalar routine gets the vector body's value of one element without estimating the
+// zeros of the other lanes (whose infinities would raise flags in a refinement).
+BRENN_VEC __m128 ApproxRecipFirst(__m128 x) {
+    return _mm_rcp_ss(x);
+}
 
 // Compares into lane masks (all ones where true). Lt, Le, Gt and Ge are the signalling
 // predicates: a NaN operand raises invalid. Eq, Ne and Unordered are quiet.

@@ -17,6 +17,8 @@
 #ifndef BRENN_VECMATH_FRAME_VEC_RANGE_H
 #define BRENN_VECMATH_FRAME_VEC_RANGE_H
 
+#include <type_traits>
+
 #include "vecmath/frame/vec_int.h"
 
 namespace brenn::vm {
@@ -27,6 +29,9 @@ struct Range32 {
 struct Range64 {
     uint64_t mask, offset, limit;
 };
+// The window on the whole lane of an element type.
+template <class T>
+using LaneRange = std::conditional_t<sizeof(T) == 4, Range32, Range64>;
 
 namespace range_detail {
 template <class I, class U>
@@ -36,6 +41,14 @@ BRENN_VEC I Window(I bits, U mask, U offset, U limit) {
     return Gt(bits, Set<U>(limit));
 }
 } // namespace range_detail
+
+// The same test on the bits of one element (of a double, its high word for Range32).
+BRENN_VEC bool RangeTest(uint32_t bits, Range32 r) {
+    return int32_t((bits & r.mask) + r.offset) > int32_t(r.limit);
+}
+BRENN_VEC bool RangeTest(uint64_t bits, Range64 r) {
+    return int64_t((bits & r.mask) + r.offset) > int64_t(r.limit);
+}
 
 BRENN_VEC __m128 RangeTest(__m128 x, Range32 r) {
     return AsFloat(range_detail::Window(AsInt(x), r.mask, r.offset, r.limit));

@@ -215,6 +215,18 @@ BRENN_VEC Vec<T> SplatBits(UInt<T> b) {
     return AsFloat(Set<UInt<T>>(b));
 }
 
+// v in lane 0, zeros in the others.
+template <class T>
+Vec<T> SetFirst(T v);
+template <>
+BRENN_VEC __m128 SetFirst<float>(float v) {
+    return _mm_set_ss(v);
+}
+template <>
+BRENN_VEC __m128d SetFirst<double>(double v) {
+    return _mm_set_sd(v);
+}
+
 // Lane 0 as a scalar.
 BRENN_VEC float GetLane(__m128 v) {
     return _mm_cvtss_f32(v);
