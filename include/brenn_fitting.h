@@ -18,35 +18,37 @@ extern "C" {
 #endif
 
 struct threader;
+/** A data-fitting task, made by brenn_df_kernel_dNewTask1D() or _sNewTask1D(). */
 typedef void* FitTaskHandle;
 
-/* Partition hints. */
+/** Partition hints (xHint). */
 enum {
     FIT_X_NO_HINT = 0,
     FIT_X_NON_UNIFORM = 1,
     FIT_X_QUASI_UNIFORM = 2,
-    FIT_X_UNIFORM = 4 /* x holds the two ends only */
+    FIT_X_UNIFORM = 4 /**< x holds the two ends only */
 };
 
-/* Storage of the function values (yHint) and of the coefficients (sCoeffHint). */
+/** Storage of the function values (yHint) and of the coefficients (sCoeffHint). */
 enum {
     FIT_Y_NO_HINT = 0,
-    FIT_Y_ROWS = 16,           /* function i at y + i*nx */
-    FIT_Y_COLUMNS = 32,        /* value j of function i at y[j*ny + i] */
-    FIT_Y_FIRST_ROW_ONLY = 128 /* one pointer given, the others through EditIdxPtr */
+    FIT_Y_ROWS = 16,           /**< function i at y + i*nx */
+    FIT_Y_COLUMNS = 32,        /**< value j of function i at y[j*ny + i] */
+    FIT_Y_FIRST_ROW_ONLY = 128 /**< one pointer given, the others through EditIdxPtr */
 };
 
-/* Spline orders and types. */
+/** Spline orders (sOrder). */
 enum { FIT_ORDER_STEP = 0, FIT_ORDER_LINEAR = 2, FIT_ORDER_QUADRATIC = 3, FIT_ORDER_CUBIC = 4 };
+/** Spline types (sType). */
 enum {
-    FIT_TYPE_DEFAULT = 0,    /* the quadratic: midpoint-value form */
-    FIT_TYPE_KNOTS = 1,      /* the quadratic: knot form, nx pieces */
-    FIT_TYPE_LOOKUP = 6,     /* order 0: the value at a node */
-    FIT_TYPE_STEP_RIGHT = 7, /* order 0: right-continuous step (left node's value) */
-    FIT_TYPE_STEP_LEFT = 8   /* order 0: left-continuous step (right node's value) */
+    FIT_TYPE_DEFAULT = 0,    /**< the quadratic: midpoint-value form */
+    FIT_TYPE_KNOTS = 1,      /**< the quadratic: knot form, nx pieces */
+    FIT_TYPE_LOOKUP = 6,     /**< order 0: the value at a node */
+    FIT_TYPE_STEP_RIGHT = 7, /**< order 0: right-continuous step (left node's value) */
+    FIT_TYPE_STEP_LEFT = 8   /**< order 0: left-continuous step (right node's value) */
 };
 
-/* Boundary conditions, combined as bits; bc holds their numbers, left end first. */
+/** Boundary conditions, combined as bits; bc holds their numbers, left end first. */
 enum {
     FIT_BC_NONE = 0,
     FIT_BC_NOT_A_KNOT = 1,
@@ -59,12 +61,12 @@ enum {
     FIT_BC_MID_VALUE = 128
 };
 
-/* Internal conditions: FIT_IC_KNOTS says that ic holds the nx+1 knots of the
+/** Internal conditions: FIT_IC_KNOTS says that ic holds the nx+1 knots of the
  * quadratic knot form; with FIT_IC_UNIFORM beside it ic holds only the two end
  * knots and the others are evenly spaced. */
 enum { FIT_IC_NONE = 0, FIT_IC_UNIFORM = 4, FIT_IC_KNOTS = 8 };
 
-/* Parameter ids of the editors and queries. */
+/** Parameter ids of the editors and queries. */
 enum {
     FIT_PARAM_X = 1,
     FIT_PARAM_Y = 2,
@@ -83,127 +85,295 @@ enum {
     FIT_PARAM_FLAG = 23
 };
 
-/* Site hints of search and interpolation. */
+/** Site hints of search and interpolation (siteHint). */
 enum { FIT_SITES_UNIFORM = 4, FIT_SITES_SORTED = 64 };
 
-/* Call type of interpolation: values, cells given back, cells given in. */
+/** Call type of interpolation: values, cells given back, cells given in. */
 enum { FIT_CALL_VALUES = 1, FIT_CALL_CELLS = 2, FIT_CALL_CELLS_GIVEN = 4 };
 
-/* Layouts of the interpolation result (nf functions, ns sites, nd derivatives). */
+/** Layouts of the interpolation result (nf functions, ns sites, nd derivatives). */
 enum {
-    FIT_RESULT_FUNCTIONS_SITES_DERIVATIVES = 16, /* [f][s][d] */
-    FIT_RESULT_SITES_FUNCTIONS_DERIVATIVES = 32, /* [s][f][d] */
-    FIT_RESULT_FIRST_ROW = 128,                  /* result is a table of nf pointers, each [s][d] */
-    FIT_RESULT_FUNCTIONS_DERIVATIVES_SITES = 256, /* [f][d][s] */
-    FIT_RESULT_SITES_DERIVATIVES_FUNCTIONS = 512  /* [s][d][f] */
+    FIT_RESULT_FUNCTIONS_SITES_DERIVATIVES = 16, /**< [f][s][d] */
+    FIT_RESULT_SITES_FUNCTIONS_DERIVATIVES = 32, /**< [s][f][d] */
+    FIT_RESULT_FIRST_ROW = 128, /**< result is a table of nf pointers, each [s][d] */
+    FIT_RESULT_FUNCTIONS_DERIVATIVES_SITES = 256, /**< [f][d][s] */
+    FIT_RESULT_SITES_DERIVATIVES_FUNCTIONS = 512  /**< [s][d][f] */
 };
 
-/* What a search callback may return to say that every cell of its block is right. */
+/** What a search callback may return to say that every cell of its block is right. */
 enum { FIT_SEARCH_ALL_CELLS_RIGHT = 1000 };
 
-/* Status codes. */
+/** Statuses of every data-fitting entry: 0 on success, negative on failure. */
 enum {
+    /** success */
     FIT_STATUS_OK = 0,
+    /** a null task or task handle address */
     FIT_STATUS_NULL_TASK = -1000,
+    /** a block could not be allocated */
     FIT_STATUS_NO_MEMORY = -1001,
+    /** a flag or spline type the construction does not take */
     FIT_STATUS_FLAG_REFUSED = -1002,
+    /** too few partition points */
     FIT_STATUS_BAD_NX = -1004,
+    /** a null partition */
     FIT_STATUS_BAD_X = -1005,
+    /** a partition hint that is none of FIT_X_* */
     FIT_STATUS_BAD_X_HINT = -1006,
+    /** a function count that does not fit the values given */
     FIT_STATUS_BAD_NY = -1007,
+    /** null function values */
     FIT_STATUS_BAD_Y = -1008,
+    /** a value storage hint that is none of FIT_Y_*, or one the call cannot use */
     FIT_STATUS_BAD_Y_HINT = -1009,
+    /** a negative spline order */
     FIT_STATUS_BAD_SPLINE_ORDER = -1010,
+    /** a spline type (or order) that cannot be built or evaluated */
     FIT_STATUS_BAD_SPLINE_TYPE = -1011,
+    /** an internal-condition type that does not fit the conditions given */
     FIT_STATUS_BAD_IC_TYPE = -1012,
+    /** missing or bad internal conditions (knots) */
     FIT_STATUS_BAD_IC = -1013,
+    /** a boundary-condition type the spline cannot take */
     FIT_STATUS_BAD_BC_TYPE = -1014,
+    /** missing boundary conditions */
     FIT_STATUS_BAD_BC = -1015,
+    /** a null coefficient pointer */
     FIT_STATUS_BAD_COEFF_PTR = -1016,
+    /** a coefficient storage hint that is none of the known */
     FIT_STATUS_BAD_COEFF_HINT = -1017,
+    /** a periodic condition with different end values */
     FIT_STATUS_BAD_PERIODIC_VAL = -1018,
+    /** a parameter id the call does not take */
     FIT_STATUS_BAD_PARAM_ID = -1019,
+    /** a function index outside the task's functions */
     FIT_STATUS_BAD_INDEX = -1020,
+    /** a look-up of a site that is no partition point */
     FIT_STATUS_SITE_NOT_NODE = -1022,
+    /** a look-up asked for more than one derivative row */
     FIT_STATUS_LOOKUP_DERIVATIVE_COUNT = -1024,
+    /** a look-up asked for a derivative */
     FIT_STATUS_LOOKUP_DERIVATIVE_ORDER = -1025,
+    /** a data hint with an unknown selector or a peak outside the partition */
     FIT_STATUS_BAD_DATA_HINT = -1026,
+    /** a result layout that is none of FIT_RESULT_* */
     FIT_STATUS_BAD_RESULT_HINT = -1028,
+    /** a bad flag value */
     FIT_STATUS_BAD_FLAG = -1036,
+    /** a null output address */
     FIT_STATUS_NULL_OUT = -1037
 };
 
-/* Search callback: fills cell[0..*count) (64-bit) with cells and flag[] with
- * non-zero for a cell that is right as given, zero for a guess to be corrected;
- * returning FIT_SEARCH_ALL_CELLS_RIGHT trusts the whole block, a negative value
- * stops the call. `extra` is 0 from the search entry, 1 from interpolation. */
+/** Search callback: fills cell[0..*count) (64-bit) with cells and flag[] with
+ * non-zero for a cell that is right as given, zero for a guess to be corrected.
+ * @param count address of the number of sites of the block
+ * @param site the block's sites
+ * @param cell where the cells go, *count 64-bit words
+ * @param flag where the flags go, *count words
+ * @param params the caller's searchParams
+ * @param extra 0 from the search entry, 1 from interpolation
+ * @return 0; FIT_SEARCH_ALL_CELLS_RIGHT to trust the whole block; a negative value
+ *         stops the call and is returned by it. */
 typedef int32_t (*FitdSearchCallback)(const int64_t* count, const double* site, int64_t* cell,
                                       int32_t* flag, void* params, int64_t extra);
+/** The single-precision form of FitdSearchCallback.
+ * @copydetails FitdSearchCallback */
 typedef int32_t (*FitsSearchCallback)(const int64_t* count, const float* site, int64_t* cell,
                                       int32_t* flag, void* params, int64_t extra);
 
-/* Interpolation callbacks (left and right extrapolation, interior): fill
+/** Interpolation callbacks (left and right extrapolation, interior): fill
  * result[j*nd + r] for the *count sites of one block and one function, where r runs
- * over the derivative orders asked in ascending order. `cell` holds the sites' cells.
- * `function` is the index of the function (0 for a single one). Negative: stop. */
+ * over the derivative orders asked in ascending order.
+ * @param count address of the number of sites of the block
+ * @param result where the block's results go
+ * @param site the block's sites
+ * @param cell the sites' cells
+ * @param params the caller's parameters for this callback
+ * @param function the index of the function (0 for a single one)
+ * @return 0, or a negative value that stops the call and is returned by it. */
 typedef int32_t (*FitdInterpCallback)(const int64_t* count, double* result, const double* site,
                                       const int64_t* cell, void* params, int64_t function);
+/** The single-precision form of FitdInterpCallback.
+ * @copydetails FitdInterpCallback */
 typedef int32_t (*FitsInterpCallback)(const int64_t* count, float* result, const float* site,
                                       const int64_t* cell, void* params, int64_t function);
 
-/* Task, editors and queries. */
+/** Creates a task over a partition and, optionally, function values on it. The task
+ * keeps the caller's addresses; a cell-search table is made at once unless the
+ * partition is uniform.
+ * @param task where the handle goes (a half-made task stays there after a failed
+ *        allocation; end it with brenn_df_kernel_DeleteTask())
+ * @param nx number of partition points, at least 2
+ * @param x the partition points in ascending order (the two ends for FIT_X_UNIFORM)
+ * @param xHint a partition hint (FIT_X_*)
+ * @param ny number of functions; 0 with no values
+ * @param y the function values, or null with ny 0
+ * @param yHint their storage (FIT_Y_*)
+ * @param frontEndWord bit 0: cells and derivative selectors are 64-bit
+ * @return FIT_STATUS_OK; FIT_STATUS_BAD_NX, FIT_STATUS_BAD_X, FIT_STATUS_BAD_X_HINT,
+ *         FIT_STATUS_BAD_Y, FIT_STATUS_BAD_NY, FIT_STATUS_BAD_Y_HINT or
+ *         FIT_STATUS_NO_MEMORY. */
 int32_t brenn_df_kernel_dNewTask1D(FitTaskHandle* task, int64_t nx, const double* x, int64_t xHint,
                                    int64_t ny, const double* y, int64_t yHint,
                                    int32_t frontEndWord);
+/** The single-precision form of brenn_df_kernel_dNewTask1D().
+ * @copydetails brenn_df_kernel_dNewTask1D */
 int32_t brenn_df_kernel_sNewTask1D(FitTaskHandle* task, int64_t nx, const float* x, int64_t xHint,
                                    int64_t ny, const float* y, int64_t yHint, int32_t frontEndWord);
+/** Ends a task: frees its own blocks, never the caller's arrays.
+ * @param task address of the handle; null is stored into it
+ * @return FIT_STATUS_OK, or FIT_STATUS_NULL_TASK. */
 int32_t brenn_df_kernel_DeleteTask(FitTaskHandle* task);
+/** Describes the piecewise-polynomial spline of a task at once. Each field is stored
+ * as soon as its own test passes, so a later failure leaves the earlier ones changed.
+ * @param task the task
+ * @param sOrder spline order (FIT_ORDER_*)
+ * @param sType spline type (FIT_TYPE_*)
+ * @param bcType boundary-condition bits (FIT_BC_*)
+ * @param bc the boundary-condition values, or null when bcType needs none
+ * @param icType internal-condition type (FIT_IC_*)
+ * @param ic the internal conditions, or null with FIT_IC_NONE
+ * @param sCoeff where the coefficients go, or null to give them later
+ * @param sCoeffHint storage of the coefficients (FIT_Y_*)
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK, FIT_STATUS_BAD_SPLINE_ORDER,
+ *         FIT_STATUS_BAD_SPLINE_TYPE, FIT_STATUS_BAD_BC, FIT_STATUS_BAD_IC,
+ *         FIT_STATUS_BAD_IC_TYPE, FIT_STATUS_BAD_NY or FIT_STATUS_NO_MEMORY. */
 int32_t brenn_df_kernel_dEditPPSpline1D(FitTaskHandle task, int64_t sOrder, int64_t sType,
                                         int64_t bcType, const double* bc, int64_t icType,
                                         const double* ic, double* sCoeff, int64_t sCoeffHint);
+/** The single-precision form of brenn_df_kernel_dEditPPSpline1D().
+ * @copydetails brenn_df_kernel_dEditPPSpline1D */
 int32_t brenn_df_kernel_sEditPPSpline1D(FitTaskHandle task, int64_t sOrder, int64_t sType,
                                         int64_t bcType, const float* bc, int64_t icType,
                                         const float* ic, float* sCoeff, int64_t sCoeffHint);
+/** Sets one address of a task: FIT_PARAM_X, _Y, _IC, _BC or _SCOEFF.
+ * @param task the task
+ * @param id the parameter id
+ * @param pointer the caller's array
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK; the null-pointer status of the parameter;
+ *         FIT_STATUS_BAD_PARAM_ID; FIT_STATUS_NO_MEMORY. */
 int32_t brenn_df_kernel_dEditPtr(FitTaskHandle task, int64_t id, const double* pointer);
+/** The single-precision form of brenn_df_kernel_dEditPtr().
+ * @copydetails brenn_df_kernel_dEditPtr */
 int32_t brenn_df_kernel_sEditPtr(FitTaskHandle task, int64_t id, const float* pointer);
+/** Sets one value of a task: FIT_PARAM_NX to FIT_PARAM_FLAG. FIT_PARAM_XHINT with
+ * FIT_X_NON_UNIFORM rebuilds the cell-search table from the task's current partition.
+ * @param task the task
+ * @param id the parameter id
+ * @param value the new value
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK; FIT_STATUS_BAD_PARAM_ID; the status of a
+ *         value the parameter refuses (FIT_STATUS_BAD_NX, FIT_STATUS_BAD_X_HINT, ...). */
 int32_t brenn_df_kernel_iEditVal(FitTaskHandle task, int64_t id, int64_t value);
+/** Sets the address of one function's values (FIT_PARAM_Y) or coefficients
+ * (FIT_PARAM_SCOEFF).
+ * @param task the task
+ * @param id FIT_PARAM_Y or FIT_PARAM_SCOEFF
+ * @param index the function, 0 to ny - 1
+ * @param pointer the caller's array
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK; FIT_STATUS_BAD_Y_HINT (values stored by
+ *         columns); FIT_STATUS_BAD_INDEX; FIT_STATUS_BAD_Y or FIT_STATUS_BAD_COEFF_PTR for
+ *         a null pointer; FIT_STATUS_BAD_PARAM_ID. */
 int32_t brenn_df_kernel_dEditIdxPtr(FitTaskHandle task, int64_t id, int64_t index,
                                     const double* pointer);
+/** The single-precision form of brenn_df_kernel_dEditIdxPtr().
+ * @copydetails brenn_df_kernel_dEditIdxPtr */
 int32_t brenn_df_kernel_sEditIdxPtr(FitTaskHandle task, int64_t id, int64_t index,
                                     const float* pointer);
+/** Gives back one address of a task: the partition, the first function's values, the
+ * internal or boundary conditions, the first function's coefficients.
+ * @param task the task
+ * @param id FIT_PARAM_X, _Y, _IC, _BC or _SCOEFF
+ * @param pointer where the address goes
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK; FIT_STATUS_NULL_OUT;
+ *         FIT_STATUS_BAD_PARAM_ID. */
 int32_t brenn_df_kernel_dQueryPtr(FitTaskHandle task, int64_t id, double** pointer);
+/** The single-precision form of brenn_df_kernel_dQueryPtr().
+ * @copydetails brenn_df_kernel_dQueryPtr */
 int32_t brenn_df_kernel_sQueryPtr(FitTaskHandle task, int64_t id, float** pointer);
+/** Gives back one value of a task (FIT_PARAM_NX to FIT_PARAM_FLAG), as 64 bits.
+ * @param task the task
+ * @param id the parameter id
+ * @param value where the value goes
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK; FIT_STATUS_NULL_OUT;
+ *         FIT_STATUS_BAD_PARAM_ID. */
 int32_t brenn_df_kernel_iQueryVal(FitTaskHandle task, int64_t id, int64_t* value);
+/** Gives back the address of one function's values or coefficients.
+ * @param task the task
+ * @param id FIT_PARAM_Y or FIT_PARAM_SCOEFF
+ * @param index the function
+ * @param pointer where the address goes
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK; FIT_STATUS_NULL_OUT;
+ *         FIT_STATUS_BAD_INDEX; FIT_STATUS_BAD_Y_HINT (values stored by columns);
+ *         FIT_STATUS_BAD_PARAM_ID. */
 int32_t brenn_df_kernel_dQueryIdxPtr(FitTaskHandle task, int64_t id, int64_t index,
                                      double** pointer);
+/** The single-precision form of brenn_df_kernel_dQueryIdxPtr().
+ * @copydetails brenn_df_kernel_dQueryIdxPtr */
 int32_t brenn_df_kernel_sQueryIdxPtr(FitTaskHandle task, int64_t id, int64_t index,
                                      float** pointer);
 
-/* Construction: coefficients go where the task's sCoeff pointers say. */
+/** Constructs the linear spline of each function of the task: coefficients go where
+ * the task's sCoeff pointers say.
+ * @param task the task
+ * @param method the construction method; passed on
+ * @param flags 0
+ * @param threader the threading record, or null for the calling thread
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK; FIT_STATUS_FLAG_REFUSED; FIT_STATUS_BAD_NX;
+ *         FIT_STATUS_BAD_Y_HINT; FIT_STATUS_BAD_BC_TYPE, FIT_STATUS_BAD_BC or
+ *         FIT_STATUS_BAD_PERIODIC_VAL for the boundary conditions; FIT_STATUS_NO_MEMORY. */
 int32_t brenn_df_kernel_dDFLinearSpline1D(FitTaskHandle task, int64_t method, int64_t flags,
                                           const struct threader* threader);
+/** The single-precision form of brenn_df_kernel_dDFLinearSpline1D().
+ * @copydetails brenn_df_kernel_dDFLinearSpline1D */
 int32_t brenn_df_kernel_sDFLinearSpline1D(FitTaskHandle task, int64_t method, int64_t flags,
                                           const struct threader* threader);
+/** Constructs the quadratic spline of each function of the task, in the midpoint form
+ * (FIT_TYPE_DEFAULT, with FIT_BC_MID_VALUE) or the knot form (FIT_TYPE_KNOTS, with
+ * FIT_IC_KNOTS): coefficients go where the task's sCoeff pointers say.
+ * @param task the task
+ * @param method the construction method; passed on
+ * @param flags 0
+ * @param threader the threading record, or null for the calling thread
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK; FIT_STATUS_FLAG_REFUSED; FIT_STATUS_BAD_NX;
+ *         FIT_STATUS_BAD_Y_HINT; FIT_STATUS_BAD_BC_TYPE, FIT_STATUS_BAD_BC,
+ *         FIT_STATUS_BAD_PERIODIC_VAL, FIT_STATUS_BAD_IC_TYPE or FIT_STATUS_BAD_IC for the
+ *         conditions; FIT_STATUS_NO_MEMORY. */
 int32_t brenn_df_kernel_dDFQuadraticSpline1D(FitTaskHandle task, int64_t method, int64_t flags,
                                              const struct threader* threader);
+/** The single-precision form of brenn_df_kernel_dDFQuadraticSpline1D().
+ * @copydetails brenn_df_kernel_dDFQuadraticSpline1D */
 int32_t brenn_df_kernel_sDFQuadraticSpline1D(FitTaskHandle task, int64_t method, int64_t flags,
                                              const struct threader* threader);
 
-/* Cell search. The cell of site s is 0 below x[0], j for x[j-1] <= s < x[j], nx-1 at
+/** Cell search. The cell of site s is 0 below x[0], j for x[j-1] <= s < x[j], nx-1 at
  * the right end and nx above it. Cells are 32-bit, except those of the user-defined
  * searchers, which are 64-bit when the task's frontEndWord is non-zero. dataHint
  * (optional): element 1 selects (0 nothing known, 1 a peak), element 4 is the peak's
- * partition index. */
+ * partition index. The searcher is chosen once for the call from the callback, the
+ * partition hint, the site hint and the data hint.
+ * @param task the task
+ * @param method passed on, not acted upon
+ * @param nsite number of sites
+ * @param site the sites (the two ends with FIT_SITES_UNIFORM)
+ * @param siteHint FIT_SITES_UNIFORM, FIT_SITES_SORTED or 0
+ * @param dataHint null, or the data hint (element 1 the selector, element 4 the peak)
+ * @param cell where the nsite cells go
+ * @param searchCallback the caller's searcher, or null
+ * @param searchParams the callback's parameters
+ * @param threader the threading record, or null for the calling thread
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK; FIT_STATUS_BAD_DATA_HINT;
+ *         FIT_STATUS_NO_MEMORY; a negative status of the callback. */
 int32_t brenn_df_kernel_dDFSearch1D(FitTaskHandle task, int64_t method, int64_t nsite,
                                     const double* site, int64_t siteHint, const double* dataHint,
                                     void* cell, FitdSearchCallback searchCallback,
                                     void* searchParams, const struct threader* threader);
+/** The single-precision form of brenn_df_kernel_dDFSearch1D().
+ * @copydetails brenn_df_kernel_dDFSearch1D */
 int32_t brenn_df_kernel_sDFSearch1D(FitTaskHandle task, int64_t method, int64_t nsite,
                                     const float* site, int64_t siteHint, const float* dataHint,
                                     void* cell, FitsSearchCallback searchCallback,
                                     void* searchParams, const struct threader* threader);
 
-/* The searchers themselves: the arguments of the search entry and a trailing 0. */
+/** Declares the two spellings of one searcher (plain and 32) in one precision. */
 #define BRENN_FIT_SEARCHER(t, T, name)                                                             \
     int32_t brenn_df_kernel_##t##DF##name##Search1D(                                               \
         FitTaskHandle task, int64_t method, int64_t nsite, const T* site, int64_t siteHint,        \
@@ -213,6 +383,7 @@ int32_t brenn_df_kernel_sDFSearch1D(FitTaskHandle task, int64_t method, int64_t 
         FitTaskHandle task, int64_t method, int64_t nsite, const T* site, int64_t siteHint,        \
         const T* dataHint, void* cell, Fit##t##SearchCallback searchCallback, void* searchParams,  \
         const struct threader* threader, int64_t extra);
+/** Declares the seven searchers of one precision. */
 #define BRENN_FIT_SEARCHERS(t, T)                                                                  \
     BRENN_FIT_SEARCHER(t, T, Uniform)                                                              \
     BRENN_FIT_SEARCHER(t, T, QuasiUniform)                                                         \
@@ -225,10 +396,187 @@ BRENN_FIT_SEARCHERS(d, double)
 BRENN_FIT_SEARCHERS(s, float)
 #undef BRENN_FIT_SEARCHERS
 #undef BRENN_FIT_SEARCHER
+/* The declarations made by the macros above, one line each for Doxygen. */
+/* clang-format off */
+/** @fn int32_t brenn_df_kernel_dDFUniformSearch1D(FitTaskHandle task, int64_t method, int64_t nsite, const double* site, int64_t siteHint, const double* dataHint, void* cell, FitdSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * The searcher of a uniform partition, as brenn_df_kernel_dDFSearch1D() chooses it.
+ * @param task the task
+ * @param method passed on, not acted upon
+ * @param nsite number of sites
+ * @param site the sites (the two ends with FIT_SITES_UNIFORM)
+ * @param siteHint FIT_SITES_UNIFORM, FIT_SITES_SORTED or 0
+ * @param dataHint null, or the data hint (element 1 the selector, element 4 the peak)
+ * @param cell where the nsite cells go
+ * @param searchCallback the caller's searcher, or null
+ * @param searchParams the callback's parameters
+ * @param threader the threading record, or null for the calling thread
+ * @param extra 0
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK; FIT_STATUS_BAD_DATA_HINT;
+ *         FIT_STATUS_NO_MEMORY; a negative status of the callback. */
+/** @fn int32_t brenn_df_kernel_dDFUniformSearch1D32(FitTaskHandle task, int64_t method, int64_t nsite, const double* site, int64_t siteHint, const double* dataHint, void* cell, FitdSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFUniformSearch1D(). @copydetails brenn_df_kernel_dDFUniformSearch1D */
+/** @fn int32_t brenn_df_kernel_sDFUniformSearch1D(FitTaskHandle task, int64_t method, int64_t nsite, const float* site, int64_t siteHint, const float* dataHint, void* cell, FitsSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFUniformSearch1D(). @copydetails brenn_df_kernel_dDFUniformSearch1D */
+/** @fn int32_t brenn_df_kernel_sDFUniformSearch1D32(FitTaskHandle task, int64_t method, int64_t nsite, const float* site, int64_t siteHint, const float* dataHint, void* cell, FitsSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFUniformSearch1D(). @copydetails brenn_df_kernel_dDFUniformSearch1D */
+/** @fn int32_t brenn_df_kernel_dDFQuasiUniformSearch1D(FitTaskHandle task, int64_t method, int64_t nsite, const double* site, int64_t siteHint, const double* dataHint, void* cell, FitdSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * The searcher of a quasi-uniform partition, as brenn_df_kernel_dDFSearch1D() chooses it.
+ * @param task the task
+ * @param method passed on, not acted upon
+ * @param nsite number of sites
+ * @param site the sites (the two ends with FIT_SITES_UNIFORM)
+ * @param siteHint FIT_SITES_UNIFORM, FIT_SITES_SORTED or 0
+ * @param dataHint null, or the data hint (element 1 the selector, element 4 the peak)
+ * @param cell where the nsite cells go
+ * @param searchCallback the caller's searcher, or null
+ * @param searchParams the callback's parameters
+ * @param threader the threading record, or null for the calling thread
+ * @param extra 0
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK; FIT_STATUS_BAD_DATA_HINT;
+ *         FIT_STATUS_NO_MEMORY; a negative status of the callback. */
+/** @fn int32_t brenn_df_kernel_dDFQuasiUniformSearch1D32(FitTaskHandle task, int64_t method, int64_t nsite, const double* site, int64_t siteHint, const double* dataHint, void* cell, FitdSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFQuasiUniformSearch1D(). @copydetails brenn_df_kernel_dDFQuasiUniformSearch1D */
+/** @fn int32_t brenn_df_kernel_sDFQuasiUniformSearch1D(FitTaskHandle task, int64_t method, int64_t nsite, const float* site, int64_t siteHint, const float* dataHint, void* cell, FitsSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFQuasiUniformSearch1D(). @copydetails brenn_df_kernel_dDFQuasiUniformSearch1D */
+/** @fn int32_t brenn_df_kernel_sDFQuasiUniformSearch1D32(FitTaskHandle task, int64_t method, int64_t nsite, const float* site, int64_t siteHint, const float* dataHint, void* cell, FitsSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFQuasiUniformSearch1D(). @copydetails brenn_df_kernel_dDFQuasiUniformSearch1D */
+/** @fn int32_t brenn_df_kernel_dDFSortedSearch1D(FitTaskHandle task, int64_t method, int64_t nsite, const double* site, int64_t siteHint, const double* dataHint, void* cell, FitdSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * The searcher of ascending sites, as brenn_df_kernel_dDFSearch1D() chooses it.
+ * @param task the task
+ * @param method passed on, not acted upon
+ * @param nsite number of sites
+ * @param site the sites (the two ends with FIT_SITES_UNIFORM)
+ * @param siteHint FIT_SITES_UNIFORM, FIT_SITES_SORTED or 0
+ * @param dataHint null, or the data hint (element 1 the selector, element 4 the peak)
+ * @param cell where the nsite cells go
+ * @param searchCallback the caller's searcher, or null
+ * @param searchParams the callback's parameters
+ * @param threader the threading record, or null for the calling thread
+ * @param extra 0
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK; FIT_STATUS_BAD_DATA_HINT;
+ *         FIT_STATUS_NO_MEMORY; a negative status of the callback. */
+/** @fn int32_t brenn_df_kernel_dDFSortedSearch1D32(FitTaskHandle task, int64_t method, int64_t nsite, const double* site, int64_t siteHint, const double* dataHint, void* cell, FitdSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFSortedSearch1D(). @copydetails brenn_df_kernel_dDFSortedSearch1D */
+/** @fn int32_t brenn_df_kernel_sDFSortedSearch1D(FitTaskHandle task, int64_t method, int64_t nsite, const float* site, int64_t siteHint, const float* dataHint, void* cell, FitsSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFSortedSearch1D(). @copydetails brenn_df_kernel_dDFSortedSearch1D */
+/** @fn int32_t brenn_df_kernel_sDFSortedSearch1D32(FitTaskHandle task, int64_t method, int64_t nsite, const float* site, int64_t siteHint, const float* dataHint, void* cell, FitsSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFSortedSearch1D(). @copydetails brenn_df_kernel_dDFSortedSearch1D */
+/** @fn int32_t brenn_df_kernel_dDFPeakSearch1D(FitTaskHandle task, int64_t method, int64_t nsite, const double* site, int64_t siteHint, const double* dataHint, void* cell, FitdSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * The searcher of sites around a peak, as brenn_df_kernel_dDFSearch1D() chooses it.
+ * @param task the task
+ * @param method passed on, not acted upon
+ * @param nsite number of sites
+ * @param site the sites (the two ends with FIT_SITES_UNIFORM)
+ * @param siteHint FIT_SITES_UNIFORM, FIT_SITES_SORTED or 0
+ * @param dataHint null, or the data hint (element 1 the selector, element 4 the peak)
+ * @param cell where the nsite cells go
+ * @param searchCallback the caller's searcher, or null
+ * @param searchParams the callback's parameters
+ * @param threader the threading record, or null for the calling thread
+ * @param extra 0
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK; FIT_STATUS_BAD_DATA_HINT;
+ *         FIT_STATUS_NO_MEMORY; a negative status of the callback. */
+/** @fn int32_t brenn_df_kernel_dDFPeakSearch1D32(FitTaskHandle task, int64_t method, int64_t nsite, const double* site, int64_t siteHint, const double* dataHint, void* cell, FitdSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFPeakSearch1D(). @copydetails brenn_df_kernel_dDFPeakSearch1D */
+/** @fn int32_t brenn_df_kernel_sDFPeakSearch1D(FitTaskHandle task, int64_t method, int64_t nsite, const float* site, int64_t siteHint, const float* dataHint, void* cell, FitsSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFPeakSearch1D(). @copydetails brenn_df_kernel_dDFPeakSearch1D */
+/** @fn int32_t brenn_df_kernel_sDFPeakSearch1D32(FitTaskHandle task, int64_t method, int64_t nsite, const float* site, int64_t siteHint, const float* dataHint, void* cell, FitsSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFPeakSearch1D(). @copydetails brenn_df_kernel_dDFPeakSearch1D */
+/** @fn int32_t brenn_df_kernel_dDFHybridSearch1D(FitTaskHandle task, int64_t method, int64_t nsite, const double* site, int64_t siteHint, const double* dataHint, void* cell, FitdSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * The default searcher, as brenn_df_kernel_dDFSearch1D() chooses it.
+ * @param task the task
+ * @param method passed on, not acted upon
+ * @param nsite number of sites
+ * @param site the sites (the two ends with FIT_SITES_UNIFORM)
+ * @param siteHint FIT_SITES_UNIFORM, FIT_SITES_SORTED or 0
+ * @param dataHint null, or the data hint (element 1 the selector, element 4 the peak)
+ * @param cell where the nsite cells go
+ * @param searchCallback the caller's searcher, or null
+ * @param searchParams the callback's parameters
+ * @param threader the threading record, or null for the calling thread
+ * @param extra 0
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK; FIT_STATUS_BAD_DATA_HINT;
+ *         FIT_STATUS_NO_MEMORY; a negative status of the callback. */
+/** @fn int32_t brenn_df_kernel_dDFHybridSearch1D32(FitTaskHandle task, int64_t method, int64_t nsite, const double* site, int64_t siteHint, const double* dataHint, void* cell, FitdSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFHybridSearch1D(). @copydetails brenn_df_kernel_dDFHybridSearch1D */
+/** @fn int32_t brenn_df_kernel_sDFHybridSearch1D(FitTaskHandle task, int64_t method, int64_t nsite, const float* site, int64_t siteHint, const float* dataHint, void* cell, FitsSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFHybridSearch1D(). @copydetails brenn_df_kernel_dDFHybridSearch1D */
+/** @fn int32_t brenn_df_kernel_sDFHybridSearch1D32(FitTaskHandle task, int64_t method, int64_t nsite, const float* site, int64_t siteHint, const float* dataHint, void* cell, FitsSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFHybridSearch1D(). @copydetails brenn_df_kernel_dDFHybridSearch1D */
+/** @fn int32_t brenn_df_kernel_dDFUserDefSearch1D(FitTaskHandle task, int64_t method, int64_t nsite, const double* site, int64_t siteHint, const double* dataHint, void* cell, FitdSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * The caller's searcher, checked and completed, as brenn_df_kernel_dDFSearch1D() chooses it.
+ * @param task the task
+ * @param method passed on, not acted upon
+ * @param nsite number of sites
+ * @param site the sites (the two ends with FIT_SITES_UNIFORM)
+ * @param siteHint FIT_SITES_UNIFORM, FIT_SITES_SORTED or 0
+ * @param dataHint null, or the data hint (element 1 the selector, element 4 the peak)
+ * @param cell where the nsite cells go
+ * @param searchCallback the caller's searcher, or null
+ * @param searchParams the callback's parameters
+ * @param threader the threading record, or null for the calling thread
+ * @param extra 0
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK; FIT_STATUS_BAD_DATA_HINT;
+ *         FIT_STATUS_NO_MEMORY; a negative status of the callback. */
+/** @fn int32_t brenn_df_kernel_dDFUserDefSearch1D32(FitTaskHandle task, int64_t method, int64_t nsite, const double* site, int64_t siteHint, const double* dataHint, void* cell, FitdSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFUserDefSearch1D(). @copydetails brenn_df_kernel_dDFUserDefSearch1D */
+/** @fn int32_t brenn_df_kernel_sDFUserDefSearch1D(FitTaskHandle task, int64_t method, int64_t nsite, const float* site, int64_t siteHint, const float* dataHint, void* cell, FitsSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFUserDefSearch1D(). @copydetails brenn_df_kernel_dDFUserDefSearch1D */
+/** @fn int32_t brenn_df_kernel_sDFUserDefSearch1D32(FitTaskHandle task, int64_t method, int64_t nsite, const float* site, int64_t siteHint, const float* dataHint, void* cell, FitsSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFUserDefSearch1D(). @copydetails brenn_df_kernel_dDFUserDefSearch1D */
+/** @fn int32_t brenn_df_kernel_dDFUniUserDefSearch1D(FitTaskHandle task, int64_t method, int64_t nsite, const double* site, int64_t siteHint, const double* dataHint, void* cell, FitdSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * The caller's searcher on a uniform partition, as brenn_df_kernel_dDFSearch1D() chooses it.
+ * @param task the task
+ * @param method passed on, not acted upon
+ * @param nsite number of sites
+ * @param site the sites (the two ends with FIT_SITES_UNIFORM)
+ * @param siteHint FIT_SITES_UNIFORM, FIT_SITES_SORTED or 0
+ * @param dataHint null, or the data hint (element 1 the selector, element 4 the peak)
+ * @param cell where the nsite cells go
+ * @param searchCallback the caller's searcher, or null
+ * @param searchParams the callback's parameters
+ * @param threader the threading record, or null for the calling thread
+ * @param extra 0
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK; FIT_STATUS_BAD_DATA_HINT;
+ *         FIT_STATUS_NO_MEMORY; a negative status of the callback. */
+/** @fn int32_t brenn_df_kernel_dDFUniUserDefSearch1D32(FitTaskHandle task, int64_t method, int64_t nsite, const double* site, int64_t siteHint, const double* dataHint, void* cell, FitdSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFUniUserDefSearch1D(). @copydetails brenn_df_kernel_dDFUniUserDefSearch1D */
+/** @fn int32_t brenn_df_kernel_sDFUniUserDefSearch1D(FitTaskHandle task, int64_t method, int64_t nsite, const float* site, int64_t siteHint, const float* dataHint, void* cell, FitsSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFUniUserDefSearch1D(). @copydetails brenn_df_kernel_dDFUniUserDefSearch1D */
+/** @fn int32_t brenn_df_kernel_sDFUniUserDefSearch1D32(FitTaskHandle task, int64_t method, int64_t nsite, const float* site, int64_t siteHint, const float* dataHint, void* cell, FitsSearchCallback searchCallback, void* searchParams, const struct threader* threader, int64_t extra)
+ * Another spelling (or precision) of brenn_df_kernel_dDFUniUserDefSearch1D(). @copydetails brenn_df_kernel_dDFUniUserDefSearch1D */
+/* clang-format on */
 
-/* Interpolation. dorder: ndorder flags (32-bit, 64-bit with bit 0 of frontEndWord),
- * entry k non-zero asks derivative k; none asks the value. cell: 32-bit cells, 64-bit
- * with bit 0 of frontEndWord. */
+/** Interpolation: values and derivatives of the task's splines at a batch of sites, for
+ * every function; the cells can be given back, or given in. dorder: ndorder flags
+ * (32-bit, 64-bit with bit 0 of frontEndWord), entry k non-zero asks derivative k;
+ * none asks the value. cell: 32-bit cells, 64-bit with bit 0 of frontEndWord.
+ * @param task the task
+ * @param type FIT_CALL_VALUES, FIT_CALL_CELLS (combinable) or FIT_CALL_CELLS_GIVEN
+ * @param method passed on
+ * @param nsite number of sites
+ * @param site the sites (the two ends with FIT_SITES_UNIFORM)
+ * @param siteHint FIT_SITES_UNIFORM, FIT_SITES_SORTED or 0
+ * @param ndorder number of entries of dorder
+ * @param dorder the derivative selector
+ * @param dataHint null, or the data hint of the search
+ * @param result where the results go, in the layout of resultHint
+ * @param resultHint the result layout (FIT_RESULT_*; 0 is taken as the first)
+ * @param cell the cells, given back or given in as type says
+ * @param leftCallback extrapolation left of the partition, or null
+ * @param leftParams its parameters
+ * @param rightCallback extrapolation right of the partition, or null
+ * @param rightParams its parameters
+ * @param interpCallback evaluation inside the partition instead of the spline, or null
+ * @param interpParams its parameters
+ * @param searchCallback the caller's searcher, or null
+ * @param searchParams its parameters
+ * @param threader the threading record, or null for the calling thread
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK; FIT_STATUS_BAD_SPLINE_TYPE;
+ *         FIT_STATUS_SITE_NOT_NODE, FIT_STATUS_LOOKUP_DERIVATIVE_COUNT or
+ *         FIT_STATUS_LOOKUP_DERIVATIVE_ORDER for a look-up; FIT_STATUS_BAD_DATA_HINT;
+ *         FIT_STATUS_BAD_RESULT_HINT; FIT_STATUS_NO_MEMORY; a negative status of a
+ *         callback. */
 int32_t brenn_df_kernel_dDFInterpolate1D(FitTaskHandle task, int64_t type, int64_t method,
                                          int64_t nsite, const double* site, int64_t siteHint,
                                          int64_t ndorder, const void* dorder,
@@ -238,6 +586,8 @@ int32_t brenn_df_kernel_dDFInterpolate1D(FitTaskHandle task, int64_t type, int64
                                          void* rightParams, FitdInterpCallback interpCallback,
                                          void* interpParams, FitdSearchCallback searchCallback,
                                          void* searchParams, const struct threader* threader);
+/** The single-precision form of brenn_df_kernel_dDFInterpolate1D().
+ * @copydetails brenn_df_kernel_dDFInterpolate1D */
 int32_t brenn_df_kernel_sDFInterpolate1D(FitTaskHandle task, int64_t type, int64_t method,
                                          int64_t nsite, const float* site, int64_t siteHint,
                                          int64_t ndorder, const void* dorder, const float* dataHint,

@@ -41,47 +41,81 @@
 extern "C" {
 #endif
 
-struct threader; /* the threading record of the front-end; a null one runs on the caller */
+struct threader; /**< the threading record of the front-end; a null one runs on the caller */
 
-/* Statuses. */
+/** Statuses of every statistics entry: 0 on success, negative on failure. */
 enum {
+    /** success */
     BRENN_SS_OK = 0,
+    /** a parameter id out of range, or an id of the other editor's type */
     BRENN_SS_ERROR_BADARGS = -3,
+    /** the task record or a work block could not be allocated */
     BRENN_SS_ERROR_ALLOC = -4000,
+    /** the dimension word is missing or not above 0 */
     BRENN_SS_ERROR_DIMENSION = -4001,
+    /** the observation count is missing or not above 0 */
     BRENN_SS_ERROR_OBSERVATION_COUNT = -4002,
-    BRENN_SS_ERROR_STORAGE = -4003, /* also an unknown matrix storage form */
+    /** a storage word that is none of the known forms */
+    BRENN_SS_ERROR_STORAGE = -4003,
+    /** the variable indices are missing */
     BRENN_SS_ERROR_INDICES_MISSING = -4004,
+    /** the weights are missing */
     BRENN_SS_ERROR_WEIGHTS_MISSING = -4005,
-    BRENN_SS_ERROR_MEAN_MISSING = -4006, /* also a missing `sum` */
+    /** the mean array (or the sum array) is missing */
+    BRENN_SS_ERROR_MEAN_MISSING = -4006,
+    /** the raw moment 2 array is missing */
     BRENN_SS_ERROR_RAW_MOMENT2_MISSING = -4007,
+    /** the raw moment 3 array is missing */
     BRENN_SS_ERROR_RAW_MOMENT3_MISSING = -4008,
+    /** the raw moment 4 array is missing */
     BRENN_SS_ERROR_RAW_MOMENT4_MISSING = -4009,
+    /** the central moment 2 array is missing */
     BRENN_SS_ERROR_CENTRAL_MOMENT2_MISSING = -4010,
+    /** the central moment 3 array is missing */
     BRENN_SS_ERROR_CENTRAL_MOMENT3_MISSING = -4011,
+    /** the central moment 4 array is missing */
     BRENN_SS_ERROR_CENTRAL_MOMENT4_MISSING = -4012,
+    /** the kurtosis array is missing */
     BRENN_SS_ERROR_KURTOSIS_MISSING = -4013,
+    /** the skewness array is missing */
     BRENN_SS_ERROR_SKEWNESS_MISSING = -4014,
+    /** the minimum array is missing */
     BRENN_SS_ERROR_MINIMUM_MISSING = -4015,
+    /** the maximum array is missing */
     BRENN_SS_ERROR_MAXIMUM_MISSING = -4016,
+    /** the variation array is missing */
     BRENN_SS_ERROR_VARIATION_MISSING = -4017,
+    /** the covariance matrix is missing */
     BRENN_SS_ERROR_COV_MISSING = -4018,
+    /** the correlation matrix is missing */
     BRENN_SS_ERROR_COR_MISSING = -4019,
+    /** the accumulated weights are missing where needed */
     BRENN_SS_ERROR_ACCUM_WEIGHT_MISSING = -4020,
+    /** a method word that cannot be used, or an estimate the method cannot give */
     BRENN_SS_ERROR_METHOD = -4029,
+    /** a null task (or task handle address) */
     BRENN_SS_ERROR_TASK_NULL = -4031,
+    /** the observation matrix is missing */
     BRENN_SS_ERROR_OBSERVATIONS_MISSING = -4032,
+    /** a storage or count word is missing */
     BRENN_SS_ERROR_STORAGE_WORD_MISSING = -4044,
+    /** the raw sum 2 array is missing */
     BRENN_SS_ERROR_RAW_SUM2_MISSING = -4075,
+    /** the raw sum 3 array is missing */
     BRENN_SS_ERROR_RAW_SUM3_MISSING = -4076,
+    /** the raw sum 4 array is missing */
     BRENN_SS_ERROR_RAW_SUM4_MISSING = -4077,
+    /** the central sum 2 array is missing */
     BRENN_SS_ERROR_CENTRAL_SUM2_MISSING = -4078,
+    /** the central sum 3 array is missing */
     BRENN_SS_ERROR_CENTRAL_SUM3_MISSING = -4079,
+    /** the central sum 4 array is missing */
     BRENN_SS_ERROR_CENTRAL_SUM4_MISSING = -4080,
+    /** the cross-product matrix is missing */
     BRENN_SS_ERROR_CROSS_PRODUCT_MISSING = -4081
 };
 
-/* Parameter ids of the general editors. Integer ids go through _qesiSSEditTask, real
+/** Parameter ids of the general editors. Integer ids go through _qesiSSEditTask, real
  * ones through _qesdSSEditTask / _qessSSEditTask. */
 enum {
     BRENN_SS_ED_DIMEN = 1,
@@ -165,80 +199,128 @@ enum {
     BRENN_SS_ED_SORTED_OBSERV_STORAGE = 79
 };
 
-/* Storage words of the observation matrix (and of the sort result). */
-#define BRENN_SS_MATRIX_STORAGE_ROWS 0x10000 /* one variable's observations contiguous */
-#define BRENN_SS_MATRIX_STORAGE_COLS 0x20000 /* one observation's values contiguous */
+/** @name Storage words of the observation matrix (and of the sort result)
+ * @{ */
+#define BRENN_SS_MATRIX_STORAGE_ROWS 0x10000 /**< one variable's observations contiguous */
+#define BRENN_SS_MATRIX_STORAGE_COLS 0x20000 /**< one observation's values contiguous */
 
-/* Storage forms of covariance, correlation and cross-product: one enumeration.
+/** @} */
+
+/** @name Storage forms of covariance, correlation and cross-product
+ * One enumeration for the three.
  * FULL: p x p, element (j, l) at j * p + l. U_PACKED: the upper triangle row by row,
  * p (p + 1) / 2 elements (row j holds l = j .. p-1). L_PACKED: the lower triangle row
- * by row (row j holds l = 0 .. j). */
-#define BRENN_SS_MATRIX_STORAGE_FULL 0
-#define BRENN_SS_MATRIX_STORAGE_U_PACKED 1
-#define BRENN_SS_MATRIX_STORAGE_L_PACKED 2
+ * by row (row j holds l = 0 .. j).
+ * @{ */
+#define BRENN_SS_MATRIX_STORAGE_FULL 0     /**< p x p */
+#define BRENN_SS_MATRIX_STORAGE_U_PACKED 1 /**< upper triangle, row by row */
+#define BRENN_SS_MATRIX_STORAGE_L_PACKED 2 /**< lower triangle, row by row */
+/** @} */
 
-/* Method words of the basic compute. */
-#define BRENN_SS_METHOD_RAW_FIRST 0x1ULL      /* central sums formed from raw moments */
-#define BRENN_SS_METHOD_ONE_PASS 0x2ULL       /* observation-by-observation update */
-#define BRENN_SS_METHOD_ONE_PASS_B 0x100ULL   /* blocked update through BLAS */
-#define BRENN_SS_METHOD_FROM_SUMS_CP 0x200ULL /* from sums and cross-product, no data */
-#define BRENN_SS_METHOD_FROM_SUMS 0x400ULL
-/* Method word of minimum/maximum, quantiles, order statistics, sort and MAD. */
+/** @name Method words of the basic compute
+ * Exactly one of RAW_FIRST, ONE_PASS and ONE_PASS_B, or one of the two conversions.
+ * @{ */
+#define BRENN_SS_METHOD_RAW_FIRST 0x1ULL      /**< central sums formed from raw moments */
+#define BRENN_SS_METHOD_ONE_PASS 0x2ULL       /**< observation-by-observation update */
+#define BRENN_SS_METHOD_ONE_PASS_B 0x100ULL   /**< blocked update through BLAS */
+#define BRENN_SS_METHOD_FROM_SUMS_CP 0x200ULL /**< from sums and cross-product, no data */
+#define BRENN_SS_METHOD_FROM_SUMS 0x400ULL    /**< from sums, no data */
+/** @} */
+/** Method word of minimum/maximum, quantiles, order statistics, sort and MAD. */
 #define BRENN_SS_METHOD_FAST 0x1ULL
 
-/* Estimate bits. */
-#define BRENN_SS_MEAN 0x1ULL
-#define BRENN_SS_2R_MOM 0x2ULL
-#define BRENN_SS_3R_MOM 0x4ULL
-#define BRENN_SS_4R_MOM 0x8ULL
-#define BRENN_SS_2C_MOM 0x10ULL
-#define BRENN_SS_3C_MOM 0x20ULL
-#define BRENN_SS_4C_MOM 0x40ULL
-#define BRENN_SS_KURTOSIS 0x80ULL
-#define BRENN_SS_SKEWNESS 0x100ULL
-#define BRENN_SS_VARIATION 0x200ULL
-#define BRENN_SS_MIN 0x400ULL
-#define BRENN_SS_MAX 0x800ULL
-#define BRENN_SS_COV 0x1000ULL
-#define BRENN_SS_COR 0x2000ULL
-#define BRENN_SS_POOLED_COV 0x4000ULL
-#define BRENN_SS_GROUP_COV 0x8000ULL
-#define BRENN_SS_QUANTS 0x10000ULL
-#define BRENN_SS_ORDER_STATS 0x20000ULL
-#define BRENN_SS_ROBUST_COV 0x40000ULL
-#define BRENN_SS_OUTLIERS 0x80000ULL
-#define BRENN_SS_PARTIAL_COV 0x100000ULL
-#define BRENN_SS_PARTIAL_COR 0x200000ULL
-#define BRENN_SS_MISSING_VALS 0x400000ULL
-#define BRENN_SS_PARAMTR_COR 0x800000ULL
-#define BRENN_SS_STREAM_QUANTS 0x1000000ULL
-#define BRENN_SS_SUM 0x2000000ULL
-#define BRENN_SS_2R_SUM 0x4000000ULL
-#define BRENN_SS_3R_SUM 0x8000000ULL
-#define BRENN_SS_4R_SUM 0x10000000ULL
-#define BRENN_SS_2C_SUM 0x20000000ULL
-#define BRENN_SS_3C_SUM 0x40000000ULL
-#define BRENN_SS_4C_SUM 0x80000000ULL
-#define BRENN_SS_CP 0x100000000ULL
-#define BRENN_SS_MDAD 0x200000000ULL
-#define BRENN_SS_SORTED_OBSERV 0x8000000000ULL
+/** @name Estimate bits
+ * What a compute entry is asked for; bits combine.
+ * @{ */
+#define BRENN_SS_MEAN 0x1ULL                   /**< means */
+#define BRENN_SS_2R_MOM 0x2ULL                 /**< raw moments of order 2 */
+#define BRENN_SS_3R_MOM 0x4ULL                 /**< raw moments of order 3 */
+#define BRENN_SS_4R_MOM 0x8ULL                 /**< raw moments of order 4 */
+#define BRENN_SS_2C_MOM 0x10ULL                /**< central moments of order 2 */
+#define BRENN_SS_3C_MOM 0x20ULL                /**< central moments of order 3 */
+#define BRENN_SS_4C_MOM 0x40ULL                /**< central moments of order 4 */
+#define BRENN_SS_KURTOSIS 0x80ULL              /**< kurtosis */
+#define BRENN_SS_SKEWNESS 0x100ULL             /**< skewness */
+#define BRENN_SS_VARIATION 0x200ULL            /**< coefficients of variation */
+#define BRENN_SS_MIN 0x400ULL                  /**< minima */
+#define BRENN_SS_MAX 0x800ULL                  /**< maxima */
+#define BRENN_SS_COV 0x1000ULL                 /**< covariance matrix */
+#define BRENN_SS_COR 0x2000ULL                 /**< correlation matrix */
+#define BRENN_SS_POOLED_COV 0x4000ULL          /**< pooled covariance */
+#define BRENN_SS_GROUP_COV 0x8000ULL           /**< group covariances */
+#define BRENN_SS_QUANTS 0x10000ULL             /**< quantiles */
+#define BRENN_SS_ORDER_STATS 0x20000ULL        /**< order statistics */
+#define BRENN_SS_ROBUST_COV 0x40000ULL         /**< robust covariance */
+#define BRENN_SS_OUTLIERS 0x80000ULL           /**< outlier detection */
+#define BRENN_SS_PARTIAL_COV 0x100000ULL       /**< partial covariance */
+#define BRENN_SS_PARTIAL_COR 0x200000ULL       /**< partial correlation */
+#define BRENN_SS_MISSING_VALS 0x400000ULL      /**< missing values */
+#define BRENN_SS_PARAMTR_COR 0x800000ULL       /**< parametrized correlation */
+#define BRENN_SS_STREAM_QUANTS 0x1000000ULL    /**< streaming quantiles */
+#define BRENN_SS_SUM 0x2000000ULL              /**< sums */
+#define BRENN_SS_2R_SUM 0x4000000ULL           /**< raw sums of order 2 */
+#define BRENN_SS_3R_SUM 0x8000000ULL           /**< raw sums of order 3 */
+#define BRENN_SS_4R_SUM 0x10000000ULL          /**< raw sums of order 4 */
+#define BRENN_SS_2C_SUM 0x20000000ULL          /**< central sums of order 2 */
+#define BRENN_SS_3C_SUM 0x40000000ULL          /**< central sums of order 3 */
+#define BRENN_SS_4C_SUM 0x80000000ULL          /**< central sums of order 4 */
+#define BRENN_SS_CP 0x100000000ULL             /**< cross-product matrix */
+#define BRENN_SS_MDAD 0x200000000ULL           /**< median absolute deviation */
+#define BRENN_SS_SORTED_OBSERV 0x8000000000ULL /**< sorted observations */
+/** @} */
 
-/* Task object. Integer words are passed by address (const void*) because their width
- * is the task's index width. */
+/** Creates a task over the caller's observations. Integer words are passed by address
+ * (const void*) because their width is the task's index width; the task keeps the
+ * addresses and reads the words at compute time.
+ * @param task where the handle of the new task is stored (left null on failure)
+ * @param p address of the dimension: the number of variables, above 0
+ * @param n address of the number of observations; read only when x is not null
+ * @param storage address of the storage word of x (BRENN_SS_MATRIX_STORAGE_ROWS or
+ *        _COLS); read only when x is not null
+ * @param x the observation matrix, or null to give it later
+ * @param weights n observation weights, or null for weight 1
+ * @param indices p words, 0 leaving a variable out, or null for all variables
+ * @param indexWidth 0: the integer words are 32 bits; otherwise 64 bits
+ * @return BRENN_SS_OK; BRENN_SS_ERROR_DIMENSION, BRENN_SS_ERROR_STORAGE_WORD_MISSING,
+ *         BRENN_SS_ERROR_STORAGE, BRENN_SS_ERROR_OBSERVATION_COUNT or
+ *         BRENN_SS_ERROR_ALLOC. */
 int32_t _qesdSSNewTask(void** task, const void* p, const void* n, const void* storage,
                        const double* x, const double* weights, const void* indices,
                        int32_t indexWidth);
+/** The single-precision form of _qesdSSNewTask().
+ * @copydetails _qesdSSNewTask */
 int32_t _qessSSNewTask(void** task, const void* p, const void* n, const void* storage,
                        const float* x, const float* weights, const void* indices,
                        int32_t indexWidth);
+/** Ends a task: frees its record and its work blocks, never the caller's arrays.
+ * @param task address of the handle; null is stored into it
+ * @return BRENN_SS_OK, or BRENN_SS_ERROR_TASK_NULL for a null address. */
 int32_t _qesSSDeleteTask(void** task);
 
+/** Sets one real field of a task (a real parameter id) to an address.
+ * @param task the task
+ * @param id a real parameter id (BRENN_SS_ED_*)
+ * @param address the caller's array
+ * @return BRENN_SS_OK; BRENN_SS_ERROR_TASK_NULL; BRENN_SS_ERROR_BADARGS for an id out of
+ *         range or of the integer editor; for a null address the field's own "missing"
+ *         status, the field keeping its value. */
 int32_t _qesdSSEditTask(void* task, int64_t id, const double* address);
+/** The single-precision form of _qesdSSEditTask().
+ * @copydetails _qesdSSEditTask */
 int32_t _qessSSEditTask(void* task, int64_t id, const float* address);
+/** Sets one integer field of a task (dimension, counts, indices, storage words) to the
+ * address of the caller's word.
+ * @param task the task
+ * @param id an integer parameter id (BRENN_SS_ED_*)
+ * @param address the caller's word or array
+ * @return BRENN_SS_OK; BRENN_SS_ERROR_TASK_NULL; BRENN_SS_ERROR_BADARGS for an id out of
+ *         range or of the real editors; for a null address the field's own "missing"
+ *         status, the field keeping its value. */
 int32_t _qesiSSEditTask(void* task, int64_t id, const void* address);
 
-/* Thin editors: each address that is not null is stored. The __qess and __qesd names
- * are one function. */
+/** Declares the thin editors under one precision letter t (d or s): each address that
+ * is not null is stored, a null one leaves its field. The __qess and __qesd names are
+ * one function. */
 #define BRENN_SS_THIN_EDITORS(t)                                                                   \
     int32_t __qes##t##SSEditMoments(void* task, void* mean, void* rawMoment2, void* rawMoment3,    \
                                     void* rawMoment4, void* centralMoment2, void* centralMoment3,  \
@@ -276,17 +358,184 @@ int32_t _qesiSSEditTask(void* task, int64_t id, const void* address);
 BRENN_SS_THIN_EDITORS(d)
 BRENN_SS_THIN_EDITORS(s)
 #undef BRENN_SS_THIN_EDITORS
+/* The declarations made by the macros above, one line each for Doxygen. */
+/* clang-format off */
+/** @fn int32_t __qesdSSEditMoments(void* task, void* mean, void* rawMoment2, void* rawMoment3, void* rawMoment4, void* centralMoment2, void* centralMoment3, void* centralMoment4)
+ * Sets the mean and moment arrays of a task.
+ * @param task the task
+ * @param mean address of p means, or null to leave it
+ * @param rawMoment2 address of p raw moments of order 2, or null to leave it
+ * @param rawMoment3 address of p raw moments of order 3, or null to leave it
+ * @param rawMoment4 address of p raw moments of order 4, or null to leave it
+ * @param centralMoment2 address of p central moments of order 2, or null to leave it
+ * @param centralMoment3 address of p central moments of order 3, or null to leave it
+ * @param centralMoment4 address of p central moments of order 4, or null to leave it
+ * @return BRENN_SS_OK, or BRENN_SS_ERROR_TASK_NULL for a null task. */
+/** @fn int32_t __qessSSEditMoments(void* task, void* mean, void* rawMoment2, void* rawMoment3, void* rawMoment4, void* centralMoment2, void* centralMoment3, void* centralMoment4)
+ * The same function as __qesdSSEditMoments(). @copydetails __qesdSSEditMoments */
+/** @fn int32_t __qesdSSEditSums(void* task, void* sum, void* rawSum2, void* rawSum3, void* rawSum4, void* centralSum2, void* centralSum3, void* centralSum4)
+ * Sets the sum arrays of a task.
+ * @param task the task
+ * @param sum address of p sums, or null to leave it
+ * @param rawSum2 address of p raw sums of order 2, or null to leave it
+ * @param rawSum3 address of p raw sums of order 3, or null to leave it
+ * @param rawSum4 address of p raw sums of order 4, or null to leave it
+ * @param centralSum2 address of p central sums of order 2, or null to leave it
+ * @param centralSum3 address of p central sums of order 3, or null to leave it
+ * @param centralSum4 address of p central sums of order 4, or null to leave it
+ * @return BRENN_SS_OK, or BRENN_SS_ERROR_TASK_NULL for a null task. */
+/** @fn int32_t __qessSSEditSums(void* task, void* sum, void* rawSum2, void* rawSum3, void* rawSum4, void* centralSum2, void* centralSum3, void* centralSum4)
+ * The same function as __qesdSSEditSums(). @copydetails __qesdSSEditSums */
+/** @fn int32_t __qesdSSEditCovCor(void* task, void* mean, void* covariance, void* covStorage, void* correlation, void* corStorage)
+ * Sets the mean, covariance and correlation of a task.
+ * @param task the task
+ * @param mean address of p means, or null to leave it
+ * @param covariance address of the covariance matrix, or null to leave it
+ * @param covStorage address of the storage word of the covariance, or null to leave it
+ * @param correlation address of the correlation matrix, or null to leave it
+ * @param corStorage address of the storage word of the correlation, or null to leave it
+ * @return BRENN_SS_OK, or BRENN_SS_ERROR_TASK_NULL for a null task. */
+/** @fn int32_t __qessSSEditCovCor(void* task, void* mean, void* covariance, void* covStorage, void* correlation, void* corStorage)
+ * The same function as __qesdSSEditCovCor(). @copydetails __qesdSSEditCovCor */
+/** @fn int32_t __qesdSSEditCP(void* task, void* mean, void* sum, void* crossProduct, void* crossProductStorage)
+ * Sets the mean, sum and cross-product of a task.
+ * @param task the task
+ * @param mean address of p means, or null to leave it
+ * @param sum address of p sums, or null to leave it
+ * @param crossProduct address of the cross-product matrix, or null to leave it
+ * @param crossProductStorage address of the storage word of the cross-product, or null to leave it
+ * @return BRENN_SS_OK, or BRENN_SS_ERROR_TASK_NULL for a null task. */
+/** @fn int32_t __qessSSEditCP(void* task, void* mean, void* sum, void* crossProduct, void* crossProductStorage)
+ * The same function as __qesdSSEditCP(). @copydetails __qesdSSEditCP */
+/** @fn int32_t __qesdSSEditPartialCovCor(void* task, void* partialParamIndexCount, void* covariance, void* covStorage, void* correlation, void* corStorage, void* partialCov, void* partialCovStorage, void* partialCor, void* partialCorStorage)
+ * Sets the partial covariance and correlation fields of a task.
+ * @param task the task
+ * @param partialParamIndexCount address of the index array of the partial covariance, or null to leave it
+ * @param covariance address of the covariance matrix, or null to leave it
+ * @param covStorage address of the storage word of the covariance, or null to leave it
+ * @param correlation address of the correlation matrix, or null to leave it
+ * @param corStorage address of the storage word of the correlation, or null to leave it
+ * @param partialCov address of the partial covariance, or null to leave it
+ * @param partialCovStorage address of its storage word, or null to leave it
+ * @param partialCor address of the partial correlation, or null to leave it
+ * @param partialCorStorage address of its storage word, or null to leave it
+ * @return BRENN_SS_OK, or BRENN_SS_ERROR_TASK_NULL for a null task. */
+/** @fn int32_t __qessSSEditPartialCovCor(void* task, void* partialParamIndexCount, void* covariance, void* covStorage, void* correlation, void* corStorage, void* partialCov, void* partialCovStorage, void* partialCor, void* partialCorStorage)
+ * The same function as __qesdSSEditPartialCovCor(). @copydetails __qesdSSEditPartialCovCor */
+/** @fn int32_t __qesdSSEditQuantiles(void* task, void* quantileOrderCount, void* quantileOrders, void* quantiles, void* orderStatistics, void* orderStatisticsStorage)
+ * Sets the quantile and order-statistics fields of a task.
+ * @param task the task
+ * @param quantileOrderCount address of the number of quantile orders m, or null to leave it
+ * @param quantileOrders address of m orders in (0, 1), or null to leave it
+ * @param quantiles address of the quantiles, m for each variable, or null to leave it
+ * @param orderStatistics address of the order statistics, or null to leave it
+ * @param orderStatisticsStorage address of their storage word, or null to leave it
+ * @return BRENN_SS_OK, or BRENN_SS_ERROR_TASK_NULL for a null task. */
+/** @fn int32_t __qessSSEditQuantiles(void* task, void* quantileOrderCount, void* quantileOrders, void* quantiles, void* orderStatistics, void* orderStatisticsStorage)
+ * The same function as __qesdSSEditQuantiles(). @copydetails __qesdSSEditQuantiles */
+/** @fn int32_t __qesdSSEditStreamQuantiles(void* task, void* streamOrderCount, void* streamOrders, void* streamQuantiles, void* streamParamCount, void* streamParams)
+ * Sets the streaming quantile fields of a task.
+ * @param task the task
+ * @param streamOrderCount address of the number of streaming quantile orders, or null to leave it
+ * @param streamOrders address of the streaming quantile orders, or null to leave it
+ * @param streamQuantiles address of the streaming quantiles, or null to leave it
+ * @param streamParamCount address of the number of streaming parameters, or null to leave it
+ * @param streamParams address of the streaming parameters (element 0: the accuracy), or null to leave it
+ * @return BRENN_SS_OK, or BRENN_SS_ERROR_TASK_NULL for a null task. */
+/** @fn int32_t __qessSSEditStreamQuantiles(void* task, void* streamOrderCount, void* streamOrders, void* streamQuantiles, void* streamParamCount, void* streamParams)
+ * The same function as __qesdSSEditStreamQuantiles(). @copydetails __qesdSSEditStreamQuantiles */
+/** @fn int32_t __qesdSSEditPooledCovariance(void* task, void* pooledGroupCount, void* pooledOutMean, void* pooledOutCov, void* pooledStorage, void* pooledMean, void* pooledCov)
+ * Sets the pooled and group covariance fields of a task.
+ * @param task the task
+ * @param pooledGroupCount address of the number of groups, or null to leave it
+ * @param pooledOutMean address of the pooled mean, or null to leave it
+ * @param pooledOutCov address of the pooled covariance, or null to leave it
+ * @param pooledStorage address of the storage word of the group indices, or null to leave it
+ * @param pooledMean address of the group means, or null to leave it
+ * @param pooledCov address of the group covariances, or null to leave it
+ * @return BRENN_SS_OK, or BRENN_SS_ERROR_TASK_NULL for a null task. */
+/** @fn int32_t __qessSSEditPooledCovariance(void* task, void* pooledGroupCount, void* pooledOutMean, void* pooledOutCov, void* pooledStorage, void* pooledMean, void* pooledCov)
+ * The same function as __qesdSSEditPooledCovariance(). @copydetails __qesdSSEditPooledCovariance */
+/** @fn int32_t __qesdSSEditRCov(void* task, void* robustCovStorage, void* robustParamCount, void* robustParams, void* robustMean, void* robustCov)
+ * Sets the robust covariance fields of a task.
+ * @param task the task
+ * @param robustCovStorage address of the storage word of the robust covariance, or null to leave it
+ * @param robustParamCount address of the number of robust covariance parameters, or null to leave it
+ * @param robustParams address of the robust covariance parameters, or null to leave it
+ * @param robustMean address of the robust mean, or null to leave it
+ * @param robustCov address of the robust covariance, or null to leave it
+ * @return BRENN_SS_OK, or BRENN_SS_ERROR_TASK_NULL for a null task. */
+/** @fn int32_t __qessSSEditRCov(void* task, void* robustCovStorage, void* robustParamCount, void* robustParams, void* robustMean, void* robustCov)
+ * The same function as __qesdSSEditRCov(). @copydetails __qesdSSEditRCov */
+/** @fn int32_t __qesdSSEditOutDetect(void* task, void* outlierParamCount, void* outlierParams, void* outlierWeights)
+ * Sets the outlier detection fields of a task.
+ * @param task the task
+ * @param outlierParamCount address of the number of outlier detection parameters, or null to leave it
+ * @param outlierParams address of the outlier detection parameters, or null to leave it
+ * @param outlierWeights address of the outlier weights, or null to leave it
+ * @return BRENN_SS_OK, or BRENN_SS_ERROR_TASK_NULL for a null task. */
+/** @fn int32_t __qessSSEditOutDetect(void* task, void* outlierParamCount, void* outlierParams, void* outlierWeights)
+ * The same function as __qesdSSEditOutDetect(). @copydetails __qesdSSEditOutDetect */
+/** @fn int32_t __qesdSSEditMissingVals(void* task, void* missingParamCount, void* missingParams, void* missingPatternCount, void* missingPatterns, void* missingSimCount, void* missingSimMeans, void* missingMeanCount, void* missingMeans, void* missingCovCount, void* missingCovs)
+ * Sets the missing-value fields of a task.
+ * @param task the task
+ * @param missingParamCount address of the number of missing-value parameters, or null to leave it
+ * @param missingParams address of the missing-value parameters, or null to leave it
+ * @param missingPatternCount address of the pattern count, or null to leave it
+ * @param missingPatterns address of the patterns, or null to leave it
+ * @param missingSimCount address of the number of simulations, or null to leave it
+ * @param missingSimMeans address of the simulated means, or null to leave it
+ * @param missingMeanCount address of the mean count, or null to leave it
+ * @param missingMeans address of the means, or null to leave it
+ * @param missingCovCount address of the covariance count, or null to leave it
+ * @param missingCovs address of the covariances, or null to leave it
+ * @return BRENN_SS_OK, or BRENN_SS_ERROR_TASK_NULL for a null task. */
+/** @fn int32_t __qessSSEditMissingVals(void* task, void* missingParamCount, void* missingParams, void* missingPatternCount, void* missingPatterns, void* missingSimCount, void* missingSimMeans, void* missingMeanCount, void* missingMeans, void* missingCovCount, void* missingCovs)
+ * The same function as __qesdSSEditMissingVals(). @copydetails __qesdSSEditMissingVals */
+/** @fn int32_t __qesdSSEditMtxParametrz(void* task, void* correlation, void* corStorage, void* parametrizedCor, void* parametrizedCorStorage)
+ * Sets the correlation parametrization fields of a task.
+ * @param task the task
+ * @param correlation address of the correlation matrix, or null to leave it
+ * @param corStorage address of the storage word of the correlation, or null to leave it
+ * @param parametrizedCor address of the parametrized correlation, or null to leave it
+ * @param parametrizedCorStorage address of its storage word, or null to leave it
+ * @return BRENN_SS_OK, or BRENN_SS_ERROR_TASK_NULL for a null task. */
+/** @fn int32_t __qessSSEditMtxParametrz(void* task, void* correlation, void* corStorage, void* parametrizedCor, void* parametrizedCorStorage)
+ * The same function as __qesdSSEditMtxParametrz(). @copydetails __qesdSSEditMtxParametrz */
+/* clang-format on */
 
-/* Compute: moments, sums, skewness, kurtosis, variation, covariance, correlation and
+/** Compute: moments, sums, skewness, kurtosis, variation, covariance, correlation and
  * cross-product of the task's observations (or, with the conversion methods, of its
- * sums and cross-product). */
+ * sums and cross-product), into the task's arrays.
+ * @param task the task
+ * @param estimates the estimate bits asked (BRENN_SS_MEAN ... BRENN_SS_CP)
+ * @param method one method word (BRENN_SS_METHOD_*)
+ * @param thr the threading record, or null for the calling thread
+ * @return BRENN_SS_OK; BRENN_SS_ERROR_TASK_NULL; BRENN_SS_ERROR_METHOD for a method word
+ *         that cannot be used or an estimate it cannot give; the "missing" status of the
+ *         first array that the estimates need and the task lacks;
+ *         BRENN_SS_ERROR_DIMENSION, BRENN_SS_ERROR_OBSERVATION_COUNT,
+ *         BRENN_SS_ERROR_OBSERVATIONS_MISSING, BRENN_SS_ERROR_STORAGE_WORD_MISSING or
+ *         BRENN_SS_ERROR_STORAGE for the observations;
+ *         BRENN_SS_ERROR_ACCUM_WEIGHT_MISSING for a conversion without accumulated
+ *         weights; BRENN_SS_ERROR_ALLOC. */
 int32_t _qesdSSBasic(void* task, uint64_t estimates, uint64_t method, const struct threader* thr);
+/** The single-precision form of _qesdSSBasic().
+ * @copydetails _qesdSSBasic */
 int32_t _qessSSBasic(void* task, uint64_t estimates, uint64_t method, const struct threader* thr);
 
-/* Minimum (0x400) and maximum (0x800): the arrays are updated, so the caller primes
+/** Minimum (0x400) and maximum (0x800): the arrays are updated, so the caller primes
  * them (with +/- infinity, or the result of a former block). Method BRENN_SS_METHOD_FAST
- * or 0x2. NaN observations are passed over. */
+ * or 0x2. NaN observations are passed over.
+ * @param task the task
+ * @param estimates BRENN_SS_MIN, BRENN_SS_MAX or both
+ * @param method BRENN_SS_METHOD_FAST or 0x2
+ * @return BRENN_SS_OK; BRENN_SS_ERROR_TASK_NULL; BRENN_SS_ERROR_STORAGE;
+ *         BRENN_SS_ERROR_MINIMUM_MISSING or BRENN_SS_ERROR_MAXIMUM_MISSING;
+ *         BRENN_SS_ERROR_METHOD; the observation statuses of _qesdSSBasic(). */
 int32_t _qesdSSMinmax(void* task, uint64_t estimates, uint64_t method);
+/** The single-precision form of _qesdSSMinmax().
+ * @copydetails _qesdSSMinmax */
 int32_t _qessSSMinmax(void* task, uint64_t estimates, uint64_t method);
 
 #ifdef __cplusplus
