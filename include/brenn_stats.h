@@ -512,8 +512,9 @@ BRENN_SS_THIN_EDITORS(s)
  * @param method one method word (BRENN_SS_METHOD_*)
  * @param thr the threading record, or null for the calling thread
  * @return BRENN_SS_OK; BRENN_SS_ERROR_TASK_NULL; BRENN_SS_ERROR_METHOD for a method word
- *         that cannot be used or an estimate it cannot give; the "missing" status of the
- *         first array that the estimates need and the task lacks;
+ *         that cannot be used, an estimate it cannot give, or a block that can't be
+ *         joined to a data set another task fed; the "missing" status of the lowest
+ *         position of the estimate set whose array the estimates need and the task lacks;
  *         BRENN_SS_ERROR_DIMENSION, BRENN_SS_ERROR_OBSERVATION_COUNT,
  *         BRENN_SS_ERROR_OBSERVATIONS_MISSING, BRENN_SS_ERROR_STORAGE_WORD_MISSING or
  *         BRENN_SS_ERROR_STORAGE for the observations;
