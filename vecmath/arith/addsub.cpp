@@ -35,30 +35,22 @@ struct ArithBody {
 
 using namespace brenn::vm;
 
-extern "C" {
-void ZAR_KERNEL(sAdd, All) BRENN_SIG(s, Binary) {
-    RunStream(ArithBody<float, Arith::Add>{}, n, a, b, y);
-}
-void ZAR_KERNEL(sSub, All) BRENN_SIG(s, Binary) {
-    RunStream(ArithBody<float, Arith::Sub>{}, n, a, b, y);
-}
-void ZAR_KERNEL(sMul, All) BRENN_SIG(s, Binary) {
-    RunStream(ArithBody<float, Arith::Mul>{}, n, a, b, y);
-}
-void ZAR_KERNEL(dAdd, All) BRENN_SIG(d, Binary) {
-    RunStream(ArithBody<double, Arith::Add>{}, n, a, b, y);
-}
-void ZAR_KERNEL(dSub, All) BRENN_SIG(d, Binary) {
-    RunStream(ArithBody<double, Arith::Sub>{}, n, a, b, y);
-}
-void ZAR_KERNEL(dMul, All) BRENN_SIG(d, Binary) {
-    RunStream(ArithBody<double, Arith::Mul>{}, n, a, b, y);
-}
 // Sqr is the product of a with itself.
-void ZAR_KERNEL(sSqr, All) BRENN_SIG(s, Unary) {
-    RunStream(ArithBody<float, Arith::Mul>{}, n, a, a, y);
-}
-void ZAR_KERNEL(dSqr, All) BRENN_SIG(d, Unary) {
-    RunStream(ArithBody<double, Arith::Mul>{}, n, a, a, y);
-}
+#define BRENN_STREAM_KERNELS(t)                                                                    \
+    void ZAR_KERNEL(t##Add, All) BRENN_SIG(t, Binary) {                                            \
+        RunStream(ArithBody<BRENN_ELEM_##t, Arith::Add>{}, n, a, b, y);                            \
+    }                                                                                              \
+    void ZAR_KERNEL(t##Sub, All) BRENN_SIG(t, Binary) {                                            \
+        RunStream(ArithBody<BRENN_ELEM_##t, Arith::Sub>{}, n, a, b, y);                            \
+    }                                                                                              \
+    void ZAR_KERNEL(t##Mul, All) BRENN_SIG(t, Binary) {                                            \
+        RunStream(ArithBody<BRENN_ELEM_##t, Arith::Mul>{}, n, a, b, y);                            \
+    }                                                                                              \
+    void ZAR_KERNEL(t##Sqr, All) BRENN_SIG(t, Unary) {                                             \
+        RunStream(ArithBody<BRENN_ELEM_##t, Arith::Mul>{}, n, a, a, y);                            \
+    }
+
+extern "C" {
+BRENN_STREAM_KERNELS(s)
+BRENN_STREAM_KERNELS(d)
 }

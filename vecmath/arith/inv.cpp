@@ -66,20 +66,6 @@ int InvScalarS(const float* a, float* y) {
     return x == 0 ? status::kSingularity : status::kNone;
 }
 
-// sInv EP and LA run in the hand-tuned layout: a block with a special lane goes through
-// the scalar routine whole, so the body's special lanes need no quieting.
-template <Level L>
-struct InvEstimateS {
-    using T = float;
-    static constexpr const char* kName = ZAR_ERROR_NAME(sInv);
-    static constexpr Layout kLayout = Layout::HandTuned;
-    static __m128 Eval(__m128 x, __m128& special) {
-        special = RangeTest(x, ArithRanges<float>::kRecip);
-        return Refine<L>(x, ApproxRecip(x));
-    }
-    static int Scalar(const float* a, float* y) { return InvScalarS<L>(a, y); }
-};
-
 // Double reciprocal chain. With the seed r's relative error e = 1 - x*r below
 // 1.5 * 2^-12, 1/x = r * (1 + e + e^2 + ...). EP cuts the series after e^2, leaving e^3
 // (about 2^-34), and writes it in p = x*r as 1 + e + e^2 = 3 - p*(3 - p), one operation
@@ -113,53 +99,75 @@ inline __m128 Reciprocal(__m128 b, __m128 special) {
     return Refine<L>(bb, ApproxRecip(bb));
 }
 
+// The reciprocal at EP and LA. Single: the estimate (and step) of x as it is; sInv runs
+// these levels in the hand-tuned layout, where a block with a special lane goes through
+// the scalar routine whole, so its special lanes need no quieting. Double: the chain.
 template <Level L>
-struct InvChainD {
-    using T = double;
-    static constexpr const char* kName = ZAR_ERROR_NAME(dInv);
-    static __m128d Eval(__m128d x, __m128d& special) {
-        special = RangeTest(x, ArithRanges<double>::kRecip);
-        return Reciprocal<L>(x, special);
-    }
-    static int Scalar(const double* a, double* y) { return InvScalar(a, y); }
+inline __m128 InvOf(__m128 x, __m128) {
+    return Refine<L>(x, ApproxRecip(x));
+}
+template <Level L>
+inline __m128d InvOf(__m128d x, __m128d special) {
+    return Reciprocal<L>(x, special);
+}
+template <class T>
+struct InvLayout {
+    static constexpr Layout kApprox = Layout::Split;
 };
+template <>
+struct InvLayout<float> {
+    static constexpr Layout kApprox = Layout::HandTuned;
+};
+// The scalar routine by level: the hand-tuned single levels have their own.
+template <Level L>
+int InvLane(const float* a, float* y) {
+    if constexpr (L == Level::HA)
+        return InvScalar(a, y);
+    else
+        return InvScalarS<L>(a, y);
+}
+template <Level L>
+int InvLane(const double* a, double* y) {
+    return InvScalar(a, y);
+}
 
-// Div EP and LA: the level's reciprocal of b times a; a quotient near overflow (or not
-// finite) goes to the scalar routine as well, so that it is the true quotient.
+// HA is the correctly rounded division, special only for a zero divisor.
 template <class Tp, Level L>
-struct DivApprox {
-    using T = Tp;
-    using V = Vec<T>;
-    static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Div);
-    static V Eval(V a, V b, V& special) {
-        special = RangeTest(b, ArithRanges<T>::kRecip);
-        V q = Mul(a, Reciprocal<L>(b, special));
-        special = Or(special, RangeTest(q, ArithRanges<T>::kBigQuotient));
-        return q;
-    }
-    static int Scalar(const T* a, const T* b, T* y) { return DivScalar(a, b, y); }
-};
-
-// HA: the correctly rounded division; only a zero divisor is special.
-template <class Tp>
-struct InvHA {
+struct InvBody {
     using T = Tp;
     using V = Vec<T>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Inv);
+    static constexpr Layout kLayout = L == Level::HA ? Layout::Split : InvLayout<T>::kApprox;
     static V Eval(V x, V& special) {
-        special = ZeroLanes(x);
-        return Div(Set<T>(1), NaNWhere(special, x));
+        if constexpr (L == Level::HA) {
+            special = ZeroLanes(x);
+            return Div(Set<T>(1), NaNWhere(special, x));
+        } else {
+            special = RangeTest(x, ArithRanges<T>::kRecip);
+            return InvOf<L>(x, special);
+        }
     }
-    static int Scalar(const T* a, T* y) { return InvScalar(a, y); }
+    static int Scalar(const T* a, T* y) { return InvLane<L>(a, y); }
 };
-template <class Tp>
-struct DivHA {
+
+// Div: at EP and LA the level's reciprocal of b times a, and a quotient near overflow
+// (or not finite) goes to the scalar routine as well, so that it is the true quotient;
+// HA the correctly rounded division.
+template <class Tp, Level L>
+struct DivBody {
     using T = Tp;
     using V = Vec<T>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Div);
     static V Eval(V a, V b, V& special) {
-        special = ZeroLanes(b);
-        return Div(a, NaNWhere(special, b));
+        if constexpr (L == Level::HA) {
+            special = ZeroLanes(b);
+            return Div(a, NaNWhere(special, b));
+        } else {
+            special = RangeTest(b, ArithRanges<T>::kRecip);
+            V q = Mul(a, Reciprocal<L>(b, special));
+            special = Or(special, RangeTest(q, ArithRanges<T>::kBigQuotient));
+            return q;
+        }
     }
     static int Scalar(const T* a, const T* b, T* y) { return DivScalar(a, b, y); }
 };
@@ -170,40 +178,6 @@ struct DivHA {
 using namespace brenn::vm;
 
 extern "C" {
-void ZAR_KERNEL(sInv, EP) BRENN_SIG(s, Unary) {
-    RunUnary(InvEstimateS<Level::EP>{}, n, a, y);
-}
-void ZAR_KERNEL(sInv, LA) BRENN_SIG(s, Unary) {
-    RunUnary(InvEstimateS<Level::LA>{}, n, a, y);
-}
-void ZAR_KERNEL(sInv, HA) BRENN_SIG(s, Unary) {
-    RunUnary(InvHA<float>{}, n, a, y);
-}
-void ZAR_KERNEL(dInv, EP) BRENN_SIG(d, Unary) {
-    RunUnary(InvChainD<Level::EP>{}, n, a, y);
-}
-void ZAR_KERNEL(dInv, LA) BRENN_SIG(d, Unary) {
-    RunUnary(InvChainD<Level::LA>{}, n, a, y);
-}
-void ZAR_KERNEL(dInv, HA) BRENN_SIG(d, Unary) {
-    RunUnary(InvHA<double>{}, n, a, y);
-}
-void ZAR_KERNEL(sDiv, EP) BRENN_SIG(s, Binary) {
-    RunBinary(DivApprox<float, Level::EP>{}, n, a, b, y);
-}
-void ZAR_KERNEL(sDiv, LA) BRENN_SIG(s, Binary) {
-    RunBinary(DivApprox<float, Level::LA>{}, n, a, b, y);
-}
-void ZAR_KERNEL(sDiv, HA) BRENN_SIG(s, Binary) {
-    RunBinary(DivHA<float>{}, n, a, b, y);
-}
-void ZAR_KERNEL(dDiv, EP) BRENN_SIG(d, Binary) {
-    RunBinary(DivApprox<double, Level::EP>{}, n, a, b, y);
-}
-void ZAR_KERNEL(dDiv, LA) BRENN_SIG(d, Binary) {
-    RunBinary(DivApprox<double, Level::LA>{}, n, a, b, y);
-}
-void ZAR_KERNEL(dDiv, HA) BRENN_SIG(d, Binary) {
-    RunBinary(DivHA<double>{}, n, a, b, y);
-}
+ZAR_ROW_KERNELS(Inv, Unary, InvBody)
+ZAR_ROW_KERNELS(Div, Binary, DivBody)
 }

@@ -135,19 +135,7 @@ struct InvSqrtBody {
 using namespace brenn::vm;
 
 extern "C" {
-void ZAR_KERNEL(sInvSqrt, EP) BRENN_SIG(s, Unary) {
-    RunUnary(InvSqrtBody<float, Level::EP>{}, n, a, y);
-}
-void ZAR_KERNEL(sInvSqrt, LA) BRENN_SIG(s, Unary) {
-    RunUnary(InvSqrtBody<float, Level::LA>{}, n, a, y);
-}
-void ZAR_KERNEL(sInvSqrt, HA) BRENN_SIG(s, Unary) {
-    RunUnary(InvSqrtBody<float, Level::HA>{}, n, a, y);
-}
-void ZAR_KERNEL(dInvSqrt, LaEp) BRENN_SIG(d, Unary) {
-    RunUnary(InvSqrtBody<double, Level::LA>{}, n, a, y);
-}
-void ZAR_KERNEL(dInvSqrt, HA) BRENN_SIG(d, Unary) {
-    RunUnary(InvSqrtBody<double, Level::HA>{}, n, a, y);
-}
+ZAR_LEVEL_KERNELS(s, InvSqrt, Unary, InvSqrtBody)
+ZAR_KERNEL_OF(d, InvSqrt, LaEp, Unary, InvSqrtBody<double, Level::LA>)
+ZAR_KERNEL_OF(d, InvSqrt, HA, Unary, InvSqrtBody<double, Level::HA>)
 }

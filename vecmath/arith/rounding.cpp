@@ -112,36 +112,36 @@ struct AbsBody {
 
 using namespace brenn::vm;
 
-#define BRENN_ROUNDING_KERNELS(t, Tp)                                                              \
+#define BRENN_ROUNDING_KERNELS(t)                                                                  \
     void ZAR_KERNEL(t##Ceil, All) BRENN_SIG(t, Unary) {                                            \
-        RunUnary(RoundBody<Tp, rounding::kUp>{}, n, a, y);                                         \
+        RunUnary(RoundBody<BRENN_ELEM_##t, rounding::kUp>{}, n, a, y);                             \
     }                                                                                              \
     void ZAR_KERNEL(t##Floor, All) BRENN_SIG(t, Unary) {                                           \
-        RunUnary(RoundBody<Tp, rounding::kDown>{}, n, a, y);                                       \
+        RunUnary(RoundBody<BRENN_ELEM_##t, rounding::kDown>{}, n, a, y);                           \
     }                                                                                              \
     void ZAR_KERNEL(t##Trunc, All) BRENN_SIG(t, Unary) {                                           \
-        RunUnary(RoundBody<Tp, rounding::kTowardZero>{}, n, a, y);                                 \
+        RunUnary(RoundBody<BRENN_ELEM_##t, rounding::kTowardZero>{}, n, a, y);                     \
     }                                                                                              \
     void ZAR_KERNEL(t##Rint, All) BRENN_SIG(t, Unary) {                                            \
-        RunUnary(RoundBody<Tp, rounding::kByMode>{}, n, a, y);                                     \
+        RunUnary(RoundBody<BRENN_ELEM_##t, rounding::kByMode>{}, n, a, y);                         \
     }                                                                                              \
     void ZAR_KERNEL(t##NearbyInt, All) BRENN_SIG(t, Unary) {                                       \
-        RunUnary(RoundBody<Tp, rounding::kByMode | rounding::kNoInexact>{}, n, a, y);              \
+        RunUnary(RoundBody<BRENN_ELEM_##t, rounding::kByMode | rounding::kNoInexact>{}, n, a, y);  \
     }                                                                                              \
     void ZAR_KERNEL(t##Round, All) BRENN_SIG(t, Unary) {                                           \
-        RunUnary(HalfAway<Tp>{}, n, a, y);                                                         \
+        RunUnary(HalfAway<BRENN_ELEM_##t>{}, n, a, y);                                             \
     }                                                                                              \
     void ZAR_KERNEL(t##Frac, All) BRENN_SIG(t, Unary) {                                            \
-        RunUnary(FracBody<Tp>{}, n, a, y);                                                         \
+        RunUnary(FracBody<BRENN_ELEM_##t>{}, n, a, y);                                             \
     }                                                                                              \
     void ZAR_KERNEL(t##Abs, All) BRENN_SIG(t, Unary) {                                             \
-        RunUnary(AbsBody<Tp>{}, n, a, y);                                                          \
+        RunUnary(AbsBody<BRENN_ELEM_##t>{}, n, a, y);                                              \
     }                                                                                              \
     void ZAR_KERNEL(t##Modf, All) BRENN_SIG(t, TwoRes) {                                           \
-        RunTwoRes(ModfBody<Tp>{}, n, a, y, z);                                                     \
+        RunTwoRes(ModfBody<BRENN_ELEM_##t>{}, n, a, y, z);                                         \
     }
 
 extern "C" {
-BRENN_ROUNDING_KERNELS(s, float)
-BRENN_ROUNDING_KERNELS(d, double)
+BRENN_ROUNDING_KERNELS(s)
+BRENN_ROUNDING_KERNELS(d)
 }

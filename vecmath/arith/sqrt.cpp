@@ -94,22 +94,5 @@ struct SqrtBody {
 using namespace brenn::vm;
 
 extern "C" {
-void ZAR_KERNEL(sSqrt, EP) BRENN_SIG(s, Unary) {
-    RunUnary(SqrtBody<float, Level::EP>{}, n, a, y);
-}
-void ZAR_KERNEL(sSqrt, LA) BRENN_SIG(s, Unary) {
-    RunUnary(SqrtBody<float, Level::LA>{}, n, a, y);
-}
-void ZAR_KERNEL(sSqrt, HA) BRENN_SIG(s, Unary) {
-    RunUnary(SqrtBody<float, Level::HA>{}, n, a, y);
-}
-void ZAR_KERNEL(dSqrt, EP) BRENN_SIG(d, Unary) {
-    RunUnary(SqrtBody<double, Level::EP>{}, n, a, y);
-}
-void ZAR_KERNEL(dSqrt, LA) BRENN_SIG(d, Unary) {
-    RunUnary(SqrtBody<double, Level::LA>{}, n, a, y);
-}
-void ZAR_KERNEL(dSqrt, HA) BRENN_SIG(d, Unary) {
-    RunUnary(SqrtBody<double, Level::HA>{}, n, a, y);
-}
+ZAR_ROW_KERNELS(Sqrt, Unary, SqrtBody)
 }

@@ -406,4 +406,23 @@ inline void RunTwoRes(const B& body, int n, const typename B::T* a, typename B::
 
 } // namespace brenn::vm
 
+/* Kernels from bodies, inside a family file's extern "C" block: ZAR_KERNEL_OF(s, Sqrt,
+ * EP, Unary, Body) defines the kernel of row sSqrt at level EP as the frame over Body;
+ * ZAR_LEVEL_KERNELS(s, Sqrt, Unary, Body) the three of one precision from
+ * Body<float, Level>, and ZAR_ROW_KERNELS(Sqrt, Unary, Body) the six of both (level.h
+ * names the levels). */
+#define ZAR_RUN_Unary(...) brenn::vm::RunUnary(__VA_ARGS__{}, n, a, y)
+#define ZAR_RUN_Binary(...) brenn::vm::RunBinary(__VA_ARGS__{}, n, a, b, y)
+#define ZAR_RUN_TwoRes(...) brenn::vm::RunTwoRes(__VA_ARGS__{}, n, a, y, z)
+#define ZAR_KERNEL_OF(t, Fn, level, Shape, ...)                                                    \
+    void ZAR_KERNEL(t##Fn, level) BRENN_SIG(t, Shape) {                                            \
+        ZAR_RUN_##Shape(__VA_ARGS__);                                                              \
+    }
+#define ZAR_LEVEL_KERNELS(t, Fn, Shape, Body)                                                      \
+    ZAR_KERNEL_OF(t, Fn, EP, Shape, Body<BRENN_ELEM_##t, brenn::vm::Level::EP>)                    \
+    ZAR_KERNEL_OF(t, Fn, LA, Shape, Body<BRENN_ELEM_##t, brenn::vm::Level::LA>)                    \
+    ZAR_KERNEL_OF(t, Fn, HA, Shape, Body<BRENN_ELEM_##t, brenn::vm::Level::HA>)
+#define ZAR_ROW_KERNELS(Fn, Shape, Body)                                                           \
+    ZAR_LEVEL_KERNELS(s, Fn, Shape, Body) ZAR_LEVEL_KERNELS(d, Fn, Shape, Body)
+
 #endif
