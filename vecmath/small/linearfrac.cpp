@@ -17,47 +17,28 @@ struct LinFracEnv {
     using T = Tp;
 };
 
-template <class T>
-struct LinOps;
-template <>
-struct LinOps<float> {
-    using V = __m128;
-    static V Mul(V a, V b) { return _mm_mul_ps(a, b); }
-    static V Add(V a, V b) { return _mm_add_ps(a, b); }
-    static V Div(V a, V b) { return _mm_div_ps(a, b); }
-};
-template <>
-struct LinOps<double> {
-    using V = __m128d;
-    static V Mul(V a, V b) { return _mm_mul_pd(a, b); }
-    static V Add(V a, V b) { return _mm_add_pd(a, b); }
-    static V Div(V a, V b) { return _mm_div_pd(a, b); }
-};
-
 // Which sides are affine in their vector; a constant side is its shift alone.
 enum class Sides { Both, NumOnly, DenOnly, Neither };
 
 template <class T, Sides S>
 inline void Loop(int n, const T* a, const T* b, T sA, T hA, T sB, T hB, T* y) {
-    using Sd = Simd<T>;
-    using O = LinOps<T>;
-    using V = typename Sd::V;
-    constexpr int L = Sd::kLanes;
+    using V = Vec<T>;
+    constexpr int L = kLanes<T>;
     constexpr int R = 8 / L;
     constexpr bool kNum = S == Sides::Both || S == Sides::NumOnly;
     constexpr bool kDen = S == Sides::Both || S == Sides::DenOnly;
-    const V vsA = Sd::Splat(sA), vhA = Sd::Splat(hA), vsB = Sd::Splat(sB), vhB = Sd::Splat(hB);
+    const V vsA = Set(sA), vhA = Set(hA), vsB = Set(sB), vhB = Set(hB);
     int i = 0;
     for (; i + 8 <= n; i += 8) {
         V r[R];
         for (int k = 0; k < R; ++k) {
-            V num = kNum ? O::Add(O::Mul(vsA, Sd::Load(a + i + k * L)), vhA) : vhA;
-            V den = kDen ? O::Add(O::Mul(vsB, Sd::Load(b + i + k * L)), vhB) : vhB;
-            r[k] = O::Div(num, den);
+            V num = kNum ? MulAdd(vsA, Load(a + i + k * L), vhA) : vhA;
+            V den = kDen ? MulAdd(vsB, Load(b + i + k * L), vhB) : vhB;
+            r[k] = Div(num, den);
         }
         // Loads of the round come before its stores, so y may be a or b.
         for (int k = 0; k < R; ++k)
-            Sd::Store(y + i + k * L, r[k]);
+            Store(y + i + k * L, r[k]);
     }
     for (; i < n; ++i) {
         T num = kNum ? sA * a[i] + hA : hA;
