@@ -304,22 +304,24 @@ double ComplexError(const R* y, mpfr_srcptr re, mpfr_srcptr im, double* bits, bo
 // ---- native references of exact rows ---------------------------------------------------
 
 // Fmax and Fmin by C99's rule: a NaN operand, signalling or quiet, is missing data and
-// the other operand is the result; two NaNs give a NaN. The C library's fmax and fmin
-// return a quiet NaN for a signalling operand (the 2008 maxNum), so they judge ordered
-// operands only.
+// the other operand is the result; two NaNs give a NaN. (The C library's fmax and fmin
+// return a quiet NaN for a signalling operand, as the 2008 maxNum did.) Of two ordered
+// operands the larger (smaller), and of equal ones, +0 and -0 among them, b, as the C
+// library's functions give it; written out, since a compiler may swap the operands of a
+// call to them.
 template <class R>
-R MissingData(R a, R b, R (*ordered)(R, R)) {
+R MissingData(R a, R b, bool larger) {
     if (isnan(a)) return isnan(b) ? a + b : b;
     if (isnan(b)) return a;
-    return ordered(a, b);
+    return (larger ? a > b : a < b) ? a : b;
 }
 template <class R>
 R Fmax(R a, R b) {
-    return MissingData<R>(a, b, [](R x, R w) { return fmax(x, w); });
+    return MissingData(a, b, true);
 }
 template <class R>
 R Fmin(R a, R b) {
-    return MissingData<R>(a, b, [](R x, R w) { return fmin(x, w); });
+    return MissingData(a, b, false);
 }
 template <class R>
 R MaxMag(R a, R b) {
