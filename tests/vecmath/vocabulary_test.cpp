@@ -33,10 +33,10 @@ std::vector<int32_t> Lanes32(I32x4 v) {
     return {out[0], out[1], out[2], out[3]};
 }
 __m128d D2(double a, double b) {
-    return _mm_set_pd(b, a);
+    return SetLanes(a, b);
 }
 I64x2 I2(int64_t a, int64_t b) {
-    return {_mm_set_epi64x(b, a)};
+    return SetLanes(a, b);
 }
 
 alignas(16) constexpr double kRows[8][4] = {
@@ -93,6 +93,16 @@ TEST(IntegerLanes, SixtyFourBitComparesAreSignedOverTheWholeLane) {
     EXPECT_EQ(MaskBits(Eq(I2(5, 1ll << 40), I2(5, 1))), 0b01);
     EXPECT_EQ(Lanes64(Gt(I2(LLONG_MIN, LLONG_MAX), I2(LLONG_MAX, LLONG_MIN))),
               (std::vector<int64_t>{0, -1}));
+}
+
+TEST(IntegerLanes, SpreadLowWordsMakeSixtyFourBitMasks) {
+    EXPECT_EQ(Lanes64(BitCast<I64x2>(SetLanes(3.0, -1.0))),
+              (std::vector<int64_t>{0x4008000000000000ll, int64_t(0xBFF0000000000000ull)}));
+    // A negative low word (the high word says nothing) compared as 32 bits over both
+    // halves gives a whole-lane mask.
+    I64x2 v = I2(int64_t(0x00000005FFFFFFF0ull), int64_t(0xFFFFFFFF00000007ull));
+    I32x4 neg = Lt(DupEven(BitCast<I32x4>(v)), Zero<int32_t>());
+    EXPECT_EQ(Lanes64(BitCast<I64x2>(neg)), (std::vector<int64_t>{-1, 0}));
 }
 
 TEST(IntegerLanes, LowWordProductsIgnoreTheHighWords) {

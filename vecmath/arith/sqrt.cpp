@@ -64,11 +64,7 @@ inline __m128d RootOf(__m128d x, __m128d special) {
     __m128d r = NaNWhere(special, RootSeed(x));
     __m128d g = Mul(x, r);
     __m128d e = Sub(Set<double>(1.0), Mul(g, r));
-    __m128d p;
-    if constexpr (L == Level::EP)
-        p = Horner(e, kRootSeries2);
-    else
-        p = Horner(e, kRootSeries);
+    __m128d p = L == Level::EP ? Horner(e, kRootSeries2) : Horner(e, kRootSeries);
     return Add(g, Mul(Mul(g, e), p));
 }
 

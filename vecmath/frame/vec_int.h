@@ -100,6 +100,11 @@ BRENN_VEC_INT_BINARY(InterleaveUpper, _mm_unpackhi_epi32, _mm_unpackhi_epi64)
 BRENN_VEC I32x4 OddEven(I32x4 odd, I32x4 even) {
     return {_mm_blend_epi16(even.v, odd.v, 0xCC)};
 }
+// Each even lane copied into the odd lane above it: a 32-bit result in the low word of a
+// 64-bit lane spread over the whole lane (a 32-bit compare of it is then a 64-bit mask).
+BRENN_VEC I32x4 DupEven(I32x4 a) {
+    return {_mm_shuffle_epi32(a.v, _MM_SHUFFLE(2, 2, 0, 0))};
+}
 
 // Blends of integer lanes (sign bit of each mask lane), and the sign bits as lane bits.
 BRENN_VEC I32x4 IfThenElse(I32x4 mask, I32x4 yes, I32x4 no) {

@@ -215,6 +215,14 @@ BRENN_VEC Vec<T> SplatBits(UInt<T> b) {
     return AsFloat(Set<UInt<T>>(b));
 }
 
+// Two lanes from two scalars, lane 0 first.
+BRENN_VEC __m128d SetLanes(double lane0, double lane1) {
+    return _mm_set_pd(lane1, lane0);
+}
+BRENN_VEC I64x2 SetLanes(int64_t lane0, int64_t lane1) {
+    return {_mm_set_epi64x(lane1, lane0)};
+}
+
 // v in lane 0, zeros in the others.
 template <class T>
 Vec<T> SetFirst(T v);
