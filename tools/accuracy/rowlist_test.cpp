@@ -6,6 +6,7 @@
 #include <math.h>
 
 #include <fstream>
+#include <regex>
 #include <sstream>
 #include <string>
 
@@ -60,15 +61,13 @@ TEST(AccuracyRowList, RowsNameTheirFamilyExactlyWhenTheyHaveKernels) {
                             : " has kernels but names no family file");
 }
 
-// The file defines the row's kernels by one of the forms the families use:
-// ZAR_KERNEL(sExp, HA), a per-row macro BRENN_TRIG_UNIT(sSind, ...), or a per-type
-// macro ZAR_KERNEL(t##Ceil, All) instantiated as BRENN_ROUNDING_KERNELS(s, float).
+// The file defines kernels (ZAR_KERNEL and the macros built on it) and names the row,
+// whole (sSind) or as a function argument beside its type (ZAR_KERNEL_OF(s, Fmod, ...),
+// ZAR_ROW_KERNELS(Sqrt, ...), ZAR_KERNEL(t##Ceil, All)): what a grep for the row finds.
 bool DefinesKernels(const std::string& text, const std::string& row) {
-    const std::string t = row.substr(0, 1), fn = row.substr(1);
-    if (text.find("(" + row + ",") != std::string::npos) return true;
-    return text.find("t##" + fn + ",") != std::string::npos &&
-           (text.find("_KERNELS(" + t + ",") != std::string::npos ||
-            text.find("_KERNELS(" + t + ")") != std::string::npos);
+    const std::string fn = row.substr(1);
+    const std::regex named("\\b" + row + "\\b|(\\b|##)" + fn + "\\s*,");
+    return text.find("ZAR_") != std::string::npos && std::regex_search(text, named);
 }
 
 TEST(AccuracyRowList, FamilyFilesExistAndDefineTheirRowsKernels) {
