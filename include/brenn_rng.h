@@ -19,50 +19,82 @@
 extern "C" {
 #endif
 
-/* Status codes. */
+/** Statuses of every random-number entry: 0 on success, positive warnings passed on
+ * from a generator, negative errors. */
 enum {
+    /** success */
     QES_STATUS_OK = 0,
+    /** a generator's initStream got an unknown method */
     QES_STATUS_BAD_METHOD = -2,
+    /** a bad argument (an abstract stream's null argument or empty interval) */
     QES_STATUS_BAD_ARGUMENT = -3,
+    /** an allocation failed */
     QES_STATUS_NO_MEMORY = -4,
+    /** the same code as QES_STATUS_NO_MEMORY */
     QES_ERROR_MEM_FAILURE = -4,
+    /** a required pointer is null */
     QES_STATUS_NULL_POINTER = -5,
+    /** an unknown generator id or member */
     QES_RNG_STATUS_BAD_BRNG = -1000,
+    /** the generator has no leapfrog */
     QES_RNG_STATUS_NO_LEAPFROG = -1002,
+    /** the generator has no skip-ahead */
     QES_RNG_STATUS_NO_SKIPAHEAD = -1003,
+    /** the generator has no long skip-ahead */
     QES_RNG_STATUS_NO_SKIPAHEAD_EX = -1004,
+    /** registration: a negative state size */
     QES_RNG_STATUS_BAD_STATE_SIZE = -1008,
+    /** registration: a word size other than 4, 8 or 16 */
     QES_RNG_STATUS_BAD_WORD_SIZE = -1009,
+    /** registration: a seed count below 1 */
     QES_RNG_STATUS_BAD_SEED_COUNT = -1010,
+    /** registration: a bit count below 1 */
     QES_RNG_STATUS_BAD_BIT_COUNT = -1011,
+    /** a quasi-random sequence is used up */
     QES_RNG_STATUS_QUASI_PERIOD_ENDED = -1012,
+    /** leapfrog: a negative number of streams */
     QES_RNG_STATUS_BAD_STREAM_COUNT = -1013,
+    /** the generator cannot give that many random bits a word */
     QES_RNG_ERROR_BITS_NOT_SUPPORTED = -1014,
+    /** stream file: closing failed */
     QES_RNG_STATUS_FILE_CLOSE = -1100,
+    /** stream file: opening failed */
     QES_RNG_STATUS_FILE_OPEN = -1101,
+    /** stream file: writing failed */
     QES_RNG_STATUS_FILE_WRITE = -1102,
+    /** stream file: reading failed, or a chunk of an unknown format */
     QES_RNG_STATUS_FILE_READ = -1103,
+    /** stream file: not a stream, or not of this generator's size */
     QES_RNG_STATUS_BAD_FILE_FORMAT = -1110,
+    /** an abstract stream's callback gave a negative or too large count */
     QES_RNG_STATUS_ABSTRACT_BAD_COUNT = -1120,
+    /** an abstract stream's callback gave 0 */
     QES_RNG_STATUS_ABSTRACT_ZERO_COUNT = -1121,
+    /** an output entry of the wrong kind for an abstract stream */
     QES_RNG_STATUS_ABSTRACT_WRONG_KIND = -1122,
+    /** the processor has no RDRAND */
     QES_RNG_STATUS_NO_RDRAND = -1130,
+    /** RDRAND failed past the retry limit */
     QES_RNG_STATUS_RDRAND_FAILED = -1131,
+    /** the processor has no AES instructions */
     QES_RNG_STATUS_NO_AES = -1140,
+    /** memory image: not a stream, or not of this generator's size */
     QES_RNG_STATUS_BAD_IMAGE_FORMAT = -1200,
+    /** the shared read-only table has no such entry */
     QES_RNG_STATUS_GLOB_NOT_FOUND = -3000,
+    /** the shared read-only table is full */
     QES_RNG_STATUS_GLOB_TABLE_FULL = -3001
 };
 
-/* Methods of a generator's initStream entry. */
+/** Methods of a generator's initStream entry. */
 enum {
-    QES_INIT_SEED = 0,     /* n seed words (uint32) */
-    QES_INIT_LEAPFROG = 1, /* n streams; params: int32 index of this stream */
-    QES_INIT_SKIP = 2,     /* params: one uint64 count */
-    QES_INIT_SKIP_EX = 3   /* params: n uint64 words, least significant first */
+    QES_INIT_SEED = 0,     /**< n seed words (uint32) */
+    QES_INIT_LEAPFROG = 1, /**< n streams; params: int32 index of this stream */
+    QES_INIT_SKIP = 2,     /**< params: one uint64 count */
+    QES_INIT_SKIP_EX = 3   /**< params: n uint64 words, least significant first */
 };
 
-/* First ids of the built-in families. */
+/** First ids of the built-in families; a member's id adds the member number. */
 enum {
     QES_BRNG_MCG31M1 = 0x100000,
     QES_BRNG_R250 = 0x200000,
@@ -82,128 +114,373 @@ enum {
     QES_BRNG_PHILOX4X32X10 = 0x1000000
 };
 
-/* The method-word flag of the uniform generators that clamps results to [a, b]. */
+/** The method-word flag of the uniform generators that clamps results to [a, b]. */
 #define QES_RNG_METHOD_UNIFORM_ACCURATE 0x40000000
 
-/* The four entries of a basic generator. `stream` is the whole stream record. */
+/** The seeding and jump entry of a basic generator.
+ * @param method QES_INIT_SEED, QES_INIT_LEAPFROG, QES_INIT_SKIP or QES_INIT_SKIP_EX
+ * @param stream the whole stream record
+ * @param n the count of params that the method reads
+ * @param params the method's words
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; QES_RNG_STATUS_NO_LEAPFROG,
+ *         QES_RNG_STATUS_NO_SKIPAHEAD or QES_RNG_STATUS_NO_SKIPAHEAD_EX for a jump the
+ *         generator does not have; QES_RNG_STATUS_BAD_BRNG for a refused member. */
 typedef int32_t (*QesInitStreamFn)(int32_t method, void* stream, int32_t n, const void* params);
+/** The single-precision output entry of a basic generator: uniform on [a, b).
+ * @param stream the whole stream record
+ * @param n number of results
+ * @param r where the n results go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK, or a status of the generator. */
 typedef int32_t (*QesSGenerateFn)(void* stream, int32_t n, float* r, float a, float b);
+/** The double-precision output entry of a basic generator: uniform on [a, b).
+ * @param stream the whole stream record
+ * @param n number of results
+ * @param r where the n results go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK, or a status of the generator. */
 typedef int32_t (*QesDGenerateFn)(void* stream, int32_t n, double* r, double a, double b);
+/** The integer output entry of a basic generator: raw output words.
+ * @param stream the whole stream record
+ * @param n number of words
+ * @param r where the n words of the generator's word size go
+ * @return QES_STATUS_OK, or a status of the generator. */
 typedef int32_t (*QesIGenerateFn)(void* stream, int32_t n, void* r); /* wordSize bytes each */
 
-/* One row of the generator tables. */
+/** One row of the generator tables: what a basic generator is and its four entries. */
 typedef struct BrngRecord {
-    int32_t stateSize;    /* bytes of the stream record: 16-byte header + state */
-    int32_t seedCount;    /* seed words that fill the state */
-    int32_t includesZero; /* 1 when an integer output can be 0 */
-    int32_t wordSize;     /* bytes of one output word: 4, 8 or 16 */
-    int32_t bitCount;     /* significant bits of a word */
-    QesInitStreamFn initStream;
-    QesSGenerateFn sGenerate;
-    QesDGenerateFn dGenerate;
-    QesIGenerateFn iGenerate;
+    int32_t stateSize;          /**< bytes of the stream record: 16-byte header + state */
+    int32_t seedCount;          /**< seed words that fill the state */
+    int32_t includesZero;       /**< 1 when an integer output can be 0 */
+    int32_t wordSize;           /**< bytes of one output word: 4, 8 or 16 */
+    int32_t bitCount;           /**< significant bits of a word */
+    QesInitStreamFn initStream; /**< seeding and jumps */
+    QesSGenerateFn sGenerate;   /**< single-precision uniform output */
+    QesDGenerateFn dGenerate;   /**< double-precision uniform output */
+    QesIGenerateFn iGenerate;   /**< raw output words */
 } BrngRecord;
 
-/* A cell of a stream's chunk list. A non-zero guid marks data shared through the
+/** A cell of a stream's chunk list. A non-zero guid marks data shared through the
  * process-wide read-only table, which then owns it. */
 typedef struct QesChunk {
-    int32_t id;
-    uint32_t size;
-    void* data;
-    struct QesChunk* next;
-    uint64_t guid[2];
+    int32_t id;            /**< the chunk's id */
+    uint32_t size;         /**< bytes of data */
+    void* data;            /**< the chunk's data */
+    struct QesChunk* next; /**< the next cell, or null */
+    uint64_t guid[2];      /**< zero for private data, else the id in the shared table */
 } QesChunk;
 
-/* A row of the process-wide read-only data table. */
+/** A row of the process-wide read-only data table. */
 typedef struct GlobRODataEntry {
-    uint64_t idLow;
-    uint64_t idHigh;
-    uint32_t refCount;
-    void* data;
+    uint64_t idLow;    /**< low word of the entry's id */
+    uint64_t idHigh;   /**< high word of the entry's id */
+    uint32_t refCount; /**< streams that refer to the entry */
+    void* data;        /**< the shared data */
 } GlobRODataEntry;
 
-/* Registry. The two tables are exported data of 512 rows each. */
+/** Registry, legacy ids: exported data of 512 rows (family index below 0x100000). */
 extern BrngRecord __RegBrngs[512];
+/** Registry, current ids: exported data of 512 rows, row (id >> 20) - 1. */
 extern BrngRecord __RegBrngsNew[512];
+/** The table and row of a generator id; validates nothing.
+ * @param id the generator id
+ * @param family where the row index goes
+ * @param member where the member number goes
+ * @return __RegBrngs or __RegBrngsNew. */
 BrngRecord* __qesGetBrngBaseOffset(int32_t id, int32_t* family, int32_t* member);
+/** Whether a row and member are a registered generator.
+ * @param table the table, as __qesGetBrngBaseOffset() gives it
+ * @param family the row index
+ * @param member the member number
+ * @return QES_STATUS_OK or QES_RNG_STATUS_BAD_BRNG. */
 int32_t __qesIsBrngValid(const BrngRecord* table, int32_t family, int32_t member);
+/** Copies a generator's row.
+ * @param id the generator id
+ * @param record where the row goes
+ * @return QES_STATUS_OK or QES_RNG_STATUS_BAD_BRNG. */
 int32_t __qesGetBrngProperties(int32_t id, BrngRecord* record);
+/** The number of registered families.
+ * @return the count, built-in and registered by callers. */
 int32_t __qesGetNumRegBrngs(void);
-int32_t __qesRegisterBrng(const BrngRecord* record); /* the new id, or a status */
+/** Registers a caller's generator as a new family.
+ * @param record its row
+ * @return the new id; or QES_RNG_STATUS_BAD_STATE_SIZE, QES_RNG_STATUS_BAD_WORD_SIZE,
+ *         QES_RNG_STATUS_BAD_SEED_COUNT, QES_RNG_STATUS_BAD_BIT_COUNT, or
+ *         QES_RNG_STATUS_BAD_BRNG when the table is full. */
+int32_t __qesRegisterBrng(const BrngRecord* record);
+/** Whether the processor has AES instructions.
+ * @return non-zero when it has. */
 int32_t __qesCPUisAES(void);
+/** Whether the processor has RDRAND.
+ * @return non-zero when it has. */
 int32_t __qesCPUisRDRAND(void);
+/** Whether the processor has 256-bit AES instructions.
+ * @return non-zero when it has. */
 int32_t __qesCPUisVAES(void);
 
 /* Streams. */
+/** Makes a stream of a generator and seeds it.
+ * @param stream where the stream goes
+ * @param brng the generator id
+ * @param n number of seed words
+ * @param params the n seed words
+ * @return QES_STATUS_OK; QES_RNG_STATUS_BAD_BRNG; QES_STATUS_NO_MEMORY; a status of the
+ *         generator's seeding. */
 int32_t __qesNewStreamEx(void** stream, int32_t brng, int32_t n, const uint32_t* params);
+/** Makes a stream record of a generator without seeding it.
+ * @param stream where the stream goes
+ * @param table the generator's table
+ * @param brng the generator id
+ * @param family the row index
+ * @param member the member number
+ * @return QES_STATUS_OK; QES_RNG_STATUS_BAD_BRNG; QES_STATUS_NO_MEMORY. */
 int32_t __qesAllocateStream(void** stream, BrngRecord* table, int32_t brng, int32_t family,
                             int32_t member);
+/** Makes a copy of a stream, state and chunks.
+ * @param newStream where the copy goes
+ * @param source the stream to copy
+ * @return QES_STATUS_OK; QES_RNG_STATUS_BAD_BRNG; QES_STATUS_NO_MEMORY. */
 int32_t __qesCopyStream(void** newStream, const void* source);
+/** Copies the state of one stream into another of the same generator.
+ * @param destination the stream that takes the state
+ * @param source the stream whose state is copied
+ * @return QES_STATUS_OK; QES_RNG_STATUS_BAD_BRNG for streams of different generators;
+ *         QES_STATUS_NO_MEMORY. */
 int32_t __qesCopyStreamState(void* destination, const void* source);
+/** Ends a stream: frees its chunks and record.
+ * @param stream address of the stream; null is stored into it
+ * @return QES_STATUS_OK. */
 int32_t __qesDeleteStream(void** stream);
+/** The generator of a stream.
+ * @param stream the stream
+ * @return its generator id. */
 int32_t __qesGetStreamStateBrng(const void* stream);
+/** The bytes that __qesSaveStreamM() writes for a stream.
+ * @param stream the stream
+ * @return the size of its memory image, or a negative status when no image can hold
+ *         the stream. */
 int32_t __qesGetStreamSize(const void* stream);
 
-/* Chunks. guid points to two uint64 words, or is null for private data. */
+/** Adds a chunk of data to a stream. guid points to two uint64 words, or is null for
+ * private data.
+ * @param stream the stream
+ * @param id the chunk's id
+ * @param guid the id in the shared table, or null
+ * @param data the data
+ * @param size its bytes
+ * @return QES_STATUS_OK or QES_STATUS_NO_MEMORY. */
 int32_t __qesAddChunk(void* stream, int32_t id, const uint64_t* guid, void* data, uint32_t size);
+/** The data of a stream's first chunk with an id.
+ * @param stream the stream
+ * @param id the chunk id
+ * @return the data, or null. */
 void* __qesSearchChunk(const void* stream, int32_t id);
+/** The number of a stream's chunks.
+ * @param stream the stream
+ * @return the length of its chunk list. */
 int32_t __qesGetNumChunks(const void* stream);
+/** Deletes every chunk of a stream.
+ * @param stream the stream */
 void __qesDeleteChunks(void* stream);
+/** Deletes the chunks of a stream with an id.
+ * @param stream the stream
+ * @param id the chunk id */
 void __qesDeleteChunksById(void* stream, int32_t id);
+/** Copies the chunks of one stream to another.
+ * @param destination the stream that takes the chunks
+ * @param source the stream whose chunks are copied
+ * @return QES_STATUS_OK or QES_STATUS_NO_MEMORY. */
 int32_t __qesCopyChunks(void* destination, const void* source);
 
-/* The shared read-only data table. */
+/** Finds an entry of the shared read-only data table.
+ * @param entry where the entry goes
+ * @param guid the entry's id, two uint64 words
+ * @return QES_STATUS_OK or QES_RNG_STATUS_GLOB_NOT_FOUND. */
 int32_t __qesFindGlobRODataTableEntry(GlobRODataEntry** entry, const uint64_t* guid);
+/** Adds an entry to the shared read-only data table, which then owns the data.
+ * @param entry where the entry goes
+ * @param guid the entry's id, two uint64 words
+ * @param data the data
+ * @return QES_STATUS_OK or QES_RNG_STATUS_GLOB_TABLE_FULL. */
 int32_t __qesCreateGlobRODataTableEntry(GlobRODataEntry** entry, const uint64_t* guid, void* data);
+/** Counts one more reference of a chunk to a shared entry.
+ * @param chunk the chunk
+ * @param guid the entry's id */
 void __qesRegisterGlobRODataReference(QesChunk* chunk, const uint64_t* guid);
+/** Drops one reference to a shared entry; the last frees it.
+ * @param guid the entry's id */
 void __qesUnregisterGlobRODataReference(const uint64_t* guid);
+/** Makes a new id for the shared table.
+ * @param guid where the two words go
+ * @param kind the kind of data
+ * @return QES_STATUS_OK. */
 int32_t __qesGenerateNewGlobalRODataTableEntryId(uint64_t* guid, int32_t kind);
 
-/* Persistence: the version-2 stream image ("RNG"), in a file or a memory block.
+/** Persistence: the version-2 stream image ("RNG"), in a file or a memory block.
  * nameLength >= 0: name has that many bytes, not terminated; negative: terminated.
- * A memory block for saving must be __qesGetStreamSize(stream) bytes long. */
+ * A memory block for saving must be __qesGetStreamSize(stream) bytes long.
+ * This one saves a stream to a file.
+ * @param stream the stream
+ * @param name the file name
+ * @param nameLength its length, or negative for a terminated name
+ * @return QES_STATUS_OK; QES_RNG_STATUS_FILE_OPEN, QES_RNG_STATUS_FILE_WRITE or
+ *         QES_RNG_STATUS_FILE_CLOSE; QES_STATUS_NO_MEMORY. */
 int32_t __qesSaveStreamF(const void* stream, const char* name, int32_t nameLength);
+/** Loads a stream from a file.
+ * @param stream where the stream goes (null on failure)
+ * @param name the file name
+ * @param nameLength its length, or negative for a terminated name
+ * @return QES_STATUS_OK; QES_RNG_STATUS_FILE_OPEN, QES_RNG_STATUS_FILE_READ,
+ *         QES_RNG_STATUS_FILE_CLOSE or QES_RNG_STATUS_BAD_FILE_FORMAT;
+ *         QES_RNG_STATUS_BAD_BRNG; QES_STATUS_NO_MEMORY. */
 int32_t __qesLoadStreamF(void** stream, const char* name, int32_t nameLength);
+/** Saves a stream to a memory block of __qesGetStreamSize() bytes.
+ * @param stream the stream
+ * @param memory the block
+ * @return QES_STATUS_OK. */
 int32_t __qesSaveStreamM(const void* stream, void* memory);
+/** Loads a stream from a memory image.
+ * @param stream where the stream goes (null on failure)
+ * @param memory the image
+ * @return QES_STATUS_OK; QES_RNG_STATUS_BAD_IMAGE_FORMAT; QES_RNG_STATUS_BAD_BRNG;
+ *         QES_STATUS_NO_MEMORY. */
 int32_t __qesLoadStreamM(void** stream, const void* memory);
 
-/* Jumps. */
+/** Makes a stream the k-th of nstreams interleaved ones.
+ * @param stream the stream
+ * @param k this stream's index
+ * @param nstreams the number of streams
+ * @return QES_STATUS_OK; QES_RNG_STATUS_BAD_STREAM_COUNT; QES_RNG_STATUS_NO_LEAPFROG. */
 int32_t __qesLeapfrogStream(void* stream, int32_t k, int32_t nstreams);
+/** Skips a stream ahead.
+ * @param stream the stream
+ * @param nskip the number of outputs to skip
+ * @return QES_STATUS_OK; QES_RNG_STATUS_NO_SKIPAHEAD. */
 int32_t __qesSkipAheadStream(void* stream, uint64_t nskip);
+/** Skips a stream ahead by a count of several 64-bit words.
+ * @param stream the stream
+ * @param n the number of words
+ * @param nskip the count, least significant word first
+ * @return QES_STATUS_OK; QES_RNG_STATUS_NO_SKIPAHEAD_EX. */
 int32_t __qesSkipAheadStreamEx(void* stream, int32_t n, const uint64_t* nskip);
 
-/* Number theory behind the jumps. A modulus of the 3 x 3 powers is passed as its
- * negative 32-bit form: -209 stands for 4294967087. */
+/** Number theory behind the jumps. A modulus of the 3 x 3 powers is passed as its
+ * negative 32-bit form: -209 stands for 4294967087. This one is base^count mod modulus.
+ * @param base the base
+ * @param countLow low word of the exponent
+ * @param countHigh high word of the exponent
+ * @param modulus the modulus
+ * @return the power. */
 uint32_t __qesiPowMod(uint32_t base, uint32_t countLow, uint32_t countHigh, uint32_t modulus);
+/** base^count mod 2^31 - 1.
+ * @param base the base
+ * @param countLow low word of the exponent
+ * @param countHigh high word of the exponent
+ * @return the power. */
 uint32_t __qesiPowMod2P31M1(uint32_t base, uint32_t countLow, uint32_t countHigh);
+/** base^count mod 2^59.
+ * @param baseLow low word of the base
+ * @param baseHigh high word of the base
+ * @param countLow low word of the exponent
+ * @param countHigh high word of the exponent
+ * @return the power. */
 uint64_t __qesiPowMod2P59(uint32_t baseLow, uint32_t baseHigh, uint32_t countLow,
                           uint32_t countHigh);
+/** Multiplies a 3-vector by a power of a 3 x 3 matrix, in place.
+ * @param vector the vector
+ * @param row the matrix, row by row
+ * @param modulus the modulus, in its negative 32-bit form
+ * @param countLow low word of the exponent
+ * @param countHigh high word of the exponent */
 void __qesiVect3PowMod(uint32_t* vector, const uint32_t* row, int32_t modulus, uint32_t countLow,
                        uint32_t countHigh);
+/** Multiplies a 3-vector by a power of a 3 x 3 matrix with a long exponent, in place.
+ * @param vector the vector
+ * @param row the matrix, row by row
+ * @param modulus the modulus, in its negative 32-bit form
+ * @param n the number of exponent words
+ * @param words the exponent, least significant word first
+ * @return QES_STATUS_OK. */
 int32_t __qesiVect3PowArrayMod(uint32_t* vector, const uint32_t* row, int32_t modulus, int32_t n,
                                const uint64_t* words);
+/** The long power of the first MRG32K3A component (modulus 4294967087), by table.
+ * @param vector the vector
+ * @param n the number of exponent words
+ * @param words the exponent, least significant word first
+ * @param table the matrix powers */
 void __qesiVect3PowArrayMod_M1(uint32_t* vector, int32_t n, const uint64_t* words,
                                const uint32_t* table);
+/** The long power of the second MRG32K3A component (modulus 4294944443), by table.
+ * @param vector the vector
+ * @param n the number of exponent words
+ * @param words the exponent, least significant word first
+ * @param table the matrix powers */
 void __qesiVect3PowArrayMod_M2(uint32_t* vector, int32_t n, const uint64_t* words,
                                const uint32_t* table);
 
-/* x^count mod P(x) over GF(2); out gets wordCount little-endian 32-bit words. */
+/** x^count mod P(x) over GF(2); out gets wordCount little-endian 32-bit words.
+ * @param count the exponent
+ * @param degree the degree of P
+ * @param termCount the number of terms of P
+ * @param terms the exponents of P's terms
+ * @param wordCount the words of out
+ * @param out the remainder
+ * @return QES_STATUS_OK or QES_STATUS_NO_MEMORY. */
 int32_t __qesPolyRem(uint64_t count, int32_t degree, int32_t termCount, const int32_t* terms,
                      int32_t wordCount, uint32_t* out);
 
-/* Polynomial jump of a generator that is linear over GF(2). States are scratch
- * records of stateBytes bytes; the generator supplies the operations. */
+/** Polynomial jump of a generator that is linear over GF(2): clears a scratch state. */
 typedef void (*QesJumpZeroFn)(void* state);
+/** Adds (xor) one scratch state into another. */
 typedef void (*QesJumpAddFn)(void* destination, const void* source);
+/** Copies a scratch state. */
 typedef void (*QesJumpCopyFn)(void* destination, const void* source);
+/** Advances a scratch state by one step of the generator. */
 typedef void (*QesJumpStepFn)(void* state);
+/** Puts the jumped state back into the stream, with the steps left over. */
 typedef void (*QesJumpFinishFn)(void* stream, const void* result, int32_t remainder);
+/** Turns the count into the one the polynomial jumps by; a status stops the jump. */
 typedef int32_t (*QesJumpPrepareFn)(void* stream, uint64_t* count, int32_t* remainder);
+/** Polynomial jump by Horner's rule over the remainder's bits; states are scratch
+ * records of stateBytes bytes.
+ * @param stream the stream
+ * @param zero clears a scratch state
+ * @param add adds a scratch state into another
+ * @param copy copies a scratch state
+ * @param step advances a scratch state by one step
+ * @param finish puts the result back into the stream
+ * @param prepare turns the count into the jump's count, or null
+ * @param countLow low word of the count
+ * @param countHigh high word of the count
+ * @param wordCount words of the remainder polynomial
+ * @param degree degree of the characteristic polynomial
+ * @param stateBytes bytes of a scratch state
+ * @param termCount number of terms of the polynomial
+ * @param terms the exponents of its terms
+ * @return QES_STATUS_OK, QES_STATUS_NO_MEMORY or a status of prepare. */
 int32_t __qes_SkipAheadHorner(void* stream, QesJumpZeroFn zero, QesJumpAddFn add,
                               QesJumpCopyFn copy, QesJumpStepFn step, QesJumpFinishFn finish,
                               QesJumpPrepareFn prepare, uint32_t countLow, uint32_t countHigh,
                               int32_t wordCount, int32_t degree, int32_t stateBytes,
                               int32_t termCount, const int32_t* terms);
+/** Polynomial jump by sliding windows over the remainder's bits.
+ * @param stream the stream
+ * @param zero clears a scratch state
+ * @param add adds a scratch state into another
+ * @param copy copies a scratch state
+ * @param step advances a scratch state by one step
+ * @param finish puts the result back into the stream
+ * @param prepare turns the count into the jump's count, or null
+ * @param countLow low word of the count
+ * @param countHigh high word of the count
+ * @param wordCount words of the remainder polynomial
+ * @param degree degree of the characteristic polynomial
+ * @param stateBytes bytes of a scratch state
+ * @param termCount number of terms of the polynomial
+ * @param terms the exponents of its terms
+ * @return QES_STATUS_OK, QES_STATUS_NO_MEMORY or a status of prepare. */
 int32_t __qes_SkipAheadSWin(void* stream, QesJumpZeroFn zero, QesJumpAddFn add, QesJumpCopyFn copy,
                             QesJumpStepFn step, QesJumpFinishFn finish, QesJumpPrepareFn prepare,
                             uint32_t countLow, uint32_t countHigh, int32_t wordCount,
@@ -211,39 +488,228 @@ int32_t __qes_SkipAheadSWin(void* stream, QesJumpZeroFn zero, QesJumpAddFn add, 
                             const int32_t* terms);
 
 /* Congruential generators. */
+/** The initStream entry of MCG31M1 (QesInitStreamFn).
+ * @param method QES_INIT_SEED, QES_INIT_LEAPFROG, QES_INIT_SKIP or QES_INIT_SKIP_EX
+ * @param stream the stream
+ * @param n the count of params
+ * @param params the method's words
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; the status of a jump MCG31M1 lacks. */
 int32_t __qesBRngMCG31M1InitStream(int32_t method, void* stream, int32_t n, const void* params);
+/** Single-precision uniform output of MCG31M1 on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
 int32_t __qessBRngMCG31M1(void* stream, int32_t n, float* r, float a, float b);
+/** Double-precision uniform output of MCG31M1 on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
 int32_t __qesdBRngMCG31M1(void* stream, int32_t n, double* r, double a, double b);
+/** Raw output words of MCG31M1.
+ * @param stream the stream
+ * @param n number of words
+ * @param r where they go
+ * @return QES_STATUS_OK. */
 int32_t __qesiBRngMCG31M1(void* stream, int32_t n, void* r);
+/** The initStream entry of MCG59 (QesInitStreamFn).
+ * @param method QES_INIT_SEED, QES_INIT_LEAPFROG, QES_INIT_SKIP or QES_INIT_SKIP_EX
+ * @param stream the stream
+ * @param n the count of params
+ * @param params the method's words
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; the status of a jump MCG59 lacks. */
 int32_t __qesBRngMCG59InitStream(int32_t method, void* stream, int32_t n, const void* params);
+/** Single-precision uniform output of MCG59 on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
 int32_t __qessBRngMCG59(void* stream, int32_t n, float* r, float a, float b);
+/** Double-precision uniform output of MCG59 on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
 int32_t __qesdBRngMCG59(void* stream, int32_t n, double* r, double a, double b);
+/** Raw output words of MCG59.
+ * @param stream the stream
+ * @param n number of words
+ * @param r where they go
+ * @return QES_STATUS_OK. */
 int32_t __qesiBRngMCG59(void* stream, int32_t n, void* r);
 
 /* Mersenne Twister family. The state keeps raw (untempered) words. */
+/** The initStream entry of MT19937 (QesInitStreamFn).
+ * @param method QES_INIT_SEED, QES_INIT_LEAPFROG, QES_INIT_SKIP or QES_INIT_SKIP_EX
+ * @param stream the stream
+ * @param n the count of params
+ * @param params the method's words
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; the status of a jump MT19937 lacks. */
 int32_t __qesBRngMT19937InitStream(int32_t method, void* stream, int32_t n, const void* params);
+/** Single-precision uniform output of MT19937 on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
 int32_t __qessBRngMT19937(void* stream, int32_t n, float* r, float a, float b);
+/** Double-precision uniform output of MT19937 on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
 int32_t __qesdBRngMT19937(void* stream, int32_t n, double* r, double a, double b);
+/** Raw output words of MT19937.
+ * @param stream the stream
+ * @param n number of words
+ * @param r where they go
+ * @return QES_STATUS_OK. */
 int32_t __qesiBRngMT19937(void* stream, int32_t n, void* r);
 /* MT2203: member m is id 0x900000 + m; members without verified parameters are
  * refused at seeding with -1000. */
+/** The initStream entry of MT2203 (QesInitStreamFn).
+ * @param method QES_INIT_SEED, QES_INIT_LEAPFROG, QES_INIT_SKIP or QES_INIT_SKIP_EX
+ * @param stream the stream
+ * @param n the count of params
+ * @param params the method's words
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; the status of a jump MT2203 lacks. */
 int32_t __qesBRngMT2203InitStream(int32_t method, void* stream, int32_t n, const void* params);
+/** Single-precision uniform output of MT2203 on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
 int32_t __qessBRngMT2203(void* stream, int32_t n, float* r, float a, float b);
+/** Double-precision uniform output of MT2203 on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
 int32_t __qesdBRngMT2203(void* stream, int32_t n, double* r, double a, double b);
+/** Raw output words of MT2203.
+ * @param stream the stream
+ * @param n number of words
+ * @param r where they go
+ * @return QES_STATUS_OK. */
 int32_t __qesiBRngMT2203(void* stream, int32_t n, void* r);
+/** The initStream entry of SFMT19937 (QesInitStreamFn).
+ * @param method QES_INIT_SEED, QES_INIT_LEAPFROG, QES_INIT_SKIP or QES_INIT_SKIP_EX
+ * @param stream the stream
+ * @param n the count of params
+ * @param params the method's words
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; the status of a jump SFMT19937 lacks. */
 int32_t __qesBRngSFMT19937InitStream(int32_t method, void* stream, int32_t n, const void* params);
+/** Single-precision uniform output of SFMT19937 on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
 int32_t __qessBRngSFMT19937(void* stream, int32_t n, float* r, float a, float b);
+/** Double-precision uniform output of SFMT19937 on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
 int32_t __qesdBRngSFMT19937(void* stream, int32_t n, double* r, double a, double b);
+/** Raw output words of SFMT19937.
+ * @param stream the stream
+ * @param n number of words
+ * @param r where they go
+ * @return QES_STATUS_OK. */
 int32_t __qesiBRngSFMT19937(void* stream, int32_t n, void* r);
 
 /* Distribution generators: method, stream, n, result, parameters. */
+/** Single-precision uniform variates on [a, b).
+ * @param method 0, or with QES_RNG_METHOD_UNIFORM_ACCURATE to clamp to [a, b]
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param a left end
+ * @param b right end, above a
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; QES_STATUS_BAD_ARGUMENT; a status of
+ *         the generator (QES_RNG_ERROR_BITS_NOT_SUPPORTED for too few bits). */
 int32_t _qessRngUniform(int32_t method, void* stream, int32_t n, float* r, float a, float b);
+/** Double-precision uniform variates on [a, b).
+ * @param method 0, or with QES_RNG_METHOD_UNIFORM_ACCURATE to clamp to [a, b]
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param a left end
+ * @param b right end, above a
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; QES_STATUS_BAD_ARGUMENT; a status of
+ *         the generator (QES_RNG_ERROR_BITS_NOT_SUPPORTED for too few bits). */
 int32_t _qesdRngUniform(int32_t method, void* stream, int32_t n, double* r, double a, double b);
+/** Integer uniform variates on [a, b).
+ * @param method 0
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param a left end
+ * @param b right end, above a
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; QES_STATUS_BAD_ARGUMENT; a status of
+ *         the generator (QES_RNG_ERROR_BITS_NOT_SUPPORTED for too few bits). */
 int32_t _qesiRngUniform(int32_t method, void* stream, int32_t n, int32_t* r, int32_t a, int32_t b);
+/** Raw output words of the stream's generator.
+ * @param method 0
+ * @param stream the stream
+ * @param n number of words
+ * @param r where they go, of the generator's word size
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; QES_STATUS_BAD_ARGUMENT; a status of
+ *         the generator (QES_RNG_ERROR_BITS_NOT_SUPPORTED for too few bits). */
 int32_t _qesiRngUniformBits(int32_t method, void* stream, int32_t n, void* r);
+/** 32 uniformly random bits an element.
+ * @param method 0
+ * @param stream the stream
+ * @param n number of words
+ * @param r where they go
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; QES_STATUS_BAD_ARGUMENT; a status of
+ *         the generator (QES_RNG_ERROR_BITS_NOT_SUPPORTED for too few bits). */
 int32_t _qesiRngUniformBits32(int32_t method, void* stream, int32_t n, uint32_t* r);
+/** 64 uniformly random bits an element.
+ * @param method 0
+ * @param stream the stream
+ * @param n number of words
+ * @param r where they go
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; QES_STATUS_BAD_ARGUMENT; a status of
+ *         the generator (QES_RNG_ERROR_BITS_NOT_SUPPORTED for too few bits). */
 int32_t _qesiRngUniformBits64(int32_t method, void* stream, int32_t n, uint64_t* r);
+/** Bernoulli variates: 1 with probability p, else 0.
+ * @param method 0
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param p the probability of 1, in [0, 1]
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; QES_STATUS_BAD_ARGUMENT; a status of
+ *         the generator (QES_RNG_ERROR_BITS_NOT_SUPPORTED for too few bits). */
 int32_t _qesiRngBernoulli(int32_t method, void* stream, int32_t n, int32_t* r, double p);
+/** Geometric variates: the number of failures before the first success.
+ * @param method 0
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param p the probability of success, in (0, 1)
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; QES_STATUS_BAD_ARGUMENT; a status of
+ *         the generator (QES_RNG_ERROR_BITS_NOT_SUPPORTED for too few bits). */
 int32_t _qesiRngGeometric(int32_t method, void* stream, int32_t n, int32_t* r, double p);
 
 #ifdef __cplusplus
