@@ -220,7 +220,9 @@ int32_t __qesCPUisRDRAND(void);
  * @return non-zero when it has. */
 int32_t __qesCPUisVAES(void);
 
-/* Streams. */
+/* Streams. A family whose generator is not in this build is described by
+ * __qesGetBrngProperties, but every entry that would make, copy, jump, save, load or
+ * draw from a stream of it returns QES_RNG_STATUS_BAD_BRNG. */
 /** Makes a stream of a generator and seeds it.
  * @param stream where the stream goes
  * @param brng the generator id
@@ -257,6 +259,8 @@ int32_t __qesDeleteStream(void** stream);
  * @param stream the stream
  * @return its generator id. */
 int32_t __qesGetStreamStateBrng(const void* stream);
+/* Bytes of the stream's image; QES_RNG_STATUS_BAD_BRNG when no image can hold the
+ * stream, QES_STATUS_NO_MEMORY when the image would pass INT32_MAX bytes. */
 /** The bytes that __qesSaveStreamM() writes for a stream.
  * @param stream the stream
  * @return the size of its memory image, or a negative status when no image can hold

@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <cstring>
 #include <functional>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -22,12 +21,6 @@ namespace {
 
 using namespace brenn::test;
 
-std::string Hex(int32_t id) {
-    std::ostringstream o;
-    o << "id 0x" << std::hex << static_cast<uint32_t>(id);
-    return o.str();
-}
-
 TEST(RngBadIds, NewStreamMakesStreamsOfBuiltGeneratorsOnly) {
     ToyBrngId(); // one family registered at run time among the current ids
     std::vector<int32_t> ids = EveryId();
@@ -38,16 +31,16 @@ TEST(RngBadIds, NewStreamMakesStreamsOfBuiltGeneratorsOnly) {
         uint32_t seed = 5;
         int32_t status = __qesNewStreamEx(&s, id, 1, &seed);
         if (HasGenerator(id) && !IsAbstract(id)) {
-            EXPECT_EQ(status, 0) << Hex(id);
-            ASSERT_NE(s, nullptr) << Hex(id);
+            EXPECT_EQ(status, 0) << IdName(id);
+            ASSERT_NE(s, nullptr) << IdName(id);
             uint64_t words[4];
-            EXPECT_EQ(_qesiRngUniformBits(0, s, 1, words), 0) << Hex(id);
+            EXPECT_EQ(_qesiRngUniformBits(0, s, 1, words), 0) << IdName(id);
             __qesDeleteStream(&s);
         } else {
-            EXPECT_EQ(status, QES_RNG_STATUS_BAD_BRNG) << Hex(id);
-            EXPECT_EQ(s, nullptr) << Hex(id);
+            EXPECT_EQ(status, QES_RNG_STATUS_BAD_BRNG) << IdName(id);
+            EXPECT_EQ(s, nullptr) << IdName(id);
         }
-        EXPECT_EQ(brenn_serv_live_allocations(), live) << Hex(id);
+        EXPECT_EQ(brenn_serv_live_allocations(), live) << IdName(id);
     }
 }
 
@@ -61,11 +54,11 @@ TEST(RngBadIds, PropertiesDescribeEveryRowAndRefuseIdsOutsideTheTables) {
         BrngRecord untouched = r;
         int32_t status = __qesGetBrngProperties(id, &r);
         if (const BrngRecord* row = RowNamed(id)) {
-            EXPECT_EQ(status, 0) << Hex(id);
-            EXPECT_EQ(std::memcmp(&r, row, sizeof r), 0) << Hex(id);
+            EXPECT_EQ(status, 0) << IdName(id);
+            EXPECT_EQ(std::memcmp(&r, row, sizeof r), 0) << IdName(id);
         } else {
-            EXPECT_EQ(status, QES_RNG_STATUS_BAD_BRNG) << Hex(id);
-            EXPECT_EQ(std::memcmp(&r, &untouched, sizeof r), 0) << Hex(id);
+            EXPECT_EQ(status, QES_RNG_STATUS_BAD_BRNG) << IdName(id);
+            EXPECT_EQ(std::memcmp(&r, &untouched, sizeof r), 0) << IdName(id);
         }
     }
 }
@@ -77,12 +70,12 @@ TEST(RngBadIds, AllocateStreamHoldsOnlyBuiltGenerators) {
         void* s = nullptr;
         int32_t status = __qesAllocateStream(&s, table, id, family, member);
         if (HasGenerator(id)) {
-            EXPECT_EQ(status, 0) << Hex(id);
+            EXPECT_EQ(status, 0) << IdName(id);
             EXPECT_EQ(__qesGetStreamStateBrng(s), id);
             __qesDeleteStream(&s);
         } else {
-            EXPECT_EQ(status, QES_RNG_STATUS_BAD_BRNG) << Hex(id);
-            EXPECT_EQ(s, nullptr) << Hex(id);
+            EXPECT_EQ(status, QES_RNG_STATUS_BAD_BRNG) << IdName(id);
+            EXPECT_EQ(s, nullptr) << IdName(id);
         }
     }
     // A family index below the legacy table passes the legacy test, but names no row.
@@ -200,21 +193,21 @@ TEST(RngBadIds, EveryStreamEntryRefusesAStreamWithoutAGenerator) {
         for (const StreamEntry& e : entries) {
             std::remove(file.path.c_str());
             std::memset(out, kSentinel, sizeof out);
-            EXPECT_EQ(e.call(forged.get()), e.expect) << e.name << ", " << Hex(id);
+            EXPECT_EQ(e.call(forged.get()), e.expect) << e.name << ", " << IdName(id);
             // Nothing was written: no output, no file, neither stream changed.
             for (uint8_t b : out)
                 if (b != kSentinel) {
-                    ADD_FAILURE() << e.name << " wrote results for " << Hex(id);
+                    ADD_FAILURE() << e.name << " wrote results for " << IdName(id);
                     break;
                 }
             if (FILE* f = std::fopen(file.path.c_str(), "rb")) {
-                ADD_FAILURE() << e.name << " made a file for " << Hex(id);
+                ADD_FAILURE() << e.name << " made a file for " << IdName(id);
                 std::fclose(f);
             }
             ++checked;
         }
-        EXPECT_EQ(std::memcmp(forged.get(), record.data(), record.size()), 0) << Hex(id);
-        EXPECT_EQ(std::memcmp(other, otherState.data(), otherState.size()), 0) << Hex(id);
+        EXPECT_EQ(std::memcmp(forged.get(), record.data(), record.size()), 0) << IdName(id);
+        EXPECT_EQ(std::memcmp(other, otherState.data(), otherState.size()), 0) << IdName(id);
     }
     EXPECT_GT(checked, 0);
     EXPECT_EQ(brenn_serv_live_allocations(), live);

@@ -4,7 +4,6 @@
 // before anything is allocated for them; and pairs of images that give one shared
 // guid two sizes, which must never leave a cell whose size disagrees with its block.
 #include <cstring>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -17,12 +16,6 @@
 namespace {
 
 using namespace brenn::test;
-
-std::string Hex(int32_t id) {
-    std::ostringstream o;
-    o << "id 0x" << std::hex << static_cast<uint32_t>(id);
-    return o.str();
-}
 
 // The status of a load of a well-formed image of `id`: only generators of this build
 // load, abstract streams never (their state holds another process's addresses), and
@@ -71,10 +64,10 @@ TEST(RngBadImages, ImagesOfEveryRegisteredFamilyBuiltOrNot) {
         if (row != nullptr && row->stateSize >= 16) state = StateFor(id, &next);
         if (id == QES_BRNG_TRNG) next.clear(); // its words are the processor's, never repeated
         std::vector<ChunkImage> chunks = {{3, {0, 0}, 40, 0x33}, {9, {guid[0], guid[1]}, 64, 0x99}};
-        ExpectLoads(ImageOf(id, state), id, next, Hex(id));
-        ExpectLoads(ImageOf(id, state, chunks), id, next, Hex(id) + " with chunks");
+        ExpectLoads(ImageOf(id, state), id, next, IdName(id));
+        ExpectLoads(ImageOf(id, state, chunks), id, next, IdName(id) + " with chunks");
         if (state.size() <= 0xFFFF)
-            ExpectLoads(ImageOf(id, state, chunks, true), id, next, Hex(id) + " older form");
+            ExpectLoads(ImageOf(id, state, chunks, true), id, next, IdName(id) + " older form");
     }
 }
 

@@ -6,6 +6,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <sstream>
 
 #include <gtest/gtest.h>
 
@@ -29,6 +30,12 @@ ForgedStream::ForgedStream(int32_t id) : record(brenn_serv_allocate(kForgedBytes
 
 ForgedStream::~ForgedStream() {
     brenn_serv_deallocate(record);
+}
+
+std::string IdName(int32_t id) {
+    std::ostringstream o;
+    o << "id 0x" << std::hex << static_cast<uint32_t>(id);
+    return o.str();
 }
 
 int64_t AllocationsMadeBy(const std::function<void()>& call) {

@@ -29,6 +29,9 @@ class ForgedStream {
     void* record;
 };
 
+// "id 0x..." for messages.
+std::string IdName(int32_t id);
+
 // How many allocations `call` attempted, failed or not.
 int64_t AllocationsMadeBy(const std::function<void()>& call);
 

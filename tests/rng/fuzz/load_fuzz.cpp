@@ -1,11 +1,24 @@
-// libFuzzer target of the stream loaders: every input is loaded as a file and as a
-// memory block padded to the length that its own header and chunk fields claim
-// (reading past a shorter block is the caller's fault, not the loader's). A loaded
-// stream of a generator that exists is run for a block of words, then deleted, and
-// the count of live blocks must come back to where it was.
+// libFuzzer target of the stream loaders. An input is a control block of five bytes
+// and one or two images:
+//   byte 0     flags: kPair, two images that live at once; kFixFirst and kFixSecond
+//              rewrite an image's header as a well-formed one for the id that byte 1
+//              or 2 picks from every kind of id a caller can pass, so that images of
+//              every registered family, built or not, reach past the header checks;
+//              kFirstInMemory and kSecondInMemory load a pair's image from a memory
+//              block instead of a file.
+//   bytes 3-4  the first image's length, when there are two.
+// A single image is loaded as a file and as a memory block, one after the other. A
+// memory block is padded to the length that its own header and chunk fields claim
+// (reading past a shorter block is the caller's fault, not the loader's), so a
+// well-formed header makes a loadable image of any family from a few bytes. Every
+// loaded stream must have only shared chunks that the table holds; it is saved and
+// reloaded, copied, run and jumped. A pair shares the global table, so images that
+// give one guid two sizes meet. After each input the count of live blocks must be
+// where it was.
 //
-// With BRENN_FUZZ_SEED_DIR set, the first call writes images of the built
-// generators there, with and without chunks, as a starting corpus.
+// With BRENN_FUZZ_SEED_DIR set, the first call writes a seed corpus there: images of
+// every id of the list (real states for built generators) with and without chunks,
+// and pairs that give one guid one size or two.
 #include <unistd.h>
 
 #include <cstdint>
@@ -17,21 +30,54 @@
 
 #include "brenn_rng.h"
 #include "platform/serv.h"
+#include "tests/rng/bad_cases.h"
 
 namespace {
 
-constexpr size_t kMaxClaim = size_t{1} << 22;
+using brenn::test::ChunkImage;
+using Bytes = std::vector<uint8_t>;
 
-uint32_t Le(const std::vector<uint8_t>& b, size_t at, int bytes) {
+enum : uint8_t {
+    kPair = 1,
+    kFixFirst = 2,
+    kFixSecond = 4,
+    kFirstInMemory = 8,
+    kSecondInMemory = 16,
+};
+constexpr size_t kControl = 5;
+constexpr size_t kMaxClaim = size_t{1} << 18; // room for the longest state and some chunks
+
+const std::vector<int32_t>& Ids() {
+    static const std::vector<int32_t> ids = brenn::test::EveryId();
+    return ids;
+}
+
+uint32_t Le(const Bytes& b, size_t at, int bytes) {
     uint32_t v = 0;
     for (int i = bytes - 1; i >= 0; --i)
         v = (v << 8) | b[at + i];
     return v;
 }
 
+// A version-2 header for `id`, with the state length of the id's row when it has one
+// and the image's own chunk count.
+void FixHeader(Bytes& b, int32_t id) {
+    if (b.size() < 24) b.resize(24, 0);
+    const BrngRecord* row = brenn::test::RowNamed(id);
+    uint32_t stateBytes = row != nullptr && row->stateSize >= 16
+                              ? static_cast<uint32_t>(row->stateSize - 16)
+                              : Le(b, 12, 4);
+    b[0] = 2;
+    std::memcpy(b.data() + 4, "RNG", 3);
+    b[8] = 24;
+    b[9] = 0;
+    std::memcpy(b.data() + 12, &stateBytes, 4);
+    std::memcpy(b.data() + 20, &id, 4);
+}
+
 // The bytes the memory loader may read from this image, growing the zero padding
 // until the walk stays inside it; 0 when the claim is too large to try.
-size_t Claimed(std::vector<uint8_t>& b) {
+size_t Claimed(Bytes& b) {
     for (;;) {
         if (b.size() < 24) b.resize(24, 0);
         bool v2 = b[0] == 2;
@@ -58,64 +104,162 @@ size_t Claimed(std::vector<uint8_t>& b) {
     }
 }
 
-std::vector<uint8_t> Save(void* s) {
-    std::vector<uint8_t> image(static_cast<size_t>(__qesGetStreamSize(s)));
+QesChunk* Chunks(const void* s) {
+    QesChunk* c;
+    std::memcpy(&c, static_cast<const char*>(s) + 8, sizeof c);
+    return c;
+}
+
+// A cell with a guid holds the block of the guid's row and nothing else.
+void CheckShared(const void* s) {
+    for (const QesChunk* c = Chunks(s); c != nullptr; c = c->next) {
+        if (c->guid[0] == 0 && c->guid[1] == 0) continue;
+        GlobRODataEntry* e = nullptr;
+        if (__qesFindGlobRODataTableEntry(&e, c->guid) != 0 || e->data != c->data) std::abort();
+    }
+}
+
+Bytes Save(void* s) {
+    int32_t size = __qesGetStreamSize(s);
+    if (size < 24) std::abort();
+    Bytes image(static_cast<size_t>(size));
     if (__qesSaveStreamM(s, image.data()) != 0) std::abort();
     return image;
 }
 
-std::vector<uint8_t> Reload(const std::vector<uint8_t>& image) {
+Bytes Reload(const Bytes& image) {
     void* t = nullptr;
     if (__qesLoadStreamM(&t, image.data()) < 0) std::abort();
-    std::vector<uint8_t> again = Save(t);
+    CheckShared(t);
+    Bytes again = Save(t);
     __qesDeleteStream(&t);
     return again;
 }
 
-// A loaded stream saves to an image that loads again; each load reverses the
-// chunk list, so two reloads give the same bytes.
+// A loaded stream saves to an image that loads again; each load reverses the chunk
+// list, so two reloads give the same bytes.
 void RoundTrip(void* s) {
-    std::vector<uint8_t> image = Save(s);
-    std::vector<uint8_t> once = Reload(image);
+    Bytes image = Save(s);
+    Bytes once = Reload(image);
     if (once.size() != image.size() || Reload(once) != image) std::abort();
 }
 
+// Every stream that loads has a generator of this build; its output status is the
+// generator's own business, but nothing may crash or leak.
 void Exercise(void* s) {
+    CheckShared(s);
     RoundTrip(s);
-    int32_t id = __qesGetStreamStateBrng(s);
-    if (id == QES_BRNG_MCG31M1 || id == QES_BRNG_MCG59 || id == QES_BRNG_MT19937 || id == 0 ||
-        id == 3 || id == QES_BRNG_SFMT19937 ||
-        (id >= QES_BRNG_MT2203 && id < QES_BRNG_MT2203 + 6024)) {
-        std::vector<uint64_t> words(1300);
-        _qesiRngUniformBits(0, s, 1300, words.data());
-        __qesSkipAheadStream(s, 3001); // direct stepping, or Horner's scheme for SFMT
-        _qesiRngUniformBits(0, s, 700, words.data());
+    void* c = nullptr;
+    if (__qesCopyStream(&c, s) != 0) std::abort();
+    CheckShared(c);
+    Save(c);
+    __qesDeleteStream(&c);
+    std::vector<uint64_t> words(2 * 1300); // up to 16 bytes a word
+    _qesiRngUniformBits(0, s, 1300, words.data());
+    __qesSkipAheadStream(s, 3001); // direct stepping, or Horner's scheme for SFMT
+    _qesiRngUniformBits64(0, s, 300, words.data());
+    double d[64];
+    _qesdRngUniform(0, s, 64, d, 0.0, 1.0);
+}
+
+std::string FilePath() {
+    static const std::string path = std::string("/tmp/brenn_load_fuzz_") + std::to_string(getpid());
+    return path;
+}
+
+// The stream that `image` loads into, or null when the load fails (which must clear
+// the caller's pointer).
+void* Load(Bytes image, bool fromMemory) {
+    void* s = nullptr;
+    int32_t status;
+    if (fromMemory) {
+        if (Claimed(image) == 0) return nullptr;
+        status = __qesLoadStreamM(&s, image.data());
+    } else {
+        FILE* f = std::fopen(FilePath().c_str(), "wb");
+        if (f == nullptr) return nullptr;
+        if (!image.empty()) std::fwrite(image.data(), image.size(), 1, f);
+        std::fclose(f);
+        status = __qesLoadStreamF(&s, FilePath().c_str(), -1);
+    }
+    if ((status < 0) != (s == nullptr)) std::abort();
+    return s;
+}
+
+void LoadOne(const Bytes& image, bool fromMemory) {
+    if (void* s = Load(image, fromMemory)) {
+        Exercise(s);
+        __qesDeleteStream(&s);
+    }
+}
+
+// Both streams live at once; the second outlives the first and must still save
+// whatever blocks it holds.
+void LoadPair(const Bytes& first, bool firstInMemory, const Bytes& second, bool secondInMemory) {
+    void* a = Load(first, firstInMemory);
+    void* b = Load(second, secondInMemory);
+    if (a != nullptr) Exercise(a);
+    if (b != nullptr) Exercise(b);
+    if (a != nullptr) __qesDeleteStream(&a);
+    if (b != nullptr) {
+        Exercise(b);
+        __qesDeleteStream(&b);
+    }
+}
+
+int32_t Pick(uint8_t choice) {
+    return Ids()[choice % Ids().size()];
+}
+
+// ---- The seed corpus --------------------------------------------------------------
+
+Bytes Control(uint8_t flags, size_t firstId, size_t secondId, size_t firstLength) {
+    return {flags, static_cast<uint8_t>(firstId), static_cast<uint8_t>(secondId),
+            static_cast<uint8_t>(firstLength), static_cast<uint8_t>(firstLength >> 8)};
+}
+
+void WriteSeed(const char* dir, int* n, Bytes control, const Bytes& first,
+               const Bytes& second = {}) {
+    control.insert(control.end(), first.begin(), first.end());
+    control.insert(control.end(), second.begin(), second.end());
+    std::string path = std::string(dir) + "/seed" + std::to_string((*n)++);
+    if (FILE* f = std::fopen(path.c_str(), "wb")) {
+        std::fwrite(control.data(), control.size(), 1, f);
+        std::fclose(f);
     }
 }
 
 void WriteSeeds(const char* dir) {
     int n = 0;
-    for (int32_t id : {QES_BRNG_MCG31M1, QES_BRNG_MCG59, QES_BRNG_MT19937, QES_BRNG_SFMT19937,
-                       QES_BRNG_MT2203}) {
-        for (int chunks = 0; chunks < 3; ++chunks) {
-            uint32_t seed = 7;
-            void* s = nullptr;
-            __qesNewStreamEx(&s, id, 1, &seed);
-            for (int c = 0; c < chunks; ++c) {
-                void* data = brenn_serv_allocate(16, 128);
-                std::memset(data, c, 16);
-                uint64_t guid[2] = {static_cast<uint64_t>(c), 0};
-                __qesAddChunk(s, 5 + c, guid, data, 16);
-            }
-            std::vector<uint8_t> image(static_cast<size_t>(__qesGetStreamSize(s)));
-            __qesSaveStreamM(s, image.data());
-            std::string path = std::string(dir) + "/seed" + std::to_string(n++);
-            if (FILE* f = std::fopen(path.c_str(), "wb")) {
-                std::fwrite(image.data(), image.size(), 1, f);
-                std::fclose(f);
-            }
-            __qesDeleteStream(&s);
+    const std::vector<ChunkImage> chunks = {{3, {0, 0}, 40, 0x33}, {9, {0xFA, 0x11}, 64, 0x99}};
+    for (size_t i = 0; i < Ids().size(); ++i) {
+        int32_t id = Ids()[i];
+        const BrngRecord* row = brenn::test::RowNamed(id);
+        Bytes state(8, 0);
+        if (row != nullptr && row->stateSize >= 16) state = brenn::test::StateFor(id);
+        for (bool withChunks : {false, true}) {
+            Bytes image =
+                brenn::test::ImageOf(id, state, withChunks ? chunks : std::vector<ChunkImage>{});
+            // A state longer than the fuzzer's inputs: the header alone, which the
+            // memory load pads.
+            if (image.size() > 4096) image.resize(24);
+            WriteSeed(dir, &n, Control(kFixFirst, i, 0, 0), image);
+            WriteSeed(dir, &n, Control(0, i, 0, 0), image);
         }
+    }
+    // Pairs of one family that give one guid two sizes, either order, each medium;
+    // and one pair that agrees.
+    const int32_t pairId = QES_BRNG_MT2203 + 17;
+    Bytes state = brenn::test::StateFor(pairId);
+    auto with = [&](uint32_t size, uint8_t fill) {
+        return brenn::test::ImageOf(pairId, state, {{9, {0x5EED, 0xF00D}, size, fill}});
+    };
+    for (auto [x, y] : {std::pair{8u, 1024u}, std::pair{1024u, 8u}, std::pair{64u, 64u}}) {
+        Bytes first = with(x, 0x11), second = with(y, 0x22);
+        const uint8_t media[] = {0, kFirstInMemory, kSecondInMemory,
+                                 kFirstInMemory | kSecondInMemory};
+        for (uint8_t m : media)
+            WriteSeed(dir, &n, Control(kPair | m, 0, 0, first.size()), first, second);
     }
 }
 
@@ -127,28 +271,24 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    static const std::string path = std::string("/tmp/brenn_load_fuzz_") + std::to_string(getpid());
     int64_t live = brenn_serv_live_allocations();
-    if (FILE* f = std::fopen(path.c_str(), "wb")) {
-        if (size != 0) std::fwrite(data, size, 1, f);
-        std::fclose(f);
-        void* s = nullptr;
-        if (__qesLoadStreamF(&s, path.c_str(), -1) >= 0) {
-            Exercise(s);
-            __qesDeleteStream(&s);
-        } else if (s != nullptr) {
-            std::abort(); // a failed load must clear the caller's pointer
-        }
-    }
-    std::vector<uint8_t> block(data, data + size);
-    if (Claimed(block) != 0) {
-        void* s = nullptr;
-        if (__qesLoadStreamM(&s, block.data()) >= 0) {
-            Exercise(s);
-            __qesDeleteStream(&s);
-        } else if (s != nullptr) {
-            std::abort();
-        }
+    Bytes control(kControl, 0);
+    std::memcpy(control.data(), data, size < kControl ? size : kControl);
+    const uint8_t* body = data + (size < kControl ? size : kControl);
+    size_t bodySize = size < kControl ? 0 : size - kControl;
+    uint8_t flags = control[0];
+    if (flags & kPair) {
+        size_t split = Le(control, 3, 2);
+        if (split > bodySize) split = bodySize;
+        Bytes first(body, body + split), second(body + split, body + bodySize);
+        if (flags & kFixFirst) FixHeader(first, Pick(control[1]));
+        if (flags & kFixSecond) FixHeader(second, Pick(control[2]));
+        LoadPair(first, flags & kFirstInMemory, second, flags & kSecondInMemory);
+    } else {
+        Bytes image(body, body + bodySize);
+        if (flags & kFixFirst) FixHeader(image, Pick(control[1]));
+        LoadOne(image, false);
+        LoadOne(image, true);
     }
     if (brenn_serv_live_allocations() != live) std::abort(); // a block left behind
     return 0;
