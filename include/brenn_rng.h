@@ -259,12 +259,11 @@ int32_t __qesDeleteStream(void** stream);
  * @param stream the stream
  * @return its generator id. */
 int32_t __qesGetStreamStateBrng(const void* stream);
-/* Bytes of the stream's image; QES_RNG_STATUS_BAD_BRNG when no image can hold the
- * stream, QES_STATUS_NO_MEMORY when the image would pass INT32_MAX bytes. */
 /** The bytes that __qesSaveStreamM() writes for a stream.
  * @param stream the stream
- * @return the size of its memory image, or a negative status when no image can hold
- *         the stream. */
+ * @return the size of its memory image; QES_RNG_STATUS_BAD_BRNG when no image can
+ *         hold the stream (its generator is not built); QES_STATUS_NO_MEMORY when the
+ *         image would pass INT32_MAX bytes. */
 int32_t __qesGetStreamSize(const void* stream);
 
 /** Adds a chunk of data to a stream. guid points to two uint64 words, or is null for
