@@ -183,10 +183,11 @@ using namespace brenn::rng;
 
 BRENN_EXPORT int32_t __qesPolyRem(uint64_t count, int32_t degree, int32_t termCount,
                                   const int32_t* terms, int32_t wordCount, uint32_t* out) {
+    // The caller's remainder: a count of words that no block can have is refused.
+    size_t outBytes;
+    if (!BytesFor(wordCount, 4, &outBytes)) return QES_STATUS_NO_MEMORY;
     if (count < static_cast<uint64_t>(degree)) {
-        size_t bytes;
-        if (!BytesFor(wordCount, 4, &bytes)) return QES_STATUS_NO_MEMORY;
-        memset(out, 0, bytes);
+        memset(out, 0, outBytes);
         out[count >> 5] = uint32_t{1} << (count & 31);
         return QES_STATUS_OK;
     }
@@ -229,8 +230,9 @@ BRENN_EXPORT int32_t __qesPolyRem(uint64_t count, int32_t degree, int32_t termCo
     }
     // Little-endian 64-bit words read as 32-bit words in the same order.
     int32_t n = wordCount < 2 * w.words ? wordCount : 2 * w.words;
-    memcpy(out, w.r, static_cast<size_t>(n) * 4);
-    if (wordCount > n) memset(out + n, 0, static_cast<size_t>(wordCount - n) * 4);
+    size_t copied = static_cast<size_t>(n) * 4; // n is at most wordCount
+    memcpy(out, w.r, copied);
+    memset(reinterpret_cast<char*>(out) + copied, 0, outBytes - copied);
     brenn_serv_deallocate(area);
     return QES_STATUS_OK;
 }
