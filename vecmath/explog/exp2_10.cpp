@@ -27,16 +27,16 @@ constexpr double kLog10Of2Over64Hi = 4.703593682279461063444614410400390625e-3;
 constexpr double kLog10Of2Over64Lo = -2.9754888229944178e-14;
 
 inline __m128d Exp2Core(__m128d x) {
-    __m128d t = _mm_add_pd(_mm_mul_pd(x, _mm_set1_pd(64.0)), _mm_set1_pd(kExpShifterD));
-    __m128d n = _mm_sub_pd(t, _mm_set1_pd(kExpShifterD));
+    __m128d t = _mm_add_pd(_mm_mul_pd(x, _mm_set1_pd(64.0)), _mm_set1_pd(Format<double>::kShifter));
+    __m128d n = _mm_sub_pd(t, _mm_set1_pd(Format<double>::kShifter));
     __m128d d = _mm_sub_pd(x, _mm_mul_pd(n, _mm_set1_pd(0.015625)));
     return ExpAssemble64<ExpDegree::Six>(t, _mm_mul_pd(d, _mm_set1_pd(kLn2D)));
 }
 
 inline __m128d Exp10Core(__m128d x) {
-    __m128d t =
-        _mm_add_pd(_mm_mul_pd(x, _mm_set1_pd(212.60339807279118)), _mm_set1_pd(kExpShifterD));
-    __m128d n = _mm_sub_pd(t, _mm_set1_pd(kExpShifterD));
+    __m128d t = _mm_add_pd(_mm_mul_pd(x, _mm_set1_pd(212.60339807279118)),
+                           _mm_set1_pd(Format<double>::kShifter));
+    __m128d n = _mm_sub_pd(t, _mm_set1_pd(Format<double>::kShifter));
     __m128d d = _mm_sub_pd(_mm_sub_pd(x, _mm_mul_pd(n, _mm_set1_pd(kLog10Of2Over64Hi))),
                            _mm_mul_pd(n, _mm_set1_pd(kLog10Of2Over64Lo)));
     return ExpAssemble64<ExpDegree::Six>(t, _mm_mul_pd(d, _mm_set1_pd(kLn10D)));

@@ -3,79 +3,84 @@
  * m = n >> 6, r the reduced argument in base e (|r| <= ln2/128), p(r) ~ e^r - 1 fitted
  * for relative error (tools/explog/expm1_double.sollya) so that p is expm1 itself for
  * small arguments, and T = 2^(j/64) in two parts from expTable64.
- * The caller forms n and r for its base; this header supplies the polynomial, the
- * table rows and the assembly e^x = 2^m*(Thi + (Thi*p + Tlo)). */
+ * The caller forms n and r for its base; this header supplies the reduction constants,
+ * the polynomial, the table rows and the assembly e^x = 2^m*(Thi + (Thi*p + Tlo)).
+ * The scalar exponential (exp_scalar.h) runs the same reduction and polynomial. */
 #ifndef BRENN_VECMATH_EXPLOG_EXP_CORE_H
 #define BRENN_VECMATH_EXPLOG_EXP_CORE_H
 
 #include "vecmath/explog/explog_tables.h"
-#include "vecmath/frame/simd.h"
+#include "vecmath/frame/vec.h"
 
 namespace brenn::vm {
 
-constexpr double kExpShifterD = 6755399441055744.0; // 1.5 * 2^52
+// The reduction by ln2/64 that goes with the table of 64: n = x*kInvStep rounded and
+// r = (x - n*kStepHi) - n*kStepLo. The head ends in 17 zero bits, so n*kStepHi is exact
+// for every n the double range gives.
+struct ExpStep64 {
+    static constexpr double kInvStep = 0x1.71547652b82fep+6; // 64/ln2
+    static constexpr double kStepHi = 0x1.62e42fefa0000p-7;  // ln2/64, head
+    static constexpr double kStepLo = 0x1.cf79abc9e3b3ap-46; // and the rest
+};
 
 enum class ExpDegree { Four = 4, Five = 5, Six = 6 };
+
+// p(r) = r + r^2*(c2 + r*(c3 + ...)), the coefficients c2 up to the degree, by
+// tools/explog/expm1_double.sollya (relative error on |r| <= ln2/128: degree 6 2^-62.25,
+// degree 5 2^-51.25, degree 4 2^-39.5).
+template <ExpDegree D>
+struct ExpTail;
+template <>
+struct ExpTail<ExpDegree::Six> {
+    static constexpr double kC[] = {0x1p-1, 0x1.5555555554afdp-3, 0x1.55555555553adp-5,
+                                    0x1.11112276ba4cp-7, 0x1.6c16cf4b71e32p-10};
+};
+template <>
+struct ExpTail<ExpDegree::Five> {
+    static constexpr double kC[] = {0x1.fffffffffe5c1p-2, 0x1.555555555626p-3, 0x1.555570a90913fp-5,
+                                    0x1.1111140a4af86p-7};
+};
+template <>
+struct ExpTail<ExpDegree::Four> {
+    static constexpr double kC[] = {0x1.00000000022dp-1, 0x1.555570813e442p-3,
+                                    0x1.55554dd47baccp-5};
+};
 
 // The part of the polynomial beyond r: p(r) = r + ExpPolyTail(r).
 template <ExpDegree D>
 inline __m128d ExpPolyTail(__m128d r) {
-    __m128d q;
-    if constexpr (D == ExpDegree::Six) {
-        q = _mm_add_pd(
-            _mm_set1_pd(8.33334143449560027505640391609631478786468505859375e-3),
-            _mm_mul_pd(
-                r, _mm_set1_pd(1.3888896963737515539982769752214153413660824298858642578125e-3)));
-        q = _mm_add_pd(_mm_set1_pd(4.1666666666663722262686775366091751493513584136962890625e-2),
-                       _mm_mul_pd(r, q));
-        q = _mm_add_pd(_mm_set1_pd(0.1666666666665931606505779427607194520533084869384765625),
-                       _mm_mul_pd(r, q));
-        q = _mm_add_pd(_mm_set1_pd(0.5), _mm_mul_pd(r, q));
-    } else if constexpr (D == ExpDegree::Five) {
-        q = _mm_add_pd(
-            _mm_set1_pd(4.1666717567098825181215460133898886851966381072998046875e-2),
-            _mm_mul_pd(r,
-                       _mm_set1_pd(8.3333347179956988870497269772386061958968639373779296875e-3)));
-        q = _mm_add_pd(_mm_set1_pd(0.16666666666675933328178871306590735912322998046875),
-                       _mm_mul_pd(r, q));
-        q = _mm_add_pd(_mm_set1_pd(0.499999999999627020574877178660244680941104888916015625),
-                       _mm_mul_pd(r, q));
-    } else {
-        q = _mm_add_pd(
-            _mm_set1_pd(0.166666869110288884403558995472849346697330474853515625),
-            _mm_mul_pd(r, _mm_set1_pd(4.16666526906418199782677902476279996335506439208984375e-2)));
-        q = _mm_add_pd(_mm_set1_pd(0.5000000000009894307595459395088255405426025390625),
-                       _mm_mul_pd(r, q));
-    }
-    return _mm_mul_pd(_mm_mul_pd(r, r), q);
+    return Mul(Mul(r, r), Horner(r, ExpTail<D>::kC));
 }
 
 template <ExpDegree D>
 inline __m128d ExpPolyD(__m128d r) {
-    return _mm_add_pd(r, ExpPolyTail<D>(r));
+    return Add(r, ExpPolyTail<D>(r));
 }
 
 // Table rows of the two lanes of t (x*64/ln2 + shifter): Thi and Tlo.
+// Each row loaded as soon as its index is read, in lane order: the schedule these
+// kernels were tuned with (GatherPairs forms both addresses first, lane 1's first).
 inline void ExpRows64(__m128d t, __m128d& th, __m128d& tl) {
-    __m128i v = _mm_castpd_si128(t);
-    __m128d a = _mm_load_pd(expTable64[_mm_cvtsi128_si32(v) & 63]);
-    __m128d b = _mm_load_pd(expTable64[_mm_extract_epi32(v, 2) & 63]);
-    th = _mm_unpacklo_pd(a, b);
-    tl = _mm_unpackhi_pd(a, b);
+    __m128d row0 = LoadAligned(expTable64[LowWord<0>(AsInt(t)) & 63]);
+    __m128d row1 = LoadAligned(expTable64[LowWord<1>(AsInt(t)) & 63]);
+    th = InterleaveLower(row0, row1);
+    tl = InterleaveUpper(row0, row1);
 }
 
-// 2^m as a double for m = (low word of t) >> 6, |m| <= 1022.
-inline __m128d ExpScale64(__m128d t, int bias = 1023) {
-    __m128i m = _mm_srai_epi32(_mm_castpd_si128(t), 6);
-    m = _mm_add_epi32(m, _mm_set1_epi32(bias));
-    return _mm_castsi128_pd(_mm_slli_epi64(m, 52));
+// m = (low word of t) >> 6 in the low word of each lane.
+inline I32x4 ExpPower64(__m128d t) {
+    return ShiftRightSigned<6>(BitCast<I32x4>(t));
+}
+// 2^m as a double, |m| <= 1022: the biased exponent moved into the field.
+inline __m128d ExpScale64(__m128d t) {
+    I32x4 e = Add(ExpPower64(t), Set<int32_t>(Format<double>::kBias));
+    return AsFloat(ShiftLeft<Format<double>::kMantBits>(BitCast<I64x2>(e)));
 }
 
 // 2^(-m) for the same m.
 inline __m128d ExpInvScale64(__m128d t) {
-    __m128i m = _mm_srai_epi32(_mm_castpd_si128(t), 6);
-    m = _mm_sub_epi32(_mm_set1_epi32(1023), m);
-    return _mm_castsi128_pd(_mm_slli_epi64(m, 52));
+    I32x4 e = Sub(Set<int32_t>(Format<double>::kBias), ExpPower64(t));
+    return AsFloat(ShiftLeft<Format<double>::kMantBits>(BitCast<I64x2>(e)));
 }
 
 // e^x from the shifted t and the reduced r: 2^m*(Thi + (Thi*p + Tlo)), |m| <= 1022.
@@ -84,25 +89,13 @@ inline __m128d ExpAssemble64(__m128d t, __m128d r) {
     __m128d th, tl;
     ExpRows64(t, th, tl);
     __m128d p = ExpPolyD<D>(r);
-    __m128d y = _mm_add_pd(th, _mm_add_pd(_mm_mul_pd(th, p), tl));
-    return _mm_mul_pd(y, ExpScale64(t));
-}
-
-// Exact product a*b = hi + lo, two lanes (Dekker), for |a|, |b| well inside the range.
-inline void TwoProductV(__m128d a, __m128d b, __m128d& hi, __m128d& lo) {
-    const __m128d split = _mm_set1_pd(134217729.0);
-    __m128d ta = _mm_mul_pd(a, split), tb = _mm_mul_pd(b, split);
-    __m128d ah = _mm_sub_pd(ta, _mm_sub_pd(ta, a)), al = _mm_sub_pd(a, ah);
-    __m128d bh = _mm_sub_pd(tb, _mm_sub_pd(tb, b)), bl = _mm_sub_pd(b, bh);
-    hi = _mm_mul_pd(a, b);
-    lo = _mm_add_pd(_mm_add_pd(_mm_sub_pd(_mm_mul_pd(ah, bh), hi),
-                               _mm_add_pd(_mm_mul_pd(ah, bl), _mm_mul_pd(al, bh))),
-                    _mm_mul_pd(al, bl));
+    __m128d y = Add(th, Add(Mul(th, p), tl));
+    return Mul(y, ExpScale64(t));
 }
 
 // Exact product a*b = hi + lo of two scalars (Dekker), for |a*b| well inside the range.
 inline void TwoProduct(double a, double b, double& hi, double& lo) {
-    constexpr double kSplit = 134217729.0;
+    constexpr double kSplit = Format<double>::kSplitter;
     double ta = a * kSplit, tb = b * kSplit;
     double ah = ta - (ta - a), al = a - ah, bh = tb - (tb - b), bl = b - bh;
     hi = a * b;

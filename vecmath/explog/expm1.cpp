@@ -25,9 +25,9 @@ constexpr double kOverD = 709.78271289338397;
 
 template <ExpDegree D, bool Exact>
 inline __m128d Expm1Core(__m128d x) {
-    __m128d t =
-        _mm_add_pd(_mm_mul_pd(x, _mm_set1_pd(92.332482616893657)), _mm_set1_pd(kExpShifterD));
-    __m128d n = _mm_sub_pd(t, _mm_set1_pd(kExpShifterD));
+    __m128d t = _mm_add_pd(_mm_mul_pd(x, _mm_set1_pd(92.332482616893657)),
+                           _mm_set1_pd(Format<double>::kShifter));
+    __m128d n = _mm_sub_pd(t, _mm_set1_pd(Format<double>::kShifter));
     // r = rh + rl: the head exact (the constant's trailing zeros), the tail kept apart
     // for HA, where its rounding into r would be magnified by the table value.
     __m128d rh = _mm_sub_pd(x, _mm_mul_pd(n, _mm_set1_pd(0.010830424696223417)));
@@ -44,7 +44,7 @@ inline __m128d Expm1Core(__m128d x) {
         // and of opposite sign: th*rh and the sum are carried exactly (Dekker, Knuth), so
         // that only the last addition rounds at the result's scale.
         __m128d ph, pl, a = _mm_sub_pd(th, inv);
-        TwoProductV(th, rh, ph, pl);
+        TwoProduct(th, rh, ph, pl);
         __m128d sum = _mm_add_pd(a, ph);
         __m128d bb = _mm_sub_pd(sum, a);
         __m128d err = _mm_add_pd(_mm_sub_pd(a, _mm_sub_pd(sum, bb)), _mm_sub_pd(ph, bb));
