@@ -52,7 +52,7 @@ constexpr uint64_t kLimitD = 0x42C0000000000000ull; // 2^45
 template <Unit U, Fn F, Level L>
 inline __m128d OnMagnitude(__m128d a) {
     using C = UnitConst<U>;
-    const __m128d shifter = _mm_set1_pd(kShifterD);
+    const __m128d shifter = _mm_set1_pd(Format<double>::kShifter);
     a = _mm_min_pd(a, _mm_set1_pd(0x1p45)); // lanes for the scalar routine raise nothing
     __m128d t = _mm_add_pd(_mm_mul_pd(a, _mm_set1_pd(C::kScale)), shifter);
     __m128i ti = _mm_castpd_si128(t);

@@ -1,11 +1,8 @@
-/* Accuracy levels as template parameters of the trigonometric bodies. */
+/* The trigonometric bodies take the accuracy level of the frame (vecmath/frame/level.h),
+ * brenn::vm::Level, which names them inside brenn::vm::trig as well. */
 #ifndef BRENN_VECMATH_TRIG_LEVEL_H
 #define BRENN_VECMATH_TRIG_LEVEL_H
 
-namespace brenn::vm::trig {
-
-enum class Level { EP, LA, HA };
-
-} // namespace brenn::vm::trig
+#include "vecmath/frame/level.h"
 
 #endif

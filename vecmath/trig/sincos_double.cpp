@@ -42,7 +42,7 @@ template <Level L>
 inline __m128d ShortPi(__m128d a, bool cosine) {
     // Lanes above the limit are the large path's: clamped, they raise no flag here.
     a = _mm_min_pd(a, _mm_set1_pd(16777216.0));
-    const __m128d shifter = _mm_set1_pd(kShifterD);
+    const __m128d shifter = _mm_set1_pd(Format<double>::kShifter);
     __m128d t = _mm_mul_pd(a, _mm_set1_pd(0.31830988618379069));
     if (cosine) t = _mm_add_pd(t, _mm_set1_pd(0.5));
     t = _mm_add_pd(t, shifter);
@@ -73,7 +73,7 @@ BRENN_TRIG_HOT __m128d ByTable(__m128d a, bool cosine, bool exact) {
     alignas(16) int32_t J[2], K[2];
     __m128d rh, rl;
     ShortD(_mm_min_pd(a, _mm_set1_pd(16777216.0)), J, rh, rl, cosine ? 32 : 0);
-    int big = LargeLanesD(a, kLimitD);
+    int big = LargeLanes(a, kLimitD);
     if (__builtin_expect(big != 0, 0)) {
         __m128d bh, bl;
         LargeD(a, K, bh, bl);
@@ -95,13 +95,13 @@ struct Body {
         __m128d a = _mm_and_pd(x, AbsMask<double>());
         __m128d p;
         if constexpr (L == Level::EP) {
-            special = RangeTest<double>(a, ~0ull, 0, kLimitD);
+            special = RangeTest(a, Range64{~0ull, 0, kLimitD});
             p = ShortPi<L>(a, kCos);
         } else {
-            special = InfNanD(a);
+            special = InfNan(a);
             if constexpr (L == Level::LA) {
                 p = ShortPi<L>(a, kCos);
-                int big = LargeLanesD(a, kLimitD);
+                int big = LargeLanes(a, kLimitD);
                 if (__builtin_expect(big != 0, 0)) {
                     __m128d m =
                         _mm_castsi128_pd(_mm_set_epi64x(big & 2 ? -1 : 0, big & 1 ? -1 : 0));
@@ -139,17 +139,17 @@ struct Both {
         if constexpr (L == Level::EP) {
             // The two pi reductions and series of Sin and Cos at EP; lanes above 2^24 go
             // to the scalar routine, as in those rows.
-            special = RangeTest<double>(a, ~0ull, 0, kLimitD);
+            special = RangeTest(a, Range64{~0ull, 0, kLimitD});
             s = _mm_xor_pd(ShortPi<L>(a, false), _mm_and_pd(x, SignMask<double>()));
             c = ShortPi<L>(a, true);
             return;
         }
-        special = InfNanD(a);
+        special = InfNan(a);
         alignas(16) int32_t J[2], K[2];
         __m128d rh, rl;
         if constexpr (L == Level::HA) {
             // j as in ShortD, by the double shifter; the rest in x87 arithmetic.
-            const __m128d shifter = _mm_set1_pd(kShifterD);
+            const __m128d shifter = _mm_set1_pd(Format<double>::kShifter);
             __m128d t = _mm_add_pd(
                 _mm_mul_pd(_mm_min_pd(a, _mm_set1_pd(16777216.0)), _mm_set1_pd(k64OverPi)),
                 shifter);
@@ -175,7 +175,7 @@ struct Both {
         } else {
             ShortD(_mm_min_pd(a, _mm_set1_pd(16777216.0)), J, rh, rl, 0);
         }
-        int big = LargeLanesD(a, kLimitD);
+        int big = LargeLanes(a, kLimitD);
         if (__builtin_expect(big != 0, 0)) {
             __m128d bh, bl;
             LargeD(a, K, bh, bl);

@@ -72,7 +72,7 @@ inline __m128 LaneMask(int bits) {
 // 2^-29, and s/c or -c/s by the parity of n.
 template <int M>
 inline void QuadrantTan(const __m128d* a, __m128d* q) {
-    const __m128d shifter = _mm_set1_pd(kShifterD);
+    const __m128d shifter = _mm_set1_pd(Format<double>::kShifter);
     __m128d t[M], odd[M], n[M], r[M], u[M], ps[M], sn[M], pc[M], cs[M];
     BRENN_EACH(k, M) t[k] = _mm_add_pd(_mm_mul_pd(a[k], _mm_set1_pd(0.63661977236758138)), shifter);
     BRENN_EACH(k, M) {
@@ -114,7 +114,7 @@ inline void ShortTan(const __m128* a, __m128* p) {
     __m128 as[N];
     BRENN_EACH(k, N) as[k] = kClamp ? _mm_min_ps(a[k], F(kLimitTanS)) : a[k];
     if constexpr (L == Level::EP) {
-        const __m128 shifter = _mm_set1_ps(kShifterS);
+        const __m128 shifter = _mm_set1_ps(Format<float>::kShifter);
         __m128 t[N], odd[N], n[N], r[N], u[N], num[N], den[N];
         BRENN_EACH(k, N) t[k] = _mm_add_ps(_mm_mul_ps(as[k], F(0x3F22F983)), shifter);
         BRENN_EACH(k, N) {
@@ -169,10 +169,10 @@ struct TanS {
     static constexpr int kRound = 16;
     static __m128 Eval(__m128 x, __m128& special) {
         __m128 a = _mm_and_ps(x, AbsMask<float>());
-        special = InfNanS(a);
+        special = InfNan(a);
         __m128 p;
         ShortTan<L, 1, true>(&a, &p);
-        int big = LargeLanesS(a, kLimitTanS);
+        int big = LargeLanes(a, kLimitTanS);
         if (__builtin_expect(big != 0, 0)) p = _mm_blendv_ps(p, LargeTanS(a), LaneMask(big));
         return _mm_xor_ps(p, _mm_and_ps(x, SignMask<float>()));
     }
@@ -192,7 +192,7 @@ struct TanS {
 // first two short, so that their products with n are exact), series for sine to r^9
 // and cosine to r^10 (about 2^-29 on [-pi/4, pi/4]) and s/c or -c/s by n's parity.
 inline __m128d QuadrantTanEP(__m128d a) {
-    const __m128d shifter = _mm_set1_pd(kShifterD);
+    const __m128d shifter = _mm_set1_pd(Format<double>::kShifter);
     __m128d t = _mm_add_pd(_mm_mul_pd(a, _mm_set1_pd(0.63661977236758138)), shifter);
     __m128d odd = _mm_castsi128_pd(_mm_cmpeq_epi64(
         _mm_and_si128(_mm_castpd_si128(t), _mm_set1_epi64x(1)), _mm_set1_epi64x(1)));
@@ -221,10 +221,10 @@ struct TanD {
     static constexpr const char* kName = ZAR_ERROR_NAME(dTan);
     static __m128d Eval(__m128d x, __m128d& special) {
         __m128d a = _mm_and_pd(x, AbsMask<double>());
-        special = InfNanD(a);
+        special = InfNan(a);
         alignas(16) int32_t J[2], K[2];
         __m128d rh, rl;
-        int big = LargeLanesD(a, kLimitD);
+        int big = LargeLanes(a, kLimitD);
         if constexpr (L == Level::EP) {
             __m128d p = QuadrantTanEP(_mm_min_pd(a, _mm_set1_pd(16777216.0)));
             if (__builtin_expect(big != 0, 0)) {
