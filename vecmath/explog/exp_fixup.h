@@ -8,46 +8,36 @@
 
 #include <limits>
 
-#include "vecmath/frame/simd.h"
+#include "vecmath/frame/vec.h"
 
 namespace brenn::vm {
 
+// The limits of e^x in each format: above kOver it overflows, below kUnder it rounds to
+// +0 (Expm1 shares the first).
 template <class T>
-inline typename Simd<T>::V CmpGt(typename Simd<T>::V a, typename Simd<T>::V b) {
-    if constexpr (sizeof(T) == 4)
-        return _mm_cmpgt_ps(a, b);
-    else
-        return _mm_cmpgt_pd(a, b);
-}
-template <class T>
-inline typename Simd<T>::V CmpLt(typename Simd<T>::V a, typename Simd<T>::V b) {
-    if constexpr (sizeof(T) == 4)
-        return _mm_cmplt_ps(a, b);
-    else
-        return _mm_cmplt_pd(a, b);
-}
-template <class T>
-inline typename Simd<T>::V Or(typename Simd<T>::V a, typename Simd<T>::V b) {
-    if constexpr (sizeof(T) == 4)
-        return _mm_or_ps(a, b);
-    else
-        return _mm_or_pd(a, b);
-}
+struct ExpLimits;
+template <>
+struct ExpLimits<float> {
+    static constexpr float kOver = 0x1.62e42ep+6f, kUnder = -0x1.9fe368p+6f;
+};
+template <>
+struct ExpLimits<double> {
+    static constexpr double kOver = 0x1.62e42fefa39efp+9, kUnder = -0x1.74910d52d3051p+9;
+};
 
 // x and y hold the four elements of a quad (one single or two double registers).
 template <class T>
-inline int FixExpLimits(const typename Simd<T>::V* x, typename Simd<T>::V* y, int bits, T over,
-                        T under) {
-    using S = Simd<T>;
-    constexpr int L = S::kLanes;
-    const typename S::V inf = S::Splat(std::numeric_limits<T>::infinity());
-    const typename S::V zero = S::Splat(T(0));
+inline int FixExpLimits(const Vec<T>* x, Vec<T>* y, int bits, T over, T under) {
+    using V = Vec<T>;
+    constexpr int L = kLanes<T>;
+    const V inf = Set<T>(std::numeric_limits<T>::infinity());
+    const V zero = Set<T>(T(0));
     int fixed = 0;
     for (int k = 0; k < 4 / L; ++k) {
-        typename S::V hi = CmpGt<T>(x[k], S::Splat(over));
-        typename S::V lo = CmpLt<T>(x[k], S::Splat(under));
-        y[k] = S::Blend(S::Blend(y[k], inf, hi), zero, lo);
-        fixed |= S::LaneBits(Or<T>(hi, lo)) << (k * L);
+        V hi = Gt(x[k], Set<T>(over));
+        V lo = Lt(x[k], Set<T>(under));
+        y[k] = IfThenElse(lo, zero, IfThenElse(hi, inf, y[k]));
+        fixed |= MaskBits(Or(hi, lo)) << (k * L);
     }
     return bits & ~fixed;
 }
