@@ -11,11 +11,9 @@
  * scalar routine, which works from the double core of exp_scalar.h. In error mode
  * 0x2000 overflow and underflow lanes are settled by blends (exp_fixup.h).
  *
- * Measured (brenn_accuracy, full run): sExp LA 2.58 ulp, HA 0.55 ulp, EP 12.4 bits;
- * dExp LA 1.97 ulp, HA 0.67 ulp, EP 28.2 bits.
- * The coefficient sets of dExp EP come from tools/explog/exp_double.sollya; those of
- * sExp EP and LA and of dExp LA and HA were fitted elsewhere, and no script here
- * reproduces them yet: they stay as they were measured. */
+ * Measured (brenn_accuracy, full run): sExp LA 2.13 ulp, HA 0.55 ulp, EP 13.2 bits;
+ * dExp LA 1.79 ulp, HA 0.67 ulp, EP 28.2 bits.
+ * The polynomials come from tools/explog/exp_single.sollya and exp_double.sollya. */
 #include "frame/kernels.h"
 #include "vecmath/explog/exp_core.h"
 #include "vecmath/explog/exp_fixup.h"
@@ -57,13 +55,13 @@ int ExpScalar(const double* a, double* y) {
 // Single EP: 2^(x*log2e) as 2^n * q(f), the cubic q for 2^f on |f| <= 1/2, 2^n put in
 // by an integer add on the exponent field.
 constexpr float kLog2eS = 0x1.715476p+0f;
-// Fitted elsewhere (no script reproduces it yet).
-constexpr float kExp2Cubic[] = {0x1p+0f, 0x1.62e844p-1f, 0x1.efacd4p-3f, 0x1.c6b056p-5f};
+// Fitted by tools/explog/exp_single.sollya (EP).
+constexpr float kExp2Cubic[] = {0x1p+0f, 0x1.62f5fap-1f, 0x1.f00c4cp-3f, 0x1.c2a254p-5f};
 // Single LA: base e, ln 2 in two parts, degree 5 on |r| <= ln2/2.
 constexpr float kLn2HiS = 0x1.62e4p-1f, kLn2LoS = 0x1.7f7d1cp-20f;
-// Fitted elsewhere (no script reproduces it yet).
-constexpr float kExpQuintic[] = {0x1p+0f,        0x1.fffffcp-1f, 0x1.fffe68p-2f,
-                                 0x1.555958p-3f, 0x1.570724p-5f, 0x1.0fb3fcp-7f};
+// Fitted by tools/explog/exp_single.sollya (LA).
+constexpr float kExpQuintic[] = {0x1p+0f,       0x1.fffff6p-1f, 0x1.fffdc6p-2f,
+                                 0x1.555a8p-3f, 0x1.573a1ap-5f, 0x1.0f9f9cp-7f};
 // Single HA: ln2/128 steps with the 128-entry table. The shifter is 1.375 * 2^23, whose
 // bits end in seven zeros (see below); the step is in two parts, negated.
 constexpr float kShifter128S = 0x1.6p+23f, kInvStep128S = 0x1.715476p+7f;
@@ -119,13 +117,13 @@ constexpr double kExpEpC2 = 0x1.ffffc2808f7e8p-2;
 // Double LA: ln2/1024 steps in two parts, r + r^2*(c2 + r*c3), the table of 1024.
 constexpr double kInvStep1024 = 0x1.71547652b82fep+10, kStep1024Hi = 0x1.62e42fec00000p-11,
                  kStep1024Lo = 0x1.d1cf79abc9e3bp-42;
-// c2 and c3, fitted elsewhere (no script reproduces them yet).
-constexpr double kExpLaC[] = {0x1.0000001ebfbe0p-1, 0x1.5555555555556p-3};
+// c2 and c3, fitted by tools/explog/exp_double.sollya (LA).
+constexpr double kExpLaC[] = {0x1.00000021f6929p-1, 0x1.55555559fd862p-3};
 // Double HA: the reduction of the table of 64 (exp_core.h) and a degree-5 p,
 // p = r + r^2*((c2 + c3*r) + r^2*(c4 + c5*r)).
-// c2 to c5, fitted elsewhere (no script reproduces them yet).
-constexpr double kExpHaC[] = {0x1.fffffffffdb3bp-2, 0x1.555555555653ep-3, 0x1.555573f218b93p-5,
-                              0x1.111112d9f549bp-7};
+// c2 to c5, fitted by tools/explog/exp_double.sollya (HA).
+constexpr double kExpHaC[] = {0x1.fffffffffdbd9p-2, 0x1.5555555557677p-3, 0x1.555573c3149fdp-5,
+                              0x1.111108f30ec0dp-7};
 
 // 2^m for the integer in the low 32 bits of each double lane of t - shifter, after the
 // index bits (log2 N of them) are dropped: the exponent field is added to y's bits.
