@@ -336,6 +336,14 @@ int InfNanScalar(const T* a, T* y) {
     return status::kNone;
 }
 
+// The same for the two results of SinCos, the status of the first.
+template <class T>
+int InfNanScalar(const T* a, T* y, T* z) {
+    int st = InfNanScalar(a, y);
+    InfNanScalar(a, z);
+    return st;
+}
+
 // Magnitudes of a round's four single registers, and whether any lane is above the
 // limit (infinity and NaN are, as bits): one compare on the largest of them.
 inline bool AnyAboveS(const __m128* x, __m128* a, uint32_t limitBits) {

@@ -214,9 +214,7 @@ struct Both {
             *z = GetLane(ByTable(m, true, false));
             return status::kNone;
         }
-        int st = InfNanScalar(a, y);
-        InfNanScalar(a, z);
-        return st;
+        return InfNanScalar(a, y, z);
     }
 };
 

@@ -213,11 +213,7 @@ struct BothBody {
         ShortN<L, 4, false>(a, true, c);
         return 0;
     }
-    static int Scalar(const float* a, float* y, float* z) {
-        int st = InfNanScalar(a, y);
-        InfNanScalar(a, z);
-        return st;
-    }
+    static int Scalar(const float* a, float* y, float* z) { return InfNanScalar(a, y, z); }
 };
 
 } // namespace
