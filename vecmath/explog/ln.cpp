@@ -1,18 +1,17 @@
 /* Ln, single and double, three levels each.
  *
  * sLn: the branch-free split around 2/3 (log_core.h), then r + r^2*Q(r) with Q of 4
- * (EP), 8 (LA, fitted) or 9 (HA) coefficients, plus k*ln2 (in two parts at HA, with the
- * sums carried exactly so that only the last one rounds). x = 1 gives k = 0 and r = 0:
- * exactly +0 at every level. Measured over every float: EP 12.8 bits, LA and HA below
- * their 4 and 1 ulp.
+ * (EP), 8 (LA) or 9 (HA) coefficients, plus k*ln2 (in two parts at HA, with the sums
+ * carried exactly so that only the last one rounds). x = 1 gives k = 0 and r = 0:
+ * exactly +0 at every level.
  * dLn: the 513-row reciprocal table with |r| <= 2^-10 (log_core.h); EP a cubic without
- * the low parts (about 33 bits); LA and HA degree 5 with ln 2 and the table logarithm
- * in two parts, the tail summed before the exact head (about 0.5 ulp): the table's
- * 2^-42 grid leaves no cheaper form within 4 ulp, so LA is the same arithmetic.
- * Scalar routines: log_scalar.h (zero: -inf, status 2; negative: NaN, status 1;
- * denormals their correct logarithm, status 0). */
-#include <initializer_list>
-
+ * the low parts; LA and HA degree 5 with ln 2 and the table logarithm in two parts,
+ * the tail summed before the exact head: the table's 2^-42 grid leaves no cheaper
+ * form within 4 ulp, so LA is the same arithmetic.
+ * Measured (brenn_accuracy, worst of its inputs): sLn EP 12.8 bits, LA 1.20 ulp, HA
+ * 0.83 ulp; dLn EP 32.7 bits, LA and HA 0.91 ulp.
+ * Scalar routines: log_scalar.h (zero: -inf, singularity; negative: NaN, domain;
+ * denormals their correct logarithm). */
 #include "frame/kernels.h"
 #include "vecmath/explog/log_scalar.h"
 #include "vecmath/frame/kernel_frame.h"
@@ -20,108 +19,77 @@
 namespace brenn::vm {
 namespace {
 
-inline __m128 Poly(__m128 r, std::initializer_list<float> c) {
-    // Horner from the highest coefficient down.
-    const float* b = c.begin();
-    int n = int(c.size());
-    __m128 p = _mm_set1_ps(b[n - 1]);
-    for (int i = n - 2; i >= 0; --i)
-        p = _mm_add_ps(_mm_set1_ps(b[i]), _mm_mul_ps(r, p));
-    return p;
-}
+// Q(r) of the single body at LA and HA, on r in [-1/3, 1/3), both fitted by
+// tools/explog/ln_single.sollya (LA about 2^-25.1). At HA the two low coefficients
+// are Horner steps after the seven high ones.
+constexpr float kLnLA[] = {-0x1.ffffd6p-2f, 0x1.5554fcp-2f, -0x1.00144ep-2f, 0x1.99d398p-3f,
+                           -0x1.5038e4p-3f, 0x1.1eaacap-3f, -0x1.3b0c36p-3f, 0x1.1f1bb8p-3f};
+constexpr float kLnHALow[] = {-0x1p-1f, 0x1.555502p-2f};
+constexpr float kLnHAHigh[] = {-0x1.ffff14p-3f, 0x1.99d1c6p-3f, -0x1.559804p-3f, 0x1.1ec0dp-3f,
+                               -0x1.f3a788p-4f, 0x1.1ec6ep-3f,  -0x1.06cedcp-3f};
 
-// c0 + c1*r.
-inline __m128 Pair(__m128 r, float c0, float c1) {
-    return _mm_add_ps(_mm_set1_ps(c0), _mm_mul_ps(r, _mm_set1_ps(c1)));
-}
-
-struct LnBaseS {
-    using T = float;
-    static constexpr const char* kName = ZAR_ERROR_NAME(sLn);
-    static int Scalar(const float* a, float* y) {
-        return LogScalar<float>(*a, y, [](float v) { return float(LnScalarD(double(v))); });
-    }
-};
-
-struct LnEPs : LnBaseS {
-    static __m128 Eval(__m128 x, __m128& special) {
-        special = LogTestS(x);
-        __m128 r, k;
-        LogSplitS(x, r, k);
-        __m128 q = Poly(r, {-0.5f, 0.332896233f, -0.267402589f, 0.219883725f});
-        __m128 p = _mm_add_ps(r, _mm_mul_ps(_mm_mul_ps(r, r), q));
-        return _mm_add_ps(p, _mm_mul_ps(k, _mm_set1_ps(0.693147182f)));
-    }
-};
-
-struct LnLAs : LnBaseS {
-    static __m128 Eval(__m128 x, __m128& special) {
-        special = LogTestS(x);
-        __m128 r, k;
-        LogSplitS(x, r, k);
-        // Eight coefficients fitted by tools/explog/ln_single.sollya (2^-25.1); Estrin's
-        // scheme, so that the chain is four steps deep and not eight: the body is bound by
-        // that latency, not by the arithmetic.
-        __m128 r2 = _mm_mul_ps(r, r), r4 = _mm_mul_ps(r2, r2);
-        __m128 p01 = Pair(r, -0.4999993741512298583984375f, 0.333332002162933349609375f);
-        __m128 p23 = Pair(r, -0.2500774562358856201171875f, 0.200110614299774169921875f);
-        __m128 p45 = Pair(r, -0.1641710102558135986328125f, 0.13997419178485870361328125f);
-        __m128 p67 = Pair(r, -0.15383188426494598388671875f, 0.140189588069915771484375f);
-        __m128 q = _mm_add_ps(_mm_add_ps(p01, _mm_mul_ps(r2, p23)),
-                              _mm_mul_ps(r4, _mm_add_ps(p45, _mm_mul_ps(r2, p67))));
-        __m128 p = _mm_add_ps(r, _mm_mul_ps(r2, q));
-        return _mm_add_ps(p, _mm_mul_ps(k, _mm_set1_ps(0.693147182f)));
-    }
-};
-
-struct LnHAs : LnBaseS {
-    static __m128 Eval(__m128 x, __m128& special) {
-        special = LogTestS(x);
-        __m128 r, k;
-        LogSplitS(x, r, k);
+// Single: the split around 2/3 and r + r^2*Q(r) + k*ln2. LA uses Estrin's scheme, so
+// that the chain is four steps deep and not eight: the body is bound by that latency,
+// not by the arithmetic.
+template <Level L>
+inline __m128 LnOf(__m128 x) {
+    using K = LogConst<float>;
+    __m128 r, k;
+    LogSplit(x, r, k);
+    if constexpr (L != Level::HA) {
+        __m128 q = L == Level::EP ? Horner(r, K::kLnEP) : Estrin(r, kLnLA);
+        __m128 p = Add(r, Mul(Mul(r, r), q));
+        return Add(p, Mul(k, Set<float>(K::kLn2)));
+    } else {
         // The seven high coefficients by Estrin's scheme (their rounding is scaled down
         // by r^2), the two low ones by Horner steps, so that Q's error is about the last
         // step's half ulp while the chain stays short.
-        __m128 r2 = _mm_mul_ps(r, r), r4 = _mm_mul_ps(r2, r2);
-        __m128 h =
-            _mm_add_ps(_mm_add_ps(Pair(r, -0.249997973f, 0.200104058f),
-                                  _mm_mul_ps(r2, Pair(r, -0.16680488f, 0.140058696f))),
-                       _mm_mul_ps(r4, _mm_add_ps(Pair(r, -0.121842608f, 0.139844373f),
-                                                 _mm_mul_ps(r2, _mm_set1_ps(-0.12891686f)))));
-        __m128 q = _mm_add_ps(_mm_set1_ps(0.333332151f), _mm_mul_ps(r, h));
-        q = _mm_add_ps(_mm_set1_ps(-0.5f), _mm_mul_ps(r, q));
-        // k*ln2hi + r is carried exactly with its rounding error (Fast2Sum: |k*ln2hi| is
-        // above |r| whenever k is not 0, and for k = 0 the sum is r itself), and r^2*Q
-        // and k*ln2lo join that error, so that only the last addition rounds at the
-        // result's scale: near x = 2/3, where p = r + r^2*Q is of the result's size, two
-        // roundings would otherwise reach an ulp. Carrying the sum at r rather than at p
-        // takes one exact step, not two.
-        __m128 kh = _mm_mul_ps(k, _mm_set1_ps(0.693145752f));
-        __m128 s = _mm_add_ps(kh, r);
-        __m128 e = _mm_add_ps(_mm_sub_ps(kh, s), r);
+        __m128 r2 = Mul(r, r);
+        __m128 q = MulAdd(r, Estrin(r, kLnHAHigh), Set<float>(kLnHALow[1]));
+        q = MulAdd(r, q, Set<float>(kLnHALow[0]));
+        // k*ln2hi + r is carried exactly with its rounding error (|k*ln2hi| is above |r|
+        // whenever k is not 0, and for k = 0 the sum is r itself), and r^2*Q and
+        // k*ln2lo join that error, so that only the last addition rounds at the result's
+        // scale: near x = 2/3, where p = r + r^2*Q is of the result's size, two roundings
+        // would otherwise reach an ulp. Carrying the sum at r rather than at p takes one
+        // exact step, not two.
+        __m128 s, e;
+        FastTwoSum(Mul(k, Set<float>(K::kLn2Hi)), r, s, e);
         // The terms that are ready early are summed first: r^2*Q ends the longest chain.
-        __m128 lo = _mm_add_ps(_mm_add_ps(e, _mm_mul_ps(k, _mm_set1_ps(1.42860677e-06f))),
-                               _mm_mul_ps(r2, q));
-        return _mm_add_ps(s, lo);
+        __m128 lo = Add(Add(e, Mul(k, Set<float>(K::kLn2Lo))), Mul(r2, q));
+        return Add(s, lo);
     }
-};
+}
 
-struct LnBaseD {
-    using T = double;
-    static constexpr const char* kName = ZAR_ERROR_NAME(dLn);
-    static int Scalar(const double* a, double* y) {
-        return LogScalar<double>(*a, y, [](double v) { return Fyl2x(v, kLn2L); });
+// Double: the core's head and tail. Special lanes run as they are: the core's m and k
+// are in range for any bits.
+template <Level L>
+inline __m128d LnOf(__m128d x) {
+    __m128d h, l;
+    LnCore<L>(x, h, l);
+    return Add(h, l);
+}
+
+// The value of the scalar routine: the double core rounded once (single), fyl2x times
+// ln 2 (double).
+inline float LnValue(float v) {
+    return float(LnScalarD(double(v)));
+}
+inline double LnValue(double v) {
+    return Fyl2x(v, kLn2L);
+}
+
+template <class Tp, Level L>
+struct LnBody {
+    using T = Tp;
+    using V = Vec<T>;
+    static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Ln);
+    static V Eval(V x, V& special) {
+        special = LogSpecial(x);
+        return LnOf<L>(x);
     }
-};
-
-template <LnLevel Lv>
-struct LnD : LnBaseD {
-    static __m128d Eval(__m128d x, __m128d& special) {
-        special = LogTestD(x);
-        __m128d h, l;
-        // Special lanes run as they are: the core's m and k are in range for any bits.
-        LnCoreD<Lv>(x, h, l);
-        return _mm_add_pd(h, l);
+    static int Scalar(const T* a, T* y) {
+        return LogScalar<T>(*a, y, [](T v) { return LnValue(v); });
     }
 };
 
@@ -135,22 +103,10 @@ using namespace brenn::vm;
 #define BRENN_FLAT __attribute__((flatten))
 
 extern "C" {
-void ZAR_KERNEL(sLn, EP) BRENN_SIG(s, Unary) {
-    RunUnary(LnEPs{}, n, a, y);
-}
-BRENN_FLAT void ZAR_KERNEL(sLn, LA) BRENN_SIG(s, Unary) {
-    RunUnary(LnLAs{}, n, a, y);
-}
-BRENN_FLAT void ZAR_KERNEL(sLn, HA) BRENN_SIG(s, Unary) {
-    RunUnary(LnHAs{}, n, a, y);
-}
-void ZAR_KERNEL(dLn, EP) BRENN_SIG(d, Unary) {
-    RunUnary(LnD<LnLevel::EP>{}, n, a, y);
-}
-BRENN_FLAT void ZAR_KERNEL(dLn, LA) BRENN_SIG(d, Unary) {
-    RunUnary(LnD<LnLevel::LA>{}, n, a, y);
-}
-BRENN_FLAT void ZAR_KERNEL(dLn, HA) BRENN_SIG(d, Unary) {
-    RunUnary(LnD<LnLevel::HA>{}, n, a, y);
-}
+ZAR_KERNEL_OF(s, Ln, EP, Unary, LnBody<float, Level::EP>)
+BRENN_FLAT ZAR_KERNEL_OF(s, Ln, LA, Unary, LnBody<float, Level::LA>) BRENN_FLAT
+    ZAR_KERNEL_OF(s, Ln, HA, Unary, LnBody<float, Level::HA>)
+        ZAR_KERNEL_OF(d, Ln, EP, Unary, LnBody<double, Level::EP>) BRENN_FLAT
+    ZAR_KERNEL_OF(d, Ln, LA, Unary, LnBody<double, Level::LA>) BRENN_FLAT
+    ZAR_KERNEL_OF(d, Ln, HA, Unary, LnBody<double, Level::HA>)
 }

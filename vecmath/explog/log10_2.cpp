@@ -1,145 +1,130 @@
 /* Log10 and Log2, single and double.
  *
- * Single EP and LA: the split around 2/3 of log_core.h and r*Q(r) with Q of 5 (EP) or 9
- * (LA) coefficients fitted for the base (tools/explog/log_single.sollya; EP Log10 keeps
- * the row's own), plus k*log10(2) (two parts at LA) or k itself. Single HA: the lanes
- * widened to double, ln by the double core at EP (about 2^-33) times the base's
- * constant, rounded once.
+ * Single EP and LA: the split around 2/3 of log_core.h and r*P(r) with P of 5 (EP) or 9
+ * (LA) coefficients fitted for the base, plus k*log10(2) (two parts at LA) or k itself.
+ * Single HA: the lanes widened to double, ln by the double core at EP (about 2^-33)
+ * times the base's constant, rounded once.
  * Double: ln as the head and tail of the double core, then times log10(e) or log2(e):
- * plainly for LA and EP, and at HA with the product carried exactly (ScaleLogD).
+ * plainly for LA and EP, and at HA with the product carried exactly (ScaleLog).
+ * Measured (brenn_accuracy, worst of its inputs): sLog10 EP 14.0 bits, LA 1.81 ulp,
+ * HA 0.50 ulp; sLog2 EP 13.8 bits, LA 2.35 ulp, HA 0.50 ulp; dLog10 LA and EP 1.58 ulp
+ * (51.8 bits), HA 0.83 ulp; dLog2 EP 32.6 bits, LA 1.42 ulp, HA 0.78 ulp.
  * Scalar routines: log_scalar.h; the double ones by fyl2x with log10(2) or 1. */
 #include "frame/kernels.h"
-#include "vecmath/explog/log_poly.h"
 #include "vecmath/explog/log_scalar.h"
 #include "vecmath/frame/kernel_frame.h"
 
 namespace brenn::vm {
 namespace {
 
-constexpr double kLog10eD = 0.43429448190325181666793241674895398318767547607421875;
-constexpr double kLog2eD = 1.442695040888963387004650940070860087871551513671875;
-
-// Single scalar routines: the double ln times the base's constant, rounded once.
 template <int Base>
-int LogScalarS(const float* a, float* y) {
-    return LogScalar<float>(*a, y, [](float v) {
-        double l = LnScalarD(double(v));
-        return float(Base == 10 ? l * kLog10eD : l * kLog2eD);
-    });
-}
+struct LogBase;
 
-template <int Base>
-int LogScalarD(const double* a, double* y) {
-    return LogScalar<double>(*a, y,
-                             [](double v) { return Fyl2x(v, Base == 10 ? kLog10Of2L : 1.0L); });
-}
-
-struct Log10EPs {
-    using T = float;
-    static constexpr const char* kName = ZAR_ERROR_NAME(sLog10);
-    static int Scalar(const float* a, float* y) { return LogScalarS<10>(a, y); }
-    static __m128 Eval(__m128 x, __m128& special) {
-        special = LogTestS(x);
-        __m128 r, k;
-        LogSplitS(x, r, k);
-        __m128 p = _mm_mul_ps(
-            r, PolyS(r, {0.43430084f, -0.216831714f, 0.144034356f, -0.119593509f, 0.100466065f}));
-        return _mm_add_ps(p, _mm_mul_ps(k, _mm_set1_ps(0.30103001f)));
-    }
+template <>
+struct LogBase<10> {
+    // log10(e), and as a 26-bit head and the rest for ScaleLog.
+    static constexpr double kPerLn = 0x1.bcb7b1526e50ep-2;
+    static constexpr double kPerLnHi = 0x1.bcb7b18p-2, kPerLnLo = -0x1.6c8d78e6acaa4p-29;
+    // The factor of fyl2x: log10(2).
+    static constexpr long double kOfLog2 = kLog10Of2L;
+    // Single: P(r) of log10(1 + r) = r*P(r) on r in [-1/3, 1/3). LA fitted by
+    // tools/explog/log_single.sollya; EP keeps its own set (that script prints it and its
+    // error beside the fit, which measures 13.8 bits against this set's 14.0).
+    static constexpr float kEP[] = {0x1.bcb95cp-2f, -0x1.bc1244p-3f, 0x1.26fb7cp-3f,
+                                    -0x1.e9dae2p-4f, 0x1.9b824ep-4f};
+    static constexpr float kLA[] = {0x1.bcb7b2p-2f,  -0x1.bcb78ap-3f, 0x1.28798cp-3f,
+                                    -0x1.bcdc26p-4f, 0x1.641fa2p-4f,  -0x1.23f7d8p-4f,
+                                    0x1.ee5948p-5f,  -0x1.11f9ccp-4f, 0x1.00a40ep-4f};
+    // log10(2) for k: rounded (EP), and as a head whose product with k is exact and the
+    // rest (LA).
+    static constexpr float kPerK = 0x1.344136p-2f;
+    static constexpr float kPerKHi = 0x1.3442p-2f, kPerKLo = -0x1.95ec1p-19f;
 };
 
-struct Log10LAs {
-    using T = float;
-    static constexpr const char* kName = ZAR_ERROR_NAME(sLog10);
-    static int Scalar(const float* a, float* y) { return LogScalarS<10>(a, y); }
-    static __m128 Eval(__m128 x, __m128& special) {
-        special = LogTestS(x);
-        __m128 r, k;
-        LogSplitS(x, r, k);
-        __m128 p =
-            _mm_mul_ps(r, PolyS(r, {0.4342944920063018798828125f, -0.21714694797992706298828125f,
-                                    0.1447630822658538818359375f, -0.108608387410640716552734375f,
-                                    8.6944229900836944580078125e-2f, -7.12812840938568115234375e-2f,
-                                    6.034530699253082275390625e-2f, -6.688861548900604248046875e-2f,
-                                    6.2656454741954803466796875e-2f}));
-        __m128 lo = _mm_add_ps(_mm_mul_ps(k, _mm_set1_ps(-3.0243555500519825e-06f)), p);
-        return _mm_add_ps(lo, _mm_mul_ps(k, _mm_set1_ps(0.30103302001953125f)));
-    }
+template <>
+struct LogBase<2> {
+    static constexpr double kPerLn = 0x1.71547652b82fep0;
+    static constexpr double kPerLnHi = 0x1.7154768p0, kPerLnLo = -0x1.6a3e80f444178p-27;
+    static constexpr long double kOfLog2 = 1.0L;
+    // Fitted by tools/explog/log_single.sollya.
+    static constexpr float kEP[] = {0x1.715508p0f, -0x1.70cb38p-1f, 0x1.eae082p-2f, -0x1.96cd6ap-2f,
+                                    0x1.4d736p-2f};
+    static constexpr float kLA[] = {0x1.715476p0f,   -0x1.715456p-1f, 0x1.ec70c6p-2f,
+                                    -0x1.717298p-2f, 0x1.278a7p-2f,   -0x1.e4f75ep-3f,
+                                    0x1.9fb0f6p-3f,  -0x1.c6faf6p-3f, 0x1.95a2acp-3f};
+    // k is log2's own integer part: times 1, which the compiler drops.
+    static constexpr float kPerK = 1.0f;
+    static constexpr float kPerKHi = 1.0f, kPerKLo = 0.0f;
 };
 
-struct Log2EPs {
-    using T = float;
-    static constexpr const char* kName = ZAR_ERROR_NAME(sLog2);
-    static int Scalar(const float* a, float* y) { return LogScalarS<2>(a, y); }
-    static __m128 Eval(__m128 x, __m128& special) {
-        special = LogTestS(x);
-        __m128 r, k;
-        LogSplitS(x, r, k);
-        __m128 p =
-            _mm_mul_ps(r, PolyS(r, {1.442703723907470703125f, -0.7203004360198974609375f,
-                                    0.4793720543384552001953125f, -0.3972679674625396728515625f,
-                                    0.325635433197021484375f}));
-        return _mm_add_ps(p, k);
-    }
-};
-
-struct Log2LAs {
-    using T = float;
-    static constexpr const char* kName = ZAR_ERROR_NAME(sLog2);
-    static int Scalar(const float* a, float* y) { return LogScalarS<2>(a, y); }
-    static __m128 Eval(__m128 x, __m128& special) {
-        special = LogTestS(x);
-        __m128 r, k;
-        LogSplitS(x, r, k);
-        __m128 p =
-            _mm_mul_ps(r, PolyS(r, {1.44269502162933349609375f, -0.721346557140350341796875f,
-                                    0.4808989465236663818359375f, -0.36078870296478271484375f,
-                                    0.2886140346527099609375f, -0.23679994046688079833984375f,
-                                    0.20297424495220184326171875f, -0.22215835750102996826171875f,
-                                    0.1980641782283782958984375f}));
-        return _mm_add_ps(p, k);
-    }
-};
-
-// Single HA: in double on the EP core.
-template <int Base>
-struct LogHAs {
-    using T = float;
-    static constexpr const char* kName =
-        Base == 10 ? ZAR_ERROR_NAME(sLog10) : ZAR_ERROR_NAME(sLog2);
-    static int Scalar(const float* a, float* y) { return LogScalarS<Base>(a, y); }
-    static __m128 Eval(__m128 x, __m128& special) {
-        special = LogTestS(x);
-        __m128 xx = _mm_blendv_ps(x, _mm_set1_ps(1.0f), special);
+// Single EP and LA: r*P(r) + k times the base's log of 2; HA in double on the EP core.
+template <int Base, Level L>
+inline __m128 LogOf(__m128 x, __m128 special) {
+    using K = LogBase<Base>;
+    if constexpr (L == Level::HA) {
+        __m128 xx = IfThenElse(special, Set<float>(1.0f), x);
         return WidenToDouble(xx, [](__m128d v) {
             __m128d h, l;
-            LnCoreD<LnLevel::EP>(v, h, l);
-            return _mm_mul_pd(_mm_add_pd(h, l), _mm_set1_pd(Base == 10 ? kLog10eD : kLog2eD));
+            LnCore<Level::EP>(v, h, l);
+            return Mul(Add(h, l), Set<double>(K::kPerLn));
         });
-    }
-};
-
-enum class Scale { Plain, Exact };
-
-template <int Base, LnLevel Lv, Scale Sc>
-struct LogD {
-    using T = double;
-    static constexpr const char* kName =
-        Base == 10 ? ZAR_ERROR_NAME(dLog10) : ZAR_ERROR_NAME(dLog2);
-    static int Scalar(const double* a, double* y) { return LogScalarD<Base>(a, y); }
-    static __m128d Eval(__m128d x, __m128d& special) {
-        special = LogTestD(x);
-        __m128d h, r, t;
-        LnCoreD3<Lv>(_mm_blendv_pd(x, _mm_set1_pd(1.0), special), h, r, t);
-        if constexpr (Sc == Scale::Exact) {
-            return Base == 10 ? ScaleLogD(h, r, t, kLog10eHi, kLog10eLo)
-                              : ScaleLogD(h, r, t, kLog2eHi, kLog2eLo);
+    } else {
+        __m128 r, k;
+        LogSplit(x, r, k);
+        __m128 p = Mul(r, L == Level::EP ? Horner(r, K::kEP) : Horner(r, K::kLA));
+        if constexpr (L == Level::LA && K::kPerKLo != 0) {
+            __m128 lo = Add(Mul(k, Set<float>(K::kPerKLo)), p);
+            return Add(lo, Mul(k, Set<float>(K::kPerKHi)));
         } else {
-            __m128d l = _mm_add_pd(h, _mm_add_pd(r, t));
-            return _mm_mul_pd(l, _mm_set1_pd(Base == 10 ? kLog10eD : kLog2eD));
+            return Add(p, Mul(k, Set<float>(K::kPerK)));
         }
     }
+}
+
+// Double: the core (the cubic at EP, degree 5 otherwise) on x, special lanes on 1, and
+// the product with the base's constant, carried exactly at HA.
+template <int Base, Level L>
+inline __m128d LogOf(__m128d x, __m128d special) {
+    using K = LogBase<Base>;
+    __m128d h, r, t;
+    LnCore3<L>(IfThenElse(special, Set<double>(1.0), x), h, r, t);
+    if constexpr (L == Level::HA) {
+        return ScaleLog(h, r, t, K::kPerLnHi, K::kPerLnLo);
+    } else {
+        __m128d l = Add(h, Add(r, t));
+        return Mul(l, Set<double>(K::kPerLn));
+    }
+}
+
+// The value of the scalar routine: the double ln times the base's constant, rounded
+// once (single); fyl2x (double).
+template <int Base>
+inline float LogValue(float v) {
+    return float(LnScalarD(double(v)) * LogBase<Base>::kPerLn);
+}
+template <int Base>
+inline double LogValue(double v) {
+    return Fyl2x(v, LogBase<Base>::kOfLog2);
+}
+
+template <class Tp, Level L, int Base>
+struct LogBody {
+    using T = Tp;
+    using V = Vec<T>;
+    static constexpr const char* kName =
+        Base == 10 ? ZAR_ERROR_NAME_OF(T, Log10) : ZAR_ERROR_NAME_OF(T, Log2);
+    static V Eval(V x, V& special) {
+        special = LogSpecial(x);
+        return LogOf<Base, L>(x, special);
+    }
+    static int Scalar(const T* a, T* y) {
+        return LogScalar<T>(*a, y, [](T v) { return LogValue<Base>(v); });
+    }
 };
+template <class T, Level L>
+using Log10Body = LogBody<T, L, 10>;
+template <class T, Level L>
+using Log2Body = LogBody<T, L, 2>;
 
 } // namespace
 } // namespace brenn::vm
@@ -147,37 +132,10 @@ struct LogD {
 using namespace brenn::vm;
 
 extern "C" {
-void ZAR_KERNEL(sLog10, EP) BRENN_SIG(s, Unary) {
-    RunUnary(Log10EPs{}, n, a, y);
-}
-void ZAR_KERNEL(sLog10, LA) BRENN_SIG(s, Unary) {
-    RunUnary(Log10LAs{}, n, a, y);
-}
-void ZAR_KERNEL(sLog10, HA) BRENN_SIG(s, Unary) {
-    RunUnary(LogHAs<10>{}, n, a, y);
-}
-void ZAR_KERNEL(sLog2, EP) BRENN_SIG(s, Unary) {
-    RunUnary(Log2EPs{}, n, a, y);
-}
-void ZAR_KERNEL(sLog2, LA) BRENN_SIG(s, Unary) {
-    RunUnary(Log2LAs{}, n, a, y);
-}
-void ZAR_KERNEL(sLog2, HA) BRENN_SIG(s, Unary) {
-    RunUnary(LogHAs<2>{}, n, a, y);
-}
-void ZAR_KERNEL(dLog10, LaEp) BRENN_SIG(d, Unary) {
-    RunUnary(LogD<10, LnLevel::HA, Scale::Plain>{}, n, a, y);
-}
-void ZAR_KERNEL(dLog10, HA) BRENN_SIG(d, Unary) {
-    RunUnary(LogD<10, LnLevel::HA, Scale::Exact>{}, n, a, y);
-}
-void ZAR_KERNEL(dLog2, EP) BRENN_SIG(d, Unary) {
-    RunUnary(LogD<2, LnLevel::EP, Scale::Plain>{}, n, a, y);
-}
-void ZAR_KERNEL(dLog2, LA) BRENN_SIG(d, Unary) {
-    RunUnary(LogD<2, LnLevel::HA, Scale::Plain>{}, n, a, y);
-}
-void ZAR_KERNEL(dLog2, HA) BRENN_SIG(d, Unary) {
-    RunUnary(LogD<2, LnLevel::HA, Scale::Exact>{}, n, a, y);
-}
+ZAR_LEVEL_KERNELS(s, Log10, Unary, Log10Body)
+ZAR_LEVEL_KERNELS(s, Log2, Unary, Log2Body)
+// One double Log10 kernel for LA and EP: the degree-5 core, plainly scaled.
+ZAR_KERNEL_OF(d, Log10, LaEp, Unary, Log10Body<double, Level::LA>)
+ZAR_KERNEL_OF(d, Log10, HA, Unary, Log10Body<double, Level::HA>)
+ZAR_LEVEL_KERNELS(d, Log2, Unary, Log2Body)
 }

@@ -1,5 +1,7 @@
 /* Shared pieces of the logarithm family.
  *
+ * Range: every lane that is not a positive normal (zero, denormal, negative, infinite,
+ * NaN) goes to the scalar routine; the window is per type in LogConst.
  * Single split: x = 2^k * m with m in [2/3, 4/3), by integer arithmetic on the bits
  * around the centre 0x3F2AAAAB (2/3), so that for x near 1 k is 0 and r = m - 1 is
  * exact: no cancellation.
@@ -13,124 +15,129 @@
 #define BRENN_VECMATH_EXPLOG_LOG_CORE_H
 
 #include "vecmath/explog/explog_tables.h"
-#include "vecmath/frame/simd.h"
+#include "vecmath/frame/level.h"
+#include "vecmath/frame/scalar.h"
+#include "vecmath/frame/vec.h"
 
 namespace brenn::vm {
 
-constexpr double kLn2HiD = 0.69314718055989033; // 0x3FE62E42FEFA3800
-constexpr double kLn2LoD = 5.4979230187083712e-14;
-// log10(e) and log2(e) as a 26-bit head and the rest, for ScaleLogD.
-constexpr double kLog10eHi = 0.434294484555721282958984375, kLog10eLo = -2.6524694553078553e-9;
-constexpr double kLog2eHi = 1.4426950514316558837890625, kLog2eLo = -1.0542692476429138e-8;
+template <class T>
+struct LogConst;
 
-// Single: (bits(x) + 0x800000) signed below 0x1000000: zero, denormal, negative,
-// infinite or NaN.
-inline __m128 LogTestS(__m128 x) {
-    __m128i b = _mm_add_epi32(_mm_castps_si128(x), _mm_set1_epi32(0x800000));
-    return _mm_castsi128_ps(_mm_cmpgt_epi32(_mm_set1_epi32(0x1000000), b));
+template <>
+struct LogConst<float> {
+    // All but the positive normals: bits below 0x00800000 or at 0x7F800000 and above.
+    static constexpr Range32 kPositiveNormal{0xFFFFFFFFu, 0x7F800000u, 0xFEFFFFFFu};
+    // ln 2 rounded, and in two parts whose head times k (|k| < 2^8) is exact.
+    static constexpr float kLn2 = 0x1.62e43p-1f;
+    static constexpr float kLn2Hi = 0x1.62e4p-1f, kLn2Lo = 0x1.7f7d1cp-20f;
+    // Q(r) of ln(1 + r) = r + r^2*Q(r) at EP (sLn and sLog1p), on r in [-1/3, 1/3);
+    // fitted by tools/explog/ln_single.sollya (EP), about 2^-13.
+    static constexpr float kLnEP[] = {-0x1p-1f, 0x1.54e2aep-2f, -0x1.11d1fcp-2f, 0x1.c253d6p-3f};
+};
+
+template <>
+struct LogConst<double> {
+    static constexpr Range64 kPositiveNormal{0xFFFFFFFFFFFFFFFFull, 0x7FF0000000000000ull,
+                                             0xFFDFFFFFFFFFFFFFull};
+    // ln 2 as a head on the 2^-42 grid (k times it, and its sum with a row's head, are
+    // exact) and the rest.
+    static constexpr double kLn2Hi = 0x1.62e42fefa38p-1, kLn2Lo = 0x1.ef35793c7673p-45;
+    // P(r) of ln(1 + r) = r + r^2*P(r) on |r| <= 2^-10, fitted by
+    // tools/explog/ln_double.sollya: EP degree 3 (about 2^-33 with the rest of the
+    // core), LA and HA degree 5.
+    static constexpr double kCoreEP[] = {-0x1.000005ffedcddp-1, 0x1.5555602210279p-2};
+    static constexpr double kCore[] = {-0x1.ffffffffffcabp-2, 0x1.555555555512dp-2,
+                                       -0x1.00000d54efc6fp-2, 0x1.9999b38894dd2p-3};
+};
+
+// The lanes that are not positive normals. The window's limit is kept from the
+// optimiser, which would otherwise compare with the limit plus one and negate (two
+// instructions, not one).
+template <class V>
+inline V LogSpecial(V x) {
+    using T = ElemOf<V>;
+    constexpr LaneRange<T> w = LogConst<T>::kPositiveNormal;
+    return AsFloat(Gt(Add(AsInt(x), Set<UInt<T>>(w.offset)), Opaque(Set<UInt<T>>(w.limit))));
 }
 
-inline void LogSplitS(__m128 x, __m128& r, __m128& k) {
-    const __m128i c = _mm_set1_epi32(0x3F2AAAAB);
-    __m128i d = _mm_sub_epi32(_mm_castps_si128(x), c);
-    k = _mm_cvtepi32_ps(_mm_srai_epi32(d, 23));
-    __m128i m = _mm_add_epi32(_mm_and_si128(d, _mm_set1_epi32(0x7FFFFF)), c);
-    r = _mm_sub_ps(_mm_castsi128_ps(m), _mm_set1_ps(1.0f));
+// Single: x = 2^k * (1 + r), m = 1 + r in [2/3, 4/3).
+inline void LogSplit(__m128 x, __m128& r, __m128& k) {
+    using F = Format<float>;
+    const I32x4 c = Set<uint32_t>(0x3F2AAAABu);
+    I32x4 d = Sub(AsInt(x), c);
+    k = ToFloat(ShiftRightSigned<F::kMantBits>(d));
+    I32x4 m = Add(And(d, Set<uint32_t>(F::kMant)), c);
+    r = Sub(AsFloat(m), Set<float>(1.0f));
 }
 
-// Double: anything but a positive normal (zero, denormal, negative, infinite, NaN).
-// bits(x) + 0x7FF0000000000000 (wrapping) signed above 0xFFDFFFFFFFFFFFFF. The limit is
-// passed through an empty asm so that the compiler keeps the one pcmpgtq and does not
-// turn it into a compare with the limit plus one and a negation.
-inline __m128d LogTestD(__m128d x) {
-    __m128i b = _mm_add_epi64(_mm_castpd_si128(x), _mm_set1_epi64x(0x7FF0000000000000ll));
-    __m128i limit = _mm_set1_epi64x(int64_t(0xFFDFFFFFFFFFFFFFull));
-    asm("" : "+x"(limit));
-    return _mm_castsi128_pd(_mm_cmpgt_epi64(b, limit));
-}
-
-enum class LnLevel { EP, LA, HA };
-
-// ln x = H + L for positive normal x, two lanes. EP: cubic, no tails (about 2^-33).
-// As three terms for the exact scaling: ln x = h + r + t, h exact, |t| << |r|.
-template <LnLevel Lv>
-inline void LnCoreD3(__m128d x, __m128d& h, __m128d& r, __m128d& t) {
-    const __m128i xi = _mm_castpd_si128(x);
-    __m128d m =
-        _mm_castsi128_pd(_mm_or_si128(_mm_and_si128(xi, _mm_set1_epi64x(0x000FFFFFFFFFFFFFll)),
-                                      _mm_set1_epi64x(0x3FF0000000000000ll)));
+// ln x = h + r + t for positive normal x, two lanes, h exact and |t| << |r|: the three
+// terms for the exact scaling. EP: cubic and no low parts (about 2^-33).
+template <Level L>
+inline void LnCore3(__m128d x, __m128d& h, __m128d& r, __m128d& t) {
+    using F = Format<double>;
+    using K = LogConst<double>;
+    const I64x2 xi = AsInt(x);
+    __m128d m = AsFloat(Or(And(xi, Set<uint64_t>(F::kMant)), Set<uint64_t>(F::kOne)));
     // k without a conversion: the exponent field put under the bits of 2^52, less
     // 2^52 + 1023 (exact). Any input gives a finite k and an m in [1, 2), so special
     // lanes need no blend: their results are discarded.
-    __m128i e = _mm_srli_epi64(xi, 52);
-    __m128d k = _mm_sub_pd(_mm_castsi128_pd(_mm_or_si128(e, _mm_set1_epi64x(0x4330000000000000ll))),
-                           _mm_set1_pd(4503599627371519.0));
-    const __m128d sh = _mm_set1_pd(8796093022208.0); // 2^43: rounds m to 2^-9
-    __m128d ts = _mm_add_pd(m, sh);
-    __m128d mh = _mm_sub_pd(ts, sh);
-    __m128d ml = _mm_sub_pd(m, mh);
-    __m128i ti = _mm_castpd_si128(ts);
-    const double* ra = lnRows[_mm_cvtsi128_si32(ti) - 512];
-    const double* rb = lnRows[_mm_extract_epi32(ti, 2) - 512];
-    __m128d a0 = _mm_load_pd(ra), b0 = _mm_load_pd(rb);
-    __m128d a1 = _mm_load_pd(ra + 2), b1 = _mm_load_pd(rb + 2);
-    __m128d rcp = _mm_unpacklo_pd(a0, b0), th = _mm_unpackhi_pd(a0, b0);
-    __m128d tl = _mm_unpacklo_pd(a1, b1);
-    r = _mm_add_pd(_mm_sub_pd(_mm_mul_pd(mh, rcp), _mm_set1_pd(1.0)), _mm_mul_pd(ml, rcp));
-    __m128d r2 = _mm_mul_pd(r, r);
-    __m128d p;
-    if constexpr (Lv == LnLevel::EP) {
-        // tools/explog/ln_double.sollya
-        p = _mm_add_pd(
-            _mm_set1_pd(-0.50000017880565972294704124578856863081455230712890625),
-            _mm_mul_pd(r, _mm_set1_pd(0.333333494261786322798712944859289564192295074462890625)));
+    I64x2 e = ShiftRight<F::kMantBits>(xi);
+    __m128d k = Sub(AsFloat(Or(e, AsInt(Set<double>(0x1p52)))), Set<double>(0x1p52 + F::kBias));
+    const __m128d sh = Set<double>(0x1p43); // rounds m to 2^-9
+    __m128d ts = Add(m, sh);
+    __m128d mh = Sub(ts, sh);
+    __m128d ml = Sub(m, mh);
+    const I64x2 ti = AsInt(ts);
+    const double* ra = lnRows[LowWord<0>(ti) - 512];
+    const double* rb = lnRows[LowWord<1>(ti) - 512];
+    __m128d rcp, th, tl, pad;
+    LoadTransposed(ra, rb, rcp, th);
+    LoadTransposed(ra + 2, rb + 2, tl, pad);
+    r = Add(Sub(Mul(mh, rcp), Set<double>(1.0)), Mul(ml, rcp));
+    __m128d r2 = Mul(r, r);
+    if constexpr (L == Level::EP) {
+        __m128d p = Horner(r, K::kCoreEP);
         // The exact head keeps x just below 1 (k = -1, last row) free of cancellation.
-        h = _mm_add_pd(_mm_mul_pd(k, _mm_set1_pd(kLn2HiD)), th);
-        t = _mm_mul_pd(r2, p);
-        return;
+        h = Add(Mul(k, Set<double>(K::kLn2Hi)), th);
+        t = Mul(r2, p);
     } else {
         // Estrin's scheme: two independent pairs joined by r^2.
-        __m128d hi = _mm_add_pd(_mm_set1_pd(-0.25000019886943392),
-                                _mm_mul_pd(r, _mm_set1_pd(0.20000019344205111)));
-        __m128d lo = _mm_add_pd(_mm_set1_pd(-0.49999999999995254),
-                                _mm_mul_pd(r, _mm_set1_pd(0.33333333333327408)));
-        p = _mm_add_pd(lo, _mm_mul_pd(r2, hi));
+        __m128d p = Estrin(r, K::kCore);
+        h = Add(Mul(k, Set<double>(K::kLn2Hi)), th);
+        __m128d tail = Add(Mul(k, Set<double>(K::kLn2Lo)), tl);
+        t = Add(Mul(r2, p), tail);
     }
-    h = _mm_add_pd(_mm_mul_pd(k, _mm_set1_pd(kLn2HiD)), th);
-    __m128d tail = _mm_add_pd(_mm_mul_pd(k, _mm_set1_pd(kLn2LoD)), tl);
-    t = _mm_add_pd(_mm_mul_pd(r2, p), tail);
 }
 
-template <LnLevel Lv>
-inline void LnCoreD(__m128d x, __m128d& h, __m128d& l) {
+template <Level L>
+inline void LnCore(__m128d x, __m128d& h, __m128d& l) {
     __m128d r, t;
-    LnCoreD3<Lv>(x, h, r, t);
-    l = _mm_add_pd(r, t);
+    LnCore3<L>(x, h, r, t);
+    l = Add(r, t);
 }
 
-// Splits a into a high part of 26 bits and the rest (Veltkamp), for exact products.
-inline void SplitD(__m128d a, __m128d& hi, __m128d& lo) {
-    __m128d t = _mm_mul_pd(a, _mm_set1_pd(134217729.0));
-    hi = _mm_sub_pd(t, _mm_sub_pd(t, a));
-    lo = _mm_sub_pd(a, hi);
-}
-
-// (h + r + t) * (ch + cl) rounded once in effect: s*ch exactly (Dekker; ch has 26 bits, so
-// both partial products are exact), the rest as a small correction.
-inline __m128d ScaleLogD(__m128d h, __m128d r, __m128d t, double ch, double cl) {
-    // s + e = h + r + t, the sum h + r carried exactly (Knuth).
-    __m128d s = _mm_add_pd(h, r);
-    __m128d bb = _mm_sub_pd(s, h);
-    __m128d err = _mm_add_pd(_mm_sub_pd(h, _mm_sub_pd(s, bb)), _mm_sub_pd(r, bb));
-    __m128d e = _mm_add_pd(err, t);
+// (h + r + t) * (ch + cl) rounded once in effect: s*ch exactly (Dekker; ch has 26 bits,
+// so both partial products are exact), the rest as a small correction.
+inline __m128d ScaleLog(__m128d h, __m128d r, __m128d t, double ch, double cl) {
+    __m128d s, err;
+    TwoSum(h, r, s, err);
+    __m128d e = Add(err, t);
     __m128d sh, sl;
-    SplitD(s, sh, sl);
-    const __m128d c = _mm_set1_pd(ch);
-    __m128d ph = _mm_mul_pd(s, c);
-    __m128d pl = _mm_add_pd(_mm_sub_pd(_mm_mul_pd(sh, c), ph), _mm_mul_pd(sl, c));
-    __m128d corr = _mm_add_pd(
-        pl, _mm_add_pd(_mm_mul_pd(s, _mm_set1_pd(cl)), _mm_mul_pd(e, _mm_set1_pd(ch + cl))));
-    return _mm_add_pd(ph, corr);
+    Split(s, sh, sl);
+    const __m128d c = Set<double>(ch);
+    __m128d ph = Mul(s, c);
+    __m128d pl = Add(Sub(Mul(sh, c), ph), Mul(sl, c));
+    __m128d corr = Add(pl, Add(Mul(s, Set<double>(cl)), Mul(e, Set<double>(ch + cl))));
+    return Add(ph, corr);
+}
+
+// A single body that widens its lanes to double, runs Core on each half and rounds once.
+template <class Core>
+inline __m128 WidenToDouble(__m128 x, Core core) {
+    __m128d lo = core(WidenLower(x));
+    __m128d hi = core(WidenUpper(x));
+    return Narrow(lo, hi);
 }
 
 // Scalar ln in double for any input: NaN quieted, +inf, -inf for zero, NaN for negatives;
@@ -139,39 +146,51 @@ inline __m128d ScaleLogD(__m128d h, __m128d r, __m128d t, double ch, double cl) 
 // the row of lnTable128 for m's interval, r = (c*rcp - 1) + (m - c)*rcp with the first
 // product exact, the same polynomial, and k*ln2 and the row's logarithm in two parts
 // whose heads add exactly. Within 0.8 ulp of double (measured).
+// Coefficients c2..c8 of ln(1 + r) = r + r^2*P(r) on |r| <= 2^-7, fitted by
+// tools/explog/ln_scalar.sollya.
+constexpr double kLnScalarPoly[] = {-0x1p-1,
+                                    0x1.55555555555a9p-2,
+                                    -0x1.0000000000074p-2,
+                                    0x1.99999989bfa7ep-3,
+                                    -0x1.5555554387e92p-3,
+                                    0x1.24991e45c1cd4p-3,
+                                    -0x1.0006ba760b4d3p-3};
 inline double LnPolyScalar(double r) {
-    double p = -0.1250214602960357;
-    p = 0.1428756883852146 + r * p;
-    p = -0.1666666651884978 + r * p;
-    p = 0.19999999911565072 + r * p;
-    p = -0.25000000000003386 + r * p;
-    p = 0.33333333333334386 + r * p;
-    p = -0.5 + r * p;
+    const double* c = kLnScalarPoly;
+    double p = c[6];
+    p = c[5] + r * p;
+    p = c[4] + r * p;
+    p = c[3] + r * p;
+    p = c[2] + r * p;
+    p = c[1] + r * p;
+    p = c[0] + r * p;
     return r * r * p;
 }
 
 inline double LnScalarD(double x) {
+    using F = Format<double>;
+    using K = LogConst<double>;
     if (!(x > 0)) {
         if (x == 0) return -1.0 / (x * x);
         return (x - x) / (x - x); // negative or NaN: NaN (a NaN input quieted)
     }
     if (__builtin_isinf(x)) return x;
     double r = x - 1.0;
-    if (__builtin_fabs(r) <= 0.0078125) return r + LnPolyScalar(r);
+    if (__builtin_fabs(r) <= 0x1p-7) return r + LnPolyScalar(r);
     int bias = 0;
-    if (x < 2.2250738585072014e-308) {
-        x *= 1152921504606846976.0; // 2^60
+    if (x < 0x1p-1022) {
+        x *= 0x1p60;
         bias = -60;
     }
     uint64_t b = BitsOf(x);
-    double k = double(int(b >> 52) - 1023 + bias);
-    double m = DoubleOf((b & 0x000FFFFFFFFFFFFFull) | 0x3FF0000000000000ull);
+    double k = double(int(b >> F::kMantBits) - F::kBias + bias);
+    double m = DoubleOf((b & F::kMant) | F::kOne);
     int j = int((m - 1.0) * 128.0);
     const double* row = lnTable128[j];
-    double c = 1.0 + double(2 * j + 1) * 0.00390625; // exact
+    double c = 1.0 + double(2 * j + 1) * 0x1p-8; // exact
     r = (c * row[0] - 1.0) + (m - c) * row[0];
-    double head = k * kLn2HiD + row[1]; // exact: both on the 2^-42 grid
-    return head + (r + (LnPolyScalar(r) + (k * kLn2LoD + row[2])));
+    double head = k * K::kLn2Hi + row[1]; // exact: both on the 2^-42 grid
+    return head + (r + (LnPolyScalar(r) + (k * K::kLn2Lo + row[2])));
 }
 
 } // namespace brenn::vm

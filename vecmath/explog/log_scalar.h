@@ -1,14 +1,15 @@
 /* The scalar routines of the logarithm family, shared by Ln, Log10 and Log2 in both
- * types: NaN stays (quieted), +inf stays, -inf and negatives give NaN with status 1,
- * zero of either sign gives -inf with status 2 (by a division, which raises the
- * divide-by-zero flag), and a positive finite x (denormals included) the value of
- * `fn`, status 0. In double the value comes from the x87 fyl2x at extended precision;
- * in single from the double core, rounded once. */
+ * types: NaN stays (quieted), +inf stays, -inf and negatives give NaN with the domain
+ * status, zero of either sign gives -inf with the singularity status (by a division,
+ * which raises the divide-by-zero flag), and a positive finite x (denormals included)
+ * the value of `fn`. In double the value comes from the x87 fyl2x at extended
+ * precision; in single from the double core, rounded once. */
 #ifndef BRENN_VECMATH_EXPLOG_LOG_SCALAR_H
 #define BRENN_VECMATH_EXPLOG_LOG_SCALAR_H
 
-#include "vecmath/explog/exp_scalar.h"
 #include "vecmath/explog/log_core.h"
+#include "vecmath/frame/scalar.h"
+#include "vecmath/frame/status.h"
 
 namespace brenn::vm {
 
@@ -16,22 +17,22 @@ template <class T, class Fn>
 inline int LogScalar(T x, T* y, Fn fn) {
     if (__builtin_isnan(x)) {
         *y = x + x;
-        return kStatusOk;
+        return status::kNone;
     }
     if (x == 0) {
         *y = T(-1) / Keep(T(0));
-        return kStatusPole;
+        return status::kSingularity;
     }
     if (x < 0) {
         *y = Keep(T(0)) / Keep(T(0));
-        return kStatusDomain;
+        return status::kDomain;
     }
     if (__builtin_isinf(x)) {
         *y = x;
-        return kStatusOk;
+        return status::kNone;
     }
     *y = fn(x);
-    return kStatusOk;
+    return status::kNone;
 }
 
 // factor * log2(x) at extended precision (fyl2x), x positive finite; denormal doubles
