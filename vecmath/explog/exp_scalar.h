@@ -1,50 +1,54 @@
 /* Scalar exponential in double for the special lanes of the exponential family: 2^n
- * times a table value of 2^(j/64) times e^r - 1 by a degree-6 polynomial, with the
- * power of two applied in two multiplications so that a denormal result is rounded once.
- * Good to about half an ulp of double over the whole finite range, so that a single
- * result rounded from it is within an ulp and a double within one.
+ * times a table value of 2^(j/64) times e^r - 1 by the degree-6 polynomial of the
+ * vector core (exp_core.h), with the power of two applied in two multiplications so
+ * that a denormal result is rounded once. Good to about half an ulp of double over the
+ * whole finite range, so that a single result rounded from it is within an ulp and a
+ * double within one.
  * Also the limits and statuses every exponential shares. */
 #ifndef BRENN_VECMATH_EXPLOG_EXP_SCALAR_H
 #define BRENN_VECMATH_EXPLOG_EXP_SCALAR_H
 
-#include <float.h>
+#include <stddef.h>
 
+#include <limits>
+
+#include "vecmath/explog/exp_core.h"
 #include "vecmath/explog/explog_tables.h"
-#include "vecmath/frame/simd.h"
+#include "vecmath/frame/scalar.h"
+#include "vecmath/frame/status.h"
 
 namespace brenn::vm {
 
-enum : int {
-    kStatusOk = 0,
-    kStatusDomain = 1,
-    kStatusPole = 2,
-    kStatusOverflow = 3,
-    kStatusUnderflow = 4
-};
+// c[I] + r*(c[I+1] + r*(... + r*c[N-1])) over the coefficients P::kC, as the vector
+// Horner rounds it; each coefficient taken as a constant expression, a literal.
+template <class P, size_t I = 0>
+inline double HornerScalar(double r) {
+    constexpr size_t N = sizeof(P::kC) / sizeof(P::kC[0]);
+    constexpr double c = P::kC[I];
+    if constexpr (I + 1 == N)
+        return c;
+    else
+        return c + r * HornerScalar<P, I + 1>(r);
+}
 
 // e^r - 1 on |r| <= ln2/128, the double core's polynomial (relative error 2^-62).
 inline double ExpPoly6(double r) {
-    // Fitted by tools/explog/expm1_double.sollya (degree 6).
-    constexpr double c2 = 0.5, c3 = 0.1666666666665931606505779427607194520533084869384765625,
-                     c4 = 4.1666666666663722262686775366091751493513584136962890625e-2,
-                     c5 = 8.33334143449560027505640391609631478786468505859375e-3,
-                     c6 = 1.3888896963737515539982769752214153413660824298858642578125e-3;
-    return r + r * r * (c2 + r * (c3 + r * (c4 + r * (c5 + r * c6))));
+    return r + r * r * HornerScalar<ExpTail<ExpDegree::Six>>(r);
 }
 
 // 2^e for a normal power.
 inline double Pow2D(int e) {
-    return DoubleOf(uint64_t(e + 1023) << 52);
+    return DoubleOf(uint64_t(e + Format<double>::kBias) << Format<double>::kMantBits);
 }
 
 // e^(x + xl) for x in [-746, 710], the pair x + xl being the argument in two parts
 // (xl may be 0); the result rounded once, denormal or not.
 inline double ExpScalarCore(double x, double xl = 0.0) {
-    constexpr double kInvLn2x64 = 92.332482616893657, kShifter = 6755399441055744.0;
-    constexpr double kLn2Hi = 0.010830424696223417, kLn2Lo = 2.5728046223276691e-14;
-    double t = x * kInvLn2x64 + kShifter;
+    using S = ExpStep64;
+    constexpr double kShifter = Format<double>::kShifter;
+    double t = x * S::kInvStep + kShifter;
     double n = t - kShifter;
-    double r = (x - n * kLn2Hi) - n * kLn2Lo + xl;
+    double r = (x - n * S::kStepHi) - n * S::kStepLo + xl;
     int ni = int(n);
     int j = ni & 63, m = (ni - j) / 64;
     double p = ExpPoly6(r);
@@ -54,33 +58,32 @@ inline double ExpScalarCore(double x, double xl = 0.0) {
 }
 
 // The shared ending of every exponential's scalar routine in type T: NaN quieted, the
-// infinities, overflow above `over` (status 3), +0 below `under` (status 4), and the
-// value of `core` otherwise, status 4 when it is denormal.
+// infinities, overflow above `over`, +0 below `under` (underflow), and the value of
+// `core` otherwise, an underflow when it is denormal.
 template <class T, class Core>
 inline int ExpScalarFinish(T x, T* y, T over, T under, Core core) {
     if (__builtin_isnan(x)) {
         *y = x + x;
-        return kStatusOk;
+        return status::kNone;
     }
     if (__builtin_isinf(x)) {
         *y = x > 0 ? x : T(0);
-        return kStatusOk;
+        return status::kNone;
     }
     if (x > over) {
-        volatile T big = sizeof(T) == 4 ? T(FLT_MAX) : T(DBL_MAX);
+        volatile T big = std::numeric_limits<T>::max();
         *y = big * big;
-        return kStatusOverflow;
+        return status::kOverflow;
     }
     if (x < under) {
-        volatile T tiny = sizeof(T) == 4 ? T(FLT_MIN) : T(DBL_MIN);
+        volatile T tiny = std::numeric_limits<T>::min();
         *y = tiny * tiny;
-        return kStatusUnderflow;
+        return status::kUnderflow;
     }
     T v = core(x);
     *y = v;
-    if (__builtin_isinf(v)) return kStatusOverflow; // at the limit itself
-    constexpr T kMinNormal = sizeof(T) == 4 ? T(FLT_MIN) : T(DBL_MIN);
-    return v < kMinNormal ? kStatusUnderflow : kStatusOk;
+    if (__builtin_isinf(v)) return status::kOverflow; // at the limit itself
+    return v < std::numeric_limits<T>::min() ? status::kUnderflow : status::kNone;
 }
 
 } // namespace brenn::vm
