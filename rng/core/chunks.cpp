@@ -5,7 +5,9 @@
 
 #include "frame/export.h"
 #include "platform/serv.h"
+#include "rng/core/chunks.h"
 #include "rng/core/globtable.h"
+#include "rng/core/stream.h"
 
 namespace brenn::rng {
 

@@ -14,6 +14,7 @@
 #include "frame/export.h"
 #include "platform/serv.h"
 #include "rng/core/globtable.h"
+#include "rng/core/chunks.h"
 
 namespace brenn::rng {
 

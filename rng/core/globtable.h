@@ -3,7 +3,7 @@
 #ifndef BRENN_RNG_CORE_GLOBTABLE_H
 #define BRENN_RNG_CORE_GLOBTABLE_H
 
-#include "rng/core/stream.h"
+#include <stdint.h>
 
 namespace brenn::rng {
 

@@ -1,6 +1,5 @@
 /* The stream record as the random-number code sees it: the 16-byte header in front
- * of every generator's state, the registry lookups that go with it, and the chunk
- * deletion shared by the stream and chunk functions. */
+ * of every generator's state and the registry lookups that go with it. */
 #ifndef BRENN_RNG_CORE_STREAM_H
 #define BRENN_RNG_CORE_STREAM_H
 
@@ -59,14 +58,6 @@ bool IsBuilt(const BrngRecord* row);
 // The row of a stream's generator when it is built, else null.
 inline const BrngRecord* BuiltRowOf(const void* stream) {
     return BuiltRow(Header(stream)->brng);
-}
-
-// Deletes one cell: releases its reference in the shared table (which frees shared
-// data with the last one) or frees private data, then the cell itself.
-void DeleteChunkCell(QesChunk* cell);
-
-inline bool GuidIsZero(const uint64_t* guid) {
-    return guid == nullptr || (guid[0] == 0 && guid[1] == 0);
 }
 
 } // namespace brenn::rng
