@@ -43,7 +43,7 @@
 #include "frame/fpenv.h"
 #include "frame/mode.h"
 #include "frame/report.h"
-#include "vecmath/frame/simd.h" // for the bodies not yet written in the vocabulary
+#include "vecmath/frame/scalar.h"
 #include "vecmath/frame/status.h"
 #include "vecmath/frame/vec.h"
 
