@@ -35,25 +35,9 @@ inline double InvSqrtAccurate(double x) {
 
 template <class T>
 int InvSqrtScalar(const T* a, T* y) {
-    T x = *a;
-    if (__builtin_isnan(x)) {
-        *y = x + x;
-        return status::kNone;
-    }
-    if (x == 0) {
-        *y = T(1) / Keep(x);
-        return status::kSingularity;
-    }
-    if (x < 0) {
-        *y = Keep(T(0)) / Keep(T(0));
-        return status::kDomain;
-    }
-    if (__builtin_isinf(x)) {
-        *y = T(0);
-        return status::kNone;
-    }
-    *y = T(InvSqrtAccurate(double(x)));
-    return status::kNone;
+    return PoleAtZeroScalar(
+        *a, y, [](T x) { return T(1) / Keep(x); }, T(0),
+        [](T x) { return T(InvSqrtAccurate(double(x))); });
 }
 
 // HA single in double: the rsqrtps seed r of x itself (x is a single in range, so no

@@ -15,24 +15,8 @@ namespace brenn::vm {
 
 template <class T, class Fn>
 inline int LogScalar(T x, T* y, Fn fn) {
-    if (__builtin_isnan(x)) {
-        *y = x + x;
-        return status::kNone;
-    }
-    if (x == 0) {
-        *y = T(-1) / Keep(T(0));
-        return status::kSingularity;
-    }
-    if (x < 0) {
-        *y = Keep(T(0)) / Keep(T(0));
-        return status::kDomain;
-    }
-    if (__builtin_isinf(x)) {
-        *y = x;
-        return status::kNone;
-    }
-    *y = fn(x);
-    return status::kNone;
+    return PoleAtZeroScalar(
+        x, y, [](T) { return T(-1) / Keep(T(0)); }, x, fn);
 }
 
 // factor * log2(x) at extended precision (fyl2x), x positive finite; denormal doubles
