@@ -212,7 +212,7 @@ extern float brenn_zar_kernel_sAbs_ctab[3];
  * @details y[i] = Inv(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsInv);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -239,7 +239,7 @@ extern float brenn_zar_kernel_sInv_ctab[3];
  * @details y[i] = Sqrt(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsSqrt);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -266,7 +266,7 @@ extern float brenn_zar_kernel_sSqrt_ctab[3];
  * @details y[i] = InvSqrt(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsInvSqrt);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -317,7 +317,7 @@ extern float brenn_zar_kernel_sCbrt_ctab[3];
  * @details y[i] = InvCbrt(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsInvCbrt);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -344,7 +344,7 @@ extern float brenn_zar_kernel_sInvCbrt_ctab[3];
  * @details y[i] = Exp(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsExp);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -371,7 +371,7 @@ extern float brenn_zar_kernel_sExp_ctab[3];
  * @details y[i] = Ln(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsLn);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -398,7 +398,7 @@ extern float brenn_zar_kernel_sLn_ctab[3];
  * @details y[i] = Log10(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsLog10);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -425,7 +425,7 @@ extern float brenn_zar_kernel_sLog10_ctab[3];
  * @details y[i] = Cos(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsCos);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -452,7 +452,7 @@ extern float brenn_zar_kernel_sCos_ctab[3];
  * @details y[i] = Sin(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsSin);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -479,7 +479,7 @@ extern float brenn_zar_kernel_sSin_ctab[3];
  * @details y[i] = Tan(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsTan);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -506,7 +506,7 @@ extern float brenn_zar_kernel_sTan_ctab[3];
  * @details y[i] = Acos(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsAcos);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -533,7 +533,7 @@ extern float brenn_zar_kernel_sAcos_ctab[3];
  * @details y[i] = Acosh(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsAcosh);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -560,7 +560,7 @@ extern float brenn_zar_kernel_sAcosh_ctab[3];
  * @details y[i] = Asin(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsAsin);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -635,7 +635,7 @@ extern float brenn_zar_kernel_sAtan_ctab[3];
  * @details y[i] = Atanh(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsAtanh);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -662,7 +662,7 @@ extern float brenn_zar_kernel_sAtanh_ctab[3];
  * @details y[i] = Cosh(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsCosh);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -689,7 +689,7 @@ extern float brenn_zar_kernel_sCosh_ctab[3];
  * @details y[i] = Sinh(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsSinh);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -764,7 +764,7 @@ extern float brenn_zar_kernel_sErf_ctab[3];
  * @details y[i] = Erfc(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsErfc);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -791,7 +791,7 @@ extern float brenn_zar_kernel_sErfc_ctab[3];
  * @details y[i] = ErfInv(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsErfInv);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -842,7 +842,7 @@ extern float brenn_zar_kernel_sSqr_ctab[3];
  * @details y[i] = Expm1(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsExpm1);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -869,7 +869,7 @@ extern float brenn_zar_kernel_sExpm1_ctab[3];
  * @details y[i] = Log1p(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsLog1p);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -896,7 +896,7 @@ extern float brenn_zar_kernel_sLog1p_ctab[3];
  * @details y[i] = Pow3o2(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsPow3o2);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -923,7 +923,7 @@ extern float brenn_zar_kernel_sPow3o2_ctab[3];
  * @details y[i] = Pow2o3(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsPow2o3);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -950,7 +950,7 @@ extern float brenn_zar_kernel_sPow2o3_ctab[3];
  * @details y[i] = ErfcInv(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsErfcInv);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -977,7 +977,7 @@ extern float brenn_zar_kernel_sErfcInv_ctab[3];
  * @details y[i] = CdfNorm(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsCdfNorm);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1004,7 +1004,7 @@ extern float brenn_zar_kernel_sCdfNorm_ctab[3];
  * @details y[i] = CdfNormInv(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsCdfNormInv);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1031,7 +1031,7 @@ extern float brenn_zar_kernel_sCdfNormInv_ctab[3];
  * @details y[i] = LGamma(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsLGamma);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1058,7 +1058,7 @@ extern float brenn_zar_kernel_sLGamma_ctab[3];
  * @details y[i] = TGamma(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsTGamma);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1085,7 +1085,7 @@ extern float brenn_zar_kernel_sTGamma_ctab[3];
  * @details y[i] = ExpInt1(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsExpInt1);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1112,7 +1112,7 @@ extern float brenn_zar_kernel_sExpInt1_ctab[3];
  * @details y[i] = Sinpi(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsSinpi);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1139,7 +1139,7 @@ extern float brenn_zar_kernel_sSinpi_ctab[3];
  * @details y[i] = Cospi(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsCospi);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1166,7 +1166,7 @@ extern float brenn_zar_kernel_sCospi_ctab[3];
  * @details y[i] = Tanpi(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsTanpi);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1193,7 +1193,7 @@ extern float brenn_zar_kernel_sTanpi_ctab[3];
  * @details y[i] = Acospi(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsAcospi);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1220,7 +1220,7 @@ extern float brenn_zar_kernel_sAcospi_ctab[3];
  * @details y[i] = Asinpi(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsAsinpi);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1271,7 +1271,7 @@ extern float brenn_zar_kernel_sAtanpi_ctab[3];
  * @details y[i] = Exp2(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsExp2);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1298,7 +1298,7 @@ extern float brenn_zar_kernel_sExp2_ctab[3];
  * @details y[i] = Exp10(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsExp10);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1325,7 +1325,7 @@ extern float brenn_zar_kernel_sExp10_ctab[3];
  * @details y[i] = Log2(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsLog2);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1352,7 +1352,7 @@ extern float brenn_zar_kernel_sLog2_ctab[3];
  * @details y[i] = Sind(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsSind);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1379,7 +1379,7 @@ extern float brenn_zar_kernel_sSind_ctab[3];
  * @details y[i] = Cosd(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsCosd);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1406,7 +1406,7 @@ extern float brenn_zar_kernel_sCosd_ctab[3];
  * @details y[i] = Tand(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsTand);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1433,7 +1433,7 @@ extern float brenn_zar_kernel_sTand_ctab[3];
  * @details y[i] = Logb(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsLogb);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1652,7 +1652,7 @@ extern float brenn_zar_kernel_dAbs_ctab[3];
  * @details y[i] = Inv(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdInv);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1679,7 +1679,7 @@ extern float brenn_zar_kernel_dInv_ctab[3];
  * @details y[i] = Sqrt(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdSqrt);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1706,7 +1706,7 @@ extern float brenn_zar_kernel_dSqrt_ctab[3];
  * @details y[i] = InvSqrt(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdInvSqrt);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1757,7 +1757,7 @@ extern float brenn_zar_kernel_dCbrt_ctab[3];
  * @details y[i] = InvCbrt(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdInvCbrt);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1784,7 +1784,7 @@ extern float brenn_zar_kernel_dInvCbrt_ctab[3];
  * @details y[i] = Exp(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdExp);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1811,7 +1811,7 @@ extern float brenn_zar_kernel_dExp_ctab[3];
  * @details y[i] = Ln(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdLn);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1838,7 +1838,7 @@ extern float brenn_zar_kernel_dLn_ctab[3];
  * @details y[i] = Log10(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdLog10);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1865,7 +1865,7 @@ extern float brenn_zar_kernel_dLog10_ctab[3];
  * @details y[i] = Cos(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdCos);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1892,7 +1892,7 @@ extern float brenn_zar_kernel_dCos_ctab[3];
  * @details y[i] = Sin(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdSin);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1919,7 +1919,7 @@ extern float brenn_zar_kernel_dSin_ctab[3];
  * @details y[i] = Tan(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdTan);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1946,7 +1946,7 @@ extern float brenn_zar_kernel_dTan_ctab[3];
  * @details y[i] = Acos(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdAcos);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -1973,7 +1973,7 @@ extern float brenn_zar_kernel_dAcos_ctab[3];
  * @details y[i] = Acosh(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdAcosh);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2000,7 +2000,7 @@ extern float brenn_zar_kernel_dAcosh_ctab[3];
  * @details y[i] = Asin(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdAsin);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2075,7 +2075,7 @@ extern float brenn_zar_kernel_dAtan_ctab[3];
  * @details y[i] = Atanh(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdAtanh);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2102,7 +2102,7 @@ extern float brenn_zar_kernel_dAtanh_ctab[3];
  * @details y[i] = Cosh(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdCosh);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2129,7 +2129,7 @@ extern float brenn_zar_kernel_dCosh_ctab[3];
  * @details y[i] = Sinh(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdSinh);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2204,7 +2204,7 @@ extern float brenn_zar_kernel_dErf_ctab[3];
  * @details y[i] = Erfc(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdErfc);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2231,7 +2231,7 @@ extern float brenn_zar_kernel_dErfc_ctab[3];
  * @details y[i] = ErfInv(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdErfInv);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2282,7 +2282,7 @@ extern float brenn_zar_kernel_dSqr_ctab[3];
  * @details y[i] = Expm1(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdExpm1);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2309,7 +2309,7 @@ extern float brenn_zar_kernel_dExpm1_ctab[3];
  * @details y[i] = Log1p(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdLog1p);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2336,7 +2336,7 @@ extern float brenn_zar_kernel_dLog1p_ctab[3];
  * @details y[i] = Pow3o2(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdPow3o2);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2363,7 +2363,7 @@ extern float brenn_zar_kernel_dPow3o2_ctab[3];
  * @details y[i] = Pow2o3(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdPow2o3);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2390,7 +2390,7 @@ extern float brenn_zar_kernel_dPow2o3_ctab[3];
  * @details y[i] = ErfcInv(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdErfcInv);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2417,7 +2417,7 @@ extern float brenn_zar_kernel_dErfcInv_ctab[3];
  * @details y[i] = CdfNorm(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdCdfNorm);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2444,7 +2444,7 @@ extern float brenn_zar_kernel_dCdfNorm_ctab[3];
  * @details y[i] = CdfNormInv(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdCdfNormInv);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2471,7 +2471,7 @@ extern float brenn_zar_kernel_dCdfNormInv_ctab[3];
  * @details y[i] = LGamma(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdLGamma);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2498,7 +2498,7 @@ extern float brenn_zar_kernel_dLGamma_ctab[3];
  * @details y[i] = TGamma(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdTGamma);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2525,7 +2525,7 @@ extern float brenn_zar_kernel_dTGamma_ctab[3];
  * @details y[i] = ExpInt1(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdExpInt1);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2552,7 +2552,7 @@ extern float brenn_zar_kernel_dExpInt1_ctab[3];
  * @details y[i] = Sinpi(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdSinpi);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2579,7 +2579,7 @@ extern float brenn_zar_kernel_dSinpi_ctab[3];
  * @details y[i] = Cospi(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdCospi);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2606,7 +2606,7 @@ extern float brenn_zar_kernel_dCospi_ctab[3];
  * @details y[i] = Tanpi(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdTanpi);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2633,7 +2633,7 @@ extern float brenn_zar_kernel_dTanpi_ctab[3];
  * @details y[i] = Acospi(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdAcospi);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2660,7 +2660,7 @@ extern float brenn_zar_kernel_dAcospi_ctab[3];
  * @details y[i] = Asinpi(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdAsinpi);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2711,7 +2711,7 @@ extern float brenn_zar_kernel_dAtanpi_ctab[3];
  * @details y[i] = Exp2(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdExp2);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2738,7 +2738,7 @@ extern float brenn_zar_kernel_dExp2_ctab[3];
  * @details y[i] = Exp10(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdExp10);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2765,7 +2765,7 @@ extern float brenn_zar_kernel_dExp10_ctab[3];
  * @details y[i] = Log2(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdLog2);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2792,7 +2792,7 @@ extern float brenn_zar_kernel_dLog2_ctab[3];
  * @details y[i] = Sind(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdSind);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2819,7 +2819,7 @@ extern float brenn_zar_kernel_dSind_ctab[3];
  * @details y[i] = Cosd(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdCosd);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2846,7 +2846,7 @@ extern float brenn_zar_kernel_dCosd_ctab[3];
  * @details y[i] = Tand(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdTand);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2873,7 +2873,7 @@ extern float brenn_zar_kernel_dTand_ctab[3];
  * @details y[i] = Logb(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdLogb);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2900,7 +2900,7 @@ extern float brenn_zar_kernel_dLogb_ctab[3];
  * @details y[i] = Cos(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vcCos);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2927,7 +2927,7 @@ extern float brenn_zar_kernel_cCos_ctab[3];
  * @details y[i] = Sin(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vcSin);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2954,7 +2954,7 @@ extern float brenn_zar_kernel_cSin_ctab[3];
  * @details y[i] = Tan(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vcTan);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -2981,7 +2981,7 @@ extern float brenn_zar_kernel_cTan_ctab[3];
  * @details y[i] = Cosh(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vcCosh);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3008,7 +3008,7 @@ extern float brenn_zar_kernel_cCosh_ctab[3];
  * @details y[i] = Sinh(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vcSinh);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3059,7 +3059,7 @@ extern float brenn_zar_kernel_cTanh_ctab[3];
  * @details y[i] = Acos(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vcAcos);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3086,7 +3086,7 @@ extern float brenn_zar_kernel_cAcos_ctab[3];
  * @details y[i] = Asin(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vcAsin);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3137,7 +3137,7 @@ extern float brenn_zar_kernel_cAtan_ctab[3];
  * @details y[i] = Acosh(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vcAcosh);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3188,7 +3188,7 @@ extern float brenn_zar_kernel_cAsinh_ctab[3];
  * @details y[i] = Atanh(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vcAtanh);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3215,7 +3215,7 @@ extern float brenn_zar_kernel_cAtanh_ctab[3];
  * @details y[i] = Exp(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vcExp);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3242,7 +3242,7 @@ extern float brenn_zar_kernel_cExp_ctab[3];
  * @details y[i] = Ln(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vcLn);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3269,7 +3269,7 @@ extern float brenn_zar_kernel_cLn_ctab[3];
  * @details y[i] = Log10(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vcLog10);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3296,7 +3296,7 @@ extern float brenn_zar_kernel_cLog10_ctab[3];
  * @details y[i] = Sqrt(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vcSqrt);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3347,7 +3347,7 @@ extern float brenn_zar_kernel_cConj_ctab[3];
  * @details y[i] = Cos(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vzCos);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3374,7 +3374,7 @@ extern float brenn_zar_kernel_zCos_ctab[3];
  * @details y[i] = Sin(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vzSin);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3401,7 +3401,7 @@ extern float brenn_zar_kernel_zSin_ctab[3];
  * @details y[i] = Tan(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vzTan);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3428,7 +3428,7 @@ extern float brenn_zar_kernel_zTan_ctab[3];
  * @details y[i] = Cosh(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vzCosh);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3455,7 +3455,7 @@ extern float brenn_zar_kernel_zCosh_ctab[3];
  * @details y[i] = Sinh(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vzSinh);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3506,7 +3506,7 @@ extern float brenn_zar_kernel_zTanh_ctab[3];
  * @details y[i] = Acos(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vzAcos);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3533,7 +3533,7 @@ extern float brenn_zar_kernel_zAcos_ctab[3];
  * @details y[i] = Asin(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vzAsin);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3584,7 +3584,7 @@ extern float brenn_zar_kernel_zAtan_ctab[3];
  * @details y[i] = Acosh(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vzAcosh);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3635,7 +3635,7 @@ extern float brenn_zar_kernel_zAsinh_ctab[3];
  * @details y[i] = Atanh(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vzAtanh);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3662,7 +3662,7 @@ extern float brenn_zar_kernel_zAtanh_ctab[3];
  * @details y[i] = Exp(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vzExp);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3689,7 +3689,7 @@ extern float brenn_zar_kernel_zExp_ctab[3];
  * @details y[i] = Ln(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vzLn);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3716,7 +3716,7 @@ extern float brenn_zar_kernel_zLn_ctab[3];
  * @details y[i] = Log10(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vzLog10);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3743,7 +3743,7 @@ extern float brenn_zar_kernel_zLog10_ctab[3];
  * @details y[i] = Sqrt(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vzSqrt);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -3794,7 +3794,7 @@ extern float brenn_zar_kernel_zConj_ctab[3];
  * @details y[i] = CIS(a[i]) for i below n: real arguments, complex results.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vcCIS);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a real arguments, n elements
@@ -3821,7 +3821,7 @@ extern float brenn_zar_kernel_cCIS_ctab[3];
  * @details y[i] = CIS(a[i]) for i below n: real arguments, complex results.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vzCIS);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a real arguments, n elements
@@ -3872,7 +3872,7 @@ extern float brenn_zar_kernel_cAbs_ctab[3];
  * @details y[i] = Arg(a[i]) for i below n: complex arguments, real results.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vcArg);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a complex arguments, n elements
@@ -3923,7 +3923,7 @@ extern float brenn_zar_kernel_zAbs_ctab[3];
  * @details y[i] = Arg(a[i]) for i below n: complex arguments, real results.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vzArg);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a complex arguments, n elements
@@ -3950,7 +3950,7 @@ extern float brenn_zar_kernel_zArg_ctab[3];
  * @details y[i] = Div(a[i], b[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsDiv);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -3978,7 +3978,7 @@ extern float brenn_zar_kernel_sDiv_ctab[3];
  * @details y[i] = Pow(a[i], b[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsPow);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -4031,7 +4031,7 @@ extern float brenn_zar_kernel_sAtan2_ctab[3];
  * @details y[i] = Hypot(a[i], b[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsHypot);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -4334,7 +4334,7 @@ extern float brenn_zar_kernel_sMinMag_ctab[3];
  * @details y[i] = Powr(a[i], b[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsPowr);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -4362,7 +4362,7 @@ extern float brenn_zar_kernel_sPowr_ctab[3];
  * @details y[i] = Remainder(a[i], b[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsRemainder);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -4390,7 +4390,7 @@ extern float brenn_zar_kernel_sRemainder_ctab[3];
  * @details y[i] = Fmod(a[i], b[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsFmod);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -4418,7 +4418,7 @@ extern float brenn_zar_kernel_sFmod_ctab[3];
  * @details y[i] = Div(a[i], b[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdDiv);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -4446,7 +4446,7 @@ extern float brenn_zar_kernel_dDiv_ctab[3];
  * @details y[i] = Pow(a[i], b[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdPow);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -4499,7 +4499,7 @@ extern float brenn_zar_kernel_dAtan2_ctab[3];
  * @details y[i] = Hypot(a[i], b[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdHypot);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -4802,7 +4802,7 @@ extern float brenn_zar_kernel_dMinMag_ctab[3];
  * @details y[i] = Powr(a[i], b[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdPowr);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -4830,7 +4830,7 @@ extern float brenn_zar_kernel_dPowr_ctab[3];
  * @details y[i] = Remainder(a[i], b[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdRemainder);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -4858,7 +4858,7 @@ extern float brenn_zar_kernel_dRemainder_ctab[3];
  * @details y[i] = Fmod(a[i], b[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdFmod);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -4886,7 +4886,7 @@ extern float brenn_zar_kernel_dFmod_ctab[3];
  * @details y[i] = Div(a[i], b[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vcDiv);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -4914,7 +4914,7 @@ extern float brenn_zar_kernel_cDiv_ctab[3];
  * @details y[i] = Pow(a[i], b[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vcPow);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -5017,7 +5017,7 @@ extern float brenn_zar_kernel_cMul_ctab[3];
  * @details y[i] = MulByConj(a[i], b[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vcMulByConj);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -5045,7 +5045,7 @@ extern float brenn_zar_kernel_cMulByConj_ctab[3];
  * @details y[i] = Div(a[i], b[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vzDiv);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -5073,7 +5073,7 @@ extern float brenn_zar_kernel_zDiv_ctab[3];
  * @details y[i] = Pow(a[i], b[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vzPow);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -5176,7 +5176,7 @@ extern float brenn_zar_kernel_zMul_ctab[3];
  * @details y[i] = MulByConj(a[i], b[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vzMulByConj);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -5204,7 +5204,7 @@ extern float brenn_zar_kernel_zMulByConj_ctab[3];
  * @details y[i] = Powx(a[i], b) for i below n, with one second argument for all.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vcPowx);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -5232,7 +5232,7 @@ extern float brenn_zar_kernel_cPowx_ctab[3];
  * @details y[i] = Powx(a[i], b) for i below n, with one second argument for all.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vzPowx);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -5260,7 +5260,7 @@ extern float brenn_zar_kernel_zPowx_ctab[3];
  * @details y[i] = Powx(a[i], b) for i below n, with one second argument for all.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsPowx);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -5288,7 +5288,7 @@ extern float brenn_zar_kernel_sPowx_ctab[3];
  * @details y[i] = Powx(a[i], b) for i below n, with one second argument for all.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdPowx);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
@@ -5316,7 +5316,7 @@ extern float brenn_zar_kernel_dPowx_ctab[3];
  * @details y[i] and z[i] are the two results of SinCos(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vsSinCos);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements
@@ -5369,7 +5369,7 @@ extern float brenn_zar_kernel_sModf_ctab[3];
  * @details y[i] and z[i] are the two results of SinCos(a[i]) for i below n.
  * Elements outside the function's domain, poles, overflows and underflows are
  * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
- * BRENN_STATUS_UNDERFLOW, public name vdSinCos);
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
  * the other elements leave the status as it is.
  * @param n number of elements
  * @param a arguments, n elements

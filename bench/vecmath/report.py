@@ -38,16 +38,20 @@ def cell(v):
 
 
 def machine():
-    model = "unknown processor"
+    # The processor by its family and model numbers, which name the microarchitecture
+    # the figures depend on without a vendor's brand string.
+    fields = {}
     try:
         with open("/proc/cpuinfo") as f:
             for line in f:
-                if line.startswith("model name"):
-                    model = line.split(":", 1)[1].strip()
+                if not line.strip():
                     break
+                key, _, value = line.partition(":")
+                fields.setdefault(key.strip(), value.strip())
     except OSError:
         pass
-    return model
+    return "x86-64 processor, family %s model %s" % (fields.get("cpu family", "?"),
+                                                     fields.get("model", "?"))
 
 
 def main():

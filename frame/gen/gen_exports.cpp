@@ -183,8 +183,8 @@ void RowDoc(std::ostringstream& o, const Row& r, const std::string& stem,
     if (r.reports)
         o << " * Elements outside the function's domain, poles, overflows and underflows are\n"
              " * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to\n"
-             " * BRENN_STATUS_UNDERFLOW, public name v"
-          << stem << ");\n * the other elements leave the status as it is.\n";
+             " * BRENN_STATUS_UNDERFLOW, under the row's public error name);\n"
+             " * the other elements leave the status as it is.\n";
     else
         o << " * Reports no element and leaves the thread's status as it is.\n";
     for (const char* p : d.params)

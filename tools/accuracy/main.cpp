@@ -75,21 +75,21 @@ std::string Fmt(double v, const char* f) {
     return buf;
 }
 
+// The processor by its family and model numbers: the figures depend on the
+// microarchitecture, and the numbers name it without a vendor's brand string.
 std::string MachineLine() {
-    std::string model = "unknown processor";
+    std::string family = "?", model = "?";
     if (FILE* f = fopen("/proc/cpuinfo", "r")) {
         char line[256];
-        while (fgets(line, sizeof line, f))
-            if (strncmp(line, "model name", 10) == 0) {
-                const char* p = strchr(line, ':');
-                if (p) model = p + 2;
-                while (!model.empty() && model.back() == '\n')
-                    model.pop_back();
-                break;
-            }
+        // The first processor's block ends at the first empty line.
+        while (fgets(line, sizeof line, f) && line[0] != '\n') {
+            char value[64];
+            if (sscanf(line, "cpu family : %63s", value) == 1) family = value;
+            if (sscanf(line, "model : %63s", value) == 1) model = value;
+        }
         fclose(f);
     }
-    return model;
+    return "x86-64 processor, family " + family + " model " + model;
 }
 
 void ListRow(const RowDesc& r) {
