@@ -12,9 +12,12 @@ namespace brenn::rng {
 constexpr int kVect3TableEntries = 193;
 constexpr uint64_t kMrgModulus1 = 4294967087u;
 constexpr uint64_t kMrgModulus2 = 4294944443u;
-// Last rows of the two companion matrices; the first two rows are (0 1 0), (0 0 1).
-constexpr uint32_t kMrgRow1[3] = {0, 1403580, 4294156359u};
-constexpr uint32_t kMrgRow2[3] = {527612, 0, 4293573854u};
+// Last rows of the two companion matrices over the oldest-first state (v0, v1, v2);
+// the first two rows are (0 1 0), (0 0 1). They are the published recurrences
+// x(n) = -810728 x(n-3) + 1403580 x(n-2) and y(n) = -1370589 y(n-3) + 527612 y(n-1),
+// the negative multipliers as residues: m1 - 810728 and m2 - 1370589.
+constexpr uint32_t kMrgRow1[3] = {4294156359u, 1403580, 0};
+constexpr uint32_t kMrgRow2[3] = {4293573854u, 0, 527612};
 
 extern const uint32_t kMrgJumpTable1[kVect3TableEntries * 9];
 extern const uint32_t kMrgJumpTable2[kVect3TableEntries * 9];

@@ -52,10 +52,13 @@ TEST(RngVect3, PowersEqualRepeatedSteps) {
     }
 }
 
-// Entry 0 is the companion matrix itself, and entry b + 1 the square of entry b.
+// Entry 0 is the published companion matrix itself, and entry b + 1 the square of
+// entry b.
 TEST(RngVect3, TableEntriesAreRepeatedSquares) {
-    const uint32_t first[9] = {0, 1, 0, 0, 0, 1, 0, 1403580, 4294156359u};
-    EXPECT_EQ(std::memcmp(kMrgJumpTable1, first, sizeof first), 0);
+    const uint32_t first1[9] = {0, 1, 0, 0, 0, 1, 4294967087u - 810728, 1403580, 0};
+    const uint32_t first2[9] = {0, 1, 0, 0, 0, 1, 4294944443u - 1370589, 0, 527612};
+    EXPECT_EQ(std::memcmp(kMrgJumpTable1, first1, sizeof first1), 0);
+    EXPECT_EQ(std::memcmp(kMrgJumpTable2, first2, sizeof first2), 0);
     for (int c = 0; c < 2; ++c) {
         const uint32_t* table = c == 0 ? kMrgJumpTable1 : kMrgJumpTable2;
         uint64_t m = c == 0 ? kMrgModulus1 : kMrgModulus2;

@@ -5,9 +5,11 @@
 #include <cstdint>
 #include <cstdio>
 
+#include "rng/core/jumptables.h"
+
 namespace {
 
-constexpr int kEntries = 193;
+constexpr int kEntries = brenn::rng::kVect3TableEntries;
 
 using u128 = unsigned __int128;
 
@@ -24,8 +26,8 @@ void Square(uint64_t* x, uint64_t m) {
         x[i] = t[i];
 }
 
-void Table(FILE* out, const char* name, uint64_t m, uint64_t r0, uint64_t r1, uint64_t r2) {
-    uint64_t x[9] = {0, 1, 0, 0, 0, 1, r0, r1, r2};
+void Table(FILE* out, const char* name, uint64_t m, const uint32_t* row) {
+    uint64_t x[9] = {0, 1, 0, 0, 0, 1, row[0], row[1], row[2]};
     std::fprintf(out, "const uint32_t %s[kVect3TableEntries * 9] = {\n", name);
     for (int b = 0; b < kEntries; ++b) {
         std::fprintf(out, "    ");
@@ -53,8 +55,8 @@ int main(int argc, char** argv) {
                  "// clang-format off\n"
                  "#include \"rng/core/jumptables.h\"\n\n"
                  "namespace brenn::rng {\n\n");
-    Table(out, "kMrgJumpTable1", 4294967087u, 0, 1403580, 4294156359u);
-    Table(out, "kMrgJumpTable2", 4294944443u, 527612, 0, 4293573854u);
+    Table(out, "kMrgJumpTable1", brenn::rng::kMrgModulus1, brenn::rng::kMrgRow1);
+    Table(out, "kMrgJumpTable2", brenn::rng::kMrgModulus2, brenn::rng::kMrgRow2);
     std::fprintf(out, "} // namespace brenn::rng\n");
     return std::fclose(out) == 0 ? 0 : 1;
 }
