@@ -1,8 +1,10 @@
 /* Exp2 and Exp10, single and double, one kernel each for all levels.
  *
- * Both run on the double core of exp_core.h (table of 64, degree-6 polynomial), the
- * single forms on their lanes widened to double and rounded once at the end, so that
- * every level is within an ulp. The reduction is exact in the function's own base:
+ * Single: in single with the 128-entry table, n = round(128x/log_B(2)), T = 2^(j/128)
+ * for j = n & 127, a cubic in the rest of x, 2^(n >> 7) added to the exponent field
+ * (SingleCore below).
+ * Double: on the double core of exp_core.h (table of 64, degree-6 polynomial), the
+ * reduction exact in the function's own base:
  * Exp2: n = round(64x), d = x - n/64 exactly, r = d*ln2.
  * Exp10: n = round(64x/log10(2)), d = x - n*log10(2)/64 with a 36-bit head (n*head is
  * exact), r = d*ln10.
@@ -11,9 +13,11 @@
  * +0 and denormal results (underflow). Error mode 0x2000 blends overflow and
  * underflow lanes.
  *
- * Measured (brenn_accuracy, full run; one kernel serves every level): sExp2 0.50 ulp,
- * sExp10 0.50 ulp, dExp2 0.71 ulp, dExp10 0.71 ulp. The polynomial is the core's
- * (tools/explog/expm1_double.sollya, degree 6). */
+ * Measured (brenn_accuracy, full run; one kernel serves every level): sExp2 0.503 ulp,
+ * sExp10 0.504 ulp, dExp2 0.71 ulp, dExp10 0.71 ulp. */
+#include <bit>
+#include <cstdint>
+
 #include "frame/kernels.h"
 #include "vecmath/explog/exp_core.h"
 #include "vecmath/explog/exp_fixup.h"
@@ -83,12 +87,56 @@ inline __m128d CoreOf(__m128d x) {
         return ExpAssemble64<ExpDegree::Six>(t, Mul(d, Set<double>(C::kLn)));
     }
 }
-// Single lanes widened to double, run on the core and rounded once.
+// The single forms run in single: n = round(128*x/log_B(2)) by a shifter whose bits end
+// in sixteen zeros, T = 2^((n & 127)/128) from the table (a single high part and the rest
+// relative to it), r the rest of x in base B, |r| <= log_B(2)/256, p ~ B^r - 1, and
+// B^x = 2^(n >> 7) * (T + T*(Tl + p)), the power of two added to the exponent field.
+// Inside the range windows the result is normal, so the integer addition is the scaling.
+// Polynomials by tools/explog/exp2_10_single.sollya (degree 3; Exp2 2^-37.8 absolute,
+// Exp10 2^-35.5): with the final rounding the kernels stay near 0.5 ulp.
+template <Base B>
+struct SingleCore;
+template <>
+struct SingleCore<Base::Two> {
+    // 1.375 * 2^16: its last place is 2^-7, so x + kShifter leaves 128*x rounded in the
+    // low bits, and r = x - (t - kShifter) exactly.
+    static constexpr float kShifter = 0x1.6p+16f;
+    static constexpr float kC[] = {0x1.62e43p-1f, 0x1.ebfbfp-3f, 0x1.c515fep-5f};
+};
+template <>
+struct SingleCore<Base::Ten> {
+    // 1.375 * 2^23, whose bits end in seven zeros too; 128*log2(10), and log10(2)/128 in
+    // three parts, the first two of 10 bits: for |n| below 2^14 both products are exact
+    // and so is the difference (x - n*h1) - n*h2, which leaves only n*h3's rounding (a
+    // two-part step would round n*lo near 0.03, 2^-30, a twentieth of an ulp).
+    static constexpr float kShifter = 0x1.6p+23f;
+    static constexpr float kInvStep = 0x1.a934fp+8f;
+    static constexpr float kStep[] = {0x1.348p-9f, -0x1.f68p-20f, 0x1.427de8p-31f};
+    static constexpr float kC[] = {0x1.26bb1cp1f, 0x1.535258p1f, 0x1.ff97a6p0f};
+};
+
 template <Base B>
 inline __m128 CoreOf(__m128 x) {
-    __m128d lo = CoreOf<B>(WidenLower(x));
-    __m128d hi = CoreOf<B>(WidenUpper(x));
-    return Narrow(lo, hi);
+    using C = SingleCore<B>;
+    const __m128 shifter = Set<float>(C::kShifter);
+    __m128 t, r;
+    if constexpr (B == Base::Two) {
+        t = Add(x, shifter);
+        r = Sub(x, Sub(t, shifter));
+    } else {
+        t = Add(Mul(x, Set<float>(C::kInvStep)), shifter);
+        __m128 n = Sub(t, shifter);
+        r = Sub(x, Mul(n, Set<float>(C::kStep[0])));
+        r = Sub(Sub(r, Mul(n, Set<float>(C::kStep[1]))), Mul(n, Set<float>(C::kStep[2])));
+    }
+    __m128 tv, tl;
+    GatherPairs(single::expTable128, AsInt(t), 0x7F, tv, tl);
+    __m128 p = Mul(r, Horner(r, C::kC));
+    __m128 y = Add(Mul(Add(p, tl), tv), tv);
+    // (bits(t) >> 7) << 23 is floor(n/128) << 23: the shifter's bits leave the word.
+    static_assert(((std::bit_cast<uint32_t>(C::kShifter) >> 7) << 23) == 0);
+    I32x4 k = ShiftLeft<Format<float>::kMantBits>(ShiftRight<7>(AsInt(t)));
+    return AsFloat(Add(AsInt(y), k));
 }
 
 // e^(x*c) for the scalar routines, with the product x*c carried in two parts.
