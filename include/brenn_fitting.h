@@ -47,6 +47,16 @@ enum {
     FIT_TYPE_STEP_RIGHT = 7, /**< order 0: right-continuous step (left node's value) */
     FIT_TYPE_STEP_LEFT = 8   /**< order 0: left-continuous step (right node's value) */
 };
+/** Cubic spline types (sType with sOrder FIT_ORDER_CUBIC). Construction reads them only
+ * for the periodic condition of the local families: types 0 and 3 need bc with it. */
+enum {
+    FIT_TYPE_CUBIC_NATURAL = 0, /**< the C2 cubic of a tridiagonal solve */
+    FIT_TYPE_CUBIC_AKIMA = 2,   /**< Akima's weighted slopes */
+    FIT_TYPE_CUBIC_HERMITE = 3, /**< the caller's node derivatives */
+    FIT_TYPE_CUBIC_BESSEL = 4,  /**< the slopes of the three-point parabolas */
+    FIT_TYPE_CUBIC_HYMAN = 5,   /**< Bessel's slopes limited for monotony */
+    FIT_TYPE_CUBIC_DEFAULT = 9  /**< the C2 cubic, with construction flags */
+};
 
 /** Boundary conditions, combined as bits; bc holds their numbers, left end first. */
 enum {
@@ -65,6 +75,9 @@ enum {
  * quadratic knot form; with FIT_IC_UNIFORM beside it ic holds only the two end
  * knots and the others are evenly spaced. */
 enum { FIT_IC_NONE = 0, FIT_IC_UNIFORM = 4, FIT_IC_KNOTS = 8 };
+/** Internal condition of the Hermite cubic: ic holds the first derivative at each node,
+ * nx values a function, function f's from ic + f*nx. */
+enum { FIT_IC_FIRST_DERIVATIVES = 1 };
 
 /** Parameter ids of the editors and queries. */
 enum {
@@ -343,6 +356,85 @@ int32_t brenn_df_kernel_dDFQuadraticSpline1D(FitTaskHandle task, int64_t method,
  * @copydetails brenn_df_kernel_dDFQuadraticSpline1D */
 int32_t brenn_df_kernel_sDFQuadraticSpline1D(FitTaskHandle task, int64_t method, int64_t flags,
                                              const struct threader* threader);
+/** Constructs the C2 cubic spline of each function: the node derivatives solve a
+ * tridiagonal system whose end rows come from bcType (FIT_BC_NOT_A_KNOT, FIT_BC_FREE_END,
+ * the first or second derivatives of 12, 24, 36, 48, or FIT_BC_PERIODIC). Needs nx of 2
+ * (3 for not-a-knot, whose three points give their parabola).
+ * @param task the task
+ * @param method the construction method; passed on
+ * @param flags 0
+ * @param threader the threading record, or null for the calling thread
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK; FIT_STATUS_FLAG_REFUSED; FIT_STATUS_BAD_NX;
+ *         FIT_STATUS_BAD_Y_HINT; FIT_STATUS_BAD_BC_TYPE (bcType 0 included);
+ *         FIT_STATUS_BAD_BC; FIT_STATUS_BAD_PERIODIC_VAL; FIT_STATUS_NO_MEMORY. */
+int32_t brenn_df_kernel_dDFNaturalCubicSpline1D(FitTaskHandle task, int64_t method, int64_t flags,
+                                                const struct threader* threader);
+/** The single-precision form of brenn_df_kernel_dDFNaturalCubicSpline1D().
+ * @copydetails brenn_df_kernel_dDFNaturalCubicSpline1D */
+int32_t brenn_df_kernel_sDFNaturalCubicSpline1D(FitTaskHandle task, int64_t method, int64_t flags,
+                                                const struct threader* threader);
+/** The cubic of brenn_df_kernel_dDFNaturalCubicSpline1D() with construction flags, of
+ * which none is defined yet (any non-zero flags give FIT_STATUS_FLAG_REFUSED after the
+ * other checks). Needs nx of 3.
+ * @copydetails brenn_df_kernel_dDFNaturalCubicSpline1D */
+int32_t brenn_df_kernel_dDFDefaultCubicSpline1D(FitTaskHandle task, int64_t method, int64_t flags,
+                                                const struct threader* threader);
+/** The single-precision form of brenn_df_kernel_dDFDefaultCubicSpline1D().
+ * @copydetails brenn_df_kernel_dDFDefaultCubicSpline1D */
+int32_t brenn_df_kernel_sDFDefaultCubicSpline1D(FitTaskHandle task, int64_t method, int64_t flags,
+                                                const struct threader* threader);
+/** Constructs Akima's cubic of each function: interior derivatives weight the two
+ * neighbouring slopes by the differences of the slopes beyond them (the plain mean when
+ * the weights sum below 1e-10); nodes 1 and nx-2 see the slopes extrapolated linearly
+ * (periodic: wrapped). bcType 0 gives the ends (3*m[0] - m[1]) / 2 and its mirror;
+ * the other codes as for the natural cubic. Needs nx of 5.
+ * @param task the task
+ * @param method the construction method; passed on
+ * @param flags passed on, not read
+ * @param threader the threading record, or null for the calling thread
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK; FIT_STATUS_BAD_NX; FIT_STATUS_BAD_Y_HINT;
+ *         FIT_STATUS_BAD_BC_TYPE; FIT_STATUS_BAD_BC (codes 12, 24, 36, 48, and 64 with
+ *         sType 0 or 3); FIT_STATUS_BAD_PERIODIC_VAL; FIT_STATUS_NO_MEMORY. */
+int32_t brenn_df_kernel_dDFAkimaCubicSpline1D(FitTaskHandle task, int64_t method, int64_t flags,
+                                              const struct threader* threader);
+/** The single-precision form of brenn_df_kernel_dDFAkimaCubicSpline1D().
+ * @copydetails brenn_df_kernel_dDFAkimaCubicSpline1D */
+int32_t brenn_df_kernel_sDFAkimaCubicSpline1D(FitTaskHandle task, int64_t method, int64_t flags,
+                                              const struct threader* threader);
+/** Constructs the Bessel cubic of each function: each derivative is that of the
+ * parabola through the node and its neighbours (bcType 0: at the ends, through the end
+ * three points; periodic: across the seam). Needs nx of 4.
+ * @copydetails brenn_df_kernel_dDFAkimaCubicSpline1D */
+int32_t brenn_df_kernel_dDFBesselCubicSpline1D(FitTaskHandle task, int64_t method, int64_t flags,
+                                               const struct threader* threader);
+/** The single-precision form of brenn_df_kernel_dDFBesselCubicSpline1D().
+ * @copydetails brenn_df_kernel_dDFBesselCubicSpline1D */
+int32_t brenn_df_kernel_sDFBesselCubicSpline1D(FitTaskHandle task, int64_t method, int64_t flags,
+                                               const struct threader* threader);
+/** Constructs the Hyman cubic of each function: Bessel's derivatives, then limited to
+ * three times the smaller neighbouring slope where the slopes share a sign (set to zero
+ * where a slope is zero or the derivative has the other sign), and at the ends to three
+ * times the end slope; a first derivative given at an end is kept as given. Monotone
+ * data give cells monotone the same way. Needs nx of 4.
+ * @copydetails brenn_df_kernel_dDFAkimaCubicSpline1D */
+int32_t brenn_df_kernel_dDFHymanCubicSpline1D(FitTaskHandle task, int64_t method, int64_t flags,
+                                              const struct threader* threader);
+/** The single-precision form of brenn_df_kernel_dDFHymanCubicSpline1D().
+ * @copydetails brenn_df_kernel_dDFHymanCubicSpline1D */
+int32_t brenn_df_kernel_sDFHymanCubicSpline1D(FitTaskHandle task, int64_t method, int64_t flags,
+                                              const struct threader* threader);
+/** Constructs the Hermite cubic of each function from the caller's node derivatives:
+ * icType FIT_IC_FIRST_DERIVATIVES with ic holding nx derivatives a function (function f's
+ * at ic + f*nx); the end codes replace the end derivatives (bcType 0 keeps them;
+ * periodic: both ends take bc[0] when bc is given, else ic's first). Needs nx of 3.
+ * @copydetails brenn_df_kernel_dDFAkimaCubicSpline1D
+ * Further: FIT_STATUS_BAD_IC_TYPE for another icType, FIT_STATUS_BAD_IC for a null ic. */
+int32_t brenn_df_kernel_dDFHermiteCubicSpline1D(FitTaskHandle task, int64_t method, int64_t flags,
+                                                const struct threader* threader);
+/** The single-precision form of brenn_df_kernel_dDFHermiteCubicSpline1D().
+ * @copydetails brenn_df_kernel_dDFHermiteCubicSpline1D */
+int32_t brenn_df_kernel_sDFHermiteCubicSpline1D(FitTaskHandle task, int64_t method, int64_t flags,
+                                                const struct threader* threader);
 
 /** Cell search. The cell of site s is 0 below x[0], j for x[j-1] <= s < x[j], nx-1 at
  * the right end and nx above it. Cells are 32-bit, except those of the user-defined
