@@ -2,6 +2,7 @@
 // the tables is told in basic_kernels.h.
 #include "stats/basic_kernels.h"
 #include "stats/four.h"
+#include "stats/onepass_lanes.h"
 
 #include <utility>
 
@@ -71,6 +72,17 @@ void OnePass(const T* x, int64_t ld, int64_t i0, int64_t i1, int64_t j0, int64_t
     }
     s->weight[0] = total;
     s->weight[1] = total2;
+}
+
+// Means and moments without the matrix: through the lanes where one variable's
+// observations are contiguous, or where there are too few variables for the plain
+// loop to run four of them a turn; the last few observations take the plain update.
+template <typename T, int kO, bool kW, bool kVarRows>
+void OnePassMoments(const T* x, int64_t ld, int64_t i0, int64_t i1, int64_t j0, int64_t j1,
+                    const T* w, MomentState<T>* s, T* work) {
+    if (kVarRows || j1 - j0 < 4)
+        i0 = OnePassLanes<T, kO, kW, kVarRows>(x, ld, i0, i1, j0, j1, w, s);
+    OnePass<T, false, kO, kW, kVarRows>(x, ld, i0, i1, j0, j1, w, s, work);
 }
 
 // Sums of powers 1 to kM + 1 of (x - centre), four observations a turn, for the
@@ -212,8 +224,10 @@ void BlockRaw(const T* x, int64_t ld, int64_t i0, int64_t i1, int64_t j0, int64_
 template <typename T, int kIndex>
 constexpr BasicKernel<T> Entry() {
     if constexpr (kIndex < 32) {
-        return OnePass<T, (kIndex & 1) != 0, (kIndex >> 1) & 3, (kIndex & 8) != 0,
-                       (kIndex & 16) != 0>;
+        if constexpr ((kIndex & 1) != 0)
+            return OnePass<T, true, (kIndex >> 1) & 3, (kIndex & 8) != 0, (kIndex & 16) != 0>;
+        else
+            return OnePassMoments<T, (kIndex >> 1) & 3, (kIndex & 8) != 0, (kIndex & 16) != 0>;
     } else {
         constexpr int e = kIndex - 32;
         if constexpr ((e & 16) == 0)

@@ -37,6 +37,32 @@ inline FourF operator*(FourF a, FourF b) {
     return {_mm_mul_ps(a.v, b.v)};
 }
 
+inline FourD operator/(FourD a, FourD b) {
+    return {_mm_div_pd(a.lo, b.lo), _mm_div_pd(a.hi, b.hi)};
+}
+inline FourF operator/(FourF a, FourF b) {
+    return {_mm_div_ps(a.v, b.v)};
+}
+
+// Lane masks (all bits set or none) and the selections by them.
+inline FourD BothZero(FourD a, FourD b) {
+    const __m128d z = _mm_setzero_pd();
+    return {_mm_and_pd(_mm_cmpeq_pd(a.lo, z), _mm_cmpeq_pd(b.lo, z)),
+            _mm_and_pd(_mm_cmpeq_pd(a.hi, z), _mm_cmpeq_pd(b.hi, z))};
+}
+inline FourF BothZero(FourF a, FourF b) {
+    const __m128 z = _mm_setzero_ps();
+    return {_mm_and_ps(_mm_cmpeq_ps(a.v, z), _mm_cmpeq_ps(b.v, z))};
+}
+// mask ? a : b, lane by lane.
+inline FourD Select(FourD mask, FourD a, FourD b) {
+    return {_mm_or_pd(_mm_and_pd(mask.lo, a.lo), _mm_andnot_pd(mask.lo, b.lo)),
+            _mm_or_pd(_mm_and_pd(mask.hi, a.hi), _mm_andnot_pd(mask.hi, b.hi))};
+}
+inline FourF Select(FourF mask, FourF a, FourF b) {
+    return {_mm_or_ps(_mm_and_ps(mask.v, a.v), _mm_andnot_ps(mask.v, b.v))};
+}
+
 template <typename T>
 struct Four;
 
@@ -59,6 +85,10 @@ struct Four<double> {
             _mm_storeu_pd(p + 2, v.hi);
         }
     }
+    // p[0], p[s], p[2s], p[3s].
+    static V Strided(const double* p, int64_t s) {
+        return {_mm_set_pd(p[s], p[0]), _mm_set_pd(p[3 * s], p[2 * s])};
+    }
     // Four elements widened to double lanes (here they are double already).
     static FourD Wide(const double* p) { return {_mm_loadu_pd(p), _mm_loadu_pd(p + 2)}; }
 };
@@ -77,6 +107,9 @@ struct Four<float> {
             _mm_store_ps(p, v.v);
         else
             _mm_storeu_ps(p, v.v);
+    }
+    static V Strided(const float* p, int64_t s) {
+        return {_mm_set_ps(p[3 * s], p[2 * s], p[s], p[0])};
     }
     static FourD Wide(const float* p) {
         __m128 v = _mm_loadu_ps(p);

@@ -61,6 +61,54 @@ inline void Syr(int n, float alpha, const float* x, float* a) {
     brenn_blas_xssyr("L", &n, &alpha, x, &one, a, &n);
 }
 
+// One variable's part of a state: the mean, the raw moments of orders 2 to 4 and the
+// central sums of orders 2 to 4.
+template <typename T>
+struct Moments1 {
+    T mean, raw[3], cen[3];
+};
+
+// Joins b into a for one variable, moments up to `order` (1 to 4): fa and fb are the
+// two parts' shares of the joint weight n, nab = n * fa * fb. Returns the difference of
+// the means, b's minus a's.
+template <typename T>
+inline T JoinMoments(Moments1<T>& a, const Moments1<T>& b, int order, T fa, T fb, T nab) {
+    T d = b.mean - a.mean;
+    if (order >= 4) {
+        T d2 = d * d;
+        a.cen[2] += b.cen[2] + d2 * d2 * nab * (fa * fa - fa * fb + fb * fb) +
+                    T(6) * d2 * (fa * fa * b.cen[0] + fb * fb * a.cen[0]) +
+                    T(4) * d * (fa * b.cen[1] - fb * a.cen[1]);
+    }
+    if (order >= 3)
+        a.cen[1] +=
+            b.cen[1] + d * d * d * nab * (fa - fb) + T(3) * d * (fa * b.cen[0] - fb * a.cen[0]);
+    if (order >= 2) a.cen[0] += b.cen[0] + d * d * nab;
+    for (int k = 0; k + 2 <= order; ++k)
+        a.raw[k] = a.raw[k] * fa + b.raw[k] * fb;
+    a.mean += d * fb;
+    return d;
+}
+
+template <typename T>
+inline Moments1<T> MomentsOf(const MomentState<T>& s, int64_t j, int order) {
+    Moments1<T> m{s.mean[j], {}, {}};
+    for (int k = 0; k + 2 <= order; ++k) {
+        m.raw[k] = s.raw[k][j];
+        m.cen[k] = s.cen[k][j];
+    }
+    return m;
+}
+
+template <typename T>
+inline void StoreMoments(MomentState<T>& s, int64_t j, const Moments1<T>& m, int order) {
+    s.mean[j] = m.mean;
+    for (int k = 0; k + 2 <= order; ++k) {
+        s.raw[k][j] = m.raw[k];
+        s.cen[k][j] = m.cen[k];
+    }
+}
+
 // Joins b into a: moments up to `order` (1 to 4). With a matrix, b's cross-product is
 // added unless bCrossAdded says the caller has already added it into a's matrix; the
 // term of the two means is always added. `delta` is q elements of scratch.
@@ -74,21 +122,9 @@ void MergeState(MomentState<T>& a, const MomentState<T>& b, int order, int64_t q
     T fa = aw / n, fb = bw / n;
     T nab = n * fa * fb; // aw * bw / n
     for (int64_t j = 0; j < q; ++j) {
-        T d = b.mean[j] - a.mean[j];
-        delta[j] = d;
-        if (order >= 4) {
-            T d2 = d * d;
-            a.cen[2][j] += b.cen[2][j] + d2 * d2 * nab * (fa * fa - fa * fb + fb * fb) +
-                           T(6) * d2 * (fa * fa * b.cen[0][j] + fb * fb * a.cen[0][j]) +
-                           T(4) * d * (fa * b.cen[1][j] - fb * a.cen[1][j]);
-        }
-        if (order >= 3)
-            a.cen[1][j] += b.cen[1][j] + d * d * d * nab * (fa - fb) +
-                           T(3) * d * (fa * b.cen[0][j] - fb * a.cen[0][j]);
-        if (order >= 2) a.cen[0][j] += b.cen[0][j] + d * d * nab;
-        for (int k = 0; k + 2 <= order; ++k)
-            a.raw[k][j] = a.raw[k][j] * fa + b.raw[k][j] * fb;
-        a.mean[j] += d * fb;
+        Moments1<T> m = MomentsOf(a, j, order);
+        delta[j] = JoinMoments(m, MomentsOf(b, j, order), order, fa, fb, nab);
+        StoreMoments(a, j, m, order);
     }
     if (a.cross != nullptr) {
         if (!bCrossAdded)
