@@ -1,0 +1,142 @@
+/* The double core of the hyperbolic rows. For a >= 0 up to the vector range limit, the
+ * halves A = e^a/2 and B = e^-a/2 from one reduction by ln2/64 with the exponential's
+ * table of 64 (exp_core.h): n = rint(a*64/ln2) = 64*m + j gives A = 2^(m-1)*T[j]*(1 + p(r))
+ * and -n = 64*m' + j' gives B = 2^(m'-1)*T[j']*(1 + p(-r)), each as a head (the scaled
+ * table value, exact) and a tail. Cosh is A + B, Sinh A - B, and Tanh their quotient.
+ * Below 1/2 Sinh (and the numerator of Tanh) take the odd series instead, since A - B
+ * cancels there. Also the single rows' HA path, which runs the same core on widened
+ * lanes. */
+#ifndef BRENN_VECMATH_HYPER_HYPER_CORE_H
+#define BRENN_VECMATH_HYPER_HYPER_CORE_H
+
+#include "vecmath/explog/exp_core.h"
+#include "vecmath/frame/level.h"
+#include "vecmath/frame/vec.h"
+
+namespace brenn::vm {
+
+// sinh(x) ~ x + x^3*P(x^2) on |x| <= 1/2, the coefficients of P from
+// tools/hyper/sinh_double.sollya: HA (2^-58 in the result) and LA (2^-53), the LA set
+// also serving EP and the single HA path.
+struct SinhSeriesHA {
+    static constexpr double kC[] = {0x1.5555555555555p-3,  0x1.11111111112c7p-7,
+                                    0x1.a01a019f7adb3p-13, 0x1.71de3bd757e7p-19,
+                                    0x1.ae60faa64a746p-26, 0x1.645500821bf55p-33};
+};
+struct SinhSeriesLA {
+    static constexpr double kC[] = {0x1.555555555556p-3, 0x1.1111111108859p-7,
+                                    0x1.a01a01e4db958p-13, 0x1.71dd794ebecdep-19,
+                                    0x1.b01e10f66f8ffp-26};
+};
+// Where the series takes over from A - B.
+constexpr double kSinhSeriesEnd = 0.5;
+
+// The series' part beyond x: x*z*P(z), z = x^2.
+template <class S>
+inline __m128d SinhSeriesTail(__m128d x) {
+    __m128d z = Mul(x, x);
+    return Mul(x, Mul(z, Horner(z, S::kC)));
+}
+
+// The halves of e^a, heads and tails.
+struct ExpHalves {
+    __m128d ah, al, bh, bl;
+};
+
+// 2^(m-1) for the integer m in each lane's low word, |m - 1| <= 1022.
+inline __m128d HalfPower(I32x4 m) {
+    I32x4 e = Add(m, Set<int32_t>(Format<double>::kBias - 1));
+    return AsFloat(ShiftLeft<Format<double>::kMantBits>(BitCast<I64x2>(e)));
+}
+
+// A and B of a in [0, 708]. B's power is held at 2^-1001 and up: below that B is far
+// under A's last bit, and the clamp keeps its exponent field in range.
+template <ExpDegree D>
+inline ExpHalves HalvesOf(__m128d a) {
+    using S = ExpStep64;
+    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    __m128d t = Add(Mul(a, Set<double>(S::kInvStep)), shifter);
+    __m128d n = Sub(t, shifter);
+    __m128d r = Sub(Sub(a, Mul(n, Set<double>(S::kStepHi))), Mul(n, Set<double>(S::kStepLo)));
+    __m128d tn = Sub(shifter, n); // -n in the low word
+    __m128d th, tl, uh, ul;
+    ExpRows64(t, th, tl);
+    ExpRows64(tn, uh, ul);
+    __m128d sa = HalfPower(ExpPower64(t));
+    __m128d sb = HalfPower(Max(ExpPower64(tn), Set<int32_t>(-1000)));
+    __m128d pa = ExpPolyD<D>(r);
+    __m128d pb = ExpPolyD<D>(Neg(r));
+    ExpHalves h;
+    h.ah = Mul(th, sa);
+    h.al = Mul(Add(Mul(th, pa), tl), sa);
+    h.bh = Mul(uh, sb);
+    h.bl = Mul(Add(Mul(uh, pb), ul), sb);
+    return h;
+}
+
+// A head and a tail whose sum is the value.
+struct Pair {
+    __m128d hi, lo;
+};
+
+// cosh a = A + B. With `exact`, the heads' sum is split into its rounded value and its
+// error (A's head is the larger: n >= 0), so that the result is rounded about once.
+template <bool exact>
+inline Pair CoshOf(const ExpHalves& h) {
+    Pair c;
+    if constexpr (exact) {
+        __m128d e;
+        FastTwoSum(h.ah, h.bh, c.hi, e);
+        c.lo = Add(e, Add(h.al, h.bl));
+    } else {
+        c.hi = Add(h.ah, h.bh);
+        c.lo = Add(h.al, h.bl);
+    }
+    return c;
+}
+
+// sinh a for a >= 0: the series below 1/2, A - B above, as a head and a tail.
+template <bool exact, class Series>
+inline Pair SinhOf(__m128d a, const ExpHalves& h) {
+    Pair s;
+    if constexpr (exact) {
+        __m128d e;
+        FastTwoSum(h.ah, Neg(h.bh), s.hi, e);
+        s.lo = Add(e, Sub(h.al, h.bl));
+    } else {
+        s.hi = Sub(h.ah, h.bh);
+        s.lo = Sub(h.al, h.bl);
+    }
+    __m128d small = Lt(a, Set<double>(kSinhSeriesEnd));
+    s.hi = IfThenElse(small, a, s.hi);
+    s.lo = IfThenElse(small, SinhSeriesTail<Series>(a), s.lo);
+    return s;
+}
+
+inline __m128d Sum(const Pair& p) {
+    return Add(p.hi, p.lo);
+}
+
+// n/d for pairs whose heads are the larger parts. With `exact`, the pairs are first
+// renormalised (a tail below half an ulp of its head), then the quotient of the heads is
+// corrected once by the remainder nh - q*dh (the product split exactly), so that the
+// quotient is rounded about once; else the quotient of the sums.
+template <bool exact>
+inline __m128d Quotient(const Pair& n, const Pair& d) {
+    if constexpr (exact) {
+        __m128d nh, nl, dh, dl;
+        FastTwoSum(n.hi, n.lo, nh, nl);
+        FastTwoSum(d.hi, d.lo, dh, dl);
+        __m128d q = Div(nh, dh);
+        __m128d ph, pl;
+        TwoProduct(q, dh, ph, pl);
+        __m128d rem = Sub(Add(Sub(Sub(nh, ph), pl), nl), Mul(q, dl));
+        return Add(q, Div(rem, dh));
+    } else {
+        return Div(Sum(n), Sum(d));
+    }
+}
+
+} // namespace brenn::vm
+
+#endif
