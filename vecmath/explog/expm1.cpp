@@ -1,20 +1,23 @@
 /* Expm1, single (one kernel for all levels) and double (three levels).
  *
- * e^x - 1 = 2^m*T*(1 + p) - 1 on the double core of exp_core.h, with the subtraction of 1
- * placed by m so that nothing cancels: for -1 <= m <= 52, 2^m*((Thi - 2^-m) + s), the
- * inner difference exact; for m > 52, 2^m*(Thi + (s - 2^-m)); for m <= -2, 2^m*(Thi + s)
- * - 1, the result then being near -1. Here s = Thi*p + Tlo. For small |x| (m = 0, j = 0)
- * this is p itself, whose polynomial is fitted for relative error. HA has degree 6 and
- * carries th*r and the middle sum exactly; LA degree 6 in plain arithmetic; EP degree 4;
- * the single kernel widens to double with degree 5 and rounds once.
+ * The single kernel (every level) and double LA and EP: no table, x = n*ln2 + r,
+ * e^x - 1 = (2^n - 1) + 2^n*p(r), one rounding (Expm1NoTable); the single lanes widened
+ * to double with degree 7 and rounded once, double LA degree 11, EP degree 7.
+ * Double HA: e^x - 1 = 2^m*T*(1 + p) - 1 on the double core of exp_core.h, with the
+ * subtraction of 1 placed by m so that nothing cancels: for -1 <= m <= 52,
+ * 2^m*((Thi - 2^-m) + s), the inner difference exact; for m > 52, 2^m*(Thi + (s - 2^-m));
+ * for m <= -2, 2^m*(Thi + s) - 1, the result then being near -1. Here s = Thi*p + Tlo.
+ * For small |x| (m = 0, j = 0) this is p itself, whose polynomial is fitted for relative
+ * error; degree 6, th*r and the middle sum carried exactly. The scalar routines run the
+ * same core (degree 6, EP 4) in plain arithmetic.
  * Range test |x| above 708 (double) or 86.6433945 (single); the scalar routine gives
  * +inf above the overflow limit (an overflow), -1 for large negative x, e^x itself
  * above 709 (where the core's scale 2^m would pass 2^1022), and the core's value
  * otherwise. Error mode 0x2000 blends the overflow lanes to +inf.
  *
- * Measured (brenn_accuracy, full run): sExpm1 0.50 ulp (one kernel for every level);
- * dExpm1 LA 1.51 ulp, HA 0.74 ulp, EP 39.6 bits. The polynomials are the core's
- * (tools/explog/expm1_double.sollya). */
+ * Measured (brenn_accuracy, full run): sExpm1 0.503 ulp (one kernel for every level);
+ * dExpm1 LA 1.26 ulp, HA 0.74 ulp, EP 31.7 bits. The polynomials: without a table
+ * tools/explog/expm1_notable.sollya, the core's tools/explog/expm1_double.sollya. */
 #include "frame/kernels.h"
 #include "vecmath/explog/exp_core.h"
 #include "vecmath/explog/exp_fixup.h"
@@ -66,17 +69,59 @@ inline __m128d Expm1Core(__m128d x) {
     return IfThenElse(tiny, x, y);
 }
 
+// Without a table, for the kernels whose bound leaves room for it (the single kernel,
+// which needs 2^-30 from its double lanes, and double LA and EP): x = n*ln2 + r with
+// |r| <= ln2/2, p(r) ~ e^r - 1 by Estrin's scheme, and e^x - 1 = (2^n - 1) + 2^n*p:
+// 2^n*p is exact and 2^n - 1 is exact for |n| <= 53 (beyond, its rounding is below the
+// result's last place), so the sum is the one rounding. It does not cancel (n = 1:
+// 1 + 2p >= 0.42; n = -1: -1/2 + p/2 <= -0.29), so one formula serves every n, with no
+// branches to blend; n = 0 gives p itself, fitted for relative error. |x| <= 708 keeps
+// 2^n normal.
+struct Expm1Wide {
+    static constexpr double kInvLn2 = 0x1.71547652b82fep0;
+    // ln2 rounded, and in two parts whose head (17 trailing zero bits) times n is exact.
+    // The single lanes take the one part: n*ln2 rounds by 2^-46 at most (|n| <= 125),
+    // far below what they need.
+    static constexpr double kLn2 = 0x1.62e42fefa39efp-1;
+    static constexpr double kLn2Hi = 0x1.62e42fefa0000p-1, kLn2Lo = 0x1.cf79abc9e3b3ap-40;
+    // c2.. of p(r) = r + r^2*(c2 + r*(c3 + ...)), by tools/explog/expm1_notable.sollya:
+    // degree 7 (2^-32) and degree 11 (2^-55.5).
+    static constexpr double kC7[] = {0x1.00000025e9e2ep-1,  0x1.555554ef9f8ap-3,
+                                     0x1.5554b13fd176bp-5,  0x1.1111895968e09p-7,
+                                     0x1.6d71e580c208ap-10, 0x1.a032bf272ab19p-13};
+    static constexpr double kC11[] = {
+        0x1.0000000000005p-1,  0x1.555555555553bp-3,  0x1.5555555552111p-5,  0x1.1111111118833p-7,
+        0x1.6c16c17f2d325p-10, 0x1.a01a0177ef8dfp-13, 0x1.a019a6a84b125p-16, 0x1.71de8115c2393p-19,
+        0x1.28a2879f6906p-22,  0x1.ae775916d5f05p-26};
+};
+
+template <bool TwoPartLn2, size_t N>
+inline __m128d Expm1NoTable(__m128d x, const double (&c)[N]) {
+    using W = Expm1Wide;
+    using F = Format<double>;
+    const __m128d shifter = Set<double>(F::kShifter);
+    __m128d t = Add(Mul(x, Set<double>(W::kInvLn2)), shifter);
+    __m128d n = Sub(t, shifter);
+    __m128d r;
+    if constexpr (TwoPartLn2)
+        r = Sub(Sub(x, Mul(n, Set<double>(W::kLn2Hi))), Mul(n, Set<double>(W::kLn2Lo)));
+    else
+        r = Sub(x, Mul(n, Set<double>(W::kLn2)));
+    __m128d p = Add(r, Mul(Mul(r, r), Estrin(r, c)));
+    // n in the low word of each lane of t, moved with the bias into the exponent field
+    I32x4 e = Add(BitCast<I32x4>(t), Set<int32_t>(F::kBias));
+    __m128d scale = AsFloat(ShiftLeft<F::kMantBits>(BitCast<I64x2>(e)));
+    return Add(Mul(scale, p), Sub(scale, Set<double>(1.0)));
+}
+
 // By precision: the range window on |x| (86.6433945 in single, 708 in double), and by
-// level the vector degree, whether the middle sum is carried exactly, and the degree of
-// the scalar routine. The single kernel (every level) has degree 5 and its scalar
-// routine rounds from degree 6; double HA is degree 6 exact, LA degree 6, EP degree 4.
+// level the table core's degree and whether its middle sum is carried exactly, for the
+// double HA kernel and for the scalar routines (degree 6, EP degree 4).
 template <class T>
 struct Expm1Const;
 template <>
 struct Expm1Const<float> {
     static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x42AD496Bu};
-    template <Level L>
-    static constexpr ExpDegree kDegree = ExpDegree::Five;
     template <Level L>
     static constexpr bool kExact = false;
     template <Level L>
@@ -86,11 +131,9 @@ template <>
 struct Expm1Const<double> {
     static constexpr Range64 kWindow = {0x7FFFFFFFFFFFFFFFull, 0ull, 0x4086200000000000ull};
     template <Level L>
-    static constexpr ExpDegree kDegree = L == Level::EP ? ExpDegree::Four : ExpDegree::Six;
-    template <Level L>
     static constexpr bool kExact = L == Level::HA;
     template <Level L>
-    static constexpr ExpDegree kScalarDegree = kDegree<L>;
+    static constexpr ExpDegree kScalarDegree = L == Level::EP ? ExpDegree::Four : ExpDegree::Six;
 };
 
 // The scalar routine's value for a finite x below the overflow limit.
@@ -105,16 +148,24 @@ inline double Expm1Value(double x) {
     return GetLane(Expm1Core<D, Exact>(Set<double>(x)));
 }
 
-// Single lanes widened to double, run on the core and rounded once.
-template <ExpDegree D, bool Exact>
+// Vector values by level: the single kernel widens its lanes to double, runs the
+// degree-7 form and rounds once; double LA and EP the degree-11 and degree-7 forms, HA
+// the table core. e^x - 1 has the sign of x, which the forms without a table give to
+// every result but that of -0: x's sign bit is put back.
+template <Level L>
 inline __m128 Expm1Of(__m128 x) {
-    __m128d lo = Expm1Core<D, Exact>(WidenLower(x));
-    __m128d hi = Expm1Core<D, Exact>(WidenUpper(x));
-    return Narrow(lo, hi);
+    __m128d lo = Expm1NoTable<false>(WidenLower(x), Expm1Wide::kC7);
+    __m128d hi = Expm1NoTable<false>(WidenUpper(x), Expm1Wide::kC7);
+    return Or(Narrow(lo, hi), SignBit(x));
 }
-template <ExpDegree D, bool Exact>
+template <Level L>
 inline __m128d Expm1Of(__m128d x) {
-    return Expm1Core<D, Exact>(x);
+    if constexpr (L == Level::HA)
+        return Expm1Core<ExpDegree::Six, true>(x);
+    else if constexpr (L == Level::LA)
+        return Or(Expm1NoTable<true>(x, Expm1Wide::kC11), SignBit(x));
+    else
+        return Or(Expm1NoTable<true>(x, Expm1Wide::kC7), SignBit(x));
 }
 
 template <class Tp, Level L>
@@ -122,13 +173,12 @@ struct Expm1Body {
     using T = Tp;
     using V = Vec<T>;
     using K = Expm1Const<T>;
-    static constexpr ExpDegree kDegree = K::template kDegree<L>;
     static constexpr bool kExact = K::template kExact<L>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Expm1);
     static V Eval(V x, V& special) {
         special = RangeTest(x, K::kWindow);
         x = IfThenZeroElse(special, x); // special lanes run on 0: no flags of their own
-        return Expm1Of<kDegree, kExact>(x);
+        return Expm1Of<L>(x);
     }
     static int Scalar(const T* a, T* y) {
         T x = *a;
