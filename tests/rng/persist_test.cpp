@@ -30,7 +30,9 @@ const Gen kGenerators[] = {{QES_BRNG_MCG31M1, 4}, {0, 4},
                            {QES_BRNG_MT19937, 4}, {QES_BRNG_SFMT19937, 4},
                            {QES_BRNG_MT2203, 4},  {QES_BRNG_MT2203 + 6023, 4},
                            {QES_BRNG_MRG32K3A, 4}, {2, 4},
-                           {QES_BRNG_R250, 4},    {1, 4}};
+                           {QES_BRNG_R250, 4},    {1, 4},
+                           {QES_BRNG_WH, 16},     {QES_BRNG_WH + 272, 16},
+                           {276, 16}};
 
 std::string TempPath(const char* tag) {
     return std::string(::testing::TempDir()) + "brenn_persist_" + tag + "_" +
