@@ -1,0 +1,157 @@
+// Summary statistics in one call: checks, a task over the caller's matrix with a
+// working array for every estimate array the caller did not give (the compute's
+// requirement rules then always hold), the basic and min/max computes, and the
+// task's end on every path.
+#include <cmath>
+#include <limits>
+#include <new>
+#include <vector>
+
+#include "brenn_ss.h"
+#include "frontend/export.h"
+#include "platform/threader.h"
+
+namespace {
+
+constexpr uint64_t kBasic = BRENN_SS_MEAN | BRENN_SS_2R_MOM | BRENN_SS_3R_MOM | BRENN_SS_4R_MOM |
+                            BRENN_SS_2C_MOM | BRENN_SS_3C_MOM | BRENN_SS_4C_MOM |
+                            BRENN_SS_SKEWNESS | BRENN_SS_KURTOSIS | BRENN_SS_VARIATION |
+                            BRENN_SS_COV | BRENN_SS_COR;
+constexpr uint64_t kMinMax = BRENN_SS_MIN | BRENN_SS_MAX;
+
+// The precision's entries of the statistics service.
+template <class T>
+struct Entries;
+template <>
+struct Entries<double> {
+    static constexpr auto newTask = _qesdSSNewTask;
+    static constexpr auto edit = _qesdSSEditTask;
+    static constexpr auto basic = _qesdSSBasic;
+    static constexpr auto minmax = _qesdSSMinmax;
+};
+template <>
+struct Entries<float> {
+    static constexpr auto newTask = _qessSSNewTask;
+    static constexpr auto edit = _qessSSEditTask;
+    static constexpr auto basic = _qessSSBasic;
+    static constexpr auto minmax = _qessSSMinmax;
+};
+
+// One result array: its estimate bit, editor id, and whether it is p x p.
+struct Field {
+    uint64_t bit;
+    int64_t id;
+    bool square;
+};
+constexpr Field kFields[14] = {
+    {BRENN_SS_MEAN, BRENN_SS_ED_MEAN, false},
+    {BRENN_SS_2R_MOM, BRENN_SS_ED_2R_MOM, false},
+    {BRENN_SS_3R_MOM, BRENN_SS_ED_3R_MOM, false},
+    {BRENN_SS_4R_MOM, BRENN_SS_ED_4R_MOM, false},
+    {BRENN_SS_2C_MOM, BRENN_SS_ED_2C_MOM, false},
+    {BRENN_SS_3C_MOM, BRENN_SS_ED_3C_MOM, false},
+    {BRENN_SS_4C_MOM, BRENN_SS_ED_4C_MOM, false},
+    {BRENN_SS_SKEWNESS, BRENN_SS_ED_SKEWNESS, false},
+    {BRENN_SS_KURTOSIS, BRENN_SS_ED_KURTOSIS, false},
+    {BRENN_SS_VARIATION, BRENN_SS_ED_VARIATION, false},
+    {BRENN_SS_MIN, BRENN_SS_ED_MIN, false},
+    {BRENN_SS_MAX, BRENN_SS_ED_MAX, false},
+    {BRENN_SS_COV, BRENN_SS_ED_COV, true},
+    {BRENN_SS_COR, BRENN_SS_ED_COR, true},
+};
+
+template <class T, class Matrix, class Results>
+int Check(const Matrix* m, uint64_t estimates, const Results* r, T* const* arrays) {
+    if (m == nullptr || r == nullptr) return BRENN_ERR_NULL_POINTER;
+    if (m->p < 1 || m->n < 1) return BRENN_ERR_BAD_SIZE;
+    if (m->layout != BRENN_SS_VARIABLES_IN_ROWS && m->layout != BRENN_SS_OBSERVATIONS_IN_ROWS)
+        return BRENN_ERR_BAD_ARGUMENT;
+    if (m->x == nullptr) return BRENN_ERR_NULL_POINTER;
+    if ((estimates & ~(kBasic | kMinMax)) != 0) return BRENN_ERR_NOT_AVAILABLE;
+    for (int f = 0; f < 14; ++f)
+        if ((estimates & kFields[f].bit) != 0 && arrays[f] == nullptr)
+            return BRENN_ERR_NULL_POINTER;
+    if (m->weights != nullptr)
+        for (int64_t i = 0; i < m->n; ++i)
+            if (!(m->weights[i] >= 0 && std::isfinite(m->weights[i])))
+                return BRENN_ERR_BAD_ARGUMENT;
+    return BRENN_OK;
+}
+
+template <class T, class Matrix, class Results>
+int Compute(const Matrix* m, uint64_t estimates, const Results* r) {
+    T* const arrays[14] = {r ? r->mean : nullptr,
+                           r ? r->raw_moment2 : nullptr,
+                           r ? r->raw_moment3 : nullptr,
+                           r ? r->raw_moment4 : nullptr,
+                           r ? r->central_moment2 : nullptr,
+                           r ? r->central_moment3 : nullptr,
+                           r ? r->central_moment4 : nullptr,
+                           r ? r->skewness : nullptr,
+                           r ? r->kurtosis : nullptr,
+                           r ? r->variation : nullptr,
+                           r ? r->minimum : nullptr,
+                           r ? r->maximum : nullptr,
+                           r ? r->covariance : nullptr,
+                           r ? r->correlation : nullptr};
+    if (int s = Check<T>(m, estimates, r, arrays)) return s;
+    if (estimates == 0) return BRENN_OK;
+    const int64_t p = m->p;
+    // Working arrays for the estimates not asked for; the task reads them only.
+    std::vector<T> work;
+    T* columns[14];
+    {
+        size_t need = 0;
+        for (const Field& f : kFields)
+            need += f.square ? p * p : p;
+        work.resize(need);
+        size_t at = 0;
+        for (int f = 0; f < 14; ++f) {
+            columns[f] = work.data() + at;
+            at += kFields[f].square ? p * p : p;
+        }
+    }
+    const int64_t storage = m->layout, full = BRENN_SS_MATRIX_STORAGE_FULL;
+    T accumWeight[2] = {0, 0};
+    void* task = nullptr;
+    int status =
+        Entries<T>::newTask(&task, &m->p, &m->n, &storage, m->x, m->weights, m->indices, 1);
+    if (status != BRENN_SS_OK) {
+        _qesSSDeleteTask(&task);
+        return status;
+    }
+    for (int f = 0; f < 14 && status == BRENN_SS_OK; ++f) {
+        T* target = (estimates & kFields[f].bit) != 0 ? arrays[f] : columns[f];
+        status = Entries<T>::edit(task, kFields[f].id, target);
+        columns[f] = target;
+    }
+    if (status == BRENN_SS_OK) status = _qesiSSEditTask(task, BRENN_SS_ED_COV_STORAGE, &full);
+    if (status == BRENN_SS_OK) status = _qesiSSEditTask(task, BRENN_SS_ED_COR_STORAGE, &full);
+    if (status == BRENN_SS_OK)
+        status = Entries<T>::edit(task, BRENN_SS_ED_ACCUM_WEIGHT, accumWeight);
+    if (status == BRENN_SS_OK && (estimates & kBasic) != 0)
+        status = Entries<T>::basic(task, estimates & kBasic, BRENN_SS_METHOD_ONE_PASS,
+                                   brenn_serv_pool_threader());
+    if (status == BRENN_SS_OK && (estimates & kMinMax) != 0) {
+        // The min/max compute updates its arrays: they start from the infinities.
+        for (int64_t j = 0; j < p; ++j) {
+            columns[10][j] = std::numeric_limits<T>::infinity();
+            columns[11][j] = -std::numeric_limits<T>::infinity();
+        }
+        status = Entries<T>::minmax(task, estimates & kMinMax, BRENN_SS_METHOD_FAST);
+    }
+    _qesSSDeleteTask(&task);
+    return status;
+}
+
+} // namespace
+
+BRENN_FE_EXPORT int brenn_ss_dcompute(const brenn_ss_dmatrix* matrix, uint64_t estimates,
+                                      const brenn_ss_dresults* results) {
+    return Compute<double>(matrix, estimates, results);
+}
+
+BRENN_FE_EXPORT int brenn_ss_scompute(const brenn_ss_smatrix* matrix, uint64_t estimates,
+                                      const brenn_ss_sresults* results) {
+    return Compute<float>(matrix, estimates, results);
+}
