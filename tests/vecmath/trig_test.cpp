@@ -134,6 +134,26 @@ TEST(Trig, HugeAndSeamArguments) {
             ExpectAccurate(rc, slot, xd);
 }
 
+// The floats nearest to each multiple of pi/2 on the single short paths, where the
+// remainder cancels to a few bits: the LA kernels reduce in single and must see these
+// lanes and redo them in double. Each round of sixteen holds one such triple among
+// ordinary arguments, so the redone round is mostly lanes that did not need it.
+TEST(Trig, SingleNearMultiplesOfHalfPi) {
+    std::mt19937 gen(5);
+    std::uniform_real_distribution<float> ordinary(-6, 6);
+    std::vector<float> x;
+    for (int k = 1; k * 1.5707963267948966 < 10000; ++k) {
+        float m = float(k * 1.5707963267948966L);
+        for (float v : {std::nextafter(m, 0.0f), m, std::nextafter(m, 2e4f)})
+            x.push_back(k % 2 ? v : -v);
+        for (int i = 0; i < 13; ++i)
+            x.push_back(ordinary(gen));
+    }
+    for (const RowCase& rc : kSingle)
+        for (int slot = 0; slot < kSlots; ++slot)
+            ExpectAccurate(rc, slot, x);
+}
+
 // A block mixing one huge lane among small ones gives, lane for lane, the results that
 // each element gets alone: the masks keep each path's lanes apart.
 template <class T>

@@ -260,16 +260,21 @@ BRENN_TRIG_HOT void TableSin(const int32_t* J, __m128d rh, __m128d rl, __m128d& 
     Combine(t.sh, t.sl, t.ch, t.cl, rh, rl, SeriesOf(rh), exact, hi, lo);
 }
 
-// Sine and cosine at once from one row and one series.
-BRENN_TRIG_HOT void TableSinCos(const int32_t* J, __m128d rh, __m128d rl, bool exact, __m128d& s,
-                                __m128d& c) {
+// Sine and cosine at once from one row and one series, each as a high and a low part
+// (the row at J + 32 holds cos A and -sin A, so these are the values TableSin gives there).
+BRENN_TRIG_HOT void TableSinCos(const int32_t* J, __m128d rh, __m128d rl, bool exact, __m128d& sh,
+                                __m128d& sl, __m128d& ch, __m128d& cl) {
     TableRow t = LoadRows(J);
     Series r = SeriesOf(rh);
-    __m128d hi, lo;
-    Combine(t.sh, t.sl, t.ch, t.cl, rh, rl, r, exact, hi, lo);
-    s = Add(hi, lo);
-    Combine(t.ch, t.cl, Neg(t.sh), Neg(t.sl), rh, rl, r, exact, hi, lo);
-    c = Add(hi, lo);
+    Combine(t.sh, t.sl, t.ch, t.cl, rh, rl, r, exact, sh, sl);
+    Combine(t.ch, t.cl, Neg(t.sh), Neg(t.sl), rh, rl, r, exact, ch, cl);
+}
+BRENN_TRIG_HOT void TableSinCos(const int32_t* J, __m128d rh, __m128d rl, bool exact, __m128d& s,
+                                __m128d& c) {
+    __m128d sh, sl, ch, cl;
+    TableSinCos(J, rh, rl, exact, sh, sl, ch, cl);
+    s = Add(sh, sl);
+    c = Add(ch, cl);
 }
 
 BRENN_TRIG_HOT __m128d TableSin(const int32_t* J, __m128d rh, __m128d rl, bool exact = false) {
@@ -305,6 +310,20 @@ inline __m128 LargeSinS(__m128 a, bool cosine) {
     __m128d lo = TableSinS(J, r0);
     __m128d hi = TableSinS(J + 2, r1);
     return Narrow(lo, hi);
+}
+
+// The single LA kernels reduce in single, good to 2^-35 absolute on their short paths;
+// a remainder below 2^-9 (as bits), where that would be more than a tenth of an ulp, is
+// redone in double.
+constexpr uint32_t kNearZeroBits = 0x3B000000;
+
+// Whether any lane of N single remainders is below 2^-9 in magnitude: one compare on
+// the least of them.
+template <int N>
+BRENN_TRIG_HOT bool AnyNearZeroS(const __m128* r) {
+    I32x4 least = AsInt(Abs(r[0]));
+    BRENN_EACH(k, N - 1) least = Min(least, AsInt(Abs(r[k + 1])));
+    return MaskBits(Lt(least, Set<uint32_t>(kNearZeroBits))) != 0;
 }
 
 // Lanes with the exponent field all ones (infinity and NaN), as the range-test mask.

@@ -4,10 +4,11 @@
  * + 0.5) - 0.5, a half-integer, since cos a = sin(a + pi/2)); the low bit of the
  * rounded value is the sign (-1)^n; r = |x| - n pi in [-pi/2, pi/2]; an odd series in r.
  * EP: pi in three single parts, the first two short so that their products with n are
- * exact, and a three-term series (tools/trig/sin_single_ep.sollya). LA: r in double
- * with pi in two parts, narrowed to single, and a five-term single series
- * (tools/trig/sin_single.sollya). HA: the same reduction and the same form in double
- * (tools/trig/sin_single_ha.sollya).
+ * exact, and a three-term series (tools/trig/sin_single_ep.sollya). LA: the same
+ * reduction, good to 2^-35 absolute, except where a remainder below 2^-9 is seen (a lane
+ * near a multiple of pi): then r in double with pi in two parts, narrowed to single; a
+ * five-term single series (tools/trig/sin_single.sollya). HA: r in double always and the
+ * same form in double (tools/trig/sin_single_ha.sollya).
  *
  * Measured (brenn_accuracy, 250000 inputs a row): EP 13.2 bits in sSin, sCos and
  * sSinCos; LA 1.79 ulp (sSin), 1.72 ulp (sCos), 1.85 ulp (sSinCos); HA 0.600 ulp (sSin,
@@ -79,6 +80,17 @@ BRENN_TRIG_HOT void SeriesOdd(const V* r, const C (&c)[M], V* p) {
     BRENN_EACH(k, N) p[k] = Add(r[k], Mul(Mul(r[k], u[k]), q[k]));
 }
 
+// r = a - n pi in single with pi in three parts. The first two differences are exact
+// (n has at most 13 bits, 14 with cosine's half, and a - n P0 is a short multiple of
+// a's ulp); the third product rounds, and the parts stop 2^-48 short of pi: at most
+// 2^-35 in all below the limit.
+template <int N>
+BRENN_TRIG_HOT void ReduceS(const __m128* a, const __m128* n, __m128* r) {
+    BRENN_EACH(k, N) r[k] = Sub(a[k], Mul(n[k], Set<float>(kPiEP[0])));
+    BRENN_EACH(k, N) r[k] = Sub(r[k], Mul(n[k], Set<float>(kPiEP[1])));
+    BRENN_EACH(k, N) r[k] = Sub(r[k], Mul(n[k], Set<float>(kPiEP[2])));
+}
+
 // r = a - n pi in double, lanes 0-1 of register k in r[2k], 2-3 in r[2k+1].
 template <int N>
 BRENN_TRIG_HOT void ReduceD(const __m128* a, const __m128* n, __m128d* r) {
@@ -113,22 +125,25 @@ BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p,
     if (cosine) BRENN_EACH(k, N) n[k] = Sub(n[k], Set<float>(0.5f));
     if constexpr (L == Level::EP) {
         __m128 r[N];
-        BRENN_EACH(k, N) r[k] = Sub(a[k], Mul(n[k], Set<float>(kPiEP[0])));
-        BRENN_EACH(k, N) r[k] = Sub(r[k], Mul(n[k], Set<float>(kPiEP[1])));
-        BRENN_EACH(k, N) r[k] = Sub(r[k], Mul(n[k], Set<float>(kPiEP[2])));
+        ReduceS<N>(a, n, r);
         SeriesEP<N>(r, p);
+    } else if constexpr (L == Level::LA) {
+        // The single reduction is good to 2^-35 absolute; only a remainder below 2^-9
+        // (a lane near a multiple of pi, a few in a thousand) needs the double one.
+        __m128 r[N];
+        ReduceS<N>(a, n, r);
+        if (__builtin_expect(AnyNearZeroS<N>(r), 0)) {
+            __m128d rd[2 * N];
+            ReduceD<N>(a, n, rd);
+            BRENN_EACH(k, N) r[k] = Narrow(rd[2 * k], rd[2 * k + 1]);
+        }
+        SeriesOdd<N>(r, kSinLA, p);
     } else {
         __m128d r[2 * N];
         ReduceD<N>(a, n, r);
-        if constexpr (L == Level::LA) {
-            __m128 rs[N];
-            BRENN_EACH(k, N) rs[k] = Narrow(r[2 * k], r[2 * k + 1]);
-            SeriesOdd<N>(rs, kSinLA, p);
-        } else {
-            __m128d pd[2 * N];
-            SeriesOdd<2 * N>(r, kSinHA, pd);
-            BRENN_EACH(k, N) p[k] = Narrow(pd[2 * k], pd[2 * k + 1]);
-        }
+        __m128d pd[2 * N];
+        SeriesOdd<2 * N>(r, kSinHA, pd);
+        BRENN_EACH(k, N) p[k] = Narrow(pd[2 * k], pd[2 * k + 1]);
     }
     BRENN_EACH(k, N) p[k] = Xor(p[k], sign[k]);
     // cos of tiny arguments: exactly 1.0, as the rounded value is.

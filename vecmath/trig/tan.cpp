@@ -1,24 +1,26 @@
 /* Tan in single and double, three levels.
  *
- * Short path, one form for single EP, single LA and HA and double EP: n = round(a 2/pi)
- * by the shifter, r = a - n pi/2 with pi/2 in parts, then s/c or, for n odd, -c/s.
- * Single EP reduces in single with pi/2 in three parts (the first two short, so that
- * their products with n are exact), s and c a rational form's numerator and denominator
- * (tools/trig/tan_single_ep.sollya), the division a reciprocal estimate with one Newton
- * step. Single LA and HA widen the argument to double (pi/2 in two parts) and double EP
- * takes pi/2 in three; both take s and c as the Taylor series of sine and cosine to the
- * terms in r^9 and r^10, good to 2^-29 on [-pi/4, pi/4] (plain Taylor terms, no fit).
- * The single short path holds to 8256, the double one to 2^24.
+ * Short path, one form for every slot but double HA: n = round(a 2/pi) by the shifter,
+ * r = a - n pi/2 with pi/2 in parts, then s/c or, for n odd, -c/s. Single EP reduces in single with
+ * pi/2 in three parts (the first two short, so that their products with n are exact), s and c a
+ * rational form's numerator and denominator (tools/trig/tan_single_ep.sollya), the
+ * division a reciprocal estimate with one Newton step. Single LA reduces the same way
+ * (a remainder below 2^-9 is redone in double) and takes s = r + r^3 S(r^2) and
+ * c = 1 + r^2 C(r^2), a Pade denominator of tan and a numerator fitted to it, in single,
+ * with a true division. Single HA widens the argument to double (pi/2 in two parts) and
+ * takes the double EP set, double EP pi/2 in three parts, double LA in four with a
+ * longer set (tools/trig/tan_quotient.sollya). The single short path holds to 8256, the
+ * double one to 2^24.
  *
- * Double LA and HA: the table reduction gives sin and cos each as two doubles; LA
- * corrects the quotient once by its residual, HA does so with the product of the
- * quotient and the cosine carried exactly and the table products exact too. Near a pole
- * the cosine is small but accurate, so the result is a large finite number. Lanes above
- * the short path's limit take the vector large reduction of reduce.h in the same block
- * and finish by the table.
+ * Double HA: the table reduction gives sin and cos each as two doubles from one table
+ * row and one series, and the quotient is corrected once by its residual, with the
+ * product of the quotient and the cosine carried exactly and the table products exact
+ * too. Near a pole the cosine is small but accurate, so the result is a large finite
+ * number. Lanes above the short path's limit take the vector large reduction of reduce.h
+ * in the same block and finish by the table.
  *
- * Measured (brenn_accuracy, 250000 inputs a row): sTan EP 20.7 bits, LA 0.543 ulp,
- * HA 0.543 ulp; dTan EP 28.5 bits, LA 1.33 ulp, HA 0.514 ulp. */
+ * Measured (brenn_accuracy, 250000 inputs a row): sTan EP 20.7 bits, LA 2.96 ulp,
+ * HA 0.522 ulp; dTan EP 29.3 bits, LA 2.87 ulp, HA 0.514 ulp. */
 #include <bit>
 
 #include "frame/kernels.h"
@@ -49,15 +51,35 @@ struct TanShort<double> {
     static constexpr double kTwoOverPi = 0x1.45f306dc9c883p-1;
     static constexpr double kPiHalfWide[] = {0x1.921fb5444p0, 0x1.68c234c4c6629p-39};
     static constexpr double kPiHalf[] = {0x1.921fb4p0, 0x1.4442dp-24, 0x1.8469898cc517p-48};
+    static constexpr double kPiHalfLA[] = {0x1.921fb4p0, 0x1.4442dp-24, 0x1.846988p-48,
+                                           0x1.8cc51701b839ap-72};
 };
 
 // Single EP: tan r ~ r (a0 + a1 u) / (1 + b0 u + b1 u^2), u = r^2, on [-pi/4, pi/4].
 // tools/trig/tan_single_ep.sollya states the form and measures it.
 constexpr float kTanNum[] = {0x1.fffff8p-1f, -0x1.886768p-4f};
 constexpr float kTanDen[] = {1.0f, -0x1.b76f56p-2f, 0x1.3e66d6p-7f};
-// sin r - r over r^3 and cos r, in u: Taylor terms.
-constexpr double kSinTerms[] = {-1.0 / 6, 1.0 / 120, -1.0 / 5040, 1.0 / 362880};
-constexpr double kCosTerms[] = {1.0, -0.5, 1.0 / 24, -1.0 / 720, 1.0 / 40320, -1.0 / 3628800};
+// The quotient's sides, s = r + r u S(u) and c = C(u) with C(0) = 1, as sets of
+// coefficients in u, lowest degree first: c a Pade denominator of tan, s fitted to it.
+// tools/trig/tan_quotient.sollya. Double EP (and single HA, in double): s/c good to 29
+// bits on [-pi/4, pi/4]; double LA: 54 bits.
+struct TanFitEP {
+    static constexpr double kS[] = {-0x1.c71c76d5e4acbp-4, 0x1.156aaf598c586p-10};
+    static constexpr double kC[] = {1.0, -0x1.c71c71c71c71cp-2, 0x1.04104104103ffp-6};
+};
+struct TanFitLA {
+    static constexpr double kS[] = {-0x1.11111111110f5p-3, 0x1.c01c01c018fbap-9,
+                                    -0x1.29f6b20709292p-16};
+    static constexpr double kC[] = {1.0, -0x1.ddddddddddddep-2, 0x1.a41a41a41a44bp-6,
+                                    -0x1.45e5d2ba4606bp-12, 0x1.08db48f28a525p-21};
+};
+// Single LA, single coefficients: 29 bits.
+struct TanFitSingleLA {
+    static constexpr float kS[] = {-0x1.c71c78p-4f, 0x1.156b6ap-10f};
+    static constexpr float kC[] = {1.0f, -0x1.c71c72p-2f, 0x1.04104ap-6f};
+};
+// Single EP: the rational form above, its reciprocal by estimate.
+struct TanRationalEP;
 
 // q[k] = c[0] + u[k] (c[1] + u[k] (...)) for M registers, each step over all of them
 // before the next, so that the chains interleave.
@@ -70,34 +92,52 @@ BRENN_TRIG_HOT void HornerAll(const V* u, const C (&c)[D], V* q) {
         BRENN_EACH(k, M) q[k] = MulAdd(u[k], q[k], Set<T>(T(c[i])));
 }
 
-// The two sides of the quotient, tan r ~ s / c. Single EP: the rational form.
-template <int M>
-BRENN_TRIG_HOT void SidesOf(const __m128* r, const __m128* u, __m128* s, __m128* c) {
-    BRENN_EACH(k, M) s[k] = Mul(r[k], MulAdd(u[k], Set<float>(kTanNum[1]), Set<float>(kTanNum[0])));
-    HornerAll<M>(u, kTanDen, c);
-}
-// Double: sine and cosine.
-template <int M>
-BRENN_TRIG_HOT void SidesOf(const __m128d* r, const __m128d* u, __m128d* s, __m128d* c) {
-    HornerAll<M>(u, kSinTerms, c);
-    BRENN_EACH(k, M) s[k] = Add(r[k], Mul(Mul(r[k], u[k]), c[k]));
-    HornerAll<M>(u, kCosTerms, c);
+// The two sides of the quotient, tan r ~ s / c: the single EP rational form, or the two
+// series of a set.
+template <int M, class Sides, class V>
+BRENN_TRIG_HOT void SidesOf(const V* r, const V* u, V* s, V* c) {
+    using T = ElemOf<V>;
+    if constexpr (std::is_same_v<Sides, TanRationalEP>) {
+        BRENN_EACH(k, M) s[k] = Mul(r[k], MulAdd(u[k], Set<T>(kTanNum[1]), Set<T>(kTanNum[0])));
+        HornerAll<M>(u, kTanDen, c);
+    } else {
+        HornerAll<M>(u, Sides::kS, c);
+        BRENN_EACH(k, M) s[k] = Add(r[k], Mul(Mul(r[k], u[k]), c[k]));
+        HornerAll<M>(u, Sides::kC, c);
+    }
 }
 
-// top / bot: in single a reciprocal estimate and one Newton step, in double the division.
-BRENN_TRIG_HOT __m128 Quotient(__m128 top, __m128 bot) {
-    __m128 rc = ApproxRecip(bot);
-    rc = Mul(rc, Sub(Set<float>(2.0f), Mul(bot, rc)));
-    return Mul(top, rc);
+// top / bot: for the single EP form a reciprocal estimate and one Newton step, else the
+// division.
+template <class Sides, class V>
+BRENN_TRIG_HOT V Quotient(V top, V bot) {
+    using T = ElemOf<V>;
+    if constexpr (std::is_same_v<Sides, TanRationalEP>) {
+        V rc = ApproxRecip(bot);
+        rc = Mul(rc, Sub(Set<T>(2), Mul(bot, rc)));
+        return Mul(top, rc);
+    } else {
+        return Div(top, bot);
+    }
 }
-BRENN_TRIG_HOT __m128d Quotient(__m128d top, __m128d bot) {
-    return Div(top, bot);
+
+// Single LA: r = a - n pi/2 again in double (pi/2 in two parts), narrowed.
+template <int M>
+BRENN_TRIG_HOT void ReduceWide(const __m128* a, const __m128* n, __m128* r) {
+    const double(&p)[2] = TanShort<double>::kPiHalfWide;
+    BRENN_EACH(k, M) {
+        __m128d lo = Sub(Sub(WidenLower(a[k]), Mul(WidenLower(n[k]), Set<double>(p[0]))),
+                         Mul(WidenLower(n[k]), Set<double>(p[1])));
+        __m128d hi = Sub(Sub(WidenUpper(a[k]), Mul(WidenUpper(n[k]), Set<double>(p[0]))),
+                         Mul(WidenUpper(n[k]), Set<double>(p[1])));
+        r[k] = Narrow(lo, hi);
+    }
 }
 
 // tan of M registers of magnitudes a by the quadrant reduction with pi/2 in parts. Not
 // forced inline: the single kernels are flattened anyway, and left to itself GCC takes
 // the double EP body whole into the frame's quad step.
-template <int M, class V, size_t P>
+template <int M, class Sides, class V, size_t P>
 inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
     using T = ElemOf<V>;
     using C = TanShort<T>;
@@ -111,23 +151,26 @@ inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
 #pragma GCC unroll 4
     for (size_t i = 1; i < P; ++i)
         BRENN_EACH(k, M) r[k] = Sub(r[k], Mul(n[k], Set<T>(piHalf[i])));
+    if constexpr (std::is_same_v<Sides, TanFitSingleLA>) {
+        // The single reduction is good to 2^-35 absolute; a remainder below 2^-9 (a
+        // lane near a multiple of pi/2, a few in a thousand) takes the double one.
+        if (__builtin_expect(AnyNearZeroS<M>(r), 0)) ReduceWide<M>(a, n, r);
+    }
     BRENN_EACH(k, M) u[k] = Mul(r[k], r[k]);
-    SidesOf<M>(r, u, s, c);
+    SidesOf<M, Sides>(r, u, s, c);
     // n odd: -c/s.
     BRENN_EACH(k, M) {
         V top = IfThenElse(odd[k], Neg(c[k]), s[k]);
         V bot = IfThenElse(odd[k], s[k], c[k]);
-        q[k] = Quotient(top, bot);
+        q[k] = Quotient<Sides>(top, bot);
     }
 }
 
 // tan(J pi/64 + r) from the table: sin over cos, each as two doubles.
 template <Level L>
 inline __m128d TanTable(const int32_t* J, __m128d rh, __m128d rl) {
-    alignas(16) int32_t K[2] = {J[0] + 32, J[1] + 32};
     __m128d sh, sl, ch, cl;
-    TableSin(J, rh, rl, sh, sl, L == Level::HA);
-    TableSin(K, rh, rl, ch, cl, L == Level::HA);
+    TableSinCos(J, rh, rl, L == Level::HA, sh, sl, ch, cl);
     if constexpr (L == Level::EP) return Div(Add(sh, sl), Add(ch, cl));
     // The low parts hold the series terms and are not small beside an ulp of the high
     // parts: renormalise both before dividing.
@@ -154,14 +197,16 @@ BRENN_TRIG_HOT void ShortTan(const __m128* a, __m128* p) {
     __m128 as[N];
     BRENN_EACH(k, N) as[k] = kClamp ? Min(a[k], Set<float>(kLimitS)) : a[k];
     if constexpr (L == Level::EP) {
-        QuadrantTan<N>(as, TanShort<float>::kPiHalf, p);
+        QuadrantTan<N, TanRationalEP>(as, TanShort<float>::kPiHalf, p);
+    } else if constexpr (L == Level::LA) {
+        QuadrantTan<N, TanFitSingleLA>(as, TanShort<float>::kPiHalf, p);
     } else {
         __m128d ad[2 * N], q[2 * N];
         BRENN_EACH(k, N) {
             ad[2 * k] = WidenLower(as[k]);
             ad[2 * k + 1] = WidenUpper(as[k]);
         }
-        QuadrantTan<2 * N>(ad, TanShort<double>::kPiHalfWide, q);
+        QuadrantTan<2 * N, TanFitEP>(ad, TanShort<double>::kPiHalfWide, q);
         BRENN_EACH(k, N) p[k] = Narrow(q[2 * k], q[2 * k + 1]);
     }
 }
@@ -215,9 +260,12 @@ struct TanBody<double, L> {
         alignas(16) int32_t J[2], K[2];
         __m128d rh, rl;
         int big = LargeLanes(a, std::bit_cast<uint64_t>(kLimitD));
-        if constexpr (L == Level::EP) {
+        if constexpr (L != Level::HA) {
             __m128d as = Min(a, Set<double>(kLimitD)), p;
-            QuadrantTan<1>(&as, TanShort<double>::kPiHalf, &p);
+            if constexpr (L == Level::EP)
+                QuadrantTan<1, TanFitEP>(&as, TanShort<double>::kPiHalf, &p);
+            else
+                QuadrantTan<1, TanFitLA>(&as, TanShort<double>::kPiHalfLA, &p);
             if (__builtin_expect(big != 0, 0)) {
                 LargeD(a, J, rh, rl);
                 p = IfThenElse(MaskFromBits<double>(big), TanTable<L>(J, rh, rl), p);
