@@ -1,0 +1,310 @@
+// The hyperbolic rows Cosh, Sinh and Tanh: values against long double references at the
+// places where the bodies change path (the series' end, the range tests, the tables'
+// first and last rows, saturation), overflow with its status on both sides of the limit,
+// the special values and the flags they may raise, denormal inputs, and every length and
+// alignment against one element at a time.
+#include <cfloat>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <vector>
+#include <xmmintrin.h>
+
+#include "tests/vecmath/kernels.h"
+
+namespace brenn::test {
+namespace {
+
+using RowIndex = const char*;
+
+template <class T>
+Unary<T> K(RowIndex row, int slot) {
+    return As<Unary<T>>(Slot(row, slot));
+}
+
+constexpr int kSlotLA = 0, kSlotHA = 1, kSlotEP = 2;
+constexpr int kSlots[] = {kSlotLA, kSlotHA, kSlotEP};
+
+template <class T>
+T Call(RowIndex row, int slot, T x, int* status = nullptr) {
+    brenn_zar_kernel_SetErrStatus(0);
+    T y;
+    K<T>(row, slot)(1, &x, &y);
+    if (status) *status = brenn_zar_kernel_GetErrStatus();
+    return y;
+}
+
+struct ModeScope {
+    uint32_t saved;
+    explicit ModeScope(uint32_t errorMode) : saved(brenn_zar_kernel_SetMode(errorMode)) {}
+    ~ModeScope() { brenn_zar_kernel_SetMode(saved); }
+};
+
+enum class Fn { Cosh, Sinh, Tanh };
+
+template <class T>
+RowIndex RowOf(Fn f) {
+    constexpr bool s = sizeof(T) == 4;
+    switch (f) {
+    case Fn::Cosh:
+        return s ? "sCosh" : "dCosh";
+    case Fn::Sinh:
+        return s ? "sSinh" : "dSinh";
+    default:
+        return s ? "sTanh" : "dTanh";
+    }
+}
+
+long double Ref(Fn f, long double x) {
+    switch (f) {
+    case Fn::Cosh:
+        return coshl(x);
+    case Fn::Sinh:
+        return sinhl(x);
+    default:
+        return tanhl(x);
+    }
+}
+
+// Within the slot's bound: 1 ulp at HA, 4 at LA, 11 or 26 correct bits at EP.
+template <class T>
+void ExpectWithinLevel(Fn f, int slot, T x) {
+    T y = Call(RowOf<T>(f), slot, x);
+    long double ref = Ref(f, x);
+    if (slot == kSlotEP) {
+        double bits = sizeof(T) == 4 ? 11 : 26;
+        EXPECT_LE(fabsl((y - ref) / ref), ldexpl(1.0L, -int(bits)))
+            << int(f) << " slot " << slot << " x " << x << " got " << y;
+    } else {
+        EXPECT_LE(UlpError(y, ref), slot == kSlotHA ? 1.0 : 4.0)
+            << int(f) << " slot " << slot << " x " << x << " got " << y;
+    }
+}
+
+// Both sides of every place a body changes path, and some between.
+TEST(Hyper, ValuesWhereThePathsMeet) {
+    const float single[] = {0x1p-126f, 0x1p-40f, 0x1p-12f,      0.0311f,  0x1p-5f, 0x1.02p-5f,
+                            0.25f,     0.3465f,  0.3467f,       0.49999f, 0.5f,    0.50001f,
+                            1.0f,      2.1008f,  5.0f,          9.49f,    9.99f,   10.0f,
+                            10.01f,    15.5f,    21.4875f,      21.4876f, 40.0f,   87.3365f,
+                            87.33654f, 88.5f,    0x1.65a9f8p+6f};
+    const double dbl[] = {0x1p-1022,
+                          0x1p-60,
+                          0x1p-53,
+                          0x1p-30,
+                          0.01,
+                          0.2,
+                          0.49999999999999994,
+                          0.5,
+                          0.7,
+                          1.0,
+                          2.1008803436239916,
+                          10.0,
+                          19.0,
+                          21.99,
+                          22.0,
+                          22.5,
+                          21.487562597358306,
+                          300.0,
+                          707.999,
+                          708.0,
+                          709.5,
+                          710.0,
+                          710.4758600739435};
+    for (Fn f : {Fn::Cosh, Fn::Sinh, Fn::Tanh})
+        for (int slot : kSlots) {
+            for (float x : single)
+                for (float s : {x, -x})
+                    if (f != Fn::Tanh || fabsf(s) < 30) ExpectWithinLevel(f, slot, s);
+            for (double x : dbl)
+                for (double s : {x, -x})
+                    if (f != Fn::Tanh || fabs(s) < 30) ExpectWithinLevel(f, slot, s);
+        }
+}
+
+// Overflow on both sides of the limit, with status 3 and the sign of Sinh; the last
+// finite arguments finite and silent.
+template <class T>
+void ExpectOverflowAt(T below, T at) {
+    for (int slot : kSlots)
+        for (T s : {T(1), T(-1)}) {
+            int status;
+            T y = Call(RowOf<T>(Fn::Cosh), slot, s * below, &status);
+            EXPECT_TRUE(std::isfinite(y)) << slot;
+            EXPECT_EQ(status, 0);
+            y = Call(RowOf<T>(Fn::Sinh), slot, s * below, &status);
+            EXPECT_TRUE(std::isfinite(y)) << slot;
+            EXPECT_EQ(status, 0);
+            EXPECT_EQ(Call(RowOf<T>(Fn::Cosh), slot, s * at, &status), INFINITY);
+            EXPECT_EQ(status, 3);
+            EXPECT_EQ(Call(RowOf<T>(Fn::Sinh), slot, s * at, &status), s * INFINITY);
+            EXPECT_EQ(status, 3);
+            EXPECT_EQ(Call(RowOf<T>(Fn::Cosh), slot, s * std::numeric_limits<T>::max(), &status),
+                      INFINITY);
+            EXPECT_EQ(status, 3);
+        }
+}
+
+TEST(Hyper, OverflowOnBothSidesOfTheLimit) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    ExpectOverflowAt(0x1.65a9f8p+6f, 0x1.65a9fap+6f); // 89.4159927368164
+    ExpectOverflowAt(0x1.633ce8fb9f87dp+9, 0x1.633ce8fb9f87ep+9);
+    for (int slot : kSlots) {
+        int status;
+        EXPECT_TRUE(std::isfinite(Call("sCosh", slot, 88.5f, &status)));
+        EXPECT_EQ(status, 0);
+        EXPECT_EQ(Call("sCosh", slot, 90.0f, &status), INFINITY);
+        EXPECT_EQ(status, 3);
+    }
+}
+
+// Where Tanh rounds to 1: past the single table's last row, past 22 in double.
+template <class T>
+constexpr T kSaturated = sizeof(T) == 4 ? T(10.5) : T(22.5);
+
+// Infinities and NaN come back without a status: Cosh +inf, Sinh the infinity, Tanh 1
+// with x's sign; a NaN (signalling too) quieted. Tanh saturates without a report.
+template <class T>
+void ExpectSpecials() {
+    const T inf = std::numeric_limits<T>::infinity();
+    const T snan = std::numeric_limits<T>::signaling_NaN();
+    for (int slot : kSlots)
+        for (T s : {T(1), T(-1)}) {
+            int status;
+            EXPECT_EQ(Call(RowOf<T>(Fn::Cosh), slot, s * inf, &status), inf);
+            EXPECT_EQ(status, 0);
+            EXPECT_EQ(Call(RowOf<T>(Fn::Sinh), slot, s * inf, &status), s * inf);
+            EXPECT_EQ(status, 0);
+            EXPECT_EQ(Call(RowOf<T>(Fn::Tanh), slot, s * inf, &status), s);
+            EXPECT_EQ(status, 0);
+            EXPECT_EQ(Call(RowOf<T>(Fn::Tanh), slot, s * kSaturated<T>, &status), s);
+            EXPECT_EQ(Call(RowOf<T>(Fn::Tanh), slot, s * T(1e30), &status), s);
+            EXPECT_EQ(status, 0);
+            for (Fn f : {Fn::Cosh, Fn::Sinh, Fn::Tanh})
+                for (T nan : {T(NAN), snan}) {
+                    T y = Call(RowOf<T>(f), slot, std::copysign(nan, s), &status);
+                    EXPECT_TRUE(std::isnan(y));
+                    EXPECT_EQ(status, 0);
+                    T q = y;
+                    EXPECT_FALSE(issignaling(q)) << int(f) << " " << slot;
+                }
+        }
+}
+
+TEST(Hyper, SpecialValuesWithoutStatus) {
+    ExpectSpecials<float>();
+    ExpectSpecials<double>();
+}
+
+// Zeros: Cosh 1, Sinh and Tanh the zero with its sign. Denormals: Sinh and Tanh give x,
+// Cosh 1; Sinh of a denormal raises the underflow flag.
+template <class T>
+void ExpectZerosAndDenormals() {
+    const T tiny = std::numeric_limits<T>::denorm_min() * 5;
+    for (int slot : kSlots)
+        for (T s : {T(1), T(-1)}) {
+            EXPECT_EQ(Call(RowOf<T>(Fn::Cosh), slot, s * T(0)), T(1));
+            EXPECT_EQ(Bits(Call(RowOf<T>(Fn::Sinh), slot, s * T(0))), Bits(s * T(0)));
+            EXPECT_EQ(Bits(Call(RowOf<T>(Fn::Tanh), slot, s * T(0))), Bits(s * T(0)));
+            EXPECT_EQ(Call(RowOf<T>(Fn::Cosh), slot, s * tiny), T(1));
+            EXPECT_EQ(Call(RowOf<T>(Fn::Sinh), slot, s * tiny), s * tiny);
+            EXPECT_EQ(Call(RowOf<T>(Fn::Tanh), slot, s * tiny), s * tiny);
+            CsrScope csr(0x1F80);
+            T x = s * tiny, y;
+            K<T>(RowOf<T>(Fn::Sinh), slot)(1, &x, &y);
+            EXPECT_TRUE(_mm_getcsr() & 0x10) << "underflow flag, slot " << slot;
+        }
+}
+
+TEST(Hyper, ZerosAndDenormals) {
+    ExpectZerosAndDenormals<float>();
+    ExpectZerosAndDenormals<double>();
+}
+
+// The special lanes raise nothing of their own: no invalid for infinities or a quiet
+// NaN, no overflow for the infinities.
+template <class T>
+unsigned FlagsOf(RowIndex row, int slot, T x) {
+    CsrScope csr(0x1F80);
+    T in[5] = {T(1), T(1), x, T(1), T(1)}, y[5];
+    K<T>(row, slot)(5, in, y);
+    return _mm_getcsr() & 0x3F & ~0x20u; // inexact aside
+}
+
+TEST(Hyper, SpecialLanesRaiseNoFlags) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    for (Fn f : {Fn::Cosh, Fn::Sinh, Fn::Tanh})
+        for (int slot : kSlots)
+            for (int sign : {1, -1}) {
+                EXPECT_EQ(FlagsOf<float>(RowOf<float>(f), slot, sign * INFINITY), 0u);
+                EXPECT_EQ(FlagsOf<double>(RowOf<double>(f), slot, sign * INFINITY), 0u);
+                EXPECT_EQ(FlagsOf<float>(RowOf<float>(f), slot, NAN), 0u);
+                EXPECT_EQ(FlagsOf<double>(RowOf<double>(f), slot, NAN), 0u);
+                EXPECT_EQ(FlagsOf<float>(RowOf<float>(f), slot, sign * 30.0f), 0u);
+            }
+}
+
+// The overflow report names the element and takes the callback's result.
+int gIndex, gCode;
+int Record(ErrorRecord* r) {
+    gIndex = r->index;
+    gCode = r->code;
+    r->r1 = 7.0;
+    return 0;
+}
+
+TEST(Hyper, OverflowReportNamesTheElement) {
+    ModeScope mode(BRENN_MODE_ERRMODE_CALLBACK);
+    ErrorCallback saved = brenn_zar_kernel_SetErrorCallBack(Record);
+    std::vector<double> x(19, 1.0), y(19);
+    brenn_zar_kernel_SetInterfInputVectorPointer(x.data());
+    for (int at : {0, 6, 18})
+        for (int slot : kSlots) {
+            std::fill(x.begin(), x.end(), 1.0);
+            x[at] = -800.0;
+            gIndex = -1;
+            K<double>("dSinh", slot)(19, x.data(), y.data());
+            EXPECT_EQ(gIndex, at);
+            EXPECT_EQ(gCode, 3);
+            EXPECT_EQ(y[at], 7.0);
+        }
+    brenn_zar_kernel_SetErrorCallBack(saved);
+    brenn_zar_kernel_SetInterfInputVectorPointer(nullptr);
+}
+
+// Every length and alignment, in place too: each element as the row gives it alone.
+template <class T>
+void ExpectLanesAgree(Fn f) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    const T pool[] = {T(0.1),  T(-2.5), T(0.02),  T(-9.7),   T(11),       T(-0.5),
+                      T(3.75), T(88.9), T(-95),   T(1e-30),  T(INFINITY), T(NAN),
+                      T(-0.0), T(0.34), T(21.49), T(-709.9), T(5e-3),     T(-1.0)};
+    constexpr int n = sizeof(pool) / sizeof(pool[0]);
+    for (int slot : kSlots) {
+        T one[n];
+        for (int i = 0; i < n; ++i)
+            one[i] = Call(RowOf<T>(f), slot, pool[i]);
+        for (int len = 1; len <= 40; ++len)
+            for (int off = 0; off < 4; ++off) {
+                std::vector<T> in(len + 4), out(len + 4);
+                for (int i = 0; i < len; ++i)
+                    in[off + i] = pool[(i * 7 + len) % n];
+                K<T>(RowOf<T>(f), slot)(len, in.data() + off, out.data() + off);
+                for (int i = 0; i < len; ++i)
+                    ASSERT_TRUE(SameValue(out[off + i], one[(i * 7 + len) % n]))
+                        << int(f) << " slot " << slot << " len " << len << " i " << i;
+                K<T>(RowOf<T>(f), slot)(len, in.data() + off, in.data() + off);
+                for (int i = 0; i < len; ++i)
+                    ASSERT_TRUE(SameValue(in[off + i], one[(i * 7 + len) % n]));
+            }
+    }
+}
+
+TEST(Hyper, EveryLengthAndAlignmentAgreesWithOneElement) {
+    for (Fn f : {Fn::Cosh, Fn::Sinh, Fn::Tanh}) {
+        ExpectLanesAgree<float>(f);
+        ExpectLanesAgree<double>(f);
+    }
+}
+
+} // namespace
+} // namespace brenn::test
