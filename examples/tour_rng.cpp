@@ -2,7 +2,8 @@
 // double uniforms from it, a copy that continues the same sequence, and a
 // leapfrogged stream that serves every third element; then the Mersenne Twister
 // family: MT2203 members as parallel streams, an MT19937 skip-ahead, and a stream
-// saved to memory and loaded again.
+// saved to memory and loaded again; last an MRG32K3A sequence split by skip-ahead and
+// two members of the Wichmann-Hill set.
 #include <cstdio>
 #include <vector>
 
@@ -79,4 +80,33 @@ void TourRandom() {
                 image.size(), x, y);
     __qesDeleteStream(&loaded);
     __qesDeleteStream(&mt);
+
+    // One MRG32K3A sequence split in two by skip-ahead: the second stream starts
+    // 10^6 elements on, where the first one's share ends.
+    const uint32_t six[6] = {12345, 12345, 12345, 12345, 12345, 12345};
+    void* halves[2] = {nullptr, nullptr};
+    for (void*& h : halves)
+        __qesNewStreamEx(&h, QES_BRNG_MRG32K3A, 6, six);
+    __qesSkipAheadStream(halves[1], 1000000);
+    double head = 0, second = 0;
+    _qesdRngUniform(0, halves[0], 1, &head, 0.0, 1.0);
+    _qesdRngUniform(0, halves[1], 1, &second, 0.0, 1.0);
+    std::printf("random: MRG32K3A elements 0 and 1000000 of one sequence: %.9f %.9f\n", head,
+                second);
+    for (void*& h : halves)
+        __qesDeleteStream(&h);
+
+    // Two members of the Wichmann-Hill set, one seed of four words (one a component;
+    // small words would start every member near 0): two independent streams.
+    const uint32_t four[4] = {3141592, 2718281, 1414213, 1732050};
+    std::printf("random: WH members 0 and 272, one seed:");
+    for (int32_t member : {0, 272}) {
+        void* wh = nullptr;
+        double v[2] = {0, 0};
+        if (__qesNewStreamEx(&wh, QES_BRNG_WH + member, 4, four) == QES_STATUS_OK)
+            _qesdRngUniform(0, wh, 2, v, 0.0, 1.0);
+        std::printf(" %.9f %.9f", v[0], v[1]);
+        __qesDeleteStream(&wh);
+    }
+    std::printf("\n");
 }
