@@ -30,6 +30,12 @@
 namespace brenn::vm::invtrig {
 namespace {
 
+// min(v, 2^510) for v >= 0 or NaN, by the bits: minpd would raise invalid for a NaN.
+BRENN_VEC __m128d AtMost2p510(__m128d v) {
+    const __m128d c = Set<double>(0x1p510);
+    return IfThenElse(AsFloat(Gt(AsInt(v), AsInt(c))), c, v);
+}
+
 // The double steps: the angle of (b, a) with the series S, compensated or not. Lanes
 // of Atan2 hold magnitudes in [2^-500, 2^500), lanes of Atan have b = 1 and any a.
 template <Unit U, class S, bool Comp>
@@ -47,8 +53,10 @@ BRENN_VEC __m128d AngleOf(__m128d a, __m128d b) {
     __m128d fold = AsFloat(Gt(AsInt(n), AsInt(Mul(d, Set<double>(0x1.a827999fcef32p-2)))));
     __m128d nh, nl, dh, dl;
     if constexpr (Comp) {
-        TwoSum(n, Neg(d), nh, nl);
-        TwoSum(n, d, dh, dl);
+        // Folded lanes have d below 2^500; the others must not make inf - inf here.
+        __m128d dc = AtMost2p510(d);
+        TwoSum(n, Neg(dc), nh, nl);
+        TwoSum(n, dc, dh, dl);
         nh = IfThenElse(fold, nh, n);
         nl = IfThenElseZero(fold, nl);
         dh = IfThenElse(fold, dh, d);
@@ -61,10 +69,10 @@ BRENN_VEC __m128d AngleOf(__m128d a, __m128d b) {
     __m128d l = S::Tail(Mul(q, q), q);
     if constexpr (Comp) {
         // The quotient's error from the exact residual. The product's split needs d below
-        // 2^500: Atan's larger d only happen with q below 2^-500, next to pi/2, where the
-        // correction is far below the result's last bit whatever it is.
+        // about 2^995: Atan's larger d (above 2^510) only happen with q below 2^-510, next
+        // to pi/2, where the correction is far below the result's last bit whatever it is.
         __m128d ph, pl;
-        TwoProduct(q, Min(dh, Set<double>(0x1p500)), ph, pl);
+        TwoProduct(q, AtMost2p510(dh), ph, pl);
         __m128d r = Sub(Add(Sub(Sub(nh, ph), pl), nl), Mul(q, dl));
         l = Add(l, Div(r, dh));
     }
@@ -78,12 +86,16 @@ template <Unit U, Level L>
 BRENN_VEC __m128 AtanSingle(__m128 x) {
     __m128 a = Abs(x);
     __m128 big = AsFloat(Gt(AsInt(a), Set<uint32_t>(Format<float>::kOne)));
-    __m128 r = ApproxRecip(a);
+    __m128 r;
     if constexpr (L == Level::EP) {
-        r = Or(r, SignMask<float>());
+        r = Or(ApproxRecip(a), SignMask<float>());
     } else {
-        r = Mul(r, Sub(Mul(r, a), Set<float>(2.0f))); // -1/a by one Newton step
-        r = IfThenZeroElse(AsFloat(Eq(AsInt(a), Set<uint32_t>(Format<float>::kExpField))), r);
+        // -1/a by one Newton step; infinite lanes are kept apart (0 * inf in the step
+        // would raise invalid) and get t = 0, so pi/2.
+        __m128 inf = AsFloat(Eq(AsInt(a), Set<uint32_t>(Format<float>::kExpField)));
+        __m128 ar = IfThenElse(inf, Set<float>(1.0f), a);
+        r = ApproxRecip(ar);
+        r = IfThenZeroElse(inf, Mul(r, Sub(Mul(r, ar), Set<float>(2.0f))));
     }
     __m128 t = IfThenElse(big, r, a);
     __m128 z = Mul(t, t);
