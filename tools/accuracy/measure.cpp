@@ -469,6 +469,10 @@ struct RowRun {
     std::vector<R> A, B, S; // inputs; S the scalars of each group
     std::vector<R> eref;    // exact references
     MpfrArray* refs = nullptr;
+    // Real Powx below HA: the references with the exponents that those slots hand to
+    // Cbrt, InvCbrt and Pow2o3 (the bit patterns of 1/3, -1/3 and 2/3) taken as those
+    // functions, which is what the row defines for them; null when no group has one.
+    MpfrArray* rootRefs = nullptr;
 
     RowRun(const RowDesc& r)
         : row(r), f(*r.facts), shape(r.shape), exact(IsExact(*r.facts)),
@@ -480,7 +484,34 @@ struct RowRun {
         K = ky * outs;
         group = (shape == Shape::Powx || shape == Shape::LinFrac) ? 512 : 1 << 30;
     }
-    ~RowRun() { delete refs; }
+    ~RowRun() {
+        delete refs;
+        delete rootRefs;
+    }
+
+    // The references of real Powx's slots below HA (see rootRefs).
+    void MakeRootReferences() {
+        if (shape != Shape::Powx || Cx) return;
+        const R third = R(1) / R(3), twoThirds = R(2) / R(3);
+        for (long i = 0; i < n; ++i) {
+            const R b = Scalars(i)[0];
+            const bool root = b == third || b == -third || b == twoThirds;
+            if (root && !rootRefs) {
+                rootRefs = new MpfrArray(n);
+                for (long k = 0; k < n; ++k)
+                    mpfr_set((*rootRefs)[k], (*refs)[k], MPFR_RNDN);
+            }
+            if (!root) continue;
+            mpfr_t a;
+            mpfr_init2(a, kRefPrec);
+            FT<R>::Set(a, A[i]);
+            mpfr_ptr r = (*rootRefs)[i];
+            mpfr_cbrt(r, a, MPFR_RNDN);
+            if (b == -third) mpfr_ui_div(r, 1, r, MPFR_RNDN);
+            if (b == twoThirds) mpfr_sqr(r, r, MPFR_RNDN);
+            mpfr_clear(a);
+        }
+    }
 
     bool HasB() const { return shape == Shape::Binary || shape == Shape::LinFrac; }
     int ScalarCount() const { return shape == Shape::Powx ? kb : shape == Shape::LinFrac ? 4 : 0; }
@@ -846,6 +877,7 @@ void MeasureTyped(const RowDesc& row, const Options& options, const BrennKernel 
     RowRun<R, Cx> run(row);
     run.MakeInputs(options);
     run.MakeReferences();
+    run.MakeRootReferences();
     for (int s = 0; s < 3; ++s) {
         if (!slots[s]) continue;
         int same = -1;
@@ -856,7 +888,11 @@ void MeasureTyped(const RowDesc& row, const Options& options, const BrennKernel 
             out[s].sameAs = same;
             continue;
         }
+        // Real Powx below HA: the root exponents judged as the roots they dispatch to.
+        const bool roots = s != 1 && run.rootRefs;
+        if (roots) std::swap(run.refs, run.rootRefs);
         run.MeasureSlot(slots[s], out[s]);
+        if (roots) std::swap(run.refs, run.rootRefs);
     }
 }
 

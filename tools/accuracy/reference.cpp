@@ -248,8 +248,12 @@ void RefUnary(Ref ref, mpfr_ptr r, mpfr_ptr r2, mpfr_srcptr x) {
         mpfr_log1p(r, x, kN);
         break;
     case Ref::Pow3o2:
+        // x * sqrt(x): NaN for every negative x, -inf included (pow would give +inf).
         mpfr_set_d(t, 1.5, kN);
-        mpfr_pow(r, x, t, kN);
+        if (mpfr_sgn(x) < 0)
+            mpfr_set_nan(r);
+        else
+            mpfr_pow(r, x, t, kN);
         break;
     case Ref::Pow2o3:
         mpfr_cbrt(t, x, kN);
@@ -332,7 +336,16 @@ void RefBinary(Ref ref, mpfr_ptr r, mpfr_srcptr a, mpfr_srcptr b) {
         mpfr_pow(r, a, b, kN);
         break;
     case Ref::Powr:
-        mpfr_powr(r, a, b, kN);
+        // The library's Powr is Pow on x >= 0 without the integer class: NaN for any
+        // negative x, -0 as +0, and Pow's values elsewhere (0^0 and inf^0 are 1, 1^inf
+        // is 1), not IEEE powr's NaNs.
+        if (mpfr_sgn(a) < 0) {
+            mpfr_set_nan(r);
+        } else {
+            Tmp t;
+            mpfr_abs(t, a, kN);
+            mpfr_pow(r, t, b, kN);
+        }
         break;
     case Ref::Atan2:
         mpfr_atan2(r, a, b, kN);

@@ -71,43 +71,67 @@ inline void LogSplit(__m128 x, __m128& r, __m128& k) {
     r = Sub(AsFloat(m), Set<float>(1.0f));
 }
 
-// ln x = h + r + t for positive normal x, two lanes, h exact and |t| << |r|: the three
-// terms for the exact scaling. EP: cubic and no low parts (about 2^-33).
-template <Level L>
-inline void LnCore3(__m128d x, __m128d& h, __m128d& r, __m128d& t) {
+// The reduction of the double core for positive normal x, two lanes: x = 2^k * m,
+// m = mh + ml with mh on the 2^-9 grid, and mh's row of lnRows: rcp and -ln(rcp) in
+// two parts th + tl. The power kernels start from it too.
+struct LnReduction {
+    __m128d k, mh, ml, rcp, th, tl;
+};
+BRENN_VEC LnReduction LnReduce(__m128d x) {
     using F = Format<double>;
-    using K = LogConst<double>;
+    LnReduction red;
     const I64x2 xi = AsInt(x);
     __m128d m = AsFloat(Or(And(xi, Set<uint64_t>(F::kMant)), Set<uint64_t>(F::kOne)));
     // k without a conversion: the exponent field put under the bits of 2^52, less
     // 2^52 + 1023 (exact). Any input gives a finite k and an m in [1, 2), so special
     // lanes need no blend: their results are discarded.
     I64x2 e = ShiftRight<F::kMantBits>(xi);
-    __m128d k = Sub(AsFloat(Or(e, AsInt(Set<double>(0x1p52)))), Set<double>(0x1p52 + F::kBias));
+    red.k = Sub(AsFloat(Or(e, AsInt(Set<double>(0x1p52)))), Set<double>(0x1p52 + F::kBias));
     const __m128d sh = Set<double>(0x1p43); // rounds m to 2^-9
     __m128d ts = Add(m, sh);
-    __m128d mh = Sub(ts, sh);
-    __m128d ml = Sub(m, mh);
+    red.mh = Sub(ts, sh);
+    red.ml = Sub(m, red.mh);
     const I64x2 ti = AsInt(ts);
     const double* ra = lnRows[LowWord<0>(ti) - 512];
     const double* rb = lnRows[LowWord<1>(ti) - 512];
-    __m128d rcp, th, tl, pad;
-    LoadTransposed(ra, rb, rcp, th);
-    LoadTransposed(ra + 2, rb + 2, tl, pad);
-    r = Add(Sub(Mul(mh, rcp), Set<double>(1.0)), Mul(ml, rcp));
+    __m128d pad;
+    LoadTransposed(ra, rb, red.rcp, red.th);
+    LoadTransposed(ra + 2, rb + 2, red.tl, pad);
+    return red;
+}
+
+// ln x = h + r + t from the reduction, h exact and |t| << |r|: the three terms for the
+// exact scaling. EP: cubic and no low parts (about 2^-33).
+template <Level L>
+BRENN_VEC void LnCore3From(const LnReduction& red, __m128d& h, __m128d& r, __m128d& t) {
+    using K = LogConst<double>;
+    r = Add(Sub(Mul(red.mh, red.rcp), Set<double>(1.0)), Mul(red.ml, red.rcp));
     __m128d r2 = Mul(r, r);
     if constexpr (L == Level::EP) {
         __m128d p = Horner(r, K::kCoreEP);
         // The exact head keeps x just below 1 (k = -1, last row) free of cancellation.
-        h = Add(Mul(k, Set<double>(K::kLn2Hi)), th);
+        h = Add(Mul(red.k, Set<double>(K::kLn2Hi)), red.th);
         t = Mul(r2, p);
     } else {
         // Estrin's scheme: two independent pairs joined by r^2.
         __m128d p = Estrin(r, K::kCore);
-        h = Add(Mul(k, Set<double>(K::kLn2Hi)), th);
-        __m128d tail = Add(Mul(k, Set<double>(K::kLn2Lo)), tl);
+        h = Add(Mul(red.k, Set<double>(K::kLn2Hi)), red.th);
+        __m128d tail = Add(Mul(red.k, Set<double>(K::kLn2Lo)), red.tl);
         t = Add(Mul(r2, p), tail);
     }
+}
+
+template <Level L>
+inline void LnCore3(__m128d x, __m128d& h, __m128d& r, __m128d& t) {
+    LnCore3From<L>(LnReduce(x), h, r, t);
+}
+
+// ln x = h + l from the reduction.
+template <Level L>
+BRENN_VEC void LnCoreFrom(const LnReduction& red, __m128d& h, __m128d& l) {
+    __m128d r, t;
+    LnCore3From<L>(red, h, r, t);
+    l = Add(r, t);
 }
 
 template <Level L>

@@ -1,0 +1,119 @@
+/* Cbrt, InvCbrt and Pow2o3, single and double: x^(1/3), x^(-1/3) and x^(2/3) from the
+ * core of root_core.h.
+ *
+ * The single rows widen their lanes (single denormals are normal doubles) and round the
+ * double value once: HA two terms of the series, LA and EP one. The double rows take
+ * four terms; HA rounds the seed so that its cube is exact and carries the products in
+ * two parts, LA and EP round them (dCbrt's LA and EP slots share a kernel, dInvCbrt has
+ * one kernel for the three slots, at HA).
+ * Special lanes: zeros, infinities, NaN, and double denormals. Cbrt gives +-0 and +-inf
+ * themselves; InvCbrt the signed infinity for a zero (singularity status in double, no
+ * report in single) and the signed zero for an infinity; Pow2o3 +0 and +inf. Double
+ * denormals are scaled by 2^54 and the result by 2^-18, 2^18 or 2^-36. */
+#include "frame/kernels.h"
+#include "vecmath/frame/kernel_frame.h"
+#include "vecmath/frame/level.h"
+#include "vecmath/frame/scalar.h"
+#include "vecmath/power/root_core.h"
+
+namespace brenn::vm {
+namespace {
+
+template <class T>
+struct RootRanges;
+template <>
+struct RootRanges<float> {
+    // |x| zero, infinite or NaN.
+    static constexpr Range32 kSpecial{0x7FFFFFFFu, 0x7FFFFFFFu, 0xFF7FFFFEu};
+};
+template <>
+struct RootRanges<double> {
+    // |x| zero, denormal, infinite or NaN.
+    static constexpr Range64 kSpecial{0x7FFFFFFFFFFFFFFFull, 0x7FF0000000000000ull,
+                                      0xFFDFFFFFFFFFFFFFull};
+};
+
+// Series terms by type and level.
+template <class T, Level L>
+constexpr int kRootTerms = sizeof(T) == 4 ? (L == Level::HA ? 2 : 1) : 4;
+
+// The root of positive normal double lanes with x's sign put back where the root is odd.
+template <Root R, class T, Level L>
+inline __m128d SignedRoot(__m128d x) {
+    __m128d v = RootOf<R, kRootTerms<T, L>, sizeof(T) == 8 && L == Level::HA>(Abs(x));
+    return R == Root::Pow2o3 ? v : Or(v, SignBit(x));
+}
+
+template <Root R, Level L>
+inline __m128 RootLanes(__m128 x) {
+    return Narrow(SignedRoot<R, float, L>(WidenLower(x)), SignedRoot<R, float, L>(WidenUpper(x)));
+}
+template <Root R, Level L>
+inline __m128d RootLanes(__m128d x) {
+    return SignedRoot<R, double, L>(x);
+}
+
+// One element of a special lane: zero, infinity, NaN, or (double) a denormal.
+template <Root R, class T>
+int RootScalar(const T* a, T* y) {
+    const T x = *a;
+    if (__builtin_isnan(x)) {
+        *y = x + x;
+        return status::kNone;
+    }
+    if (x == T(0) || __builtin_isinf(x)) {
+        if constexpr (R == Root::Cbrt) {
+            *y = x;
+        } else if constexpr (R == Root::Pow2o3) {
+            *y = x * x;
+        } else {
+            *y = T(1) / Keep(x);
+            // The single kernels make no report.
+            if (x == T(0) && sizeof(T) == 8) return status::kSingularity;
+        }
+        return status::kNone;
+    }
+    // A denormal (double; the single lanes run in double and never get here otherwise).
+    constexpr double kUp = 0x1p54;
+    constexpr double kBack = R == Root::Cbrt ? 0x1p-18 : R == Root::InvCbrt ? 0x1p18 : 0x1p-36;
+    const bool tiny = __builtin_fabs(double(x)) < 0x1p-1022;
+    __m128d v =
+        SignedRoot<R, double, Level::HA>(SetFirst<double>(tiny ? double(x) * kUp : double(x)));
+    *y = T(GetLane(v) * (tiny ? kBack : 1.0));
+    return status::kNone;
+}
+
+template <Root R, class Tp, Level L>
+struct RootBody {
+    using T = Tp;
+    using V = Vec<T>;
+    static constexpr const char* kName = R == Root::InvCbrt ? ZAR_ERROR_NAME_OF(T, InvCbrt)
+                                         : R == Root::Cbrt  ? ZAR_ERROR_NAME_OF(T, Cbrt)
+                                                            : ZAR_ERROR_NAME_OF(T, Pow2o3);
+    static V Eval(V x, V& special) {
+        special = RangeTest(x, RootRanges<T>::kSpecial);
+        return RootLanes<R, L>(IfThenElse(special, Set<T>(T(1)), x));
+    }
+    static int Scalar(const T* a, T* y) { return RootScalar<R>(a, y); }
+};
+
+template <class T, Level L>
+using CbrtBody = RootBody<Root::Cbrt, T, L>;
+template <class T, Level L>
+using InvCbrtBody = RootBody<Root::InvCbrt, T, L>;
+template <class T, Level L>
+using Pow2o3Body = RootBody<Root::Pow2o3, T, L>;
+
+} // namespace
+} // namespace brenn::vm
+
+using namespace brenn::vm;
+
+extern "C" {
+ZAR_LEVEL_KERNELS(s, Cbrt, Unary, CbrtBody)
+ZAR_KERNEL_OF(d, Cbrt, LaEp, Unary, CbrtBody<double, Level::LA>)
+ZAR_KERNEL_OF(d, Cbrt, HA, Unary, CbrtBody<double, Level::HA>)
+ZAR_LEVEL_KERNELS(s, InvCbrt, Unary, InvCbrtBody)
+ZAR_KERNEL_OF(d, InvCbrt, All, Unary, InvCbrtBody<double, Level::HA>)
+ZAR_ROW_KERNELS(Pow2o3, Unary, Pow2o3Body)
+}

@@ -1,0 +1,42 @@
+/* Pow and Powr, single and double, three levels each: one body (pow_body.h) and the
+ * scalar routine of pow_scalar.h; Powr differs only in its scalar routine's domain.
+ *
+ * Double LA and HA carry ln x in two parts and w = y*ln x as an exact product plus its
+ * tail, then e^w by the table of 64 with a degree-5 (LA) or degree-6 (HA) polynomial;
+ * double EP takes ln x in one double (degree-5 core) and a degree-4 exponential. The
+ * single rows run the double core on widened lanes: HA the degree-5 logarithm and
+ * exponential, LA and EP the cubic logarithm and the degree-4 exponential.
+ * Measured (brenn_accuracy): see docs/accuracy.md, rows sPow, dPow, sPowr, dPowr. */
+#include "frame/kernels.h"
+#include "vecmath/frame/kernel_frame.h"
+#include "vecmath/frame/level.h"
+#include "vecmath/power/pow_body.h"
+#include "vecmath/power/pow_scalar.h"
+
+namespace brenn::vm {
+namespace {
+
+template <class Tp, Level L, PowDomain D>
+struct PowBody {
+    using T = Tp;
+    using V = Vec<T>;
+    static constexpr const char* kName =
+        D == PowDomain::Real ? ZAR_ERROR_NAME_OF(T, Pow) : ZAR_ERROR_NAME_OF(T, Powr);
+    static V Eval(V a, V b, V& special) { return PowOf<L>(a, b, special); }
+    static int Scalar(const T* a, const T* b, T* y) { return PowScalar<D>(*a, *b, y); }
+};
+
+template <class T, Level L>
+using PowRealBody = PowBody<T, L, PowDomain::Real>;
+template <class T, Level L>
+using PowrBody = PowBody<T, L, PowDomain::NonNegative>;
+
+} // namespace
+} // namespace brenn::vm
+
+using namespace brenn::vm;
+
+extern "C" {
+ZAR_ROW_KERNELS(Pow, Binary, PowRealBody)
+ZAR_ROW_KERNELS(Powr, Binary, PowrBody)
+}

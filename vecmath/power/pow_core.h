@@ -1,0 +1,150 @@
+/* The double core of the power kernels: w = y * ln x carried with more than 53 bits,
+ * then e^w.
+ *
+ * ln x for positive normal x comes from the reduction of the double logarithm core
+ * (log_core.h: k, m = mh + ml, the row of lnRows for mh), with r = mh*rcp - 1 + ml*rcp
+ * kept as rh + rl, r - r^2/2 formed exactly and only r^3*P(r) rounded: ln x = hi + lo
+ * within about 2^-66 relative, so that y*hi (an exact product) plus y*lo keeps w to
+ * about 2^-60 of |w| even for |y| up to 2^900 and results near the overflow and
+ * underflow thresholds. e^w uses the reduction of the table of 64 (exp_core.h) on the
+ * head, the tail added to the reduced argument.
+ * The single rows and double EP need less: w = y * ln x in one double, with the
+ * logarithm of the double core at the level's degree. */
+#ifndef BRENN_VECMATH_POWER_POW_CORE_H
+#define BRENN_VECMATH_POWER_POW_CORE_H
+
+#include "vecmath/explog/exp_core.h"
+#include "vecmath/explog/log_core.h"
+#include "vecmath/frame/level.h"
+
+namespace brenn::vm {
+
+// P of ln(1 + r) = r - r^2/2 + r^3*P(r) on |r| <= 2^-10, fitted by
+// tools/power/pow_log_double.sollya (relative error of P 2^-44.25).
+constexpr double kPowLogTail[] = {0x1.5555555555431p-2, -0x1.ffffffffffd25p-3, 0x1.9999abe21c45p-3,
+                                  -0x1.555566794caa5p-3};
+
+// ln x = hi + lo from the reduction of the logarithm core (whose k the scalar routine
+// may have moved for a scaled denormal).
+inline void LnHiLo(const LnReduction& red, __m128d& hi, __m128d& lo) {
+    using K = LogConst<double>;
+    const __m128d one = Set<double>(1.0);
+    // r = rh + rl: mh*rcp - 1 is exact (mh has 10 bits, rcp 43), ml*rcp exact in two parts.
+    __m128d d = Sub(Mul(red.mh, red.rcp), one);
+    __m128d ph, pl;
+    TwoProduct(red.ml, red.rcp, ph, pl);
+    __m128d rh, re;
+    TwoSum(d, ph, rh, re);
+    __m128d rl = Add(re, pl);
+    // rh^2 = sh + sl; -r^2/2 = -(sh + sl)/2 - rh*rl to the bits that matter.
+    __m128d sh, sl;
+    TwoProduct(rh, rh, sh, sl);
+    const __m128d half = Set<double>(-0.5);
+    // The exact head k*ln2hi + th, then rh and -sh/2 added with their errors kept.
+    __m128d a = Add(Mul(red.k, Set<double>(K::kLn2Hi)), red.th);
+    __m128d h1, e1, h2, e2;
+    TwoSum(a, rh, h1, e1);
+    TwoSum(h1, Mul(half, sh), h2, e2);
+    __m128d cube = Mul(Mul(sh, rh), Horner(rh, kPowLogTail));
+    __m128d small = Add(Sub(rl, Mul(rh, rl)), Mul(half, sl));
+    __m128d tail = Add(Mul(red.k, Set<double>(K::kLn2Lo)), red.tl);
+    lo = Add(Add(Add(e1, e2), small), Add(cube, tail));
+    hi = h2;
+}
+
+// The reduction of e^x by ln2/64 (exp_core.h): t = x*64/ln2 + shifter and the reduced
+// argument of the head, the tail added.
+inline __m128d ExpReduce(__m128d wh, __m128d wl, __m128d& t) {
+    using S = ExpStep64;
+    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    t = Add(Mul(wh, Set<double>(S::kInvStep)), shifter);
+    __m128d n = Sub(t, shifter);
+    __m128d r = Sub(Sub(wh, Mul(n, Set<double>(S::kStepHi))), Mul(n, Set<double>(S::kStepLo)));
+    return Add(r, wl);
+}
+
+// e^(wh + wl) for |wh| <= 708.39 (the result normal).
+template <ExpDegree D>
+inline __m128d ExpHiLo(__m128d wh, __m128d wl) {
+    __m128d t;
+    __m128d r = ExpReduce(wh, wl, t);
+    return ExpAssemble64<D>(t, r);
+}
+
+// 2^m for |m| <= 1022 in the low words of m.
+inline __m128d PowerOfTwo(I32x4 m) {
+    I32x4 e = Add(m, Set<int32_t>(Format<double>::kBias));
+    return AsFloat(ShiftLeft<Format<double>::kMantBits>(BitCast<I64x2>(e)));
+}
+
+// e^(wh + wl) for wh from -745.2 to 709.8: the same value with 2^m applied in two halves,
+// so that a denormal or overflowing result is rounded once, at the second product.
+inline __m128d ExpHiLoWide(__m128d wh, __m128d wl) {
+    __m128d t;
+    __m128d r = ExpReduce(wh, wl, t);
+    __m128d th, tl;
+    ExpRows64(t, th, tl);
+    __m128d p = ExpPolyD<ExpDegree::Six>(r);
+    __m128d v = Add(th, Add(Mul(th, p), tl));
+    I32x4 m = ExpPower64(t);
+    I32x4 m1 = ShiftRightSigned<1>(m);
+    return Mul(Mul(v, PowerOfTwo(m1)), PowerOfTwo(Sub(m, m1)));
+}
+
+// w = y * ln x, positive normal x, |y| below 2^900: wh + wl for double at LA and HA,
+// one double (wl zero) for double EP and for the single rows, whose lanes were widened
+// (`single`). `red` is the logarithm core's reduction of x.
+template <Level L, bool Single>
+inline void PowW(__m128d y, const LnReduction& red, __m128d& wh, __m128d& wl) {
+    if constexpr (Single || L == Level::EP) {
+        // Single LA and EP: the cubic core (2^-33 of ln x; w within 2^-26 of 1 for
+        // |w| up to 104); single HA and double EP: degree 5.
+        constexpr Level core = Single && L != Level::HA ? Level::EP : Level::LA;
+        __m128d h, l;
+        LnCoreFrom<core>(red, h, l);
+        wh = Mul(y, Add(h, l));
+        wl = Zero<double>();
+    } else {
+        __m128d hi, lo, ph, pl;
+        LnHiLo(red, hi, lo);
+        TwoProduct(y, hi, ph, pl);
+        wh = ph;
+        wl = Add(pl, Mul(y, lo));
+    }
+}
+
+// The degree of e^r beyond r that a level's w needs.
+template <Level L, bool Single>
+constexpr ExpDegree kPowExpDegree = L == Level::HA   ? (Single ? ExpDegree::Five : ExpDegree::Six)
+                                    : L == Level::LA ? (Single ? ExpDegree::Four : ExpDegree::Five)
+                                                     : ExpDegree::Four;
+
+// |x|^y in double for the scalar routines: x positive and finite (denormals included),
+// y finite and not zero; the value rounded once, overflow to +inf and underflow to zero
+// or a denormal with the hardware's flags. `single`: the value of a single row, whose
+// w needs only one double.
+template <bool Single>
+inline double PowMagnitude(double x, double y) {
+    constexpr double kHuge = 0x1p1000, kTiny = 0x1p-1000;
+    if (x == 1.0) return 1.0;
+    if (__builtin_fabs(y) >= 0x1p900) // |w| is then beyond any finite result
+        return (x > 1.0) == (y > 0.0) ? Keep(kHuge) * kHuge : Keep(kTiny) * kTiny;
+    double k0 = 0.0;
+    if (x < 0x1p-1022) {
+        x *= 0x1p64;
+        k0 = -64.0;
+    }
+    __m128d xv = SetFirst<double>(x);
+    LnReduction red = LnReduce(xv);
+    red.k = Add(red.k, SetFirst<double>(k0));
+    __m128d wh, wl;
+    PowW<Level::HA, Single>(SetFirst<double>(y), red, wh, wl);
+    double w = GetLane(wh);
+    if (w > 709.8) return Keep(kHuge) * kHuge;
+    if (w < -745.2) return Keep(kTiny) * kTiny;
+    return GetLane(ExpHiLoWide(wh, wl));
+}
+
+} // namespace brenn::vm
+
+#endif

@@ -1,0 +1,90 @@
+/* The cube-root core of Cbrt, InvCbrt and Pow2o3, on double lanes (the single rows
+ * widen theirs).
+ *
+ * x = 2^(3q) * M with M = 2^j * m in [1, 8), m the significand in [1, 2): the biased
+ * exponent divided by 3 by an integer product with 0xAAAB (the high part), j the
+ * remainder. The seed z ~ M^(-1/3) is a quartic in m times 2^(-j/3), about 15 bits.
+ * Then e = M*z^3 - 1, and each root is a product times a short series in e:
+ *   M^(-1/3) = z * (1 + e)^(-1/3),  M^(1/3) = M*z^2 * (1 + e)^(-2/3),
+ *   M^(2/3) = M*z * (1 + e)^(-1/3),
+ * and the result's exponent is q, -q or 2q added to the field. For double HA z is first
+ * rounded to 17 bits, so that z^3 is exact, and M*z^3 and the leading product are
+ * carried in two parts: only the last addition rounds, within about 0.51 ulp. */
+#ifndef BRENN_VECMATH_POWER_ROOT_CORE_H
+#define BRENN_VECMATH_POWER_ROOT_CORE_H
+
+#include "vecmath/frame/level.h"
+#include "vecmath/frame/vec.h"
+
+namespace brenn::vm {
+
+enum class Root { Cbrt, InvCbrt, Pow2o3 };
+
+// m^(-1/3) on [1, 2], fitted by tools/power/cbrt_seed.sollya (relative error 2^-14.7).
+constexpr double kRootSeed[] = {0x1.ab85acp0, -0x1.2c4234p0, 0x1.641702p-1, -0x1.c519b2p-3,
+                                0x1.d47154p-6};
+// 2^(-j/3) for the remainder j (the fourth row pads the index mask).
+alignas(16) constexpr double kRootScale[4] = {1.0, 0x1.965fea53d6e3dp-1, 0x1.428a2f98d728bp-1, 1.0};
+// The binomial series of (1 + e)^(-1/3) - 1 and (1 + e)^(-2/3) - 1, from e upward.
+constexpr double kThirdSeries[] = {-1.0 / 3, 2.0 / 9, -14.0 / 81, 35.0 / 243};
+constexpr double kTwoThirdsSeries[] = {-2.0 / 3, 5.0 / 9, -40.0 / 81, 110.0 / 243};
+
+// The terms of the series a level needs: with e near 2^-12.6 the first term left out is
+// below 2^-40 for two terms (single HA), 2^-27 for one (single LA, EP) and 2^-66 for
+// four (double).
+template <int N>
+BRENN_VEC __m128d RootSeries(__m128d e, const double (&c)[4]) {
+    __m128d p = Set<double>(c[N - 1]);
+    for (int k = N - 2; k >= 0; --k)
+        p = Add(Set<double>(c[k]), Mul(e, p));
+    return Mul(e, p);
+}
+
+// |x|^a for a = -1/3, 1/3, 2/3, positive normal double lanes; `Exact` for double HA.
+template <Root R, int Terms, bool Exact>
+inline __m128d RootOf(__m128d ax) {
+    using F = Format<double>;
+    const I64x2 xi = AsInt(ax);
+    const I64x2 be = ShiftRight<F::kMantBits>(xi); // biased exponent, 1 to 2046
+    const I64x2 qb = ShiftRight<17>(MulLowWords(be, Set<int64_t>(0xAAAB)));
+    const I64x2 j = Sub(be, Add(qb, Add(qb, qb)));
+    const I64x2 mant = And(xi, Set<uint64_t>(F::kMant));
+    const __m128d m = AsFloat(Or(mant, Set<uint64_t>(F::kOne)));
+    const __m128d bigM = AsFloat(Or(mant, ShiftLeft<F::kMantBits>(Add(j, Set<int64_t>(F::kBias)))));
+    __m128d z = Mul(Horner(m, kRootSeed), Gather(kRootScale, j, 3));
+    const __m128d one = Set<double>(1.0);
+    __m128d e, lead, leadLo;
+    if constexpr (Exact) {
+        const __m128d sh = Set<double>(0x1p36); // rounds z in (1/2, 1] to 2^-16
+        z = Sub(Add(z, sh), sh);
+        __m128d z2 = Mul(z, z); // exact: 34 bits, and z^3 51
+        __m128d ph, pl;
+        TwoProduct(bigM, Mul(z2, z), ph, pl);
+        e = Add(Sub(ph, one), pl);
+        if constexpr (R == Root::InvCbrt) {
+            lead = z;
+            leadLo = Zero<double>();
+        } else {
+            TwoProduct(bigM, R == Root::Cbrt ? z2 : z, lead, leadLo);
+        }
+    } else {
+        __m128d z2 = Mul(z, z);
+        e = Sub(Mul(bigM, Mul(z2, z)), one);
+        lead = R == Root::InvCbrt ? z : Mul(bigM, R == Root::Cbrt ? z2 : z);
+    }
+    __m128d s = RootSeries<Terms>(e, R == Root::Cbrt ? kTwoThirdsSeries : kThirdSeries);
+    __m128d v;
+    if constexpr (Exact && R != Root::InvCbrt)
+        v = Add(lead, Add(leadLo, Mul(lead, s)));
+    else
+        v = Add(lead, Mul(lead, s));
+    // The exponent: 3q = be - 1023 - j, so q = qb - 341.
+    I64x2 q = Sub(qb, Set<int64_t>(F::kBias / 3));
+    if constexpr (R == Root::InvCbrt) q = Sub(Set<int64_t>(0), q);
+    if constexpr (R == Root::Pow2o3) q = Add(q, q);
+    return AsFloat(Add(AsInt(v), ShiftLeft<F::kMantBits>(q)));
+}
+
+} // namespace brenn::vm
+
+#endif
