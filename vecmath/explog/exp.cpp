@@ -18,6 +18,7 @@
 #include "vecmath/explog/exp_core.h"
 #include "vecmath/explog/exp_fixup.h"
 #include "vecmath/explog/exp_scalar.h"
+#include "vecmath/explog/flat.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 
@@ -196,10 +197,6 @@ struct ExpBody {
 
 } // namespace
 } // namespace brenn::vm
-
-// The whole frame inlined into the kernel: the rounds stay in one loop with the
-// constants in registers, not a call per round.
-#define BRENN_FLAT __attribute__((flatten))
 
 // EP as the frame compiles it; LA and HA flattened.
 #define BRENN_EXP_KERNELS(t)                                                                       \

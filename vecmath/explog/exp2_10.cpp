@@ -3,15 +3,15 @@
  * Single: in single with the 128-entry table, n = round(128x/log_B(2)), T = 2^(j/128)
  * for j = n & 127, a cubic in the rest of x, 2^(n >> 7) added to the exponent field
  * (SingleCore below).
- * Double: on the double core of exp_core.h (table of 64, degree-6 polynomial), the
- * reduction exact in the function's own base:
- * Exp2: n = round(64x), d = x - n/64 exactly, r = d*ln2.
+ * Double: on the table of 64 of exp_core.h, a degree-5 polynomial in the rest d of x
+ * in the function's own base:
+ * Exp2: n = round(64x), d = x - n/64 exactly.
  * Exp10: n = round(64x/log10(2)), d = x - n*log10(2)/64 with a 36-bit head (n*head is
- * exact), r = d*ln10.
+ * exact).
  * Range tests: |x| above 126 (Exp2) or 37.93 (Exp10) in single, 1022 or 307 in double;
  * the scalar routines take the rest with the limits of each format: overflow (reported),
  * +0 and denormal results (underflow). Error mode 0x2000 blends overflow and
- * underflow lanes.
+ * underflow lanes. Rounds of sixteen elements (wide.h), both forms in single and double.
  *
  * Measured (brenn_accuracy, full run; one kernel serves every level): sExp2 0.503 ulp,
  * sExp10 0.504 ulp, dExp2 0.71 ulp, dExp10 0.71 ulp. */
@@ -22,6 +22,8 @@
 #include "vecmath/explog/exp_core.h"
 #include "vecmath/explog/exp_fixup.h"
 #include "vecmath/explog/exp_scalar.h"
+#include "vecmath/explog/flat.h"
+#include "vecmath/explog/wide.h"
 #include "vecmath/frame/kernel_frame.h"
 
 namespace brenn::vm {
@@ -70,22 +72,43 @@ struct Limits<double, Base::Ten> {
     static constexpr double kOver = 0x1.34413509f79ffp+8, kUnder = -0x1.439b746e36b52p+8;
 };
 
-// The double core: n = round(64x / log_B(2)), d = x - n*log_B(2)/64 exactly, r = d*ln B.
+// The double forms on the table of 64: n = round(64x / log_B(2)), d = x - n*log_B(2)/64
+// (exact for Exp2), p(d) ~ B^d - 1 fitted in the function's own base, so that no
+// product with ln B rounds on the way, and B^x = 2^m*(Thi + (Thi*p + Tlo)). Degree 5
+// (tools/explog/exp2_10_double.sollya, 2^-51 relative, of a p below 2^-7.5) by
+// Estrin's scheme.
+template <Base B>
+struct DoublePoly;
+template <>
+struct DoublePoly<Base::Two> {
+    static constexpr double kC[] = {0x1.62e42fefa39efp-1, 0x1.ebfbdff82ac52p-3,
+                                    0x1.c6b08d7080252p-5, 0x1.3b2ad03856e9p-7,
+                                    0x1.5d86b03ce7ff6p-10};
+};
+template <>
+struct DoublePoly<Base::Ten> {
+    static constexpr double kC[] = {0x1.26bb1bbb55516p1, 0x1.53524c73cd901p1, 0x1.0470591d8cd7ap1,
+                                    0x1.2bd778a238a7p0, 0x1.142d000ea7445p-1};
+};
+
 template <Base B>
 inline __m128d CoreOf(__m128d x) {
     using C = BaseConst<B>;
     const __m128d shifter = Set<double>(Format<double>::kShifter);
+    __m128d t, d;
     if constexpr (B == Base::Two) {
-        __m128d t = Add(Mul(x, Set<double>(64.0)), shifter);
-        __m128d n = Sub(t, shifter);
-        __m128d d = Sub(x, Mul(n, Set<double>(0x1p-6)));
-        return ExpAssemble64<ExpDegree::Six>(t, Mul(d, Set<double>(C::kLn)));
+        t = Add(Mul(x, Set<double>(64.0)), shifter);
+        d = Sub(x, Mul(Sub(t, shifter), Set<double>(0x1p-6)));
     } else {
-        __m128d t = Add(Mul(x, Set<double>(C::kInvStep)), shifter);
+        t = Add(Mul(x, Set<double>(C::kInvStep)), shifter);
         __m128d n = Sub(t, shifter);
-        __m128d d = Sub(Sub(x, Mul(n, Set<double>(C::kStepHi))), Mul(n, Set<double>(C::kStepLo)));
-        return ExpAssemble64<ExpDegree::Six>(t, Mul(d, Set<double>(C::kLn)));
+        d = Sub(Sub(x, Mul(n, Set<double>(C::kStepHi))), Mul(n, Set<double>(C::kStepLo)));
     }
+    __m128d p = Mul(d, Estrin(d, DoublePoly<B>::kC));
+    __m128d th, tl;
+    ExpRows64(t, th, tl);
+    __m128d y = Add(th, Add(Mul(th, p), tl));
+    return Mul(y, ExpScale64(t));
 }
 // The single forms run in single: n = round(128*x/log_B(2)) by a shifter whose bits end
 // in sixteen zeros, T = 2^((n & 127)/128) from the table (a single high part and the rest
@@ -153,6 +176,8 @@ struct ExpBaseBody {
     using K = Limits<T, B>;
     static constexpr const char* kName =
         B == Base::Two ? ZAR_ERROR_NAME_OF(T, Exp2) : ZAR_ERROR_NAME_OF(T, Exp10);
+    static constexpr int kRound = 16;
+    static int EvalWide(const V* x, V* y) { return EvalByRegister<ExpBaseBody>(x, y); }
     static V Eval(V x, V& special) {
         special = RangeTest(x, K::kWindow);
         x = IfThenZeroElse(special, x); // special lanes run on 0: no flags of their own
@@ -172,10 +197,11 @@ struct ExpBaseBody {
 } // namespace brenn::vm
 
 #define BRENN_EXP_BASE_KERNELS(t)                                                                  \
-    ZAR_KERNEL_OF(t, Exp2, All, Unary,                                                             \
-                  brenn::vm::ExpBaseBody<BRENN_ELEM_##t, brenn::vm::Base::Two>)                    \
-    ZAR_KERNEL_OF(t, Exp10, All, Unary,                                                            \
-                  brenn::vm::ExpBaseBody<BRENN_ELEM_##t, brenn::vm::Base::Ten>)
+    BRENN_FLAT ZAR_KERNEL_OF(t, Exp2, All, Unary,                                                  \
+                             brenn::vm::ExpBaseBody<BRENN_ELEM_##t, brenn::vm::Base::Two>)         \
+        BRENN_FLAT                                                                                 \
+        ZAR_KERNEL_OF(t, Exp10, All, Unary,                                                        \
+                      brenn::vm::ExpBaseBody<BRENN_ELEM_##t, brenn::vm::Base::Ten>)
 
 extern "C" {
 BRENN_EXP_BASE_KERNELS(s)

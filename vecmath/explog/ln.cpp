@@ -14,6 +14,7 @@
  * denormals their correct logarithm). */
 #include "frame/kernels.h"
 #include "vecmath/explog/log_scalar.h"
+#include "vecmath/explog/flat.h"
 #include "vecmath/frame/kernel_frame.h"
 
 namespace brenn::vm {
@@ -97,10 +98,6 @@ struct LnBody {
 } // namespace brenn::vm
 
 using namespace brenn::vm;
-
-// The whole frame inlined into the kernel: the rounds stay in one loop with the
-// constants in registers, not a call per round.
-#define BRENN_FLAT __attribute__((flatten))
 
 extern "C" {
 ZAR_KERNEL_OF(s, Ln, EP, Unary, LnBody<float, Level::EP>)
