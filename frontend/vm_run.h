@@ -18,6 +18,12 @@ namespace brenn::fe {
 // The accuracy argument of the plain entries: read the thread's mode word.
 constexpr int kThreadAccuracy = 0;
 
+// The accuracy argument of the explicit entries: BRENN_LA, BRENN_HA, BRENN_EP, or a
+// value that the checks refuse (never the plain entries' marker).
+constexpr int ExplicitAccuracy(int accuracy) {
+    return accuracy >= 1 && accuracy <= 3 ? accuracy : -1;
+}
+
 // Runs the kernel on elements [offset, offset + count) of the call's vectors.
 using BlockFn = void (*)(const void* args, int64_t offset, int count);
 

@@ -166,7 +166,7 @@ void Source(std::ostream& o) {
         o << "BRENN_FE_EXPORT int " << e << "(" << CParams(r, false) << ") {\n    return " << call
           << "brenn::fe::kThreadAccuracy, n" << args << ");\n}\n";
         o << "BRENN_FE_EXPORT int " << e << "_acc(" << CParams(r, true) << ") {\n    return "
-          << call << "accuracy, n" << args << ");\n}\n";
+          << call << "brenn::fe::ExplicitAccuracy(accuracy), n" << args << ");\n}\n";
     }
 }
 
