@@ -39,7 +39,8 @@ struct ModeScope {
     ~ModeScope() { brenn_zar_kernel_SetMode(saved); }
 };
 
-enum class Fn { Cosh, Sinh, Tanh };
+enum class Fn { Cosh, Sinh, Tanh, Asinh, Acosh, Atanh };
+constexpr Fn kAll[] = {Fn::Cosh, Fn::Sinh, Fn::Tanh, Fn::Asinh, Fn::Acosh, Fn::Atanh};
 
 template <class T>
 RowIndex RowOf(Fn f) {
@@ -49,8 +50,14 @@ RowIndex RowOf(Fn f) {
         return s ? "sCosh" : "dCosh";
     case Fn::Sinh:
         return s ? "sSinh" : "dSinh";
-    default:
+    case Fn::Tanh:
         return s ? "sTanh" : "dTanh";
+    case Fn::Asinh:
+        return s ? "sAsinh" : "dAsinh";
+    case Fn::Acosh:
+        return s ? "sAcosh" : "dAcosh";
+    default:
+        return s ? "sAtanh" : "dAtanh";
     }
 }
 
@@ -60,8 +67,14 @@ long double Ref(Fn f, long double x) {
         return coshl(x);
     case Fn::Sinh:
         return sinhl(x);
-    default:
+    case Fn::Tanh:
         return tanhl(x);
+    case Fn::Asinh:
+        return asinhl(x);
+    case Fn::Acosh:
+        return acoshl(x);
+    default:
+        return atanhl(x);
     }
 }
 
@@ -70,7 +83,7 @@ template <class T>
 void ExpectWithinLevel(Fn f, int slot, T x) {
     T y = Call(RowOf<T>(f), slot, x);
     long double ref = Ref(f, x);
-    if (slot == kSlotEP) {
+    if (slot == kSlotEP && ref != 0) {
         double bits = sizeof(T) == 4 ? 11 : 26;
         EXPECT_LE(fabsl((y - ref) / ref), ldexpl(1.0L, -int(bits)))
             << int(f) << " slot " << slot << " x " << x << " got " << y;
@@ -277,7 +290,8 @@ void ExpectLanesAgree(Fn f) {
     ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
     const T pool[] = {T(0.1),  T(-2.5), T(0.02),  T(-9.7),   T(11),       T(-0.5),
                       T(3.75), T(88.9), T(-95),   T(1e-30),  T(INFINITY), T(NAN),
-                      T(-0.0), T(0.34), T(21.49), T(-709.9), T(5e-3),     T(-1.0)};
+                      T(-0.0), T(0.34), T(21.49), T(-709.9), T(5e-3),     T(-1.0),
+                      T(1.5),  T(0.99), T(1.0),   T(-1e30),  T(1.0001),   T(3e9)};
     constexpr int n = sizeof(pool) / sizeof(pool[0]);
     for (int slot : kSlots) {
         T one[n];
@@ -300,10 +314,125 @@ void ExpectLanesAgree(Fn f) {
 }
 
 TEST(Hyper, EveryLengthAndAlignmentAgreesWithOneElement) {
-    for (Fn f : {Fn::Cosh, Fn::Sinh, Fn::Tanh}) {
+    for (Fn f : kAll) {
         ExpectLanesAgree<float>(f);
         ExpectLanesAgree<double>(f);
     }
+}
+
+// The inverse functions where their paths meet: the tiny and series ends, the fold of
+// Acosh at 2 (and 1.5 in single), where the square is left out, the single guards, close
+// to the singular points, the largest finite arguments and denormals.
+TEST(Hyper, InverseValuesWhereThePathsMeet) {
+    const double asinh[] = {0x1p-1074, 0x1p-1022, 0x1p-40,       0x1.fffffp-29, 0x1p-28, 0x1.fffp-8,
+                            0x1p-7,    0x1.01p-7, 0.3,           1.2,           1.20001, 2.0,
+                            1e5,       0x1p28,    0x1.000001p28, 3e9,           0x1p64,  1e300};
+    const double acosh[] = {1.0,          1.0 + 0x1p-52, 1.0 + 0x1p-23, 1.0001, 1.25, 1.4999,
+                            1.5,          1.99,          2.0,           2.01,   10.0, 0x1p28,
+                            0x1.00001p28, 0x1p63,        0x1.fffffep63, 1e30,   1e300};
+    const double atanh[] = {0x1p-1074, 0x1p-1022, 0x1p-53, 0x1p-28,     0x1.fffp-8,
+                            0x1p-7,    0x1.01p-7, 0.25,    0.4999,      0.5,
+                            0.5001,    0.9,       0.999,   1 - 0x1p-24, 1 - 0x1p-53};
+    auto check = [](Fn f, double x, bool both) {
+        for (int slot : kSlots)
+            for (double s : {1.0, -1.0}) {
+                if (s < 0 && !both) continue;
+                float xf = float(s * x);
+                if (std::isfinite(xf) && xf != 0 && (f != Fn::Atanh || fabsf(xf) < 1) &&
+                    (f != Fn::Acosh || xf >= 1))
+                    ExpectWithinLevel(f, slot, xf);
+                ExpectWithinLevel(f, slot, s * x);
+            }
+    };
+    for (double x : asinh)
+        check(Fn::Asinh, x, true);
+    for (double x : acosh)
+        check(Fn::Acosh, x, false);
+    for (double x : atanh)
+        check(Fn::Atanh, x, true);
+}
+
+// Domains and statuses: Acosh of 1 is 0 and of anything below 1 NaN with status 1;
+// Atanh of +-1 the signed infinity with status 2, beyond NaN with status 1; the
+// infinities and NaN of Asinh and Acosh without a status; zeros and denormals keep
+// their sign and value.
+template <class T>
+void ExpectInverseDomains() {
+    const T inf = std::numeric_limits<T>::infinity(), nan = std::numeric_limits<T>::quiet_NaN();
+    const T tiny = std::numeric_limits<T>::denorm_min() * 3;
+    struct Case {
+        Fn f;
+        T x, want;
+        int status;
+    };
+    const Case cases[] = {
+        {Fn::Acosh, T(1), T(0), 0},   {Fn::Acosh, T(0.5), nan, 1},
+        {Fn::Acosh, T(-1), nan, 1},   {Fn::Acosh, T(0), nan, 1},
+        {Fn::Acosh, -inf, nan, 1},    {Fn::Acosh, inf, inf, 0},
+        {Fn::Acosh, nan, nan, 0},     {Fn::Acosh, std::nextafter(T(1), T(0)), nan, 1},
+        {Fn::Atanh, T(1), inf, 2},    {Fn::Atanh, T(-1), -inf, 2},
+        {Fn::Atanh, T(1.5), nan, 1},  {Fn::Atanh, T(-1.5), nan, 1},
+        {Fn::Atanh, inf, nan, 1},     {Fn::Atanh, -inf, nan, 1},
+        {Fn::Atanh, nan, nan, 0},     {Fn::Atanh, T(-0.0), T(-0.0), 0},
+        {Fn::Atanh, tiny, tiny, 0},   {Fn::Atanh, -tiny, -tiny, 0},
+        {Fn::Asinh, inf, inf, 0},     {Fn::Asinh, -inf, -inf, 0},
+        {Fn::Asinh, nan, nan, 0},     {Fn::Asinh, T(-0.0), T(-0.0), 0},
+        {Fn::Asinh, -tiny, -tiny, 0}, {Fn::Asinh, T(0), T(0), 0},
+    };
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    for (const Case& c : cases)
+        for (int slot : kSlots) {
+            int status;
+            T y = Call(RowOf<T>(c.f), slot, c.x, &status);
+            EXPECT_TRUE(SameValue(y, c.want))
+                << RowOf<T>(c.f) << " slot " << slot << " x " << c.x << " got " << y;
+            EXPECT_EQ(status, c.status) << RowOf<T>(c.f) << " slot " << slot << " x " << c.x;
+        }
+}
+
+TEST(Hyper, InverseDomainsAndStatuses) {
+    ExpectInverseDomains<float>();
+    ExpectInverseDomains<double>();
+}
+
+// Atanh reports each lane outside its domain once, with its own index and status.
+int gReports;
+int Count(ErrorRecord* r) {
+    ++gReports;
+    gIndex = r->index;
+    gCode = r->code;
+    return 0;
+}
+
+template <class T>
+void ExpectOneReportPerLane() {
+    ModeScope mode(BRENN_MODE_ERRMODE_CALLBACK);
+    ErrorCallback saved = brenn_zar_kernel_SetErrorCallBack(Count);
+    std::vector<T> x(13, T(0.5)), y(13);
+    brenn_zar_kernel_SetInterfInputVectorPointer(x.data());
+    for (int at : {0, 3, 7, 12})
+        for (T bad : {T(1), T(-1), T(2), T(NAN)})
+            for (int slot : kSlots) {
+                std::fill(x.begin(), x.end(), T(0.5));
+                x[at] = bad;
+                gReports = 0;
+                gIndex = -1;
+                K<T>(RowOf<T>(Fn::Atanh), slot)(13, x.data(), y.data());
+                EXPECT_EQ(gReports, std::isnan(bad) ? 0 : 1);
+                if (!std::isnan(bad)) {
+                    EXPECT_EQ(gIndex, at);
+                    EXPECT_EQ(gCode, std::fabs(bad) == 1 ? 2 : 1);
+                }
+                EXPECT_TRUE(std::isnan(bad) || std::fabs(bad) > 1 ? std::isnan(y[at])
+                                                                  : std::isinf(y[at]));
+            }
+    brenn_zar_kernel_SetErrorCallBack(saved);
+    brenn_zar_kernel_SetInterfInputVectorPointer(nullptr);
+}
+
+TEST(Hyper, AtanhReportsEachLaneOnce) {
+    ExpectOneReportPerLane<float>();
+    ExpectOneReportPerLane<double>();
 }
 
 } // namespace

@@ -1,0 +1,81 @@
+/* Acosh, single and double, three levels each.
+ *
+ * acosh x = ln(w), w = x + sqrt(x^2 - 1), x >= 1; the logarithm of the pair w by the
+ * explog core (log_pair.h).
+ * Double HA: x^2 - 1 as a pair, below 2 as d^2 + 2d with d = x - 1 (exact there), from 2
+ * on as x^2 - 1; its root corrected once; w = x + root as a pair.
+ * Double LA and EP, and the single rows on widened lanes: w = 1 + u, u = d + sqrt(d*(x + 1)),
+ * the rounding of 1 + u recovered, so that near 1 the result keeps its relative accuracy.
+ * Above 2^28 the square is left out: ln(2x) as ln x plus ln 2.
+ * Range test: everything outside [1, infinity) (single: outside (1, about 2^64], the
+ * test of the single EP body) and NaN go to the scalar routine, which gives NaN with the
+ * domain status below 1. */
+#include "frame/kernels.h"
+#include "vecmath/frame/kernel_frame.h"
+#include "vecmath/frame/level.h"
+#include "vecmath/hyper/inverse_scalar.h"
+#include "vecmath/hyper/log_pair.h"
+
+namespace brenn::vm {
+namespace {
+
+template <class T>
+struct AcoshWindow;
+template <>
+struct AcoshWindow<float> {
+    // bits(x) - 0xBF800001 read as signed above 0x9FFFFFFE: outside (1, about 2^64].
+    static constexpr Range32 kWindow = {0xFFFFFFFFu, 0x407FFFFFu, 0x9FFFFFFEu};
+};
+template <>
+struct AcoshWindow<double> {
+    // High word outside [0x3FF00000, 0x7FF00000): below 1, negative, infinite, NaN.
+    static constexpr Range32 kWindow = {0xFFFFFFFFu, 0x40100000u, 0xBFFFFFFFu};
+};
+
+template <Level L>
+inline __m128d AcoshOf(__m128d x) {
+    const __m128d one = Set<double>(1.0);
+    __m128d big = Gt(x, Set<double>(kSquareEnd));
+    __m128d xc = Min(x, Set<double>(kSquareEnd));
+    __m128d d = Sub(xc, one);
+    Pair w;
+    if constexpr (L == Level::HA) {
+        __m128d near = Lt(xc, Set<double>(2.0));
+        Pair qn = SumOf(ProductOf(d, d), Pair{Add(d, d), Zero<double>()});
+        Pair qf = SumOf(ProductOf(xc, xc), Pair{Set<double>(-1.0), Zero<double>()});
+        Pair s = SqrtOfPair(Pair{IfThenElse(near, qn.hi, qf.hi), IfThenElse(near, qn.lo, qf.lo)});
+        __m128d e;
+        FastTwoSum(xc, s.hi, w.hi, e); // x is the larger
+        w.lo = Add(e, s.lo);
+    } else {
+        w = OnePlus(Add(d, Sqrt(Mul(d, Add(xc, one)))));
+    }
+    w.hi = IfThenElse(big, x, w.hi);
+    w.lo = IfThenZeroElse(big, w.lo);
+    return LnOfPair<L>(w, IfThenElseZero(big, one));
+}
+
+template <Level L>
+inline __m128 AcoshOf(__m128 x) {
+    constexpr Level D = L == Level::HA ? Level::LA : Level::EP;
+    return WidenToDouble(x, [](__m128d v) { return AcoshOf<D>(v); });
+}
+
+template <class Tp, Level L>
+struct AcoshBody {
+    using T = Tp;
+    using V = Vec<T>;
+    static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Acosh);
+    static V Eval(V x, V& special) {
+        special = RangeTest(x, AcoshWindow<T>::kWindow);
+        return AcoshOf<L>(IfThenElse(special, Set<T>(T(1)), x)); // special lanes run on 1
+    }
+    static int Scalar(const T* a, T* y) { return AcoshScalar(a, y); }
+};
+
+} // namespace
+} // namespace brenn::vm
+
+extern "C" {
+ZAR_ROW_KERNELS(Acosh, Unary, brenn::vm::AcoshBody)
+}

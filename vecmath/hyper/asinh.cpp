@@ -1,0 +1,94 @@
+/* Asinh, single and double, three levels each (dAsinh one kernel for LA and EP).
+ *
+ * asinh a = ln(w), w = a + sqrt(a^2 + 1), a = |x|, x's sign put back at the end; the
+ * logarithm of the pair w by the explog core (log_pair.h).
+ * Double HA: a^2 + 1 and its root carried as pairs, so that w is exact to far below an ulp.
+ * Double LA and EP, and the single rows on widened lanes: the log1p form w = 1 + u,
+ * u = a + a^2/(1 + sqrt(a^2 + 1)), the rounding of 1 + u recovered, so that small
+ * arguments keep their relative accuracy. Above 2^28 the square is left out: ln(2a) as
+ * ln a plus ln 2; below 2^-28 the result is a.
+ * Only infinities and NaN go to the scalar routine; nothing is reported. */
+#include "frame/kernels.h"
+#include "vecmath/frame/kernel_frame.h"
+#include "vecmath/frame/level.h"
+#include "vecmath/hyper/inverse_scalar.h"
+#include "vecmath/hyper/log_pair.h"
+
+namespace brenn::vm {
+namespace {
+
+template <class T>
+struct AsinhWindow;
+template <>
+struct AsinhWindow<float> {
+    static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x7F7FFFFFu};
+};
+template <>
+struct AsinhWindow<double> {
+    static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x7FEFFFFFu}; // high word
+};
+
+// Below this asinh a is a to the last bit.
+constexpr double kAsinhTiny = 0x1p-28;
+
+// The Taylor coefficients of (asinh a - a)/a^3 in a^2, and where the series serves at HA.
+constexpr double kAsinhSeries[] = {-1.0 / 6, 3.0 / 40, -15.0 / 336, 105.0 / 3456};
+constexpr double kSeriesEnd = 0x1p-7;
+
+template <Level L>
+inline __m128d AsinhOf(__m128d x) {
+    const __m128d one = Set<double>(1.0);
+    __m128d a = Abs(x);
+    __m128d big = Gt(a, Set<double>(kSquareEnd));
+    __m128d ac = Min(a, Set<double>(kSquareEnd));
+    Pair w;
+    if constexpr (L == Level::HA) {
+        Pair s = SqrtOfPair(SumOf(ProductOf(ac, ac), Pair{one, Zero<double>()}));
+        __m128d e;
+        FastTwoSum(s.hi, ac, w.hi, e); // the root is the larger
+        w.lo = Add(e, s.lo);
+    } else {
+        __m128d s = Sqrt(Add(Mul(ac, ac), one));
+        w = OnePlus(Add(ac, Div(Mul(ac, ac), Add(one, s))));
+    }
+    w.hi = IfThenElse(big, a, w.hi);
+    w.lo = IfThenZeroElse(big, w.lo);
+    __m128d y = LnOfPair<L>(w, IfThenElseZero(big, one));
+    if constexpr (L == Level::HA) {
+        // Below 2^-7 the logarithm of a w within a few ulps of 1 rounds its parts about as
+        // often as it keeps them: the series a + a^3*(-1/6 + 3a^2/40 - 15a^4/336 + 105a^6/3456).
+        __m128d z = Mul(a, a);
+        __m128d series = Add(a, Mul(Mul(a, z), Horner(z, kAsinhSeries)));
+        y = IfThenElse(Lt(a, Set<double>(kSeriesEnd)), series, y);
+    } else {
+        y = IfThenElse(Lt(a, Set<double>(kAsinhTiny)), a, y);
+    }
+    return Or(y, SignBit(x));
+}
+
+// Single rows in double: HA on the LA path, LA and EP on the EP core (2^-33).
+template <Level L>
+inline __m128 AsinhOf(__m128 x) {
+    constexpr Level D = L == Level::HA ? Level::LA : Level::EP;
+    return WidenToDouble(x, [](__m128d v) { return AsinhOf<D>(v); });
+}
+
+template <class Tp, Level L>
+struct AsinhBody {
+    using T = Tp;
+    using V = Vec<T>;
+    static V Eval(V x, V& special) {
+        special = RangeTest(x, AsinhWindow<T>::kWindow);
+        return AsinhOf<L>(IfThenElse(special, Zero<T>(), x)); // special lanes run on 0
+    }
+    static int Scalar(const T* a, T* y) { return AsinhScalar(a, y); }
+};
+
+} // namespace
+} // namespace brenn::vm
+
+extern "C" {
+ZAR_LEVEL_KERNELS(s, Asinh, Unary, brenn::vm::AsinhBody)
+ZAR_KERNEL_OF(d, Asinh, LaEp, Unary, brenn::vm::AsinhBody<double, brenn::vm::Level::LA>)
+ZAR_KERNEL_OF(d, Asinh, HA, Unary, brenn::vm::AsinhBody<double, brenn::vm::Level::HA>)
+}

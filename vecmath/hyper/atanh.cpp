@@ -1,0 +1,118 @@
+/* Atanh, single and double, three levels each.
+ *
+ * atanh a = ln(w)/2, w = (1 + a)/(1 - a), a = |x|, x's sign put back at the end; the
+ * logarithm of the pair w by the explog core (log_pair.h).
+ * Double HA: 1 + a and 1 - a as exact pairs, their quotient corrected once into a pair.
+ * Double LA and EP, and the single rows on widened lanes: w = 1 + u, u = 2a/(1 - a), the
+ * rounding of 1 + u recovered, so that small arguments keep their relative accuracy.
+ * Double: |x| at or above 1 and NaN go to the scalar routine (an infinity with the
+ * singularity status at +-1, NaN with the domain status above).
+ * Single: no scalar routine for values. The body runs on every lane and the lanes with
+ * |x| at or above 1 are found by two masks after it and fixed in place: the signed
+ * infinity at +-1, NaN above, a NaN input quieted. The frame's per-lane hook then only
+ * makes the report, one a lane, and returns the fixed value. */
+#include <limits>
+
+#include "frame/kernels.h"
+#include "vecmath/frame/kernel_frame.h"
+#include "vecmath/frame/level.h"
+#include "vecmath/hyper/inverse_scalar.h"
+#include "vecmath/hyper/log_pair.h"
+
+namespace brenn::vm {
+namespace {
+
+// The Taylor coefficients of (atanh a - a)/a^3 in a^2, and where the series serves.
+constexpr double kAtanhSeries[] = {1.0 / 3, 1.0 / 5, 1.0 / 7, 1.0 / 9};
+constexpr double kSeriesEnd = 0x1p-7;
+
+template <Level L>
+inline __m128d AtanhOf(__m128d x) {
+    const __m128d one = Set<double>(1.0);
+    __m128d a = Abs(x);
+    Pair w;
+    if constexpr (L == Level::HA) {
+        Pair n, d;
+        FastTwoSum(one, a, n.hi, n.lo);
+        FastTwoSum(one, Neg(a), d.hi, d.lo);
+        w.hi = Div(n.hi, d.hi);
+        __m128d ph, pl;
+        TwoProduct(w.hi, d.hi, ph, pl);
+        __m128d rem = Sub(Add(Sub(Sub(n.hi, ph), pl), n.lo), Mul(w.hi, d.lo));
+        w.lo = Div(rem, d.hi);
+    } else {
+        w = OnePlus(Div(Add(a, a), Sub(one, a)));
+    }
+    __m128d y = Mul(Set<double>(0.5), LnOfPair<L>(w, Zero<double>()));
+    if constexpr (L == Level::HA) {
+        // Below 2^-7 the logarithm of a w within an ulp or two of 1 rounds its parts about
+        // as often as it keeps them: the series a + a^3*(1/3 + a^2/5 + a^4/7 + a^6/9).
+        __m128d z = Mul(a, a);
+        __m128d series = Add(a, Mul(Mul(a, z), Horner(z, kAtanhSeries)));
+        y = IfThenElse(Lt(a, Set<double>(kSeriesEnd)), series, y);
+    }
+    return Or(y, SignBit(x));
+}
+
+template <Level L>
+inline __m128 AtanhOf(__m128 x) {
+    constexpr Level D = L == Level::HA ? Level::LA : Level::EP;
+    return WidenToDouble(x, [](__m128d v) { return AtanhOf<D>(v); });
+}
+
+template <class Tp, Level L>
+struct AtanhBody;
+
+// Double: the lanes outside (-1, 1) and NaN to the scalar routine.
+template <Level L>
+struct AtanhBody<double, L> {
+    using T = double;
+    using V = Vec<T>;
+    static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Atanh);
+    static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x3FEFFFFFu}; // high word of |x|
+    static V Eval(V x, V& special) {
+        special = RangeTest(x, kWindow);
+        return AtanhOf<L>(IfThenElse(special, Zero<T>(), x)); // special lanes run on 0
+    }
+    static int Scalar(const T* a, T* y) { return AtanhScalar(a, y); }
+};
+
+// Single: the fix-up after the body.
+template <Level L>
+struct AtanhBody<float, L> {
+    using T = float;
+    using V = Vec<T>;
+    static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Atanh);
+    static V Eval(V x, V& special) {
+        I32x4 ai = AsInt(Abs(x));
+        const I32x4 one = Set<uint32_t>(Format<float>::kOne);
+        const I32x4 inf = Set<uint32_t>(Format<float>::kExpField);
+        V atOne = AsFloat(Eq(ai, one));
+        V above = AsFloat(AndNot(Gt(ai, inf), Gt(ai, one))); // 1 < |x| <= inf
+        V nan = AsFloat(Gt(ai, inf));
+        V outside = Or(Or(atOne, above), nan);
+        V y = AtanhOf<L>(IfThenZeroElse(outside, x)); // those lanes run on 0
+        y = IfThenElse(atOne, Or(AsFloat(inf), SignBit(x)), y);
+        y = IfThenElse(above, Set<float>(std::numeric_limits<float>::quiet_NaN()), y);
+        y = IfThenElse(nan, Or(x, Set<float>(std::numeric_limits<float>::quiet_NaN())), y);
+        special = Or(atOne, above);
+        return y;
+    }
+    // The report of a lane the fix-up settled: its status, and the value the fix-up gave.
+    static int Scalar(const T* a, T* y) {
+        float x = *a;
+        if (std::fabs(x) == 1.0f) {
+            *y = std::copysign(std::numeric_limits<float>::infinity(), x);
+            return status::kSingularity;
+        }
+        *y = std::numeric_limits<float>::quiet_NaN();
+        return status::kDomain;
+    }
+};
+
+} // namespace
+} // namespace brenn::vm
+
+extern "C" {
+ZAR_ROW_KERNELS(Atanh, Unary, brenn::vm::AtanhBody)
+}
