@@ -1,27 +1,30 @@
 /* Expm1, single (one kernel for all levels) and double (three levels).
  *
- * The single kernel (every level) and double LA and EP: no table, x = n*ln2 + r,
- * e^x - 1 = (2^n - 1) + 2^n*p(r), one rounding (Expm1NoTable); the single lanes widened
- * to double with degree 7 and rounded once, double LA degree 11, EP degree 7.
- * Double HA: e^x - 1 = 2^m*T*(1 + p) - 1 on the double core of exp_core.h, with the
- * subtraction of 1 placed by m so that nothing cancels: for -1 <= m <= 52,
+ * The vector kernels use no table: x = n*ln2 + r, |r| <= ln2/2, and
+ * e^x - 1 = (2^n - 1) + 2^n*p(r), one rounding (Expm1NoTable): the single lanes widened
+ * to double with degree 7 and rounded once, double LA degree 11, EP degree 7; double HA
+ * degree 12 with 2^n - 1 and 2^n*rh summed exactly (Expm1NoTableExact).
+ * The scalar routines run the table core of exp_core.h: e^x - 1 = 2^m*T*(1 + p) - 1 with
+ * the subtraction of 1 placed by m so that nothing cancels: for -1 <= m <= 52,
  * 2^m*((Thi - 2^-m) + s), the inner difference exact; for m > 52, 2^m*(Thi + (s - 2^-m));
  * for m <= -2, 2^m*(Thi + s) - 1, the result then being near -1. Here s = Thi*p + Tlo.
  * For small |x| (m = 0, j = 0) this is p itself, whose polynomial is fitted for relative
- * error; degree 6, th*r and the middle sum carried exactly. The scalar routines run the
- * same core (degree 6, EP 4) in plain arithmetic.
+ * error; degree 6 (EP 4), at HA th*r and the middle sum carried exactly.
  * Range test |x| above 708 (double) or 86.6433945 (single); the scalar routine gives
  * +inf above the overflow limit (an overflow), -1 for large negative x, e^x itself
  * above 709 (where the core's scale 2^m would pass 2^1022), and the core's value
- * otherwise. Error mode 0x2000 blends the overflow lanes to +inf.
+ * otherwise. Error mode 0x2000 blends the overflow lanes to +inf. Rounds of sixteen
+ * elements (wide.h).
  *
  * Measured (brenn_accuracy, full run): sExpm1 0.503 ulp (one kernel for every level);
- * dExpm1 LA 1.26 ulp, HA 0.74 ulp, EP 31.7 bits. The polynomials: without a table
+ * dExpm1 LA 1.26 ulp, HA 0.77 ulp, EP 31.7 bits. The polynomials: without a table
  * tools/explog/expm1_notable.sollya, the core's tools/explog/expm1_double.sollya. */
 #include "frame/kernels.h"
 #include "vecmath/explog/exp_core.h"
 #include "vecmath/explog/exp_fixup.h"
 #include "vecmath/explog/exp_scalar.h"
+#include "vecmath/explog/flat.h"
+#include "vecmath/explog/wide.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 
@@ -93,6 +96,18 @@ struct Expm1Wide {
         0x1.0000000000005p-1,  0x1.555555555553bp-3,  0x1.5555555552111p-5,  0x1.1111111118833p-7,
         0x1.6c16c17f2d325p-10, 0x1.a01a0177ef8dfp-13, 0x1.a019a6a84b125p-16, 0x1.71de8115c2393p-19,
         0x1.28a2879f6906p-22,  0x1.ae775916d5f05p-26};
+    // degree 12 (2^-61.5), for HA
+    static constexpr double kC12[] = {0x1p-1,
+                                      0x1.5555555555559p-3,
+                                      0x1.555555555554dp-5,
+                                      0x1.111111110f65bp-7,
+                                      0x1.6c16c16c1aafdp-10,
+                                      0x1.a01a01afff4c4p-13,
+                                      0x1.a01a018e0d66dp-16,
+                                      0x1.71ddf81d848b2p-19,
+                                      0x1.27e5134507943p-22,
+                                      0x1.af5f0e85fe0cp-26,
+                                      0x1.1f1a154d0d172p-29};
 };
 
 template <bool TwoPartLn2, size_t N>
@@ -112,6 +127,30 @@ inline __m128d Expm1NoTable(__m128d x, const double (&c)[N]) {
     I32x4 e = Add(BitCast<I32x4>(t), Set<int32_t>(F::kBias));
     __m128d scale = AsFloat(ShiftLeft<F::kMantBits>(BitCast<I64x2>(e)));
     return Add(Mul(scale, p), Sub(scale, Set<double>(1.0)));
+}
+
+// HA: the same form with the parts that round carried exactly. rh = x - n*ln2hi is exact
+// (Sterbenz, or n = 0), 2^n*rh is exact, 2^n - 1 and its sum with 2^n*rh are taken by
+// TwoSum, so that only 2^n*(rl + r^2*Q(r)), a few hundredths of the result at most,
+// and the last additions round: within 0.6 ulp where the plain form's sum
+// 1 + 2p (n = 1, p near -0.29) would lose a bit.
+inline __m128d Expm1NoTableExact(__m128d x) {
+    using W = Expm1Wide;
+    using F = Format<double>;
+    const __m128d shifter = Set<double>(F::kShifter);
+    const __m128d one = Set<double>(1.0);
+    __m128d t = Add(Mul(x, Set<double>(W::kInvLn2)), shifter);
+    __m128d n = Sub(t, shifter);
+    __m128d rh = Sub(x, Mul(n, Set<double>(W::kLn2Hi)));
+    __m128d rl = Mul(n, Set<double>(-W::kLn2Lo));
+    __m128d r = Add(rh, rl);
+    __m128d q = Mul(Mul(r, r), Estrin(r, W::kC12));
+    I32x4 e = Add(BitCast<I32x4>(t), Set<int32_t>(F::kBias));
+    __m128d scale = AsFloat(ShiftLeft<F::kMantBits>(BitCast<I64x2>(e)));
+    __m128d a, ea, s, es;
+    TwoSum(scale, Neg(one), a, ea);
+    TwoSum(a, Mul(scale, rh), s, es);
+    return Add(s, Add(Add(es, ea), Mul(scale, Add(rl, q))));
 }
 
 // By precision: the range window on |x| (86.6433945 in single, 708 in double), and by
@@ -150,8 +189,8 @@ inline double Expm1Value(double x) {
 
 // Vector values by level: the single kernel widens its lanes to double, runs the
 // degree-7 form and rounds once; double LA and EP the degree-11 and degree-7 forms, HA
-// the table core. e^x - 1 has the sign of x, which the forms without a table give to
-// every result but that of -0: x's sign bit is put back.
+// the exact form. e^x - 1 has the sign of x, which these forms give to every result but
+// that of -0: x's sign bit is put back.
 template <Level L>
 inline __m128 Expm1Of(__m128 x) {
     __m128d lo = Expm1NoTable<false>(WidenLower(x), Expm1Wide::kC7);
@@ -161,7 +200,7 @@ inline __m128 Expm1Of(__m128 x) {
 template <Level L>
 inline __m128d Expm1Of(__m128d x) {
     if constexpr (L == Level::HA)
-        return Expm1Core<ExpDegree::Six, true>(x);
+        return Or(Expm1NoTableExact(x), SignBit(x));
     else if constexpr (L == Level::LA)
         return Or(Expm1NoTable<true>(x, Expm1Wide::kC11), SignBit(x));
     else
@@ -175,6 +214,8 @@ struct Expm1Body {
     using K = Expm1Const<T>;
     static constexpr bool kExact = K::template kExact<L>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Expm1);
+    static constexpr int kRound = 16;
+    static int EvalWide(const V* x, V* y) { return EvalByRegister<Expm1Body>(x, y); }
     static V Eval(V x, V& special) {
         special = RangeTest(x, K::kWindow);
         x = IfThenZeroElse(special, x); // special lanes run on 0: no flags of their own
@@ -208,6 +249,11 @@ struct Expm1Body {
 } // namespace brenn::vm
 
 extern "C" {
-ZAR_KERNEL_OF(s, Expm1, All, Unary, brenn::vm::Expm1Body<float, brenn::vm::Level::LA>)
-ZAR_LEVEL_KERNELS(d, Expm1, Unary, brenn::vm::Expm1Body)
+BRENN_FLAT ZAR_KERNEL_OF(s, Expm1, All, Unary,
+                         brenn::vm::Expm1Body<float, brenn::vm::Level::LA>) BRENN_FLAT
+    ZAR_KERNEL_OF(d, Expm1, LA, Unary,
+                  brenn::vm::Expm1Body<double, brenn::vm::Level::LA>) BRENN_FLAT
+    ZAR_KERNEL_OF(d, Expm1, HA, Unary,
+                  brenn::vm::Expm1Body<double, brenn::vm::Level::HA>) BRENN_FLAT
+    ZAR_KERNEL_OF(d, Expm1, EP, Unary, brenn::vm::Expm1Body<double, brenn::vm::Level::EP>)
 }
