@@ -1,0 +1,469 @@
+// The power rows: Pow's special-value table cell by cell with its statuses (and Powr's
+// domain), Pow's hard cases against the extended-precision library, Powx's dispatch on the
+// bit pattern of b (the slot it reaches, the name a report carries, the general body one
+// bit away), and the special values of the roots, Pow3o2 and Hypot.
+#include <cfloat>
+#include <cmath>
+#include <cstring>
+#include <gtest/gtest.h>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "frame/dispatch.h"
+#include "tests/vecmath/kernels.h"
+
+namespace brenn::test {
+namespace {
+
+using frame::RowIndex;
+
+constexpr int kSlots[] = {frame::SlotLA, frame::SlotHA, frame::SlotEP};
+const char* SlotName(int s) {
+    return s == frame::SlotLA ? "LA" : s == frame::SlotHA ? "HA" : "EP";
+}
+
+BrennKernel Raw(RowIndex row, int slot) {
+    return (&BrennDispatchTable[row].kernelLA)[slot];
+}
+
+struct ModeScope {
+    uint32_t saved;
+    explicit ModeScope(uint32_t errorMode) : saved(brenn_zar_kernel_SetMode(errorMode)) {}
+    ~ModeScope() { brenn_zar_kernel_SetMode(saved); }
+};
+
+// One element through a binary slot, with the status it leaves.
+template <class T>
+T Call2(RowIndex row, int slot, T a, T b, int* status) {
+    brenn_zar_kernel_SetErrStatus(0);
+    T y;
+    As<Binary<T>>(Raw(row, slot))(1, &a, &b, &y);
+    *status = brenn_zar_kernel_GetErrStatus();
+    return y;
+}
+template <class T>
+T Call1(RowIndex row, int slot, T a, int* status) {
+    brenn_zar_kernel_SetErrStatus(0);
+    T y;
+    As<Unary<T>>(Raw(row, slot))(1, &a, &y);
+    *status = brenn_zar_kernel_GetErrStatus();
+    return y;
+}
+
+template <class T>
+using PowxFn = void (*)(int, const T*, T, T*);
+template <class T>
+PowxFn<T> Powx(int slot) {
+    return As<PowxFn<T>>(Raw(sizeof(T) == 4 ? frame::Row_sPowx : frame::Row_dPowx, slot));
+}
+
+constexpr double kInf = INFINITY;
+const double kNaN = std::numeric_limits<double>::quiet_NaN();
+
+// Pow's table: x, y, the result (NaN for any NaN), the status.
+struct PowCase {
+    double x, y, want;
+    int status;
+};
+const PowCase kPowTable[] = {
+    // NaN rules: x = 1 or y = 0 win over a NaN; other NaN cases give NaN, no status.
+    {1, kNaN, 1, 0},
+    {kNaN, 0, 1, 0},
+    {kNaN, -0.0, 1, 0},
+    {kNaN, 1, kNaN, 0},
+    {2, kNaN, kNaN, 0},
+    {1, kInf, 1, 0},
+    {1, -kInf, 1, 0},
+    {0, 0, 1, 0},
+    {-kInf, 0, 1, 0},
+    // Zeros: the sign only for a negative zero and an odd y; y below 0 is status 1.
+    {0, 3, 0, 0},
+    {-0.0, 3, -0.0, 0},
+    {-0.0, 2, 0, 0},
+    {-0.0, 0.5, 0, 0},
+    {0, -1, kInf, 1},
+    {-0.0, -1, -kInf, 1},
+    {-0.0, -2, kInf, 1},
+    {-0.0, -0.5, kInf, 1},
+    {0, -kInf, kInf, 1},
+    {-0.0, kInf, 0, 0},
+    // x = -1 with an integer or infinite y.
+    {-1, kInf, 1, 0},
+    {-1, -kInf, 1, 0},
+    {-1, 3, -1, 0},
+    {-1, -4, 1, 0},
+    {-1, 16777216.0, 1, 0},
+    // A negative finite x with a finite non-integer y: NaN, status 1.
+    {-8, 1.0 / 3, kNaN, 1},
+    {-2, 0.5, kNaN, 1},
+    {-1, 0.5, kNaN, 1},
+    {-0.25, -2.5, kNaN, 1},
+    // Infinities by the sign of y and |x| against 1.
+    {2, kInf, kInf, 0},
+    {0.5, kInf, 0, 0},
+    {2, -kInf, 0, 0},
+    {0.5, -kInf, kInf, 0},
+    {-2, kInf, kInf, 0},
+    {-0.5, -kInf, kInf, 0},
+    {kInf, 2, kInf, 0},
+    {kInf, -2, 0, 0},
+    {-kInf, 3, -kInf, 0},
+    {-kInf, 2, kInf, 0},
+    {-kInf, 0.5, kInf, 0},
+    {-kInf, -3, -0.0, 0},
+    {-kInf, -2, 0, 0},
+    // Negative x with integer y, and ordinary values.
+    {-2, 3, -8, 0},
+    {-2, 4, 16, 0},
+    {-2, -3, -0.125, 0},
+    {4, 0.5, 2, 0},
+    {2, 10, 1024, 0},
+};
+
+template <class T>
+void CheckPowTable() {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    const RowIndex row = sizeof(T) == 4 ? frame::Row_sPow : frame::Row_dPow;
+    for (int slot : kSlots)
+        for (const PowCase& c : kPowTable) {
+            int st;
+            T got = Call2<T>(row, slot, T(c.x), T(c.y), &st);
+            SCOPED_TRACE(std::string(SlotName(slot)) + " pow(" + std::to_string(c.x) + ", " +
+                         std::to_string(c.y) + ")");
+            EXPECT_TRUE(SameValue(got, T(c.want))) << got;
+            EXPECT_EQ(st, c.status);
+        }
+}
+
+TEST(Power, PowSpecialValuesCellByCell) {
+    CheckPowTable<float>();
+    CheckPowTable<double>();
+}
+
+// A signalling NaN comes out quiet, except where x = 1 or y = 0 make the result 1.
+TEST(Power, PowSignallingNaN) {
+    const float snanf = std::numeric_limits<float>::signaling_NaN();
+    const double snan = std::numeric_limits<double>::signaling_NaN();
+    for (int slot : kSlots) {
+        int st;
+        float f = Call2<float>(frame::Row_sPow, slot, snanf, 2.0f, &st);
+        EXPECT_TRUE(std::isnan(f));
+        EXPECT_TRUE(Bits(f) & 0x00400000u) << "quieted";
+        EXPECT_EQ(Call2<float>(frame::Row_sPow, slot, snanf, 0.0f, &st), 1.0f);
+        double d = Call2<double>(frame::Row_dPow, slot, 3.0, snan, &st);
+        EXPECT_TRUE(Bits(d) & 0x0008000000000000ull) << "quieted";
+        EXPECT_EQ(Call2<double>(frame::Row_dPow, slot, 1.0, snan, &st), 1.0);
+    }
+}
+
+// Powr: Pow on x >= 0, NaN with status 1 for any negative x (integer y and y = 0 too).
+TEST(Power, PowrDomain) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    for (int slot : kSlots) {
+        int st;
+        for (double x : {-2.0, -1.0, -kInf, -1e-30}) {
+            for (double y : {2.0, 3.0, 0.0}) {
+                EXPECT_TRUE(std::isnan(Call2<double>(frame::Row_dPowr, slot, x, y, &st)));
+                EXPECT_EQ(st, 1);
+                EXPECT_TRUE(
+                    std::isnan(Call2<float>(frame::Row_sPowr, slot, float(x), float(y), &st)));
+                EXPECT_EQ(st, 1);
+            }
+        }
+        // -0 is +0: no odd sign.
+        EXPECT_EQ(Call2<double>(frame::Row_dPowr, slot, -0.0, -3.0, &st), kInf);
+        EXPECT_EQ(st, 1);
+        EXPECT_EQ(Bits(Call2<double>(frame::Row_dPowr, slot, -0.0, 3.0, &st)), 0u);
+        EXPECT_LE(UlpError(Call2<double>(frame::Row_dPowr, slot, 8.0, 1.0 / 3, &st),
+                           powl(8.0L, (long double)(1.0 / 3))),
+                  1.0);
+    }
+}
+
+// Results beyond the range: infinity, zero or a denormal, with status 0 and the flag.
+TEST(Power, PowOverflowAndUnderflowHaveNoStatus) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    for (int slot : kSlots) {
+        int st;
+        EXPECT_EQ(Call2<float>(frame::Row_sPow, slot, 10.0f, 40.0f, &st), INFINITY);
+        EXPECT_EQ(st, 0);
+        EXPECT_EQ(Call2<float>(frame::Row_sPow, slot, -10.0f, 41.0f, &st), -INFINITY);
+        EXPECT_EQ(Call2<float>(frame::Row_sPow, slot, 10.0f, -50.0f, &st), 0.0f);
+        EXPECT_EQ(st, 0);
+        EXPECT_EQ(Call2<double>(frame::Row_dPow, slot, 10.0, 400.0, &st), kInf);
+        EXPECT_EQ(st, 0);
+        EXPECT_EQ(Bits(Call2<double>(frame::Row_dPow, slot, -10.0, -401.0, &st)), Bits(-0.0));
+        EXPECT_EQ(st, 0);
+        // Huge |y| beside x near 1: beyond any finite result either way.
+        EXPECT_EQ(Call2<double>(frame::Row_dPow, slot, 1.0 + 0x1p-52, 0x1p1000, &st), kInf);
+        EXPECT_EQ(Call2<double>(frame::Row_dPow, slot, 1.0 - 0x1p-53, 0x1p1000, &st), 0.0);
+    }
+}
+
+// Hard cases at HA, against the extended-precision powl: within one ulp.
+TEST(Power, PowHardCasesWithinAnUlpAtHA) {
+    const int ha = frame::SlotHA;
+    int st;
+    struct D {
+        double x, y;
+    };
+    const D doubles[] = {
+        {1.0000001, 0x1p30},
+        {1.0 + 0x1p-52, 0x1p60},
+        {1.0 - 0x1p-53, 0x1p59},
+        {2.0, 1023.9999999999}, // just below the overflow threshold
+        {0x1.fffffffffffffp1023, 0.99999999999},
+        {2.0, -1074.4},                       // the last denormal
+        {0.5, 1060.3},                        // deep in the denormals
+        {3.0, -680.123456},                   // denormal result
+        {7.0, -380.0},                        // near the underflow threshold
+        {-1.0 - 0x1p-52, 9007199254740991.0}, // odd, 2^53 - 1
+        {-1.0 - 0x1p-52, 9007199254740990.0}, // even
+        {-0.9999999999999999, 4503599627370497.0},
+        {-3.0, 645.0},
+        {-3.0, -677.0},
+        {0x1p-1074, 0.25}, // denormal x
+        {0x1.8p-1070, -0.0625},
+        {1e-310, 1.5},
+    };
+    for (const D& c : doubles) {
+        double got = Call2<double>(frame::Row_dPow, ha, c.x, c.y, &st);
+        long double want = powl((long double)c.x, (long double)c.y);
+        EXPECT_LE(UlpError(got, want), 1.0) << c.x << " ^ " << c.y << " = " << got;
+        EXPECT_EQ(st, 0);
+    }
+    struct F {
+        float x, y;
+    };
+    const F singles[] = {
+        {1.0000001f, 0x1p26f},
+        {1.0000001f, 0x1p24f},
+        {2.0f, 127.99999f},
+        {2.0f, -149.3f},
+        {0.5f, 140.5f},
+        {-1.0000001f, 16777215.0f},
+        {-1.0000001f, 16777214.0f},
+        {0x1p-149f, 0.5f},
+        {3.0f, -85.0f},
+        {-3.0f, 80.0f},
+    };
+    for (const F& c : singles) {
+        float got = Call2<float>(frame::Row_sPow, ha, c.x, c.y, &st);
+        long double want = powl((long double)c.x, (long double)c.y);
+        EXPECT_LE(UlpError(got, want), 1.0) << c.x << " ^ " << c.y << " = " << got;
+    }
+}
+
+// The report's function name, for the dispatch test.
+std::string gName;
+int gCode = 0;
+int RecordName(ErrorRecord* r) {
+    gName.assign(r->functionName, size_t(r->functionNameLength));
+    gCode = r->code;
+    return 0;
+}
+
+struct CallbackScope {
+    ModeScope mode{BRENN_MODE_ERRMODE_CALLBACK};
+    ErrorCallback saved;
+    CallbackScope() : saved(brenn_zar_kernel_SetErrorCallBack(RecordName)) {
+        brenn_zar_kernel_SetInterfInputVectorPointer(nullptr);
+    }
+    ~CallbackScope() { brenn_zar_kernel_SetErrorCallBack(saved); }
+};
+
+// Powx with b exactly 0.5 is the Sqrt slot of its level, bit for bit, and a report names
+// Sqrt; one bit away it is the general body, which reports as Powx.
+template <class T>
+void CheckPowxHalf() {
+    CallbackScope cb;
+    const RowIndex sqrtRow = sizeof(T) == 4 ? frame::Row_sSqrt : frame::Row_dSqrt;
+    const std::string t = sizeof(T) == 4 ? "s" : "d";
+    std::vector<T> a;
+    for (int k = 0; k < 37; ++k)
+        a.push_back(T(0.37) * T(k) * T(k) + T(1e-3));
+    a[9] = T(-4);
+    for (int slot : kSlots) {
+        std::vector<T> y(a.size()), ref(a.size());
+        gName.clear();
+        Powx<T>(slot)(int(a.size()), a.data(), T(0.5), y.data());
+        EXPECT_EQ(gName, "v" + t + "Sqrt") << SlotName(slot);
+        As<Unary<T>>(Raw(sqrtRow, slot))(int(a.size()), a.data(), ref.data());
+        EXPECT_EQ(memcmp(y.data(), ref.data(), y.size() * sizeof(T)), 0) << SlotName(slot);
+        const T off = std::nextafter(T(0.5), T(1));
+        gName.clear();
+        Powx<T>(slot)(int(a.size()), a.data(), off, y.data());
+        EXPECT_EQ(gName, "v" + t + "Powx") << SlotName(slot);
+        EXPECT_EQ(gCode, 1);
+        const double tol = slot == frame::SlotEP ? (sizeof(T) == 4 ? 0x1p13 : 0x1p27) : 4.0;
+        for (size_t i = 0; i < a.size(); ++i)
+            if (a[i] > 0)
+                EXPECT_LE(UlpError(y[i], powl((long double)a[i], (long double)off)), tol)
+                    << SlotName(slot) << " " << a[i];
+    }
+}
+
+TEST(Power, PowxHalfIsTheSqrtSlotAndOneBitAwayIsNot) {
+    CheckPowxHalf<float>();
+    CheckPowxHalf<double>();
+}
+
+// Every exponent of the dispatch table: the value and, for the slot calls, the name in
+// the report; at HA only -1, 0.5, -0.5 and 1.5 leave the general body.
+template <class T>
+void CheckPowxTable() {
+    CallbackScope cb;
+    const std::string t = sizeof(T) == 4 ? "s" : "d";
+    const T nan = std::numeric_limits<T>::quiet_NaN();
+    struct E {
+        T b;
+        const char* name; // the row a zero input reports under below HA, "" for none
+    };
+    const E exps[] = {{T(0), ""},        {T(-0.0), ""},
+                      {T(1), ""},        {T(2), ""},
+                      {T(3), ""},        {T(5), ""},
+                      {T(9), ""},        {T(-1), "Inv"},
+                      {T(-2), "Inv"},    {T(-4), "Inv"},
+                      {T(0.5), ""},      {T(-0.5), "InvSqrt"},
+                      {T(1) / T(3), ""}, {T(-1) / T(3), "InvCbrt"},
+                      {T(2) / T(3), ""}, {T(1.5), ""}};
+    const T xs[] = {T(0.75), T(3), T(-2.5), T(1e-3), T(1000)};
+    for (int slot : kSlots)
+        for (const E& e : exps) {
+            std::vector<T> a(xs, xs + 5), y(5);
+            Powx<T>(slot)(5, a.data(), e.b, y.data());
+            for (int i = 0; i < 5; ++i) {
+                const long double x = a[i], b = e.b;
+                long double want = powl(x, b);
+                if (e.b == T(1) / T(3) || e.b == T(-1) / T(3) || e.b == T(2) / T(3)) {
+                    if (slot != frame::SlotHA) { // the roots themselves
+                        long double c = cbrtl(x);
+                        want = e.b > T(0.5) ? c * c : e.b > 0 ? c : 1 / c;
+                    }
+                }
+                SCOPED_TRACE(std::string(SlotName(slot)) + " x=" + std::to_string(double(x)) +
+                             " b=" + std::to_string(double(b)));
+                if (std::isnan(want))
+                    EXPECT_TRUE(std::isnan(y[i]));
+                else
+                    EXPECT_LE(UlpError(y[i], want),
+                              slot == frame::SlotEP ? (sizeof(T) == 4 ? 0x1p13 : 0x1p27) : 4.0);
+            }
+            // A zero input: a report from the slot the exponent reaches.
+            const bool reached = slot != frame::SlotHA || e.b == T(-1) || e.b == T(-0.5);
+            // The single InvCbrt kernels make no report.
+            const bool silent = sizeof(T) == 4 && !strcmp(e.name, "InvCbrt");
+            if (*e.name && reached && !silent) {
+                T z = 0, r;
+                gName.clear();
+                Powx<T>(slot)(1, &z, e.b, &r);
+                EXPECT_EQ(gName, "v" + t + e.name) << SlotName(slot) << " b=" << e.b;
+            }
+        }
+    // b = 0 gives 1 for a NaN input; b = 1 copies the bits (a signalling NaN too), below HA.
+    for (int slot : kSlots) {
+        T in[3] = {nan, std::numeric_limits<T>::signaling_NaN(), T(-0.0)}, out[3];
+        Powx<T>(slot)(3, in, T(0), out);
+        for (T v : out)
+            EXPECT_EQ(v, T(1));
+        if (slot == frame::SlotHA) continue;
+        Powx<T>(slot)(3, in, T(1), out);
+        EXPECT_EQ(memcmp(in, out, sizeof in), 0);
+    }
+}
+
+TEST(Power, PowxDispatchTable) {
+    CheckPowxTable<float>();
+    CheckPowxTable<double>();
+}
+
+// The negative powers whose positive power overflows or is denormal still come out right.
+TEST(Power, PowxNegativePowerAtTheRangeEnds) {
+    for (int slot : kSlots) {
+        // a^2 overflows (a denormal result), is denormal (a finite result), is normal.
+        float a[3] = {3e19f, -1e-19f, 1e13f}, y[3];
+        Powx<float>(slot)(3, a, -2.0f, y);
+        for (int i = 0; i < 3; ++i)
+            EXPECT_LE(UlpError(y[i], powl(a[i], -2.0L)), slot == frame::SlotEP ? 0x1p13 : 4.0);
+        double d[3] = {-1e160, 1.2e-154, 3e-100}, e[3];
+        Powx<double>(slot)(3, d, -2.0, e);
+        for (int i = 0; i < 3; ++i)
+            EXPECT_LE(UlpError(e[i], powl(d[i], -2.0L)), slot == frame::SlotEP ? 0x1p27 : 4.0);
+    }
+}
+
+// The roots: exact cubes, signs, zeros and infinities, denormals, InvCbrt's pole (status
+// 2 in double only), Pow2o3 even, Pow3o2's domain.
+TEST(Power, RootsAtTheirSpecialValues) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    for (int slot : kSlots) {
+        int st;
+        EXPECT_EQ(Call1<float>(frame::Row_sCbrt, slot, -8.0f, &st), -2.0f);
+        EXPECT_EQ(Call1<double>(frame::Row_dCbrt, slot, 27.0, &st), 3.0);
+        EXPECT_EQ(Call1<double>(frame::Row_dCbrt, slot, 0x1p-1074, &st), 0x1p-358);
+        EXPECT_EQ(Call1<double>(frame::Row_dInvCbrt, slot, 0x1p-1074, &st), 0x1p358);
+        EXPECT_EQ(Call1<double>(frame::Row_dPow2o3, slot, -0x1p-1071, &st), 0x1p-714);
+        EXPECT_LE(
+            UlpError(Call1<float>(frame::Row_sCbrt, slot, -0x1p-149f, &st), -cbrtl(0x1p-149L)),
+            1.0);
+        for (double z : {0.0, -0.0, kInf, -kInf}) {
+            EXPECT_TRUE(SameValue(Call1<double>(frame::Row_dCbrt, slot, z, &st), z));
+            EXPECT_TRUE(SameValue(Call1<float>(frame::Row_sCbrt, slot, float(z), &st), float(z)));
+            EXPECT_EQ(st, 0);
+            EXPECT_TRUE(SameValue(Call1<double>(frame::Row_dPow2o3, slot, z, &st), z * z));
+            EXPECT_EQ(st, 0);
+            EXPECT_TRUE(SameValue(Call1<double>(frame::Row_dInvCbrt, slot, z, &st), 1 / z));
+            EXPECT_EQ(st, z == 0 ? 2 : 0);
+            EXPECT_TRUE(
+                SameValue(Call1<float>(frame::Row_sInvCbrt, slot, float(z), &st), float(1 / z)));
+            EXPECT_EQ(st, 0);
+        }
+        EXPECT_TRUE(std::isnan(Call1<double>(frame::Row_dCbrt, slot, kNaN, &st)));
+        EXPECT_EQ(Call1<float>(frame::Row_sPow2o3, slot, -8.0f, &st), 4.0f);
+        EXPECT_EQ(Call1<double>(frame::Row_dPow3o2, slot, 4.0, &st), 8.0);
+        for (double x : {-1.0, -kInf, -1e-30}) {
+            EXPECT_TRUE(std::isnan(Call1<double>(frame::Row_dPow3o2, slot, x, &st)));
+            EXPECT_EQ(st, 1);
+            EXPECT_TRUE(std::isnan(Call1<float>(frame::Row_sPow3o2, slot, float(x), &st)));
+            EXPECT_EQ(st, 1);
+        }
+        EXPECT_EQ(Bits(Call1<double>(frame::Row_dPow3o2, slot, -0.0, &st)), 0u);
+        EXPECT_EQ(Call1<float>(frame::Row_sPow3o2, slot, 1e30f, &st), INFINITY);
+        EXPECT_EQ(st, 0);
+        EXPECT_LE(UlpError(Call1<double>(frame::Row_dPow3o2, slot, 1e-300, &st), 1e-450L), 1.0);
+    }
+}
+
+// Hypot: an infinity beats a NaN in either place, a NaN otherwise, +0 for two zeros,
+// overflow and denormal results without a status.
+TEST(Power, HypotSpecialValues) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    for (int slot : kSlots) {
+        int st;
+        for (double inf : {kInf, -kInf}) {
+            EXPECT_EQ(Call2<double>(frame::Row_dHypot, slot, inf, kNaN, &st), kInf);
+            EXPECT_EQ(Call2<double>(frame::Row_dHypot, slot, kNaN, inf, &st), kInf);
+            EXPECT_EQ(Call2<float>(frame::Row_sHypot, slot, float(inf), NAN, &st), INFINITY);
+            EXPECT_EQ(Call2<float>(frame::Row_sHypot, slot, NAN, float(inf), &st), INFINITY);
+        }
+        EXPECT_TRUE(std::isnan(Call2<double>(frame::Row_dHypot, slot, kNaN, 1.0, &st)));
+        EXPECT_TRUE(std::isnan(Call2<float>(frame::Row_sHypot, slot, 1.0f, NAN, &st)));
+        EXPECT_EQ(Bits(Call2<double>(frame::Row_dHypot, slot, -0.0, -0.0, &st)), 0u);
+        EXPECT_EQ(Bits(Call2<float>(frame::Row_sHypot, slot, -0.0f, 0.0f, &st)), 0u);
+        EXPECT_EQ(Call2<double>(frame::Row_dHypot, slot, DBL_MAX, DBL_MAX, &st), kInf);
+        EXPECT_EQ(st, 0);
+        EXPECT_EQ(Call2<float>(frame::Row_sHypot, slot, FLT_MAX, -FLT_MAX, &st), INFINITY);
+        EXPECT_EQ(st, 0);
+        EXPECT_EQ(Call2<double>(frame::Row_dHypot, slot, 3e-320, 4e-320, &st), 5e-320);
+        EXPECT_LE(UlpError(Call2<double>(frame::Row_dHypot, slot, 0x1p1000, 0x1p1000, &st),
+                           sqrtl(2) * 0x1p1000L),
+                  1.0);
+        EXPECT_EQ(Call2<float>(frame::Row_sHypot, slot, 3e-40f, -4e-40f, &st), 5e-40f);
+        EXPECT_EQ(Call2<float>(frame::Row_sHypot, slot, 3e30f, 4e30f, &st), 5e30f);
+        EXPECT_EQ(st, 0);
+    }
+}
+
+} // namespace
+} // namespace brenn::test
