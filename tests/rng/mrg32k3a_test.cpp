@@ -222,8 +222,8 @@ TEST(RngMrg32k3a, TableAndGenericPathsReduceByThePeriod) {
     generic.resize(12, 0);
     ExpectSkipEx(five, generic);
     // The scratch of a long count may fail: the stream stays as it was.
-    Words32 start = State(NewKeyed(QES_BRNG_MRG32K3A, kKey));
     void* s = NewKeyed(QES_BRNG_MRG32K3A, kKey);
+    const Words32 start = State(s);
     SweepNoMemory([&] {
         std::memcpy(static_cast<char*>(s) + 16, start.data(), 24);
         int32_t status = __qesSkipAheadStreamEx(s, 12, generic.data());

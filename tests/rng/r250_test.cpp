@@ -97,7 +97,9 @@ TEST(RngR250, SeedingCases) {
 
 TEST(RngR250, FormsAndCutsGiveOneSequence) {
     for (const Words32& key : {Counting(5, 250), Words32{0xFFFFFFFFu}, Words32(250, 0xFFFFFFFFu)}) {
-        Words32 ring = key.size() == 250 ? key : Ring(NewKeyed(QES_BRNG_R250, key));
+        void* seeded = NewKeyed(QES_BRNG_R250, key);
+        Words32 ring = Ring(seeded);
+        __qesDeleteStream(&seeded);
         ring.resize(250);
         Words32 ref = Draw(RefR250{ring}, 12000);
         EXPECT_EQ(FirstWords(R250(key), key, 12000), ref);
