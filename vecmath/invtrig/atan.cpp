@@ -10,8 +10,11 @@
  * and one polynomial on [0, 1] (EP five terms in two halves, LA eight in two chains).
  * The double steps, which single HA and the pi-scaled single LA take on widened lanes,
  * fold once more at tan(pi/8): t = (n - d)/(n + d), a quarter turn added, and a short
- * odd series on [-tan(pi/8), tan(pi/8)]; double LA and HA (one kernel) carry the
- * quotient's error and the base exactly (common.h).
+ * odd series on [-tan(pi/8), tan(pi/8)]. Double HA (Atan's one kernel for LA and HA)
+ * and the pi-scaled double rows carry the quotient's error from its exact residual and
+ * join the base exactly (common.h); without them the quotient's rounding near the fold
+ * (|x| just below 1/2, where a - 1 is not exact) costs up to 1.4 ulp. Double LA Atan2
+ * goes without.
  *
  * Atan has no range test: infinity gives pi/2 through t = 1/inf = 0, NaN passes. Atan2
  * sends zeros, infinities, NaN and magnitudes outside [2^-125, 2^123] in single
@@ -164,7 +167,7 @@ BRENN_VEC __m128 Atan2Of(__m128 a, __m128 b) {
 }
 template <Unit U, Level L>
 BRENN_VEC __m128d Atan2Of(__m128d a, __m128d b) {
-    return AngleOf<U, DoubleSeriesOf<L>, L != Level::EP>(a, b);
+    return AngleOf < U, DoubleSeriesOf<L>, L == Level::HA || U == Unit::Pi > (a, b);
 }
 
 // The vector range of Atan2's magnitudes: [2^-125, 2^123] in single, by the whole bits,

@@ -7,7 +7,9 @@
  * radians the head of pi/4 has 50 significant bits, so k times it is exact; in half-turns
  * the quarter is 1/4, exact, and v + l is first scaled by 1/pi (as a double-double in
  * the compensated form), so the pi-scaled rows land exactly on their exact points
- * (Atanpi(1) = 1/4, Acospi(-1) = 1) and keep their relative accuracy near them. */
+ * (Atanpi(1) = 1/4, Acospi(-1) = 1) and keep their relative accuracy near them. The
+ * folds keep |v| at most the base where the base is not 0 (|v| <= 1 against pi/2 or
+ * more, |v|/pi below 0.33 against 1/2 or more), which the fast exact sum needs. */
 #ifndef BRENN_VECMATH_INVTRIG_COMMON_H
 #define BRENN_VECMATH_INVTRIG_COMMON_H
 
@@ -71,7 +73,7 @@ BRENN_VEC V Finish(V k, V v, V l) {
             l = Add(e, Add(Mul(l, Set<T>(InvPi<T>::kHi)), Mul(v, Set<T>(InvPi<T>::kLo))));
             V base = Mul(Mul(k, Set<T>(Q::kHi)), up);
             V s, se;
-            TwoSum(base, p, s, se);
+            FastTwoSum(base, p, s, se);
             return Mul(Add(s, Add(se, l)), IfThenElse(tiny, Set<T>(0x1p-200), Set<T>(1)));
         } else {
             v = Mul(Add(v, l), Set<T>(InvPi<T>::kHi));
@@ -81,8 +83,9 @@ BRENN_VEC V Finish(V k, V v, V l) {
     V base = Mul(k, Set<T>(Q::kHi));
     if constexpr (Q::kLo != 0) l = Add(l, Mul(k, Set<T>(Q::kLo)));
     if constexpr (Comp) {
+        // The base is 0 or at least as large as the main term, so the fast exact sum.
         V s, e;
-        TwoSum(base, v, s, e);
+        FastTwoSum(base, v, s, e);
         return Add(s, Add(e, l));
     } else if constexpr (U == Unit::Pi) {
         return Add(base, v);
