@@ -115,19 +115,15 @@ using namespace brenn::rng;
 
 BRENN_EXPORT int32_t __qesBRngR250InitStream(int32_t method, void* stream, int32_t n,
                                              const void* params) {
-    switch (method) {
-    case QES_INIT_SEED:
+    if (method == QES_INIT_SEED) {
         Seed(StateOf<R250State>(stream), n, static_cast<const uint32_t*>(params));
         return QES_STATUS_OK;
-    case QES_INIT_LEAPFROG:
-        return QES_RNG_STATUS_NO_LEAPFROG;
-    case QES_INIT_SKIP:
-        return QES_RNG_STATUS_NO_SKIPAHEAD;
-    case QES_INIT_SKIP_EX:
-        return QES_RNG_STATUS_NO_SKIPAHEAD_EX;
-    default:
-        return QES_STATUS_BAD_METHOD;
     }
+    // No jumps: each jump method has its own refusal.
+    constexpr int32_t kRefusal[4] = {0, QES_RNG_STATUS_NO_LEAPFROG, QES_RNG_STATUS_NO_SKIPAHEAD,
+                                     QES_RNG_STATUS_NO_SKIPAHEAD_EX};
+    return method >= QES_INIT_LEAPFROG && method <= QES_INIT_SKIP_EX ? kRefusal[method]
+                                                                     : QES_STATUS_BAD_METHOD;
 }
 
 BRENN_EXPORT int32_t __qesiBRngR250(void* stream, int32_t n, void* r) {

@@ -8,6 +8,7 @@
 
 #include "frame/export.h"
 #include "rng/brng/wh_table.h"
+#include "rng/brng/word_forms.h"
 #include "rng/core/stream.h"
 
 namespace brenn::rng {
@@ -47,7 +48,7 @@ struct Member {
 // Lanes of eight elements: lane[j][k] is component j of element k of the run.
 using Lanes = double[4][8];
 
-struct WordsOut {
+struct WhWords {
     uint32_t* r;
     void Put(int32_t i, const double* x) {
         for (int j = 0; j < 4; ++j)
@@ -60,17 +61,10 @@ struct WordsOut {
     }
 };
 
-inline void StoreTwo(double* to, __m128d v) {
-    _mm_storeu_pd(to, v);
-}
-inline void StoreTwo(float* to, __m128d v) {
-    _mm_storel_pi(reinterpret_cast<__m64*>(to), _mm_cvtpd_ps(v));
-}
-
 // Fraction of x1 r1 + x2 r2 + x3 r3 + x4 r4, summed in that order, then
 // u (b - a) + a in double; singles are narrowed at the store.
 template <typename T>
-struct RealOut {
+struct WhReals {
     T* r;
     double span, shift;
     void Put(int32_t i, const double* x, const Member& g) {
@@ -90,11 +84,11 @@ struct RealOut {
 };
 
 // The integer form ignores the member's reciprocals.
-inline void PutOne(WordsOut& out, int32_t i, const double* x, const Member&) {
+inline void PutOne(WhWords& out, int32_t i, const double* x, const Member&) {
     out.Put(i, x);
 }
 template <typename T>
-inline void PutOne(RealOut<T>& out, int32_t i, const double* x, const Member& g) {
+inline void PutOne(WhReals<T>& out, int32_t i, const double* x, const Member& g) {
     out.Put(i, x, g);
 }
 
@@ -203,18 +197,18 @@ BRENN_EXPORT int32_t __qesBRngWHInitStream(int32_t method, void* stream, int32_t
 }
 
 BRENN_EXPORT int32_t __qesiBRngWH(void* stream, int32_t n, void* r) {
-    Generate(stream, n, WordsOut{static_cast<uint32_t*>(r)});
+    Generate(stream, n, WhWords{static_cast<uint32_t*>(r)});
     return QES_STATUS_OK;
 }
 
 BRENN_EXPORT int32_t __qesdBRngWH(void* stream, int32_t n, double* r, double a, double b) {
-    Generate(stream, n, RealOut<double>{r, b - a, a});
+    Generate(stream, n, WhReals<double>{r, b - a, a});
     return QES_STATUS_OK;
 }
 
 BRENN_EXPORT int32_t __qessBRngWH(void* stream, int32_t n, float* r, float a, float b) {
     Generate(
         stream, n,
-        RealOut<float>{r, static_cast<double>(b) - static_cast<double>(a), static_cast<double>(a)});
+        WhReals<float>{r, static_cast<double>(b) - static_cast<double>(a), static_cast<double>(a)});
     return QES_STATUS_OK;
 }

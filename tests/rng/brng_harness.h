@@ -202,6 +202,25 @@ inline void ExpectLongJumpsCommute(const WordBrng& g, uint64_t big, uint64_t oth
     __qesDeleteStream(&d);
 }
 
+// The row of a generator id.
+inline const BrngRecord* RowOf(int32_t id) {
+    int32_t family, member;
+    return __qesGetBrngBaseOffset(id, &family, &member) + family;
+}
+
+// Method numbers no generator has, and the raw-bit forms, which generators whose
+// words are not full 32-bit words refuse; the caller checks that the stream has not
+// moved.
+inline void ExpectBadMethodsAndNoBitForms(void* s) {
+    const BrngRecord* row = RowOf(__qesGetStreamStateBrng(s));
+    for (int32_t method : {-1, 4, 0x7FFFFFFF})
+        EXPECT_EQ(row->initStream(method, s, 0, nullptr), QES_STATUS_BAD_METHOD) << method;
+    uint64_t bits[8];
+    EXPECT_EQ(_qesiRngUniformBits32(0, s, 4, reinterpret_cast<uint32_t*>(bits)),
+              QES_RNG_ERROR_BITS_NOT_SUPPORTED);
+    EXPECT_EQ(_qesiRngUniformBits64(0, s, 4, bits), QES_RNG_ERROR_BITS_NOT_SUPPORTED);
+}
+
 // The jump methods a generator has not: leapfrog, and skip-ahead by a long count.
 inline void ExpectNoLeapfrogNorSkipEx(void* s) {
     EXPECT_EQ(__qesLeapfrogStream(s, 1, 4), QES_RNG_STATUS_NO_LEAPFROG);

@@ -54,8 +54,7 @@ const Words32 kKey = {12345, 12345, 12345, 12345, 12345, 12345};
 const Words32 kOther = {4294967086u, 7, 0, 4294944442u, 1, 99};
 
 WordBrng Mrg(const Words32& key) {
-    int32_t f, m;
-    const BrngRecord* row = __qesGetBrngBaseOffset(QES_BRNG_MRG32K3A, &f, &m) + f;
+    const BrngRecord* row = RowOf(QES_BRNG_MRG32K3A);
     return {QES_BRNG_MRG32K3A, key, row->iGenerate, row->sGenerate, row->dGenerate};
 }
 
@@ -238,15 +237,7 @@ TEST(RngMrg32k3a, RefusedMethodsLeaveTheStream) {
     Words32 start = State(s);
     EXPECT_EQ(__qesLeapfrogStream(s, 1, 4), QES_RNG_STATUS_NO_LEAPFROG);
     EXPECT_EQ(__qesLeapfrogStream(s, 0, -1), QES_RNG_STATUS_BAD_STREAM_COUNT);
-    int32_t f, m;
-    const BrngRecord* row = __qesGetBrngBaseOffset(QES_BRNG_MRG32K3A, &f, &m) + f;
-    for (int32_t method : {-1, 4, 0x7FFFFFFF})
-        EXPECT_EQ(row->initStream(method, s, 0, nullptr), QES_STATUS_BAD_METHOD) << method;
-    // Its words are not full 32-bit words: no raw-bit forms.
-    uint64_t bits[4];
-    EXPECT_EQ(_qesiRngUniformBits32(0, s, 4, reinterpret_cast<uint32_t*>(bits)),
-              QES_RNG_ERROR_BITS_NOT_SUPPORTED);
-    EXPECT_EQ(_qesiRngUniformBits64(0, s, 4, bits), QES_RNG_ERROR_BITS_NOT_SUPPORTED);
+    ExpectBadMethodsAndNoBitForms(s);
     EXPECT_EQ(State(s), start);
     __qesDeleteStream(&s);
 }

@@ -30,8 +30,7 @@ struct RefR250 {
 };
 
 WordBrng R250(const Words32& key) {
-    int32_t f, m;
-    const BrngRecord* row = __qesGetBrngBaseOffset(QES_BRNG_R250, &f, &m) + f;
+    const BrngRecord* row = RowOf(QES_BRNG_R250);
     return {QES_BRNG_R250, key, row->iGenerate, row->sGenerate, row->dGenerate};
 }
 
@@ -118,14 +117,7 @@ TEST(RngR250, RefusesJumpsAndBitForms) {
     EXPECT_EQ(__qesSkipAheadStream(s, 1), QES_RNG_STATUS_NO_SKIPAHEAD);
     EXPECT_EQ(__qesSkipAheadStream(s, 0), QES_RNG_STATUS_NO_SKIPAHEAD);
     ExpectNoLeapfrogNorSkipEx(s);
-    int32_t f, m;
-    const BrngRecord* row = __qesGetBrngBaseOffset(QES_BRNG_R250, &f, &m) + f;
-    for (int32_t method : {-1, 4, 0x7FFFFFFF})
-        EXPECT_EQ(row->initStream(method, s, 0, nullptr), QES_STATUS_BAD_METHOD) << method;
-    uint64_t bits[4];
-    EXPECT_EQ(_qesiRngUniformBits32(0, s, 4, reinterpret_cast<uint32_t*>(bits)),
-              QES_RNG_ERROR_BITS_NOT_SUPPORTED);
-    EXPECT_EQ(_qesiRngUniformBits64(0, s, 4, bits), QES_RNG_ERROR_BITS_NOT_SUPPORTED);
+    ExpectBadMethodsAndNoBitForms(s);
     EXPECT_EQ(Ring(s), start);
     __qesDeleteStream(&s);
 }

@@ -60,8 +60,7 @@ struct RefWh {
 };
 
 const BrngRecord* Row() {
-    int32_t f, m;
-    return __qesGetBrngBaseOffset(QES_BRNG_WH, &f, &m) + f;
+    return RowOf(QES_BRNG_WH);
 }
 
 Words32 Words(void* s, int32_t n) {
@@ -244,12 +243,7 @@ TEST(RngWh, RefusedMethodsLeaveTheStream) {
     uint64_t words[2] = {5, 0};
     EXPECT_EQ(__qesSkipAheadStreamEx(s, 2, words), QES_RNG_STATUS_NO_SKIPAHEAD_EX);
     EXPECT_EQ(__qesLeapfrogStream(s, 0, -1), QES_RNG_STATUS_BAD_STREAM_COUNT);
-    for (int32_t method : {-1, 4, 0x7FFFFFFF})
-        EXPECT_EQ(Row()->initStream(method, s, 0, nullptr), QES_STATUS_BAD_METHOD) << method;
-    uint64_t bits[8];
-    EXPECT_EQ(_qesiRngUniformBits32(0, s, 4, reinterpret_cast<uint32_t*>(bits)),
-              QES_RNG_ERROR_BITS_NOT_SUPPORTED);
-    EXPECT_EQ(_qesiRngUniformBits64(0, s, 4, bits), QES_RNG_ERROR_BITS_NOT_SUPPORTED);
+    ExpectBadMethodsAndNoBitForms(s);
     EXPECT_EQ(State(s), start);
     __qesDeleteStream(&s);
 }
