@@ -11,7 +11,9 @@
  * (51.8 bits), HA 0.83 ulp; dLog2 EP 32.6 bits, LA 1.42 ulp, HA 0.78 ulp.
  * Scalar routines: log_scalar.h; the double ones by fyl2x with log10(2) or 1. */
 #include "frame/kernels.h"
+#include "vecmath/explog/flat.h"
 #include "vecmath/explog/log_scalar.h"
+#include "vecmath/explog/wide.h"
 #include "vecmath/frame/kernel_frame.h"
 
 namespace brenn::vm {
@@ -113,6 +115,8 @@ struct LogBody {
     using V = Vec<T>;
     static constexpr const char* kName =
         Base == 10 ? ZAR_ERROR_NAME_OF(T, Log10) : ZAR_ERROR_NAME_OF(T, Log2);
+    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8; // single: rounds of eight pay more
+    static int EvalWide(const V* x, V* y) { return EvalByRegister<LogBody>(x, y); }
     static V Eval(V x, V& special) {
         special = LogSpecial(x);
         return LogOf<Base, L>(x, special);
@@ -132,10 +136,10 @@ using Log2Body = LogBody<T, L, 2>;
 using namespace brenn::vm;
 
 extern "C" {
-ZAR_LEVEL_KERNELS(s, Log10, Unary, Log10Body)
-ZAR_LEVEL_KERNELS(s, Log2, Unary, Log2Body)
+BRENN_FLAT_LEVEL_KERNELS(s, Log10, Unary, Log10Body)
+BRENN_FLAT_LEVEL_KERNELS(s, Log2, Unary, Log2Body)
 // One double Log10 kernel for LA and EP: the degree-5 core, plainly scaled.
-ZAR_KERNEL_OF(d, Log10, LaEp, Unary, Log10Body<double, Level::LA>)
-ZAR_KERNEL_OF(d, Log10, HA, Unary, Log10Body<double, Level::HA>)
-ZAR_LEVEL_KERNELS(d, Log2, Unary, Log2Body)
+BRENN_FLAT ZAR_KERNEL_OF(d, Log10, LaEp, Unary, Log10Body<double, Level::LA>) BRENN_FLAT
+    ZAR_KERNEL_OF(d, Log10, HA, Unary, Log10Body<double, Level::HA>)
+        BRENN_FLAT_LEVEL_KERNELS(d, Log2, Unary, Log2Body)
 }
