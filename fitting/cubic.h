@@ -48,25 +48,40 @@ class CubicWork {
     T* next_ = nullptr;
 };
 
-// The partition as the cubic code reads it: the width of cell i (uniform: the step as
-// the reciprocal of the reciprocal step), and the reciprocal step of the uniform form.
+// The partition as the cubic code reads it: the width of cell i and its reciprocal,
+// from the reciprocal step on a uniform partition (the width then its reciprocal),
+// else from the reciprocal widths that the worker computes once for all functions.
 template <typename T, bool Uniform>
 struct CubicCells {
     const T* x;
     T inverseStep;
     T step;
+    T* r; // 1 / (x[i+1] - x[i]), nx-1 of them; null on a uniform partition
     T h(int64_t i) const { return Uniform ? step : x[i + 1] - x[i]; }
+    T rcp(int64_t i) const { return Uniform ? inverseStep : r[i]; }
 };
 
+// The cells of a task; r (nx-1 elements) receives the reciprocal widths of a
+// non-uniform partition.
 template <typename T, bool Uniform>
-inline CubicCells<T, Uniform> CellsOf(const FittingTask* task) {
+inline CubicCells<T, Uniform> CellsOf(const FittingTask* task, T* r) {
     const T* x = static_cast<const T*>(task->x);
-    CubicCells<T, Uniform> c{x, T(0), T(0)};
+    CubicCells<T, Uniform> c{x, T(0), T(0), nullptr};
     if (Uniform) {
         c.inverseStep = static_cast<T>(task->nx - 1) / (x[1] - x[0]);
         c.step = T(1) / c.inverseStep;
+    } else {
+        for (int64_t i = 0; i + 1 < task->nx; ++i)
+            r[i] = T(1) / (x[i + 1] - x[i]);
+        c.r = r;
     }
     return c;
+}
+
+// Elements of the reciprocal widths in a work area.
+template <bool Uniform>
+inline int64_t ReciprocalElements(int64_t nx) {
+    return Uniform ? 0 : nx - 1;
 }
 
 // m[i] = (y[i+1] - y[i]) / h[i], i from 0 to nx-2.
@@ -74,8 +89,7 @@ template <typename T, bool Columns, bool Uniform>
 inline void Slopes(const YAccess<T, Columns>& y, const CubicCells<T, Uniform>& cells, int64_t nx,
                    T* m) {
     for (int64_t i = 0; i + 1 < nx; ++i)
-        m[i] = Uniform ? (y[i + 1] - y[i]) * cells.inverseStep
-                       : (y[i + 1] - y[i]) / (cells.x[i + 1] - cells.x[i]);
+        m[i] = (y[i + 1] - y[i]) * cells.rcp(i);
 }
 
 // The coefficients of the cells from the values and the node derivatives, function f's
@@ -97,7 +111,7 @@ struct CubicCellJob {
             T y0 = y[job.cellBegin];
             for (int64_t i = job.cellBegin; i < job.cellEnd; ++i, c += order) {
                 T y1 = y[i + 1];
-                T r = Uniform ? cells.inverseStep : T(1) / (cells.x[i + 1] - cells.x[i]);
+                T r = cells.rcp(i);
                 T m = (y1 - y0) * r;
                 T d0 = df[i], d1 = df[i + 1];
                 c[0] = y0;

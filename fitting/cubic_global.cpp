@@ -57,10 +57,7 @@ struct GlobalSystem {
     const T* bc;
 
     T hh(int64_t i) const { return Uniform ? T(1) : cells.x[i + 1] - cells.x[i]; }
-    T m(const YAccess<T, Columns>& y, int64_t i) const {
-        return Uniform ? (y[i + 1] - y[i]) * cells.inverseStep
-                       : (y[i + 1] - y[i]) / (cells.x[i + 1] - cells.x[i]);
-    }
+    T m(const YAccess<T, Columns>& y, int64_t i) const { return (y[i + 1] - y[i]) * cells.rcp(i); }
 
     // Unknowns: nx, or nx-1 for the periodic system.
     int64_t Unknowns() const { return kPeriodic ? nx - 1 : nx; }
@@ -172,21 +169,27 @@ int32_t GlobalWorker(FittingTask* task, const threader* thr) {
     int64_t nx = task->nx;
     int64_t nf = task->ny > 0 ? task->ny : 1;
     if (int32_t s = CheckCubicTask<T, Columns>(task, nf)) return s;
-    System sys{CellsOf<T, Uniform>(task), nx, static_cast<const T*>(task->bc)};
-    int64_t n = sys.Unknowns();
+    int64_t n = System::kPeriodic ? nx - 1 : nx;
     bool cyclic = System::kPeriodic && n >= 3;
+    bool factored = nf > 1;
 
-    // The pivot indices first, at the block's alignment; then the diagonals, the
-    // second right-hand side and the derivatives of every function.
-    int64_t pivotElements = n * static_cast<int64_t>(sizeof(int64_t) / sizeof(T));
+    // The pivot indices first, at the block's alignment (several functions only); the
+    // diagonals, the fill of the factorization (several functions), the two right-hand
+    // sides of the cyclic system, the reciprocal widths and the derivatives.
+    int64_t pivotElements = factored ? n * static_cast<int64_t>(sizeof(int64_t) / sizeof(T)) : 0;
+    int64_t fill = factored ? n : 0, sides = cyclic ? 2 * n : 0;
     CubicWork<T> work;
-    if (!work.Allocate({pivotElements, n, n, n, n, 2 * n, nf * nx})) return FIT_STATUS_NO_MEMORY;
+    if (!work.Allocate(
+            {pivotElements, 3 * n, fill, sides, ReciprocalElements<Uniform>(nx), nf * nx}))
+        return FIT_STATUS_NO_MEMORY;
     auto* ipiv = reinterpret_cast<int64_t*>(work.Take(pivotElements));
     T* dl = work.Take(n);
     T* dd = work.Take(n);
     T* du = work.Take(n);
-    T* du2 = work.Take(n);
-    T* z = work.Take(2 * n);
+    T* du2 = work.Take(fill);
+    T* z = work.Take(sides);
+    System sys{CellsOf<T, Uniform>(task, work.Take(ReciprocalElements<Uniform>(nx))), nx,
+               static_cast<const T*>(task->bc)};
     T* d = work.Take(nf * nx);
 
     if (System::kPeriodic && n == 1) {
@@ -213,7 +216,7 @@ int32_t GlobalWorker(FittingTask* task, const threader* thr) {
             z[n] = gamma;
             z[2 * n - 1] = beta;
         }
-        if (nf == 1) {
+        if (!factored) {
             auto y = FunctionValues<T, Columns>(task, 0);
             if (cyclic) {
                 sys.Rhs(y, z);

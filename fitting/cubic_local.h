@@ -112,11 +112,13 @@ int32_t LocalCubicWorker(FittingTask* task, int64_t, int64_t, int64_t, int bcCol
     int64_t nx = task->nx;
     int64_t nf = task->ny > 0 ? task->ny : 1;
     if (int32_t s = CheckCubicTask<T, Columns>(task, nf)) return s;
-    CubicCells<T, Uniform> cells = CellsOf<T, Uniform>(task);
     CubicWork<T> work;
-    if (!work.Allocate({nx + 3, nf * nx})) return FIT_STATUS_NO_MEMORY;
+    if (!work.Allocate({nx + 3, nf * nx, ReciprocalElements<Uniform>(nx)}))
+        return FIT_STATUS_NO_MEMORY;
     T* m = work.Take(nx + 3) + 2;
     T* d = work.Take(nf * nx);
+    CubicCells<T, Uniform> cells =
+        CellsOf<T, Uniform>(task, work.Take(ReciprocalElements<Uniform>(nx)));
     const LocalTable<T>& table = LocalTableOf<T, Family>();
     CubicEnd<T> end{nx, m, cells.x, Uniform, cells.step, static_cast<const T*>(task->bc), d};
     for (int64_t f = 0; f < nf; ++f) {
