@@ -4,9 +4,11 @@
  * explog core (log_pair.h).
  * Double HA: x^2 - 1 as a pair, below 2 as d^2 + 2d with d = x - 1 (exact there), from 2
  * on as x^2 - 1; its root corrected once; w = x + root as a pair.
- * Double LA and EP, and the single rows on widened lanes: w = 1 + u, u = d + sqrt(d*(x + 1)),
- * the rounding of 1 + u recovered, so that near 1 the result keeps its relative accuracy.
+ * Double LA and EP, and the single LA and HA rows on widened lanes: w = 1 + u, u = d + sqrt(d*(x +
+ * 1)), the rounding of 1 + u recovered, so that near 1 the result keeps its relative accuracy.
  * Above 2^28 the square is left out: ln(2x) as ln x plus ln 2.
+ * Single EP in single arithmetic: the fold at 1.5, the root by rsqrtps and a Newton step,
+ * a quadratic near one and the logarithm by exponent and significand above.
  * Range test: everything outside [1, infinity) (single: outside (1, about 2^64], the
  * test of the single EP body) and NaN go to the scalar routine, which gives NaN with the
  * domain status below 1. */
@@ -15,6 +17,7 @@
 #include "vecmath/frame/level.h"
 #include "vecmath/hyper/inverse_scalar.h"
 #include "vecmath/hyper/log_pair.h"
+#include "vecmath/hyper/single_ep.h"
 
 namespace brenn::vm {
 namespace {
@@ -55,10 +58,38 @@ inline __m128d AcoshOf(__m128d x) {
     return LnOfPair<L>(w, IfThenElseZero(big, one));
 }
 
+// Single EP, x in (1, 2^64]: folded at 1.5, u = x - 1 below and x^2 - 1 from there;
+// s = sqrt(u) by rsqrtps and one Newton step; near one s times a quadratic in u, else
+// ln(x + s) by exponent and significand.
+constexpr float kAcoshNearEP[] = {1.41419041f, -0.116985172f, 0.0215848032f};
+
+inline __m128 AcoshSingleEP(__m128 x) {
+    const __m128 one = Set<float>(1.0f);
+    __m128 near = Lt(x, Set<float>(1.5f));
+    __m128 u = IfThenElse(near, Sub(x, one), Sub(Mul(x, x), one));
+    __m128 r = ApproxRecipSqrt(u);
+    __m128 g = Mul(u, r);
+    __m128 s = Mul(Mul(Set<float>(-0.5f), g), Sub(Mul(g, r), Set<float>(3.0f)));
+    __m128 yn = Mul(s, Horner(u, kAcoshNearEP));
+    return IfThenElse(near, yn, LnByFields(Add(x, s)));
+}
+
+// Single LA and HA on widened lanes: for a single x, (x - 1)*(x + 1) is exact in double,
+// so w = x + sqrt of it is within 2^-52 of itself, and its logarithm (the EP core, 2^-33)
+// far below a single ulp; the window keeps x below 2^64, where the square is in range.
+inline __m128d AcoshWide(__m128d x) {
+    const __m128d one = Set<double>(1.0);
+    __m128d h, l;
+    LnCore<Level::EP>(Add(x, Sqrt(Mul(Sub(x, one), Add(x, one)))), h, l);
+    return Add(h, l);
+}
+
 template <Level L>
 inline __m128 AcoshOf(__m128 x) {
-    constexpr Level D = L == Level::HA ? Level::LA : Level::EP;
-    return WidenToDouble(x, [](__m128d v) { return AcoshOf<D>(v); });
+    if constexpr (L == Level::EP)
+        return AcoshSingleEP(x);
+    else
+        return WidenToDouble(x, AcoshWide);
 }
 
 template <class Tp, Level L>
@@ -68,7 +99,7 @@ struct AcoshBody {
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Acosh);
     static V Eval(V x, V& special) {
         special = RangeTest(x, AcoshWindow<T>::kWindow);
-        return AcoshOf<L>(IfThenElse(special, Set<T>(T(1)), x)); // special lanes run on 1
+        return AcoshOf<L>(IfThenElse(special, Set<T>(T(2)), x)); // special lanes run on 2
     }
     static int Scalar(const T* a, T* y) { return AcoshScalar(a, y); }
 };

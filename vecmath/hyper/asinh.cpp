@@ -3,16 +3,19 @@
  * asinh a = ln(w), w = a + sqrt(a^2 + 1), a = |x|, x's sign put back at the end; the
  * logarithm of the pair w by the explog core (log_pair.h).
  * Double HA: a^2 + 1 and its root carried as pairs, so that w is exact to far below an ulp.
- * Double LA and EP, and the single rows on widened lanes: the log1p form w = 1 + u,
+ * Double LA and EP, and the single LA and HA rows on widened lanes: the log1p form w = 1 + u,
  * u = a + a^2/(1 + sqrt(a^2 + 1)), the rounding of 1 + u recovered, so that small
  * arguments keep their relative accuracy. Above 2^28 the square is left out: ln(2a) as
  * ln a plus ln 2; below 2^-28 the result is a.
+ * Single EP in single arithmetic: the odd series up to 1.2, above it the root by rsqrtps
+ * and the logarithm by exponent and significand, with a guard above 0x5F7FFFFF.
  * Only infinities and NaN go to the scalar routine; nothing is reported. */
 #include "frame/kernels.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/hyper/inverse_scalar.h"
 #include "vecmath/hyper/log_pair.h"
+#include "vecmath/hyper/single_ep.h"
 
 namespace brenn::vm {
 namespace {
@@ -66,11 +69,52 @@ inline __m128d AsinhOf(__m128d x) {
     return Or(y, SignBit(x));
 }
 
-// Single rows in double: HA on the LA path, LA and EP on the EP core (2^-33).
+// Single EP: a = |x|, q = a^2. Up to 1.20000005 the odd series; above, ln(a + sqrt(1 + q))
+// with the root as (1 + q)*rsqrtps(1 + q) and the logarithm by exponent and significand;
+// lanes above 0x5F7FFFFF, whose square is out of range, take ln a + ln 2.
+constexpr float kAsinhSmallEP[] = {-0.163027272f, 0.056370344f, -0.011921552f};
+constexpr float kAsinhSmallEnd = 0x1.333334p+0f; // 1.20000005
+constexpr uint32_t kAsinhSquareGuard = 0x5F7FFFFFu;
+
+inline __m128 AsinhSingleEP(__m128 x) {
+    const __m128 one = Set<float>(1.0f);
+    __m128 a = Abs(x);
+    __m128 guard = AsFloat(Gt(AsInt(a), Set<uint32_t>(kAsinhSquareGuard)));
+    __m128 q = Mul(a, a);
+    __m128 ys = Add(a, Mul(Mul(a, q), Horner(q, kAsinhSmallEP)));
+    __m128 ag = IfThenZeroElse(guard, a); // their square would overflow
+    __m128 p = Add(Mul(ag, ag), one);
+    __m128 s = IfThenElse(guard, a, Add(a, Mul(p, ApproxRecipSqrt(p))));
+    __m128 yl = Add(LnByFields(s), IfThenElseZero(guard, Set<float>(LogConst<float>::kLn2)));
+    __m128 y = IfThenElse(Le(a, Set<float>(kAsinhSmallEnd)), ys, yl);
+    return Or(y, SignBit(x));
+}
+
+// Single LA and HA on widened lanes: w = a + sqrt(a^2 + 1) in double is within 2^-52 of
+// itself, which the logarithm (the EP core, 2^-33) keeps far below a single ulp from
+// 2^-7 on; below, the series to a^5.
+constexpr double kAsinhSeriesWide[] = {-1.0 / 6, 3.0 / 40};
+
+inline __m128d AsinhWide(__m128d x) {
+    __m128d a = Abs(x);
+    __m128d big = Gt(a, Set<double>(kSquareEnd));
+    __m128d ac = Min(a, Set<double>(kSquareEnd));
+    __m128d w = Add(ac, Sqrt(Add(Mul(ac, ac), Set<double>(1.0))));
+    __m128d h, l;
+    LnCore<Level::EP>(IfThenElse(big, a, w), h, l);
+    __m128d y = Add(h, Add(l, IfThenElseZero(big, Set<double>(kLn2D))));
+    __m128d z = Mul(a, a);
+    __m128d series = Add(a, Mul(Mul(a, z), Horner(z, kAsinhSeriesWide)));
+    y = IfThenElse(Lt(a, Set<double>(kSeriesEnd)), series, y);
+    return Or(y, SignBit(x));
+}
+
 template <Level L>
 inline __m128 AsinhOf(__m128 x) {
-    constexpr Level D = L == Level::HA ? Level::LA : Level::EP;
-    return WidenToDouble(x, [](__m128d v) { return AsinhOf<D>(v); });
+    if constexpr (L == Level::EP)
+        return AsinhSingleEP(x);
+    else
+        return WidenToDouble(x, AsinhWide);
 }
 
 template <class Tp, Level L>

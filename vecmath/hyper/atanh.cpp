@@ -3,8 +3,10 @@
  * atanh a = ln(w)/2, w = (1 + a)/(1 - a), a = |x|, x's sign put back at the end; the
  * logarithm of the pair w by the explog core (log_pair.h).
  * Double HA: 1 + a and 1 - a as exact pairs, their quotient corrected once into a pair.
- * Double LA and EP, and the single rows on widened lanes: w = 1 + u, u = 2a/(1 - a), the
+ * Double LA and EP, and the single LA and HA rows on widened lanes: w = 1 + u, u = 2a/(1 - a), the
  * rounding of 1 + u recovered, so that small arguments keep their relative accuracy.
+ * Single EP in single arithmetic: the odd series for x^2 below 1/4, else w by rcpps and
+ * ln(w)/2 by exponent and significand.
  * Double: |x| at or above 1 and NaN go to the scalar routine (an infinity with the
  * singularity status at +-1, NaN with the domain status above).
  * Single: no scalar routine for values. The body runs on every lane and the lanes with
@@ -54,10 +56,49 @@ inline __m128d AtanhOf(__m128d x) {
     return Or(y, SignBit(x));
 }
 
+// Single EP, |x| < 1: for x^2 below 1/4 the odd series; else w = (1 + a)*rcpps(1 - a) and
+// ln(w)/2 = e*ln2/2 + f*P(f), e and f the exponent and the significand less one of w.
+constexpr float kAtanhSmallEP[] = {0.327951103f, 0.263935477f};
+constexpr float kAtanhLogEP[] = {0.499970585f, -0.24844794f, 0.15290828f, -0.0782667622f,
+                                 0.0204208214f};
+constexpr float kHalfLn2 = 0.346573591f;
+
+inline __m128 AtanhSingleEP(__m128 x) {
+    using F = Format<float>;
+    const __m128 one = Set<float>(1.0f);
+    __m128 a = Abs(x);
+    __m128 x2 = Mul(x, x);
+    __m128 ys = Add(a, Mul(Mul(a, x2), Horner(x2, kAtanhSmallEP)));
+    __m128 w = Mul(Add(one, a), ApproxRecip(Sub(one, a)));
+    I32x4 b = AsInt(w);
+    __m128 e = ToFloat(Sub(ShiftRight<F::kMantBits>(b), Set<int32_t>(F::kBias)));
+    __m128 f = Sub(AsFloat(Or(And(b, Set<uint32_t>(F::kMant)), Set<uint32_t>(F::kOne))), one);
+    __m128 yl = Add(Mul(e, Set<float>(kHalfLn2)), Mul(f, Horner(f, kAtanhLogEP)));
+    __m128 y = IfThenElse(Lt(x2, Set<float>(0.25f)), ys, yl);
+    return Or(y, SignBit(x));
+}
+
+// Single LA and HA on widened lanes: for a single a, 1 + a and 1 - a are exact in double,
+// so w = (1 + a)/(1 - a) is within 2^-53 of itself and ln(w)/2 (the EP core, 2^-33) far
+// below a single ulp from 2^-7 on; below, the series to a^9.
+inline __m128d AtanhWide(__m128d x) {
+    const __m128d one = Set<double>(1.0);
+    __m128d a = Abs(x);
+    __m128d h, l;
+    LnCore<Level::EP>(Div(Add(one, a), Sub(one, a)), h, l);
+    __m128d y = Mul(Set<double>(0.5), Add(h, l));
+    __m128d z = Mul(a, a);
+    __m128d series = Add(a, Mul(Mul(a, z), Horner(z, kAtanhSeries)));
+    y = IfThenElse(Lt(a, Set<double>(kSeriesEnd)), series, y);
+    return Or(y, SignBit(x));
+}
+
 template <Level L>
 inline __m128 AtanhOf(__m128 x) {
-    constexpr Level D = L == Level::HA ? Level::LA : Level::EP;
-    return WidenToDouble(x, [](__m128d v) { return AtanhOf<D>(v); });
+    if constexpr (L == Level::EP)
+        return AtanhSingleEP(x);
+    else
+        return WidenToDouble(x, AtanhWide);
 }
 
 template <class Tp, Level L>

@@ -5,8 +5,9 @@
  * by integer addition on the exponent field of 0.5; S(r) ~ sinh r and C(r) ~ cosh r - 1;
  * with P = e1 + e2 and M = e1 - e2, cosh = P + (C*P + M*S) and sinh = M + (C*M + P*S),
  * x's sign OR-ed back. LA has the longer pair, EP the shorter one.
- * Single HA and all double levels: the halves of e^a in double (hyper_core.h), the single
- * lanes widened; HA sums the heads exactly.
+ * Single HA: the same body in double on widened lanes (hyper_core.h), with longer pairs.
+ * Double: the halves of e^a from the exponential's table of 64 (hyper_core.h); HA sums the
+ * heads exactly.
  * Range test on |x|: from 87.3365 (single) or 708 (double) up, and infinities and NaN, to
  * the scalar routine (hyper_scalar.h), which settles overflow with status 3.
  *
@@ -95,10 +96,12 @@ inline __m128d HalvesPath(__m128d a) {
 
 template <Fn F, Level L>
 inline __m128 HyperOf(__m128 a) {
-    if constexpr (L == Level::HA) // in double, the EP core: far below a single ulp
-        return Narrow(HalvesPath<F, Level::EP>(WidenLower(a)),
-                      HalvesPath<F, Level::EP>(WidenUpper(a)));
-    else
+    if constexpr (L == Level::HA) {
+        __m128d s0, c0, s1, c1;
+        SinhCoshWide(WidenLower(a), s0, c0);
+        SinhCoshWide(WidenUpper(a), s1, c1);
+        return F == Fn::Cosh ? Narrow(c0, c1) : Narrow(s0, s1);
+    } else
         return BothExps<F, L>(a);
 }
 template <Fn F, Level L>

@@ -7,7 +7,8 @@
  * gives 1. LA evaluates the row's cubic, ((c3*a + c2)*a + c1)*a + c0 (row 0 has
  * c0 = 0 and c1 = 1, so small arguments keep their leading term exactly); EP the row's
  * line c1*a + c0. x's sign is OR-ed back after the narrowing. HA, which the cubics' 0.94
- * ulp would not meet, runs the double path (degree-4 tail) on the widened lanes.
+ * ulp would not meet, divides sinh by cosh of the both-exponentials body run in double on
+ * the widened lanes (hyper_core.h).
  * Double: sinh/cosh from the halves of e^a (hyper_core.h), a held at 22, where tanh is 1
  * to the last bit; the sums of the heads split exactly; HA corrects the quotient once,
  * LA and EP divide the sums.
@@ -85,11 +86,18 @@ inline __m128d TanhPath(__m128d x) {
     return Or(y, SignBit(x));
 }
 
-// Single HA: the double path on the widened lanes, far below a single ulp.
+// Single HA: sinh/cosh of the both-exponentials body in double on the widened lanes, a
+// held at 10, where tanh is 1 in single.
+inline __m128d TanhWide(__m128d a) {
+    __m128d s, c;
+    SinhCoshWide(Min(a, Set<double>(10.0)), s, c);
+    return Div(s, c);
+}
+
 template <>
 inline __m128 TanhOf<Level::HA>(__m128 x) {
-    return Narrow(TanhPath<ExpDegree::Four, false, SinhSeriesLA>(WidenLower(x)),
-                  TanhPath<ExpDegree::Four, false, SinhSeriesLA>(WidenUpper(x)));
+    __m128 a = Abs(x);
+    return Or(Narrow(TanhWide(WidenLower(a)), TanhWide(WidenUpper(a))), SignBit(x));
 }
 
 template <Level L>
