@@ -110,7 +110,7 @@ int Scalar(const T* a, T* y) {
         return status::kNone;
     }
     __m128d p = AngleOf<F, U, AsinDouble13, true>(Set<double>(double(x)));
-    *y = GetLane(InType(p, Vec<T>{}));
+    *y = T(GetLane(p)); // narrowed once, as the vector path does
     return status::kNone;
 }
 

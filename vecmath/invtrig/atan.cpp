@@ -225,7 +225,7 @@ int Atan2Scalar(const T* pa, const T* pb, T* y) {
             db = eb - ea < -60 ? std::copysign(0.0, db) : std::scalbn(db, -e);
         }
         __m128d p = AngleOf<U, AtanDouble11, true>(Set<double>(da), Set<double>(db));
-        *y = GetLane(InType(p, Vec<T>{}));
+        *y = T(GetLane(p)); // narrowed once, as the vector path does
         return status::kNone;
     }
     *y = T(std::copysign(r, double(a)));

@@ -94,14 +94,6 @@ BRENN_VEC V Finish(V k, V v, V l) {
     }
 }
 
-// A double result as a register of the row's type (a scalar routine's, lane 0).
-BRENN_VEC __m128 InType(__m128d p, __m128) {
-    return Narrow(p, p);
-}
-BRENN_VEC __m128d InType(__m128d p, __m128d) {
-    return p;
-}
-
 } // namespace brenn::vm::invtrig
 
 #endif
