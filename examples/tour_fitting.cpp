@@ -52,5 +52,25 @@ void TourFitting() {
     for (int i = 0; i < 4; ++i)
         std::printf("  s = %.2f  value %+.5f  slope %+.5f  (cos %+.5f)\n", sites[i], result[2 * i],
                     result[2 * i + 1], std::cos(sites[i]));
+
+    // Cubics: the natural spline (free ends) and Akima's, values and slopes.
+    double cubic[4 * (nx - 1)];
+    const char* names[2] = {"natural", "Akima"};
+    for (int k = 0; k < 2; ++k) {
+        brenn_df_kernel_dEditPPSpline1D(
+            task, FIT_ORDER_CUBIC, k ? FIT_TYPE_CUBIC_AKIMA : FIT_TYPE_CUBIC_NATURAL,
+            k ? FIT_BC_NONE : FIT_BC_FREE_END, nullptr, FIT_IC_NONE, nullptr, cubic, FIT_Y_ROWS);
+        status = k ? brenn_df_kernel_dDFAkimaCubicSpline1D(task, 0, 0, nullptr)
+                   : brenn_df_kernel_dDFNaturalCubicSpline1D(task, 0, 0, nullptr);
+        status = status ? status
+                        : brenn_df_kernel_dDFInterpolate1D(
+                              task, FIT_CALL_VALUES, 0, 4, sites, 0, 2, dorder, nullptr, result, 0,
+                              nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                              nullptr, nullptr, nullptr);
+        std::printf("fitting: %s cubic spline (status %d)\n", names[k], status);
+        for (int i = 0; i < 4; ++i)
+            std::printf("  s = %.2f  value %+.5f  slope %+.5f\n", sites[i], result[2 * i],
+                        result[2 * i + 1]);
+    }
     brenn_df_kernel_DeleteTask(&task);
 }
