@@ -2,8 +2,8 @@
  *
  * Single EP and LA: the split around 2/3 of log_core.h and r*P(r) with P of 5 (EP) or 9
  * (LA) coefficients fitted for the base, plus k*log10(2) (two parts at LA) or k itself.
- * Single HA: the lanes widened to double, ln by the double core at EP (about 2^-33)
- * times the base's constant, rounded once.
+ * Single HA: ln in double from the split of the single bits and the table core's EP
+ * polynomial (LnOfSingleLanes, about 2^-33) times the base's constant, rounded once.
  * Double: ln as the head and tail of the double core, then times log10(e) or log2(e):
  * plainly for LA and EP, and at HA with the product carried exactly (ScaleLog).
  * Measured (brenn_accuracy, worst of its inputs): sLog10 EP 14.0 bits, LA 1.81 ulp,
@@ -65,10 +65,9 @@ inline __m128 LogOf(__m128 x, __m128 special) {
     using K = LogBase<Base>;
     if constexpr (L == Level::HA) {
         __m128 xx = IfThenElse(special, Set<float>(1.0f), x);
-        return WidenToDouble(xx, [](__m128d v) {
-            __m128d h, l;
-            LnCore<Level::EP>(v, h, l);
-            return Mul(Add(h, l), Set<double>(K::kPerLn));
+        return LnOfSingleLanes(xx, [](__m128d lo, __m128d hi) {
+            const __m128d c = Set<double>(K::kPerLn);
+            return Narrow(Mul(lo, c), Mul(hi, c));
         });
     } else {
         __m128 r, k;

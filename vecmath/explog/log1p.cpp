@@ -6,7 +6,8 @@
  * 1, k and r are 0, and the result is c = x exactly: tiny and denormal x come through the
  * body as themselves.
  * Single EP and LA: the split around 2/3 on u with the polynomial of sLn EP and a fitted
- * one of eight coefficients (LA); HA in double on the EP logarithm core.
+ * one of eight coefficients (LA); HA in double on the EP logarithm core, where 1 + x is
+ * exact and needs no correction.
  * Double: the logarithm core on u (EP core at EP, degree 5 at LA and HA); HA carries
  * h + r exactly before the small terms are added.
  * Measured (brenn_accuracy, worst of its inputs): sLog1p EP 12.8 bits, LA 1.68 ulp,
@@ -91,13 +92,17 @@ inline __m128 Log1pOf(__m128 x, __m128& special) {
     using K = LogConst<float>;
     special = LogSpecial(Add(Set<float>(1.0f), x));
     if constexpr (L == Level::HA) {
+        // In double, u = 1 + x is exact for a single x from 2^-29 up to 2^53 (at most 53
+        // bits from 2^0 down to x's last place), and beyond 2^53 its rounding is far
+        // below the result's last place: no correction term, no division. Below 2^-29,
+        // log1p(x) is within 2^-30 of x, relatively, and x is the rounded result.
         __m128 xx = IfThenZeroElse(special, x); // special lanes take 0
-        return KeepTiny(x, WidenToDouble(xx, [](__m128d v) {
-                            __m128d u, c, h, l;
-                            OnePlus(v, u, c);
-                            LnCore<Level::EP>(u, h, l);
-                            return Add(h, Add(l, Div(c, u)));
-                        }));
+        __m128 y = WidenToDouble(xx, [](__m128d v) {
+            __m128d h, l;
+            LnCore<Level::EP>(Add(Set<double>(1.0), v), h, l);
+            return Add(h, l);
+        });
+        return IfThenElse(Lt(Abs(x), Set<float>(0x1p-29f)), x, y);
     } else {
         // Special lanes run on 0, so that inf - inf and 1/0 raise no flag of their own.
         x = IfThenZeroElse(special, x);

@@ -164,6 +164,38 @@ inline __m128 WidenToDouble(__m128 x, Core core) {
     return Narrow(lo, hi);
 }
 
+// ln x in double for the four lanes of a positive normal single x, two lanes a half:
+// ln x = (k*ln2hi + Thi) + (r + r^2*(c2 + c3*r)), about 2^-33, enough for a single
+// result rounded once. The split is taken on the single bits, four lanes at once:
+// x = 2^k*m, m in [1, 2), and the row j of lnRows for m rounded to 9 fraction bits, one
+// 16-byte load a lane (the reciprocal and the head of -ln of it). r = m*rcp - 1 in
+// double: m has 24 bits, so the product's rounding is below 2^-53 and there is none at
+// rows 0 and 512 (rcp 1 and 1/2), where x is near 1 and ln x small; there the heads
+// k*ln2hi + Thi cancel exactly (both on the 2^-42 grid). `half(lo, hi)` receives ln of
+// lanes 0-1 and 2-3.
+template <class Half>
+inline __m128 LnOfSingleLanes(__m128 x, Half half) {
+    using F = Format<float>;
+    using K = LogConst<double>;
+    const I32x4 b = AsInt(x);
+    I32x4 mant = And(b, Set<uint32_t>(F::kMant));
+    __m128 m = AsFloat(Or(mant, Set<uint32_t>(F::kOne)));
+    I32x4 k = Sub(ShiftRight<F::kMantBits>(b), Set<int32_t>(F::kBias));
+    I32x4 j = ShiftRight<F::kMantBits - 9>(Add(mant, Set<int32_t>(1 << (F::kMantBits - 10))));
+    Indices at = IndicesOf(j);
+    __m128d lnv[2];
+    for (int h = 0; h < 2; ++h) {
+        __m128d md = h == 0 ? WidenLower(m) : WidenUpper(m);
+        __m128d kd = h == 0 ? ToDoubleLower(k) : ToDoubleUpper(k);
+        __m128d rcp, th;
+        LoadTransposed(lnRows[at.at[2 * h]], lnRows[at.at[2 * h + 1]], rcp, th);
+        __m128d r = Sub(Mul(md, rcp), Set<double>(1.0));
+        __m128d p = Add(r, Mul(Mul(r, r), Horner(r, K::kCoreEP)));
+        lnv[h] = Add(Add(Mul(kd, Set<double>(K::kLn2Hi)), th), p);
+    }
+    return half(lnv[0], lnv[1]);
+}
+
 // Scalar ln in double for any input: NaN quieted, +inf, -inf for zero, NaN for negatives;
 // no status, callers decide. Denormals are scaled by 2^60 first. Near 1 (|x - 1| not
 // above 2^-7) a degree-8 polynomial on r = x - 1 alone; elsewhere x = 2^k*m, m in [1, 2),
