@@ -2,8 +2,9 @@
 // underflow, denormal results, poles, domain errors), the special values the family
 // shares, error mode 0x2000 (overflow and underflow settled in the vector path without a
 // flag or a status, NaN lanes still by the scalar routine), the index a report carries,
-// every length and alignment against the scalar routine's answers, and the scalar set-up
-// logarithms __qesdLn and __qessLn.
+// every length and alignment against the scalar routine's answers, the places where the
+// reductions step (and the single logarithms' rows), and the scalar set-up logarithms
+// __qesdLn and __qessLn.
 #include <cfloat>
 #include <cmath>
 #include <gtest/gtest.h>
@@ -11,6 +12,7 @@
 #include <random>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 #include <xmmintrin.h>
 
@@ -496,6 +498,137 @@ TEST(ExpLog, EveryLengthAlignmentAndAliasing) {
     for (RowIndex r :
          {frame::Row_dExp, frame::Row_dLn, frame::Row_dExpm1, frame::Row_dLog2, frame::Row_dLog1p})
         CheckLengths<double>(r);
+}
+
+// The worst error in ulps of a slot over a whole vector of arguments (long enough for the
+// main stage's rounds), and the argument where it occurs.
+template <class T>
+std::pair<double, T> WorstOver(RowIndex row, int slot, long double (*ref)(long double),
+                               const std::vector<T>& x) {
+    std::vector<T> y(x.size());
+    K<T>(row, slot)(int(x.size()), x.data(), y.data());
+    std::pair<double, T> worst{0.0, T(0)};
+    for (size_t i = 0; i < x.size(); ++i) {
+        double e = UlpError(y[i], ref(x[i]));
+        if (e > worst.first) worst = {e, x[i]};
+    }
+    return worst;
+}
+
+// Arguments on both sides of each point, `ulps` floats away at most.
+template <class T>
+std::vector<T> Around(const std::vector<long double>& points, int ulps) {
+    std::vector<T> x;
+    for (long double p : points) {
+        T up = T(p), down = T(p);
+        for (int i = 0; i < ulps; ++i) {
+            x.push_back(up), x.push_back(down);
+            up = std::nextafter(up, T(INFINITY));
+            down = std::nextafter(down, -T(INFINITY));
+        }
+    }
+    return x;
+}
+
+template <class T>
+struct Seams {
+    RowIndex row;
+    long double (*ref)(long double);
+    long double step; // where the reduction's integer changes: (i + 1/2) * step
+    int from, to;     // the i to visit
+};
+
+// The exponentials where the reduction's integer n steps (every table row, its wrap
+// into the next power of two, and for Expm1 the n where 2^n - 1 stops being exact), in
+// every slot, through the vector path: each slot within its level's bound.
+template <class T>
+void CheckSeams(const std::vector<Seams<T>>& rows) {
+    for (const Seams<T>& s : rows) {
+        std::vector<long double> points;
+        for (int i = s.from; i <= s.to; ++i)
+            points.push_back((i + 0.5L) * s.step);
+        std::vector<T> x = Around<T>(points, 6);
+        for (int slot : kSlots) {
+            auto [err, at] = WorstOver<T>(s.row, slot, s.ref, x);
+            EXPECT_LE(err, LevelBound<T>(slot))
+                << frame::kRowInfo[s.row].name << " slot " << slot << " x " << std::hexfloat << at;
+        }
+    }
+}
+
+TEST(ExpLog, ExponentialsWhereTheReductionSteps) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    const long double ln2 = logl(2.0L), lg2 = log10l(2.0L);
+    CheckSeams<float>({
+        {frame::Row_sExp2, exp2l, 1.0L / 128, -300, 300},
+        {frame::Row_sExp2, exp2l, 1.0L / 128, -16128, -16000}, // results near the smallest normal
+        {frame::Row_sExp10, exp10l, lg2 / 128, -300, 300},
+        {frame::Row_sExp10, exp10l, lg2 / 128, 16000, 16120},
+        {frame::Row_sExpm1, expm1l, ln2, -60, 60},
+        {frame::Row_sExpm1, expm1l, ln2 / 64, -100, 100},
+    });
+    CheckSeams<double>({
+        {frame::Row_dExp2, exp2l, 1.0L / 64, -200, 200},
+        {frame::Row_dExp2, exp2l, 1.0L / 64, -65408, -65300},
+        {frame::Row_dExp10, exp10l, lg2 / 64, -200, 200},
+        {frame::Row_dExpm1, expm1l, ln2, -60, 60},
+        {frame::Row_dExpm1, expm1l, ln2, 1000, 1020},
+        {frame::Row_dExpm1, expm1l, ln2 / 64, -100, 100},
+    });
+}
+
+// Expm1 gives every result the sign of x: -0 stays -0, tiny and denormal x are x itself,
+// in both precisions and every slot, through the vector path.
+TEST(ExpLog, Expm1KeepsTheSignAndTinyArguments) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    const std::vector<float> xs = {
+        -0.0f, 0.0f, -FLT_TRUE_MIN, FLT_TRUE_MIN, -0x1p-100f, 0x1p-60f,  -0x1p-30f,  0x1p-26f,
+        -0.0f, 0.0f, -1e-20f,       1e-38f,       -0.0f,      0x1p-126f, -0x1p-126f, 0x1p-149f};
+    std::vector<double> xd(xs.begin(), xs.end());
+    xd.push_back(-0x1p-1074);
+    xd.push_back(0x1p-1000);
+    xd.push_back(-0x1p-60);
+    xd.push_back(-0.0);
+    for (int slot : kSlots) {
+        std::vector<float> ys(xs.size());
+        K<float>(frame::Row_sExpm1, slot)(int(xs.size()), xs.data(), ys.data());
+        for (size_t i = 0; i < xs.size(); ++i)
+            EXPECT_EQ(Bits(ys[i]), Bits(xs[i])) << slot << " " << xs[i];
+        std::vector<double> yd(xd.size());
+        K<double>(frame::Row_dExpm1, slot)(int(xd.size()), xd.data(), yd.data());
+        for (size_t i = 0; i < xd.size(); ++i) {
+            if (std::fabs(xd[i]) < 0x1p-54)
+                EXPECT_EQ(Bits(yd[i]), Bits(xd[i])) << slot << " " << xd[i];
+            else
+                EXPECT_LE(UlpError(yd[i], expm1l(xd[i])), LevelBound<double>(slot));
+        }
+    }
+}
+
+// The single HA logarithms work in double on the single bits: near 1 from both sides
+// (the row of 1 and the last row, where the heads cancel), at the edges of the table's
+// rows, and for Log1p around 2^-29, below which the result is x itself.
+TEST(ExpLog, SingleLogarithmsNearOneAndAtTheirRows) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    std::vector<long double> points = {1.0L, 2.0L, 0.5L, 0x1p-126L, 0x1p127L};
+    for (int j = 0; j <= 512; j += 7)
+        points.push_back(1.0L + (2 * j + 1) / 1024.0L);
+    std::vector<float> x = Around<float>(points, 40);
+    struct {
+        RowIndex row;
+        long double (*ref)(long double);
+    } rows[] = {{frame::Row_sLog2, log2l}, {frame::Row_sLog10, log10l}, {frame::Row_sLn, logl}};
+    for (auto r : rows)
+        for (int slot : kSlots) {
+            auto [err, at] = WorstOver<float>(r.row, slot, r.ref, x);
+            EXPECT_LE(err, LevelBound<float>(slot)) << r.row << " " << slot << " " << at;
+        }
+    std::vector<float> t = Around<float>(
+        {0x1p-29L, -0x1p-29L, 0x1p-30L, -0x1p-28L, 0x1p24L, 0x1p53L, -0.5L, 1.0L}, 30);
+    for (int slot : kSlots) {
+        auto [err, at] = WorstOver<float>(frame::Row_sLog1p, slot, log1pl, t);
+        EXPECT_LE(err, LevelBound<float>(slot)) << slot << " " << at;
+    }
 }
 
 TEST(ExpLog, ScalarSetUpLogarithms) {
