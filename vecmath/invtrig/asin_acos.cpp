@@ -17,7 +17,10 @@
  * Lanes with |x| above 1 and NaN go to the scalar routine: infinity gives NaN with the
  * domain status, NaN itself none, |x| > 1 NaN with the domain status.
  *
- * Measured (brenn_accuracy, 250000 inputs a row): see docs/accuracy.md. */
+ * Measured (brenn_accuracy, 250000 inputs a row), LA / HA in ulp, EP in bits: sAsin
+ * 2.22 / 0.504 / 14.0, sAcos 1.21 / 0.504 / 14.9, sAsinpi 0.506 / 0.506 / 14.0, sAcospi
+ * 0.503 / 0.503 / 14.9; dAsin 1.67 / 0.627 / 30.8, dAcos 1.16 / 0.590 / 31.8, dAsinpi
+ * 0.823 / 0.740 / 30.8, dAcospi 0.661 / 0.591 / 31.8. */
 #include <cmath>
 
 #include "frame/kernels.h"

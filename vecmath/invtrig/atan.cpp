@@ -22,7 +22,10 @@
  * C99 Annex F and, for the others, the compensated double steps (in double after both
  * arguments are scaled by one power of two). Nothing is reported.
  *
- * Measured (brenn_accuracy, 250000 inputs a row): see docs/accuracy.md. */
+ * Measured (brenn_accuracy, 250000 inputs a row), LA / HA in ulp, EP in bits: sAtan
+ * 3.21 / 0.509 / 12.3, sAtan2 2.16 / 0.504 / 14.9, sAtanpi 0.510 / 0.510 / 12.3,
+ * sAtan2pi 0.507 / 0.507 / 14.9; dAtan 0.621 (one kernel) / 30.5, dAtan2 0.961 / 0.582 /
+ * 30.5, dAtanpi 0.743 / 0.743 / 30.5, dAtan2pi 0.692 / 0.692 / 30.5. */
 #include <cmath>
 
 #include "frame/kernels.h"
