@@ -3,7 +3,8 @@
 // multipliers (rng/brng/wh_table.cpp). The stream's id names the member. Every step
 // runs in double precision, where x a stays exact, and reduces by the reciprocal:
 // x' = y - m trunc(y / m). The output is the fractional part of x1/m1 + ... + x4/m4,
-// each quotient taken as x times the member's rounded reciprocal, or the four words. Runs of eight elements step eight lanes by a^8.
+// each quotient taken as x times the member's rounded reciprocal, or the four words.
+// Runs of eight elements step eight lanes by a^8.
 #include <smmintrin.h>
 
 #include "frame/export.h"
