@@ -6,7 +6,6 @@
 #include <cmath>
 
 #include "fitting/cubic_local.h"
-#include "frame/export.h"
 
 namespace brenn::fit {
 namespace {
@@ -74,14 +73,4 @@ struct Akima : NoFinish {
 } // namespace
 } // namespace brenn::fit
 
-using namespace brenn::fit;
-
-BRENN_EXPORT int32_t brenn_df_kernel_dDFAkimaCubicSpline1D(FitTaskHandle task, int64_t,
-                                                           int64_t flags, const threader* thr) {
-    return DispatchLocal<double, Akima>(task, flags, thr);
-}
-
-BRENN_EXPORT int32_t brenn_df_kernel_sDFAkimaCubicSpline1D(FitTaskHandle task, int64_t,
-                                                           int64_t flags, const threader* thr) {
-    return DispatchLocal<float, Akima>(task, flags, thr);
-}
+BRENN_LOCAL_CUBIC_ENTRIES(Akima, brenn::fit::Akima, nullptr)

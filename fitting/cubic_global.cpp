@@ -283,24 +283,16 @@ int32_t Global(FitTaskHandle handle, int64_t flags, const threader* thr, bool na
 } // namespace
 } // namespace brenn::fit
 
-using namespace brenn::fit;
+// The double and single entries of one family.
+#define BRENN_GLOBAL_CUBIC_ENTRIES(Name, natural)                                                  \
+    BRENN_EXPORT int32_t brenn_df_kernel_dDF##Name##CubicSpline1D(                                 \
+        FitTaskHandle task, int64_t, int64_t flags, const threader* thr) {                         \
+        return brenn::fit::Global<double>(task, flags, thr, natural);                              \
+    }                                                                                              \
+    BRENN_EXPORT int32_t brenn_df_kernel_sDF##Name##CubicSpline1D(                                 \
+        FitTaskHandle task, int64_t, int64_t flags, const threader* thr) {                         \
+        return brenn::fit::Global<float>(task, flags, thr, natural);                               \
+    }
 
-BRENN_EXPORT int32_t brenn_df_kernel_dDFNaturalCubicSpline1D(FitTaskHandle task, int64_t,
-                                                             int64_t flags, const threader* thr) {
-    return Global<double>(task, flags, thr, true);
-}
-
-BRENN_EXPORT int32_t brenn_df_kernel_sDFNaturalCubicSpline1D(FitTaskHandle task, int64_t,
-                                                             int64_t flags, const threader* thr) {
-    return Global<float>(task, flags, thr, true);
-}
-
-BRENN_EXPORT int32_t brenn_df_kernel_dDFDefaultCubicSpline1D(FitTaskHandle task, int64_t,
-                                                             int64_t flags, const threader* thr) {
-    return Global<double>(task, flags, thr, false);
-}
-
-BRENN_EXPORT int32_t brenn_df_kernel_sDFDefaultCubicSpline1D(FitTaskHandle task, int64_t,
-                                                             int64_t flags, const threader* thr) {
-    return Global<float>(task, flags, thr, false);
-}
+BRENN_GLOBAL_CUBIC_ENTRIES(Natural, true)
+BRENN_GLOBAL_CUBIC_ENTRIES(Default, false)

@@ -3,7 +3,6 @@
 // without a condition they stay. Periodic: both ends take bc[0] when bc is given, else
 // the derivative given at the first node.
 #include "fitting/cubic_local.h"
-#include "frame/export.h"
 
 namespace brenn::fit {
 namespace {
@@ -39,14 +38,4 @@ int32_t CheckDerivatives(const FittingTask* task) {
 } // namespace
 } // namespace brenn::fit
 
-using namespace brenn::fit;
-
-BRENN_EXPORT int32_t brenn_df_kernel_dDFHermiteCubicSpline1D(FitTaskHandle task, int64_t,
-                                                             int64_t flags, const threader* thr) {
-    return DispatchLocal<double, Hermite>(task, flags, thr, CheckDerivatives);
-}
-
-BRENN_EXPORT int32_t brenn_df_kernel_sDFHermiteCubicSpline1D(FitTaskHandle task, int64_t,
-                                                             int64_t flags, const threader* thr) {
-    return DispatchLocal<float, Hermite>(task, flags, thr, CheckDerivatives);
-}
+BRENN_LOCAL_CUBIC_ENTRIES(Hermite, brenn::fit::Hermite, brenn::fit::CheckDerivatives)

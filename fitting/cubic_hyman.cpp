@@ -9,7 +9,6 @@
 #include <cmath>
 
 #include "fitting/cubic_bessel.h"
-#include "frame/export.h"
 
 namespace brenn::fit {
 namespace {
@@ -47,14 +46,4 @@ struct Hyman : BesselRule {
 } // namespace
 } // namespace brenn::fit
 
-using namespace brenn::fit;
-
-BRENN_EXPORT int32_t brenn_df_kernel_dDFHymanCubicSpline1D(FitTaskHandle task, int64_t,
-                                                           int64_t flags, const threader* thr) {
-    return DispatchLocal<double, Hyman>(task, flags, thr);
-}
-
-BRENN_EXPORT int32_t brenn_df_kernel_sDFHymanCubicSpline1D(FitTaskHandle task, int64_t,
-                                                           int64_t flags, const threader* thr) {
-    return DispatchLocal<float, Hyman>(task, flags, thr);
-}
+BRENN_LOCAL_CUBIC_ENTRIES(Hyman, brenn::fit::Hyman, nullptr)

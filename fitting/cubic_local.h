@@ -7,6 +7,7 @@
 #define BRENN_FITTING_CUBIC_LOCAL_H
 
 #include "fitting/cubic.h"
+#include "frame/export.h"
 
 namespace brenn::fit {
 
@@ -172,5 +173,17 @@ struct NoFinish {
 };
 
 } // namespace brenn::fit
+
+// The double and single entries of a local family, dispatching to Family with the
+// family's own checks (a function of the task, or nullptr).
+#define BRENN_LOCAL_CUBIC_ENTRIES(Name, Family, check)                                             \
+    BRENN_EXPORT int32_t brenn_df_kernel_dDF##Name##CubicSpline1D(                                 \
+        FitTaskHandle task, int64_t, int64_t flags, const threader* thr) {                         \
+        return brenn::fit::DispatchLocal<double, Family>(task, flags, thr, check);                 \
+    }                                                                                              \
+    BRENN_EXPORT int32_t brenn_df_kernel_sDF##Name##CubicSpline1D(                                 \
+        FitTaskHandle task, int64_t, int64_t flags, const threader* thr) {                         \
+        return brenn::fit::DispatchLocal<float, Family>(task, flags, thr, check);                  \
+    }
 
 #endif
