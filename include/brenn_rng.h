@@ -641,6 +641,96 @@ int32_t __qesdBRngSFMT19937(void* stream, int32_t n, double* r, double a, double
  * @return QES_STATUS_OK. */
 int32_t __qesiBRngSFMT19937(void* stream, int32_t n, void* r);
 
+/* The combined multiple recursive generator, the shift-register generator R250 and the
+ * Wichmann-Hill set (member m is id 0x500000 + m, 0 to 272). */
+/** The initStream entry of MRG32K3A (QesInitStreamFn).
+ * @param method QES_INIT_SEED, QES_INIT_LEAPFROG, QES_INIT_SKIP or QES_INIT_SKIP_EX
+ * @param stream the stream
+ * @param n the count of params
+ * @param params the method's words
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; the status of a jump MRG32K3A lacks. */
+int32_t __qesBRngMRG32K3AInitStream(int32_t method, void* stream, int32_t n, const void* params);
+/** Single-precision uniform output of MRG32K3A on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
+int32_t __qessBRngMRG32K3A(void* stream, int32_t n, float* r, float a, float b);
+/** Double-precision uniform output of MRG32K3A on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
+int32_t __qesdBRngMRG32K3A(void* stream, int32_t n, double* r, double a, double b);
+/** Raw output of MRG32K3A: one 32-bit word an element.
+ * @param stream the stream
+ * @param n number of elements
+ * @param r where they go
+ * @return QES_STATUS_OK. */
+int32_t __qesiBRngMRG32K3A(void* stream, int32_t n, void* r);
+/** The initStream entry of R250 (QesInitStreamFn).
+ * @param method QES_INIT_SEED, QES_INIT_LEAPFROG, QES_INIT_SKIP or QES_INIT_SKIP_EX
+ * @param stream the stream
+ * @param n the count of params
+ * @param params the method's words
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; the status of a jump R250 lacks. */
+int32_t __qesBRngR250InitStream(int32_t method, void* stream, int32_t n, const void* params);
+/** Single-precision uniform output of R250 on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
+int32_t __qessBRngR250(void* stream, int32_t n, float* r, float a, float b);
+/** Double-precision uniform output of R250 on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
+int32_t __qesdBRngR250(void* stream, int32_t n, double* r, double a, double b);
+/** Raw output of R250: one 32-bit word an element.
+ * @param stream the stream
+ * @param n number of elements
+ * @param r where they go
+ * @return QES_STATUS_OK. */
+int32_t __qesiBRngR250(void* stream, int32_t n, void* r);
+/** The initStream entry of WH (QesInitStreamFn).
+ * @param method QES_INIT_SEED, QES_INIT_LEAPFROG, QES_INIT_SKIP or QES_INIT_SKIP_EX
+ * @param stream the stream
+ * @param n the count of params
+ * @param params the method's words
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; the status of a jump WH lacks. */
+int32_t __qesBRngWHInitStream(int32_t method, void* stream, int32_t n, const void* params);
+/** Single-precision uniform output of WH on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
+int32_t __qessBRngWH(void* stream, int32_t n, float* r, float a, float b);
+/** Double-precision uniform output of WH on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
+int32_t __qesdBRngWH(void* stream, int32_t n, double* r, double a, double b);
+/** Raw output of WH: the four component words of an element, 16 bytes.
+ * @param stream the stream
+ * @param n number of elements
+ * @param r where they go
+ * @return QES_STATUS_OK. */
+int32_t __qesiBRngWH(void* stream, int32_t n, void* r);
+
 /* Distribution generators: method, stream, n, result, parameters. */
 /** Single-precision uniform variates on [a, b).
  * @param method 0, or with QES_RNG_METHOD_UNIFORM_ACCURATE to clamp to [a, b]
