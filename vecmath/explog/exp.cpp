@@ -19,6 +19,7 @@
 #include "vecmath/explog/exp_fixup.h"
 #include "vecmath/explog/exp_scalar.h"
 #include "vecmath/explog/flat.h"
+#include "vecmath/explog/wide.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 
@@ -184,6 +185,8 @@ struct ExpBody {
     using V = Vec<T>;
     using K = ExpLimits<T>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Exp);
+    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8; // single: rounds of eight pay more
+    static int EvalWide(const V* x, V* y) { return EvalByRegister<ExpBody>(x, y); }
     static V Eval(V x, V& special) {
         special = RangeTest(x, ExpWindow<T>::kWindow);
         x = IfThenZeroElse(special, x); // special lanes run on 0: no flags of their own

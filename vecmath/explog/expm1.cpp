@@ -214,7 +214,7 @@ struct Expm1Body {
     using K = Expm1Const<T>;
     static constexpr bool kExact = K::template kExact<L>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Expm1);
-    static constexpr int kRound = 16;
+    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8; // single: rounds of eight pay more
     static int EvalWide(const V* x, V* y) { return EvalByRegister<Expm1Body>(x, y); }
     static V Eval(V x, V& special) {
         special = RangeTest(x, K::kWindow);

@@ -15,6 +15,7 @@
 #include "frame/kernels.h"
 #include "vecmath/explog/log_scalar.h"
 #include "vecmath/explog/flat.h"
+#include "vecmath/explog/wide.h"
 #include "vecmath/frame/kernel_frame.h"
 
 namespace brenn::vm {
@@ -85,6 +86,8 @@ struct LnBody {
     using T = Tp;
     using V = Vec<T>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Ln);
+    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8; // single: rounds of eight pay more
+    static int EvalWide(const V* x, V* y) { return EvalByRegister<LnBody>(x, y); }
     static V Eval(V x, V& special) {
         special = LogSpecial(x);
         return LnOf<L>(x);
