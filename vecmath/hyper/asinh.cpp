@@ -3,12 +3,14 @@
  * asinh a = ln(w), w = a + sqrt(a^2 + 1), a = |x|, x's sign put back at the end; the
  * logarithm of the pair w by the explog core (log_pair.h).
  * Double HA: a^2 + 1 and its root carried as pairs, so that w is exact to far below an ulp.
- * Double LA and EP, and the single LA and HA rows on widened lanes: the log1p form w = 1 + u,
+ * Double LA and EP: the log1p form w = 1 + u,
  * u = a + a^2/(1 + sqrt(a^2 + 1)), the rounding of 1 + u recovered, so that small
  * arguments keep their relative accuracy. Above 2^28 the square is left out: ln(2a) as
  * ln a plus ln 2; below 2^-28 the result is a.
- * Single EP in single arithmetic: the odd series up to 1.2, above it the root by rsqrtps
- * and the logarithm by exponent and significand, with a guard above 0x5F7FFFFF.
+ * Single HA on widened lanes, w = a + sqrt(a^2 + 1) in double and its logarithm.
+ * Single LA and EP in single arithmetic: the odd series up to 3/4 (LA) or 1.2 (EP), above
+ * it the root by sqrtps (LA) or rsqrtps (EP) and the logarithm by the split of the explog
+ * family (LA) or by exponent and significand (EP), with a guard above 0x5F7FFFFF.
  * Only infinities and NaN go to the scalar routine; nothing is reported. */
 #include "frame/kernels.h"
 #include "vecmath/frame/kernel_frame.h"
@@ -90,7 +92,7 @@ inline __m128 AsinhSingleEP(__m128 x) {
     return Or(y, SignBit(x));
 }
 
-// Single LA and HA on widened lanes: w = a + sqrt(a^2 + 1) in double is within 2^-52 of
+// Single HA on widened lanes: w = a + sqrt(a^2 + 1) in double is within 2^-52 of
 // itself, which the logarithm (the EP core, 2^-33) keeps far below a single ulp from
 // 2^-7 on; below, the series to a^5.
 constexpr double kAsinhSeriesWide[] = {-1.0 / 6, 3.0 / 40};
@@ -109,10 +111,31 @@ inline __m128d AsinhWide(__m128d x) {
     return Or(y, SignBit(x));
 }
 
+// Single LA in single arithmetic: up to 3/4 the odd series a + a^3*P(a^2), P fitted by
+// tools/hyper/asinh_single_la.sollya; above, ln(a + sqrt(1 + a^2)) by sqrtps and
+// LnSingleLA (single_ep.h), with the EP body's guard on the square.
+constexpr float kAsinhSeriesLA[] = {-0x1.555556p-3f, 0x1.333372p-4f,  -0x1.6dbaf8p-5f,
+                                    0x1.f186b8p-6f,  -0x1.69adecp-6f, 0x1.ffe292p-7f,
+                                    -0x1.205026p-7f, 0x1.5a97aep-9f};
+
+inline __m128 AsinhSingleLA(__m128 x) {
+    __m128 a = Abs(x);
+    __m128 guard = AsFloat(Gt(AsInt(a), Set<uint32_t>(kAsinhSquareGuard)));
+    __m128 q = Mul(a, a);
+    __m128 ys = Add(a, Mul(Mul(a, q), Horner(q, kAsinhSeriesLA)));
+    __m128 ag = IfThenZeroElse(guard, a); // their square would overflow
+    __m128 w = IfThenElse(guard, a, Add(a, Sqrt(Add(Mul(ag, ag), Set<float>(1.0f)))));
+    __m128 yl = Add(LnSingleLA(w), IfThenElseZero(guard, Set<float>(LogConst<float>::kLn2)));
+    __m128 y = IfThenElse(Lt(a, Set<float>(0.75f)), ys, yl);
+    return Or(y, SignBit(x));
+}
+
 template <Level L>
 inline __m128 AsinhOf(__m128 x) {
     if constexpr (L == Level::EP)
         return AsinhSingleEP(x);
+    else if constexpr (L == Level::LA)
+        return AsinhSingleLA(x);
     else
         return WidenToDouble(x, AsinhWide);
 }

@@ -3,10 +3,12 @@
  * atanh a = ln(w)/2, w = (1 + a)/(1 - a), a = |x|, x's sign put back at the end; the
  * logarithm of the pair w by the explog core (log_pair.h).
  * Double HA: 1 + a and 1 - a as exact pairs, their quotient corrected once into a pair.
- * Double LA and EP, and the single LA and HA rows on widened lanes: w = 1 + u, u = 2a/(1 - a), the
+ * Double LA and EP: w = 1 + u, u = 2a/(1 - a), the
  * rounding of 1 + u recovered, so that small arguments keep their relative accuracy.
- * Single EP in single arithmetic: the odd series for x^2 below 1/4, else w by rcpps and
- * ln(w)/2 by exponent and significand.
+ * Single HA on widened lanes, w from a single division corrected once in double.
+ * Single LA and EP in single arithmetic: the odd series for x^2 below 1/4, else w by
+ * division (LA) or rcpps (EP) and ln(w)/2 by the split of the explog family (LA) or by
+ * exponent and significand (EP).
  * Double: |x| at or above 1 and NaN go to the scalar routine (an infinity with the
  * singularity status at +-1, NaN with the domain status above).
  * Single: no scalar routine for values. The body runs on every lane and the lanes with
@@ -20,6 +22,7 @@
 #include "vecmath/frame/level.h"
 #include "vecmath/hyper/inverse_scalar.h"
 #include "vecmath/hyper/log_pair.h"
+#include "vecmath/hyper/single_ep.h"
 
 namespace brenn::vm {
 namespace {
@@ -78,27 +81,58 @@ inline __m128 AtanhSingleEP(__m128 x) {
     return Or(y, SignBit(x));
 }
 
-// Single LA and HA on widened lanes: for a single a, 1 + a and 1 - a are exact in double,
-// so w = (1 + a)/(1 - a) is within 2^-53 of itself and ln(w)/2 (the EP core, 2^-33) far
-// below a single ulp from 2^-7 on; below, the series to a^9.
-inline __m128d AtanhWide(__m128d x) {
+// Single LA in single arithmetic: for x^2 below 1/4 a + a^3*P(a^2); above, w = (1 + a)/(1 - a)
+// by division and ln(w)/2 by LnSingleLA (single_ep.h). P fitted by
+// tools/hyper/atanh_single_la.sollya.
+constexpr float kAtanhSeriesLA[] = {0x1.555556p-2f, 0x1.9998dap-3f, 0x1.24b13ep-3f, 0x1.c2bd5cp-4f,
+                                    0x1.9c49aep-4f, 0x1.f822aep-6f, 0x1.59e448p-3f};
+
+inline __m128 AtanhSingleLA(__m128 x) {
+    const __m128 one = Set<float>(1.0f);
+    __m128 a = Abs(x);
+    __m128 x2 = Mul(a, a);
+    __m128 ys = Add(a, Mul(Mul(a, x2), Horner(x2, kAtanhSeriesLA)));
+    __m128 yl = Mul(Set<float>(0.5f), LnSingleLA(Div(Add(one, a), Sub(one, a))));
+    __m128 y = IfThenElse(Lt(x2, Set<float>(0.25f)), ys, yl);
+    return Or(y, SignBit(x));
+}
+
+// Single HA on widened lanes: for a single a, n = 1 + a and d = 1 - a are exact in
+// double. The quotient is taken in single (4 lanes a division) and corrected once in
+// double, w = ws + (n - ws*d)*rcpps(d), where ws*d is exact: w within about 2^-36 of n/d.
+// ln(w)/2 by the EP core (2^-33) is then far below a single ulp from 2^-7 on; below, the
+// series to a^9.
+inline __m128d AtanhWide(__m128d a, __m128d ws, __m128d rd) {
     const __m128d one = Set<double>(1.0);
-    __m128d a = Abs(x);
+    __m128d n = Add(one, a), d = Sub(one, a);
+    __m128d w = Add(ws, Mul(Sub(n, Mul(ws, d)), rd));
     __m128d h, l;
-    LnCore<Level::EP>(Div(Add(one, a), Sub(one, a)), h, l);
+    LnCore<Level::EP>(w, h, l);
     __m128d y = Mul(Set<double>(0.5), Add(h, l));
     __m128d z = Mul(a, a);
     __m128d series = Add(a, Mul(Mul(a, z), Horner(z, kAtanhSeries)));
-    y = IfThenElse(Lt(a, Set<double>(kSeriesEnd)), series, y);
-    return Or(y, SignBit(x));
+    return IfThenElse(Lt(a, Set<double>(kSeriesEnd)), series, y);
+}
+
+inline __m128 AtanhWide(__m128 x) {
+    const __m128 one = Set<float>(1.0f);
+    __m128 a = Abs(x);
+    __m128 d = Sub(one, a);
+    __m128 ws = Div(Add(one, a), d);
+    __m128 rd = ApproxRecip(d);
+    __m128d lo = AtanhWide(WidenLower(a), WidenLower(ws), WidenLower(rd));
+    __m128d hi = AtanhWide(WidenUpper(a), WidenUpper(ws), WidenUpper(rd));
+    return Or(Narrow(lo, hi), SignBit(x));
 }
 
 template <Level L>
 inline __m128 AtanhOf(__m128 x) {
     if constexpr (L == Level::EP)
         return AtanhSingleEP(x);
+    else if constexpr (L == Level::LA)
+        return AtanhSingleLA(x);
     else
-        return WidenToDouble(x, AtanhWide);
+        return AtanhWide(x);
 }
 
 template <class Tp, Level L>
