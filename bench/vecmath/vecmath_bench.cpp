@@ -145,6 +145,10 @@ void MakeBuffers(const Job& j, Buffers& b) {
             m[i] = (shape == "PackV" || shape == "UnpackV") ? i : 1;
         return;
     }
+    // Powx's exponent, one value for the whole call: VECMATH_BENCH_POWX_B=0.5 times the
+    // path the kernel takes for that b (a random one otherwise).
+    const char* powxB = getenv("VECMATH_BENCH_POWX_B");
+    const bool fixedB = shape == "Powx" && powxB && !complex;
     if (single) {
         Fill(static_cast<float*>(b.a), reals, lo, hi, rng);
         Fill(static_cast<float*>(b.b), reals, blo == bhi ? lo : blo, blo == bhi ? hi : bhi, rng);
@@ -153,6 +157,12 @@ void MakeBuffers(const Job& j, Buffers& b) {
         Fill(static_cast<double*>(b.a), reals, lo, hi, rng);
         Fill(static_cast<double*>(b.b), reals, blo == bhi ? lo : blo, blo == bhi ? hi : bhi, rng);
         if (HugeArguments(*j.row)) SprinkleHuge(static_cast<double*>(b.a), j.n, rng);
+    }
+    if (fixedB) {
+        if (single)
+            static_cast<float*>(b.b)[0] = float(atof(powxB));
+        else
+            static_cast<double*>(b.b)[0] = atof(powxB);
     }
 }
 

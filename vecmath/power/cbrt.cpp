@@ -1,8 +1,9 @@
 /* Cbrt, InvCbrt and Pow2o3, single and double: x^(1/3), x^(-1/3) and x^(2/3) from the
  * core of root_core.h.
  *
- * The single rows widen their lanes (single denormals are normal doubles) and round the
- * double value once: HA two terms of the series, LA and EP one. The double rows take
+ * Single HA widens its lanes (single denormals are normal doubles) and rounds the double
+ * value once, with two terms of the series; single LA (two terms) and EP (one) run in
+ * single lanes, denormals by the scalar routine. The double rows take
  * four terms; HA rounds the seed so that its cube is exact and carries the products in
  * two parts, LA and EP round them (dCbrt's LA and EP slots share a kernel, dInvCbrt has
  * one kernel for the three slots, at HA).
@@ -23,12 +24,16 @@ template <class T>
 struct RootRanges;
 template <>
 struct RootRanges<float> {
-    // |x| zero, infinite or NaN.
-    static constexpr Range32 kSpecial{0x7FFFFFFFu, 0x7FFFFFFFu, 0xFF7FFFFEu};
+    // HA, in double: |x| zero, infinite or NaN. LA and EP, in single: denormals too.
+    static constexpr Range32 kWide{0x7FFFFFFFu, 0x7FFFFFFFu, 0xFF7FFFFEu};
+    static constexpr Range32 kNarrow{0x7FFFFFFFu, 0x7F800000u, 0xFEFFFFFFu};
+    template <Level L>
+    static constexpr Range32 kSpecial = L == Level::HA ? kWide : kNarrow;
 };
 template <>
 struct RootRanges<double> {
     // |x| zero, denormal, infinite or NaN.
+    template <Level L>
     static constexpr Range64 kSpecial{0x7FFFFFFFFFFFFFFFull, 0x7FF0000000000000ull,
                                       0xFFDFFFFFFFFFFFFFull};
 };
@@ -40,13 +45,19 @@ constexpr int kRootTerms = sizeof(T) == 4 ? (L == Level::HA ? 2 : 1) : 4;
 // The root of positive normal double lanes with x's sign put back where the root is odd.
 template <Root R, class T, Level L>
 inline __m128d SignedRoot(__m128d x) {
-    __m128d v = RootOf<R, kRootTerms<T, L>, sizeof(T) == 8 && L == Level::HA>(Abs(x));
+    __m128d v = RootOf < R, kRootTerms<T, L>, sizeof(T) == 8 && L == Level::HA > (Abs(x));
     return R == Root::Pow2o3 ? v : Or(v, SignBit(x));
 }
 
 template <Root R, Level L>
 inline __m128 RootLanes(__m128 x) {
-    return Narrow(SignedRoot<R, float, L>(WidenLower(x)), SignedRoot<R, float, L>(WidenUpper(x)));
+    if constexpr (L == Level::HA) {
+        return Narrow(SignedRoot<R, float, L>(WidenLower(x)),
+                      SignedRoot<R, float, L>(WidenUpper(x)));
+    } else {
+        __m128 v = RootOf < R, L == Level::LA ? 2 : 1 > (Abs(x));
+        return R == Root::Pow2o3 ? v : Or(v, SignBit(x));
+    }
 }
 template <Root R, Level L>
 inline __m128d RootLanes(__m128d x) {
@@ -73,7 +84,7 @@ int RootScalar(const T* a, T* y) {
         }
         return status::kNone;
     }
-    // A denormal (double; the single lanes run in double and never get here otherwise).
+    // A denormal: in double, scaled; a single one is a normal double.
     constexpr double kUp = 0x1p54;
     constexpr double kBack = R == Root::Cbrt ? 0x1p-18 : R == Root::InvCbrt ? 0x1p18 : 0x1p-36;
     const bool tiny = __builtin_fabs(double(x)) < 0x1p-1022;
@@ -91,7 +102,7 @@ struct RootBody {
                                          : R == Root::Cbrt  ? ZAR_ERROR_NAME_OF(T, Cbrt)
                                                             : ZAR_ERROR_NAME_OF(T, Pow2o3);
     static V Eval(V x, V& special) {
-        special = RangeTest(x, RootRanges<T>::kSpecial);
+        special = RangeTest(x, RootRanges<T>::template kSpecial<L>);
         return RootLanes<R, L>(IfThenElse(special, Set<T>(T(1)), x));
     }
     static int Scalar(const T* a, T* y) { return RootScalar<R>(a, y); }

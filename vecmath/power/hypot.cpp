@@ -1,11 +1,14 @@
 /* Hypot, single and double: sqrt(a^2 + b^2) without overflow or underflow on the way.
  *
- * Single: in double on widened lanes, where the squares are exact and cannot overflow,
- * one rounded sum and the root, rounded once more to single: within about 0.5 ulp.
+ * Single HA: in double on widened lanes, where the squares are exact and cannot
+ * overflow, one rounded sum and the root, rounded once more to single: within about
+ * 0.5 ulp. Single LA and EP: the sum of squares in single and the root from the
+ * reciprocal root estimate, refined once at LA, as Sqrt does at those levels; lanes
+ * whose sum overflows, underflows or is zero go to the scalar routine.
  * Double: both scaled by 2^-e for the exponent e of the larger, so that it lies in
- * [1, 2). HA: the squares and their sum in two parts, the root s, and its error
- * (sum - s^2)/(2s) from the exact square and a reciprocal estimate: within about
- * 0.5 ulp. LA and EP: the rounded squares and root, within about 1 ulp.
+ * [1, 2). HA: the larger square exactly in two parts, the sum of squares in two parts,
+ * a 26-bit root and its correction: within about 0.6 ulp. LA and EP: the rounded squares and root,
+ * within about 1 ulp.
  * Special lanes: an infinite or NaN operand; in double also a larger operand that is
  * denormal (or both zero) or at least 2^1023. The scalar routine widens both (single to
  * double, double to extended), adds the squares and takes the root: an infinity gives
@@ -14,7 +17,8 @@
 #include <type_traits>
 
 #include "frame/kernels.h"
-#include "vecmath/arith/seed.h"
+#include "vecmath/arith/ranges.h"
+#include "vecmath/explog/flat.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/frame/scalar.h"
@@ -59,8 +63,28 @@ inline __m128d HypotWide(__m128d a, __m128d b) {
     return Sqrt(Add(Mul(a, a), Mul(b, b)));
 }
 
+// x^2 - xx for xx = x*x rounded: from the halves of x, whose products are exact.
+inline __m128d SquareTail(__m128d x, __m128d xx) {
+    __m128d h, l;
+    Split(x, h, l);
+    return Add(Add(Sub(Mul(h, h), xx), Mul(Add(h, h), l)), Mul(l, l));
+}
+
 template <Level L>
 inline __m128 HypotOf(__m128 a, __m128 b, __m128& special) {
+    if constexpr (L != Level::HA) {
+        // LA and EP in single: s = a^2 + b^2 (lanes where it is not a positive normal,
+        // overflow and underflow among them, are special), then s*rsqrt(s), and at LA
+        // one Goldschmidt step with h = rsqrt(s)/2.
+        __m128 s = Add(Mul(a, a), Mul(b, b));
+        special = RangeTest(s, ArithRanges<float>::kRoot);
+        s = IfThenElse(special, Set<float>(1.0f), s);
+        __m128 r = ApproxRecipSqrt(s);
+        __m128 g = Mul(s, r);
+        if constexpr (L == Level::EP) return g;
+        __m128 e = Sub(Set<float>(0.5f), Mul(g, Mul(Set<float>(0.5f), r)));
+        return Add(g, Mul(g, e));
+    }
     using R = HypotRanges<float>;
     special = Or(RangeTest(a, R::kNotFinite), RangeTest(b, R::kNotFinite));
     a = IfThenZeroElse(special, a);
@@ -80,22 +104,24 @@ inline __m128d HypotOf(__m128d a, __m128d b, __m128d& special) {
     ax = IfThenElse(special, one, ax);
     bx = IfThenElse(special, one, bx);
     // 2^-e and 2^e for the exponent e of the larger, e from -1022 to 1022.
-    const I64x2 field = And(AsInt(Max(ax, bx)), Set<uint64_t>(F::kExpField));
+    __m128d big = Max(ax, bx), small = Min(ax, bx);
+    const I64x2 field = And(AsInt(big), Set<uint64_t>(F::kExpField));
     const __m128d down = AsFloat(Sub(Set<int64_t>(int64_t(2 * F::kBias) << F::kMantBits), field));
     const __m128d up = AsFloat(field);
-    __m128d x = Mul(ax, down), z = Mul(bx, down);
+    __m128d x = Mul(big, down), z = Mul(small, down);
     if constexpr (L != Level::HA) return Mul(HypotWide(x, z), up);
-    __m128d xh, xl, zh, zl, s, se;
-    TwoProduct(x, x, xh, xl);
-    TwoProduct(z, z, zh, zl);
-    TwoSum(xh, zh, s, se);
-    __m128d t = Add(se, Add(xl, zl));
-    __m128d r = Sqrt(s);
-    __m128d qh, ql;
-    TwoProduct(r, r, qh, ql);
-    __m128d d = Add(Sub(Sub(s, qh), ql), t);
-    __m128d corr = Mul(Mul(d, Set<double>(0.5)), ReciprocalSeed(r));
-    return Mul(Add(r, corr), up);
+    // x^2 exactly, from the halves of x (x^2 = xx + SquareTail), z^2 rounded (at most a
+    // quarter ulp of the sum away), the sum as a head s and a tail; r0, the root of s cut
+    // to 26 bits, has an exact square, and with q = (sum - r0^2)/(2 r0), about 2^-26 of
+    // r0, sqrt(sum) = r0 + q - q^2/(2 r0) to 2^-78: within about 0.6 ulp.
+    __m128d xx = Mul(x, x), zz = Mul(z, z);
+    __m128d s, e;
+    FastTwoSum(xx, zz, s, e);
+    __m128d tail = Add(e, SquareTail(x, xx));
+    __m128d r0 = And(Sqrt(s), AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull)));
+    __m128d d = Add(Sub(s, Mul(r0, r0)), tail);
+    __m128d q = Div(d, Add(r0, r0));
+    return Mul(Add(r0, Sub(q, Div(Mul(q, q), Add(r0, r0)))), up);
 }
 
 template <class Tp, Level L>
@@ -112,5 +138,6 @@ struct HypotBody {
 using namespace brenn::vm;
 
 extern "C" {
-ZAR_ROW_KERNELS(Hypot, Binary, HypotBody)
+BRENN_FLAT_LEVEL_KERNELS(s, Hypot, Binary, HypotBody)
+BRENN_FLAT_LEVEL_KERNELS(d, Hypot, Binary, HypotBody)
 }

@@ -3,9 +3,10 @@
  *
  * Double LA and HA carry ln x in two parts and w = y*ln x as an exact product plus its
  * tail, then e^w by the table of 64 with a degree-5 (LA) or degree-6 (HA) polynomial;
- * double EP takes ln x in one double (degree-5 core) and a degree-4 exponential. The
- * single rows run the double core on widened lanes: HA the degree-5 logarithm and
- * exponential, LA and EP the cubic logarithm and the degree-4 exponential.
+ * double EP takes ln x in one double (degree-5 core) and a degree-4 exponential. Single
+ * HA and LA run the double core on widened lanes: HA the degree-5 logarithm and
+ * exponential, LA the cubic logarithm and the degree-4 exponential; single EP stays in
+ * single (pow_body.h).
  * Measured (brenn_accuracy): see docs/accuracy.md, rows sPow, dPow, sPowr, dPowr. */
 #include "frame/kernels.h"
 #include "vecmath/frame/kernel_frame.h"

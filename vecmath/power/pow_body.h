@@ -48,8 +48,41 @@ inline __m128d PowHalf(__m128d x, __m128d y, __m128d& special) {
     return PowExp<kPowExpDegree<L, true>>(wh, wl, special);
 }
 
+// Single EP, all in single: ln x by the split around 2/3 and the seven-term Q of
+// ln(1 + r) = r + r^2*Q(r), k*ln2 in two parts; w = y*ln x, within 2^-16 of 1 for the
+// |w| that pass; e^w = 2^n * P(w - n*ln2) with the cubic P, 2^n put into the exponent
+// field by an integer add. |w| above 87.3 (results near or beyond the range) goes to the
+// scalar routine, as do the lanes that are not positive normal x or finite y.
+// The two sets are this body's long-standing ones (Q as sLn LA had it, P a cubic for e^r
+// on |r| <= ln2/2), kept bit for bit.
+constexpr float kPowLnQ[] = {-0x1p-1f,       0x1.555dcep-2f, -0x1.000c3ap-2f, 0x1.95f702p-3f,
+                             -0x1.5126bp-3f, 0x1.5b70d6p-3f, -0x1.36d444p-3f};
+constexpr float kPowExpP[] = {0x1p+0f, 0x1.0007bcp+0f, 0x1.01e5acp-1f, 0x1.52c758p-3f};
+constexpr Range32 kPowWSingle{0x7FFFFFFFu, 0u, 0x42AE9A00u};
+
+inline __m128 PowSingleEP(__m128 x, __m128 y, __m128& special) {
+    using K = LogConst<float>;
+    __m128 sxy = Or(LogSpecial(x), RangeTest(y, PowRanges<float>::kY));
+    x = IfThenElse(sxy, Set<float>(1.0f), x);
+    y = IfThenZeroElse(sxy, y);
+    __m128 r, k;
+    LogSplit(x, r, k);
+    __m128 p = Add(r, Mul(Mul(r, r), Horner(r, kPowLnQ)));
+    __m128 ln = Add(Add(Mul(k, Set<float>(K::kLn2Lo)), p), Mul(k, Set<float>(K::kLn2Hi)));
+    __m128 w = Mul(y, ln);
+    __m128 sw = RangeTest(w, kPowWSingle);
+    w = IfThenZeroElse(sw, w);
+    const __m128 shifter = Set<float>(Format<float>::kShifter);
+    __m128 t = Add(Mul(w, Set<float>(0x1.715476p+0f)), shifter);
+    __m128 n = Sub(t, shifter);
+    __m128 e = Horner(Sub(w, Mul(n, Set<float>(K::kLn2))), kPowExpP);
+    special = Or(sxy, sw);
+    return AsFloat(Add(ShiftLeft<Format<float>::kMantBits>(AsInt(t)), AsInt(e)));
+}
+
 template <Level L>
 inline __m128 PowOf(__m128 x, __m128 y, __m128& special) {
+    if constexpr (L == Level::EP) return PowSingleEP(x, y, special);
     using R = PowRanges<float>;
     __m128 sxy = Or(RangeTest(x, R::kX), RangeTest(y, R::kY));
     x = IfThenElse(sxy, Set<float>(1.0f), x);

@@ -85,6 +85,43 @@ inline __m128d RootOf(__m128d ax) {
     return AsFloat(Add(AsInt(v), ShiftLeft<F::kMantBits>(q)));
 }
 
+// The single-lane form for single LA and EP, positive normal |x|, in single throughout
+// (within about 2 ulp): the biased exponent plus 2 is 3q' + j with q' = q + 43, taken by
+// the product with 1/3 rounded up and a floor (exact below 2^8); M = m * 2^j and the
+// seed's scale by blends on j; e = M*z^3 - 1 rounded, and Terms terms of the series.
+constexpr float kRootSeedS[] = {0x1.ab85acp0f, -0x1.2c4234p0f, 0x1.641702p-1f, -0x1.c519b2p-3f,
+                                0x1.d47154p-6f};
+
+template <Root R, int Terms>
+inline __m128 RootOf(__m128 ax) {
+    using F = Format<float>;
+    const I32x4 xi = AsInt(ax);
+    const __m128 kd = ToFloat(Add(ShiftRight<F::kMantBits>(xi), Set<int32_t>(2)));
+    const __m128 qd = Floor(Mul(kd, Set<float>(0x1.555556p-2f)));
+    const __m128 j = Sub(kd, Mul(qd, Set<float>(3.0f)));
+    const __m128 j1 = Eq(j, Set<float>(1.0f)), j2 = Eq(j, Set<float>(2.0f));
+    const __m128 m = AsFloat(Or(And(xi, Set<uint32_t>(F::kMant)), Set<uint32_t>(F::kOne)));
+    const __m128 bigM = Mul(
+        m, IfThenElse(j1, Set<float>(2.0f), IfThenElse(j2, Set<float>(4.0f), Set<float>(1.0f))));
+    const __m128 scale =
+        IfThenElse(j1, Set<float>(float(kRootScale[1])),
+                   IfThenElse(j2, Set<float>(float(kRootScale[2])), Set<float>(1.0f)));
+    const __m128 z = Mul(Horner(m, kRootSeedS), scale);
+    const __m128 z2 = Mul(z, z);
+    const __m128 e = Sub(Mul(bigM, Mul(z2, z)), Set<float>(1.0f));
+    const double* c = R == Root::Cbrt ? kTwoThirdsSeries : kThirdSeries;
+    __m128 sr = Set<float>(float(c[Terms - 1]));
+    for (int k = Terms - 2; k >= 0; --k)
+        sr = Add(Set<float>(float(c[k])), Mul(e, sr));
+    sr = Mul(e, sr);
+    const __m128 lead = R == Root::InvCbrt ? z : Mul(bigM, R == Root::Cbrt ? z2 : z);
+    const __m128 v = Add(lead, Mul(lead, sr));
+    // The exponent q = q' - 43, times -1 or 2 for InvCbrt and Pow2o3.
+    constexpr float a = R == Root::InvCbrt ? -1.0f : R == Root::Pow2o3 ? 2.0f : 1.0f;
+    const I32x4 q = TruncToInt(Mul(Sub(qd, Set<float>(43.0f)), Set<float>(a)));
+    return AsFloat(Add(AsInt(v), ShiftLeft<F::kMantBits>(q)));
+}
+
 } // namespace brenn::vm
 
 #endif
