@@ -15,23 +15,13 @@
 #include "frame/kernels.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
+#include "vecmath/hyper/quiet_body.h"
 #include "vecmath/hyper/inverse_scalar.h"
 #include "vecmath/hyper/log_pair.h"
 #include "vecmath/hyper/single_ep.h"
 
 namespace brenn::vm {
 namespace {
-
-template <class T>
-struct AsinhWindow;
-template <>
-struct AsinhWindow<float> {
-    static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x7F7FFFFFu};
-};
-template <>
-struct AsinhWindow<double> {
-    static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x7FEFFFFFu}; // high word
-};
 
 // Below this asinh a is a to the last bit.
 constexpr double kAsinhTiny = 0x1p-28;
@@ -140,16 +130,18 @@ inline __m128 AsinhOf(__m128 x) {
         return WidenToDouble(x, AsinhWide);
 }
 
-template <class Tp, Level L>
-struct AsinhBody {
-    using T = Tp;
-    using V = Vec<T>;
-    static V Eval(V x, V& special) {
-        special = RangeTest(x, AsinhWindow<T>::kWindow);
-        return AsinhOf<L>(IfThenElse(special, Zero<T>(), x)); // special lanes run on 0
+struct AsinhOp {
+    template <Level L, class V>
+    static V Of(V x) {
+        return AsinhOf<L>(x);
     }
-    static int Scalar(const T* a, T* y) { return AsinhScalar(a, y); }
+    template <class T>
+    static int Scalar(const T* a, T* y) {
+        return AsinhScalar(a, y);
+    }
 };
+template <class Tp, Level L>
+using AsinhBody = QuietBody<AsinhOp, Tp, L>;
 
 } // namespace
 } // namespace brenn::vm

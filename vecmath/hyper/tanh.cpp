@@ -17,23 +17,13 @@
 #include "frame/kernels.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
+#include "vecmath/hyper/quiet_body.h"
 #include "vecmath/hyper/hyper_core.h"
 #include "vecmath/hyper/hyper_scalar.h"
 #include "vecmath/hyper/hyper_tables.h"
 
 namespace brenn::vm {
 namespace {
-
-template <class T>
-struct TanhWindow;
-template <>
-struct TanhWindow<float> {
-    static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x7F7FFFFFu};
-};
-template <>
-struct TanhWindow<double> {
-    static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x7FEFFFFFu}; // high word
-};
 
 // The interval index: 16 rows a binade, row 0 below 2^-5, the last row from 10 on.
 constexpr uint32_t kRowBits = 0x7FF80000u, kRowBase = 0x3CF80000u;
@@ -108,16 +98,18 @@ inline __m128d TanhOf(__m128d x) {
         return TanhPath<ExpDegree::Five, false, SinhSeriesLA>(x);
 }
 
-template <class Tp, Level L>
-struct TanhBody {
-    using T = Tp;
-    using V = Vec<T>;
-    static V Eval(V x, V& special) {
-        special = RangeTest(x, TanhWindow<T>::kWindow);
-        return TanhOf<L>(IfThenElse(special, Zero<T>(), x)); // special lanes run on 0
+struct TanhOp {
+    template <Level L, class V>
+    static V Of(V x) {
+        return TanhOf<L>(x);
     }
-    static int Scalar(const T* a, T* y) { return TanhScalar(a, y); }
+    template <class T>
+    static int Scalar(const T* a, T* y) {
+        return TanhScalar(a, y);
+    }
 };
+template <class Tp, Level L>
+using TanhBody = QuietBody<TanhOp, Tp, L>;
 
 } // namespace
 } // namespace brenn::vm

@@ -1,0 +1,37 @@
+/* The body of the hyperbolic rows that never report, Tanh and Asinh: only lanes whose
+ * exponent is all ones (infinities and NaN) go to the scalar routine, and they run through
+ * the arithmetic as 0. Op supplies the arithmetic, Of<L>(x) for both register types, and
+ * the scalar routine. */
+#ifndef BRENN_VECMATH_HYPER_QUIET_BODY_H
+#define BRENN_VECMATH_HYPER_QUIET_BODY_H
+
+#include "vecmath/frame/level.h"
+#include "vecmath/frame/vec.h"
+
+namespace brenn::vm {
+
+template <class T>
+struct InfNaNWindow;
+template <>
+struct InfNaNWindow<float> {
+    static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x7F7FFFFFu};
+};
+template <>
+struct InfNaNWindow<double> {
+    static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x7FEFFFFFu}; // high word
+};
+
+template <class Op, class Tp, Level L>
+struct QuietBody {
+    using T = Tp;
+    using V = Vec<T>;
+    static V Eval(V x, V& special) {
+        special = RangeTest(x, InfNaNWindow<T>::kWindow);
+        return Op::template Of<L>(IfThenElse(special, Zero<T>(), x)); // special lanes on 0
+    }
+    static int Scalar(const T* a, T* y) { return Op::Scalar(a, y); }
+};
+
+} // namespace brenn::vm
+
+#endif
