@@ -1,6 +1,6 @@
 # Install rules: the shared libraries with versioned SONAMEs, the public headers under
-# include/brenn/, the CMake package (brenn::brenn, brenn::core) and brenn.pc for
-# consumers, and the documentation with the examples' sources. Components `runtime`,
+# include/brenn/, the CMake package (brenn::brenn, the front-end with the kernel
+# library under it; brenn::kernels; brenn::core) and brenn.pc for consumers, and the documentation with the examples' sources. Components `runtime`,
 # `dev` and `doc` are the Debian packages that CPack makes from the same rules.
 include(CMakePackageConfigHelpers)
 
@@ -8,19 +8,25 @@ set(BRENN_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/brenn)
 
 # The kernel library finds the service library beside itself ($ORIGIN), wherever the
 # prefix is; the build tree's path never reaches an installed file.
+# The front-end library (libbrenn) finds both beside itself the same way.
 set_target_properties(brenn_sse42 PROPERTIES
   VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
-  EXPORT_NAME brenn INSTALL_RPATH "$ORIGIN")
+  EXPORT_NAME kernels INSTALL_RPATH "$ORIGIN")
 set_target_properties(brenn_core PROPERTIES
   VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} EXPORT_NAME core)
+set_target_properties(brenn_frontend PROPERTIES
+  VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
+  EXPORT_NAME brenn INSTALL_RPATH "$ORIGIN")
 
-install(TARGETS brenn_sse42 brenn_core EXPORT brennTargets
+install(TARGETS brenn_frontend brenn_sse42 brenn_core EXPORT brennTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT dev)
 
 # Headers sit in include/brenn/ and include each other by their flat names; the
 # CMake targets and brenn.pc put both include/ and include/brenn/ on the path, so
 # <brenn/brenn_rng.h> and <brenn_rng.h> both work.
-file(GLOB BRENN_PUBLIC_HEADERS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/*.h)
+# The front-end's headers (include/brenn/ in the source tree) go beside them.
+file(GLOB BRENN_PUBLIC_HEADERS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/*.h
+     ${PROJECT_SOURCE_DIR}/include/brenn/*.h ${PROJECT_SOURCE_DIR}/include/brenn/*.hpp)
 install(FILES ${BRENN_PUBLIC_HEADERS} ${BRENN_GENERATED_INCLUDE}/brenn_version.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/brenn COMPONENT dev)
 
@@ -51,7 +57,8 @@ install(FILES ${CMAKE_BINARY_DIR}/generated/brenn.pc
 # reference when the docs target has made it.
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT doc)
 install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT doc)
-file(GLOB BRENN_EXAMPLE_SOURCES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/examples/*.cpp)
+file(GLOB BRENN_EXAMPLE_SOURCES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/examples/*.cpp
+     ${PROJECT_SOURCE_DIR}/examples/*.c)
 install(FILES ${BRENN_EXAMPLE_SOURCES} DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples COMPONENT doc)
 install(DIRECTORY ${CMAKE_BINARY_DIR}/docs/api/html/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/api
   OPTIONAL COMPONENT doc)

@@ -57,7 +57,9 @@ string(CONCAT long_description
        "functions in three accuracy levels with per-element error reporting), random\n"
        "number streams and distributions, summary statistics and data fitting, for\n"
        "x86-64 processors with SSE4.2. The service library libbrenn_core provides\n"
-       "memory, messages, the thread pool and the BLAS and LAPACK entries it needs.")
+       "memory, messages, the thread pool and the BLAS and LAPACK entries it needs.\n"
+       "The front-end libbrenn offers them with checked arguments, threads and plain\n"
+       "names to C and C++ programs.")
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${BRENN_DEB_RUNTIME})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
@@ -69,7 +71,7 @@ set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 # maintainer scripts that call ldconfig as well, which lintian warns about.)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/triggers)
 set(CPACK_DEBIAN_RUNTIME_DESCRIPTION
-    "numeric kernel library - shared libraries\n${long_description}\n\nThis package holds the two shared libraries.")
+    "numeric kernel library - shared libraries\n${long_description}\n\nThis package holds the three shared libraries.")
 
 set(CPACK_DEBIAN_DEV_PACKAGE_NAME ${BRENN_DEB_DEV})
 set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
@@ -78,7 +80,7 @@ set(CPACK_DEBIAN_DEV_PACKAGE_MULTIARCH same)
 set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "${BRENN_DEB_RUNTIME} (= ${BRENN_DEB_VERSION}), libopenblas-dev")
 set(CPACK_DEBIAN_DEV_PACKAGE_SUGGESTS ${BRENN_DEB_DOC})
 set(CPACK_DEBIAN_DEV_DESCRIPTION
-    "numeric kernel library - development files\n${long_description}\n\nThis package holds the headers, the CMake package (find_package(brenn),\ntarget brenn::brenn) and the pkg-config file brenn.pc.")
+    "numeric kernel library - development files\n${long_description}\n\nThis package holds the C and C++ headers, the CMake package\n(find_package(brenn), target brenn::brenn) and the pkg-config file brenn.pc.")
 
 set(CPACK_DEBIAN_DOC_PACKAGE_NAME ${BRENN_DEB_DOC})
 set(CPACK_DEBIAN_DOC_PACKAGE_SECTION doc)

@@ -13,27 +13,12 @@
 
 namespace brenn::fe {
 
+// Element and real types of a type letter.
 template <char T>
-struct Types;
-template <>
-struct Types<'s'> {
-    using E = float;
-    using R = float;
-};
-template <>
-struct Types<'d'> {
-    using E = double;
-    using R = double;
-};
-template <>
-struct Types<'c'> {
-    using E = BrennComplex8;
-    using R = float;
-};
-template <>
-struct Types<'z'> {
-    using E = BrennComplex16;
-    using R = double;
+struct Types {
+    using R = std::conditional_t<T == 's' || T == 'c', float, double>;
+    using E = std::conditional_t<T == 'c', BrennComplex8,
+                                 std::conditional_t<T == 'z', BrennComplex16, R>>;
 };
 template <char T>
 using E = typename Types<T>::E;
@@ -165,7 +150,7 @@ int LinFrac(const BrennKernel* row, const float* cost, int acc, int n, const E<T
 // as their exported names do). The stride must be at least 1.
 template <char T, class Third>
 int PackFamily(const BrennKernel* row, const float* cost, int acc, int n, const E<T>* a,
-               Third third, E<T>* y, bool unpack, bool thirdIsArray) {
+               Third third, E<T>* y, bool unpack) {
     int slot;
     const void* array = nullptr;
     if constexpr (std::is_integral_v<Third>) {
@@ -173,7 +158,8 @@ int PackFamily(const BrennKernel* row, const float* cost, int acc, int n, const 
     } else {
         array = third;
     }
-    if (int s = Prologue(row, acc, n, {a, y, thirdIsArray ? array : a}, &slot)) return s;
+    if (int s = Prologue(row, acc, n, {a, y, std::is_integral_v<Third> ? a : array}, &slot))
+        return s;
     if (n == 0) return BRENN_OK;
     int32_t previous = brenn_zar_kernel_ClearErrStatus();
     if (unpack) {
@@ -190,31 +176,31 @@ int PackFamily(const BrennKernel* row, const float* cost, int acc, int n, const 
 
 template <char T>
 int PackI(const BrennKernel* r, const float* c, int acc, int n, const E<T>* a, int inc, E<T>* y) {
-    return PackFamily<T>(r, c, acc, n, a, static_cast<int64_t>(inc), y, false, false);
+    return PackFamily<T>(r, c, acc, n, a, static_cast<int64_t>(inc), y, false);
 }
 template <char T>
 int PackM(const BrennKernel* r, const float* c, int acc, int n, const E<T>* a, const int* m,
           E<T>* y) {
-    return PackFamily<T>(r, c, acc, n, a, static_cast<const void*>(m), y, false, true);
+    return PackFamily<T>(r, c, acc, n, a, static_cast<const void*>(m), y, false);
 }
 template <char T>
 int PackV(const BrennKernel* r, const float* c, int acc, int n, const E<T>* a, const int* i,
           E<T>* y) {
-    return PackFamily<T>(r, c, acc, n, a, static_cast<const void*>(i), y, false, true);
+    return PackFamily<T>(r, c, acc, n, a, static_cast<const void*>(i), y, false);
 }
 template <char T>
 int UnpackI(const BrennKernel* r, const float* c, int acc, int n, const E<T>* a, E<T>* y, int inc) {
-    return PackFamily<T>(r, c, acc, n, a, static_cast<int64_t>(inc), y, true, false);
+    return PackFamily<T>(r, c, acc, n, a, static_cast<int64_t>(inc), y, true);
 }
 template <char T>
 int UnpackM(const BrennKernel* r, const float* c, int acc, int n, const E<T>* a, E<T>* y,
             const int* m) {
-    return PackFamily<T>(r, c, acc, n, a, static_cast<const void*>(m), y, true, true);
+    return PackFamily<T>(r, c, acc, n, a, static_cast<const void*>(m), y, true);
 }
 template <char T>
 int UnpackV(const BrennKernel* r, const float* c, int acc, int n, const E<T>* a, E<T>* y,
             const int* i) {
-    return PackFamily<T>(r, c, acc, n, a, static_cast<const void*>(i), y, true, true);
+    return PackFamily<T>(r, c, acc, n, a, static_cast<const void*>(i), y, true);
 }
 
 } // namespace brenn::fe

@@ -52,27 +52,30 @@ lacks() { # package-file pattern: no path of the package matches
     return 0
 }
 lib=usr/lib/$multiarch
-holds "$runtime" $lib/libbrenn_sse42.so.1 $lib/libbrenn_sse42.so.$version \
+holds "$runtime" $lib/libbrenn.so.1 $lib/libbrenn.so.$version \
+    $lib/libbrenn_sse42.so.1 $lib/libbrenn_sse42.so.$version \
     $lib/libbrenn_core.so.1 $lib/libbrenn_core.so.$version \
     usr/share/doc/libbrenn$major/copyright usr/share/doc/libbrenn$major/changelog.Debian.gz
 lacks "$runtime" '\.so$|include/|\.pc$|cmake/'
-holds "$dev" $lib/libbrenn_sse42.so $lib/libbrenn_core.so $lib/pkgconfig/brenn.pc \
+holds "$dev" $lib/libbrenn.so $lib/libbrenn_sse42.so $lib/libbrenn_core.so $lib/pkgconfig/brenn.pc \
     $lib/cmake/brenn/brennConfig.cmake $lib/cmake/brenn/brennConfigVersion.cmake \
     $lib/cmake/brenn/brennTargets.cmake usr/include/brenn/brenn_version.h \
     usr/include/brenn/brenn_vecmath.h usr/include/brenn/brenn_rng.h \
     usr/include/brenn/brenn_stats.h usr/include/brenn/brenn_fitting.h \
+    usr/include/brenn/brenn.h usr/include/brenn/brenn.hpp usr/include/brenn/brenn_vm_entries.h \
     usr/share/doc/libbrenn-dev/copyright
 lacks "$dev" '\.so\.[0-9]'
-holds "$doc" usr/share/doc/brenn/examples/tour.cpp usr/share/doc/brenn/accuracy.md \
+holds "$doc" usr/share/doc/brenn/examples/tour.cpp usr/share/doc/brenn/examples/example_vm.c \
+    usr/share/doc/brenn/accuracy.md \
     usr/share/doc/libbrenn-doc/copyright
 if command -v doxygen >/dev/null; then holds "$doc" usr/share/doc/brenn/api/index.html; fi
 lacks "$doc" '\.so|include/'
 
 # The shipped libraries: versioned SONAME, no search path but $ORIGIN, stripped, and
 # the exported names of the kernel library are the generated list.
-for name in sse42 core; do
-    so=$root/$(basename "$runtime" .deb)/$lib/libbrenn_$name.so.$version
-    readelf -d "$so" | grep -q "Library soname: \[libbrenn_$name.so.1\]" || fail "SONAME of $so"
+for name in brenn brenn_sse42 brenn_core; do
+    so=$root/$(basename "$runtime" .deb)/$lib/lib$name.so.$version
+    readelf -d "$so" | grep -q "Library soname: \[lib$name.so.1\]" || fail "SONAME of $so"
     if readelf -d "$so" | grep -E '\((RUNPATH|RPATH)\)' | grep -v '\[\$ORIGIN\]'; then
         fail "search path in $so"
     fi
@@ -96,7 +99,9 @@ names=$(tr ',|' '\n\n' <<< "$depends" | sed 's/^ *//; s/[ (].*//')
 for need in libc6 libstdc++6 libopenblas0; do
     grep -qxF "$need" <<< "$names" || fail "libbrenn$major does not depend on $need"
 done
-dpkg-deb -I "$runtime" shlibs | grep -q "^libbrenn_sse42 1 libbrenn$major" || fail "no shlibs entry"
+for name in brenn brenn_sse42; do
+    dpkg-deb -I "$runtime" shlibs | grep -q "^lib$name 1 libbrenn$major" || fail "no shlibs entry of lib$name"
+done
 dpkg-deb -I "$runtime" triggers | grep -q "activate-noawait ldconfig" || fail "no ldconfig trigger"
 grep -q "libbrenn$major (= $version-$revision)" <<< "$(field "$dev" Depends)" ||
     fail "libbrenn-dev does not depend on its exact runtime: $(field "$dev" Depends)"
@@ -121,10 +126,10 @@ if [ "$(id -u)" -eq 0 ]; then
             cmake -S tests/install/consumer -B "$root/cxx" -G Ninja -DBRENN_HAVE_RNG=ON >/dev/null
             cmake --build "$root/cxx" >/dev/null
             "$root/cxx/cxx_consumer"
-            for name in sse42 core; do
-                found=$(ldd "$root/c_consumer" | sed -n "s/.*libbrenn_$name.so.1 => \([^ ]*\).*/\1/p")
-                echo "libbrenn_$name.so.1 => $found"
-                [ "$(readlink -f "$found")" = "/$lib/libbrenn_$name.so.$version" ]
+            for name in brenn brenn_sse42 brenn_core; do
+                found=$(ldd "$root/c_consumer" | sed -n "s/.*lib$name.so.1 => \([^ ]*\).*/\1/p")
+                echo "lib$name.so.1 => $found"
+                [ "$(readlink -f "$found")" = "/$lib/lib$name.so.$version" ]
             done
         ) || status=$?
         apt-get remove -y -q --purge libbrenn-doc libbrenn-dev "libbrenn$major" >/dev/null

@@ -25,14 +25,15 @@ pc=$(find "$prefix" -name brenn.pc)
 libdir=$(dirname "$(dirname "$pc")")
 case $libdir in "$prefix"/lib*) ;; *) fail "brenn.pc outside the prefix's lib: $pc" ;; esac
 
-for name in sse42 core; do
-    lib=$libdir/libbrenn_$name.so
-    [ -L "$lib" ] && [ -L "$lib.1" ] || fail "libbrenn_$name.so or .so.1 is not a link"
-    [ "$(readlink "$lib")" = libbrenn_$name.so.1 ] || fail "libbrenn_$name.so points to $(readlink "$lib")"
+# The front-end (libbrenn), the kernel library and the service library.
+for name in brenn brenn_sse42 brenn_core; do
+    lib=$libdir/lib$name.so
+    [ -L "$lib" ] && [ -L "$lib.1" ] || fail "lib$name.so or .so.1 is not a link"
+    [ "$(readlink "$lib")" = lib$name.so.1 ] || fail "lib$name.so points to $(readlink "$lib")"
     real=$(readlink -f "$lib")
-    case $real in *.so.1.*.*) ;; *) fail "libbrenn_$name.so.1 points to $real" ;; esac
+    case $real in *.so.1.*.*) ;; *) fail "lib$name.so.1 points to $real" ;; esac
     dynamic=$(readelf -d "$real")
-    grep -q "Library soname: \[libbrenn_$name.so.1\]" <<< "$dynamic" ||
+    grep -q "Library soname: \[lib$name.so.1\]" <<< "$dynamic" ||
         fail "SONAME of $real: $(grep SONAME <<< "$dynamic")"
     # Only $ORIGIN may stand in a search path of an installed library.
     paths=$(grep -E '\((RUNPATH|RPATH)\)' <<< "$dynamic" | sed 's/.*\[\(.*\)\]/\1/' || true)
@@ -86,9 +87,9 @@ for program in "$work/c_consumer" "$work/cxx/cxx_consumer"; do
         fail "$program has a search path into the build or source tree"
     fi
     resolved=$(ldd "$program")
-    for name in sse42 core; do
-        line=$(grep "libbrenn_$name.so.1 =>" <<< "$resolved") || fail "$program: no libbrenn_$name"
-        [[ $line == *"=> $libdir/libbrenn_$name.so.1 "* ]] || fail "$program: $line"
+    for name in brenn brenn_sse42 brenn_core; do
+        line=$(grep "lib$name.so.1 =>" <<< "$resolved") || fail "$program: no lib$name"
+        [[ $line == *"=> $libdir/lib$name.so.1 "* ]] || fail "$program: $line"
     done
     grep -q "not found" <<< "$resolved" && fail "$program: $resolved"
     "$program"

@@ -1,13 +1,15 @@
 /* A C program built against an installed copy of the library through pkg-config:
  * it runs with the version it was compiled for, the thread's mode word answers, and
- * (when vector mathematics is built) the HA exponential is within an ulp of the C
- * library's. Headers are reached both as <brenn/...> and by their flat names. */
+ * (when vector mathematics is built) the front-end's exponential is within an ulp of
+ * the C library's and a null array is refused with its named status. Headers are
+ * reached both as <brenn/...> and by their flat names. */
 #include <float.h>
 #include <math.h>
 #include <stdio.h>
 #include <string.h>
 
-#include <brenn/brenn_vecmath.h>
+#include <brenn/brenn.h>
+#include <brenn_vecmath.h>
 #include <brenn_version.h>
 
 int main(void) {
@@ -29,7 +31,14 @@ int main(void) {
         const double a[5] = {0.0, 1.0, -1.0, 10.5, -700.25};
         double y[5];
         int i;
-        _zardExp_HA(5, a, y);
+        if (brenn_vdexp_acc(5, a, y, BRENN_HA) != BRENN_OK) {
+            fprintf(stderr, "brenn_vdexp_acc: %s\n", brenn_status_name(brenn_zar_kernel_GetErrStatus()));
+            return 1;
+        }
+        if (brenn_vdexp(5, NULL, y) != BRENN_ERR_NULL_POINTER) {
+            fprintf(stderr, "a null input was not refused\n");
+            return 1;
+        }
         for (i = 0; i < 5; ++i) {
             double e = exp(a[i]);
             if (!(fabs(y[i] - e) <= DBL_EPSILON * e)) {

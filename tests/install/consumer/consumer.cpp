@@ -1,10 +1,12 @@
 // A C++ program built against an installed copy of the library through
 // find_package(brenn): it runs with the version it was compiled for, and the
-// Mersenne Twister gives the published reference output of the array key.
+// Mersenne Twister gives the published reference output of the array key, through
+// the kernel library's entries and through the C++ front-end's owned stream.
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
 
+#include <brenn/brenn.hpp>
 #include <brenn/brenn_version.h>
 #include <brenn_rng.h>
 
@@ -31,6 +33,10 @@ int main() {
                      status);
         return 1;
     }
+    auto s = brenn::rng::stream::make(QES_BRNG_MT19937, key);
+    if (!s.stat.ok()) return std::fprintf(stderr, "front-end stream: %d\n", s.stat.code), 1;
+    for (uint32_t want : published)
+        if (s.value() != want) return std::fprintf(stderr, "front-end stream differs\n"), 1;
 #endif
     std::printf("C++ consumer: brenn %s\n", version);
     return 0;
