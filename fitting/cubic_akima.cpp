@@ -29,7 +29,7 @@ struct Akima : NoFinish {
     static void Derivatives(const CubicEnd<T>& e, const CubicCells<T, Uniform>&, const FittingTask*,
                             int64_t, int bcColumn) {
         int64_t n = e.nx;
-        T* m = const_cast<T*>(e.m);
+        T* m = e.m;
         if (bcColumn == 6) {
             m[-1] = m[n - 2];
             m[-2] = m[n - 3];

@@ -30,7 +30,7 @@ inline T NotAKnotEndUniform(T m0, T m1, T d1) {
 template <typename T>
 struct CubicEnd {
     int64_t nx;
-    const T* m;
+    T* m; // m[-2] and m[nx-1], m[nx] are there for the families that extend the slopes
     const T* x;
     bool uniform;
     T step; // uniform: 1 / inverseStep
