@@ -1,16 +1,16 @@
 /* Cbrt, InvCbrt and Pow2o3, single and double: x^(1/3), x^(-1/3) and x^(2/3) from the
  * core of root_core.h.
  *
- * Single HA widens its lanes (single denormals are normal doubles) and rounds the double
- * value once, with two terms of the series; single LA (two terms) and EP (one) run in
- * single lanes, denormals by the scalar routine. The double rows take
- * four terms; HA rounds the seed so that its cube is exact and carries the products in
- * two parts, LA and EP round them (dCbrt's LA and EP slots share a kernel, dInvCbrt has
- * one kernel for the three slots, at HA).
- * Special lanes: zeros, infinities, NaN, and double denormals. Cbrt gives +-0 and +-inf
- * themselves; InvCbrt the signed infinity for a zero (singularity status in double, no
- * report in single) and the signed zero for an infinity; Pow2o3 +0 and +inf. Double
- * denormals are scaled by 2^54 and the result by 2^-18, 2^18 or 2^-36. */
+ * The single rows split the exponent and take the seed in single lanes; HA runs the
+ * series on widened lanes and rounds once (two terms), LA (two terms) and EP (the seed
+ * alone) stay in single. Single denormals go to the scalar routine, which runs the double form. The
+ * double rows take four terms; HA rounds the seed so that its cube is exact and carries the
+ * products in two parts, LA and EP round them (dCbrt's LA and EP slots share a kernel, dInvCbrt has
+ * one kernel for the three slots, at HA). Special lanes: zeros, infinities, NaN, and double
+ * denormals. Cbrt gives
+ * +-0 and +-inf themselves; InvCbrt the signed infinity for a zero (singularity status in double,
+ * no report in single) and the signed zero for an infinity; Pow2o3 +0 and +inf. Double denormals
+ * are scaled by 2^54 and the result by 2^-18, 2^18 or 2^-36. */
 #include "frame/kernels.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
@@ -24,11 +24,9 @@ template <class T>
 struct RootRanges;
 template <>
 struct RootRanges<float> {
-    // HA, in double: |x| zero, infinite or NaN. LA and EP, in single: denormals too.
-    static constexpr Range32 kWide{0x7FFFFFFFu, 0x7FFFFFFFu, 0xFF7FFFFEu};
-    static constexpr Range32 kNarrow{0x7FFFFFFFu, 0x7F800000u, 0xFEFFFFFFu};
+    // |x| zero, denormal, infinite or NaN.
     template <Level L>
-    static constexpr Range32 kSpecial = L == Level::HA ? kWide : kNarrow;
+    static constexpr Range32 kSpecial{0x7FFFFFFFu, 0x7F800000u, 0xFEFFFFFFu};
 };
 template <>
 struct RootRanges<double> {
@@ -38,30 +36,25 @@ struct RootRanges<double> {
                                       0xFFDFFFFFFFFFFFFFull};
 };
 
-// Series terms by type and level.
-template <class T, Level L>
-constexpr int kRootTerms = sizeof(T) == 4 ? (L == Level::HA ? 2 : 1) : 4;
-
-// The root of positive normal double lanes with x's sign put back where the root is odd.
-template <Root R, class T, Level L>
+// The root of positive normal double lanes with x's sign put back where the root is odd:
+// four terms of the series, and at HA the exact cube and products.
+template <Root R, Level L>
 inline __m128d SignedRoot(__m128d x) {
-    __m128d v = RootOf < R, kRootTerms<T, L>, sizeof(T) == 8 && L == Level::HA > (Abs(x));
+    constexpr bool exact = L == Level::HA;
+    __m128d v = RootOf<R, 4, exact>(Abs(x));
     return R == Root::Pow2o3 ? v : Or(v, SignBit(x));
 }
 
 template <Root R, Level L>
 inline __m128 RootLanes(__m128 x) {
-    if constexpr (L == Level::HA) {
-        return Narrow(SignedRoot<R, float, L>(WidenLower(x)),
-                      SignedRoot<R, float, L>(WidenUpper(x)));
-    } else {
-        __m128 v = RootOf < R, L == Level::LA ? 2 : 1 > (Abs(x));
-        return R == Root::Pow2o3 ? v : Or(v, SignBit(x));
-    }
+    constexpr int terms = L == Level::EP ? 0 : 2;
+    constexpr bool wide = L == Level::HA;
+    __m128 v = RootOf<R, terms, wide>(Abs(x));
+    return R == Root::Pow2o3 ? v : Or(v, SignBit(x));
 }
 template <Root R, Level L>
 inline __m128d RootLanes(__m128d x) {
-    return SignedRoot<R, double, L>(x);
+    return SignedRoot<R, L>(x);
 }
 
 // One element of a special lane: zero, infinity, NaN, or (double) a denormal.
@@ -88,8 +81,7 @@ int RootScalar(const T* a, T* y) {
     constexpr double kUp = 0x1p54;
     constexpr double kBack = R == Root::Cbrt ? 0x1p-18 : R == Root::InvCbrt ? 0x1p18 : 0x1p-36;
     const bool tiny = __builtin_fabs(double(x)) < 0x1p-1022;
-    __m128d v =
-        SignedRoot<R, double, Level::HA>(SetFirst<double>(tiny ? double(x) * kUp : double(x)));
+    __m128d v = SignedRoot<R, Level::HA>(SetFirst<double>(tiny ? double(x) * kUp : double(x)));
     *y = T(GetLane(v) * (tiny ? kBack : 1.0));
     return status::kNone;
 }

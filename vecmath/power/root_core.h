@@ -40,6 +40,23 @@ BRENN_VEC __m128d RootSeries(__m128d e, const double (&c)[4]) {
     return Mul(e, p);
 }
 
+// The root of M from its seed z, with e = M*z^3 - 1 and the products rounded, in either
+// precision: M*z^2, z or M*z times 1 + the series.
+template <Root R, int Terms, class V>
+BRENN_VEC V RootFinish(V z, V bigM) {
+    using T = ElemOf<V>;
+    const V z2 = Mul(z, z);
+    const V lead = R == Root::InvCbrt ? z : Mul(bigM, R == Root::Cbrt ? z2 : z);
+    if constexpr (Terms == 0) return lead; // the seed's 14 bits
+    const V e = Sub(Mul(bigM, Mul(z2, z)), Set<T>(T(1)));
+    const double* c = R == Root::Cbrt ? kTwoThirdsSeries : kThirdSeries;
+    V sr = Set<T>(T(c[Terms - 1]));
+    for (int k = Terms - 2; k >= 0; --k)
+        sr = Add(Set<T>(T(c[k])), Mul(e, sr));
+    sr = Mul(e, sr);
+    return Add(lead, Mul(lead, sr));
+}
+
 // |x|^a for a = -1/3, 1/3, 2/3, positive normal double lanes; `Exact` for double HA.
 template <Root R, int Terms, bool Exact>
 inline __m128d RootOf(__m128d ax) {
@@ -52,32 +69,25 @@ inline __m128d RootOf(__m128d ax) {
     const __m128d m = AsFloat(Or(mant, Set<uint64_t>(F::kOne)));
     const __m128d bigM = AsFloat(Or(mant, ShiftLeft<F::kMantBits>(Add(j, Set<int64_t>(F::kBias)))));
     __m128d z = Mul(Horner(m, kRootSeed), Gather(kRootScale, j, 3));
-    const __m128d one = Set<double>(1.0);
-    __m128d e, lead, leadLo;
+    __m128d v;
     if constexpr (Exact) {
+        const __m128d one = Set<double>(1.0);
         const __m128d sh = Set<double>(0x1p36); // rounds z in (1/2, 1] to 2^-16
         z = Sub(Add(z, sh), sh);
         __m128d z2 = Mul(z, z); // exact: 34 bits, and z^3 51
-        __m128d ph, pl;
+        __m128d ph, pl, lead, leadLo;
         TwoProduct(bigM, Mul(z2, z), ph, pl);
-        e = Add(Sub(ph, one), pl);
+        __m128d e = Add(Sub(ph, one), pl);
+        __m128d s = RootSeries<Terms>(e, R == Root::Cbrt ? kTwoThirdsSeries : kThirdSeries);
         if constexpr (R == Root::InvCbrt) {
-            lead = z;
-            leadLo = Zero<double>();
+            v = Add(z, Mul(z, s));
         } else {
             TwoProduct(bigM, R == Root::Cbrt ? z2 : z, lead, leadLo);
+            v = Add(lead, Add(leadLo, Mul(lead, s)));
         }
     } else {
-        __m128d z2 = Mul(z, z);
-        e = Sub(Mul(bigM, Mul(z2, z)), one);
-        lead = R == Root::InvCbrt ? z : Mul(bigM, R == Root::Cbrt ? z2 : z);
+        v = RootFinish<R, Terms>(z, bigM);
     }
-    __m128d s = RootSeries<Terms>(e, R == Root::Cbrt ? kTwoThirdsSeries : kThirdSeries);
-    __m128d v;
-    if constexpr (Exact && R != Root::InvCbrt)
-        v = Add(lead, Add(leadLo, Mul(lead, s)));
-    else
-        v = Add(lead, Mul(lead, s));
     // The exponent: 3q = be - 1023 - j, so q = qb - 341.
     I64x2 q = Sub(qb, Set<int64_t>(F::kBias / 3));
     if constexpr (R == Root::InvCbrt) q = Sub(Set<int64_t>(0), q);
@@ -85,14 +95,15 @@ inline __m128d RootOf(__m128d ax) {
     return AsFloat(Add(AsInt(v), ShiftLeft<F::kMantBits>(q)));
 }
 
-// The single-lane form for single LA and EP, positive normal |x|, in single throughout
-// (within about 2 ulp): the biased exponent plus 2 is 3q' + j with q' = q + 43, taken by
-// the product with 1/3 rounded up and a floor (exact below 2^8); M = m * 2^j and the
-// seed's scale by blends on j; e = M*z^3 - 1 rounded, and Terms terms of the series.
+// The single-lane form, positive normal |x|: the biased exponent plus 2 is 3q' + j with
+// q' = q + 43, taken by the product with 1/3 rounded up and a floor (exact below 2^8);
+// M = m * 2^j and the seed's scale by blends on j; then the series in single (LA, within
+// about 2 ulp; EP takes the seed's products alone, 13 bits) or, `Wide`, on widened lanes
+// rounded once to single (HA).
 constexpr float kRootSeedS[] = {0x1.ab85acp0f, -0x1.2c4234p0f, 0x1.641702p-1f, -0x1.c519b2p-3f,
                                 0x1.d47154p-6f};
 
-template <Root R, int Terms>
+template <Root R, int Terms, bool Wide>
 inline __m128 RootOf(__m128 ax) {
     using F = Format<float>;
     const I32x4 xi = AsInt(ax);
@@ -107,15 +118,12 @@ inline __m128 RootOf(__m128 ax) {
         IfThenElse(j1, Set<float>(float(kRootScale[1])),
                    IfThenElse(j2, Set<float>(float(kRootScale[2])), Set<float>(1.0f)));
     const __m128 z = Mul(Horner(m, kRootSeedS), scale);
-    const __m128 z2 = Mul(z, z);
-    const __m128 e = Sub(Mul(bigM, Mul(z2, z)), Set<float>(1.0f));
-    const double* c = R == Root::Cbrt ? kTwoThirdsSeries : kThirdSeries;
-    __m128 sr = Set<float>(float(c[Terms - 1]));
-    for (int k = Terms - 2; k >= 0; --k)
-        sr = Add(Set<float>(float(c[k])), Mul(e, sr));
-    sr = Mul(e, sr);
-    const __m128 lead = R == Root::InvCbrt ? z : Mul(bigM, R == Root::Cbrt ? z2 : z);
-    const __m128 v = Add(lead, Mul(lead, sr));
+    __m128 v;
+    if constexpr (Wide)
+        v = Narrow(RootFinish<R, Terms>(WidenLower(z), WidenLower(bigM)),
+                   RootFinish<R, Terms>(WidenUpper(z), WidenUpper(bigM)));
+    else
+        v = RootFinish<R, Terms>(z, bigM);
     // The exponent q = q' - 43, times -1 or 2 for InvCbrt and Pow2o3.
     constexpr float a = R == Root::InvCbrt ? -1.0f : R == Root::Pow2o3 ? 2.0f : 1.0f;
     const I32x4 q = TruncToInt(Mul(Sub(qd, Set<float>(43.0f)), Set<float>(a)));
