@@ -399,7 +399,9 @@ TEST(Power, RootsAtTheirSpecialValues) {
     ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
     for (int slot : kSlots) {
         int st;
-        EXPECT_EQ(Call1<float>(frame::Row_sCbrt, slot, -8.0f, &st), -2.0f);
+        // Exact cubes come out exact but at EP, whose seed gives about 13 bits.
+        const double tol = slot == frame::SlotEP ? 0x1p13 : 0.0;
+        EXPECT_LE(UlpError(Call1<float>(frame::Row_sCbrt, slot, -8.0f, &st), -2.0L), tol);
         EXPECT_EQ(Call1<double>(frame::Row_dCbrt, slot, 27.0, &st), 3.0);
         EXPECT_EQ(Call1<double>(frame::Row_dCbrt, slot, 0x1p-1074, &st), 0x1p-358);
         EXPECT_EQ(Call1<double>(frame::Row_dInvCbrt, slot, 0x1p-1074, &st), 0x1p358);
@@ -420,7 +422,7 @@ TEST(Power, RootsAtTheirSpecialValues) {
             EXPECT_EQ(st, 0);
         }
         EXPECT_TRUE(std::isnan(Call1<double>(frame::Row_dCbrt, slot, kNaN, &st)));
-        EXPECT_EQ(Call1<float>(frame::Row_sPow2o3, slot, -8.0f, &st), 4.0f);
+        EXPECT_LE(UlpError(Call1<float>(frame::Row_sPow2o3, slot, -8.0f, &st), 4.0L), tol);
         EXPECT_EQ(Call1<double>(frame::Row_dPow3o2, slot, 4.0, &st), 8.0);
         for (double x : {-1.0, -kInf, -1e-30}) {
             EXPECT_TRUE(std::isnan(Call1<double>(frame::Row_dPow3o2, slot, x, &st)));
