@@ -65,24 +65,32 @@ extern std::atomic<double> gSplitWork;
 // Runs a call in blocks on the pool; the caller has decided that it is worth it.
 int RunSplit(const Call& call);
 
-// Runs a call on the calling thread. The kernel reports into this thread's record;
-// the status word is cleared first so that the call's own status can be told, and
-// put back when the call reported nothing.
-inline int RunOneThread(const Call& call) {
+// Whether this thread's input-vector pointer is null by the front-end's own doing.
+// On one thread a kernel then counts reported indices from the caller's vector; the
+// pointer is written only when a split call (or nothing yet) has left it otherwise,
+// which saves a call into the kernel library on every short vector.
+extern constinit thread_local bool tInputPointerClear __attribute__((tls_model("initial-exec")));
+
+// Runs a call on the calling thread: `run` calls the kernel on the whole vectors. The
+// kernel reports into this thread's record; the status word is cleared first so that
+// the call's own status can be told, and put back when the call reported nothing.
+template <class F>
+inline int RunOneThread(F run) {
     int32_t previous = brenn_zar_kernel_ClearErrStatus();
-    brenn_zar_kernel_SetInterfInputVectorPointer(call.input);
-    call.block(call.args, 0, call.n);
+    if (!tInputPointerClear) {
+        brenn_zar_kernel_SetInterfInputVectorPointer(nullptr);
+        tInputPointerClear = true;
+    }
+    run();
     int32_t status = brenn_zar_kernel_GetErrStatus();
     if (status == 0 && previous != 0) brenn_zar_kernel_SetErrStatus(previous);
     return status;
 }
 
-// Runs a checked call with n > 0 and returns its status.
-inline int Run(const Call& call) {
-    if (call.splittable &&
-        static_cast<double>(call.n) * call.cost >= gSplitWork.load(std::memory_order_relaxed))
-        return RunSplit(call);
-    return RunOneThread(call);
+// Whether a call's work reaches the split threshold.
+inline bool WorthSplitting(const Call& call) {
+    return call.splittable &&
+           static_cast<double>(call.n) * call.cost >= gSplitWork.load(std::memory_order_relaxed);
 }
 
 } // namespace brenn::fe

@@ -34,7 +34,9 @@ int RunShape(const float* cost, int slot, int n, const void* input, size_t input
         const Args& a = *static_cast<const Args*>(p);
         a.Apply(reinterpret_cast<K>(a.kernel), offset, count);
     };
-    return Run({&args, block, input, inputStride, reportUnit, n, cost[slot], true});
+    const Call call{&args, block, input, inputStride, reportUnit, n, cost[slot], true};
+    if (WorthSplitting(call)) return RunSplit(call);
+    return RunOneThread([&] { args.Apply(reinterpret_cast<K>(args.kernel), 0, n); });
 }
 
 template <class In, class Out>
@@ -161,17 +163,16 @@ int PackFamily(const BrennKernel* row, const float* cost, int acc, int n, const 
     if (int s = Prologue(row, acc, n, {a, y, std::is_integral_v<Third> ? a : array}, &slot))
         return s;
     if (n == 0) return BRENN_OK;
-    int32_t previous = brenn_zar_kernel_ClearErrStatus();
-    if (unpack) {
-        using K = void (*)(int64_t, const E<T>*, E<T>*, Third, int32_t);
-        reinterpret_cast<K>(row[slot])(n, a, y, third, 1);
-    } else {
-        using K = void (*)(int64_t, const E<T>*, Third, E<T>*, int32_t);
-        reinterpret_cast<K>(row[slot])(n, a, third, y, 1);
-    }
     (void)cost;
-    brenn_zar_kernel_SetErrStatus(previous);
-    return BRENN_OK;
+    return RunOneThread([&] {
+        if (unpack) {
+            using K = void (*)(int64_t, const E<T>*, E<T>*, Third, int32_t);
+            reinterpret_cast<K>(row[slot])(n, a, y, third, 1);
+        } else {
+            using K = void (*)(int64_t, const E<T>*, Third, E<T>*, int32_t);
+            reinterpret_cast<K>(row[slot])(n, a, third, y, 1);
+        }
+    });
 }
 
 template <char T>

@@ -14,6 +14,7 @@
 namespace brenn::fe {
 
 std::atomic<double> gSplitWork{BRENN_VM_SPLIT_WORK_DEFAULT};
+constinit thread_local bool tInputPointerClear __attribute__((tls_model("initial-exec"))) = false;
 
 namespace {
 
@@ -48,6 +49,7 @@ void RunBlock(int64_t block, int threadIndex, int64_t, void* context) {
     // the pointer is placed so that this comes to `offset` for every shape.
     const char* blockInput = static_cast<const char*>(c.input) + offset * c.inputStride;
     brenn_zar_kernel_SetInterfInputVectorPointer(blockInput - offset * c.reportUnit);
+    tInputPointerClear = false;
     brenn_zar_kernel_ClearErrStatus();
     errno = 0;
     c.block(c.args, offset, count);
@@ -71,7 +73,8 @@ int RunSplit(const Call& call) {
     s.blockLength = (length + kBlockQuantum - 1) / kBlockQuantum * kBlockQuantum;
     blocks = (call.n + s.blockLength - 1) / s.blockLength;
 
-    if (threads <= 1 || blocks <= 1 || (mode & kTrapMask) != 0) return RunOneThread(call);
+    if (threads <= 1 || blocks <= 1 || (mode & kTrapMask) != 0)
+        return RunOneThread([&] { call.block(call.args, 0, call.n); });
     int32_t previous = brenn_zar_kernel_ClearErrStatus();
     int savedErrno = errno;
     brenn_qes_serv_threader_for(blocks, 0, &s, RunBlock);
@@ -84,7 +87,8 @@ int RunSplit(const Call& call) {
         if (s.errnoValue[b] != 0) lastErrno = s.errnoValue[b];
         flags |= s.flags[b];
     }
-    brenn_zar_kernel_SetInterfInputVectorPointer(call.input);
+    brenn_zar_kernel_SetInterfInputVectorPointer(nullptr);
+    tInputPointerClear = true;
     brenn_zar_kernel_SetErrStatus(status != 0 ? status : previous);
     errno = lastErrno != 0 ? lastErrno : savedErrno;
     if (flags != 0) feraiseexcept(flags);

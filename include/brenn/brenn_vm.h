@@ -29,7 +29,12 @@
  * statuses are collected in vector order into the caller's thread (status word, errno
  * and the floating-point flags). A callback may then run on several threads at once.
  * Calls are not split when the mode word has trap bits (a trap must reach the caller's
- * thread), nor for the packing rows. brenn_serv_set_num_threads() bounds the pool. */
+ * thread), nor for the packing rows. brenn_serv_set_num_threads() bounds the pool.
+ *
+ * The front-end keeps the input-vector pointer of the threads that call it null
+ * between calls. A program that also sets it through
+ * brenn_zar_kernel_SetInterfInputVectorPointer() sets it back to null before its next
+ * front-end call, or the indices reported by that call are offset. */
 #ifndef BRENN_VM_H
 #define BRENN_VM_H
 
@@ -61,7 +66,7 @@ double brenn_vm_set_split_work(double work);
 
 /** The measured default split threshold, in cost units: see
  * docs/frontend-performance.md for the run that set it. */
-#define BRENN_VM_SPLIT_WORK_DEFAULT 400000.0
+#define BRENN_VM_SPLIT_WORK_DEFAULT 100000.0
 
 #ifdef __cplusplus
 }
