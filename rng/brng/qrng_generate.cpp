@@ -1,0 +1,239 @@
+// Generation of the quasi-random generators in Gray-code order: the single
+// coordinate of a leapfrogged stream, the rest of a partial point, whole points by
+// dimension-specialised kernels (1 to 15 coordinates held in registers) or by
+// blocks of 32 coordinates, which the chunk path spreads over threads, and the
+// start of the next point. The state path delivers 31-bit reals, the chunk path
+// 32-bit ones.
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "platform/threader.h"
+#include "rng/brng/qrng_core.h"
+
+namespace brenn::rng {
+
+namespace {
+
+struct Words {
+    uint32_t* r;
+    void Put(int64_t i, uint32_t x) const { r[i] = x; }
+};
+
+// The 31-bit forms: the top 31 bits as a non-negative int32, converted exactly.
+struct Double31 {
+    double* r;
+    double s, a;
+    void Put(int64_t i, uint32_t x) const {
+        r[i] = static_cast<double>(static_cast<int32_t>(x >> 1)) * s + a;
+    }
+};
+struct Float31 {
+    float* r;
+    float s, a;
+    void Put(int64_t i, uint32_t x) const {
+        r[i] = static_cast<float>(static_cast<int32_t>(x >> 1)) * s + a;
+    }
+};
+
+// The 32-bit forms of the chunk path.
+struct Double32 {
+    double* r;
+    double s, a;
+    void Put(int64_t i, uint32_t x) const { r[i] = static_cast<double>(x) * s + a; }
+};
+struct Float32 {
+    float* r;
+    float s, a;
+    void Put(int64_t i, uint32_t x) const { r[i] = static_cast<float>(x) * s + a; }
+};
+
+constexpr int kSmallDims = 15;
+constexpr int kBlock = 32;
+
+// q points of D coordinates from output place `off`; returns the end counter.
+template <int D, typename Form>
+uint32_t RunSmall(uint32_t q, int64_t off, uint32_t counter, uint32_t* point, const uint32_t* dirs,
+                  ptrdiff_t rowStride, const Form& f) {
+    uint32_t p[D];
+#pragma GCC unroll 16
+    for (int j = 0; j < D; ++j)
+        p[j] = point[j];
+    for (uint32_t t = 0; t < q; ++t, off += D) {
+#pragma GCC unroll 16
+        for (int j = 0; j < D; ++j)
+            f.Put(off + j, p[j]);
+        const uint32_t* row = dirs + LowZero(counter) * rowStride;
+#pragma GCC unroll 16
+        for (int j = 0; j < D; ++j)
+            p[j] ^= row[j];
+        ++counter;
+    }
+    for (int j = 0; j < D; ++j)
+        point[j] = p[j];
+    return counter;
+}
+
+template <typename Form>
+using SmallRun = uint32_t (*)(uint32_t, int64_t, uint32_t, uint32_t*, const uint32_t*, ptrdiff_t,
+                              const Form&);
+
+template <typename Form, size_t... D>
+constexpr auto SmallTable(std::index_sequence<D...>) {
+    return std::array<SmallRun<Form>, sizeof...(D)>{&RunSmall<D + 1, Form>...};
+}
+
+template <typename Form>
+struct BlockJob {
+    const QrngView* v;
+    Form f;
+    int64_t off;
+    uint32_t counter, q;
+    int32_t dimension;
+};
+
+// The points of one block: W coordinates (32, or the last block's width w).
+template <int W, typename Form>
+void StepBlock(const BlockJob<Form>& job, uint32_t* p, const uint32_t (*rows)[kBlock], int64_t j0,
+               int w) {
+    const int width = W > 0 ? W : w;
+    uint32_t c = job.counter;
+    int64_t o = job.off + j0;
+    for (uint32_t t = 0; t < job.q; ++t, o += job.dimension) {
+        for (int j = 0; j < width; ++j)
+            job.f.Put(o + j, p[j]);
+        const uint32_t* row = rows[LowZero(c)];
+        for (int j = 0; j < width; ++j)
+            p[j] ^= row[j];
+        ++c;
+    }
+}
+
+// Block b: coordinates 32 b to 32 b + 31 of every point, with its rows copied next
+// to the point so that both stay in the first-level cache.
+template <typename Form>
+void RunBlock(int64_t b, const BlockJob<Form>& job) {
+    const QrngView& v = *job.v;
+    const int64_t j0 = kBlock * b;
+    const int w = static_cast<int>(std::min<int64_t>(kBlock, job.dimension - j0));
+    alignas(64) uint32_t p[kBlock];
+    alignas(64) uint32_t rows[kBlock][kBlock];
+    for (int j = 0; j < w; ++j) {
+        p[j] = v.Point(j0 + j);
+        for (int bit = 0; bit < kBlock; ++bit)
+            rows[bit][j] = v.Dir(j0 + j, bit);
+    }
+    if (w == kBlock)
+        StepBlock<kBlock>(job, p, rows, j0, w);
+    else
+        StepBlock<0>(job, p, rows, j0, w);
+    for (int j = 0; j < w; ++j)
+        v.Point(j0 + j) = p[j];
+}
+
+template <typename Form>
+void BlockKernel(int64_t index, int, int64_t, void* context) {
+    RunBlock(index, *static_cast<const BlockJob<Form>*>(context));
+}
+
+// The chunk path asks the platform for threads when the point is wide or made of
+// whole blocks.
+bool UseThreads(const QrngView& v) {
+    const int32_t d = v.head->dimension;
+    if (!v.chunk || (d < 64 && d % kBlock != 0)) return false;
+    auto limit = reinterpret_cast<int (*)(void)>(
+        brenn_serv_load_thread_fun("brenn_qes_serv_threader_get_num_threads_limit"));
+    return limit != nullptr && limit() > 1;
+}
+
+// q whole points from output place off; the counter is updated.
+template <typename Form>
+void RunPoints(const QrngView& v, uint32_t q, int64_t off, const Form& f) {
+    QrngHead* h = v.head;
+    const int32_t d = h->dimension;
+    if (d <= kSmallDims && v.pointStride == 1 && v.colStride == 1) {
+        static constexpr auto table = SmallTable<Form>(std::make_index_sequence<kSmallDims>());
+        h->counter = table[d - 1](q, off, h->counter, v.point, v.dirs, v.rowStride, f);
+        return;
+    }
+    BlockJob<Form> job{&v, f, off, h->counter, q, d};
+    const int64_t blocks = (d + kBlock - 1) / kBlock;
+    if (UseThreads(v)) {
+        auto parallelFor = reinterpret_cast<void (*)(int64_t, int, void*, ThreaderChunk)>(
+            brenn_serv_load_thread_fun("brenn_qes_serv_threader_for"));
+        if (parallelFor != nullptr) {
+            parallelFor(blocks, 0, &job, &BlockKernel<Form>);
+            h->counter += q;
+            return;
+        }
+    }
+    for (int64_t b = 0; b < blocks; ++b)
+        RunBlock(b, job);
+    h->counter += q;
+}
+
+// XOR of direction number c of each coordinate, c by the lowest zero bit.
+void Advance(const QrngView& v) {
+    QrngHead* h = v.head;
+    const int c = LowZero(h->counter);
+    for (int32_t j = 0; j < h->dimension; ++j)
+        v.Point(j) ^= v.Dir(j, c);
+    ++h->counter;
+}
+
+template <typename Form>
+int32_t Generate(const QrngView& v, int32_t n, const Form& f) {
+    QrngHead* h = v.head;
+    if (static_cast<int64_t>(h->counter) + static_cast<int64_t>(n) > 0xFFFFFFFFll)
+        return QES_RNG_STATUS_QUASI_PERIOD_ENDED;
+    if (n <= 0) return QES_STATUS_OK;
+    if (h->leapDimension != kNoLeap) {
+        const uint32_t k = h->leapDimension;
+        uint32_t x = v.Point(k), c = h->counter;
+        for (int32_t i = 0; i < n; ++i, ++c) {
+            f.Put(i, x);
+            x ^= v.Dir(k, LowZero(c));
+        }
+        v.Point(k) = x;
+        h->counter = c;
+        return QES_STATUS_OK;
+    }
+    const int32_t d = h->dimension;
+    int32_t i = 0;
+    if (h->component > 0) {
+        const int32_t start = d - h->component, take = std::min(h->component, n);
+        for (; i < take; ++i)
+            f.Put(i, v.Point(start + i));
+        h->component -= take;
+        if (h->component > 0) return QES_STATUS_OK;
+        Advance(v);
+    }
+    const uint32_t q = static_cast<uint32_t>((n - i) / d);
+    const int32_t rest = (n - i) % d;
+    if (q > 0) RunPoints(v, q, i, f);
+    const int64_t at = i + static_cast<int64_t>(q) * d;
+    for (int32_t j = 0; j < rest; ++j)
+        f.Put(at + j, v.Point(j));
+    h->component = rest == 0 ? 0 : d - rest;
+    return QES_STATUS_OK;
+}
+
+constexpr double kTwoM31 = 1.0 / 2147483648.0, kTwoM32 = 1.0 / 4294967296.0;
+
+} // namespace
+
+int32_t QrngGenerateWords(const QrngView& v, int32_t n, uint32_t* r) {
+    return Generate(v, n, Words{r});
+}
+
+int32_t QrngGenerateDoubles(const QrngView& v, int32_t n, double* r, double a, double b) {
+    if (v.chunk) return Generate(v, n, Double32{r, (b - a) * kTwoM32, a});
+    return Generate(v, n, Double31{r, (b - a) * kTwoM31, a});
+}
+
+int32_t QrngGenerateFloats(const QrngView& v, int32_t n, float* r, float a, float b) {
+    if (v.chunk) return Generate(v, n, Float32{r, static_cast<float>((b - a) * kTwoM32), a});
+    return Generate(v, n, Float31{r, static_cast<float>((b - a) * kTwoM31), a});
+}
+
+} // namespace brenn::rng
