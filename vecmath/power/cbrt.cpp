@@ -37,11 +37,11 @@ struct RootRanges<double> {
 };
 
 // The root of positive normal double lanes with x's sign put back where the root is odd:
-// four terms of the series, and at HA the exact cube and products.
+// four terms of the series, and at HA five with the exact cube and products.
 template <Root R, Level L>
 inline __m128d SignedRoot(__m128d x) {
     constexpr bool exact = L == Level::HA;
-    __m128d v = RootOf<R, 4, exact>(Abs(x));
+    __m128d v = RootOf < R, exact ? 5 : 4, exact > (Abs(x));
     return R == Root::Pow2o3 ? v : Or(v, SignBit(x));
 }
 

@@ -8,8 +8,9 @@
  *   M^(-1/3) = z * (1 + e)^(-1/3),  M^(1/3) = M*z^2 * (1 + e)^(-2/3),
  *   M^(2/3) = M*z * (1 + e)^(-1/3),
  * and the result's exponent is q, -q or 2q added to the field. For double HA z is first
- * rounded to 17 bits, so that z^3 is exact, and M*z^3 and the leading product are
- * carried in two parts: only the last addition rounds, within about 0.51 ulp. */
+ * rounded to 12 bits, so that its powers and their products with M's halves are exact:
+ * e is exact to 2^-70 and the leading product in two parts, so only the last addition
+ * rounds, within about 0.51 ulp. */
 #ifndef BRENN_VECMATH_POWER_ROOT_CORE_H
 #define BRENN_VECMATH_POWER_ROOT_CORE_H
 
@@ -26,14 +27,14 @@ constexpr double kRootSeed[] = {0x1.ab85acp0, -0x1.2c4234p0, 0x1.641702p-1, -0x1
 // 2^(-j/3) for the remainder j (the fourth row pads the index mask).
 alignas(16) constexpr double kRootScale[4] = {1.0, 0x1.965fea53d6e3dp-1, 0x1.428a2f98d728bp-1, 1.0};
 // The binomial series of (1 + e)^(-1/3) - 1 and (1 + e)^(-2/3) - 1, from e upward.
-constexpr double kThirdSeries[] = {-1.0 / 3, 2.0 / 9, -14.0 / 81, 35.0 / 243};
-constexpr double kTwoThirdsSeries[] = {-2.0 / 3, 5.0 / 9, -40.0 / 81, 110.0 / 243};
+constexpr double kThirdSeries[] = {-1.0 / 3, 2.0 / 9, -14.0 / 81, 35.0 / 243, -91.0 / 729};
+constexpr double kTwoThirdsSeries[] = {-2.0 / 3, 5.0 / 9, -40.0 / 81, 110.0 / 243, -308.0 / 729};
 
 // The terms of the series a level needs: with e near 2^-12.6 the first term left out is
-// below 2^-40 for two terms (single HA), 2^-27 for one (single LA, EP) and 2^-66 for
-// four (double).
+// below 2^-40 for two terms (single HA and LA) and 2^-66 for four (double LA and EP);
+// double HA, whose seed is rounded to 12 bits (e near 2^-10.2), takes five (2^-61).
 template <int N>
-BRENN_VEC __m128d RootSeries(__m128d e, const double (&c)[4]) {
+BRENN_VEC __m128d RootSeries(__m128d e, const double (&c)[5]) {
     __m128d p = Set<double>(c[N - 1]);
     for (int k = N - 2; k >= 0; --k)
         p = Add(Set<double>(c[k]), Mul(e, p));
@@ -71,19 +72,25 @@ inline __m128d RootOf(__m128d ax) {
     __m128d z = Mul(Horner(m, kRootSeed), Gather(kRootScale, j, 3));
     __m128d v;
     if constexpr (Exact) {
-        const __m128d one = Set<double>(1.0);
-        const __m128d sh = Set<double>(0x1p36); // rounds z in (1/2, 1] to 2^-16
+        // z rounded to 12 bits: z^2 (24 bits) and z^3 (36) are exact, and so are the
+        // products of M's halves (26 and 27 bits) with z, z^2 and the halves of z^3
+        // (18 bits each); e = M*z^3 - 1 to 2^-70 and the lead in two exact parts.
+        const __m128d sh = Set<double>(0x1p41); // rounds z in (1/2, 1] to 2^-11
         z = Sub(Add(z, sh), sh);
-        __m128d z2 = Mul(z, z); // exact: 34 bits, and z^3 51
-        __m128d ph, pl, lead, leadLo;
-        TwoProduct(bigM, Mul(z2, z), ph, pl);
-        __m128d e = Add(Sub(ph, one), pl);
+        const __m128d z2 = Mul(z, z), t = Mul(z2, z);
+        __m128d mh, ml;
+        Split(bigM, mh, ml);
+        const __m128d th = And(t, AsFloat(Set<uint64_t>(0xFFFFFFF800000000ull)));
+        const __m128d tl = Sub(t, th);
+        __m128d e = Sub(Mul(mh, th), Set<double>(1.0));
+        e = Add(Add(e, Add(Mul(mh, tl), Mul(ml, th))), Mul(ml, tl));
         __m128d s = RootSeries<Terms>(e, R == Root::Cbrt ? kTwoThirdsSeries : kThirdSeries);
         if constexpr (R == Root::InvCbrt) {
             v = Add(z, Mul(z, s));
         } else {
-            TwoProduct(bigM, R == Root::Cbrt ? z2 : z, lead, leadLo);
-            v = Add(lead, Add(leadLo, Mul(lead, s)));
+            const __m128d f = R == Root::Cbrt ? z2 : z;
+            const __m128d hi = Mul(mh, f), lo = Mul(ml, f);
+            v = Add(hi, Add(lo, Mul(Add(hi, lo), s)));
         }
     } else {
         v = RootFinish<R, Terms>(z, bigM);
