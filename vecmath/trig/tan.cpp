@@ -73,7 +73,7 @@ struct TanFitLA {
     static constexpr double kC[] = {1.0, -0x1.ddddddddddddep-2, 0x1.a41a41a41a44bp-6,
                                     -0x1.45e5d2ba4606bp-12, 0x1.08db48f28a525p-21};
 };
-// Single LA, single coefficients: 29 bits.
+// Single LA, single coefficients: 29 bits. tools/trig/tan_quotient.sollya.
 struct TanFitSingleLA {
     static constexpr float kS[] = {-0x1.c71c78p-4f, 0x1.156b6ap-10f};
     static constexpr float kC[] = {1.0f, -0x1.c71c72p-2f, 0x1.04104ap-6f};
