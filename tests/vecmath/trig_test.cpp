@@ -238,6 +238,13 @@ TEST(Trig, ExactValuesAtZero) {
             EXPECT_EQ(Bits(y[1]), Bits(0.0)) << r << slot;
         }
         EXPECT_EQ(Call("sCos", slot, std::vector<float>{0.0f, -0.0f}), (std::vector<float>{1, 1}));
+        // The same zeros inside whole rounds of ordinary lanes.
+        std::vector<float> x(48, 2.5f);
+        x[7] = -0.0f, x[19] = 0.0f, x[40] = 0x1p-30f;
+        std::vector<float> c = Call("sCos", slot, x);
+        EXPECT_EQ(c[7], 1.0f) << slot;
+        EXPECT_EQ(c[19], 1.0f) << slot;
+        EXPECT_EQ(c[40], 1.0f) << slot;
         EXPECT_EQ(Call("dCos", slot, std::vector<double>{0.0, -0.0}), (std::vector<double>{1, 1}));
     }
 }

@@ -36,6 +36,7 @@ constexpr float kPiEP[] = {0x1.92p1f, 0x1.fb4p-11f, 0x1.4442d2p-23f};
 constexpr double kPiD[] = {0x1.921fb5444p1, 0x1.68c234c4c6629p-38};
 // Below it cosine rounds to 1.0 in single.
 constexpr float kCosOne = 0x1p-12f;
+constexpr uint32_t kCosOneBits = 0x39800000; // kCosOne's bits
 
 // The odd series on r in [-pi/2, pi/2], each as the coefficients of a polynomial in
 // u = r^2, lowest degree first.
@@ -146,10 +147,15 @@ BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p,
         BRENN_EACH(k, N) p[k] = Narrow(pd[2 * k], pd[2 * k + 1]);
     }
     BRENN_EACH(k, N) p[k] = Xor(p[k], sign[k]);
-    // cos of tiny arguments: exactly 1.0, as the rounded value is.
+    // cos of tiny arguments: exactly 1.0, as the rounded value is. Such lanes are rare:
+    // one compare on the least magnitude of the registers, the blend only when it fires.
     if (cosine) {
-        BRENN_EACH(k, N) {
-            p[k] = IfThenElse(Lt(a[k], Set<float>(kCosOne)), Set<float>(1.0f), p[k]);
+        I32x4 least = AsInt(a[0]);
+        BRENN_EACH(k, N - 1) least = Min(least, AsInt(a[k + 1]));
+        if (__builtin_expect(MaskBits(Lt(least, Set<uint32_t>(kCosOneBits))) != 0, 0)) {
+            BRENN_EACH(k, N) {
+                p[k] = IfThenElse(Lt(a[k], Set<float>(kCosOne)), Set<float>(1.0f), p[k]);
+            }
         }
     }
 }
