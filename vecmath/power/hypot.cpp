@@ -18,7 +18,6 @@
 
 #include "frame/kernels.h"
 #include "vecmath/arith/ranges.h"
-#include "vecmath/explog/flat.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/frame/scalar.h"
@@ -138,6 +137,5 @@ struct HypotBody {
 using namespace brenn::vm;
 
 extern "C" {
-BRENN_FLAT_LEVEL_KERNELS(s, Hypot, Binary, HypotBody)
-BRENN_FLAT_LEVEL_KERNELS(d, Hypot, Binary, HypotBody)
+ZAR_ROW_KERNELS(Hypot, Binary, HypotBody)
 }
