@@ -130,18 +130,7 @@ inline __m128 AsinhOf(__m128 x) {
         return WidenToDouble(x, AsinhWide);
 }
 
-struct AsinhOp {
-    template <Level L, class V>
-    static V Of(V x) {
-        return AsinhOf<L>(x);
-    }
-    template <class T>
-    static int Scalar(const T* a, T* y) {
-        return AsinhScalar(a, y);
-    }
-};
-template <class Tp, Level L>
-using AsinhBody = QuietBody<AsinhOp, Tp, L>;
+BRENN_QUIET_BODY(Asinh)
 
 } // namespace
 } // namespace brenn::vm

@@ -1,7 +1,8 @@
 /* The body of the hyperbolic rows that never report, Tanh and Asinh: only lanes whose
  * exponent is all ones (infinities and NaN) go to the scalar routine, and they run through
  * the arithmetic as 0. Op supplies the arithmetic, Of<L>(x) for both register types, and
- * the scalar routine. */
+ * the scalar routine; BRENN_QUIET_BODY(Fn) makes them of FnOf<L> and FnScalar, and the
+ * body template FnBody<T, L>. */
 #ifndef BRENN_VECMATH_HYPER_QUIET_BODY_H
 #define BRENN_VECMATH_HYPER_QUIET_BODY_H
 
@@ -33,5 +34,19 @@ struct QuietBody {
 };
 
 } // namespace brenn::vm
+
+#define BRENN_QUIET_BODY(Fn)                                                                       \
+    struct Fn##Op {                                                                                \
+        template <Level L, class V>                                                                \
+        static V Of(V x) {                                                                         \
+            return Fn##Of<L>(x);                                                                   \
+        }                                                                                          \
+        template <class T>                                                                         \
+        static int Scalar(const T* a, T* y) {                                                      \
+            return Fn##Scalar(a, y);                                                               \
+        }                                                                                          \
+    };                                                                                             \
+    template <class Tp, Level L>                                                                   \
+    using Fn##Body = QuietBody<Fn##Op, Tp, L>;
 
 #endif

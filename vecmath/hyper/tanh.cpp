@@ -98,18 +98,7 @@ inline __m128d TanhOf(__m128d x) {
         return TanhPath<ExpDegree::Five, false, SinhSeriesLA>(x);
 }
 
-struct TanhOp {
-    template <Level L, class V>
-    static V Of(V x) {
-        return TanhOf<L>(x);
-    }
-    template <class T>
-    static int Scalar(const T* a, T* y) {
-        return TanhScalar(a, y);
-    }
-};
-template <class Tp, Level L>
-using TanhBody = QuietBody<TanhOp, Tp, L>;
+BRENN_QUIET_BODY(Tanh)
 
 } // namespace
 } // namespace brenn::vm
