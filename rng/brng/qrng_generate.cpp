@@ -8,16 +8,24 @@
 #include <array>
 #include <utility>
 
+#include <string.h>
+
 #include "platform/threader.h"
 #include "rng/brng/qrng_core.h"
+#include "rng/brng/word_forms.h"
 
 namespace brenn::rng {
 
 namespace {
 
+// Each form writes one element (Put) or a run of a point's coordinates (Run), the
+// run converting several lanes at a time with the same result.
 struct Words {
     uint32_t* r;
     void Put(int64_t i, uint32_t x) const { r[i] = x; }
+    void Run(int64_t i, const uint32_t* p, int n) const {
+        memcpy(r + i, p, static_cast<size_t>(n) * sizeof(uint32_t));
+    }
 };
 
 // The 31-bit forms: the top 31 bits as a non-negative int32, converted exactly.
@@ -27,12 +35,34 @@ struct Double31 {
     void Put(int64_t i, uint32_t x) const {
         r[i] = static_cast<double>(static_cast<int32_t>(x >> 1)) * s + a;
     }
+    void Run(int64_t i, const uint32_t* p, int n) const {
+        const __m128d vs = _mm_set1_pd(s), va = _mm_set1_pd(a);
+        int k = 0;
+        for (; k + 4 <= n; k += 4) {
+            __m128i x = _mm_srli_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p + k)), 1);
+            __m128d lo = _mm_cvtepi32_pd(x), hi = _mm_cvtepi32_pd(_mm_unpackhi_epi64(x, x));
+            _mm_storeu_pd(r + i + k, _mm_add_pd(_mm_mul_pd(lo, vs), va));
+            _mm_storeu_pd(r + i + k + 2, _mm_add_pd(_mm_mul_pd(hi, vs), va));
+        }
+        for (; k < n; ++k)
+            Put(i + k, p[k]);
+    }
 };
 struct Float31 {
     float* r;
     float s, a;
     void Put(int64_t i, uint32_t x) const {
         r[i] = static_cast<float>(static_cast<int32_t>(x >> 1)) * s + a;
+    }
+    void Run(int64_t i, const uint32_t* p, int n) const {
+        const __m128 vs = _mm_set1_ps(s), va = _mm_set1_ps(a);
+        int k = 0;
+        for (; k + 4 <= n; k += 4) {
+            __m128i x = _mm_srli_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p + k)), 1);
+            _mm_storeu_ps(r + i + k, _mm_add_ps(_mm_mul_ps(_mm_cvtepi32_ps(x), vs), va));
+        }
+        for (; k < n; ++k)
+            Put(i + k, p[k]);
     }
 };
 
@@ -41,42 +71,93 @@ struct Double32 {
     double* r;
     double s, a;
     void Put(int64_t i, uint32_t x) const { r[i] = static_cast<double>(x) * s + a; }
+    void Run(int64_t i, const uint32_t* p, int n) const {
+        const __m128d vs = _mm_set1_pd(s), va = _mm_set1_pd(a);
+        int k = 0;
+        for (; k + 2 <= n; k += 2)
+            _mm_storeu_pd(r + i + k, _mm_add_pd(_mm_mul_pd(TwoWordsToDouble(p + k), vs), va));
+        for (; k < n; ++k)
+            Put(i + k, p[k]);
+    }
 };
 struct Float32 {
     float* r;
     float s, a;
     void Put(int64_t i, uint32_t x) const { r[i] = static_cast<float>(x) * s + a; }
+    void Run(int64_t i, const uint32_t* p, int n) const {
+        for (int k = 0; k < n; ++k)
+            Put(i + k, p[k]);
+    }
 };
 
 constexpr int kSmallDims = 15;
 constexpr int kBlock = 32;
 
-// q points of D coordinates from output place `off`; returns the end counter.
+// q points of D coordinates from output place `off`; returns the end counter. The
+// point stays in D/4 vector registers; points are gathered in a buffer whose
+// elements are then formed in one run. Rows are read 4 words at a time: the state
+// and chunk rows are at least 16 words long.
 template <int D, typename Form>
 uint32_t RunSmall(uint32_t q, int64_t off, uint32_t counter, uint32_t* point, const uint32_t* dirs,
-                  ptrdiff_t rowStride, const Form& f) {
-    uint32_t p[D];
-#pragma GCC unroll 16
-    for (int j = 0; j < D; ++j)
-        p[j] = point[j];
-    for (uint32_t t = 0; t < q; ++t, off += D) {
-#pragma GCC unroll 16
-        for (int j = 0; j < D; ++j)
-            f.Put(off + j, p[j]);
-        const uint32_t* row = dirs + LowZero(counter) * rowStride;
-#pragma GCC unroll 16
-        for (int j = 0; j < D; ++j)
+                  ptrdiff_t rowStride, const Form form) {
+    constexpr int kVectors = (D + 3) / 4, kBatch = 512 / D;
+    const Form f = form; // a local copy: stores through r cannot alias it
+    alignas(16) uint32_t start[16] = {};
+    alignas(16) uint32_t buffer[kBatch * D + 16];
+    memcpy(start, point, D * sizeof(uint32_t));
+    __m128i p[kVectors];
+    for (int v = 0; v < kVectors; ++v)
+        p[v] = _mm_load_si128(reinterpret_cast<const __m128i*>(start + 4 * v));
+    while (q > 0) {
+        const uint32_t batch = q < kBatch ? q : kBatch;
+        for (uint32_t t = 0; t < batch; ++t) {
+            const uint32_t* row = dirs + LowZero(counter) * rowStride;
+#pragma GCC unroll 4
+            for (int v = 0; v < kVectors; ++v) {
+                _mm_storeu_si128(reinterpret_cast<__m128i*>(buffer + t * D + 4 * v), p[v]);
+                p[v] = _mm_xor_si128(
+                    p[v], _mm_loadu_si128(reinterpret_cast<const __m128i*>(row + 4 * v)));
+            }
+            ++counter;
+        }
+        f.Run(off, buffer, static_cast<int>(batch * D));
+        off += static_cast<int64_t>(batch) * D;
+        q -= batch;
+    }
+    for (int v = 0; v < kVectors; ++v)
+        _mm_store_si128(reinterpret_cast<__m128i*>(start + 4 * v), p[v]);
+    memcpy(point, start, D * sizeof(uint32_t));
+    return counter;
+}
+
+// q points of a contiguous point wider than the kernels: the point formed in one
+// run, then the row XORed over it.
+template <typename Form>
+uint32_t RunWide(const QrngView& v, uint32_t q, int64_t off, const Form form) {
+    const Form f = form;
+    const int32_t d = v.head->dimension;
+    uint32_t* p = v.point;
+    uint32_t counter = v.head->counter;
+    for (uint32_t t = 0; t < q; ++t, off += d) {
+        f.Run(off, p, d);
+        const uint32_t* row = v.dirs + LowZero(counter) * v.rowStride;
+        int32_t j = 0;
+        for (; j + 4 <= d; j += 4) {
+            __m128i* at = reinterpret_cast<__m128i*>(p + j);
+            _mm_storeu_si128(
+                at, _mm_xor_si128(_mm_loadu_si128(at),
+                                  _mm_loadu_si128(reinterpret_cast<const __m128i*>(row + j))));
+        }
+        for (; j < d; ++j)
             p[j] ^= row[j];
         ++counter;
     }
-    for (int j = 0; j < D; ++j)
-        point[j] = p[j];
     return counter;
 }
 
 template <typename Form>
 using SmallRun = uint32_t (*)(uint32_t, int64_t, uint32_t, uint32_t*, const uint32_t*, ptrdiff_t,
-                              const Form&);
+                              const Form);
 
 template <typename Form, size_t... D>
 constexpr auto SmallTable(std::index_sequence<D...>) {
@@ -97,11 +178,12 @@ template <int W, typename Form>
 void StepBlock(const BlockJob<Form>& job, uint32_t* p, const uint32_t (*rows)[kBlock], int64_t j0,
                int w) {
     const int width = W > 0 ? W : w;
+    const Form f = job.f;
+    const int64_t stride = job.dimension;
     uint32_t c = job.counter;
     int64_t o = job.off + j0;
-    for (uint32_t t = 0; t < job.q; ++t, o += job.dimension) {
-        for (int j = 0; j < width; ++j)
-            job.f.Put(o + j, p[j]);
+    for (uint32_t t = 0; t < job.q; ++t, o += stride) {
+        f.Run(o, p, width);
         const uint32_t* row = rows[LowZero(c)];
         for (int j = 0; j < width; ++j)
             p[j] ^= row[j];
@@ -156,9 +238,14 @@ void RunPoints(const QrngView& v, uint32_t q, int64_t off, const Form& f) {
         h->counter = table[d - 1](q, off, h->counter, v.point, v.dirs, v.rowStride, f);
         return;
     }
+    const bool threads = UseThreads(v);
+    if (!threads && v.pointStride == 1 && v.colStride == 1) {
+        h->counter = RunWide(v, q, off, f);
+        return;
+    }
     BlockJob<Form> job{&v, f, off, h->counter, q, d};
     const int64_t blocks = (d + kBlock - 1) / kBlock;
-    if (UseThreads(v)) {
+    if (threads) {
         auto parallelFor = reinterpret_cast<void (*)(int64_t, int, void*, ThreaderChunk)>(
             brenn_serv_load_thread_fun("brenn_qes_serv_threader_for"));
         if (parallelFor != nullptr) {
