@@ -1,16 +1,17 @@
 /* Cbrt, InvCbrt and Pow2o3, single and double: x^(1/3), x^(-1/3) and x^(2/3) from the
  * core of root_core.h.
  *
- * The single rows split the exponent and take the seed in single lanes; HA runs the
- * series on widened lanes and rounds once (two terms), LA (two terms) and EP (the seed
- * alone) stay in single. Single denormals go to the scalar routine, which runs the double form. The
- * double rows take four terms; HA rounds the seed so that its cube is exact and carries the
- * products in two parts, LA and EP round them (dCbrt's LA and EP slots share a kernel, dInvCbrt has
- * one kernel for the three slots, at HA). Special lanes: zeros, infinities, NaN, and double
- * denormals. Cbrt gives
- * +-0 and +-inf themselves; InvCbrt the signed infinity for a zero (singularity status in double,
- * no report in single) and the signed zero for an infinity; Pow2o3 +0 and +inf. Double denormals
- * are scaled by 2^54 and the result by 2^-18, 2^18 or 2^-36. */
+ * The single rows split the exponent and take the seed in single lanes; HA runs one
+ * term of the series on widened lanes and rounds once (0.6 ulp), LA (two terms) and EP
+ * (the seed alone) stay in single. Single denormals go to the scalar routine, which runs
+ * the double form. The double rows take four terms (HA five, its seed rounded so that
+ * its powers and products are exact; LA and EP round them). dCbrt's LA and EP slots
+ * share a kernel; dInvCbrt has one kernel, at HA, for the three slots.
+ *
+ * Special lanes: zeros, infinities, NaN, and denormals. Cbrt gives +-0 and +-inf
+ * themselves; InvCbrt the signed infinity for a zero (singularity status in double, no
+ * report in single) and the signed zero for an infinity; Pow2o3 +0 and +inf. Double
+ * denormals are scaled by 2^54 and the result by 2^-18, 2^18 or 2^-36. */
 #include "frame/kernels.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
@@ -47,7 +48,7 @@ inline __m128d SignedRoot(__m128d x) {
 
 template <Root R, Level L>
 inline __m128 RootLanes(__m128 x) {
-    constexpr int terms = L == Level::EP ? 0 : 2;
+    constexpr int terms = L == Level::EP ? 0 : L == Level::HA ? 1 : 2;
     constexpr bool wide = L == Level::HA;
     __m128 v = RootOf<R, terms, wide>(Abs(x));
     return R == Root::Pow2o3 ? v : Or(v, SignBit(x));

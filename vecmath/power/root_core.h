@@ -31,7 +31,8 @@ constexpr double kThirdSeries[] = {-1.0 / 3, 2.0 / 9, -14.0 / 81, 35.0 / 243, -9
 constexpr double kTwoThirdsSeries[] = {-2.0 / 3, 5.0 / 9, -40.0 / 81, 110.0 / 243, -308.0 / 729};
 
 // The terms of the series a level needs: with e near 2^-12.6 the first term left out is
-// below 2^-40 for two terms (single HA and LA) and 2^-66 for four (double LA and EP);
+// below 2^-28 for one term (single HA, in double), 2^-40 for two (single LA) and 2^-66
+// for four (double LA and EP);
 // double HA, whose seed is rounded to 12 bits (e near 2^-10.2), takes five (2^-61).
 template <int N>
 BRENN_VEC __m128d RootSeries(__m128d e, const double (&c)[5]) {
