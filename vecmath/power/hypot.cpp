@@ -7,8 +7,8 @@
  * whose sum overflows, underflows or is zero go to the scalar routine.
  * Double: both scaled by 2^-e for the exponent e of the larger, so that it lies in
  * [1, 2). HA: the larger square exactly in two parts, the sum of squares in two parts,
- * a 26-bit root and its correction: within about 0.6 ulp. LA and EP: the rounded squares and root,
- * within about 1 ulp.
+ * a 26-bit root and its correction: within about 0.6 ulp. LA and EP: the rounded
+ * squares and root, within about 1 ulp.
  * Special lanes: an infinite or NaN operand; in double also a larger operand that is
  * denormal (or both zero) or at least 2^1023. The scalar routine widens both (single to
  * double, double to extended), adds the squares and takes the root: an infinity gives

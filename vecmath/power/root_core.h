@@ -1,5 +1,5 @@
-/* The cube-root core of Cbrt, InvCbrt and Pow2o3, on double lanes (the single rows
- * widen theirs).
+/* The cube-root core of Cbrt, InvCbrt and Pow2o3, on double lanes, and its single-lane
+ * form (at the end).
  *
  * x = 2^(3q) * M with M = 2^j * m in [1, 8), m the significand in [1, 2): the biased
  * exponent divided by 3 by an integer product with 0xAAAB (the high part), j the
