@@ -1,9 +1,10 @@
-// A tour of the library: what a caller sees of each service built so far. Each
-// service's step lives in its own tour_<service>.cpp; a step not built is skipped.
+// A tour of the library: what a caller sees of each service built so far, through the
+// front-end (brenn/brenn.h, brenn/brenn.hpp). Each service's step lives in its own
+// tour_<service>.cpp; a step not built is skipped.
 #include <cstdio>
 #include <dlfcn.h>
 
-#include "brenn_vecmath.h"
+#include "brenn/brenn.h"
 
 void TourRandom() __attribute__((weak));
 void TourStatistics() __attribute__((weak));
@@ -23,8 +24,8 @@ static void TourFrame() {
     // The dispatch table is one block of 232 rows; sCeil is its first row. Row
     // addresses are taken from the library itself: a program's own reference to a
     // data symbol may be a copy of that one row.
-    const DispatchRecord* table = static_cast<const DispatchRecord*>(
-        dlsym(RTLD_DEFAULT, "brenn_zar_kernel_sCeil_ttab"));
+    const DispatchRecord* table =
+        static_cast<const DispatchRecord*>(dlsym(RTLD_DEFAULT, "brenn_zar_kernel_sCeil_ttab"));
     int slots = 0;
     for (int r = 0; r < 232; ++r)
         slots += (table[r].kernelLA != nullptr) + (table[r].kernelHA != nullptr) +
