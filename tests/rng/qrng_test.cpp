@@ -77,6 +77,29 @@ TEST(Qrng, SobolUserModesReproduceTheBuiltInPoints) {
         EXPECT_EQ(FirstQ(kSobol, *p, kWords), ref) << "mode " << (*p)[2];
 }
 
+// Mode 3 beyond 40 coordinates goes to chunks; its first 40 are the built-in ones.
+TEST(Qrng, SobolModeThreeBeyondTheStateUsesChunks) {
+    constexpr int kDim = 41, kPoints = 500;
+    QWords p = {kDim, 1, 3};
+    for (int j = 1; j < 40; ++j)
+        p.push_back(kSobolPolynomial[j]);
+    p.push_back(355); // a primitive polynomial of degree 8 that the table leaves out
+    p.push_back(8);
+    for (int j = 1; j < 40; ++j)
+        for (int i = 0; i < 8; ++i)
+            p.push_back(kSobolInitial[j][i]);
+    for (int i = 0; i < 8; ++i)
+        p.push_back(2 * i + 1);
+    void* s = NewQrng(kSobol, p);
+    EXPECT_EQ(__qesGetNumChunks(s), 2);
+    const QWords w = Draw(kSobol, s, kDim * kPoints);
+    __qesDeleteStream(&s);
+    const QWords ref = FirstQ(kSobol, {40}, 40 * kPoints);
+    for (int k = 0; k < kPoints; ++k)
+        for (int j = 0; j < 40; ++j)
+            ASSERT_EQ(w[k * kDim + j], ref[k * 40 + j]) << k << " " << j;
+}
+
 TEST(Qrng, NiederrUserModesReproduceTheBuiltInPoints) {
     constexpr int kDim = 20, kWords = kDim * 300;
     const QWords ref = FirstQ(kNiederr, {kDim}, kWords);
