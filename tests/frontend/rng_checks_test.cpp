@@ -94,6 +94,7 @@ TEST(FrontendRngChecks, ImagesShorterThanTheyClaimAreRefused) {
     brenn_rng_ibits32(s, 1, &x);
     brenn_rng_ibits32(loaded, 1, &y);
     EXPECT_EQ(x, y);
+    brenn_rng_delete(&loaded);
     EXPECT_EQ(brenn_rng_load_file(&loaded, "/nonexistent/brenn/stream"), QES_RNG_STATUS_FILE_OPEN);
     EXPECT_EQ(loaded, nullptr);
     brenn_rng_delete(&s);
