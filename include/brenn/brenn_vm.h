@@ -66,7 +66,7 @@ double brenn_vm_set_split_work(double work);
 
 /** The measured default split threshold, in cost units: see
  * docs/frontend-performance.md for the run that set it. */
-#define BRENN_VM_SPLIT_WORK_DEFAULT 100000.0
+#define BRENN_VM_SPLIT_WORK_DEFAULT 500000.0
 
 #ifdef __cplusplus
 }
