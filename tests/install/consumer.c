@@ -32,7 +32,8 @@ int main(void) {
         double y[5];
         int i;
         if (brenn_vdexp_acc(5, a, y, BRENN_HA) != BRENN_OK) {
-            fprintf(stderr, "brenn_vdexp_acc: %s\n", brenn_status_name(brenn_zar_kernel_GetErrStatus()));
+            fprintf(stderr, "brenn_vdexp_acc: %s\n",
+                    brenn_status_name(brenn_zar_kernel_GetErrStatus()));
             return 1;
         }
         if (brenn_vdexp(5, NULL, y) != BRENN_ERR_NULL_POINTER) {
