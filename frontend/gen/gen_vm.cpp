@@ -75,22 +75,26 @@ std::vector<Arg> ArgsOf(const std::string& shape) {
     std::exit(1);
 }
 
-std::string CType(char t, Kind k) {
+// The type of an argument: the C element types and pointers, or (cxx) std::complex
+// elements and std::span views.
+std::string TypeOf(char t, Kind k, bool cxx) {
+    const std::string e = cxx ? ElemCxx(t) : ElemC(t), r = RealOf(t);
+    auto view = [&](const std::string& of) { return cxx ? "std::span<" + of + ">" : of + "*"; };
     switch (k) {
     case Kind::In:
-        return "const " + ElemC(t) + "*";
+        return view("const " + e);
     case Kind::InReal:
-        return "const " + RealOf(t) + "*";
+        return view("const " + r);
     case Kind::Out:
-        return ElemC(t) + "*";
+        return view(e);
     case Kind::OutReal:
-        return RealOf(t) + "*";
+        return view(r);
     case Kind::Scalar:
-        return ElemC(t);
+        return e;
     case Kind::Count:
         return "int";
     case Kind::Index:
-        return "const int*";
+        return view("const int");
     }
     return "";
 }
@@ -98,7 +102,7 @@ std::string CType(char t, Kind k) {
 std::string CParams(const Row& r, bool accuracy) {
     std::string s = "int n";
     for (const Arg& a : ArgsOf(r.shape))
-        s += ", " + CType(r.type, a.kind) + " " + a.name;
+        s += ", " + TypeOf(r.type, a.kind, false) + " " + a.name;
     if (accuracy) s += ", int accuracy";
     return s;
 }
@@ -170,26 +174,6 @@ void Source(std::ostream& o) {
     }
 }
 
-std::string CxxType(char t, Kind k) {
-    switch (k) {
-    case Kind::In:
-        return "std::span<const " + ElemCxx(t) + ">";
-    case Kind::InReal:
-        return "std::span<const " + RealOf(t) + ">";
-    case Kind::Out:
-        return "std::span<" + ElemCxx(t) + ">";
-    case Kind::OutReal:
-        return "std::span<" + RealOf(t) + ">";
-    case Kind::Scalar:
-        return ElemCxx(t);
-    case Kind::Count:
-        return "int";
-    case Kind::Index:
-        return "std::span<const int>";
-    }
-    return "";
-}
-
 // The C++ overloads: the spans' sizes are checked against each other (the packing
 // rows' spans against what the count and stride need), then the C entry runs.
 void Cxx(std::ostream& o) {
@@ -205,7 +189,7 @@ void Cxx(std::ostream& o) {
         const std::vector<Arg> args = ArgsOf(r.shape);
         std::string params, sizes, pass;
         for (const Arg& a : args) {
-            params += (params.empty() ? "" : ", ") + CxxType(r.type, a.kind) + " " + a.name;
+            params += (params.empty() ? "" : ", ") + TypeOf(r.type, a.kind, true) + " " + a.name;
             bool span = a.kind != Kind::Scalar && a.kind != Kind::Count;
             if (span) sizes += (sizes.empty() ? "" : ", ") + a.name + ".size()";
             if (a.kind == Kind::Scalar && (r.type == 'c' || r.type == 'z'))
