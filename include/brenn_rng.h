@@ -730,6 +730,65 @@ int32_t __qesdBRngWH(void* stream, int32_t n, double* r, double a, double b);
  * @param r where they go
  * @return QES_STATUS_OK. */
 int32_t __qesiBRngWH(void* stream, int32_t n, void* r);
+/* The quasi-random generators: each element is one coordinate of a point. */
+/** The initStream entry of Sobol (QesInitStreamFn).
+ * @param method QES_INIT_SEED, QES_INIT_LEAPFROG, QES_INIT_SKIP or QES_INIT_SKIP_EX
+ * @param stream the stream
+ * @param n the count of params
+ * @param params the method's words
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; the status of a jump Sobol lacks. */
+int32_t __qesBRngSobolInitStream(int32_t method, void* stream, int32_t n, const void* params);
+/** Single-precision uniform output of Sobol on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
+int32_t __qessBRngSobol(void* stream, int32_t n, float* r, float a, float b);
+/** Double-precision uniform output of Sobol on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
+int32_t __qesdBRngSobol(void* stream, int32_t n, double* r, double a, double b);
+/** Raw output of Sobol: one 32-bit word a coordinate.
+ * @param stream the stream
+ * @param n number of elements
+ * @param r where they go
+ * @return QES_STATUS_OK. */
+int32_t __qesiBRngSobol(void* stream, int32_t n, void* r);
+/** The initStream entry of Niederr (QesInitStreamFn).
+ * @param method QES_INIT_SEED, QES_INIT_LEAPFROG, QES_INIT_SKIP or QES_INIT_SKIP_EX
+ * @param stream the stream
+ * @param n the count of params
+ * @param params the method's words
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; the status of a jump Niederr lacks. */
+int32_t __qesBRngNiederrInitStream(int32_t method, void* stream, int32_t n, const void* params);
+/** Single-precision uniform output of Niederr on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
+int32_t __qessBRngNiederr(void* stream, int32_t n, float* r, float a, float b);
+/** Double-precision uniform output of Niederr on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
+int32_t __qesdBRngNiederr(void* stream, int32_t n, double* r, double a, double b);
+/** Raw output of Niederr: one 32-bit word a coordinate.
+ * @param stream the stream
+ * @param n number of elements
+ * @param r where they go
+ * @return QES_STATUS_OK. */
+int32_t __qesiBRngNiederr(void* stream, int32_t n, void* r);
 
 /* Distribution generators: method, stream, n, result, parameters. */
 /** Single-precision uniform variates on [a, b).

@@ -11,18 +11,6 @@
 
 #include "brenn_rng.h"
 
-// The generators' entries; the public header does not declare them.
-extern "C" {
-int32_t __qesBRngSobolInitStream(int32_t, void*, int32_t, const void*);
-int32_t __qessBRngSobol(void*, int32_t, float*, float, float);
-int32_t __qesdBRngSobol(void*, int32_t, double*, double, double);
-int32_t __qesiBRngSobol(void*, int32_t, void*);
-int32_t __qesBRngNiederrInitStream(int32_t, void*, int32_t, const void*);
-int32_t __qessBRngNiederr(void*, int32_t, float*, float, float);
-int32_t __qesdBRngNiederr(void*, int32_t, double*, double, double);
-int32_t __qesiBRngNiederr(void*, int32_t, void*);
-}
-
 namespace brenn::test {
 
 using QWords = std::vector<uint32_t>;
