@@ -94,6 +94,13 @@ QrngView View(void* stream) {
 
 } // namespace
 
+bool NiederrLoadable(void* stream) {
+    const QrngHead& h = *StateOf<QrngHead>(stream);
+    const int64_t table = ChunkBytes(stream, kChunkNiederrTable);
+    if (table < 0) return QrngHeadSane(h, kNiederrMaxDimension);
+    return QrngHeadSane(h, INT32_MAX) && table >= 4 * int64_t{kDirectionSlots} * h.dimension;
+}
+
 } // namespace brenn::rng
 
 using namespace brenn::rng;

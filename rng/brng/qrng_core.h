@@ -81,6 +81,19 @@ using CoordinateFn = void (*)(const void* source, int32_t j, uint32_t* out);
 void FillState(void* stream, QrngShape shape, int32_t dimension, int32_t stateDimension,
                CoordinateFn coordinate, const void* source);
 
+// Whether a head read from an image is one that seeding and the entries could have
+// left: 1 to `dims` coordinates, a leap coordinate among them, fewer coordinates
+// still to deliver than a point has. The entries index by these fields unchecked.
+bool QrngHeadSane(const QrngHead& h, int64_t dims);
+
+// Bytes of the chunk that __qesSearchChunk finds for `id`; -1 when there is none.
+int64_t ChunkBytes(const void* stream, int32_t id);
+
+// Whether a stream read from an image can be run: its head, and chunks large
+// enough for its dimension when its tables lie in chunks.
+bool SobolLoadable(void* stream);
+bool NiederrLoadable(void* stream);
+
 // Entries shared by both generators once the view is found.
 int32_t QrngGenerateWords(const QrngView& v, int32_t n, uint32_t* r);
 int32_t QrngGenerateDoubles(const QrngView& v, int32_t n, double* r, double a, double b);

@@ -40,6 +40,18 @@ void FillState(void* stream, QrngShape shape, int32_t dimension, int32_t stateDi
     *s.head = {1, dimension, kNoLeap, 0};
 }
 
+bool QrngHeadSane(const QrngHead& h, int64_t dims) {
+    return h.dimension >= 1 && h.dimension <= dims && h.component >= 0 &&
+           h.component < h.dimension &&
+           (h.leapDimension == kNoLeap || h.leapDimension < static_cast<uint32_t>(h.dimension));
+}
+
+int64_t ChunkBytes(const void* stream, int32_t id) {
+    for (const QesChunk* c = Header(stream)->chunks; c != nullptr; c = c->next)
+        if (c->id == id) return c->size;
+    return -1;
+}
+
 int32_t QrngLeapfrog(const QrngView& v, int32_t n, const void* params) {
     QrngHead* h = v.head;
     const uint32_t k = *static_cast<const uint32_t*>(params);

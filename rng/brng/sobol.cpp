@@ -174,6 +174,15 @@ QrngView View(void* stream) {
 
 } // namespace
 
+bool SobolLoadable(void* stream) {
+    const QrngHead& h = *StateOf<QrngHead>(stream);
+    const int64_t rows = ChunkBytes(stream, kChunkSobolRows);
+    const int64_t point = ChunkBytes(stream, kChunkSobolPoint);
+    if (rows < 0 || point < 0) return QrngHeadSane(h, kSobolMaxDimension);
+    return QrngHeadSane(h, INT32_MAX) && rows >= 4 * kQrngBits * RowWords(h.dimension) &&
+           point >= 4 * static_cast<int64_t>(h.dimension);
+}
+
 } // namespace brenn::rng
 
 using namespace brenn::rng;

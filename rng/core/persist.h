@@ -114,6 +114,9 @@ int32_t WriteImage(Sink& sink, const void* stream, int32_t writeStatus) {
 // before allocating for it, whatever the medium holds.
 constexpr uint64_t kMaxImageBytes = INT32_MAX;
 
+// Whether a stream just read can be run as it stands (rng/brng/loadable.cpp).
+bool StateLoadable(void* stream, const BrngRecord& row);
+
 // Builds a stream from an image. A source has Get(data, bytes) -> bool and Left(),
 // the bytes it still holds (UINT64_MAX when it cannot tell); `bad` is the medium's
 // status for a malformed image. *made is the stream once allocated, also when a
@@ -208,6 +211,7 @@ int32_t ReadImage(Source& source, void** made, int32_t bad) {
         // behind.
         if (brenn::rng::Header(s)->chunks->data != data) brenn_serv_deallocate(data);
     }
+    if (status == QES_STATUS_OK && !StateLoadable(s, *row)) status = bad;
     return status;
 }
 

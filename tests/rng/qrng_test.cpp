@@ -315,6 +315,48 @@ TEST(Qrng, ChunksSharedOnCopyAndCarriedBySaveAndLoad) {
     __qesDeleteStream(&s);
 }
 
+// An image whose head no seeding could leave, or whose chunks are too small for
+// its dimension, is refused by the loader: the entries index by these fields.
+TEST(Qrng, DamagedImagesAreRefused) {
+    struct Case {
+        int32_t id;
+        QWords params;
+    };
+    const Case cases[] = {{kSobol, {5}},
+                          {kNiederr, {5}},
+                          {kSobol, UserTable(100, 100)},
+                          {kNiederr, UserTable(400, 4)}};
+    for (const Case& c : cases) {
+        void* s = NewQrng(c.id, c.params);
+        Draw(c.id, s, 7); // a point part-way delivered
+        std::vector<char> image(__qesGetStreamSize(s));
+        ASSERT_EQ(__qesSaveStreamM(s, image.data()), 0);
+        int32_t head[4];
+        memcpy(head, image.data() + 24, sizeof head); // counter, dimension, leap, component
+        const int32_t d = head[1];
+        void* loaded = nullptr;
+        ASSERT_EQ(__qesLoadStreamM(&loaded, image.data()), 0) << d;
+        __qesDeleteStream(&loaded);
+        const int32_t capacity = c.id == kSobol ? 40 : 318;
+        const int32_t wider = d <= capacity ? capacity + 1 : d + 1;
+        const int32_t damaged[][2] = {{1, 0}, {1, -3},    {1, wider}, {1, 0x7FFFFFFF},
+                                      {2, d}, {2, d + 9}, {3, d},     {3, -1}};
+        // The legacy table names the same generators by ids 277 and 278.
+        const int32_t legacy = c.id == kSobol ? 277 : 278;
+        for (const auto& field : damaged)
+            for (int32_t id : {c.id, legacy}) {
+                std::vector<char> bad = image;
+                memcpy(bad.data() + 20, &id, 4);
+                memcpy(bad.data() + 24 + 4 * field[0], &field[1], 4);
+                loaded = reinterpret_cast<void*>(1);
+                EXPECT_EQ(__qesLoadStreamM(&loaded, bad.data()), QES_RNG_STATUS_BAD_IMAGE_FORMAT)
+                    << id << " dimension " << d << " field " << field[0] << " = " << field[1];
+                EXPECT_EQ(loaded, nullptr);
+            }
+        __qesDeleteStream(&s);
+    }
+}
+
 TEST(Qrng, AllocationFailuresGiveNoMemory) {
     for (int32_t id : {kSobol, kNiederr}) {
         const QWords p = UserTable(id == kSobol ? 100 : 400, 9);
