@@ -7,6 +7,14 @@
 # BRENN_SUBSYSTEMS narrows a developer's build to some subsystems (the frame is
 # always in): -DBRENN_SUBSYSTEMS=rng builds the frame and rng only, with their tests.
 set(BRENN_SUBSYSTEMS "vecmath;rng;stats;fitting" CACHE STRING "Subsystems to build besides the frame")
+# The front-end, the tour and examples, installation and packages need every service:
+# a narrowed build leaves them out.
+set(BRENN_FULL_BUILD ON)
+foreach(sub vecmath rng stats fitting)
+  if(NOT sub IN_LIST BRENN_SUBSYSTEMS)
+    set(BRENN_FULL_BUILD OFF)
+  endif()
+endforeach()
 function(brenn_add_kernel_library)
   set(dirs frame ${BRENN_SUBSYSTEMS})
   set(sources)
