@@ -2,7 +2,7 @@
 // entries index their tables by fields of the state, whether those fields are ones
 // that seeding and the entries could have left. Every other generator either has no
 // such field or repairs it where it is used.
-#include "rng/brng/qrng_core.h"
+#include "rng/brng/loadable.h"
 #include "rng/core/persist.h"
 
 namespace brenn::rng::image {
@@ -12,6 +12,7 @@ namespace brenn::rng::image {
 bool StateLoadable(void* stream, const BrngRecord& row) {
     if (row.initStream == __qesBRngSobolInitStream) return SobolLoadable(stream);
     if (row.initStream == __qesBRngNiederrInitStream) return NiederrLoadable(stream);
+    if (row.initStream == __qesBRngR250InitStream) return R250Loadable(stream);
     return true;
 }
 

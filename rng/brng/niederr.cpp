@@ -7,6 +7,7 @@
 
 #include "frame/export.h"
 #include "platform/serv.h"
+#include "rng/brng/loadable.h"
 #include "rng/brng/qrng_core.h"
 
 namespace brenn::rng {

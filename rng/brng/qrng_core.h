@@ -89,11 +89,6 @@ bool QrngHeadSane(const QrngHead& h, int64_t dims);
 // Bytes of the chunk that __qesSearchChunk finds for `id`; -1 when there is none.
 int64_t ChunkBytes(const void* stream, int32_t id);
 
-// Whether a stream read from an image can be run: its head, and chunks large
-// enough for its dimension when its tables lie in chunks.
-bool SobolLoadable(void* stream);
-bool NiederrLoadable(void* stream);
-
 // Entries shared by both generators once the view is found.
 int32_t QrngGenerateWords(const QrngView& v, int32_t n, uint32_t* r);
 int32_t QrngGenerateDoubles(const QrngView& v, int32_t n, double* r, double a, double b);

@@ -8,6 +8,7 @@
 #include <string.h>
 
 #include "frame/export.h"
+#include "rng/brng/loadable.h"
 #include "rng/brng/word_forms.h"
 #include "rng/core/stream.h"
 
@@ -108,6 +109,11 @@ void Seed(R250State* s, int32_t n, const uint32_t* params) {
 }
 
 } // namespace
+
+bool R250Loadable(void* stream) {
+    const R250State& s = *StateOf<R250State>(stream);
+    return s.readPosition < kLength && s.lagPosition == (s.readPosition + kLag) % kLength;
+}
 
 } // namespace brenn::rng
 

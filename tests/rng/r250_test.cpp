@@ -122,4 +122,34 @@ TEST(RngR250, RefusesJumpsAndBitForms) {
     __qesDeleteStream(&s);
 }
 
+// The read and lag positions sit after the ring; the block form relies on the lag
+// being 103 words ahead of the read position, so an image that breaks this is refused.
+TEST(RngR250, ImagesWithPositionsNoStreamCanReachAreRefused) {
+    void* s = NewKeyed(QES_BRNG_R250, {42});
+    Words32 w(7);
+    ASSERT_EQ(_qesiRngUniformBits(0, s, 7, w.data()), 0);
+    std::vector<char> image(__qesGetStreamSize(s));
+    ASSERT_EQ(__qesSaveStreamM(s, image.data()), 0);
+    void* loaded = nullptr;
+    ASSERT_EQ(__qesLoadStreamM(&loaded, image.data()), 0);
+    __qesDeleteStream(&loaded);
+    const size_t positions = 24 + 250 * 4;
+    const uint32_t damaged[][2] = {{250, 103}, {7, 7}, {7, 109}, {200, 303}, {0xFFFFFFFF, 102}};
+    for (const auto& p : damaged) {
+        std::vector<char> bad = image;
+        std::memcpy(bad.data() + positions, p, sizeof p);
+        loaded = reinterpret_cast<void*>(1);
+        EXPECT_EQ(__qesLoadStreamM(&loaded, bad.data()), QES_RNG_STATUS_BAD_IMAGE_FORMAT)
+            << p[0] << " " << p[1];
+        EXPECT_EQ(loaded, nullptr);
+    }
+    // The lag wraps round the ring.
+    const uint32_t wrapped[2] = {200, 53};
+    std::vector<char> good = image;
+    std::memcpy(good.data() + positions, wrapped, sizeof wrapped);
+    EXPECT_EQ(__qesLoadStreamM(&loaded, good.data()), 0);
+    __qesDeleteStream(&loaded);
+    __qesDeleteStream(&s);
+}
+
 } // namespace
