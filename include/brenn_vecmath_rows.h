@@ -4990,7 +4990,10 @@ extern float brenn_zar_kernel_cSub_ctab[3];
  * @{ */
 /** @brief cMul at the LA level.
  * @details y[i] = Mul(a[i], b[i]) for i below n.
- * Reports no element and leaves the thread's status as it is.
+ * Elements outside the function's domain, poles, overflows and underflows are
+ * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
+ * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
  * @param b second arguments, n elements
@@ -5149,7 +5152,10 @@ extern float brenn_zar_kernel_zSub_ctab[3];
  * @{ */
 /** @brief zMul at the LA level.
  * @details y[i] = Mul(a[i], b[i]) for i below n.
- * Reports no element and leaves the thread's status as it is.
+ * Elements outside the function's domain, poles, overflows and underflows are
+ * reported as the thread's error mode says (BRENN_STATUS_DOMAIN to
+ * BRENN_STATUS_UNDERFLOW, under the row's public error name);
+ * the other elements leave the status as it is.
  * @param n number of elements
  * @param a first arguments, n elements
  * @param b second arguments, n elements

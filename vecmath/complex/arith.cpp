@@ -1,0 +1,216 @@
+/* Complex arithmetic, single (c) and double (z): Add, Sub, Conj, Mul, MulByConj, Div.
+ *
+ * Add and Sub are the real Add and Sub over the 2n parts. Conj turns the sign of every
+ * imaginary part and nothing else (no flag, a signalling NaN stays as it is).
+ *
+ * Double Mul and MulByConj, LA and HA: a lane whose four parts all lie in the window of
+ * exact.h has its products formed exactly and each part's sum of two products rounded
+ * once; every other lane (zeros, denormals, huge parts, infinities, NaNs) goes to the
+ * scaled scalar routine. EP: the plain products, and the lane goes to the scalar
+ * routine when a sum or difference cancelled by 20 bits or more or came out non-finite.
+ * Double Div, LA and HA: the same window, the divisor c^2 + d^2 and both numerators
+ * carried in two parts, each quotient from the reciprocal with one correction by the
+ * exact residual. EP: the plain formula with one shared reciprocal; its lanes outside
+ * the window go to the scalar routine too, since c*c overflows or underflows there.
+ *
+ * Single: products of singles are exact in double, so every level forms the formulas in
+ * double and rounds once to single (division by the double reciprocal); a lane whose
+ * result is not finite goes to the scalar routine (Annex G recovery, overflow status). */
+#include "vecmath/complex/arith_scalar.h"
+#include "vecmath/complex/cframe.h"
+#include "vecmath/frame/level.h"
+
+namespace brenn::vm::cx {
+namespace {
+
+// Lanes whose single result part is an infinity or a NaN.
+inline int NonFiniteBits(__m128 re, __m128 im) {
+    const I32x4 inf = Set<int32_t>(0x7F800000);
+    I32x4 r = Eq(And(AsInt(re), inf), inf), i = Eq(And(AsInt(im), inf), inf);
+    return MaskBits(Or(r, i));
+}
+
+// a (double, two lanes) below 2^-20 * q (or non-finite): |re| <= 2^-20 |q| in the
+// not-less sense, by integer compares of magnitudes so that NaNs raise no flag.
+inline I64x2 Cancelled(__m128d re, __m128d q) {
+    const I64x2 inf = Set<int64_t>(0x7FF0000000000000);
+    I64x2 r = AsInt(Abs(re)), t = AsInt(Mul(Abs(q), Set<double>(0x1p-20)));
+    I64x2 ok = And(Gt(r, t), Gt(inf, r));
+    return Not(ok);
+}
+
+template <bool Conj>
+constexpr const char* MulName() {
+    return Conj ? "vzMulByConj" : "vzMul";
+}
+template <bool Conj>
+constexpr const char* MulNameC() {
+    return Conj ? "vcMulByConj" : "vcMul";
+}
+
+template <bool Conj, Level L>
+struct MulZ {
+    using T = double;
+    using In = BrennComplex16;
+    using Out = BrennComplex16;
+    using V = __m128d;
+    static constexpr const char* kName = MulName<Conj>();
+    static int Eval(const Cx<double>* x, const Cx<double>* w, Cx<double>& y) {
+        V a = x->re, b = x->im, c = w->re, d = Conj ? Neg(w->im) : w->im;
+        if constexpr (L == Level::EP) {
+            V p = Mul(a, c), q = Mul(b, d), s = Mul(a, d), t = Mul(b, c);
+            y.re = Sub(p, q);
+            y.im = Add(s, t);
+            return MaskBits(Or(Cancelled(y.re, q), Cancelled(y.im, s)));
+        } else {
+            V lo;
+            SumOfProducts(a, c, Neg(b), d, y.re, lo);
+            SumOfProducts(a, d, b, c, y.im, lo);
+            return MaskBits(OutsideWindow<kMulWindowTop>(a, b, c, d));
+        }
+    }
+    static int Scalar(const In* x, const In* w, Out* y) { return MulScalar(x, w, y, Conj); }
+};
+
+template <bool Conj>
+struct MulC {
+    using T = float;
+    using In = BrennComplex8;
+    using Out = BrennComplex8;
+    static constexpr const char* kName = MulNameC<Conj>();
+    static __m128d Re(__m128d a, __m128d b, __m128d c, __m128d d) {
+        return Sub(Mul(a, c), Mul(b, d));
+    }
+    static __m128d Im(__m128d a, __m128d b, __m128d c, __m128d d) {
+        return Add(Mul(a, d), Mul(b, c));
+    }
+    static int Eval(const Cx<float>* x, const Cx<float>* w, Cx<float>& y) {
+        __m128 wd = Conj ? Neg(w->im) : w->im;
+        __m128d a0 = WidenLower(x->re), b0 = WidenLower(x->im);
+        __m128d c0 = WidenLower(w->re), d0 = WidenLower(wd);
+        __m128d a1 = WidenUpper(x->re), b1 = WidenUpper(x->im);
+        __m128d c1 = WidenUpper(w->re), d1 = WidenUpper(wd);
+        y.re = Narrow(Re(a0, b0, c0, d0), Re(a1, b1, c1, d1));
+        y.im = Narrow(Im(a0, b0, c0, d0), Im(a1, b1, c1, d1));
+        return NonFiniteBits(y.re, y.im);
+    }
+    static int Scalar(const In* x, const In* w, Out* y) { return MulScalar(x, w, y, Conj); }
+};
+
+// The quotient hi + lo over the divisor dh + dl, from its reciprocal estimate inv.
+inline __m128d QuotientOf(__m128d nh, __m128d nl, __m128d dh, __m128d dl, __m128d inv) {
+    __m128d q = Mul(nh, inv), ph, pl;
+    ExactProduct(q, dh, ph, pl);
+    __m128d r = Add(Sub(Sub(nh, ph), pl), Sub(nl, Mul(q, dl)));
+    return Add(q, Mul(r, inv));
+}
+
+template <Level L>
+struct DivZ {
+    using T = double;
+    using In = BrennComplex16;
+    using Out = BrennComplex16;
+    using V = __m128d;
+    static constexpr const char* kName = "vzDiv";
+    static int Eval(const Cx<double>* x, const Cx<double>* w, Cx<double>& y) {
+        V a = x->re, b = x->im, c = w->re, d = w->im;
+        int bits = MaskBits(OutsideWindow<kDivWindowTop>(a, b, c, d));
+        if constexpr (L == Level::EP) {
+            V r = Div(Set<double>(1), Add(Mul(c, c), Mul(d, d)));
+            y.re = Mul(Add(Mul(a, c), Mul(b, d)), r);
+            y.im = Mul(Sub(Mul(b, c), Mul(a, d)), r);
+        } else {
+            V dh, dl, nh, nl;
+            SumOfProducts(c, c, d, d, dh, dl);
+            V inv = Div(Set<double>(1), dh);
+            SumOfProducts(a, c, b, d, nh, nl);
+            y.re = QuotientOf(nh, nl, dh, dl, inv);
+            SumOfProducts(b, c, Neg(a), d, nh, nl);
+            y.im = QuotientOf(nh, nl, dh, dl, inv);
+        }
+        return bits;
+    }
+    static int Scalar(const In* x, const In* w, Out* y) { return DivScalar(x, w, y); }
+};
+
+struct DivC {
+    using T = float;
+    using In = BrennComplex8;
+    using Out = BrennComplex8;
+    static constexpr const char* kName = "vcDiv";
+    static void Half(__m128d a, __m128d b, __m128d c, __m128d d, __m128d& re, __m128d& im) {
+        __m128d r = Div(Set<double>(1), Add(Mul(c, c), Mul(d, d)));
+        re = Mul(Add(Mul(a, c), Mul(b, d)), r);
+        im = Mul(Sub(Mul(b, c), Mul(a, d)), r);
+    }
+    static int Eval(const Cx<float>* x, const Cx<float>* w, Cx<float>& y) {
+        __m128d r0, i0, r1, i1;
+        Half(WidenLower(x->re), WidenLower(x->im), WidenLower(w->re), WidenLower(w->im), r0, i0);
+        Half(WidenUpper(x->re), WidenUpper(x->im), WidenUpper(w->re), WidenUpper(w->im), r1, i1);
+        y.re = Narrow(r0, r1);
+        y.im = Narrow(i0, i1);
+        return NonFiniteBits(y.re, y.im);
+    }
+    static int Scalar(const In* x, const In* w, Out* y) { return DivScalar(x, w, y); }
+};
+
+template <class Tp>
+struct ConjBody {
+    using T = Tp;
+    using In = ComplexOf<Tp>;
+    using Out = In;
+    static int Eval(const Cx<Tp>* x, const Cx<Tp>*, Cx<Tp>& y) {
+        y.re = x->re;
+        y.im = Neg(x->im);
+        return 0;
+    }
+};
+
+// The real kernel K over the parts of n complex elements, in pieces whose part count
+// fits its 32-bit count.
+template <class R, class E>
+inline void OverParts(void (*k)(int, const R*, const R*, R*), int n, const E* a, const E* b, E* y) {
+    constexpr int kPiece = 1 << 29;
+    for (int i = 0; i < n; i += kPiece) {
+        int m = n - i < kPiece ? n - i : kPiece;
+        k(2 * m, &a[i].re, &b[i].re, &y[i].re);
+    }
+}
+
+} // namespace
+} // namespace brenn::vm::cx
+
+using namespace brenn::vm;
+using namespace brenn::vm::cx;
+
+#define BRENN_COMPLEX_ADDSUB(t, r, level)                                                          \
+    void ZAR_KERNEL(t##Add, level) BRENN_SIG(t, Binary) {                                          \
+        OverParts(ZAR_KERNEL(r##Add, All), n, a, b, y);                                            \
+    }                                                                                              \
+    void ZAR_KERNEL(t##Sub, level) BRENN_SIG(t, Binary) {                                          \
+        OverParts(ZAR_KERNEL(r##Sub, All), n, a, b, y);                                            \
+    }
+
+extern "C" {
+BRENN_COMPLEX_ADDSUB(c, s, LaHa)
+BRENN_COMPLEX_ADDSUB(c, s, EP)
+BRENN_COMPLEX_ADDSUB(z, d, LaHa)
+BRENN_COMPLEX_ADDSUB(z, d, EP)
+
+ZAR_COMPLEX_KERNEL(c, Conj, All, Unary, ConjBody<float>)
+ZAR_COMPLEX_KERNEL(z, Conj, All, Unary, ConjBody<double>)
+
+ZAR_COMPLEX_KERNEL(z, Mul, LaHa, Binary, MulZ<false, Level::HA>)
+ZAR_COMPLEX_KERNEL(z, Mul, EP, Binary, MulZ<false, Level::EP>)
+ZAR_COMPLEX_KERNEL(z, MulByConj, LaHa, Binary, MulZ<true, Level::HA>)
+ZAR_COMPLEX_KERNEL(z, MulByConj, EP, Binary, MulZ<true, Level::EP>)
+ZAR_COMPLEX_KERNEL(c, Mul, LaHa, Binary, MulC<false>)
+ZAR_COMPLEX_KERNEL(c, Mul, EP, Binary, MulC<false>)
+ZAR_COMPLEX_KERNEL(c, MulByConj, LaHa, Binary, MulC<true>)
+ZAR_COMPLEX_KERNEL(c, MulByConj, EP, Binary, MulC<true>)
+
+ZAR_COMPLEX_KERNEL(z, Div, LaHa, Binary, DivZ<Level::HA>)
+ZAR_COMPLEX_KERNEL(z, Div, EP, Binary, DivZ<Level::EP>)
+ZAR_COMPLEX_KERNEL(c, Div, LaHa, Binary, DivC)
+ZAR_COMPLEX_KERNEL(c, Div, EP, Binary, DivC)
+}

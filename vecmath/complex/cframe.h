@@ -1,0 +1,192 @@
+/* The frame of the complex kernels with vector bodies: arithmetic, modulus, phase,
+ * exponential, logarithm and root of single (c) and double (z) complex vectors.
+ *
+ * Elements are {re, im} pairs. A group is one register of real parts and one of
+ * imaginary parts: two elements in double, four in single, read as two registers and
+ * separated into parts (and joined again to store). A body supplies
+ *   using T = float or double; using In, Out: the element types it reads and writes
+ *   (BrennComplex8/16, or T for the real side of Abs, Arg and CIS);
+ *   int Eval(const Cx<T>* a, const Cx<T>* b, Cx<T>& y)
+ *               the vector arithmetic on one group; b is null for one input, and a real
+ *               input or output uses the re part only; returns the special-lane bits
+ *               (bit k for element k of the group)
+ *   Scalar(...) the routine for one special lane, on the caller's elements:
+ *               int Scalar(const In* a, const In* b, Out* y) (b is null for one input);
+ *               returns the status
+ *   kName       the public error name, for bodies whose Scalar can return a status
+ * and the frame does the rest: the environment of the kernel frame, groups read and
+ * stored whole while they fit, the last partial group filled with the safe value 0.75
+ * (nothing outside the vectors is read or written), the scalar routine for each special
+ * lane, the reporter for each non-zero status with the reload of the element, and
+ * in-place operation (y may equal a or b). */
+#ifndef BRENN_VECMATH_COMPLEX_CFRAME_H
+#define BRENN_VECMATH_COMPLEX_CFRAME_H
+
+#include <type_traits>
+
+#include "frame/kernels.h"
+#include "vecmath/frame/kernel_frame.h"
+
+namespace brenn::vm {
+
+// The parts of one group.
+template <class T>
+struct Cx {
+    Vec<T> re, im;
+};
+
+// Elements a group: one register of parts.
+template <class T>
+inline constexpr int kGroup = kLanes<T>;
+
+// The complex element of a real type, and back.
+template <class T>
+using ComplexOf = std::conditional_t<std::is_same_v<T, float>, BrennComplex8, BrennComplex16>;
+
+template <class E>
+inline constexpr bool kIsComplex =
+    std::is_same_v<E, BrennComplex8> || std::is_same_v<E, BrennComplex16>;
+
+// One group of complex elements from p, separated into parts; and joined back.
+inline Cx<double> LoadParts(const BrennComplex16* p) {
+    const double* d = &p->re;
+    __m128d e0 = Load(d), e1 = Load(d + 2);
+    return {InterleaveLower(e0, e1), InterleaveUpper(e0, e1)};
+}
+inline Cx<float> LoadParts(const BrennComplex8* p) {
+    const float* f = &p->re;
+    __m128 e01 = Load(f), e23 = Load(f + 4);
+    return {_mm_shuffle_ps(e01, e23, _MM_SHUFFLE(2, 0, 2, 0)),
+            _mm_shuffle_ps(e01, e23, _MM_SHUFFLE(3, 1, 3, 1))};
+}
+inline void StoreParts(BrennComplex16* p, const Cx<double>& c) {
+    double* d = &p->re;
+    Store(d, InterleaveLower(c.re, c.im));
+    Store(d + 2, InterleaveUpper(c.re, c.im));
+}
+inline void StoreParts(BrennComplex8* p, const Cx<float>& c) {
+    float* f = &p->re;
+    Store(f, InterleaveLower(c.re, c.im));
+    Store(f + 4, InterleaveUpper(c.re, c.im));
+}
+// A real group: the re part only.
+template <class T>
+inline Cx<T> LoadParts(const T* p) {
+    return {Load(p), Zero<T>()};
+}
+template <class T>
+inline void StoreParts(T* p, const Cx<T>& c) {
+    Store(p, c.re);
+}
+
+// The safe value of the partial group's unused elements.
+template <class E>
+inline void FillSafe(E& e) {
+    if constexpr (kIsComplex<E>) {
+        e.re = 0.75f;
+        e.im = 0.75f;
+    } else {
+        e = E(0.75);
+    }
+}
+
+template <class B>
+struct ComplexFrame {
+    using T = typename B::T;
+    using In = typename B::In;
+    using Out = typename B::Out;
+    static constexpr int K = kGroup<T>;
+
+    // The reporter's view of a call: complex elements, or the result reported as the
+    // complex element whose real part it is (Abs and Arg never report).
+    static void Report(int st, int i, const In* a, const In* b, Out* y) {
+        if constexpr (kIsComplex<In> && kIsComplex<Out>)
+            frame::ReportError(st, i, a, b ? b : a, y, y, NameOf<B>());
+    }
+
+    // The special lanes of a group whose results sit in r (K elements from i).
+    static void Special(const B& body, const In* a, const In* b, Out* y, int i, int bits, Out* r) {
+        for (int k = 0; k < K; ++k) {
+            if (!(bits & (1 << k))) continue;
+            int st = body.Scalar(a + i + k, b ? b + i + k : nullptr, r + k);
+            if (__builtin_expect(st != status::kNone, 0)) {
+                y[i + k] = r[k];
+                Report(st, i + k, a, b, y);
+                r[k] = y[i + k];
+            }
+        }
+    }
+
+    static inline void Group(const B& body, const In* a, const In* b, Out* y, int i) {
+        Cx<T> ca = LoadParts(a + i), cb, cy;
+        if (b) cb = LoadParts(b + i);
+        int bits = body.Eval(&ca, b ? &cb : nullptr, cy);
+        if (__builtin_expect(bits == 0, 1)) {
+            StoreParts(y + i, cy);
+            return;
+        }
+        if constexpr (kHasScalar<B>) {
+            alignas(16) Out r[K];
+            StoreParts(r, cy);
+            Special(body, a, b, y, i, bits, r);
+            for (int k = 0; k < K; ++k)
+                y[i + k] = r[k];
+        }
+    }
+
+    // The last m (< K) elements, through a group of copies.
+    static void Partial(const B& body, const In* a, const In* b, Out* y, int i, int m) {
+        alignas(16) In ta[K], tb[K];
+        for (int k = 0; k < K; ++k) {
+            FillSafe(ta[k]);
+            FillSafe(tb[k]);
+        }
+        for (int k = 0; k < m; ++k) {
+            ta[k] = a[i + k];
+            if (b) tb[k] = b[i + k];
+        }
+        Cx<T> ca = LoadParts(ta), cb, cy;
+        if (b) cb = LoadParts(tb);
+        int bits = body.Eval(&ca, b ? &cb : nullptr, cy) & ((1 << m) - 1);
+        alignas(16) Out r[K];
+        StoreParts(r, cy);
+        if constexpr (kHasScalar<B>)
+            if (bits) Special(body, a, b, y, i, bits, r);
+        for (int k = 0; k < m; ++k)
+            y[i + k] = r[k];
+    }
+
+    static void Run(const B& body, int n, const In* a, const In* b, Out* y) {
+        Env<B> env = Enter<B>();
+        int i = 0;
+        for (; i + 2 * K <= n; i += 2 * K) {
+            Group(body, a, b, y, i);
+            Group(body, a, b, y, i + K);
+        }
+        for (; i + K <= n; i += K)
+            Group(body, a, b, y, i);
+        if (i < n) Partial(body, a, b, y, i, n - i);
+        Leave(env);
+    }
+};
+
+template <class B>
+inline void RunComplex(int n, const typename B::In* a, const typename B::In* b,
+                       typename B::Out* y) {
+    ComplexFrame<B>::Run(B{}, n, a, b, y);
+}
+
+} // namespace brenn::vm
+
+// Kernels from complex bodies, inside an extern "C" block: ZAR_COMPLEX_KERNEL(z, Mul,
+// LaHa, Binary, Body) defines the kernel of row zMul in its shared LA/HA slot.
+#define ZAR_COMPLEX_RUN_Binary(...) brenn::vm::RunComplex<__VA_ARGS__>(n, a, b, y)
+#define ZAR_COMPLEX_RUN_Unary(...) brenn::vm::RunComplex<__VA_ARGS__>(n, a, nullptr, y)
+#define ZAR_COMPLEX_RUN_AbsArg(...) brenn::vm::RunComplex<__VA_ARGS__>(n, a, nullptr, y)
+#define ZAR_COMPLEX_RUN_Cis(...) brenn::vm::RunComplex<__VA_ARGS__>(n, a, nullptr, y)
+#define ZAR_COMPLEX_KERNEL(t, Fn, level, Shape, ...)                                               \
+    void ZAR_KERNEL(t##Fn, level) BRENN_SIG(t, Shape) {                                            \
+        ZAR_COMPLEX_RUN_##Shape(__VA_ARGS__);                                                      \
+    }
+
+#endif

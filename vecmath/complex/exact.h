@@ -1,0 +1,97 @@
+/* Exact products and sums of products for the double complex arithmetic, on registers
+ * and on single elements, and the range window inside which they need no scaling.
+ *
+ * A product a*b is carried as hi + lo with hi = a*b rounded and lo its exact error:
+ * both factors split by Veltkamp's constant 2^27 + 1 into halves of at most 26 bits,
+ * whose four partial products are exact, added to the head's negation from the largest
+ * to the smallest (Dekker), so that each partial sum is exact as well. (The shared
+ * TwoProduct adds the cross products first and may be off by 2^-78 of the product;
+ * complex Mul must give exact answers where two products cancel.)
+ *
+ * A sum of two such products, a*c + b*d, is the two heads' exact sum (Knuth) with the
+ * errors added to its error term: hi + lo within about 2^-104 of the exact value,
+ * hi the value rounded (correctly unless the error term lies within that margin of a
+ * half ulp). */
+#ifndef BRENN_VECMATH_COMPLEX_EXACT_H
+#define BRENN_VECMATH_COMPLEX_EXACT_H
+
+#include <stdint.h>
+
+#include "vecmath/frame/vec.h"
+
+namespace brenn::vm::cx {
+
+constexpr double kVeltkamp = 134217729.0; // 2^27 + 1
+
+template <class V>
+BRENN_VEC void ExactProduct(V a, V b, V& hi, V& lo) {
+    const V split = Set<double>(kVeltkamp);
+    V ta = Mul(a, split), tb = Mul(b, split);
+    V ah = Sub(ta, Sub(ta, a)), al = Sub(a, ah);
+    V bh = Sub(tb, Sub(tb, b)), bl = Sub(b, bh);
+    hi = Mul(a, b);
+    lo = Add(Add(Add(Sub(Mul(ah, bh), hi), Mul(ah, bl)), Mul(al, bh)), Mul(al, bl));
+}
+
+// hi + lo = a*c + s*b*d (s = +1 or -1 by Neg), hi the rounded value.
+template <class V>
+BRENN_VEC void SumOfProducts(V a, V c, V b, V d, V& hi, V& lo) {
+    V p, pl, q, ql, e;
+    ExactProduct(a, c, p, pl);
+    ExactProduct(b, d, q, ql);
+    TwoSum(p, q, hi, e);
+    lo = Add(e, Add(pl, ql));
+    FastTwoSum(hi, lo, hi, lo);
+}
+
+// The window of the vector bodies: a part whose high word, sign cleared, lies in
+// [0x23400000, top] keeps every product, its splitting and its error term normal and
+// finite. Mul's top is 0x5FD6A09D (|x| < 2^510.5). Div's is 0x5EFFFFFF (|x| < 2^497):
+// its divisor c^2 + d^2 is split as well, for the residual of the quotient, and must
+// stay below 2^996. Inside both, every quotient of such parts is normal and finite.
+// Zeros, denormals, huge parts, infinities and NaNs fall outside. The test is one
+// subtraction and one signed compare: the window moved to the bottom of the signed range.
+constexpr int32_t kWindowBottom = 0x23400000;
+constexpr int32_t kMulWindowTop = 0x5FD6A09D;
+constexpr int32_t kDivWindowTop = 0x5EFFFFFF;
+
+// Each 64-bit lane all ones where one of the four parts lies outside the window.
+template <int32_t Top>
+BRENN_VEC __m128d OutsideWindow(__m128d a, __m128d b, __m128d c, __m128d d) {
+    constexpr uint32_t kBase = uint32_t(kWindowBottom) + 0x80000000u;
+    const I32x4 base = Set<int32_t>(int32_t(kBase));
+    const I32x4 top = Set<int32_t>(int32_t(uint32_t(Top) - kBase));
+    const I32x4 magnitude = Set<int32_t>(0x7FFFFFFF);
+    I32x4 o = Gt(Sub(And(BitCast<I32x4>(a), magnitude), base), top);
+    o = Or(o, Gt(Sub(And(BitCast<I32x4>(b), magnitude), base), top));
+    o = Or(o, Gt(Sub(And(BitCast<I32x4>(c), magnitude), base), top));
+    o = Or(o, Gt(Sub(And(BitCast<I32x4>(d), magnitude), base), top));
+    // the high words' verdicts over their whole lanes
+    return AsFloat(BitCast<I64x2>(I32x4{_mm_shuffle_epi32(o.v, _MM_SHUFFLE(3, 3, 1, 1))}));
+}
+
+// The same products on single elements.
+inline void ExactProduct(double a, double b, double& hi, double& lo) {
+    double ta = a * kVeltkamp, tb = b * kVeltkamp;
+    double ah = ta - (ta - a), al = a - ah;
+    double bh = tb - (tb - b), bl = b - bh;
+    hi = a * b;
+    lo = (((ah * bh - hi) + ah * bl) + al * bh) + al * bl;
+}
+
+inline void SumOfProducts(double a, double c, double b, double d, double& hi, double& lo) {
+    double p, pl, q, ql;
+    ExactProduct(a, c, p, pl);
+    ExactProduct(b, d, q, ql);
+    hi = p + q;
+    double bb = hi - p;
+    double e = (p - (hi - bb)) + (q - bb);
+    lo = e + (pl + ql);
+    double s = hi + lo;
+    lo = lo - (s - hi);
+    hi = s;
+}
+
+} // namespace brenn::vm::cx
+
+#endif
