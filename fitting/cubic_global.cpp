@@ -2,10 +2,11 @@
 // tridiagonal system h[i]*d[i-1] + 2*(h[i-1] + h[i])*d[i] + h[i-1]*d[i+1] =
 // 3*(h[i]*m[i-1] + h[i-1]*m[i]) with the end rows of the boundary column. The matrix
 // depends on the partition only: one function is solved at once, several share one
-// factorization. The periodic system (nx-1 unknowns, cyclic) is solved by
-// Sherman-Morrison: one factorization, the correction vector as a second right-hand
-// side. On a uniform partition the rows are divided by the step.
+// factorization. The periodic system (nx-1 unknowns, cyclic) is solved by one
+// elimination pass that carries its corners (cyclic_tridiag.h), its multipliers kept
+// for further functions. On a uniform partition the rows are divided by the step.
 #include "fitting/cubic.h"
+#include "fitting/cyclic_tridiag.h"
 #include "frame/export.h"
 #include "platform/tridiag.h"
 
@@ -62,24 +63,9 @@ struct GlobalSystem {
     // Unknowns: nx, or nx-1 for the periodic system.
     int64_t Unknowns() const { return kPeriodic ? nx - 1 : nx; }
 
-    // The matrix. Periodic: the cyclic rows without their corners, which Corners gives;
-    // with two unknowns the corners fall on the off-diagonals and are added there.
+    // The matrix of the open (not periodic) system.
     void Matrix(T* dl, T* d, T* du) const {
-        int64_t n = Unknowns();
-        if (kPeriodic) {
-            for (int64_t i = 0; i < n; ++i) {
-                int64_t left = i == 0 ? n - 1 : i - 1;
-                T hl = hh(left), hr = hh(i);
-                d[i] = T(2) * (hl + hr);
-                if (i > 0) dl[i - 1] = hr;
-                if (i + 1 < n) du[i] = hl;
-            }
-            if (n == 2) {
-                dl[0] += hh(0);
-                du[0] += hh(0);
-            }
-            return;
-        }
+        int64_t n = nx;
         for (int64_t i = 1; i + 1 < n; ++i) {
             T hl = hh(i - 1), hr = hh(i);
             dl[i - 1] = hr;
@@ -96,6 +82,20 @@ struct GlobalSystem {
             du[0] = kLeftFirst ? T(0) : T(1);
             dl[n - 2] = kRightFirst ? T(0) : T(1);
             d[n - 1] = kRightFirst ? T(1) : T(2);
+        }
+    }
+
+    // The periodic matrix, rows by their three coefficients (a[0] and c[n-1] are the
+    // corners): the cell before node 0 is the last one.
+    void CyclicMatrix(T* a, T* b, T* c) const {
+        int64_t n = Unknowns();
+        T hl = hh(n - 1);
+        for (int64_t i = 0; i < n; ++i) {
+            T hr = hh(i);
+            a[i] = hr;
+            b[i] = T(2) * (hl + hr);
+            c[i] = hl;
+            hl = hr;
         }
     }
 
@@ -154,13 +154,86 @@ struct GlobalSystem {
     }
 };
 
-// x - (x[0] + alpha/gamma*x[n-1]) / (1 + z[0] + alpha/gamma*z[n-1]) * z: the solution of
-// the cyclic system from those of the reduced one with the two right-hand sides.
+// Work elements of the open solve: the pivot indices first, at the block's alignment,
+// then the diagonals and the fill of the factorization (the pivots and the fill for
+// several functions only).
 template <typename T>
-inline void ShermanMorrison(int64_t n, T ratio, const T* z, T* x) {
-    T factor = (x[0] + ratio * x[n - 1]) / (T(1) + z[0] + ratio * z[n - 1]);
-    for (int64_t i = 0; i < n; ++i)
-        x[i] -= factor * z[i];
+inline int64_t PivotElements(int64_t n, bool factored) {
+    return factored ? n * static_cast<int64_t>(sizeof(int64_t) / sizeof(T)) : 0;
+}
+
+template <typename T>
+inline int64_t OpenElements(int64_t n, bool factored) {
+    return PivotElements<T>(n, factored) + (factored ? 4 : 3) * n;
+}
+
+// The derivatives of nf functions (function f's at d + f*nx) from the open system.
+template <typename T, bool Columns, bool Uniform, int Column>
+void OpenDerivatives(const GlobalSystem<T, Columns, Uniform, Column>& sys, const FittingTask* task,
+                     int64_t nf, T* work, T* d) {
+    int64_t n = sys.nx;
+    if (GlobalSystem<T, Columns, Uniform, Column>::kNotAKnot && n == 3) {
+        for (int64_t f = 0; f < nf; ++f)
+            sys.Parabola(FunctionValues<T, Columns>(task, f), d + f * n);
+        return;
+    }
+    bool factored = nf > 1;
+    auto* ipiv = reinterpret_cast<int64_t*>(work);
+    T* dl = work + PivotElements<T>(n, factored);
+    T* dd = dl + n;
+    T* du = dd + n;
+    T* du2 = du + n;
+    sys.Matrix(dl, dd, du);
+    if (!factored) {
+        sys.Rhs(FunctionValues<T, Columns>(task, 0), d);
+        SolveOnce<T>(n, 1, dl, dd, du, d);
+        return;
+    }
+    Factor<T>(n, dl, dd, du, du2, ipiv);
+    for (int64_t f = 0; f < nf; ++f) {
+        T* df = d + f * n;
+        sys.Rhs(FunctionValues<T, Columns>(task, f), df);
+        SolveFactored<T>(n, dl, dd, du, du2, ipiv, df);
+    }
+}
+
+// Work elements of the periodic solve on n unknowns: the three coefficients of the
+// rows, the reduced super-diagonal and corner column, and the multipliers kept for
+// several functions.
+inline int64_t PeriodicElements(int64_t n, bool factored) {
+    return n < 2 ? 0 : 3 * n + (factored ? 5 : 2) * (n - 1);
+}
+
+// The derivatives of nf periodic functions: nx-1 unknowns, the last node's derivative
+// that of the first.
+template <typename T, bool Columns, bool Uniform, int Column>
+void PeriodicDerivatives(const GlobalSystem<T, Columns, Uniform, Column>& sys,
+                         const FittingTask* task, int64_t nf, T* work, T* d) {
+    int64_t nx = sys.nx, n = nx - 1;
+    if (n == 1) {
+        // One cell whose ends agree: the derivative of the cell's line, at both ends.
+        for (int64_t f = 0; f < nf; ++f) {
+            auto y = FunctionValues<T, Columns>(task, f);
+            d[f * nx] = d[f * nx + 1] = sys.m(y, 0);
+        }
+        return;
+    }
+    T* a = work;
+    T* b = a + n;
+    T* c = b + n;
+    CyclicFactors<T> fac{c + n, c + 2 * n - 1, c + 3 * n - 2, c + 4 * n - 3, c + 5 * n - 4, T(0)};
+    sys.CyclicMatrix(a, b, c);
+    for (int64_t f = 0; f < nf; ++f) {
+        T* df = d + f * nx;
+        sys.Rhs(FunctionValues<T, Columns>(task, f), df);
+        if (nf == 1)
+            SolveCyclic<T, CyclicPass::kFactorSolve>(n, a, b, c, fac, df);
+        else if (f == 0)
+            SolveCyclic<T, CyclicPass::kFactorKeepSolve>(n, a, b, c, fac, df);
+        else
+            SolveCyclic<T, CyclicPass::kSolve>(n, a, b, c, fac, df);
+        df[nx - 1] = df[0];
+    }
 }
 
 template <typename T, bool Columns, bool Uniform, int Column>
@@ -169,79 +242,22 @@ int32_t GlobalWorker(FittingTask* task, const threader* thr) {
     int64_t nx = task->nx;
     int64_t nf = task->ny > 0 ? task->ny : 1;
     if (int32_t s = CheckCubicTask<T, Columns>(task, nf)) return s;
-    int64_t n = System::kPeriodic ? nx - 1 : nx;
-    bool cyclic = System::kPeriodic && n >= 3;
     bool factored = nf > 1;
-
-    // The pivot indices first, at the block's alignment (several functions only); the
-    // diagonals, the fill of the factorization (several functions), the two right-hand
-    // sides of the cyclic system, the reciprocal widths and the derivatives.
-    int64_t pivotElements = factored ? n * static_cast<int64_t>(sizeof(int64_t) / sizeof(T)) : 0;
-    int64_t fill = factored ? n : 0, sides = cyclic ? 2 * n : 0;
+    int64_t solveElements =
+        System::kPeriodic ? PeriodicElements(nx - 1, factored) : OpenElements<T>(nx, factored);
+    // The solve's work first, at the block's alignment; the reciprocal widths and the
+    // derivatives.
     CubicWork<T> work;
-    if (!work.Allocate(
-            {pivotElements, 3 * n, fill, sides, ReciprocalElements<Uniform>(nx), nf * nx}))
+    if (!work.Allocate({solveElements, ReciprocalElements<Uniform>(nx), nf * nx}))
         return FIT_STATUS_NO_MEMORY;
-    auto* ipiv = reinterpret_cast<int64_t*>(work.Take(pivotElements));
-    T* dl = work.Take(n);
-    T* dd = work.Take(n);
-    T* du = work.Take(n);
-    T* du2 = work.Take(fill);
-    T* z = work.Take(sides);
+    T* solveWork = work.Take(solveElements);
     System sys{CellsOf<T, Uniform>(task, work.Take(ReciprocalElements<Uniform>(nx))), nx,
                static_cast<const T*>(task->bc)};
     T* d = work.Take(nf * nx);
-
-    if (System::kPeriodic && n == 1) {
-        // One cell whose ends agree: the derivative of the cell's line, at both ends.
-        for (int64_t f = 0; f < nf; ++f) {
-            auto y = FunctionValues<T, Columns>(task, f);
-            d[f * nx] = d[f * nx + 1] = sys.m(y, 0);
-        }
-    } else if (System::kNotAKnot && nx == 3) {
-        for (int64_t f = 0; f < nf; ++f)
-            sys.Parabola(FunctionValues<T, Columns>(task, f), d + f * nx);
-    } else {
-        sys.Matrix(dl, dd, du);
-        T ratio = T(0);
-        if (cyclic) {
-            // The corners alpha (row 0) and beta (row n-1) leave the matrix as the
-            // outer product u v^T, u = (gamma, 0, ..., beta), v = (1, 0, ..., alpha/gamma).
-            T alpha = sys.hh(0), beta = sys.hh(n - 2), gamma = -dd[0];
-            dd[0] -= gamma;
-            dd[n - 1] -= alpha * beta / gamma;
-            ratio = alpha / gamma;
-            for (int64_t i = 0; i < n; ++i)
-                z[n + i] = T(0);
-            z[n] = gamma;
-            z[2 * n - 1] = beta;
-        }
-        if (!factored) {
-            auto y = FunctionValues<T, Columns>(task, 0);
-            if (cyclic) {
-                sys.Rhs(y, z);
-                SolveOnce<T>(n, 2, dl, dd, du, z);
-                ShermanMorrison(n, ratio, z + n, z);
-                for (int64_t i = 0; i < n; ++i)
-                    d[i] = z[i];
-            } else {
-                sys.Rhs(y, d);
-                SolveOnce<T>(n, 1, dl, dd, du, d);
-            }
-        } else {
-            Factor<T>(n, dl, dd, du, du2, ipiv);
-            if (cyclic) SolveFactored<T>(n, dl, dd, du, du2, ipiv, z + n);
-            for (int64_t f = 0; f < nf; ++f) {
-                T* df = d + f * nx;
-                sys.Rhs(FunctionValues<T, Columns>(task, f), df);
-                SolveFactored<T>(n, dl, dd, du, du2, ipiv, df);
-                if (cyclic) ShermanMorrison(n, ratio, z + n, df);
-            }
-        }
-        if (System::kPeriodic)
-            for (int64_t f = 0; f < nf; ++f)
-                d[f * nx + nx - 1] = d[f * nx];
-    }
+    if constexpr (System::kPeriodic)
+        PeriodicDerivatives(sys, task, nf, solveWork, d);
+    else
+        OpenDerivatives(sys, task, nf, solveWork, d);
     WriteCubicCells<T, Columns, Uniform>(task, sys.cells, d, nf, thr);
     return FIT_STATUS_OK;
 }

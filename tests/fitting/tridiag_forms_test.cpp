@@ -1,6 +1,6 @@
 // The tridiagonal forms in the sizes and shapes the cubic splines use, in both
 // precisions: one, two and three unknowns, rows that need interchanges (as the
-// not-a-knot end rows do), two right-hand sides at once (the cyclic correction), and
+// not-a-knot end rows do), two right-hand sides at once, and
 // the factored form against the one-pass form.
 #include <gtest/gtest.h>
 

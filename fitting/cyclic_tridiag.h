@@ -1,0 +1,117 @@
+// The cyclic tridiagonal solve of the periodic cubic splines: row i reads
+// a[i]*x[i-1] + b[i]*x[i] + c[i]*x[i+1] = r[i] with indices modulo n, so a[0] and
+// c[n-1] are the corners. One elimination pass without interchanges carries the corner
+// column (the coefficients of x[n-1] that rows 0 to n-2 take on) and the corner row (the
+// last row, eliminated column by column alongside), then one back substitution: O(n),
+// one right-hand side, no second system as a rank-one correction would need.
+//
+// Why no pivoting: the matrices here are strictly diagonally dominant by rows (the
+// spline's rows have 2*(h[i-1] + h[i]) against h[i-1] + h[i]). Elimination keeps that
+// dominance in every remaining block, so each pivot exceeds the row's other entries, the
+// multipliers stay below 1 in magnitude and nothing grows by more than a factor of two:
+// the rounding is that of a backward-stable solve. The corner column and row shrink by
+// a multiplier per row and underflow harmlessly to zero on long systems.
+//
+// Several right-hand sides of one matrix: the first pass keeps its multipliers
+// (CyclicPass::kFactorKeepSolve) and later ones reuse them (kSolve); every pass does
+// the same operations on a right-hand side in the same order, so each solution has the
+// same bits as a pass of its own (kFactorSolve).
+#ifndef BRENN_FITTING_CYCLIC_TRIDIAG_H
+#define BRENN_FITTING_CYCLIC_TRIDIAG_H
+
+#include <cstdint>
+
+namespace brenn::fit {
+
+// What the elimination leaves for the back substitution and for later right-hand sides;
+// each array has n-1 elements, for rows 0 to n-2.
+template <typename T>
+struct CyclicFactors {
+    T* u;   // c[k] / pivot[k]: the reduced super-diagonal
+    T* v;   // the corner column's entry of row k / pivot[k]
+    T* q;   // 1 / pivot[k] (kept passes only)
+    T* l;   // l[k]: multiple of row k-1 taken from row k, k from 1 (kept passes only)
+    T* f;   // multiple of row k taken from the last row (kept passes only)
+    T last; // the last row's pivot
+};
+
+enum class CyclicPass {
+    kFactorSolve,     // eliminate and solve; u, v written
+    kFactorKeepSolve, // the same, and every multiplier kept
+    kSolve,           // solve with the factors a kept pass left; a, b, c unused
+};
+
+// Solves the cyclic system for r in place, n >= 2 (with two unknowns the corners fall
+// on the same columns as the off-diagonals and are added to them).
+template <typename T, CyclicPass Pass>
+void SolveCyclic(int64_t n, const T* a, const T* b, const T* c, CyclicFactors<T>& fac, T* r) {
+    constexpr bool kFactor = Pass != CyclicPass::kSolve;
+    constexpr bool kKeep = Pass == CyclicPass::kFactorKeepSolve;
+    const int64_t last = n - 1;
+    // Row k's pivot and corner-column entry, the last row's entry in column k and its
+    // diagonal, as the elimination reaches row k.
+    T pivot = T(0), corner = T(0), edge = T(0), diagonal = T(0);
+    if constexpr (kFactor) {
+        pivot = b[0];
+        corner = a[0];
+        edge = c[last];
+        diagonal = b[last];
+        if (n == 2) {
+            corner += c[0];
+            edge += a[1];
+        }
+    }
+    T y = r[0], rLast = r[last];
+    for (int64_t k = 0;; ++k) {
+        T q, f;
+        if constexpr (kFactor) {
+            q = T(1) / pivot;
+            f = edge * q;
+            diagonal -= f * corner;
+            fac.u[k] = c[k] * q;
+            fac.v[k] = corner * q;
+            if constexpr (kKeep) {
+                fac.q[k] = q;
+                fac.f[k] = f;
+            }
+        } else {
+            q = fac.q[k];
+            f = fac.f[k];
+        }
+        rLast -= f * y;
+        r[k] = y * q;
+        if (k + 1 == last) break;
+        T l;
+        if constexpr (kFactor) {
+            l = a[k + 1] * q;
+            // The next pivot by one division of the product (a[k+1]*c[k] does not wait
+            // for it): the pivots form the only chain of divisions in the pass.
+            pivot = b[k + 1] - a[k + 1] * c[k] / pivot;
+            corner = -l * corner;
+            edge = -f * c[k];
+            if (k + 2 == last) {
+                // Row n-2's super-diagonal and the last row's sub-diagonal lie in the
+                // corner column and row.
+                corner += c[k + 1];
+                edge += a[last];
+            }
+            if constexpr (kKeep) fac.l[k + 1] = l;
+        } else {
+            l = fac.l[k + 1];
+        }
+        y = r[k + 1] - l * y;
+    }
+    if constexpr (kFactor) fac.last = diagonal;
+    T xLast = rLast / fac.last;
+    r[last] = xLast;
+    T x = r[last - 1] - fac.v[last - 1] * xLast;
+    r[last - 1] = x;
+    for (int64_t k = last - 2; k >= 0; --k) {
+        x = (r[k] - fac.v[k] * xLast) - fac.u[k] * x;
+        r[k] = x;
+    }
+}
+
+} // namespace brenn::fit
+
+#endif
