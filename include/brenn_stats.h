@@ -91,6 +91,14 @@ enum {
     BRENN_SS_ERROR_COR_MISSING = -4019,
     /** the accumulated weights are missing where needed */
     BRENN_SS_ERROR_ACCUM_WEIGHT_MISSING = -4020,
+    /** the quantile orders are missing */
+    BRENN_SS_ERROR_QUANTILE_ORDERS_MISSING = -4021,
+    /** the quantile order count is missing or below 0, or an order is outside [0, 1] */
+    BRENN_SS_ERROR_QUANTILE_ORDER_COUNT = -4022,
+    /** the quantile array is missing */
+    BRENN_SS_ERROR_QUANTILES_MISSING = -4023,
+    /** the order-statistics array is missing */
+    BRENN_SS_ERROR_ORDER_STATISTICS_MISSING = -4024,
     /** a method word that cannot be used, or an estimate the method cannot give */
     BRENN_SS_ERROR_METHOD = -4029,
     /** a null task (or task handle address) */
@@ -111,8 +119,28 @@ enum {
     BRENN_SS_ERROR_CENTRAL_SUM3_MISSING = -4079,
     /** the central sum 4 array is missing */
     BRENN_SS_ERROR_CENTRAL_SUM4_MISSING = -4080,
+    /** the streaming parameter count is missing */
+    BRENN_SS_ERROR_STREAM_PARAM_COUNT_MISSING = -4064,
+    /** the streaming parameters are missing */
+    BRENN_SS_ERROR_STREAM_PARAMS_MISSING = -4065,
+    /** the streaming parameter count is not 1 */
+    BRENN_SS_ERROR_STREAM_PARAM_COUNT = -4066,
+    /** the streaming accuracy is not in (0, 1] */
+    BRENN_SS_ERROR_STREAM_ACCURACY = -4067,
+    /** the streaming quantile orders are missing */
+    BRENN_SS_ERROR_STREAM_ORDERS_MISSING = -4068,
+    /** the streaming order count is missing or below 0, or an order is outside [0, 1] */
+    BRENN_SS_ERROR_STREAM_ORDER_COUNT = -4069,
+    /** the streaming quantile array is missing */
+    BRENN_SS_ERROR_STREAM_QUANTILES_MISSING = -4070,
     /** the cross-product matrix is missing */
-    BRENN_SS_ERROR_CROSS_PRODUCT_MISSING = -4081
+    BRENN_SS_ERROR_CROSS_PRODUCT_MISSING = -4081,
+    /** the result array of the median absolute deviation is missing */
+    BRENN_SS_ERROR_MAD_MISSING = -4082,
+    /** the sorted-observation array is missing */
+    BRENN_SS_ERROR_SORTED_MISSING = -4084,
+    /** the sort writes over its own observations with another layout, or with indices */
+    BRENN_SS_ERROR_SORT_STORAGE = -4085
 };
 
 /** Parameter ids of the general editors. Integer ids go through _qesiSSEditTask, real
@@ -228,6 +256,12 @@ enum {
 /** @} */
 /** Method word of minimum/maximum, quantiles, order statistics, sort and MAD. */
 #define BRENN_SS_METHOD_FAST 0x1ULL
+/** @name Method bits of the streaming quantiles
+ * At least one of the two.
+ * @{ */
+#define BRENN_SS_METHOD_STREAM_READ 0x40ULL /**< feed the block, then read the quantiles */
+#define BRENN_SS_METHOD_STREAM_FEED 0x80ULL /**< feed the block only */
+/** @} */
 
 /** @name Estimate bits
  * What a compute entry is asked for; bits combine.
@@ -538,6 +572,106 @@ int32_t _qesdSSMinmax(void* task, uint64_t estimates, uint64_t method);
 /** The single-precision form of _qesdSSMinmax().
  * @copydetails _qesdSSMinmax */
 int32_t _qessSSMinmax(void* task, uint64_t estimates, uint64_t method);
+
+/** @name Sort and select in place
+ * Quicksort with the median of three and straight insertion below 7 elements, by
+ * strict comparisons: NaNs are not ordered (they stop the scans as equal values
+ * would) but never make the routines read or write outside the array.
+ * @{ */
+/** Sorts a[0, n) ascending. */
+void __qesdQSort(int64_t n, double* a);
+/** The single-precision form of __qesdQSort(). */
+void __qessQSort(int64_t n, float* a);
+/** Sorts the n elements a[0], a[step], ... a[(n - 1) * step] ascending. */
+void __qesdQSortStep(int64_t n, double* a, int64_t step);
+/** The single-precision form of __qesdQSortStep(). */
+void __qessQSortStep(int64_t n, float* a, int64_t step);
+/** Rearranges a[0, n) so that a[k] (0 <= k < n) holds the k-th smallest value, with no
+ * greater value before it and no smaller one after it; returns a[k]. */
+double __qesdQSortSelect(int64_t n, double* a, int64_t k);
+/** The single-precision form of __qesdQSortSelect(). */
+float __qessQSortSelect(int64_t n, float* a, int64_t k);
+/** @} */
+
+/** Quantiles (BRENN_SS_QUANTS) and order statistics (BRENN_SS_ORDER_STATS) of each
+ * variable that the indices keep. For an order b of n values: h = b (n - 1),
+ * j = trunc(h), f = h - j, and the quantile is a (1 - f) + f c with a and c the j-th
+ * and (j + 1)-th smallest values (c = a at the top): b = 0 gives the minimum and b = 1
+ * the maximum. Variable v's quantile of order k goes to quantiles[v * m + k]; its
+ * sorted values go to the order statistics in the layout of their storage word.
+ * The observations are not changed; variables left out keep their results.
+ * @param task the task
+ * @param estimates BRENN_SS_QUANTS, BRENN_SS_ORDER_STATS or both
+ * @param method BRENN_SS_METHOD_FAST
+ * @param thr the threading record, or null for the calling thread
+ * @return BRENN_SS_OK; BRENN_SS_ERROR_TASK_NULL; in this order:
+ *         BRENN_SS_ERROR_OBSERVATIONS_MISSING, BRENN_SS_ERROR_OBSERVATION_COUNT,
+ *         BRENN_SS_ERROR_DIMENSION, BRENN_SS_ERROR_STORAGE_WORD_MISSING (the observations'
+ *         or the order statistics' storage word), BRENN_SS_ERROR_STORAGE,
+ *         BRENN_SS_ERROR_QUANTILE_ORDERS_MISSING, BRENN_SS_ERROR_QUANTILES_MISSING,
+ *         BRENN_SS_ERROR_QUANTILE_ORDER_COUNT (count missing or below 0, or an order
+ *         outside [0, 1] or NaN), BRENN_SS_ERROR_ORDER_STATISTICS_MISSING,
+ *         BRENN_SS_ERROR_METHOD, BRENN_SS_ERROR_ALLOC. */
+int32_t _qesdSSQuantiles(void* task, uint64_t estimates, uint64_t method,
+                         const struct threader* thr);
+/** The single-precision form of _qesdSSQuantiles().
+ * @copydetails _qesdSSQuantiles */
+int32_t _qessSSQuantiles(void* task, uint64_t estimates, uint64_t method,
+                         const struct threader* thr);
+
+/** Sorted observations (BRENN_SS_SORTED_OBSERV): each variable that the indices keep,
+ * ascending, into the sorted-observation matrix in the layout of its storage word. The
+ * result may be x itself (sorted in place) when its storage word equals x's and no
+ * indices are set.
+ * @param task the task
+ * @param estimates BRENN_SS_SORTED_OBSERV (without it nothing is done)
+ * @param method BRENN_SS_METHOD_FAST
+ * @param thr the threading record, or null for the calling thread
+ * @return BRENN_SS_OK; BRENN_SS_ERROR_TASK_NULL; the observation statuses of
+ *         _qesdSSQuantiles(); BRENN_SS_ERROR_SORTED_MISSING;
+ *         BRENN_SS_ERROR_STORAGE_WORD_MISSING; BRENN_SS_ERROR_STORAGE;
+ *         BRENN_SS_ERROR_SORT_STORAGE for a sort in place with another layout or with
+ *         indices; BRENN_SS_ERROR_METHOD; BRENN_SS_ERROR_ALLOC. */
+int32_t _qesdSSSort(void* task, uint64_t estimates, uint64_t method, const struct threader* thr);
+/** The single-precision form of _qesdSSSort().
+ * @copydetails _qesdSSSort */
+int32_t _qessSSSort(void* task, uint64_t estimates, uint64_t method, const struct threader* thr);
+
+/** Median absolute deviation (BRENN_SS_MDAD), unscaled: median(|x - median(x)|) of each
+ * variable that the indices keep, both medians by the rule of _qesdSSQuantiles() at
+ * order 0.5. The observations are not changed.
+ * @param task the task
+ * @param estimates BRENN_SS_MDAD (without it nothing is done)
+ * @param method BRENN_SS_METHOD_FAST
+ * @param result p values; variables left out keep theirs
+ * @param thr the threading record, or null for the calling thread
+ * @return BRENN_SS_OK; BRENN_SS_ERROR_TASK_NULL; the observation statuses of
+ *         _qesdSSQuantiles(); BRENN_SS_ERROR_MAD_MISSING for a null result;
+ *         BRENN_SS_ERROR_METHOD; BRENN_SS_ERROR_ALLOC. */
+int32_t _qesdSSMAD(void* task, uint64_t estimates, uint64_t method, double* result,
+                   const struct threader* thr);
+/** The single-precision form of _qesdSSMAD().
+ * @copydetails _qesdSSMAD */
+int32_t _qessSSMAD(void* task, uint64_t estimates, uint64_t method, float* result,
+                   const struct threader* thr);
+
+/** Weighted median of each variable that the indices keep, with the task's weights,
+ * into quantiles[v]. The values are sorted with their weights; c, the weight summed
+ * up the sorted values, first reaches half = S / 2 (S the sum of all weights) at k.
+ * Above half, with prev = c - w[k]: x[k] if prev <= 0, or if n is odd and
+ * prev = (S - w[k]) / 2; else y + (half - prev) / w[k] * (x[k] - y), y the nearest
+ * value below k with a positive weight. At half: x[k] if n is odd or k is the last
+ * index; else the mean of x[k] and the next value with a positive weight (the last
+ * value if none has). n counts observations of weight 0 too. Unit weights give the
+ * plain median. Weights are expected at or above 0.
+ * @param task the task
+ * @return BRENN_SS_OK; BRENN_SS_ERROR_TASK_NULL; the observation statuses of
+ *         _qesdSSQuantiles(); BRENN_SS_ERROR_WEIGHTS_MISSING without weights;
+ *         BRENN_SS_ERROR_QUANTILES_MISSING; BRENN_SS_ERROR_ALLOC. */
+int32_t _qesdSSWMedian(void* task);
+/** The single-precision form of _qesdSSWMedian().
+ * @copydetails _qesdSSWMedian */
+int32_t _qessSSWMedian(void* task);
 
 #ifdef __cplusplus
 }

@@ -1,0 +1,123 @@
+// Exact quantiles of one variable held in a compact scratch. For an order b and n
+// values: h = b (n - 1), j = trunc(h), f = h - j; the quantile is a (1 - f) + f b' with
+// a the j-th smallest value and b' the (j + 1)-th (the j-th again at the top), 1 - f
+// formed first. The j-th comes from a select; every value after it is then at or
+// above it, so the (j + 1)-th is the least of them, found in one pass. The places
+// already selected stay in order (`fences`), and a later order selects only between
+// the two fences around it: the scratch, partly ordered by the earlier orders, is
+// reused and never copied again.
+#ifndef BRENN_STATS_QUANTILE_CORE_H
+#define BRENN_STATS_QUANTILE_CORE_H
+
+#include <nmmintrin.h>
+#include <stdint.h>
+#include <string.h>
+
+#include "stats/qsort.h"
+
+namespace brenn::stats {
+
+// The least of s[0, n) (n at least 1); two lanes of four registers.
+inline double LeastOf(const double* s, int64_t n) {
+    __m128d m0 = _mm_set1_pd(s[0]), m1 = m0, m2 = m0, m3 = m0;
+    int64_t i = 0;
+    for (; i + 8 <= n; i += 8) {
+        m0 = _mm_min_pd(_mm_loadu_pd(s + i), m0);
+        m1 = _mm_min_pd(_mm_loadu_pd(s + i + 2), m1);
+        m2 = _mm_min_pd(_mm_loadu_pd(s + i + 4), m2);
+        m3 = _mm_min_pd(_mm_loadu_pd(s + i + 6), m3);
+    }
+    m0 = _mm_min_pd(_mm_min_pd(m0, m1), _mm_min_pd(m2, m3));
+    alignas(16) double lane[2];
+    _mm_store_pd(lane, m0);
+    double m = lane[1] < lane[0] ? lane[1] : lane[0];
+    for (; i < n; ++i)
+        m = s[i] < m ? s[i] : m;
+    return m;
+}
+
+inline float LeastOf(const float* s, int64_t n) {
+    __m128 m0 = _mm_set1_ps(s[0]), m1 = m0, m2 = m0, m3 = m0;
+    int64_t i = 0;
+    for (; i + 16 <= n; i += 16) {
+        m0 = _mm_min_ps(_mm_loadu_ps(s + i), m0);
+        m1 = _mm_min_ps(_mm_loadu_ps(s + i + 4), m1);
+        m2 = _mm_min_ps(_mm_loadu_ps(s + i + 8), m2);
+        m3 = _mm_min_ps(_mm_loadu_ps(s + i + 12), m3);
+    }
+    m0 = _mm_min_ps(_mm_min_ps(m0, m1), _mm_min_ps(m2, m3));
+    alignas(16) float lane[4];
+    _mm_store_ps(lane, m0);
+    float m = lane[0];
+    for (int l = 1; l < 4; ++l)
+        m = lane[l] < m ? lane[l] : m;
+    for (; i < n; ++i)
+        m = s[i] < m ? s[i] : m;
+    return m;
+}
+
+// The places already selected in a scratch, ascending: everything before a fence is at
+// or below it and everything after at or above it.
+struct Fences {
+    int64_t* at;
+    int64_t count;
+};
+
+// The index in f of the first fence at or above k.
+inline int64_t FirstFenceFrom(const Fences& f, int64_t k) {
+    int64_t lo = 0, hi = f.count;
+    while (lo < hi) {
+        int64_t mid = lo + (hi - lo) / 2;
+        if (f.at[mid] < k)
+            lo = mid + 1;
+        else
+            hi = mid;
+    }
+    return lo;
+}
+
+// Puts the k-th smallest of s[0, n) at s[k], selecting only between the fences around
+// k, and records k as a fence; returns the first fence above k (n if none).
+template <typename T>
+int64_t SelectFenced(T* s, int64_t n, int64_t k, Fences& f) {
+    const int64_t i = FirstFenceFrom(f, k);
+    if (i < f.count && f.at[i] == k) return i + 1 < f.count ? f.at[i + 1] : n;
+    const int64_t below = i > 0 ? f.at[i - 1] : -1;
+    const int64_t above = i < f.count ? f.at[i] : n;
+    SelectRange(Contiguous<T>{s}, below + 1, above - 1, k);
+    memmove(f.at + i + 1, f.at + i, (f.count - i) * sizeof(int64_t));
+    f.at[i] = k;
+    ++f.count;
+    return above;
+}
+
+// The quantiles of `m` orders of s[0, n) into out[0, m); the orders are in [0, 1].
+// `fences` has room for m places. With `sorted` the scratch is already in order.
+template <typename T>
+void QuantilesOf(T* s, int64_t n, const T* orders, int64_t m, T* out, int64_t* fenceMemory,
+                 bool sorted) {
+    Fences f{fenceMemory, 0};
+    for (int64_t k = 0; k < m; ++k) {
+        // The place is found in double whatever T, so that a single-precision order
+        // over many observations still names the right element.
+        const double h = static_cast<double>(orders[k]) * static_cast<double>(n - 1);
+        int64_t j = static_cast<int64_t>(h);
+        if (j > n - 1) j = n - 1;
+        const T frac = static_cast<T>(h - static_cast<double>(j));
+        const int64_t above = sorted ? j + 1 : SelectFenced(s, n, j, f);
+        const T a = s[j];
+        // An order that falls on an element gives it, with no second value to weigh
+        // at 0 (which would turn an infinite neighbour into a NaN).
+        if (frac == T(0) || j + 1 >= n) {
+            out[k] = a;
+            continue;
+        }
+        const T b = sorted ? s[j + 1] : LeastOf(s + j + 1, (above < n ? above + 1 : n) - (j + 1));
+        const T g = T(1) - frac;
+        out[k] = a * g + frac * b;
+    }
+}
+
+} // namespace brenn::stats
+
+#endif
