@@ -149,6 +149,41 @@ typedef int32_t (*QesDGenerateFn)(void* stream, int32_t n, double* r, double a, 
  * @return QES_STATUS_OK, or a status of the generator. */
 typedef int32_t (*QesIGenerateFn)(void* stream, int32_t n, void* r); /* wordSize bytes each */
 
+/** The refill callback of an iAbstract stream: it puts elements into the circular
+ * buffer from *startIndex on, wrapping at the end, and returns how many it put
+ * there: at least *minimum (what the request still needs, capped by the free
+ * count) and at most *maximum (the free count); 0 or a count outside 0 to *maximum
+ * fails the request.
+ * @param stream the stream
+ * @param bufferSize the buffer's number of elements
+ * @param buffer the buffer
+ * @param minimum the least useful count
+ * @param maximum the free count
+ * @param startIndex the first index to fill
+ * @return the number of elements put into the buffer. */
+typedef int32_t (*QesIAbstractCallback)(void* stream, int32_t* bufferSize, uint32_t* buffer,
+                                        int32_t* minimum, int32_t* maximum, int32_t* startIndex);
+/** The refill callback of a dAbstract stream, as QesIAbstractCallback with doubles.
+ * @param stream the stream
+ * @param bufferSize the buffer's number of elements
+ * @param buffer the buffer
+ * @param minimum the least useful count
+ * @param maximum the free count
+ * @param startIndex the first index to fill
+ * @return the number of elements put into the buffer. */
+typedef int32_t (*QesDAbstractCallback)(void* stream, int32_t* bufferSize, double* buffer,
+                                        int32_t* minimum, int32_t* maximum, int32_t* startIndex);
+/** The refill callback of an sAbstract stream, as QesIAbstractCallback with floats.
+ * @param stream the stream
+ * @param bufferSize the buffer's number of elements
+ * @param buffer the buffer
+ * @param minimum the least useful count
+ * @param maximum the free count
+ * @param startIndex the first index to fill
+ * @return the number of elements put into the buffer. */
+typedef int32_t (*QesSAbstractCallback)(void* stream, int32_t* bufferSize, float* buffer,
+                                        int32_t* minimum, int32_t* maximum, int32_t* startIndex);
+
 /** One row of the generator tables: what a basic generator is and its four entries. */
 typedef struct BrngRecord {
     int32_t stateSize;          /**< bytes of the stream record: 16-byte header + state */
@@ -789,6 +824,198 @@ int32_t __qesdBRngNiederr(void* stream, int32_t n, double* r, double a, double b
  * @param r where they go
  * @return QES_STATUS_OK. */
 int32_t __qesiBRngNiederr(void* stream, int32_t n, void* r);
+
+/* Counter-based generators (ARS5: params 0-3 the key, 4-7 the counter; PHILOX4X32X10:
+ * params 0-1 the key, 2-5 the counter; missing words 0). Their words are served as
+ * signed values: the real forms are centred, w 2^-32 (b - a) + (a + b) / 2. Skip-ahead
+ * by one count or by up to three 64-bit words; no leapfrog. ARS5 entries other than
+ * seeding return QES_RNG_STATUS_NO_AES on a processor without AES. */
+/** The initStream entry of ARS5 (QesInitStreamFn).
+ * @param method QES_INIT_SEED, QES_INIT_LEAPFROG, QES_INIT_SKIP or QES_INIT_SKIP_EX
+ * @param stream the stream
+ * @param n the count of params
+ * @param params the method's words
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; QES_RNG_STATUS_NO_LEAPFROG;
+ *         QES_RNG_STATUS_NO_AES for a jump without AES. */
+int32_t __qesBRngARS5InitStream(int32_t method, void* stream, int32_t n, const void* params);
+/** Single-precision output of ARS5 on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK or QES_RNG_STATUS_NO_AES. */
+int32_t __qessBRngARS5(void* stream, int32_t n, float* r, float a, float b);
+/** Double-precision output of ARS5 on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK or QES_RNG_STATUS_NO_AES. */
+int32_t __qesdBRngARS5(void* stream, int32_t n, double* r, double a, double b);
+/** Raw output of ARS5: one 32-bit word an element.
+ * @param stream the stream
+ * @param n number of elements
+ * @param r where they go
+ * @return QES_STATUS_OK or QES_RNG_STATUS_NO_AES. */
+int32_t __qesiBRngARS5(void* stream, int32_t n, void* r);
+/** The initStream entry of PHILOX4X32X10 (QesInitStreamFn).
+ * @param method QES_INIT_SEED, QES_INIT_LEAPFROG, QES_INIT_SKIP or QES_INIT_SKIP_EX
+ * @param stream the stream
+ * @param n the count of params
+ * @param params the method's words
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; QES_RNG_STATUS_NO_LEAPFROG. */
+int32_t __qesBRngPHILOX4X32X10InitStream(int32_t method, void* stream, int32_t n,
+                                         const void* params);
+/** Single-precision output of PHILOX4X32X10 on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
+int32_t __qessBRngPHILOX4X32X10(void* stream, int32_t n, float* r, float a, float b);
+/** Double-precision output of PHILOX4X32X10 on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK. */
+int32_t __qesdBRngPHILOX4X32X10(void* stream, int32_t n, double* r, double a, double b);
+/** Raw output of PHILOX4X32X10: one 32-bit word an element.
+ * @param stream the stream
+ * @param n number of elements
+ * @param r where they go
+ * @return QES_STATUS_OK. */
+int32_t __qesiBRngPHILOX4X32X10(void* stream, int32_t n, void* r);
+/* TRNG: words of the processor's RDRAND; params[1] (when n >= 2 and not 0) is the
+ * retry limit, else 10. The double form takes two words an element, first word low.
+ * No jumps; every entry returns QES_RNG_STATUS_NO_RDRAND without RDRAND, and
+ * QES_RNG_STATUS_RDRAND_FAILED when RDRAND failed past the limit (the elements made
+ * before stay in r). */
+/** The initStream entry of TRNG (QesInitStreamFn).
+ * @param method QES_INIT_SEED, QES_INIT_LEAPFROG, QES_INIT_SKIP or QES_INIT_SKIP_EX
+ * @param stream the stream
+ * @param n the count of params
+ * @param params the method's words
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; QES_RNG_STATUS_NO_LEAPFROG,
+ *         QES_RNG_STATUS_NO_SKIPAHEAD or QES_RNG_STATUS_NO_SKIPAHEAD_EX. */
+int32_t __qesBRngTRNGInitStream(int32_t method, void* stream, int32_t n, const void* params);
+/** Single-precision output of TRNG on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK; QES_RNG_STATUS_NO_RDRAND; QES_RNG_STATUS_RDRAND_FAILED. */
+int32_t __qessBRngTRNG(void* stream, int32_t n, float* r, float a, float b);
+/** Double-precision output of TRNG on [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return QES_STATUS_OK; QES_RNG_STATUS_NO_RDRAND; QES_RNG_STATUS_RDRAND_FAILED. */
+int32_t __qesdBRngTRNG(void* stream, int32_t n, double* r, double a, double b);
+/** Raw output of TRNG: one 32-bit word an element.
+ * @param stream the stream
+ * @param n number of elements
+ * @param r where they go
+ * @return QES_STATUS_OK; QES_RNG_STATUS_NO_RDRAND; QES_RNG_STATUS_RDRAND_FAILED. */
+int32_t __qesiBRngTRNG(void* stream, int32_t n, void* r);
+/* Abstract streams: the caller's circular buffer and the callback that refills it.
+ * Made only by their constructors (__qesNewStreamEx refuses the three ids); no seed,
+ * no jumps; each kind has one output entry and __qesdBRngiAbstract in the others.
+ * The real kinds map an element x to (x - low) (b - a) / (high - low) + a. */
+/** Makes an iAbstract stream (id QES_BRNG_IABSTRACT); the buffer counts as empty.
+ * @param stream where the stream goes
+ * @param bufferSize elements of the buffer, at least 1
+ * @param buffer the buffer
+ * @param callback its refill function
+ * @return QES_STATUS_OK; QES_STATUS_BAD_ARGUMENT for a null pointer or a size below 1;
+ *         QES_RNG_STATUS_BAD_BRNG; QES_STATUS_NO_MEMORY. */
+int32_t __qesiNewAbstractStream(void** stream, int32_t bufferSize, uint32_t* buffer,
+                                QesIAbstractCallback callback);
+/** Makes a dAbstract stream (id QES_BRNG_DABSTRACT), values in [low, high).
+ * @param stream where the stream goes
+ * @param bufferSize elements of the buffer, at least 1
+ * @param buffer the buffer
+ * @param low the buffer's lower bound
+ * @param high the buffer's upper bound; low >= high is refused (a NaN passes)
+ * @param callback its refill function
+ * @return QES_STATUS_OK; QES_STATUS_BAD_ARGUMENT; QES_RNG_STATUS_BAD_BRNG;
+ *         QES_STATUS_NO_MEMORY. */
+int32_t __qesdNewAbstractStream(void** stream, int32_t bufferSize, double* buffer, double low,
+                                double high, QesDAbstractCallback callback);
+/** Makes a sAbstract stream (id QES_BRNG_SABSTRACT), values in [low, high).
+ * @param stream where the stream goes
+ * @param bufferSize elements of the buffer, at least 1
+ * @param buffer the buffer
+ * @param low the buffer's lower bound
+ * @param high the buffer's upper bound; low >= high is refused (a NaN passes)
+ * @param callback its refill function
+ * @return QES_STATUS_OK; QES_STATUS_BAD_ARGUMENT; QES_RNG_STATUS_BAD_BRNG;
+ *         QES_STATUS_NO_MEMORY. */
+int32_t __qessNewAbstractStream(void** stream, int32_t bufferSize, float* buffer, float low,
+                                float high, QesSAbstractCallback callback);
+/** The initStream entry of iAbstract streams: method 0 takes the constructor's record.
+ * @param method QES_INIT_SEED; the jump methods are refused
+ * @param stream the stream
+ * @param n unused
+ * @param params the constructor's record
+ * @return QES_STATUS_OK; QES_RNG_STATUS_NO_LEAPFROG, QES_RNG_STATUS_NO_SKIPAHEAD,
+ *         QES_RNG_STATUS_NO_SKIPAHEAD_EX; QES_STATUS_BAD_METHOD. */
+int32_t __qesBRngiAbstractInitStream(int32_t method, void* stream, int32_t n, const void* params);
+/** The initStream entry of dAbstract streams: method 0 takes the constructor's record.
+ * @param method QES_INIT_SEED; the jump methods are refused
+ * @param stream the stream
+ * @param n unused
+ * @param params the constructor's record
+ * @return QES_STATUS_OK; QES_RNG_STATUS_NO_LEAPFROG, QES_RNG_STATUS_NO_SKIPAHEAD,
+ *         QES_RNG_STATUS_NO_SKIPAHEAD_EX; QES_STATUS_BAD_METHOD. */
+int32_t __qesBRngdAbstractInitStream(int32_t method, void* stream, int32_t n, const void* params);
+/** The initStream entry of sAbstract streams: method 0 takes the constructor's record.
+ * @param method QES_INIT_SEED; the jump methods are refused
+ * @param stream the stream
+ * @param n unused
+ * @param params the constructor's record
+ * @return QES_STATUS_OK; QES_RNG_STATUS_NO_LEAPFROG, QES_RNG_STATUS_NO_SKIPAHEAD,
+ *         QES_RNG_STATUS_NO_SKIPAHEAD_EX; QES_STATUS_BAD_METHOD. */
+int32_t __qesBRngsAbstractInitStream(int32_t method, void* stream, int32_t n, const void* params);
+/** The output entry of iAbstract streams: the buffer's words, refilled by the callback.
+ * @param stream the stream
+ * @param n number of words
+ * @param r where they go
+ * @return QES_STATUS_OK; QES_STATUS_NULL_POINTER for a null buffer;
+ *         QES_RNG_STATUS_ABSTRACT_BAD_COUNT or QES_RNG_STATUS_ABSTRACT_ZERO_COUNT for a
+ *         failing callback (what was delivered stays in r). */
+int32_t __qesiBRngiAbstract(void* stream, int32_t n, void* r);
+/** The output entry of dAbstract streams, mapped to [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return as __qesiBRngiAbstract(). */
+int32_t __qesdBRngdAbstract(void* stream, int32_t n, double* r, double a, double b);
+/** The output entry of sAbstract streams, mapped to [a, b).
+ * @param stream the stream
+ * @param n number of results
+ * @param r where they go
+ * @param a left end
+ * @param b right end
+ * @return as __qesiBRngiAbstract(). */
+int32_t __qessBRngsAbstract(void* stream, int32_t n, float* r, float a, float b);
+/** The entry of every wrong-kind slot of the abstract rows.
+ * @param stream unused
+ * @param n unused
+ * @param r unused
+ * @param a unused
+ * @param b unused
+ * @return QES_RNG_STATUS_ABSTRACT_WRONG_KIND. */
+int32_t __qesdBRngiAbstract(void* stream, int32_t n, double* r, double a, double b);
 
 /* Distribution generators: method, stream, n, result, parameters. */
 /** Single-precision uniform variates on [a, b).

@@ -6,6 +6,8 @@
 
 #include "frame/export.h"
 #include "platform/serv.h"
+#include "rng/core/abstract.h"
+#include "rng/core/cpu_hooks.h"
 #include "rng/core/stream.h"
 
 #define BRENN_BRNG_WEAK(Name)                                                                      \
@@ -35,7 +37,8 @@ BRENN_BRNG_WEAK(ARS5)
 BRENN_BRNG_WEAK(PHILOX4X32X10)
 
 // The wrong-kind stub of the abstract rows takes any entry's place, so its type is
-// cast to each.
+// cast to each. The abstract records hold native pointers: their sizes follow the
+// pointer width (rng/core/abstract.h).
 #define BRENN_WRONG_KIND_S                                                                         \
     reinterpret_cast<QesSGenerateFn>(reinterpret_cast<void (*)()>(__qesdBRngiAbstract))
 #define BRENN_WRONG_KIND_I                                                                         \
@@ -90,12 +93,12 @@ __attribute__((visibility("default"))) BrngRecord __RegBrngsNew[512] = {
     BRENN_ROW_NIEDERR,
     BRENN_ROW(MT19937, 2520, 625, 1, 4, 32),
     BRENN_ROW(MT2203, 312, 70, 1, 4, 32),
-    {40, 0, 1, 4, 32, __qesBRngiAbstractInitStream, BRENN_WRONG_KIND_S, __qesdBRngiAbstract,
-     __qesiBRngiAbstract},
-    {56, 0, 1, 4, 32, __qesBRngdAbstractInitStream, BRENN_WRONG_KIND_S, __qesdBRngdAbstract,
-     BRENN_WRONG_KIND_I},
-    {48, 0, 1, 4, 32, __qesBRngsAbstractInitStream, __qessBRngsAbstract, __qesdBRngiAbstract,
-     BRENN_WRONG_KIND_I},
+    {brenn::rng::kIAbstractSize, 0, 1, 4, 32, __qesBRngiAbstractInitStream, BRENN_WRONG_KIND_S,
+     __qesdBRngiAbstract, __qesiBRngiAbstract},
+    {brenn::rng::kDAbstractSize, 0, 1, 4, 32, __qesBRngdAbstractInitStream, BRENN_WRONG_KIND_S,
+     __qesdBRngdAbstract, BRENN_WRONG_KIND_I},
+    {brenn::rng::kSAbstractSize, 0, 1, 4, 32, __qesBRngsAbstractInitStream, __qessBRngsAbstract,
+     __qesdBRngiAbstract, BRENN_WRONG_KIND_I},
     BRENN_ROW(SFMT19937, 2536, 625, 1, 4, 32),
     BRENN_ROW(TRNG, 24, 1, 0, 4, 32),
     BRENN_ROW(ARS5, 72, 8, 1, 4, 32),
@@ -197,15 +200,15 @@ void Cpuid1(unsigned* ecx, unsigned* edx) {
 BRENN_EXPORT int32_t __qesCPUisAES(void) {
     unsigned ecx, edx;
     Cpuid1(&ecx, &edx);
-    return ((edx >> 26) & 1) && ((ecx >> 25) & 1);
+    return ((edx >> 26) & 1) && ((ecx >> 25) & 1) && !(testing::hiddenFeatures & testing::kHideAes);
 }
 
 BRENN_EXPORT int32_t __qesCPUisRDRAND(void) {
     unsigned ecx, edx;
     Cpuid1(&ecx, &edx);
-    return (ecx >> 30) & 1;
+    return ((ecx >> 30) & 1) && !(testing::hiddenFeatures & testing::kHideRdrand);
 }
 
 BRENN_EXPORT int32_t __qesCPUisVAES(void) {
-    return brenn_serv_cpuisvectoraes();
+    return brenn_serv_cpuisvectoraes() && !(testing::hiddenFeatures & testing::kHideVaes);
 }
