@@ -60,9 +60,6 @@ struct GlobalSystem {
     T hh(int64_t i) const { return Uniform ? T(1) : cells.x[i + 1] - cells.x[i]; }
     T m(const YAccess<T, Columns>& y, int64_t i) const { return (y[i + 1] - y[i]) * cells.rcp(i); }
 
-    // Unknowns: nx, or nx-1 for the periodic system.
-    int64_t Unknowns() const { return kPeriodic ? nx - 1 : nx; }
-
     // The matrix of the open (not periodic) system.
     void Matrix(T* dl, T* d, T* du) const {
         int64_t n = nx;
@@ -85,34 +82,23 @@ struct GlobalSystem {
         }
     }
 
-    // The periodic matrix, rows by their three coefficients (a[0] and c[n-1] are the
-    // corners): the cell before node 0 is the last one.
-    void CyclicMatrix(T* a, T* b, T* c) const {
-        int64_t n = Unknowns();
-        T hl = hh(n - 1);
-        for (int64_t i = 0; i < n; ++i) {
-            T hr = hh(i);
-            a[i] = hr;
-            b[i] = T(2) * (hl + hr);
-            c[i] = hl;
-            hl = hr;
+    // Row i of the periodic system of one function, formed when the solve reads it:
+    // the cell before node 0 is the last one.
+    struct PeriodicRows {
+        const GlobalSystem* sys;
+        YAccess<T, Columns> y;
+        int64_t n; // unknowns
+        CyclicRow<T> Row(int64_t i) const {
+            int64_t left = i == 0 ? n - 1 : i - 1;
+            T hl = sys->hh(left), hr = sys->hh(i);
+            T r = T(3) * (hr * sys->m(y, left) + hl * sys->m(y, i));
+            return {hr, T(2) * (hl + hr), hl, r};
         }
-    }
+    };
 
-    // The right-hand side of one function.
+    // The right-hand side of one function, open system.
     void Rhs(const YAccess<T, Columns>& y, T* b) const {
-        int64_t n = Unknowns();
-        if (kPeriodic) {
-            T mPrev = m(y, n - 1);
-            T hPrev = hh(n - 1);
-            for (int64_t i = 0; i < n; ++i) {
-                T mi = m(y, i), hi = hh(i);
-                b[i] = T(3) * (hi * mPrev + hPrev * mi);
-                mPrev = mi;
-                hPrev = hi;
-            }
-            return;
-        }
+        int64_t n = nx;
         T m0 = m(y, 0);
         T mPrev = m0;
         T hPrev = hh(0);
@@ -197,11 +183,10 @@ void OpenDerivatives(const GlobalSystem<T, Columns, Uniform, Column>& sys, const
     }
 }
 
-// Work elements of the periodic solve on n unknowns: the three coefficients of the
-// rows, the reduced super-diagonal and corner column, and the multipliers kept for
-// several functions.
+// Work elements of the periodic solve on n unknowns: the reduced super-diagonal and
+// corner column, and the multipliers kept for several functions.
 inline int64_t PeriodicElements(int64_t n, bool factored) {
-    return n < 2 ? 0 : 3 * n + (factored ? 5 : 2) * (n - 1);
+    return n < 2 ? 0 : (factored ? 5 : 2) * (n - 1);
 }
 
 // The derivatives of nf periodic functions: nx-1 unknowns, the last node's derivative
@@ -218,20 +203,18 @@ void PeriodicDerivatives(const GlobalSystem<T, Columns, Uniform, Column>& sys,
         }
         return;
     }
-    T* a = work;
-    T* b = a + n;
-    T* c = b + n;
-    CyclicFactors<T> fac{c + n, c + 2 * n - 1, c + 3 * n - 2, c + 4 * n - 3, c + 5 * n - 4, T(0)};
-    sys.CyclicMatrix(a, b, c);
+    T* w = work;
+    CyclicFactors<T> fac{w, w + n - 1, w + 2 * (n - 1), w + 3 * (n - 1), w + 4 * (n - 1), T(0)};
+    using Rows = typename GlobalSystem<T, Columns, Uniform, Column>::PeriodicRows;
     for (int64_t f = 0; f < nf; ++f) {
         T* df = d + f * nx;
-        sys.Rhs(FunctionValues<T, Columns>(task, f), df);
+        Rows rows{&sys, FunctionValues<T, Columns>(task, f), n};
         if (nf == 1)
-            SolveCyclic<T, CyclicPass::kFactorSolve>(n, a, b, c, fac, df);
+            SolveCyclic<T, CyclicPass::kFactorSolve>(n, rows, fac, df);
         else if (f == 0)
-            SolveCyclic<T, CyclicPass::kFactorKeepSolve>(n, a, b, c, fac, df);
+            SolveCyclic<T, CyclicPass::kFactorKeepSolve>(n, rows, fac, df);
         else
-            SolveCyclic<T, CyclicPass::kSolve>(n, a, b, c, fac, df);
+            SolveCyclic<T, CyclicPass::kSolve>(n, rows, fac, df);
         df[nx - 1] = df[0];
     }
 }

@@ -38,37 +38,48 @@ struct CyclicFactors {
 enum class CyclicPass {
     kFactorSolve,     // eliminate and solve; u, v written
     kFactorKeepSolve, // the same, and every multiplier kept
-    kSolve,           // solve with the factors a kept pass left; a, b, c unused
+    kSolve,           // solve with the factors a kept pass left
 };
 
-// Solves the cyclic system for r in place, n >= 2 (with two unknowns the corners fall
-// on the same columns as the off-diagonals and are added to them).
-template <typename T, CyclicPass Pass>
-void SolveCyclic(int64_t n, const T* a, const T* b, const T* c, CyclicFactors<T>& fac, T* r) {
+// Row i of a cyclic system: a*x[i-1] + b*x[i] + c*x[i+1] = r.
+template <typename T>
+struct CyclicRow {
+    T a, b, c, r;
+};
+
+// Rows held as four arrays.
+template <typename T>
+struct CyclicArrays {
+    const T *a, *b, *c, *r;
+    CyclicRow<T> Row(int64_t i) const { return {a[i], b[i], c[i], r[i]}; }
+};
+
+// Solves the cyclic system of rows.Row(0) to rows.Row(n-1) into x, n >= 2 (with two
+// unknowns the corners fall on the same columns as the off-diagonals and are added to
+// them). The rows are read once each, in order (the last one first), so a caller may
+// form them on the fly; a kSolve pass uses their right-hand sides only.
+template <typename T, CyclicPass Pass, class Rows>
+void SolveCyclic(int64_t n, const Rows& rows, CyclicFactors<T>& fac, T* x) {
     constexpr bool kFactor = Pass != CyclicPass::kSolve;
     constexpr bool kKeep = Pass == CyclicPass::kFactorKeepSolve;
     const int64_t last = n - 1;
+    const CyclicRow<T> lastRow = rows.Row(last);
+    CyclicRow<T> row = rows.Row(0);
     // Row k's pivot and corner-column entry, the last row's entry in column k and its
     // diagonal, as the elimination reaches row k.
-    T pivot = T(0), corner = T(0), edge = T(0), diagonal = T(0);
-    if constexpr (kFactor) {
-        pivot = b[0];
-        corner = a[0];
-        edge = c[last];
-        diagonal = b[last];
-        if (n == 2) {
-            corner += c[0];
-            edge += a[1];
-        }
+    T pivot = row.b, corner = row.a, edge = lastRow.c, diagonal = lastRow.b;
+    if (n == 2) {
+        corner += row.c;
+        edge += lastRow.a;
     }
-    T y = r[0], rLast = r[last];
+    T y = row.r, rLast = lastRow.r;
     for (int64_t k = 0;; ++k) {
         T q, f;
         if constexpr (kFactor) {
             q = T(1) / pivot;
             f = edge * q;
             diagonal -= f * corner;
-            fac.u[k] = c[k] * q;
+            fac.u[k] = row.c * q;
             fac.v[k] = corner * q;
             if constexpr (kKeep) {
                 fac.q[k] = q;
@@ -79,36 +90,38 @@ void SolveCyclic(int64_t n, const T* a, const T* b, const T* c, CyclicFactors<T>
             f = fac.f[k];
         }
         rLast -= f * y;
-        r[k] = y * q;
+        x[k] = y * q;
         if (k + 1 == last) break;
+        const CyclicRow<T> next = rows.Row(k + 1);
         T l;
         if constexpr (kFactor) {
-            l = a[k + 1] * q;
-            // The next pivot by one division of the product (a[k+1]*c[k] does not wait
+            l = next.a * q;
+            // The next pivot by one division of the product (next.a*row.c does not wait
             // for it): the pivots form the only chain of divisions in the pass.
-            pivot = b[k + 1] - a[k + 1] * c[k] / pivot;
+            pivot = next.b - next.a * row.c / pivot;
             corner = -l * corner;
-            edge = -f * c[k];
+            edge = -f * row.c;
             if (k + 2 == last) {
                 // Row n-2's super-diagonal and the last row's sub-diagonal lie in the
                 // corner column and row.
-                corner += c[k + 1];
-                edge += a[last];
+                corner += next.c;
+                edge += lastRow.a;
             }
             if constexpr (kKeep) fac.l[k + 1] = l;
         } else {
             l = fac.l[k + 1];
         }
-        y = r[k + 1] - l * y;
+        y = next.r - l * y;
+        row = next;
     }
     if constexpr (kFactor) fac.last = diagonal;
     T xLast = rLast / fac.last;
-    r[last] = xLast;
-    T x = r[last - 1] - fac.v[last - 1] * xLast;
-    r[last - 1] = x;
+    x[last] = xLast;
+    T xk = x[last - 1] - fac.v[last - 1] * xLast;
+    x[last - 1] = xk;
     for (int64_t k = last - 2; k >= 0; --k) {
-        x = (r[k] - fac.v[k] * xLast) - fac.u[k] * x;
-        r[k] = x;
+        xk = (x[k] - fac.v[k] * xLast) - fac.u[k] * xk;
+        x[k] = xk;
     }
 }
 

@@ -14,6 +14,7 @@
 #include "tests/fitting/fitting_test_util.h"
 
 using namespace brenn::fittest;
+using brenn::fit::CyclicArrays;
 using brenn::fit::CyclicFactors;
 using brenn::fit::CyclicPass;
 using brenn::fit::SolveCyclic;
@@ -33,6 +34,14 @@ struct Cyclic {
     explicit Cyclic(int64_t nIn) : n(nIn), a(n), b(n), c(n), work(5 * (n - 1)) {
         T* w = work.data();
         fac = {w, w + (n - 1), w + 2 * (n - 1), w + 3 * (n - 1), w + 4 * (n - 1), T(0)};
+    }
+    // The solution for r by one pass of the given kind.
+    template <CyclicPass Pass>
+    std::vector<T> Solve(const std::vector<T>& r) {
+        std::vector<T> x(n);
+        SolveCyclic<T, Pass>(n, CyclicArrays<T>{a.data(), b.data(), c.data(), r.data()}, fac,
+                             x.data());
+        return x;
     }
     // The largest |A x - r| over the rows, in double, against the largest sum of the
     // magnitudes of a row's terms.
@@ -69,9 +78,7 @@ TYPED_TEST(FittingCyclicTridiagonal, SolvesRowDominantSystemsOfEverySize) {
                 s.b[i] = static_cast<T>(sign * (off * (1 + margin) + 0.01));
                 r[i] = static_cast<T>(u(rng));
             }
-            std::vector<T> x = r;
-            SolveCyclic<T, CyclicPass::kFactorSolve>(n, s.a.data(), s.b.data(), s.c.data(), s.fac,
-                                                     x.data());
+            std::vector<T> x = s.template Solve<CyclicPass::kFactorSolve>(r);
             double size = 0, worst = s.Residual(x, r, &size);
             EXPECT_LE(worst, 32 * kEps<T> * size) << "n " << n << " margin " << margin;
         }
@@ -96,9 +103,7 @@ TYPED_TEST(FittingCyclicTridiagonal, SolvesSplineRowsOnUnevenCells) {
             s.c[i] = hl;
             r[i] = static_cast<T>(u(rng) * (hl + h[i]));
         }
-        std::vector<T> x = r;
-        SolveCyclic<T, CyclicPass::kFactorSolve>(n, s.a.data(), s.b.data(), s.c.data(), s.fac,
-                                                 x.data());
+        std::vector<T> x = s.template Solve<CyclicPass::kFactorSolve>(r);
         double size = 0, worst = s.Residual(x, r, &size);
         EXPECT_LE(worst, 32 * kEps<T> * size) << "n " << n;
     }
@@ -124,15 +129,9 @@ TYPED_TEST(FittingCyclicTridiagonal, KeptFactorsGiveTheBitsOfSinglePasses) {
             std::vector<T> r(n);
             for (auto& v : r)
                 v = static_cast<T>(u(rng) - 0.5);
-            std::vector<T> x = r, y = r;
-            if (k == 0)
-                SolveCyclic<T, CyclicPass::kFactorKeepSolve>(n, kept.a.data(), kept.b.data(),
-                                                             kept.c.data(), kept.fac, x.data());
-            else
-                SolveCyclic<T, CyclicPass::kSolve>(n, nullptr, nullptr, nullptr, kept.fac,
-                                                   x.data());
-            SolveCyclic<T, CyclicPass::kFactorSolve>(n, single.a.data(), single.b.data(),
-                                                     single.c.data(), single.fac, y.data());
+            std::vector<T> x = k == 0 ? kept.template Solve<CyclicPass::kFactorKeepSolve>(r)
+                                      : kept.template Solve<CyclicPass::kSolve>(r);
+            std::vector<T> y = single.template Solve<CyclicPass::kFactorSolve>(r);
             EXPECT_EQ(std::memcmp(x.data(), y.data(), n * sizeof(T)), 0) << "n " << n << " " << k;
         }
     }
