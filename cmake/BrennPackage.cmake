@@ -42,7 +42,7 @@ set(CPACK_STRIP_FILES ON)
 # and not CPack's staging directory.
 set(CPACK_SET_DESTDIR ON)
 set(CPACK_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
-set(CPACK_COMPONENTS_ALL runtime dev doc)
+set(CPACK_COMPONENTS_ALL runtime dev doc ${BRENN_PYTHON_COMPONENTS})
 
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
@@ -89,4 +89,7 @@ set(CPACK_DEBIAN_DOC_PACKAGE_MULTIARCH foreign)
 set(CPACK_DEBIAN_DOC_DESCRIPTION
     "numeric kernel library - documentation\n${long_description}\n\nThis package holds the API reference, the measured accuracy and speed\nfigures and the sources of the example programs.")
 
+if(BRENN_PYTHON_COMPONENTS)
+  include(${PROJECT_SOURCE_DIR}/python/package.cmake)
+endif()
 include(CPack)

@@ -1,0 +1,219 @@
+"""Random numbers: the library's generators as numpy bit generators, and streams.
+
+Each generator family built into the library is a class here (``MT19937``,
+``MCG59``, ...) usable as the bit generator of ``numpy.random.Generator``::
+
+    g = numpy.random.Generator(brenn.rng.MT19937(7))
+    g.standard_normal(10)
+
+through numpy's documented interface: a ``capsule`` named "BitGenerator" holding
+the ``bitgen_t`` record, and a ``lock``. The 32-bit words are the stream's own
+(``random_raw`` gives them); 64-bit draws join two words, the first the high half,
+and doubles take 27 and 26 bits of two words, as numpy's MT19937 does, so
+``MT19937(s)`` gives the sequence of numpy's ``MT19937`` seeded through the same
+words (``numpy.random.MT19937()._legacy_seeding([s])``, the reference
+initialisation by an array).
+``jumped(n)`` skips n words, ``leapfrog(k, m)`` takes every m-th word from the k-th;
+pickling saves the stream's image.
+
+:class:`Stream` gives the library's bulk draws (uniform, integers, raw bits,
+Bernoulli, geometric) into numpy arrays, without the GIL.
+"""
+import threading
+
+import numpy as np
+
+from . import _brenn
+
+# First generator ids of the families (brenn_rng.h).
+_FAMILY_IDS = {
+    "MCG31M1": 0x100000, "R250": 0x200000, "MRG32K3A": 0x300000, "MCG59": 0x400000,
+    "WH": 0x500000, "MT19937": 0x800000, "MT2203": 0x900000, "SFMT19937": 0xD00000,
+    "ARS5": 0xF00000, "PHILOX4X32X10": 0x1000000,
+}
+
+
+def _seed_words(seed):
+    """A seed as the generator's 32-bit words: an int (split into words, low first)
+    or a sequence of ints below 2**32."""
+    if isinstance(seed, (int, np.integer)):
+        seed = int(seed)
+        if seed < 0:
+            raise ValueError("a seed must not be negative")
+        words = []
+        while True:
+            words.append(seed & 0xFFFFFFFF)
+            seed >>= 32
+            if not seed:
+                return words
+    words = [int(w) for w in seed]
+    if not words or any(w < 0 or w > 0xFFFFFFFF for w in words):
+        raise ValueError("seed words must be integers in [0, 2**32)")
+    return words
+
+
+def _brng(family, member):
+    if isinstance(family, str):
+        try:
+            family = _FAMILY_IDS[family.upper()]
+        except KeyError:
+            raise ValueError(f"no generator family named {family!r}") from None
+    if member < 0:
+        raise ValueError("member must not be negative")
+    return int(family) + int(member)
+
+
+class BitGenerator:
+    """A library generator as a numpy bit generator (base of the family classes).
+
+    ``Family(seed=0, member=0)``: ``seed`` an int or a sequence of 32-bit words,
+    ``member`` the member of a family of several generators (MT2203, WH)."""
+
+    _family = None
+
+    def __init__(self, seed=0, member=0):
+        self._adopt(_brenn.rng.BitSource(_brng(self._family, member), _seed_words(seed)))
+
+    def _adopt(self, source):
+        self._source = source
+        self.lock = threading.Lock()
+        self.capsule = source.capsule()
+
+    @classmethod
+    def _from(cls, source):
+        obj = cls.__new__(cls)
+        obj._adopt(source)
+        return obj
+
+    @property
+    def brng(self) -> int:
+        """The generator id of the stream (family id plus member)."""
+        return self._source.brng
+
+    def random_raw(self, size=None):
+        """The next 32-bit words of the stream, as uint64 (numpy's random_raw)."""
+        n = 1 if size is None else int(np.prod(size))
+        with self.lock:
+            words = self._source.random_raw(n)
+        return int(words[0]) if size is None else words.reshape(size)
+
+    def jumped(self, nskip=1):
+        """A new bit generator ``nskip`` words further on; this one is unchanged."""
+        with self.lock:
+            return type(self)._from(self._source.jumped(int(nskip)))
+
+    def leapfrog(self, k, nstreams):
+        """Makes this generator give words k, k + nstreams, k + 2 nstreams, ... of its
+        sequence; only before its first word is read."""
+        with self.lock:
+            self._source.leapfrog(int(k), int(nstreams))
+
+    @property
+    def state(self) -> dict:
+        """The stream's saved image and the words drawn but not read yet."""
+        with self.lock:
+            return {"bit_generator": type(self).__name__, "image": self._source.image(),
+                    "unread": self._source.unread()}
+
+    @state.setter
+    def state(self, value):
+        if value.get("bit_generator") != type(self).__name__:
+            raise ValueError(f"the state is not one of {type(self).__name__}")
+        with self.lock:
+            self._adopt(_brenn.rng.BitSource.load(value["image"], list(value["unread"])))
+
+    def __getstate__(self):
+        return self.state
+
+    def __setstate__(self, state):
+        self._adopt(_brenn.rng.BitSource.load(state["image"], list(state["unread"])))
+
+    def __repr__(self):
+        return f"{type(self).__name__}(brng={self.brng:#x})"
+
+
+class Stream:
+    """A stream of the library with its bulk draws into numpy arrays.
+
+    ``Stream(family, seed=0, member=0)``: ``family`` a name (``"MT19937"``) or a
+    generator id. Draws release the GIL; a stream serves one thread at a time."""
+
+    def __init__(self, family="MT19937", seed=0, member=0, *, _handle=None):
+        self._s = _handle if _handle is not None else _brenn.rng.Stream(
+            _brng(family, member), _seed_words(seed))
+
+    @property
+    def brng(self) -> int:
+        """The generator id."""
+        return self._s.brng
+
+    def copy(self) -> "Stream":
+        """A new stream with this one's state."""
+        return Stream(_handle=self._s.copy())
+
+    def skip_ahead(self, nskip: int) -> None:
+        """Skips nskip outputs."""
+        self._s.skip_ahead(int(nskip))
+
+    def leapfrog(self, k: int, nstreams: int) -> None:
+        """Serves outputs k, k + nstreams, ... of the sequence."""
+        self._s.leapfrog(int(k), int(nstreams))
+
+    def uniform(self, size, low=0.0, high=1.0, dtype=np.float64, accurate=False):
+        """``size`` uniform floats on [low, high) (float64 or float32); ``accurate``
+        clamps them to [low, high]."""
+        dtype = np.dtype(dtype)
+        if dtype == np.float64:
+            return self._s.duniform(int(size), float(low), float(high), bool(accurate))
+        if dtype == np.float32:
+            return self._s.suniform(int(size), float(low), float(high), bool(accurate))
+        raise TypeError(f"uniform draws are float32 or float64, not {dtype}")
+
+    def integers(self, size, low, high):
+        """``size`` int32 integers uniform on [low, high)."""
+        return self._s.iuniform(int(size), int(low), int(high))
+
+    def bits32(self, size):
+        """``size`` words of 32 uniform bits (uint32)."""
+        return self._s.bits32(int(size))
+
+    def bits64(self, size):
+        """``size`` words of 64 uniform bits (uint64)."""
+        return self._s.bits64(int(size))
+
+    def bernoulli(self, size, p):
+        """``size`` Bernoulli variates (int32) with P(1) = p."""
+        return self._s.bernoulli(int(size), float(p))
+
+    def geometric(self, size, p):
+        """``size`` geometric variates (int32): failures before the first success."""
+        return self._s.geometric(int(size), float(p))
+
+    def __getstate__(self):
+        return {"image": self._s.image()}
+
+    def __setstate__(self, state):
+        self._s = _brenn.rng.Stream.load(state["image"])
+
+
+def _families():
+    """The family classes of the generators built that give 32-bit words."""
+    made = {}
+    for name, family in _FAMILY_IDS.items():
+        if _brenn.rng.check_brng(family) != 0:
+            continue
+        try:
+            _brenn.rng.BitSource(family, [1])
+        except (ValueError, RuntimeError, NotImplementedError):
+            continue
+        made[name] = type(name, (BitGenerator,), {
+            "_family": family, "__module__": __name__, "__qualname__": name,
+            "__doc__": f"The {name} generator of the library as a numpy bit generator.\n\n"
+                       f"{name}(seed=0, member=0); see :class:`BitGenerator`."})
+    return made
+
+
+FAMILIES = _families()
+"""The bit-generator classes of this build, by family name."""
+globals().update(FAMILIES)
+__all__ = ["BitGenerator", "Stream", "FAMILIES"] + sorted(FAMILIES)
