@@ -12,146 +12,70 @@
 
 #include "platform/threader.h"
 #include "rng/brng/qrng_core.h"
-#include "rng/brng/word_forms.h"
+#include "rng/brng/qrng_exponent.h"
+#include "rng/brng/qrng_forms.h"
 
 namespace brenn::rng {
 
 namespace {
 
-// Each form writes one element (Put) or a run of a point's coordinates (Run), the
-// run converting several lanes at a time with the same result.
-struct Words {
-    uint32_t* r;
-    void Put(int64_t i, uint32_t x) const { r[i] = x; }
-    void Run(int64_t i, const uint32_t* p, int n) const {
-        memcpy(r + i, p, static_cast<size_t>(n) * sizeof(uint32_t));
-    }
-};
-
-// The 31-bit forms: the top 31 bits as a non-negative int32, converted exactly.
-struct Double31 {
-    double* r;
-    double s, a;
-    void Put(int64_t i, uint32_t x) const {
-        r[i] = static_cast<double>(static_cast<int32_t>(x >> 1)) * s + a;
-    }
-    void Run(int64_t i, const uint32_t* p, int n) const {
-        const __m128d vs = _mm_set1_pd(s), va = _mm_set1_pd(a);
-        int k = 0;
-        for (; k + 4 <= n; k += 4) {
-            __m128i x = _mm_srli_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p + k)), 1);
-            __m128d lo = _mm_cvtepi32_pd(x), hi = _mm_cvtepi32_pd(_mm_unpackhi_epi64(x, x));
-            _mm_storeu_pd(r + i + k, _mm_add_pd(_mm_mul_pd(lo, vs), va));
-            _mm_storeu_pd(r + i + k + 2, _mm_add_pd(_mm_mul_pd(hi, vs), va));
-        }
-        for (; k < n; ++k)
-            Put(i + k, p[k]);
-    }
-};
-struct Float31 {
-    float* r;
-    float s, a;
-    void Put(int64_t i, uint32_t x) const {
-        r[i] = static_cast<float>(static_cast<int32_t>(x >> 1)) * s + a;
-    }
-    void Run(int64_t i, const uint32_t* p, int n) const {
-        const __m128 vs = _mm_set1_ps(s), va = _mm_set1_ps(a);
-        int k = 0;
-        for (; k + 4 <= n; k += 4) {
-            __m128i x = _mm_srli_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p + k)), 1);
-            _mm_storeu_ps(r + i + k, _mm_add_ps(_mm_mul_ps(_mm_cvtepi32_ps(x), vs), va));
-        }
-        for (; k < n; ++k)
-            Put(i + k, p[k]);
-    }
-};
-
-// The 32-bit forms of the chunk path.
-struct Double32 {
-    double* r;
-    double s, a;
-    void Put(int64_t i, uint32_t x) const { r[i] = static_cast<double>(x) * s + a; }
-    void Run(int64_t i, const uint32_t* p, int n) const {
-        const __m128d vs = _mm_set1_pd(s), va = _mm_set1_pd(a);
-        int k = 0;
-        for (; k + 2 <= n; k += 2)
-            _mm_storeu_pd(r + i + k, _mm_add_pd(_mm_mul_pd(TwoWordsToDouble(p + k), vs), va));
-        for (; k < n; ++k)
-            Put(i + k, p[k]);
-    }
-};
-struct Float32 {
-    float* r;
-    float s, a;
-    void Put(int64_t i, uint32_t x) const { r[i] = static_cast<float>(x) * s + a; }
-    void Run(int64_t i, const uint32_t* p, int n) const {
-        for (int k = 0; k < n; ++k)
-            Put(i + k, p[k]);
-    }
-};
-
 constexpr int kSmallDims = 15;
 constexpr int kBlock = 32;
 
 // q points of D coordinates from output place `off`; returns the end counter. The
-// point stays in D/4 vector registers; points are gathered in a buffer whose
-// elements are then formed in one run. Rows are read 4 words at a time: the state
-// and chunk rows are at least 16 words long.
+// point stays in D/4 vector registers, each formed in place and then XORed with its
+// part of the row. Rows are read 4 words at a time: the state and chunk rows are at
+// least 16 words long.
 template <int D, typename Form>
 uint32_t RunSmall(uint32_t q, int64_t off, uint32_t counter, uint32_t* point, const uint32_t* dirs,
                   ptrdiff_t rowStride, const Form form) {
-    constexpr int kVectors = (D + 3) / 4, kBatch = 512 / D;
+    constexpr int kVectors = (D + 3) / 4;
     const Form f = form; // a local copy: stores through r cannot alias it
     alignas(16) uint32_t start[16] = {};
-    alignas(16) uint32_t buffer[kBatch * D + 16];
     memcpy(start, point, D * sizeof(uint32_t));
     __m128i p[kVectors];
     for (int v = 0; v < kVectors; ++v)
         p[v] = _mm_load_si128(reinterpret_cast<const __m128i*>(start + 4 * v));
-    while (q > 0) {
-        const uint32_t batch = q < kBatch ? q : kBatch;
-        for (uint32_t t = 0; t < batch; ++t) {
-            const uint32_t* row = dirs + LowZero(counter) * rowStride;
-#pragma GCC unroll 4
-            for (int v = 0; v < kVectors; ++v) {
-                _mm_storeu_si128(reinterpret_cast<__m128i*>(buffer + t * D + 4 * v), p[v]);
-                p[v] = _mm_xor_si128(
-                    p[v], _mm_loadu_si128(reinterpret_cast<const __m128i*>(row + 4 * v)));
-            }
-            ++counter;
-        }
-        f.Run(off, buffer, static_cast<int>(batch * D));
-        off += static_cast<int64_t>(batch) * D;
-        q -= batch;
-    }
+    const auto step = [&]<size_t... V>(std::index_sequence<V...>, const uint32_t* row) {
+        ((f.template Lanes<(D - 4 * static_cast<int>(V) < 4 ? D - 4 * static_cast<int>(V) : 4)>(
+              off + 4 * static_cast<int64_t>(V), p[V]),
+          p[V] = _mm_xor_si128(p[V], _mm_loadu_si128(reinterpret_cast<const __m128i*>(row) + V))),
+         ...);
+    };
+    for (uint32_t t = 0; t < q; ++t, off += D, ++counter)
+        step(std::make_index_sequence<kVectors>(), dirs + LowZero(counter) * rowStride);
     for (int v = 0; v < kVectors; ++v)
         _mm_store_si128(reinterpret_cast<__m128i*>(start + 4 * v), p[v]);
     memcpy(point, start, D * sizeof(uint32_t));
     return counter;
 }
 
-// q points of a contiguous point wider than the kernels: the point formed in one
-// run, then the row XORed over it.
+// One point of n coordinates at p delivered from output place `off`, then advanced
+// by `row`: each group of 4 coordinates formed and XORed in one pass.
+template <typename Form>
+inline void StepPoint(const Form& f, int64_t off, uint32_t* p, const uint32_t* row, int32_t n) {
+    int32_t j = 0;
+    for (; j + 4 <= n; j += 4) {
+        __m128i* at = reinterpret_cast<__m128i*>(p + j);
+        const __m128i x = _mm_loadu_si128(at);
+        f.template Lanes<4>(off + j, x);
+        _mm_storeu_si128(
+            at, _mm_xor_si128(x, _mm_loadu_si128(reinterpret_cast<const __m128i*>(row + j))));
+    }
+    for (; j < n; ++j) {
+        f.Put(off + j, p[j]);
+        p[j] ^= row[j];
+    }
+}
+
+// q points of a contiguous point wider than the kernels.
 template <typename Form>
 uint32_t RunWide(const QrngView& v, uint32_t q, int64_t off, const Form form) {
     const Form f = form;
     const int32_t d = v.head->dimension;
-    uint32_t* p = v.point;
     uint32_t counter = v.head->counter;
-    for (uint32_t t = 0; t < q; ++t, off += d) {
-        f.Run(off, p, d);
-        const uint32_t* row = v.dirs + LowZero(counter) * v.rowStride;
-        int32_t j = 0;
-        for (; j + 4 <= d; j += 4) {
-            __m128i* at = reinterpret_cast<__m128i*>(p + j);
-            _mm_storeu_si128(
-                at, _mm_xor_si128(_mm_loadu_si128(at),
-                                  _mm_loadu_si128(reinterpret_cast<const __m128i*>(row + j))));
-        }
-        for (; j < d; ++j)
-            p[j] ^= row[j];
-        ++counter;
-    }
+    for (uint32_t t = 0; t < q; ++t, off += d, ++counter)
+        StepPoint(f, off, v.point, v.dirs + LowZero(counter) * v.rowStride, d);
     return counter;
 }
 
@@ -173,21 +97,33 @@ struct BlockJob {
     int32_t dimension;
 };
 
-// The points of one block: W coordinates (32, or the last block's width w).
+// The points of one block: W coordinates (32, held in registers, or the last
+// block's width w).
 template <int W, typename Form>
 void StepBlock(const BlockJob<Form>& job, uint32_t* p, const uint32_t (*rows)[kBlock], int64_t j0,
                int w) {
-    const int width = W > 0 ? W : w;
     const Form f = job.f;
     const int64_t stride = job.dimension;
     uint32_t c = job.counter;
     int64_t o = job.off + j0;
-    for (uint32_t t = 0; t < job.q; ++t, o += stride) {
-        f.Run(o, p, width);
-        const uint32_t* row = rows[LowZero(c)];
-        for (int j = 0; j < width; ++j)
-            p[j] ^= row[j];
-        ++c;
+    if constexpr (W == kBlock) {
+        constexpr int kVectors = kBlock / 4;
+        __m128i x[kVectors];
+        for (int k = 0; k < kVectors; ++k)
+            x[k] = _mm_load_si128(reinterpret_cast<const __m128i*>(p) + k);
+        for (uint32_t t = 0; t < job.q; ++t, o += stride, ++c) {
+            const __m128i* row = reinterpret_cast<const __m128i*>(rows[LowZero(c)]);
+#pragma GCC unroll 8
+            for (int k = 0; k < kVectors; ++k) {
+                f.template Lanes<4>(o + 4 * k, x[k]);
+                x[k] = _mm_xor_si128(x[k], _mm_load_si128(row + k));
+            }
+        }
+        for (int k = 0; k < kVectors; ++k)
+            _mm_store_si128(reinterpret_cast<__m128i*>(p) + k, x[k]);
+    } else {
+        for (uint32_t t = 0; t < job.q; ++t, o += stride, ++c)
+            StepPoint(f, o, p, rows[LowZero(c)], w);
     }
 }
 
@@ -233,6 +169,12 @@ template <typename Form>
 void RunPoints(const QrngView& v, uint32_t q, int64_t off, const Form& f) {
     QrngHead* h = v.head;
     const int32_t d = h->dimension;
+    if constexpr (IsDoubleByExponent<Form>::value) {
+        if (q >= kExponentMinPoints && !UseThreads(v)) {
+            h->counter = RunByExponent(v, q, f.r + off, f.high, f.a, Form::kShift);
+            return;
+        }
+    }
     if (d <= kSmallDims && v.pointStride == 1 && v.colStride == 1) {
         static constexpr auto table = SmallTable<Form>(std::make_index_sequence<kSmallDims>());
         h->counter = table[d - 1](q, off, h->counter, v.point, v.dirs, v.rowStride, f);
@@ -313,9 +255,17 @@ int32_t QrngGenerateWords(const QrngView& v, int32_t n, uint32_t* r) {
     return Generate(v, n, Words{r});
 }
 
+// A power-of-two scale, as on [0, 1), forms the doubles without a multiplication.
 int32_t QrngGenerateDoubles(const QrngView& v, int32_t n, double* r, double a, double b) {
-    if (v.chunk) return Generate(v, n, Double32{r, (b - a) * kTwoM32, a});
-    return Generate(v, n, Double31{r, (b - a) * kTwoM31, a});
+    const double s = (b - a) * (v.chunk ? kTwoM32 : kTwoM31);
+    uint32_t high;
+    if (ExponentScale(s, &high)) {
+        const __m128i e = _mm_set1_epi32(static_cast<int32_t>(high));
+        if (v.chunk) return Generate(v, n, DoubleByExponent<false>{r, s, a, high, e});
+        return Generate(v, n, DoubleByExponent<true>{r, s, a, high, e});
+    }
+    if (v.chunk) return Generate(v, n, Double32{r, s, a});
+    return Generate(v, n, Double31{r, s, a});
 }
 
 int32_t QrngGenerateFloats(const QrngView& v, int32_t n, float* r, float a, float b) {

@@ -1,6 +1,9 @@
 // Known answers of Sobol and Niederr against GSL's gsl_qrng_sobol (30 bits) and
 // gsl_qrng_niederreiter_2 (31 bits, from its zero point), and the (t, m, s)-net
-// property of coordinates and pairs beyond GSL's dimensions.
+// property of coordinates and pairs beyond GSL's dimensions, its bounds checked on
+// GSL's own points.
+#include <algorithm>
+
 #include <gsl/gsl_qrng.h>
 
 #include "tests/rng/qrng_harness.h"
@@ -97,7 +100,7 @@ bool IsNet(const QWords& x, const QWords* y, int t, int m) {
 }
 
 // Degrees as the net bound counts them: Sobol's first coordinate has degree 1.
-int SobolDegree(int j) {
+int SobolDegree(uint32_t j) {
     static const int kDegrees[40] = {1, 1, 2, 3, 3, 4, 4, 5, 5, 5, 5, 5, 5, 6, 6, 6, 6, 6, 6, 7,
                                      7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 8, 8, 8};
     return kDegrees[j];
@@ -112,27 +115,57 @@ int NiederrDegree(uint32_t j) {
     return d + 1;
 }
 
+// Each coordinate a (t, m, 1)-net with t from `single`, and each pair among the
+// first pairDims a (t, m, 2)-net with t the sum of (degree - 1), for m to 12.
+void ExpectNets(const std::vector<QWords>& c, const char* name, int (*degree)(uint32_t),
+                bool singleTZero, int pairDims) {
+    constexpr int kM = 12;
+    const int dim = static_cast<int>(c.size());
+    for (int j = 0; j < dim; ++j)
+        for (int m = 1; m <= kM; ++m)
+            ASSERT_TRUE(IsNet(c[j], nullptr, singleTZero ? 0 : degree(j) - 1, m))
+                << name << " coordinate " << j + 1 << " m " << m;
+    for (int a = 0; a < std::min(dim, pairDims); ++a)
+        for (int b = a + 1; b < std::min(dim, pairDims); ++b)
+            for (int m = 1; m <= kM; ++m)
+                ASSERT_TRUE(IsNet(c[a], &c[b], degree(a) + degree(b) - 2, m))
+                    << name << " pair " << a + 1 << ", " << b + 1 << " m " << m;
+}
+
+constexpr int kNetPoints = 1 << 12;
+
 TEST(QrngGsl, CoordinatesAndPairsAreNets) {
-    constexpr int kM = 12, kPairDims = 64;
-    auto sob = Columns(QES_BRNG_SOBOL, 40, 1 << kM);
-    for (int j = 0; j < 40; ++j)
-        for (int m = 1; m <= kM; ++m)
-            ASSERT_TRUE(IsNet(sob[j], nullptr, 0, m)) << "Sobol coordinate " << j + 1;
-    for (int a = 0; a < 40; ++a)
-        for (int b = a + 1; b < 40; ++b)
-            for (int m = 1; m <= kM; ++m)
-                ASSERT_TRUE(IsNet(sob[a], &sob[b], SobolDegree(a) + SobolDegree(b) - 2, m))
-                    << "Sobol pair " << a + 1 << ", " << b + 1 << " m " << m;
-    auto nie = Columns(QES_BRNG_NIEDERR, 318, 1 << kM);
-    for (int j = 0; j < 318; ++j)
-        for (int m = 1; m <= kM; ++m)
-            ASSERT_TRUE(IsNet(nie[j], nullptr, NiederrDegree(j) - 1, m))
-                << "Niederr coordinate " << j + 1;
-    for (int a = 0; a < kPairDims; ++a)
-        for (int b = a + 1; b < kPairDims; ++b)
-            for (int m = 1; m <= kM; ++m)
-                ASSERT_TRUE(IsNet(nie[a], &nie[b], NiederrDegree(a) + NiederrDegree(b) - 2, m))
-                    << "Niederr pair " << a + 1 << ", " << b + 1 << " m " << m;
+    ExpectNets(Columns(QES_BRNG_SOBOL, 40, kNetPoints), "Sobol", SobolDegree, true, 40);
+    ExpectNets(Columns(QES_BRNG_NIEDERR, 318, kNetPoints), "Niederr", NiederrDegree, false, 64);
+}
+
+// GSL's points, the zero point first, as columns of 32-bit words: the coordinates
+// carry 30 or 31 bits, so the products are exact.
+std::vector<QWords> GslColumns(const gsl_qrng_type* type, int dim, int points, bool zeroFirst) {
+    gsl_qrng* q = gsl_qrng_alloc(type, dim);
+    std::vector<QWords> c(dim, QWords(points, 0));
+    std::vector<double> x(dim);
+    for (int k = zeroFirst ? 1 : 0; k < points; ++k) {
+        gsl_qrng_get(q, x.data());
+        for (int j = 0; j < dim; ++j)
+            c[j][k] = static_cast<uint32_t>(x[j] * 4294967296.0);
+    }
+    gsl_qrng_free(q);
+    return c;
+}
+
+// The same bounds hold on GSL's own points, so that they are the construction's and
+// not ours; and a Niederreiter coordinate alone is not always a (0, m, 1)-net.
+TEST(QrngGsl, GslPointsAreNetsWithTheSameBounds) {
+    ExpectNets(GslColumns(gsl_qrng_sobol, 40, kNetPoints, true), "GSL Sobol", SobolDegree, true,
+               40);
+    const auto nie = GslColumns(gsl_qrng_niederreiter_2, 12, kNetPoints, false);
+    ExpectNets(nie, "GSL Niederreiter", NiederrDegree, false, 12);
+    int notZero = 0;
+    for (int j = 0; j < 12; ++j)
+        for (int m = 1; m <= 12; ++m)
+            notZero += IsNet(nie[j], nullptr, 0, m) ? 0 : 1;
+    EXPECT_GT(notZero, 0);
 }
 
 } // namespace

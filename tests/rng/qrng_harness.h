@@ -1,10 +1,12 @@
 // Helpers of the quasi-random tests: streams made from a parameter list, words
-// drawn, the zero-point-first sequence of a stream, and the state head.
+// drawn, the zero-point-first sequence of a stream, user tables of direction
+// numbers, and the state head.
 #ifndef BRENN_TESTS_RNG_QRNG_HARNESS_H
 #define BRENN_TESTS_RNG_QRNG_HARNESS_H
 
 #include <string.h>
 
+#include <random>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -36,6 +38,17 @@ inline QWords FirstQ(int32_t id, const QWords& params, int32_t n) {
     QWords w = Draw(id, s, n);
     __qesDeleteStream(&s);
     return w;
+}
+
+// A user table of direction numbers: random words with the top bit of number b set,
+// so that the points are distinct.
+inline QWords UserTable(int dim, uint32_t seed) {
+    std::mt19937 g(seed);
+    QWords p = {static_cast<uint32_t>(dim), 1, 4};
+    for (int j = 0; j < dim; ++j)
+        for (int b = 0; b < 32; ++b)
+            p.push_back(((g() | 0x80000000u) >> b));
+    return p;
 }
 
 // The head of the state: counter, dimension, leapDimension, component.

@@ -1,7 +1,6 @@
 // Sobol and Niederr: seeding by dimension and by user tables with their fallbacks,
 // requests cut anywhere, the thread split of the chunk path, the end of the
-// sequence, the real forms, chunks shared on copy, save and load, and allocation
-// failures.
+// sequence, chunks shared on copy, save and load, and allocation failures.
 #include <random>
 
 #include "platform/threader.h"
@@ -150,17 +149,6 @@ TEST(Qrng, SobolModeOneRefusesDegreeNine) {
     __qesDeleteStream(&s);
 }
 
-// A user table of direction numbers: random words with the top bit of number b set,
-// so that the points are distinct.
-QWords UserTable(int dim, uint32_t seed) {
-    std::mt19937 g(seed);
-    QWords p = {static_cast<uint32_t>(dim), 1, 4};
-    for (int j = 0; j < dim; ++j)
-        for (int b = 0; b < 32; ++b)
-            p.push_back(((g() | 0x80000000u) >> b));
-    return p;
-}
-
 // One long request against random cuts of the same length, for each generator form.
 void ExpectRandomCuts(int32_t id, const QWords& params, int32_t total, uint32_t seed) {
     const QWords ref = FirstQ(id, params, total);
@@ -209,32 +197,6 @@ TEST(Qrng, ThreadLimitDoesNotChangeTheChunkPath) {
             // The first point is the first direction numbers.
             for (int j = 0; j < d; ++j)
                 ASSERT_EQ(one[j], p[3 + 32 * j]);
-        }
-    }
-}
-
-// The state path's reals take the top 31 bits, the chunk path's all 32.
-TEST(Qrng, RealFormsByPath) {
-    const QWords small = {3}, user = UserTable(3, 3);
-    for (const QWords* p : {&small, &user}) {
-        const bool chunk = p->size() > 1;
-        const QWords w = FirstQ(kSobol, *p, 300);
-        void* s = NewQrng(kSobol, *p);
-        std::vector<double> d(300);
-        ASSERT_EQ(__qesdBRngSobol(s, 300, d.data(), -1.0, 3.0), 0);
-        __qesDeleteStream(&s);
-        s = NewQrng(kSobol, *p);
-        std::vector<float> f(300);
-        ASSERT_EQ(__qessBRngSobol(s, 300, f.data(), -1.0f, 3.0f), 0);
-        __qesDeleteStream(&s);
-        for (int i = 0; i < 300; ++i) {
-            double want = chunk ? static_cast<double>(w[i]) * (4.0 / 4294967296.0) - 1.0
-                                : static_cast<double>(w[i] >> 1) * (4.0 / 2147483648.0) - 1.0;
-            float fs = static_cast<float>(4.0 / (chunk ? 4294967296.0 : 2147483648.0));
-            float fx = chunk ? static_cast<float>(w[i])
-                             : static_cast<float>(static_cast<int32_t>(w[i] >> 1));
-            ASSERT_EQ(d[i], want) << i;
-            ASSERT_EQ(f[i], fx * fs + -1.0f) << i;
         }
     }
 }
