@@ -673,6 +673,45 @@ int32_t _qesdSSWMedian(void* task);
  * @copydetails _qesdSSWMedian */
 int32_t _qessSSWMedian(void* task);
 
+/** Streaming quantiles (BRENN_SS_STREAM_QUANTS): each call feeds the task's n
+ * observations of each variable into a summary that the task keeps, and with
+ * BRENN_SS_METHOD_STREAM_READ then writes the quantile of each streaming order of each
+ * variable v to streamQuantiles[v * m + k]. With accuracy eps (element 0 of the
+ * streaming parameters), over the N observations fed so far, the value given for order
+ * b has a rank in the sorted data within eps N of b N. The summary depends only on the
+ * sequence of observations, not on how it was cut into calls; it holds a number of
+ * entries that grows as log2(eps N) / eps (the exact count for some N is in the
+ * benchmark's report), and is freed with the task. Ranks are 32-bit: a variable takes
+ * fewer than 2^31 observations. The dimension, eps and the variables the indices keep
+ * are fixed by the first call: a later p above the first gives
+ * BRENN_SS_ERROR_DIMENSION, indices that take in a variable left out at first
+ * BRENN_SS_ERROR_INDICES_MISSING, and a change of eps is not noticed.
+ * @param task the task
+ * @param estimates BRENN_SS_STREAM_QUANTS (without it nothing is done)
+ * @param method BRENN_SS_METHOD_STREAM_READ (feed, then read) or
+ *        BRENN_SS_METHOD_STREAM_FEED (feed only)
+ * @param thr the threading record, or null for the calling thread
+ * @return BRENN_SS_OK; BRENN_SS_ERROR_TASK_NULL; in this order:
+ *         BRENN_SS_ERROR_OBSERVATION_COUNT, BRENN_SS_ERROR_OBSERVATIONS_MISSING,
+ *         BRENN_SS_ERROR_DIMENSION, BRENN_SS_ERROR_STORAGE_WORD_MISSING,
+ *         BRENN_SS_ERROR_STORAGE, BRENN_SS_ERROR_STREAM_QUANTILES_MISSING,
+ *         BRENN_SS_ERROR_STREAM_ORDERS_MISSING, BRENN_SS_ERROR_STREAM_ORDER_COUNT (count
+ *         missing or below 0), BRENN_SS_ERROR_STREAM_PARAM_COUNT_MISSING,
+ *         BRENN_SS_ERROR_STREAM_PARAM_COUNT, BRENN_SS_ERROR_STREAM_ORDER_COUNT (an order
+ *         outside [0, 1] or NaN), BRENN_SS_ERROR_STREAM_PARAMS_MISSING,
+ *         BRENN_SS_ERROR_METHOD, BRENN_SS_ERROR_STREAM_ACCURACY (eps not in (0, 1]),
+ *         BRENN_SS_ERROR_INDICES_MISSING; BRENN_SS_ERROR_ALLOC, after which the summary
+ *         holds the observations fed before the failure. */
+int32_t _qesdSSStreamQuantiles(void* task, uint64_t estimates, uint64_t method,
+                               const struct threader* thr);
+/** The single-precision form of _qesdSSStreamQuantiles().
+ * @copydetails _qesdSSStreamQuantiles */
+int32_t _qessSSStreamQuantiles(void* task, uint64_t estimates, uint64_t method,
+                               const struct threader* thr);
+/** Frees the streaming summary of a task and sets its state to null; the task's
+ * clean-up hook, called by _qesSSDeleteTask(). */
+void __qesSQuantilesFreeBuffers(void* task);
+
 #ifdef __cplusplus
 }
 #endif
