@@ -6,9 +6,12 @@
 #ifndef BRENN_FITTING_CUBIC_H
 #define BRENN_FITTING_CUBIC_H
 
+#include <emmintrin.h>
+
 #include <initializer_list>
 
 #include "fitting/construct.h"
+#include "fitting/cubic_lanes.h"
 #include "fitting/partition.h"
 #include "platform/bytes.h"
 #include "platform/serv.h"
@@ -61,6 +64,29 @@ struct CubicCells {
     T rcp(int64_t i) const { return Uniform ? inverseStep : r[i]; }
 };
 
+// r[i] = 1 / (x[i+1] - x[i]), i below count, a register of cells at a time: each
+// lane's quotient is the one-at-a-time quotient to the bit, at a fraction of the
+// divider's time.
+inline void ReciprocalWidths(const double* x, int64_t count, double* r) {
+    int64_t i = 0;
+    const __m128d one = _mm_set1_pd(1.0);
+    for (; i + 2 <= count; i += 2)
+        _mm_storeu_pd(r + i,
+                      _mm_div_pd(one, _mm_sub_pd(_mm_loadu_pd(x + i + 1), _mm_loadu_pd(x + i))));
+    for (; i < count; ++i)
+        r[i] = 1.0 / (x[i + 1] - x[i]);
+}
+
+inline void ReciprocalWidths(const float* x, int64_t count, float* r) {
+    int64_t i = 0;
+    const __m128 one = _mm_set1_ps(1.0f);
+    for (; i + 4 <= count; i += 4)
+        _mm_storeu_ps(r + i,
+                      _mm_div_ps(one, _mm_sub_ps(_mm_loadu_ps(x + i + 1), _mm_loadu_ps(x + i))));
+    for (; i < count; ++i)
+        r[i] = 1.0f / (x[i + 1] - x[i]);
+}
+
 // The cells of a task; r (nx-1 elements) receives the reciprocal widths of a
 // non-uniform partition.
 template <typename T, bool Uniform>
@@ -71,8 +97,7 @@ inline CubicCells<T, Uniform> CellsOf(const FittingTask* task, T* r) {
         c.inverseStep = static_cast<T>(task->nx - 1) / (x[1] - x[0]);
         c.step = T(1) / c.inverseStep;
     } else {
-        for (int64_t i = 0; i + 1 < task->nx; ++i)
-            r[i] = T(1) / (x[i + 1] - x[i]);
+        ReciprocalWidths(x, task->nx - 1, r);
         c.r = r;
     }
     return c;
@@ -94,7 +119,7 @@ inline void Slopes(const YAccess<T, Columns>& y, const CubicCells<T, Uniform>& c
 
 // The coefficients of the cells from the values and the node derivatives, function f's
 // derivatives at d + f*nx: c0 = y[i], c1 = d[i], c2 = (3m - 2d[i] - d[i+1]) / h,
-// c3 = (d[i] + d[i+1] - 2m) / h^2.
+// c3 = (d[i] + d[i+1] - 2m) / h^2; a register of cells at a time, the rest one by one.
 template <typename T, bool Columns, bool Uniform>
 struct CubicCellJob {
     const FittingTask* task;
@@ -108,8 +133,15 @@ struct CubicCellJob {
             auto y = FunctionValues<T, Columns>(task, f);
             const T* df = d + f * nx;
             T* c = static_cast<T*>(task->sCoeff[f]) + job.cellBegin * order;
-            T y0 = y[job.cellBegin];
-            for (int64_t i = job.cellBegin; i < job.cellEnd; ++i, c += order) {
+            int64_t i = job.cellBegin;
+            constexpr int64_t kWidth = CellLanes<T>::kWidth;
+            for (; i + kWidth <= job.cellEnd; i += kWidth, c += kWidth * order) {
+                auto r = Uniform ? CellLanes<T>::Broadcast(cells.inverseStep)
+                                 : CellLanes<T>::Load(cells.r + i);
+                CellsAtOnce(y, df, r, i, c, order);
+            }
+            T y0 = y[i];
+            for (; i < job.cellEnd; ++i, c += order) {
                 T y1 = y[i + 1];
                 T r = cells.rcp(i);
                 T m = (y1 - y0) * r;
