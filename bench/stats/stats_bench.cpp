@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "bench/stats/peer_timing.h"
 #include "brenn_stats.h"
 #include "platform/threader.h"
 
@@ -100,47 +101,11 @@ void MeanVariance(benchmark::State& state, uint64_t method) {
     _qesSSDeleteTask(&task);
 }
 
-std::map<std::string, double> NumpyTimes() {
-    std::map<std::string, double> times;
-    std::string command = std::string("/usr/bin/python3 ") + BRENN_NUMPY_TIMING;
-    FILE* pipe = popen(command.c_str(), "r");
-    if (pipe == nullptr) return times;
-    char name[128];
-    double seconds;
-    while (std::fscanf(pipe, "%127s %lf", name, &seconds) == 2)
-        times[name] = seconds;
-    pclose(pipe);
-    return times;
-}
-
-// Records the real time of each run so that the ratios can be printed after the table.
-class Recorder : public benchmark::ConsoleReporter {
-  public:
-    std::map<std::string, double> seconds;
-    void ReportRuns(const std::vector<Run>& runs) override {
-        for (const Run& r : runs)
-            seconds[r.benchmark_name()] =
-                r.GetAdjustedRealTime() / benchmark::GetTimeUnitMultiplier(r.time_unit);
-        ConsoleReporter::ReportRuns(runs);
-    }
-};
-
 } // namespace
 
 int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
-    std::map<std::string, double> numpy = NumpyTimes();
-    for (const auto& [name, t] : numpy) {
-        double seconds = t;
-        benchmark::RegisterBenchmark(name.c_str(),
-                                     [seconds](benchmark::State& state) {
-                                         for (auto _ : state)
-                                             state.SetIterationTime(seconds);
-                                     })
-            ->UseManualTime()
-            ->Iterations(1)
-            ->Unit(benchmark::kMillisecond);
-    }
+    brenn::bench::RegisterPeerTimes(BRENN_NUMPY_TIMING);
     benchmark::RegisterBenchmark("bare_dsyrk_1e6x32", BareDsyrk)->Unit(benchmark::kMillisecond);
     benchmark::RegisterBenchmark("cov_1e6x32_blocked", Covariance, BRENN_SS_METHOD_ONE_PASS_B,
                                  nullptr)
@@ -158,13 +123,9 @@ int main(int argc, char** argv) {
         ->Unit(benchmark::kMillisecond);
     benchmark::RegisterBenchmark("mean_var_1e7_onepass", MeanVariance, BRENN_SS_METHOD_ONE_PASS)
         ->Unit(benchmark::kMillisecond);
-    Recorder recorder;
+    brenn::bench::Recorder recorder;
     benchmark::RunSpecifiedBenchmarks(&recorder);
-    auto ratio = [&](const char* a, const char* b) {
-        auto x = recorder.seconds.find(a), y = recorder.seconds.find(b);
-        if (x != recorder.seconds.end() && y != recorder.seconds.end())
-            std::printf("%-28s / %-28s = %.2f\n", a, b, x->second / y->second);
-    };
+    auto ratio = [&](const char* a, const char* b) { recorder.Ratio(a, b); };
     ratio("cov_1e6x32_blocked/real_time", "bare_dsyrk_1e6x32");
     ratio("cov_1e6x32_blocked_pool/real_time", "bare_dsyrk_1e6x32");
     ratio("cov_1e6x32_blocked/real_time", "numpy_cov_1e6x32/iterations:1/manual_time");

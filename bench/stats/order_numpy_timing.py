@@ -1,0 +1,30 @@
+#!/usr/bin/python3
+"""Times numpy on the order benchmark's problems (quantiles, partition, sort); prints
+one line a problem, `name seconds` (best of several runs)."""
+import time
+
+import numpy as np
+
+
+def best(f, runs):
+    t = float("inf")
+    for _ in range(runs):
+        t0 = time.perf_counter()
+        f()
+        t = min(t, time.perf_counter() - t0)
+    return t
+
+
+rng = np.random.default_rng(3)
+v = rng.normal(size=10000000)
+rows = rng.normal(size=(32, 312500))
+cols = np.ascontiguousarray(rows.T)
+three = [0.25, 0.5, 0.75]
+print("numpy_quantile_1e7_one", best(lambda: np.quantile(v, 0.5), 5))
+print("numpy_quantile_1e7_three", best(lambda: np.quantile(v, three), 5))
+print("numpy_partition_1e7", best(lambda: np.partition(v, len(v) // 2), 5))
+print("numpy_quantile_32_rows_one", best(lambda: np.quantile(rows, 0.5, axis=1), 5))
+print("numpy_quantile_32_rows_three", best(lambda: np.quantile(rows, three, axis=1), 5))
+print("numpy_quantile_32_cols_one", best(lambda: np.quantile(cols, 0.5, axis=0), 5))
+print("numpy_quantile_32_cols_three", best(lambda: np.quantile(cols, three, axis=0), 5))
+print("numpy_sort_1e7", best(lambda: np.sort(v), 3))

@@ -1,0 +1,65 @@
+// What the statistics benchmarks share to run beside numpy: the times of a timing
+// script run by /usr/bin/python3 in the same run, entered into the table as manual
+// timings, and a reporter that keeps each benchmark's best real time for the ratios
+// printed after the table.
+#ifndef BRENN_BENCH_STATS_PEER_TIMING_H
+#define BRENN_BENCH_STATS_PEER_TIMING_H
+
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace brenn::bench {
+
+// Runs the script and registers each `name seconds` line it prints as a benchmark of
+// one manual iteration.
+inline void RegisterPeerTimes(const char* script) {
+    std::string command = std::string("/usr/bin/python3 ") + script;
+    FILE* pipe = popen(command.c_str(), "r");
+    if (pipe == nullptr) return;
+    char name[128];
+    double seconds;
+    while (std::fscanf(pipe, "%127s %lf", name, &seconds) == 2)
+        benchmark::RegisterBenchmark(name,
+                                     [seconds](benchmark::State& state) {
+                                         for (auto _ : state)
+                                             state.SetIterationTime(seconds);
+                                     })
+            ->UseManualTime()
+            ->Iterations(1)
+            ->Unit(benchmark::kMillisecond);
+    pclose(pipe);
+}
+
+class Recorder : public benchmark::ConsoleReporter {
+  public:
+    std::map<std::string, double> seconds;
+    void ReportRuns(const std::vector<Run>& runs) override {
+        // With repetitions the best run counts, as the peers' best of several runs does.
+        for (const Run& r : runs) {
+            if (r.run_type != Run::RT_Iteration) continue;
+            double t = r.GetAdjustedRealTime() / benchmark::GetTimeUnitMultiplier(r.time_unit);
+            // Found by the full name and by the registered name alone.
+            for (const std::string& name : {r.benchmark_name(), r.run_name.function_name}) {
+                auto [at, fresh] = seconds.emplace(name, t);
+                if (!fresh && t < at->second) at->second = t;
+            }
+        }
+        ConsoleReporter::ReportRuns(runs);
+    }
+    // Prints a / b when both ran; returns the ratio, or 0.
+    double Ratio(const std::string& a, const std::string& b) const {
+        auto x = seconds.find(a), y = seconds.find(b);
+        if (x == seconds.end() || y == seconds.end()) return 0;
+        double r = x->second / y->second;
+        std::printf("%-36s / %-44s = %.2f\n", a.c_str(), b.c_str(), r);
+        return r;
+    }
+};
+
+} // namespace brenn::bench
+
+#endif
