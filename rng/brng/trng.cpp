@@ -88,23 +88,12 @@ using namespace brenn::rng;
 
 BRENN_EXPORT int32_t __qesBRngTRNGInitStream(int32_t method, void* stream, int32_t n,
                                              const void* params) {
-    switch (method) {
-    case QES_INIT_SEED: {
-        const uint32_t* words = static_cast<const uint32_t*>(params);
-        TrngState* s = StateOf<TrngState>(stream);
-        s->zero = 0;
-        s->retries = n >= 2 && words[1] != 0 ? words[1] : kDefaultRetries;
-        return QES_STATUS_OK;
-    }
-    case QES_INIT_LEAPFROG:
-        return QES_RNG_STATUS_NO_LEAPFROG;
-    case QES_INIT_SKIP:
-        return QES_RNG_STATUS_NO_SKIPAHEAD;
-    case QES_INIT_SKIP_EX:
-        return QES_RNG_STATUS_NO_SKIPAHEAD_EX;
-    default:
-        return QES_STATUS_BAD_METHOD;
-    }
+    if (method != QES_INIT_SEED) return NoJumpStatus(method);
+    const uint32_t* words = static_cast<const uint32_t*>(params);
+    TrngState* s = StateOf<TrngState>(stream);
+    s->zero = 0;
+    s->retries = n >= 2 && words[1] != 0 ? words[1] : kDefaultRetries;
+    return QES_STATUS_OK;
 }
 
 BRENN_EXPORT int32_t __qesiBRngTRNG(void* stream, int32_t n, void* r) {

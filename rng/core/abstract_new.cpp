@@ -1,9 +1,8 @@
 // Abstract streams: the three constructors, the seeding entries of the three kinds
 // and the stub that stands in every output entry of the wrong kind. A constructor
-// checks its arguments, makes the record by the kind's registry row and hands the
-// kind's seeding a record of the arguments.
+// checks its arguments, makes the record by the kind's registry row (as for any
+// stream) and hands the kind's seeding a record of the arguments.
 #include "frame/export.h"
-#include "platform/serv.h"
 #include "rng/core/abstract.h"
 
 namespace brenn::rng {
@@ -14,18 +13,10 @@ constexpr int32_t kIFamily = 9, kDFamily = 10, kSFamily = 11;
 
 template <typename State>
 int32_t NewAbstract(void** stream, int32_t family, int32_t id, const State& args) {
-    if (__qesIsBrngValid(__RegBrngsNew, family, 0) != QES_STATUS_OK) return QES_RNG_STATUS_BAD_BRNG;
-    const BrngRecord& row = __RegBrngsNew[family];
-    void* p = brenn_serv_allocate(static_cast<size_t>(row.stateSize), kStreamAlignment);
-    if (p == nullptr) return QES_STATUS_NO_MEMORY;
-    *stream = p;
-    StreamHeader* h = Header(p);
-    h->brng = id;
-    h->headerTag = 1;
-    h->headerByte = 0;
-    h->headerWord = 0;
-    h->chunkSlot = 0;
-    return row.initStream(QES_INIT_SEED, p, 0, &args);
+    // Validates the family first, then allocates its stateSize.
+    int32_t status = __qesAllocateStream(stream, __RegBrngsNew, id, family, 0);
+    if (status != QES_STATUS_OK) return status;
+    return __RegBrngsNew[family].initStream(QES_INIT_SEED, *stream, 0, &args);
 }
 
 // Pointers non-null and a buffer of at least one element; a negative size would
@@ -36,23 +27,12 @@ bool Plain(void** stream, int32_t bufferSize, const void* buffer, const void* ca
 
 template <typename State>
 int32_t InitAbstract(int32_t method, void* stream, const void* params) {
-    switch (method) {
-    case QES_INIT_SEED: {
-        State* s = StateOf<State>(stream);
-        *s = *static_cast<const State*>(params);
-        s->nextIndex = 0;
-        s->freeCount = s->bufferSize; // the buffer counts as empty
-        return QES_STATUS_OK;
-    }
-    case QES_INIT_LEAPFROG:
-        return QES_RNG_STATUS_NO_LEAPFROG;
-    case QES_INIT_SKIP:
-        return QES_RNG_STATUS_NO_SKIPAHEAD;
-    case QES_INIT_SKIP_EX:
-        return QES_RNG_STATUS_NO_SKIPAHEAD_EX;
-    default:
-        return QES_STATUS_BAD_METHOD;
-    }
+    if (method != QES_INIT_SEED) return NoJumpStatus(method);
+    State* s = StateOf<State>(stream);
+    *s = *static_cast<const State*>(params);
+    s->nextIndex = 0;
+    s->freeCount = s->bufferSize; // the buffer counts as empty
+    return QES_STATUS_OK;
 }
 
 } // namespace

@@ -55,6 +55,21 @@ const BrngRecord* ValidRow(int32_t id);
 const BrngRecord* BuiltRow(int32_t id);
 bool IsBuilt(const BrngRecord* row);
 
+// The status of a jump method (1 to 3) for a generator that has none, or of an
+// unknown method.
+inline int32_t NoJumpStatus(int32_t method) {
+    switch (method) {
+    case QES_INIT_LEAPFROG:
+        return QES_RNG_STATUS_NO_LEAPFROG;
+    case QES_INIT_SKIP:
+        return QES_RNG_STATUS_NO_SKIPAHEAD;
+    case QES_INIT_SKIP_EX:
+        return QES_RNG_STATUS_NO_SKIPAHEAD_EX;
+    default:
+        return QES_STATUS_BAD_METHOD;
+    }
+}
+
 // The row of a stream's generator when it is built, else null.
 inline const BrngRecord* BuiltRowOf(const void* stream) {
     return BuiltRow(Header(stream)->brng);
