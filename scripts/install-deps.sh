@@ -15,6 +15,8 @@ packages=(
   # references: correctly rounded functions, peers, generator and statistics oracles
   libmpfr-dev libmpc-dev libgmp-dev libsleef-dev libgsl-dev librandom123-dev
   python3 python3-numpy python3-scipy
+  # the Python package (pybind11) and its tests
+  python3-dev pybind11-dev python3-pybind11 python3-pytest python3-mpmath
   # fitting of coefficients and statistical quality of generators
   sollya dieharder
   # API reference and the Debian packages (scripts/package.sh)

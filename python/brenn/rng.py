@@ -163,6 +163,8 @@ class Stream:
         """``size`` uniform floats on [low, high) (float64 or float32); ``accurate``
         clamps them to [low, high]."""
         dtype = np.dtype(dtype)
+        if not low < high:
+            raise ValueError(f"uniform draws need low < high, not [{low}, {high})")
         if dtype == np.float64:
             return self._s.duniform(int(size), float(low), float(high), bool(accurate))
         if dtype == np.float32:

@@ -36,7 +36,8 @@ def summary(x, weights=None, axis=0, estimates=None):
 
     Normalisation: ``variance`` and ``covariance`` are unbiased (``ddof=1`` without
     weights, ``W / (W**2 - sum w**2)`` with them); third and fourth central moments
-    divide by the weight sum; ``kurtosis`` is the excess kurtosis; ``variation`` is
+    divide by the weight sum; ``skewness`` is ``c3 / variance**1.5`` and
+    ``kurtosis`` the excess ``c4 / variance**2 - 3`` of those; ``variation`` is
     the standard deviation over the mean.
     Returns a :class:`Summary` whose attributes are the estimates asked for."""
     x = np.asarray(x)

@@ -5,6 +5,7 @@
 #include <pybind11/pybind11.h>
 
 #include <climits>
+#include <string>
 #include <utility>
 
 #include "python/src/bindings.h"
@@ -54,6 +55,12 @@ class Spline {
         const T* icData = DataOrNull<T>(ic, icKeep);
         int status =
             Api<T>::New(&s_, kind, x.shape(0), x.data(), y.data(), bc_type, bcData, icData);
+        // The construction's own refusals (a condition the kind does not take, too
+        // few points) are about the caller's arguments too.
+        if (status < 0 && status != FIT_STATUS_NO_MEMORY && status >= FIT_STATUS_NULL_OUT &&
+            status <= FIT_STATUS_NULL_TASK)
+            throw py::value_error("spline: the construction refused its arguments (status " +
+                                  std::to_string(status) + ")");
         Check(status, "spline");
     }
     Spline(const Spline&) = delete;

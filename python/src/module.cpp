@@ -18,7 +18,10 @@ void Check(int status, const char* what) {
     case BRENN_ERR_BAD_ACCURACY:
     case BRENN_ERR_SIZE_MISMATCH:
     case BRENN_ERR_TOO_LONG:
+    case QES_STATUS_BAD_ARGUMENT:
         throw py::value_error(message);
+    case QES_RNG_STATUS_NO_SKIPAHEAD: // the generator has no jump or leapfrog
+    case QES_RNG_STATUS_NO_LEAPFROG:
     case BRENN_ERR_NOT_AVAILABLE:
         PyErr_SetString(PyExc_NotImplementedError, message.c_str());
         throw py::error_already_set();

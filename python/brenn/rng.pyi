@@ -1,0 +1,69 @@
+"""Stub of brenn.rng (the family classes are made for the generators built)."""
+import threading
+from typing import Any, Optional, Sequence, Union
+
+import numpy as np
+from numpy.typing import DTypeLike, NDArray
+
+Seed = Union[int, Sequence[int]]
+
+class BitGenerator:
+    """A library generator as a numpy bit generator."""
+    lock: threading.Lock
+    capsule: Any
+    def __init__(self, seed: Seed = ..., member: int = ...) -> None: ...
+    @property
+    def brng(self) -> int:
+        """The generator id of the stream."""
+    def random_raw(self, size: Optional[Union[int, tuple[int, ...]]] = ...) -> Union[int, NDArray[np.uint64]]:
+        """The next 32-bit words of the stream."""
+    def jumped(self, nskip: int = ...) -> "BitGenerator":
+        """A new bit generator nskip words further on."""
+    def leapfrog(self, k: int, nstreams: int) -> None:
+        """Takes words k, k + nstreams, ... of the sequence."""
+    @property
+    def state(self) -> dict[str, Any]:
+        """The stream's image and the words drawn but not read."""
+    @state.setter
+    def state(self, value: dict[str, Any]) -> None: ...
+
+class MT19937(BitGenerator):
+    """The MT19937 generator of the library."""
+class MT2203(BitGenerator):
+    """The MT2203 generators of the library (member 0 ..)."""
+class SFMT19937(BitGenerator):
+    """The SFMT19937 generator of the library."""
+class MCG59(BitGenerator):
+    """The MCG59 generator of the library."""
+class PHILOX4X32X10(BitGenerator):
+    """The Philox4x32-10 generator of the library."""
+class ARS5(BitGenerator):
+    """The ARS-5 generator of the library."""
+
+FAMILIES: dict[str, type[BitGenerator]]
+
+class Stream:
+    """A stream of the library with its bulk draws."""
+    def __init__(self, family: Union[str, int] = ..., seed: Seed = ..., member: int = ...) -> None: ...
+    @property
+    def brng(self) -> int:
+        """The generator id."""
+    def copy(self) -> "Stream":
+        """A new stream with this one's state."""
+    def skip_ahead(self, nskip: int) -> None:
+        """Skips nskip outputs."""
+    def leapfrog(self, k: int, nstreams: int) -> None:
+        """Serves outputs k, k + nstreams, ..."""
+    def uniform(self, size: int, low: float = ..., high: float = ..., dtype: DTypeLike = ...,
+                accurate: bool = ...) -> NDArray[np.floating]:
+        """Uniform floats on [low, high)."""
+    def integers(self, size: int, low: int, high: int) -> NDArray[np.int32]:
+        """Uniform integers on [low, high)."""
+    def bits32(self, size: int) -> NDArray[np.uint32]:
+        """Words of 32 uniform bits."""
+    def bits64(self, size: int) -> NDArray[np.uint64]:
+        """Words of 64 uniform bits."""
+    def bernoulli(self, size: int, p: float) -> NDArray[np.int32]:
+        """Bernoulli variates."""
+    def geometric(self, size: int, p: float) -> NDArray[np.int32]:
+        """Geometric variates."""
