@@ -1,4 +1,4 @@
-/* Runs of whole points in double at a power-of-two scale 2^k, with each coordinate
+/* Runs of whole points in double, rounding being to nearest, with each coordinate
  * kept as the bit pattern of the double 2^(52 + k) + x' 2^k (x' the coordinate
  * word shifted right by `shift`), which the row XOR keeps in that form. */
 #ifndef BRENN_RNG_BRNG_QRNG_EXPONENT_H
@@ -13,10 +13,11 @@ namespace brenn::rng {
 // Fewer points than this are cheaper by the vector forms than by setting up rows.
 constexpr uint32_t kExponentMinPoints = 16;
 
-// q whole points into r: x' 2^k + a with 2^(52 + k) of high word `high`, the same
-// bits as the multiplication by 2^k. The point is advanced; returns the end counter.
-uint32_t RunByExponent(const QrngView& v, uint32_t q, double* r, uint32_t high, double a,
-                       int shift);
+// q whole points into r, x' s + a: with `multiply`, k is 0 (`high` that of 2^52)
+// and x' is multiplied by s; without, s is 2^k and x' 2^k is exact as it stands.
+// The point is advanced; returns the end counter.
+uint32_t RunByExponent(const QrngView& v, uint32_t q, double* r, uint32_t high, double s, double a,
+                       int shift, bool multiply);
 
 } // namespace brenn::rng
 

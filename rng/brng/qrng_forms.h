@@ -73,8 +73,11 @@ struct Words {
 // itself (32 bits).
 template <bool k31>
 struct Double {
+    static constexpr int kShift = k31 ? 1 : 0;
+    static constexpr bool kMultiply = true;
     double* r;
     double s, a;
+    uint32_t high; // that of 2^52 when rounding is to nearest, else 0
     void Put(int64_t i, uint32_t x) const { r[i] = static_cast<double>(k31 ? x >> 1 : x) * s + a; }
     template <int L>
     void Lanes(int64_t i, __m128i x) const {
@@ -115,6 +118,7 @@ inline bool ExponentScale(double s, uint32_t* highWord) {
 template <bool k31>
 struct DoubleByExponent {
     static constexpr int kShift = k31 ? 1 : 0;
+    static constexpr bool kMultiply = false;
     double* r;
     double s, a;
     uint32_t high;    // high word of 2^(52 + k)
@@ -135,10 +139,13 @@ struct DoubleByExponent {
     }
 };
 
+// The double forms, whose whole points may go by RunByExponent.
 template <typename Form>
-struct IsDoubleByExponent : std::false_type {};
+struct IsDoubleForm : std::false_type {};
 template <bool k31>
-struct IsDoubleByExponent<DoubleByExponent<k31>> : std::true_type {};
+struct IsDoubleForm<Double<k31>> : std::true_type {};
+template <bool k31>
+struct IsDoubleForm<DoubleByExponent<k31>> : std::true_type {};
 
 struct Float31 {
     float* r;

@@ -169,9 +169,10 @@ template <typename Form>
 void RunPoints(const QrngView& v, uint32_t q, int64_t off, const Form& f) {
     QrngHead* h = v.head;
     const int32_t d = h->dimension;
-    if constexpr (IsDoubleByExponent<Form>::value) {
-        if (q >= kExponentMinPoints && !UseThreads(v)) {
-            h->counter = RunByExponent(v, q, f.r + off, f.high, f.a, Form::kShift);
+    if constexpr (IsDoubleForm<Form>::value) {
+        if (f.high != 0 && q >= kExponentMinPoints && !UseThreads(v)) {
+            h->counter =
+                RunByExponent(v, q, f.r + off, f.high, f.s, f.a, Form::kShift, Form::kMultiply);
             return;
         }
     }
@@ -264,8 +265,11 @@ int32_t QrngGenerateDoubles(const QrngView& v, int32_t n, double* r, double a, d
         if (v.chunk) return Generate(v, n, DoubleByExponent<false>{r, s, a, high, e});
         return Generate(v, n, DoubleByExponent<true>{r, s, a, high, e});
     }
-    if (v.chunk) return Generate(v, n, Double32{r, s, a});
-    return Generate(v, n, Double31{r, s, a});
+    // Otherwise runs keep coordinates under the exponent of 2^52, whose subtraction
+    // gives +0 for a zero word only when rounding is to nearest.
+    high = (_mm_getcsr() & 0x6000u) == 0 ? 0x43300000u : 0u;
+    if (v.chunk) return Generate(v, n, Double32{r, s, a, high});
+    return Generate(v, n, Double31{r, s, a, high});
 }
 
 int32_t QrngGenerateFloats(const QrngView& v, int32_t n, float* r, float a, float b) {
