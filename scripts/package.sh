@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Builds the Debian packages (libbrenn1, libbrenn-dev, libbrenn-doc) with CPack from
+# Builds the Debian packages (libbrenn1, libbrenn-dev, libbrenn-doc, and python3-brenn
+# when pybind11 is installed) with CPack from
 # the library's install rules, checks what each holds and needs, and runs lintian on
 # them. Exits non-zero when a check fails or lintian reports an error; lintian's
 # warnings are printed and left to the reader.
@@ -35,6 +36,12 @@ runtime=$dir/libbrenn${major}_$version-${revision}_$arch.deb
 dev=$dir/libbrenn-dev_$version-${revision}_$arch.deb
 doc=$dir/libbrenn-doc_$version-${revision}_all.deb
 for deb in "$runtime" "$dev" "$doc"; do [ -f "$deb" ] || fail "$deb was not made"; done
+# The Python package comes when the build made its module (pybind11 installed).
+python_deb=
+if ls "$dir"/python/brenn/_brenn*.so >/dev/null 2>&1; then
+    python_deb=$dir/python3-brenn_$version-${revision}_$arch.deb
+    [ -f "$python_deb" ] || fail "$python_deb was not made"
+fi
 
 root=$(mktemp -d /tmp/brenn-package.XXXXXX)
 trap 'rm -rf "$root"' EXIT
@@ -70,6 +77,17 @@ holds "$doc" usr/share/doc/brenn/examples/tour.cpp usr/share/doc/brenn/examples/
     usr/share/doc/libbrenn-doc/copyright
 if command -v doxygen >/dev/null; then holds "$doc" usr/share/doc/brenn/api/index.html; fi
 lacks "$doc" '\.so|include/'
+if [ -n "$python_deb" ]; then
+    pydir=usr/lib/python3/dist-packages/brenn
+    holds "$python_deb" $pydir/__init__.py $pydir/vm.py $pydir/vm.pyi $pydir/rng.pyi $pydir/py.typed \
+        usr/share/doc/python3-brenn/copyright usr/share/doc/python3-brenn/changelog.Debian.gz
+    lacks "$python_deb" '\.so\.[0-9]|include/|__pycache__|\.pyc$'
+    module=$(ls "$root/$(basename "$python_deb" .deb)/$pydir"/_brenn*.so 2>/dev/null) || fail "python3-brenn lacks the module"
+    if readelf -d "$module" | grep -E '\((RUNPATH|RPATH)\)'; then fail "search path in $module"; fi
+    grep -q "libbrenn$major (= $version-$revision)" <<< "$(dpkg-deb -f "$python_deb" Depends)" ||
+        fail "python3-brenn does not depend on its exact runtime: $(dpkg-deb -f "$python_deb" Depends)"
+    grep -q "python3-numpy" <<< "$(dpkg-deb -f "$python_deb" Depends)" || fail "python3-brenn does not depend on numpy"
+fi
 
 # The shipped libraries: versioned SONAME, no search path but $ORIGIN, stripped, and
 # the exported names of the kernel library are the generated list.
@@ -106,7 +124,7 @@ dpkg-deb -I "$runtime" triggers | grep -q "activate-noawait ldconfig" || fail "n
 grep -q "libbrenn$major (= $version-$revision)" <<< "$(field "$dev" Depends)" ||
     fail "libbrenn-dev does not depend on its exact runtime: $(field "$dev" Depends)"
 [ "$(field "$doc" Architecture)" = all ] || fail "libbrenn-doc is not Architecture: all"
-for deb in "$runtime" "$dev" "$doc"; do
+for deb in "$runtime" "$dev" "$doc" ${python_deb:+"$python_deb"}; do
     echo "== $(basename "$deb")"
     dpkg-deb -I "$deb" | sed -n '/^ Package:/p;/^ Version:/p;/^ Depends:/p;/^ Installed-Size:/p'
 done
@@ -114,7 +132,7 @@ done
 # The packages resolve against the archive: apt simulates (or makes) the install.
 if [ "$(id -u)" -eq 0 ]; then
     apt-get install --simulate -q "$(realpath "$runtime")" "$(realpath "$dev")" \
-        "$(realpath "$doc")" > "$root/apt.log" || { cat "$root/apt.log"; fail "apt-get cannot install the packages"; }
+        "$(realpath "$doc")" ${python_deb:+"$(realpath "$python_deb")"} > "$root/apt.log" || { cat "$root/apt.log"; fail "apt-get cannot install the packages"; }
     if [ $try_install -eq 1 ]; then
         apt-get install -y -q "$(realpath "$runtime")" "$(realpath "$dev")" "$(realpath "$doc")"
         status=0
@@ -139,11 +157,11 @@ fi
 
 # lintian: errors fail, warnings are shown.
 set +e
-lintian --tag-display-limit 0 "$runtime" "$dev" "$doc" > "$root/lintian.log" 2>&1
+lintian --tag-display-limit 0 "$runtime" "$dev" "$doc" ${python_deb:+"$python_deb"} > "$root/lintian.log" 2>&1
 set -e
 grep -v '^running with root privileges' "$root/lintian.log" || true
 errors=$(grep -c '^E: ' "$root/lintian.log" || true)
 warnings=$(grep -c '^W: ' "$root/lintian.log" || true)
 echo "lintian: $errors errors, $warnings warnings"
 [ "$errors" -eq 0 ] || fail "lintian reports errors"
-echo "package: $(basename "$runtime") $(basename "$dev") $(basename "$doc") in $dir"
+echo "package: $(basename "$runtime") $(basename "$dev") $(basename "$doc")${python_deb:+ $(basename "$python_deb")} in $dir"
