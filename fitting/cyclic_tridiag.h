@@ -65,13 +65,16 @@ void SolveCyclic(int64_t n, const Rows& rows, CyclicFactors<T>& fac, T* x) {
     const int64_t last = n - 1;
     const CyclicRow<T> lastRow = rows.Row(last);
     CyclicRow<T> row = rows.Row(0);
+    CyclicRow<T> next = last > 1 ? rows.Row(1) : row;
     // Row k's pivot and corner-column entry, the last row's entry in column k and its
-    // diagonal, as the elimination reaches row k.
+    // diagonal, as the elimination reaches row k; the pivot of row k+1.
     T pivot = row.b, corner = row.a, edge = lastRow.c, diagonal = lastRow.b;
+    T pivotNext = T(0);
     if (n == 2) {
         corner += row.c;
         edge += lastRow.a;
     }
+    if (kFactor && last > 1) pivotNext = next.b - next.a * row.c / pivot;
     T y = row.r, rLast = lastRow.r;
     for (int64_t k = 0;; ++k) {
         T q, f;
@@ -92,13 +95,9 @@ void SolveCyclic(int64_t n, const Rows& rows, CyclicFactors<T>& fac, T* x) {
         rLast -= f * y;
         x[k] = y * q;
         if (k + 1 == last) break;
-        const CyclicRow<T> next = rows.Row(k + 1);
         T l;
         if constexpr (kFactor) {
             l = next.a * q;
-            // The next pivot by one division of the product (next.a*row.c does not wait
-            // for it): the pivots form the only chain of divisions in the pass.
-            pivot = next.b - next.a * row.c / pivot;
             corner = -l * corner;
             edge = -f * row.c;
             if (k + 2 == last) {
@@ -112,16 +111,46 @@ void SolveCyclic(int64_t n, const Rows& rows, CyclicFactors<T>& fac, T* x) {
             l = fac.l[k + 1];
         }
         y = next.r - l * y;
+        const CyclicRow<T> after = k + 2 < last ? rows.Row(k + 2) : next;
+        if (kFactor && k + 2 < last) {
+            // The pivot two rows on, p[k+2] = b[k+2] - w[k+2]/p[k+1] with
+            // p[k+1] = (b[k+1]*p[k] - w[k+1])/p[k], w[i] = a[i]*c[i-1]: one division for
+            // two rows on each of the two chains (even and odd rows), which run side by
+            // side. Every term is formed once, so the rounding is that of the one-row
+            // step to a few units; the pivots are the only chain of divisions.
+            T w = after.a * next.c;
+            T p = pivot;
+            pivot = pivotNext;
+            pivotNext = after.b - w * p / (next.b * p - next.a * row.c);
+        } else {
+            pivot = pivotNext;
+        }
         row = next;
+        next = after;
     }
     if constexpr (kFactor) fac.last = diagonal;
+    // Back substitution x[k] = s[k] - u[k]*x[k+1], s[k] = z[k] - v[k]*x[n-1], taken two
+    // rows at a time as x[k] = (s[k] - u[k]*s[k+1]) + u[k]*u[k+1]*x[k+2]: again two
+    // chains side by side, a product and a sum a step. |u| < 1 by the dominance.
     T xLast = rLast / fac.last;
     x[last] = xLast;
-    T xk = x[last - 1] - fac.v[last - 1] * xLast;
-    x[last - 1] = xk;
-    for (int64_t k = last - 2; k >= 0; --k) {
-        xk = (x[k] - fac.v[k] * xLast) - fac.u[k] * xk;
+    T sNext = x[last - 1] - fac.v[last - 1] * xLast;
+    T xNext = sNext, xAfter = xLast;
+    x[last - 1] = xNext;
+    if (last >= 2) {
+        T s = x[last - 2] - fac.v[last - 2] * xLast;
+        xAfter = xNext;
+        xNext = s - fac.u[last - 2] * xNext;
+        x[last - 2] = xNext;
+        sNext = s;
+    }
+    for (int64_t k = last - 3; k >= 0; --k) {
+        T s = x[k] - fac.v[k] * xLast;
+        T xk = (s - fac.u[k] * sNext) + (fac.u[k] * fac.u[k + 1]) * xAfter;
         x[k] = xk;
+        xAfter = xNext;
+        xNext = xk;
+        sNext = s;
     }
 }
 
