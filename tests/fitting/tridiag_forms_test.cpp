@@ -1,7 +1,7 @@
 // The tridiagonal forms in the sizes and shapes the cubic splines use, in both
 // precisions: one, two and three unknowns, rows that need interchanges (as the
-// not-a-knot end rows do), two right-hand sides at once, and
-// the factored form against the one-pass form.
+// not-a-knot end rows do), two right-hand sides at once, and the factored form against
+// the one-pass form.
 #include <gtest/gtest.h>
 
 #include <cmath>
