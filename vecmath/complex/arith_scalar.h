@@ -100,23 +100,6 @@ inline bool AllFinite(double a, double b, double c, double d) {
            __builtin_isfinite(d);
 }
 
-// x = m * 2^e with 1 <= |m| < 2 for a finite non-zero x (denormals renormalised);
-// e = 0 and m = x for zero.
-inline double Normalized(double x, int& e) {
-    uint64_t b = BitsOf(x);
-    int f = int((b >> 52) & 0x7FF);
-    e = 0;
-    if (f == 0) {
-        if (x == 0) return x;
-        x *= 0x1p64; // a denormal: its exponent field made normal first
-        b = BitsOf(x);
-        f = int((b >> 52) & 0x7FF);
-        e = -64;
-    }
-    e += f - 1023;
-    return DoubleOf((b & 0x800FFFFFFFFFFFFFull) | 0x3FF0000000000000ull);
-}
-
 // a*c + b*d for finite parts given as m * 2^e, rounded once in the scaled domain and
 // scaled back in the last step. A product far below the other is cut to 2^-300 of it:
 // it then still breaks a tie the right way, and changes nothing else.

@@ -17,6 +17,7 @@
 
 #include <stdint.h>
 
+#include "vecmath/frame/scalar.h"
 #include "vecmath/frame/vec.h"
 
 namespace brenn::vm::cx {
@@ -55,19 +56,53 @@ constexpr int32_t kWindowBottom = 0x23400000;
 constexpr int32_t kMulWindowTop = 0x5FD6A09D;
 constexpr int32_t kDivWindowTop = 0x5EFFFFFF;
 
-// Each 64-bit lane all ones where one of the four parts lies outside the window.
-template <int32_t Top>
-BRENN_VEC __m128d OutsideWindow(__m128d a, __m128d b, __m128d c, __m128d d) {
-    constexpr uint32_t kBase = uint32_t(kWindowBottom) + 0x80000000u;
+// Each 64-bit lane all ones where the high word of v, sign cleared, lies outside
+// [Bottom, Top]: one subtraction and one signed compare, the window moved to the bottom
+// of the signed range. A NaN lies above every window.
+template <int32_t Bottom, int32_t Top>
+BRENN_VEC I32x4 HighWordOutside(__m128d v) {
+    constexpr uint32_t kBase = uint32_t(Bottom) + 0x80000000u;
     const I32x4 base = Set<int32_t>(int32_t(kBase));
     const I32x4 top = Set<int32_t>(int32_t(uint32_t(Top) - kBase));
-    const I32x4 magnitude = Set<int32_t>(0x7FFFFFFF);
-    I32x4 o = Gt(Sub(And(BitCast<I32x4>(a), magnitude), base), top);
-    o = Or(o, Gt(Sub(And(BitCast<I32x4>(b), magnitude), base), top));
-    o = Or(o, Gt(Sub(And(BitCast<I32x4>(c), magnitude), base), top));
-    o = Or(o, Gt(Sub(And(BitCast<I32x4>(d), magnitude), base), top));
-    // the high words' verdicts over their whole lanes
+    return Gt(Sub(And(BitCast<I32x4>(v), Set<int32_t>(0x7FFFFFFF)), base), top);
+}
+// The verdicts of the high words over their whole 64-bit lanes.
+BRENN_VEC __m128d HighWordsToLanes(I32x4 o) {
     return AsFloat(BitCast<I64x2>(I32x4{_mm_shuffle_epi32(o.v, _MM_SHUFFLE(3, 3, 1, 1))}));
+}
+
+// Each lane all ones where one of the four parts lies outside the window.
+template <int32_t Top>
+BRENN_VEC __m128d OutsideWindow(__m128d a, __m128d b, __m128d c, __m128d d) {
+    I32x4 o = HighWordOutside<kWindowBottom, Top>(a);
+    o = Or(o, HighWordOutside<kWindowBottom, Top>(b));
+    o = Or(o, HighWordOutside<kWindowBottom, Top>(c));
+    o = Or(o, HighWordOutside<kWindowBottom, Top>(d));
+    return HighWordsToLanes(o);
+}
+
+// The larger magnitude of two parts, chosen by the bits (maxpd would raise invalid for
+// a quiet NaN).
+BRENN_VEC __m128d LargerMagnitude(__m128d x, __m128d y) {
+    __m128d ax = Abs(x), ay = Abs(y);
+    return IfThenElse(AsFloat(Gt(AsInt(ay), AsInt(ax))), ay, ax);
+}
+
+// x = m * 2^e with 1 <= |m| < 2 for a finite non-zero x (denormals renormalised);
+// e = 0 and m = x for zero.
+inline double Normalized(double x, int& e) {
+    uint64_t b = BitsOf(x);
+    int f = int((b >> 52) & 0x7FF);
+    e = 0;
+    if (f == 0) {
+        if (x == 0) return x;
+        x *= 0x1p64; // a denormal: its exponent field made normal first
+        b = BitsOf(x);
+        f = int((b >> 52) & 0x7FF);
+        e = -64;
+    }
+    e += f - 1023;
+    return DoubleOf((b & 0x800FFFFFFFFFFFFFull) | 0x3FF0000000000000ull);
 }
 
 // The same products on single elements.

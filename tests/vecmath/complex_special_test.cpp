@@ -1,0 +1,231 @@
+// The special values of the complex rows with vector bodies (Exp, Ln, Sqrt, Abs, Arg),
+// cell by cell on every pair of +-0, +-inf, NaN and finite parts, in every slot and both
+// precisions, against the C library's cexp, clog, csqrt, cabs and carg; the statuses of
+// those cells; and the branch cuts, whose sides the sign of a zero part picks.
+#include <gtest/gtest.h>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "tests/vecmath/complex_util.h"
+
+// The C library's complex functions, as C declares them.
+extern "C" {
+double _Complex cexp(double _Complex);
+float _Complex cexpf(float _Complex);
+double _Complex clog(double _Complex);
+float _Complex clogf(float _Complex);
+double _Complex csqrt(double _Complex);
+float _Complex csqrtf(float _Complex);
+double cabs(double _Complex);
+float cabsf(float _Complex);
+double carg(double _Complex);
+float cargf(float _Complex);
+}
+
+namespace brenn::test {
+namespace {
+
+// Where C99 Annex G leaves a sign unspecified, or the C library gives a NaN's payload or
+// sign, a cell is compared without the sign (named in the table below).
+enum class Sign { Kept, Free };
+
+struct Fn {
+    const char* name;
+    RowIndex z, c;
+    double _Complex (*ref)(double _Complex);
+    float _Complex (*refF)(float _Complex);
+};
+
+double _Complex CabsZ(double _Complex x) {
+    return cabs(x);
+}
+float _Complex CabsC(float _Complex x) {
+    return cabsf(x);
+}
+double _Complex CargZ(double _Complex x) {
+    return carg(x);
+}
+float _Complex CargC(float _Complex x) {
+    return cargf(x);
+}
+
+const Fn kFns[] = {
+    {"Exp", frame::Row_zExp, frame::Row_cExp, cexp, cexpf},
+    {"Ln", frame::Row_zLn, frame::Row_cLn, clog, clogf},
+    {"Sqrt", frame::Row_zSqrt, frame::Row_cSqrt, csqrt, csqrtf},
+    {"Abs", frame::Row_zAbs, frame::Row_cAbs, CabsZ, CabsC},
+    {"Arg", frame::Row_zArg, frame::Row_cArg, CargZ, CargC},
+};
+
+bool IsAbsArg(const Fn& f) {
+    return f.z == frame::Row_zAbs || f.z == frame::Row_zArg;
+}
+
+// Cells where the sign is free, by Annex G: cexp(-inf + i inf) and cexp(-inf + i NaN) are
+// +-0 +- 0i; cexp(+inf + i inf) and cexp(+inf + i NaN) have a real part of either sign;
+// csqrt(-inf + i NaN) has an imaginary infinity of either sign. NaN parts are compared as
+// NaN whatever their sign.
+bool SignFree(const Fn& f, double re, double im) {
+    if (f.z == frame::Row_zExp) return std::isinf(re) && !std::isfinite(im);
+    if (f.z == frame::Row_zSqrt) return std::isinf(re) && re < 0 && std::isnan(im);
+    return false;
+}
+
+template <class R>
+bool SamePart(R got, R want, bool free, double tol) {
+    if (std::isnan(want) || std::isnan(got)) return std::isnan(want) && std::isnan(got);
+    if (std::isinf(want) || want == 0 || std::isinf(got) || got == 0)
+        return free ? std::fabs(got) == std::fabs(want) : Bits(got) == Bits(want);
+    return std::fabs(double(got) - double(want)) <= tol * std::fabs(double(want));
+}
+
+const double kParts[] = {0.0,
+                         -0.0,
+                         1.5,
+                         -1.5,
+                         0.75,
+                         -2.0,
+                         std::numeric_limits<double>::infinity(),
+                         -std::numeric_limits<double>::infinity(),
+                         std::numeric_limits<double>::quiet_NaN()};
+
+template <class E, class R>
+void CheckCells(const Fn& f, RowIndex row, int slot) {
+    // finite cells to the level's accuracy (EP: 11 and 26 correct bits)
+    const double tol = slot == frame::SlotEP ? (sizeof(R) == 4 ? 0x1p-11 : 0x1p-26)
+                                             : (sizeof(R) == 4 ? 0x1p-22 : 0x1p-50);
+    CxModeScope quiet(BRENN_MODE_ERRMODE_IGNORE);
+    for (double re : kParts)
+        for (double im : kParts) {
+            E a{R(re), R(im)};
+            R gotRe, gotIm = 0, wantRe, wantIm = 0;
+            if (IsAbsArg(f)) {
+                R y;
+                As<void (*)(int, const E*, R*)>(CxRaw(row, slot))(1, &a, &y);
+                gotRe = y;
+            } else {
+                E y;
+                As<Unary<E>>(CxRaw(row, slot))(1, &a, &y);
+                gotRe = y.re, gotIm = y.im;
+            }
+            if constexpr (sizeof(R) == 4) {
+                float _Complex x;
+                __real__ x = float(re), __imag__ x = float(im);
+                float _Complex w = f.refF(x);
+                wantRe = __real__ w, wantIm = __imag__ w;
+            } else {
+                double _Complex x;
+                __real__ x = re, __imag__ x = im;
+                double _Complex w = f.ref(x);
+                wantRe = __real__ w, wantIm = __imag__ w;
+            }
+            const bool free = SignFree(f, re, im);
+            EXPECT_TRUE(SamePart(gotRe, wantRe, free, tol) && SamePart(gotIm, wantIm, free, tol))
+                << f.name << (sizeof(R) == 4 ? " c" : " z") << " slot " << slot << " at (" << re
+                << ", " << im << "): got (" << gotRe << ", " << gotIm << ") want (" << wantRe
+                << ", " << wantIm << ")";
+        }
+}
+
+TEST(ComplexSpecialValues, EveryCellAgreesWithTheCLibrary) {
+    for (const Fn& f : kFns)
+        for (int slot : kCxSlots) {
+            CheckCells<Z, double>(f, f.z, slot);
+            CheckCells<C, float>(f, f.c, slot);
+        }
+}
+
+// Statuses of the special cells: Ln of zero is a pole; Exp of an infinite imaginary part
+// with a finite or +inf real part is a domain error; Exp overflows from finite parts;
+// Sqrt never reports, and NaNs report nothing anywhere.
+TEST(ComplexSpecialValues, StatusesOfTheSpecialCells) {
+    const double inf = std::numeric_limits<double>::infinity();
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    struct Cell {
+        RowIndex row;
+        Z a;
+        int status;
+    };
+    const Cell cells[] = {
+        {frame::Row_zLn, {0.0, -0.0}, 2},  {frame::Row_zLn, {-0.0, 0.0}, 2},
+        {frame::Row_zLn, {nan, 0.0}, 0},   {frame::Row_zLn, {-inf, 1}, 0},
+        {frame::Row_zExp, {1, inf}, 1},    {frame::Row_zExp, {inf, -inf}, 1},
+        {frame::Row_zExp, {-inf, inf}, 0}, {frame::Row_zExp, {800, 0.5}, 3},
+        {frame::Row_zExp, {710, 0.8}, 0},  {frame::Row_zExp, {nan, inf}, 0},
+        {frame::Row_zSqrt, {-0.0, 0}, 0},  {frame::Row_zSqrt, {-inf, nan}, 0},
+    };
+    for (const Cell& c : cells)
+        for (int slot : kCxSlots) {
+            int st;
+            CxCall(c.row, slot, c.a, &st);
+            EXPECT_EQ(st, c.status) << frame::kRowInfo[c.row].name << " (" << c.a.re << ", "
+                                    << c.a.im << ") slot " << slot;
+            C s{float(c.a.re), float(c.a.im)};
+            RowIndex single = RowIndex(c.row - frame::Row_zCos + frame::Row_cCos);
+            if (c.a.re == 800 || c.a.re == 710) s.re = 100; // beyond the single range
+            CxCall(single, slot, s, &st);
+            EXPECT_EQ(st, c.a.re == 710 ? 3 : c.status) << frame::kRowInfo[single].name;
+        }
+}
+
+// Both sides of the cuts: Ln and Sqrt along the negative reals, by the sign of a zero
+// imaginary part, in long vectors (vector bodies) and alone.
+TEST(ComplexSpecialValues, BranchCutsFollowTheSignOfZero) {
+    const double pi = 3.141592653589793;
+    for (int slot : kCxSlots) {
+        for (double sign : {1.0, -1.0}) {
+            std::vector<Z> a(9, Z{-4, std::copysign(0.0, sign)}), y(9);
+            a[3] = {-0.25, std::copysign(0.0, sign)};
+            As<Unary<Z>>(CxRaw(frame::Row_zSqrt, slot))(9, a.data(), y.data());
+            EXPECT_TRUE(SameParts(y[0], Z{0.0, 2 * sign}));
+            EXPECT_TRUE(SameParts(y[3], Z{0.0, 0.5 * sign}));
+            As<Unary<Z>>(CxRaw(frame::Row_zLn, slot))(9, a.data(), y.data());
+            EXPECT_DOUBLE_EQ(y[0].re, std::log(4.0));
+            EXPECT_EQ(y[0].im, sign * pi);
+            std::vector<C> c(5, C{-4, std::copysign(0.0f, float(sign))}), w(5);
+            As<Unary<C>>(CxRaw(frame::Row_cSqrt, slot))(5, c.data(), w.data());
+            EXPECT_TRUE(SameParts(w[4], C{0.0f, 2 * float(sign)}));
+            As<Unary<C>>(CxRaw(frame::Row_cLn, slot))(5, c.data(), w.data());
+            EXPECT_EQ(w[4].im, float(sign * pi));
+            // just off the cut on each side: the imaginary part is near +-pi
+            Z near = CxCall(frame::Row_zLn, slot, Z{-1, sign * 1e-300});
+            EXPECT_EQ(near.im, sign * pi);
+        }
+        // Arg on the negative reals and the quadrant rules of atan2
+        double arg;
+        Z m{-1, -0.0};
+        As<void (*)(int, const Z*, double*)>(CxRaw(frame::Row_zArg, slot))(1, &m, &arg);
+        EXPECT_EQ(arg, -pi);
+    }
+}
+
+// Abs without overflow or underflow: the scaled routine.
+TEST(ComplexSpecialValues, AbsOfHugeAndTinyParts) {
+    struct Case {
+        Z a;
+        double want;
+    } cases[] = {
+        {{3e200, 4e200}, 5e200},
+        {{3e-200, 4e-200}, 5e-200},
+        {{0x1p-1074, 0x1p-1074}, 0x1p-1074},
+        {{1.5e308, 1.5e308}, std::numeric_limits<double>::infinity()},
+        {{std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()},
+         std::numeric_limits<double>::infinity()}};
+    for (int slot : kCxSlots)
+        for (const Case& c : cases) {
+            std::vector<Z> a(5, c.a);
+            std::vector<double> y(5);
+            As<void (*)(int, const Z*, double*)>(CxRaw(frame::Row_zAbs, slot))(5, a.data(),
+                                                                               y.data());
+            // within an ulp of the decimal (3e200 and 4e200 are not exact: the correctly
+            // rounded |z| is the double below 5e200)
+            if (std::isinf(c.want))
+                EXPECT_EQ(y[2], c.want) << c.a.re << " slot " << slot;
+            else
+                EXPECT_NEAR(y[2], c.want, 2.3e-16 * c.want) << c.a.re << " slot " << slot;
+        }
+}
+
+} // namespace
+} // namespace brenn::test

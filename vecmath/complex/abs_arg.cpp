@@ -1,0 +1,164 @@
+/* Abs and Arg of single (c) and double (z) complex vectors, three levels each; real
+ * results, nothing reported.
+ *
+ * Double Abs: s = re^2 + im^2 and its square root.
+ *   HA: s carried in two parts (exact products), the root of the head corrected once by
+ *       the exact residual s - r^2. Lanes whose larger part lies outside [2^-450, 2^500]
+ *       (zeros, denormals and huge parts among them) and non-finite lanes go to the
+ *       scalar routine.
+ *   LA: the root from the single reciprocal-root estimate y of s, refined by the series
+ *       of (1 + e)^(-1/2) to degree 4 (e = y^2 s - 1, coefficients -1/2, 3/8, -5/16,
+ *       35/128) and multiplied by s kept in two parts.
+ *   EP: the same series to degree 2, times the rounded s.
+ *   LA and EP send s outside [2^-67, 2^66), where the single estimate does not reach,
+ *   to the scalar routine.
+ * Single Abs: the squares are exact in double; their sum's root in double, rounded once
+ *   more to single. Only infinite and NaN parts go to the scalar routine.
+ * The scalar routine: an infinite part gives +inf even beside a NaN; a NaN beside a
+ * finite part gives NaN; both zero give +0; otherwise the larger part is brought near 1
+ * by a power of two, the root taken as HA takes it, and the power restored at the end,
+ * so that the result overflows or underflows only when |z| does.
+ *
+ * Arg is the real Atan2 of (im, re), its bodies and its scalar routine at the same
+ * level (invtrig/atan_body.h), with the quadrant rules of C99 Annex F. */
+#include "vecmath/complex/cframe.h"
+#include "vecmath/complex/exact.h"
+#include "vecmath/frame/level.h"
+#include "vecmath/invtrig/atan_body.h"
+
+namespace brenn::vm::cx {
+namespace {
+
+// sqrt(sh + sl) from the rounded root of sh, corrected by the exact residual.
+BRENN_VEC __m128d CorrectedRoot(__m128d sh, __m128d sl) {
+    __m128d r = Sqrt(sh), ph, pl;
+    ExactProduct(r, r, ph, pl);
+    __m128d e = Add(Sub(Sub(sh, ph), pl), sl);
+    return Add(r, Div(Mul(e, Set<double>(0.5)), r));
+}
+inline double CorrectedRoot(double sh, double sl) {
+    double r = __builtin_sqrt(sh), ph, pl;
+    ExactProduct(r, r, ph, pl);
+    return r + (((sh - ph) - pl) + sl) * 0.5 / r;
+}
+
+// |z| of finite parts, scaled so that only the result can overflow or underflow.
+inline double ScaledAbs(double a, double b) {
+    int k;
+    Normalized(fabs(a) > fabs(b) ? a : b, k);
+    a = ldexp(a, -k), b = ldexp(b, -k);
+    double sh, sl;
+    SumOfProducts(a, a, b, b, sh, sl);
+    return ldexp(CorrectedRoot(sh, sl), k);
+}
+
+template <class E, class R>
+int AbsScalar(const E* x, const E*, R* y) {
+    double a = x->re, b = x->im;
+    if (__builtin_isinf(a) || __builtin_isinf(b)) {
+        double inf = __builtin_isinf(a) ? a : b;
+        *y = R(inf * inf);
+    } else if (__builtin_isnan(a) || __builtin_isnan(b)) {
+        *y = R(a + b);
+    } else if (a == 0 && b == 0) {
+        *y = R(0);
+    } else if constexpr (sizeof(R) == 4) {
+        *y = R(__builtin_sqrt(a * a + b * b));
+    } else {
+        *y = ScaledAbs(a, b);
+    }
+    return status::kNone;
+}
+
+// Coefficients of (1 + e)^(-1/2) after the constant term: degree 2 (EP) and 4 (LA).
+constexpr double kRootSeries2[] = {-0.5, 0.375};
+constexpr double kRootSeries4[] = {-0.5, 0.375, -0.3125, 0.2734375};
+
+template <Level L>
+struct AbsZ {
+    using T = double;
+    using In = BrennComplex16;
+    using Out = double;
+    static int Eval(const Cx<double>* x, const Cx<double>*, Cx<double>& y) {
+        __m128d sh, sl;
+        if constexpr (L == Level::HA) {
+            SumOfProducts(x->re, x->re, x->im, x->im, sh, sl);
+            y.re = CorrectedRoot(sh, sl);
+            constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
+            return MaskBits(
+                HighWordsToLanes(HighWordOutside<kLo, kHi>(LargerMagnitude(x->re, x->im))));
+        } else {
+            if constexpr (L == Level::LA)
+                SumOfProducts(x->re, x->re, x->im, x->im, sh, sl);
+            else
+                sh = Add(Mul(x->re, x->re), Mul(x->im, x->im));
+            constexpr int32_t kLo = 0x3BC00000, kHi = 0x440FFFFF; // 2^-67, 2^66
+            __m128d special = HighWordsToLanes(HighWordOutside<kLo, kHi>(sh));
+            __m128d s = NaNWhere(special, sh); // no estimate of lanes out of its reach
+            __m128 f = ApproxRecipSqrt(Narrow(s, s));
+            __m128d r = WidenLower(f);
+            __m128d e = Sub(Mul(Mul(r, r), s), Set<double>(1));
+            __m128d p;
+            if constexpr (L == Level::LA)
+                p = Horner(e, kRootSeries4);
+            else
+                p = Horner(e, kRootSeries2);
+            r = Add(r, Mul(Mul(r, e), p));
+            y.re = L == Level::LA ? Add(Mul(sh, r), Mul(sl, r)) : Mul(sh, r);
+            return MaskBits(special);
+        }
+    }
+    static int Scalar(const In* x, const In* w, Out* y) { return AbsScalar(x, w, y); }
+};
+
+struct AbsC {
+    using T = float;
+    using In = BrennComplex8;
+    using Out = float;
+    static __m128d Root(__m128d a, __m128d b) { return Sqrt(Add(Mul(a, a), Mul(b, b))); }
+    static int Eval(const Cx<float>* x, const Cx<float>*, Cx<float>& y) {
+        y.re = Narrow(Root(WidenLower(x->re), WidenLower(x->im)),
+                      Root(WidenUpper(x->re), WidenUpper(x->im)));
+        const I32x4 inf = Set<int32_t>(0x7F800000);
+        I32x4 o = Or(Eq(And(AsInt(x->re), inf), inf), Eq(And(AsInt(x->im), inf), inf));
+        return MaskBits(o);
+    }
+    static int Scalar(const In* x, const In* w, Out* y) { return AbsScalar(x, w, y); }
+};
+
+// The phase: Atan2 of (im, re) at the level.
+template <class Tp, Level L>
+struct ArgBody {
+    using T = Tp;
+    using In = ComplexOf<Tp>;
+    using Out = Tp;
+    using Atan2 = invtrig::Atan2Body<Tp, L, invtrig::Unit::Radian>;
+    static int Eval(const Cx<Tp>* x, const Cx<Tp>*, Cx<Tp>& y) {
+        Vec<Tp> special;
+        y.re = Atan2::Eval(x->im, x->re, special);
+        return MaskBits(special);
+    }
+    static int Scalar(const In* x, const In*, Out* y) { return Atan2::Scalar(&x->im, &x->re, y); }
+};
+
+} // namespace
+} // namespace brenn::vm::cx
+
+using namespace brenn::vm;
+using namespace brenn::vm::cx;
+
+extern "C" {
+ZAR_COMPLEX_KERNEL(z, Abs, LA, AbsArg, AbsZ<Level::LA>)
+ZAR_COMPLEX_KERNEL(z, Abs, HA, AbsArg, AbsZ<Level::HA>)
+ZAR_COMPLEX_KERNEL(z, Abs, EP, AbsArg, AbsZ<Level::EP>)
+ZAR_COMPLEX_KERNEL(c, Abs, LA, AbsArg, AbsC)
+ZAR_COMPLEX_KERNEL(c, Abs, HA, AbsArg, AbsC)
+ZAR_COMPLEX_KERNEL(c, Abs, EP, AbsArg, AbsC)
+
+ZAR_COMPLEX_KERNEL(z, Arg, LA, AbsArg, ArgBody<double, Level::LA>)
+ZAR_COMPLEX_KERNEL(z, Arg, HA, AbsArg, ArgBody<double, Level::HA>)
+ZAR_COMPLEX_KERNEL(z, Arg, EP, AbsArg, ArgBody<double, Level::EP>)
+ZAR_COMPLEX_KERNEL(c, Arg, LA, AbsArg, ArgBody<float, Level::LA>)
+ZAR_COMPLEX_KERNEL(c, Arg, HA, AbsArg, ArgBody<float, Level::HA>)
+ZAR_COMPLEX_KERNEL(c, Arg, EP, AbsArg, ArgBody<float, Level::EP>)
+}

@@ -1,0 +1,142 @@
+/* Exp of single (c) and double (z) complex vectors: exp(a) (cos b + i sin b), one kernel
+ * for LA and EP and one for HA in each type.
+ *
+ * Double: exp(a) from the real exponential's core (explog/exp_core.h): n = a 64/ln2
+ * rounded by the shifter, r = a - n ln2/64 in two steps, e^a = 2^m (Thi + (Thi p(r) +
+ * Tlo)) with the table of 2^(j/64), kept as the head Thi and the tail Thi p + Tlo.
+ * cos b and sin b from the trigonometric table method (trig/reduce.h): |b| reduced at
+ * pi/64, the rows of J pi/64 joined with the series of r, each kept as head and tail.
+ * Each part is the product of the two-part factors, rounded once, then scaled by 2^m.
+ * HA: the polynomial of degree 6, the table joined exactly where sine is near a zero,
+ * and the heads' product exact (Dekker); LA/EP: degree 5 and plain products (about an
+ * ulp). Lanes with |a| above 708.39 (where 2^m leaves the normal range), |b| from 2^24
+ * (the short reduction's limit), infinities and NaNs go to the scalar routine.
+ * Single: the double LA/EP computation on widened lanes (or HA's for HA), rounded once to
+ * single; lanes whose single result is not finite go to the scalar routine too.
+ *
+ * The scalar routine works in extended precision: exp, cos and sin of the parts in
+ * 80-bit arithmetic, where nothing overflows, rounded once to the element's type; the
+ * special values of C99 Annex G for cexp. Statuses: a finite element with an infinite
+ * result part is an overflow (3); an infinite imaginary part with a finite or +inf real
+ * part is a domain error (1, NaN results with the invalid flag). */
+#include <math.h>
+
+#include "vecmath/complex/cframe.h"
+#include "vecmath/complex/exact.h"
+#include "vecmath/complex/ext_elem.h"
+#include "vecmath/explog/exp_core.h"
+#include "vecmath/frame/level.h"
+#include "vecmath/trig/reduce.h"
+
+namespace brenn::vm::cx {
+namespace {
+
+// One element in extended precision (ext_elem.h), rounded once; a finite element whose
+// result has an infinite part is an overflow.
+template <class E>
+int ExpScalar(const E* x, const E*, E* y) {
+    using R = decltype(x->re);
+    long double re, im;
+    int st = CExpX(x->re, x->im, re, im);
+    y->re = R(re);
+    y->im = R(im);
+    if (st == status::kNone && __builtin_isfinite(x->re) && __builtin_isfinite(x->im) &&
+        (__builtin_isinf(y->re) || __builtin_isinf(y->im)))
+        st = status::kOverflow;
+    return st;
+}
+
+// exp(a) (cos b + i sin b) for |a| <= 708.39 and |b| < 2^24.
+template <Level L>
+BRENN_VEC Cx<double> ExpOf(__m128d a, __m128d b) {
+    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    __m128d t = Add(Mul(a, Set<double>(ExpStep64::kInvStep)), shifter);
+    __m128d n = Sub(t, shifter);
+    __m128d r = Sub(Sub(a, Mul(n, Set<double>(ExpStep64::kStepHi))),
+                    Mul(n, Set<double>(ExpStep64::kStepLo)));
+    __m128d eh, tl;
+    ExpRows64(t, eh, tl);
+    constexpr ExpDegree D = L == Level::HA ? ExpDegree::Six : ExpDegree::Five;
+    __m128d el = Add(Mul(eh, ExpPolyD<D>(r)), tl);
+
+    alignas(16) int32_t J[2];
+    __m128d rh, rl, sh, sl, ch, cl;
+    trig::ShortD(Abs(b), J, rh, rl, 0);
+    trig::TableSinCos(J, rh, rl, L == Level::HA, sh, sl, ch, cl);
+
+    const __m128d scale = ExpScale64(t);
+    Cx<double> y;
+    // (eh + el)(ch + cl): neither tail is negligible beside the other (el is Thi p, up
+    // to 2^-7 of eh; cl the series of r, up to 2^-12 of ch), so all four products count
+    __m128d ct = Add(Mul(eh, cl), Mul(el, Add(ch, cl)));
+    __m128d st = Add(Mul(eh, sl), Mul(el, Add(sh, sl)));
+    if constexpr (L == Level::HA) {
+        __m128d p, pl;
+        ExactProduct(eh, ch, p, pl);
+        y.re = Add(p, Add(pl, ct));
+        ExactProduct(eh, sh, p, pl);
+        y.im = Add(p, Add(pl, st));
+    } else {
+        y.re = Add(Mul(eh, ch), ct);
+        y.im = Add(Mul(eh, sh), st);
+    }
+    y.re = Mul(y.re, scale);
+    y.im = Xor(Mul(y.im, scale), SignBit(b));
+    return y;
+}
+
+// Lanes outside |a| <= 708.39, |b| < 2^24, NaNs and infinities among them.
+BRENN_VEC __m128d ExpOutside(__m128d a, __m128d b) {
+    return HighWordsToLanes(
+        Or(HighWordOutside<0, 0x40862329>(a), HighWordOutside<0, 0x416FFFFF>(b)));
+}
+
+template <Level L>
+struct ExpZ {
+    using T = double;
+    using In = BrennComplex16;
+    using Out = BrennComplex16;
+    static constexpr X87Rule kX87 = X87Rule::Extended; // for the 80-bit scalar routine
+    static constexpr const char* kName = "vzExp";
+    static int Eval(const Cx<double>* x, const Cx<double>*, Cx<double>& y) {
+        __m128d special = ExpOutside(x->re, x->im);
+        y = ExpOf<L>(IfThenZeroElse(special, x->re), IfThenZeroElse(special, x->im));
+        return MaskBits(special);
+    }
+    static int Scalar(const In* x, const In* w, Out* y) { return ExpScalar(x, w, y); }
+};
+
+template <Level L>
+struct ExpC {
+    using T = float;
+    using In = BrennComplex8;
+    using Out = BrennComplex8;
+    static constexpr X87Rule kX87 = X87Rule::Extended; // for the 80-bit scalar routine
+    static constexpr const char* kName = "vcExp";
+    static int Eval(const Cx<float>* x, const Cx<float>*, Cx<float>& y) {
+        __m128d a0 = WidenLower(x->re), b0 = WidenLower(x->im);
+        __m128d a1 = WidenUpper(x->re), b1 = WidenUpper(x->im);
+        __m128d s0 = ExpOutside(a0, b0), s1 = ExpOutside(a1, b1);
+        Cx<double> y0 = ExpOf<L>(IfThenZeroElse(s0, a0), IfThenZeroElse(s0, b0));
+        Cx<double> y1 = ExpOf<L>(IfThenZeroElse(s1, a1), IfThenZeroElse(s1, b1));
+        y.re = Narrow(y0.re, y1.re);
+        y.im = Narrow(y0.im, y1.im);
+        const I32x4 inf = Set<int32_t>(0x7F800000);
+        I32x4 o = Or(Eq(And(AsInt(y.re), inf), inf), Eq(And(AsInt(y.im), inf), inf));
+        return MaskBits(o) | MaskBits(s0) | (MaskBits(s1) << 2);
+    }
+    static int Scalar(const In* x, const In* w, Out* y) { return ExpScalar(x, w, y); }
+};
+
+} // namespace
+} // namespace brenn::vm::cx
+
+using namespace brenn::vm;
+using namespace brenn::vm::cx;
+
+extern "C" {
+ZAR_COMPLEX_KERNEL(z, Exp, LaEp, Unary, ExpZ<Level::LA>)
+ZAR_COMPLEX_KERNEL(z, Exp, HA, Unary, ExpZ<Level::HA>)
+ZAR_COMPLEX_KERNEL(c, Exp, LaEp, Unary, ExpC<Level::LA>)
+ZAR_COMPLEX_KERNEL(c, Exp, HA, Unary, ExpC<Level::HA>)
+}

@@ -1,0 +1,75 @@
+/* The complex exponential and logarithm of one element in 80-bit extended precision,
+ * with the special values of C99 Annex G (cexp G.6.3.1, clog G.6.3.2): the scalar
+ * routines of Exp and Ln, and the steps of Log10, Pow and Powx, are made from them.
+ * Double parts never overflow or underflow in the extended range, so the finite case
+ * needs no scaling; the caller rounds the parts once to its type. */
+#ifndef BRENN_VECMATH_COMPLEX_EXT_ELEM_H
+#define BRENN_VECMATH_COMPLEX_EXT_ELEM_H
+
+#include <math.h>
+
+#include "vecmath/frame/scalar.h"
+#include "vecmath/frame/status.h"
+
+namespace brenn::vm::cx {
+
+// exp(a) (cos b + i sin b). Status: an infinite b beside a finite or +inf a is a domain
+// error (NaN with the invalid flag); otherwise none.
+inline int CExpX(long double a, long double b, long double& re, long double& im) {
+    if (b == 0) { // exp(a) + i b, a NaN included
+        re = __builtin_isnan(a) ? a + a : expl(a);
+        im = b;
+        return status::kNone;
+    }
+    if (__builtin_isnan(a)) {
+        re = im = a + b;
+    } else if (__builtin_isinf(a) && a < 0) { // +0 (cos b + i sin b); signs unspecified
+        long double s = __builtin_isfinite(b) ? sinl(b) : 1,
+                    c = __builtin_isfinite(b) ? cosl(b) : 1;
+        re = __builtin_copysignl(0, c);
+        im = __builtin_copysignl(0, s);
+    } else if (__builtin_isfinite(b)) { // finite b, a finite or +inf
+        long double e = expl(a);
+        re = e * cosl(b);
+        im = e * sinl(b);
+    } else { // b infinite or NaN: NaN, invalid for an infinity; +inf a keeps its real part
+        re = __builtin_isinf(a) ? a : Keep(b - b);
+        im = Keep(b - b);
+        if (__builtin_isinf(b)) return status::kDomain;
+    }
+    return status::kNone;
+}
+
+// ln|z| + i arg z. Near |z| = 1 the real part is log1p((x - 1)(x + 1) + w^2)/2 of the
+// larger magnitude x and the smaller w, so that it keeps its relative accuracy; elsewhere
+// ln(x^2 + w^2)/2. An infinite part gives +inf, the phase by the quadrant rules of
+// atan2; zero gives -inf by a division, with status 2.
+inline int CLogX(long double a, long double b, long double& re, long double& im) {
+    if (__builtin_isinf(a) || __builtin_isinf(b)) {
+        re = __builtin_infl();
+        im = atan2l(b, a); // NaN beside an infinity stays NaN
+    } else if (__builtin_isnan(a) || __builtin_isnan(b)) {
+        re = im = a + b;
+    } else if (a == 0 && b == 0) {
+        re = Keep(-1.0L) / Keep(0.0L);
+        im = atan2l(b, a);
+        return status::kSingularity;
+    } else {
+        long double x = fabsl(a), w = fabsl(b);
+        if (x < w) {
+            long double t = x;
+            x = w;
+            w = t;
+        }
+        if (x >= 0.5L && x <= 2.0L)
+            re = 0.5L * log1pl((x - 1) * (x + 1) + w * w);
+        else
+            re = 0.5L * logl(x * x + w * w);
+        im = atan2l(b, a);
+    }
+    return status::kNone;
+}
+
+} // namespace brenn::vm::cx
+
+#endif

@@ -1,0 +1,113 @@
+/* Ln of single (c) and double (z) complex vectors, three levels: ln|z| + i arg z.
+ *
+ * Double: s = re^2 + im^2 carried in two parts (exact products), ln s from the real
+ * logarithm's core (explog/log_core.h) at the level, as an exact head and a tail, with
+ * the second part of s added as sl/sh; half of it is the real part. Near |z| = 1, where
+ * ln|z| is small, s - 1 is then exact and the real part keeps its relative accuracy.
+ * The imaginary part is the real Atan2 of (im, re) at the level (invtrig/atan_body.h).
+ * Lanes whose larger part lies outside [2^-450, 2^500], and the lanes Atan2 sends to
+ * its own scalar routine (zeros, infinities, NaNs, parts outside [2^-500, 2^500)), go to
+ * the scalar routine.
+ * Single: s in double from the exact squares, the same core and Atan2 in double on
+ * widened lanes, rounded once to single.
+ *
+ * The scalar routine works in extended precision: near |z| = 1 the real part is
+ * log1p((x - 1)(x + 1) + y^2)/2 of the larger magnitude x and the smaller y, elsewhere
+ * ln(x^2 + y^2)/2, where nothing overflows; the phase is the extended atan2, rounded
+ * once. The special values are those of C99 Annex G for clog: an infinite part gives
+ * +inf, the phase by the quadrant rules of atan2 (signed zeros pick the side of the cut
+ * along the negative reals); zero gives -inf by a division, with status 2. */
+#include <math.h>
+
+#include "vecmath/complex/cframe.h"
+#include "vecmath/complex/exact.h"
+#include "vecmath/complex/ext_elem.h"
+#include "vecmath/explog/log_core.h"
+#include "vecmath/frame/level.h"
+#include "vecmath/invtrig/atan_body.h"
+
+namespace brenn::vm::cx {
+namespace {
+
+// One element in extended precision (ext_elem.h), rounded once.
+template <class E>
+int LnScalar(const E* z, const E*, E* y) {
+    using R = decltype(z->re);
+    long double re, im;
+    int st = CLogX(z->re, z->im, re, im);
+    y->re = R(re);
+    y->im = R(im);
+    return st;
+}
+
+// ln|z| from s = sh + sl, at the level.
+template <Level L>
+BRENN_VEC __m128d HalfLog(__m128d sh, __m128d sl) {
+    __m128d h, r, t;
+    LnCore3<L>(sh, h, r, t);
+    return Mul(Add(h, Add(r, Add(t, Div(sl, sh)))), Set<double>(0.5));
+}
+
+template <Level L>
+struct LnZ {
+    using T = double;
+    using In = BrennComplex16;
+    using Out = BrennComplex16;
+    static constexpr X87Rule kX87 = X87Rule::Extended; // for the 80-bit scalar routine
+    using Atan2 = invtrig::Atan2Body<double, L, invtrig::Unit::Radian>;
+    static constexpr const char* kName = "vzLn";
+    static int Eval(const Cx<double>* x, const Cx<double>*, Cx<double>& y) {
+        constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
+        __m128d special =
+            HighWordsToLanes(HighWordOutside<kLo, kHi>(LargerMagnitude(x->re, x->im)));
+        __m128d re = IfThenElse(special, Set<double>(1), x->re);
+        __m128d im = IfThenZeroElse(special, x->im);
+        __m128d sh, sl;
+        SumOfProducts(re, re, im, im, sh, sl);
+        y.re = HalfLog<L>(sh, sl);
+        __m128d angle;
+        y.im = Atan2::Eval(x->im, x->re, angle);
+        return MaskBits(Or(special, angle));
+    }
+    static int Scalar(const In* x, const In* w, Out* y) { return LnScalar(x, w, y); }
+};
+
+template <Level L>
+struct LnC {
+    using T = float;
+    using In = BrennComplex8;
+    using Out = BrennComplex8;
+    static constexpr X87Rule kX87 = X87Rule::Extended; // for the 80-bit scalar routine
+    using Atan2 = invtrig::Atan2Body<double, L, invtrig::Unit::Radian>;
+    static constexpr const char* kName = "vcLn";
+    static void Half(__m128d a, __m128d b, __m128d& re, __m128d& im, __m128d& special) {
+        im = Atan2::Eval(b, a, special);
+        a = IfThenElse(special, Set<double>(1), a);
+        b = IfThenZeroElse(special, b);
+        re = HalfLog<L>(Add(Mul(a, a), Mul(b, b)), Zero<double>());
+    }
+    static int Eval(const Cx<float>* x, const Cx<float>*, Cx<float>& y) {
+        __m128d r0, i0, s0, r1, i1, s1;
+        Half(WidenLower(x->re), WidenLower(x->im), r0, i0, s0);
+        Half(WidenUpper(x->re), WidenUpper(x->im), r1, i1, s1);
+        y.re = Narrow(r0, r1);
+        y.im = Narrow(i0, i1);
+        return MaskBits(s0) | (MaskBits(s1) << 2);
+    }
+    static int Scalar(const In* x, const In* w, Out* y) { return LnScalar(x, w, y); }
+};
+
+} // namespace
+} // namespace brenn::vm::cx
+
+using namespace brenn::vm;
+using namespace brenn::vm::cx;
+
+extern "C" {
+ZAR_COMPLEX_KERNEL(z, Ln, LA, Unary, LnZ<Level::LA>)
+ZAR_COMPLEX_KERNEL(z, Ln, HA, Unary, LnZ<Level::HA>)
+ZAR_COMPLEX_KERNEL(z, Ln, EP, Unary, LnZ<Level::EP>)
+ZAR_COMPLEX_KERNEL(c, Ln, LA, Unary, LnC<Level::LA>)
+ZAR_COMPLEX_KERNEL(c, Ln, HA, Unary, LnC<Level::HA>)
+ZAR_COMPLEX_KERNEL(c, Ln, EP, Unary, LnC<Level::EP>)
+}

@@ -1,0 +1,145 @@
+/* Sqrt of single (c) and double (z) complex vectors: the principal root, with the cut
+ * along the negative reals, where the sign of a zero imaginary part picks the side
+ * (sqrt(-4 +- 0i) = 0 +- 2i). Nothing is reported.
+ *
+ * With t = sqrt((|x| + |z|)/2): x >= 0 gives t + i y/(2t); x < 0 gives |y|/(2t) + i t
+ * with t taking y's sign. No step cancels.
+ * Double, one kernel for all levels: |z|^2 in two parts (exact products), |z| from its
+ * rounded root and the exact residual, |x| + |z| summed exactly, t from the rounded
+ * root of the half and its residual, and y/(2t) from the reciprocal of t's head with one
+ * correction by the exact residual, so that each part is rounded about once. Lanes
+ * whose larger part lies outside [2^-450, 2^500] (both parts zero among them) and
+ * non-finite lanes go to the scalar routine.
+ * Single (one kernel for LA and EP, one for HA, the same arithmetic): the steps in double
+ * on widened lanes, where the squares are exact and nothing overflows, rounded once to
+ * single; zeros and non-finite lanes go to the scalar routine.
+ *
+ * The scalar routine: the special values of C99 Annex G for csqrt (an infinite imaginary
+ * part gives +inf + i y; -inf + iy gives 0 + i inf, +inf + iy gives inf + 0i with y's
+ * sign, NaNs pass), zeros give +0 + i y, and finite elements the same steps in extended
+ * precision. */
+#include <math.h>
+
+#include "vecmath/complex/cframe.h"
+#include "vecmath/complex/exact.h"
+
+namespace brenn::vm::cx {
+namespace {
+
+template <class E>
+int SqrtScalar(const E* z, const E*, E* y) {
+    using R = decltype(z->re);
+    const double a = z->re, b = z->im, inf = __builtin_inf();
+    double re, im;
+    if (__builtin_isinf(b)) {
+        re = inf, im = b;
+    } else if (__builtin_isinf(a) && a < 0) {
+        re = __builtin_isnan(b) ? b + b : 0.0;
+        im = __builtin_copysign(inf, b);
+    } else if (__builtin_isinf(a)) {
+        re = a;
+        im = __builtin_isnan(b) ? b + b : __builtin_copysign(0.0, b);
+    } else if (__builtin_isnan(a) || __builtin_isnan(b)) {
+        re = im = a + b;
+    } else if (a == 0 && b == 0) {
+        re = 0, im = b;
+    } else {
+        long double x = a, w = b;
+        long double m = sqrtl(x * x + w * w);
+        long double t = sqrtl((fabsl(x) + m) * 0.5L);
+        long double q = w / (2 * t);
+        re = double(a >= 0 ? t : fabsl(q));
+        im = double(a >= 0 ? q : copysignl(t, w));
+    }
+    y->re = R(re);
+    y->im = R(im);
+    return status::kNone;
+}
+
+// The root's parts from t = sqrt((|x| + |z|)/2) and q = y/(2t), by the sign bit of x.
+template <class V>
+BRENN_VEC void Place(V x, V y, V t, V q, Cx<ElemOf<V>>& r) {
+    r.re = IfThenElse(x, Abs(q), t);
+    r.im = IfThenElse(x, Or(t, SignBit(y)), q);
+}
+
+struct SqrtZ {
+    using T = double;
+    using In = BrennComplex16;
+    using Out = BrennComplex16;
+    static constexpr X87Rule kX87 = X87Rule::Extended; // for the 80-bit scalar routine
+    static int Eval(const Cx<double>* z, const Cx<double>*, Cx<double>& y) {
+        constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
+        __m128d special =
+            HighWordsToLanes(HighWordOutside<kLo, kHi>(LargerMagnitude(z->re, z->im)));
+        __m128d x = IfThenElse(special, Set<double>(1), z->re);
+        __m128d w = IfThenZeroElse(special, z->im);
+        const __m128d half = Set<double>(0.5);
+        // |z| = mh + ml
+        __m128d sh, sl, ph, pl;
+        SumOfProducts(x, x, w, w, sh, sl);
+        __m128d mh = Sqrt(sh);
+        ExactProduct(mh, mh, ph, pl);
+        __m128d ml = Div(Mul(Add(Sub(Sub(sh, ph), pl), sl), half), mh);
+        // v = (|x| + |z|)/2 = vh + vl
+        __m128d vh, vl;
+        TwoSum(Abs(x), mh, vh, vl);
+        vh = Mul(vh, half);
+        vl = Mul(Add(vl, ml), half);
+        // t = th + tl, and its reciprocal
+        __m128d th = Sqrt(vh);
+        __m128d inv = Div(Set<double>(1), th);
+        ExactProduct(th, th, ph, pl);
+        __m128d tl = Mul(Mul(Add(Sub(Sub(vh, ph), pl), vl), half), inv);
+        // q = (w/2)/t, corrected by the exact residual
+        __m128d w2 = Mul(w, half);
+        __m128d q = Mul(w2, inv);
+        ExactProduct(q, th, ph, pl);
+        q = Add(q, Mul(Sub(Sub(Sub(w2, ph), pl), Mul(q, tl)), inv));
+        q = Xor(Abs(q), SignBit(w)); // y's sign, also where q is a zero
+
+        Place(x, w, Add(th, tl), q, y);
+        return MaskBits(special);
+    }
+    static int Scalar(const In* x, const In* w, Out* y) { return SqrtScalar(x, w, y); }
+};
+
+struct SqrtC {
+    using T = float;
+    using In = BrennComplex8;
+    using Out = BrennComplex8;
+    static constexpr X87Rule kX87 = X87Rule::Extended; // for the 80-bit scalar routine
+    static void Half(__m128d x, __m128d w, __m128d& t, __m128d& q) {
+        __m128d m = Sqrt(Add(Mul(x, x), Mul(w, w)));
+        t = Sqrt(Mul(Add(Abs(x), m), Set<double>(0.5)));
+        q = Div(w, Add(t, t));
+    }
+    static int Eval(const Cx<float>* z, const Cx<float>*, Cx<float>& y) {
+        // both parts zero, or either not finite
+        const I32x4 inf = Set<int32_t>(0x7F800000);
+        I32x4 ar = AsInt(Abs(z->re)), ai = AsInt(Abs(z->im));
+        I32x4 o =
+            Or(Eq(Or(ar, ai), Set<int32_t>(0)), Or(Eq(And(ar, inf), inf), Eq(And(ai, inf), inf)));
+        __m128 special = AsFloat(o);
+        __m128 x = IfThenElse(special, Set<float>(1), z->re);
+        __m128 w = IfThenZeroElse(special, z->im);
+        __m128d t0, q0, t1, q1;
+        Half(WidenLower(x), WidenLower(w), t0, q0);
+        Half(WidenUpper(x), WidenUpper(w), t1, q1);
+        Place(x, w, Narrow(t0, t1), Narrow(q0, q1), y);
+        return MaskBits(special);
+    }
+    static int Scalar(const In* x, const In* w, Out* y) { return SqrtScalar(x, w, y); }
+};
+
+} // namespace
+} // namespace brenn::vm::cx
+
+using namespace brenn::vm;
+using namespace brenn::vm::cx;
+
+extern "C" {
+ZAR_COMPLEX_KERNEL(z, Sqrt, All, Unary, SqrtZ)
+ZAR_COMPLEX_KERNEL(c, Sqrt, LaEp, Unary, SqrtC)
+ZAR_COMPLEX_KERNEL(c, Sqrt, HA, Unary, SqrtC)
+}

@@ -1,0 +1,244 @@
+/* The bodies of Atan, Atan2, Atanpi and Atan2pi in single and double (atan.cpp tells
+ * the method and its measured errors), and Atan2's scalar routine: the kernels of those
+ * rows in atan.cpp, and the phase of the complex Arg and Ln, are made from them. */
+#ifndef BRENN_VECMATH_INVTRIG_ATAN_BODY_H
+#define BRENN_VECMATH_INVTRIG_ATAN_BODY_H
+
+#include <cmath>
+
+#include "vecmath/frame/kernel_frame.h"
+#include "vecmath/invtrig/common.h"
+#include "vecmath/invtrig/series.h"
+
+namespace brenn::vm::invtrig {
+
+// min(v, 2^510) for v >= 0 or NaN, by the bits: minpd would raise invalid for a NaN.
+BRENN_VEC __m128d AtMost2p510(__m128d v) {
+    const __m128d c = Set<double>(0x1p510);
+    return IfThenElse(AsFloat(Gt(AsInt(v), AsInt(c))), c, v);
+}
+
+// The double steps: the angle of (b, a) with the series S, compensated or not. Lanes
+// of Atan2 hold magnitudes in [2^-500, 2^500), lanes of Atan have b = 1 and any a.
+template <Unit U, class S, bool Comp>
+BRENN_VEC __m128d AngleOf(__m128d a, __m128d b) {
+    const __m128d one = Set<double>(1.0);
+    __m128d ay = Abs(a), ax = Abs(b);
+    __m128d swap = AsFloat(Gt(AsInt(ay), AsInt(ax)));
+    __m128d n = IfThenElse(swap, ax, ay);
+    __m128d d = IfThenElse(swap, ay, ax);
+    __m128d k = IfThenElse(swap, Set<double>(2), IfThenElse(b, Set<double>(4), Zero<double>()));
+    __m128d flip = Xor(And(swap, SignMask<double>()), SignBit(b));
+    // Above tan(pi/8): atan(n/d) = pi/4 + atan((n - d)/(n + d)). Compared as integers:
+    // both are magnitudes, and a NaN raises nothing (it lands in one branch or the other
+    // and comes out of the quotient).
+    __m128d fold = AsFloat(Gt(AsInt(n), AsInt(Mul(d, Set<double>(0x1.a827999fcef32p-2)))));
+    __m128d nh, nl, dh, dl;
+    if constexpr (Comp) {
+        // Folded lanes have d below 2^500; the others must not make inf - inf here.
+        __m128d dc = AtMost2p510(d);
+        TwoSum(n, Neg(dc), nh, nl);
+        TwoSum(n, dc, dh, dl);
+        nh = IfThenElse(fold, nh, n);
+        nl = IfThenElseZero(fold, nl);
+        dh = IfThenElse(fold, dh, d);
+        dl = IfThenElseZero(fold, dl);
+    } else {
+        nh = IfThenElse(fold, Sub(n, d), n);
+        dh = IfThenElse(fold, Add(n, d), d);
+    }
+    __m128d q = Div(nh, dh);
+    __m128d l = S::Tail(Mul(q, q), q);
+    if constexpr (Comp) {
+        // The quotient's error from the exact residual. The product's split needs d below
+        // about 2^995: Atan's larger d (above 2^510) only happen with q below 2^-510, next
+        // to pi/2, where the correction is far below the result's last bit whatever it is.
+        __m128d ph, pl;
+        TwoProduct(q, AtMost2p510(dh), ph, pl);
+        __m128d r = Sub(Add(Sub(Sub(nh, ph), pl), nl), Mul(q, dl));
+        l = Add(l, Div(r, dh));
+    }
+    k = Add(k, IfThenElseZero(fold, Or(one, And(flip, SignMask<double>()))));
+    __m128d y = Finish<U, Comp>(k, Xor(q, flip), Xor(l, flip));
+    return Xor(y, SignBit(a));
+}
+
+// Single Atan EP and LA on [0, 1] after the fold t = -1/|x| above 1.
+template <Unit U, Level L>
+BRENN_VEC __m128 AtanSingle(__m128 x) {
+    __m128 a = Abs(x);
+    __m128 big = AsFloat(Gt(AsInt(a), Set<uint32_t>(Format<float>::kOne)));
+    __m128 r;
+    if constexpr (L == Level::EP) {
+        r = Or(ApproxRecip(a), SignMask<float>());
+    } else {
+        // -1/a by one Newton step; infinite lanes are kept apart (0 * inf in the step
+        // would raise invalid) and get t = 0, so pi/2.
+        __m128 inf = AsFloat(Eq(AsInt(a), Set<uint32_t>(Format<float>::kExpField)));
+        __m128 ar = IfThenElse(inf, Set<float>(1.0f), a);
+        r = ApproxRecip(ar);
+        r = IfThenZeroElse(inf, Mul(r, Sub(Mul(r, ar), Set<float>(2.0f))));
+    }
+    __m128 t = IfThenElse(big, r, a);
+    __m128 z = Mul(t, t);
+    __m128 p = Mul(t, L == Level::EP ? AtanSingleEP(z) : AtanSingleLA(z));
+    if constexpr (U == Unit::Pi) p = Mul(p, Set<float>(InvPi<float>::kHi));
+    __m128 base = IfThenElseZero(big, Set<float>(2 * Quarter<float, U>::kHi));
+    return Or(Add(p, base), SignBit(x));
+}
+
+// Single Atan2 EP and LA: lanes in the vector range.
+template <Unit U, Level L>
+BRENN_VEC __m128 Atan2Single(__m128 a, __m128 b) {
+    using Q = Quarter<float, U>;
+    __m128 ay = Abs(a), ax = Abs(b);
+    __m128 swap = AsFloat(Gt(AsInt(ay), AsInt(ax)));
+    __m128 n = IfThenElse(swap, ax, ay);
+    __m128 d = IfThenElse(swap, ay, ax);
+    __m128 t;
+    if constexpr (L == Level::EP) {
+        __m128 r = ApproxRecip(d);
+        r = Mul(r, Sub(Set<float>(2.0f), Mul(d, r)));
+        t = Mul(n, r);
+    } else {
+        t = Div(n, d);
+    }
+    t = Xor(t, Xor(And(swap, SignMask<float>()), SignBit(b)));
+    __m128 base = IfThenElse(swap, Set<float>(2 * Q::kHi),
+                             IfThenElse(b, Set<float>(4 * Q::kHi), Zero<float>()));
+    __m128 z = Mul(t, t);
+    __m128 p = Mul(t, L == Level::EP ? AtanSingleEP(z) : AtanSingleLA(z));
+    if constexpr (U == Unit::Pi) p = Mul(p, Set<float>(InvPi<float>::kHi));
+    return Or(Add(p, base), SignBit(a));
+}
+
+// Whether a level runs in single (its own single steps) or in double.
+template <Unit U, Level L>
+constexpr bool kInSingle = L == Level::EP || (L == Level::LA && U == Unit::Radian);
+
+template <Level L>
+using DoubleSeriesOf = std::conditional_t<L == Level::EP, AtanDouble5, AtanDouble11>;
+
+// The double steps on four single lanes, widened, with the short series.
+template <Unit U>
+BRENN_VEC __m128 InDouble(__m128 a, __m128 b) {
+    return Narrow(AngleOf<U, AtanDouble5, false>(WidenLower(a), WidenLower(b)),
+                  AngleOf<U, AtanDouble5, false>(WidenUpper(a), WidenUpper(b)));
+}
+
+template <Unit U, Level L>
+BRENN_VEC __m128 AtanOf(__m128 x) {
+    if constexpr (kInSingle<U, L>)
+        return AtanSingle<U, L>(x);
+    else
+        return InDouble<U>(x, Set<float>(1.0f));
+}
+template <Unit U, Level L>
+BRENN_VEC __m128d AtanOf(__m128d x) {
+    return AngleOf<U, DoubleSeriesOf<L>, L != Level::EP>(x, Set<double>(1.0));
+}
+template <Unit U, Level L>
+BRENN_VEC __m128 Atan2Of(__m128 a, __m128 b) {
+    if constexpr (kInSingle<U, L>)
+        return Atan2Single<U, L>(a, b);
+    else
+        return InDouble<U>(a, b);
+}
+template <Unit U, Level L>
+BRENN_VEC __m128d Atan2Of(__m128d a, __m128d b) {
+    return AngleOf < U, DoubleSeriesOf<L>, L == Level::HA || U == Unit::Pi > (a, b);
+}
+
+// The vector range of Atan2's magnitudes: [2^-125, 2^123] in single, by the whole bits,
+// [2^-500, 2^500) in double, by the high words.
+template <class T>
+constexpr LaneRange<T> kRange = {Format<float>::kAbs, 0x7F000000, 0xFC000000};
+template <>
+constexpr Range32 kRange<double> = {0x7FFFFFFF, 0x5F500000, 0xBE7FFFFF};
+
+// Atan2's special values (C99 Annex F) in the unit's half turn, and the other pairs by
+// the compensated double steps: single pairs as they are, double ones scaled by a
+// common power of two unless the quotient is so small that it is the result.
+template <Unit U, class T>
+int Atan2Scalar(const T* pa, const T* pb, T* y) {
+    T a = *pa, b = *pb;
+    if (__builtin_isnan(a) || __builtin_isnan(b)) {
+        *y = a + b;
+        return status::kNone;
+    }
+    constexpr double kHalf = U == Unit::Pi ? 1.0 : 3.141592653589793;
+    double r;
+    if (__builtin_isinf(a) && __builtin_isinf(b)) {
+        r = b > 0 ? 0.25 * kHalf : 0.75 * kHalf;
+    } else if (a == 0) {
+        r = std::signbit(b) ? kHalf : 0.0;
+    } else if (__builtin_isinf(b)) {
+        r = b > 0 ? 0.0 : kHalf;
+    } else if (b == 0 || __builtin_isinf(a)) {
+        r = 0.5 * kHalf;
+    } else {
+        double da = a, db = b;
+        if constexpr (sizeof(T) == 8) {
+            int ea = std::ilogb(da), eb = std::ilogb(db);
+            if (eb - ea > 60 && db > 0) {
+                // atan(t) = t (1 - t^2/3 ...) with t below 2^-59: the quotient is the
+                // angle. In radians it is rounded once (also where it is denormal); in
+                // half-turns it is taken at b's scale, where it is normal, and scaled back.
+                if constexpr (U == Unit::Radian) {
+                    *y = da / db;
+                } else {
+                    double n = std::scalbn(da, eb - ea);
+                    double q = n / db;
+                    double ql = std::fma(-q, db, n) / db;
+                    double p = q * InvPi<double>::kHi;
+                    double pl = std::fma(q, InvPi<double>::kHi, -p) +
+                                (ql * InvPi<double>::kHi + q * InvPi<double>::kLo);
+                    *y = std::scalbn(p + pl, ea - eb);
+                }
+                return status::kNone;
+            }
+            // One power of two for both, the larger near 1; a part below 2^-60 of the
+            // other is lost in the result and becomes a zero of its sign.
+            int e = ea > eb ? ea : eb;
+            da = ea - eb < -60 ? std::copysign(0.0, da) : std::scalbn(da, -e);
+            db = eb - ea < -60 ? std::copysign(0.0, db) : std::scalbn(db, -e);
+        }
+        __m128d p = AngleOf<U, AtanDouble11, true>(Set<double>(da), Set<double>(db));
+        *y = T(GetLane(p)); // narrowed once, as the vector path does
+        return status::kNone;
+    }
+    *y = T(std::copysign(r, double(a)));
+    return status::kNone;
+}
+
+template <class Tp, Level L, Unit U>
+struct AtanBody {
+    using T = Tp;
+    using V = Vec<T>;
+    static V Eval(V x, V&) { return AtanOf<U, L>(x); }
+};
+
+template <class Tp, Level L, Unit U>
+struct Atan2Body {
+    using T = Tp;
+    using V = Vec<T>;
+    static V Eval(V a, V b, V& special) {
+        special = Or(RangeTest(a, kRange<T>), RangeTest(b, kRange<T>));
+        const V one = Set<T>(1);
+        return Atan2Of<U, L>(IfThenElse(special, one, a), IfThenElse(special, one, b));
+    }
+    static int Scalar(const T* a, const T* b, T* y) { return Atan2Scalar<U>(a, b, y); }
+};
+
+template <class T, Level L>
+using AtanRadian = AtanBody<T, L, Unit::Radian>;
+template <class T, Level L>
+using AtanpiBody = AtanBody<T, L, Unit::Pi>;
+template <class T, Level L>
+using Atan2Radian = Atan2Body<T, L, Unit::Radian>;
+template <class T, Level L>
+using Atan2piBody = Atan2Body<T, L, Unit::Pi>;
+
+} // namespace brenn::vm::invtrig
+
+#endif
