@@ -9,7 +9,6 @@
 #ifndef BRENN_STATS_QUANTILE_CORE_H
 #define BRENN_STATS_QUANTILE_CORE_H
 
-#include <nmmintrin.h>
 #include <stdint.h>
 #include <string.h>
 
@@ -17,43 +16,20 @@
 
 namespace brenn::stats {
 
-// The least of s[0, n) (n at least 1); two lanes of four registers.
-inline double LeastOf(const double* s, int64_t n) {
-    __m128d m0 = _mm_set1_pd(s[0]), m1 = m0, m2 = m0, m3 = m0;
+// The least of s[0, n) (n at least 1), over four independent running minima so that
+// the compares don't wait on each other. A NaN never replaces a value.
+template <typename T>
+T LeastOf(const T* s, int64_t n) {
+    T m[4] = {s[0], s[0], s[0], s[0]};
     int64_t i = 0;
-    for (; i + 8 <= n; i += 8) {
-        m0 = _mm_min_pd(_mm_loadu_pd(s + i), m0);
-        m1 = _mm_min_pd(_mm_loadu_pd(s + i + 2), m1);
-        m2 = _mm_min_pd(_mm_loadu_pd(s + i + 4), m2);
-        m3 = _mm_min_pd(_mm_loadu_pd(s + i + 6), m3);
-    }
-    m0 = _mm_min_pd(_mm_min_pd(m0, m1), _mm_min_pd(m2, m3));
-    alignas(16) double lane[2];
-    _mm_store_pd(lane, m0);
-    double m = lane[1] < lane[0] ? lane[1] : lane[0];
+    for (; i + 4 <= n; i += 4)
+        for (int l = 0; l < 4; ++l)
+            m[l] = s[i + l] < m[l] ? s[i + l] : m[l];
     for (; i < n; ++i)
-        m = s[i] < m ? s[i] : m;
-    return m;
-}
-
-inline float LeastOf(const float* s, int64_t n) {
-    __m128 m0 = _mm_set1_ps(s[0]), m1 = m0, m2 = m0, m3 = m0;
-    int64_t i = 0;
-    for (; i + 16 <= n; i += 16) {
-        m0 = _mm_min_ps(_mm_loadu_ps(s + i), m0);
-        m1 = _mm_min_ps(_mm_loadu_ps(s + i + 4), m1);
-        m2 = _mm_min_ps(_mm_loadu_ps(s + i + 8), m2);
-        m3 = _mm_min_ps(_mm_loadu_ps(s + i + 12), m3);
-    }
-    m0 = _mm_min_ps(_mm_min_ps(m0, m1), _mm_min_ps(m2, m3));
-    alignas(16) float lane[4];
-    _mm_store_ps(lane, m0);
-    float m = lane[0];
+        m[0] = s[i] < m[0] ? s[i] : m[0];
     for (int l = 1; l < 4; ++l)
-        m = lane[l] < m ? lane[l] : m;
-    for (; i < n; ++i)
-        m = s[i] < m ? s[i] : m;
-    return m;
+        m[0] = m[l] < m[0] ? m[l] : m[0];
+    return m[0];
 }
 
 // The places already selected in a scratch, ascending: everything before a fence is at

@@ -1,18 +1,9 @@
 #!/usr/bin/python3
 """Times numpy on the statistics benchmark's problems; prints one line a problem,
 `name seconds` (best of several runs)."""
-import time
-
 import numpy as np
 
-
-def best(f, runs):
-    t = float("inf")
-    for _ in range(runs):
-        t0 = time.perf_counter()
-        f()
-        t = min(t, time.perf_counter() - t0)
-    return t
+from best_time import best
 
 
 rng = np.random.default_rng(1)
