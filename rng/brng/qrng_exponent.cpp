@@ -25,21 +25,9 @@ constexpr int kGroup = 20; // 10 vectors in registers
 
 using Rows = uint64_t[kQrngBits][kGroup];
 
-// The rows taken by counters c0 to c0 + q - 1 (`used`) and those taken an odd
-// number of times (`odd`): LowZero(k) is c when k is 2^c - 1 modulo 2^(c + 1).
-void RowsOfRun(uint32_t c0, uint32_t q, uint32_t* used, uint32_t* odd) {
-    const uint64_t begin = c0, end = begin + q;
-    *used = *odd = 0;
-    for (int c = 0; c < kQrngBits; ++c) {
-        const uint64_t half = uint64_t{1} << c, period = half << 1;
-        const uint64_t count = (end + half) / period - (begin + half) / period;
-        *used |= static_cast<uint32_t>(count != 0) << c;
-        *odd |= static_cast<uint32_t>(count & 1) << c;
-    }
-}
-
 // w words `stride` apart, shifted right by `shift`, each in the low half of a lane
-// whose high half is `high`.
+// whose high half is `high`; an odd w gets a last lane of `high`, which the
+// vectors read and never store.
 void Widen(const uint32_t* from, ptrdiff_t stride, int w, int shift, uint64_t high, uint64_t* to) {
     int k = 0;
     if (stride == 1) {
@@ -56,6 +44,7 @@ void Widen(const uint32_t* from, ptrdiff_t stride, int w, int shift, uint64_t hi
     }
     for (; k < w; ++k)
         to[k] = high | (from[k * stride] >> shift);
+    if (w % 2 != 0) to[w] = high;
 }
 
 // q points of W coordinates from r, rows of the output `stride` apart.
@@ -105,6 +94,18 @@ constexpr auto GroupTable(std::index_sequence<W...>) {
 
 } // namespace
 
+// LowZero(k) is c when k is 2^c - 1 modulo 2^(c + 1).
+void RowsOfRun(uint32_t c0, uint32_t q, uint32_t* used, uint32_t* odd) {
+    const uint64_t begin = c0, end = begin + q;
+    *used = *odd = 0;
+    for (int c = 0; c < kQrngBits; ++c) {
+        const uint64_t half = uint64_t{1} << c, period = half << 1;
+        const uint64_t count = (end + half) / period - (begin + half) / period;
+        *used |= static_cast<uint32_t>(count != 0) << c;
+        *odd |= static_cast<uint32_t>(count & 1) << c;
+    }
+}
+
 uint32_t RunByExponent(const QrngView& v, uint32_t q, double* r, uint32_t high, double s, double a,
                        int shift, bool multiply) {
     static constexpr auto kAsIs = GroupTable<false, false>(std::make_index_sequence<kGroup>());
@@ -119,8 +120,8 @@ uint32_t RunByExponent(const QrngView& v, uint32_t q, double* r, uint32_t high, 
     memcpy(&biasValue, &exponent, sizeof biasValue);
     // x' 2^k + a is x' 2^k when a is either zero, rounding being to nearest.
     const auto& table = multiply ? kScaled : a == 0.0 ? kAsIs : kSum;
-    alignas(16) Rows rows = {};
-    alignas(16) uint64_t lanes[kGroup] = {};
+    alignas(16) Rows rows;
+    alignas(16) uint64_t lanes[kGroup];
     for (int32_t j0 = 0; j0 < d; j0 += kGroup) {
         const int w = std::min<int32_t>(kGroup, d - j0);
         for (uint32_t u = used; u != 0; u &= u - 1) {

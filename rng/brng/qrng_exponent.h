@@ -10,6 +10,10 @@
 
 namespace brenn::rng {
 
+// The rows taken by counters c0 to c0 + q - 1 (`used`) and those taken an odd
+// number of times (`odd`), as bit masks.
+void RowsOfRun(uint32_t c0, uint32_t q, uint32_t* used, uint32_t* odd);
+
 // Fewer points than this are cheaper by the vector forms than by setting up rows.
 constexpr uint32_t kExponentMinPoints = 16;
 

@@ -95,6 +95,7 @@ struct BlockJob {
     int64_t off;
     uint32_t counter, q;
     int32_t dimension;
+    uint32_t used; // the rows that the run takes
 };
 
 // The points of one block: W coordinates (32, held in registers, or the last
@@ -127,8 +128,8 @@ void StepBlock(const BlockJob<Form>& job, uint32_t* p, const uint32_t (*rows)[kB
     }
 }
 
-// Block b: coordinates 32 b to 32 b + 31 of every point, with its rows copied next
-// to the point so that both stay in the first-level cache.
+// Block b: coordinates 32 b to 32 b + 31 of every point, with the rows that the run
+// takes copied next to the point so that both stay in the first-level cache.
 template <typename Form>
 void RunBlock(int64_t b, const BlockJob<Form>& job) {
     const QrngView& v = *job.v;
@@ -136,9 +137,11 @@ void RunBlock(int64_t b, const BlockJob<Form>& job) {
     const int w = static_cast<int>(std::min<int64_t>(kBlock, job.dimension - j0));
     alignas(64) uint32_t p[kBlock];
     alignas(64) uint32_t rows[kBlock][kBlock];
-    for (int j = 0; j < w; ++j) {
+    for (int j = 0; j < w; ++j)
         p[j] = v.Point(j0 + j);
-        for (int bit = 0; bit < kBlock; ++bit)
+    for (uint32_t u = job.used; u != 0; u &= u - 1) {
+        const int bit = __builtin_ctz(u);
+        for (int j = 0; j < w; ++j)
             rows[bit][j] = v.Dir(j0 + j, bit);
     }
     if (w == kBlock)
@@ -186,7 +189,9 @@ void RunPoints(const QrngView& v, uint32_t q, int64_t off, const Form& f) {
         h->counter = RunWide(v, q, off, f);
         return;
     }
-    BlockJob<Form> job{&v, f, off, h->counter, q, d};
+    uint32_t used, odd;
+    RowsOfRun(h->counter, q, &used, &odd);
+    BlockJob<Form> job{&v, f, off, h->counter, q, d, used};
     const int64_t blocks = (d + kBlock - 1) / kBlock;
     if (threads) {
         auto parallelFor = reinterpret_cast<void (*)(int64_t, int, void*, ThreaderChunk)>(
