@@ -1,0 +1,223 @@
+// The error-function rows Erf, Erfc and CdfNorm: values against long double references
+// where the bodies change path (grid ends, the mirrored side's hold, the scaled rows, the
+// range tests), the edge values with their statuses, NaNs, the caller's MXCSR, vectors
+// with special lanes against one element at a time, and the printed table rows.
+#include <cfloat>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <vector>
+#include <xmmintrin.h>
+
+#include "tests/vecmath/kernels.h"
+
+namespace brenn::test {
+namespace {
+
+constexpr int kSlotLA = 0, kSlotHA = 1, kSlotEP = 2;
+constexpr int kSlots[] = {kSlotLA, kSlotHA, kSlotEP};
+
+enum class Fn { Erf, Erfc, CdfNorm };
+constexpr Fn kAll[] = {Fn::Erf, Fn::Erfc, Fn::CdfNorm};
+
+template <class T>
+std::string RowOf(Fn f) {
+    std::string t = sizeof(T) == 4 ? "s" : "d";
+    return t + (f == Fn::Erf ? "Erf" : f == Fn::Erfc ? "Erfc" : "CdfNorm");
+}
+
+template <class T>
+T Call(Fn f, int slot, T x, int* status = nullptr) {
+    brenn_zar_kernel_SetErrStatus(0);
+    T y;
+    As<Unary<T>>(Slot(RowOf<T>(f), slot))(1, &x, &y);
+    if (status) *status = brenn_zar_kernel_GetErrStatus();
+    return y;
+}
+
+long double Ref(Fn f, long double x) {
+    switch (f) {
+    case Fn::Erf:
+        return erfl(x);
+    case Fn::Erfc:
+        return erfcl(x);
+    default:
+        return erfcl(-x / sqrtl(2.0L)) / 2;
+    }
+}
+
+template <class T>
+void ExpectWithinLevel(Fn f, int slot, T x) {
+    T y = Call(f, slot, x);
+    long double ref = Ref(f, x);
+    // EP in correct bits, or within an ulp where the result is a denormal.
+    if (slot == kSlotEP) {
+        int bits = sizeof(T) == 4 ? 11 : 26;
+        EXPECT_TRUE(fabsl((y - ref) / ref) <= ldexpl(1.0L, -bits) || UlpError(y, ref) <= 1)
+            << RowOf<T>(f) << " EP x " << x << " got " << y;
+    } else {
+        EXPECT_LE(UlpError(y, ref), slot == kSlotHA ? 1.0 : 4.0)
+            << RowOf<T>(f) << " slot " << slot << " x " << x << " got " << y;
+    }
+}
+
+TEST(ErfRows, ValuesWhereThePathsMeet) {
+    const double points[] = {0,         0x1p-1074, 0x1p-1022,  0x1p-300, 0x1p-257, 1e-20, 0x1p-8,
+                             0x1.01p-8, 0x1p-7,    0.02734375, 0.5,      1.0,      2.0,   3.9296875,
+                             3.93,      5.0,       5.9921875,  6.0,      6.01,     8.49,  8.5,
+                             8.51,      9.18,      9.1875,     9.19,     12.99,    13.0,  13.1,
+                             19.99,     20.0,      20.004,     25.99,    26.0,     26.01, 26.49,
+                             26.5,      26.7,      27.2,       37.49,    37.5,     37.6,  38.4};
+    for (Fn f : kAll)
+        for (int slot : kSlots)
+            for (double p : points)
+                for (double x : {p, -p}) {
+                    if (fabs(x) <= 20) ExpectWithinLevel(f, slot, float(x));
+                    ExpectWithinLevel(f, slot, x);
+                }
+}
+
+constexpr double kDenormal = -7;
+
+template <class T>
+struct Edge {
+    Fn f;
+    T x;
+    T want; // kDenormal: any denormal
+    int status;
+};
+
+template <class T>
+void ExpectEdges(const std::vector<Edge<T>>& cases) {
+    for (const Edge<T>& e : cases)
+        for (int slot : kSlots) {
+            int st;
+            T y = Call(e.f, slot, e.x, &st);
+            if (e.want == T(kDenormal))
+                EXPECT_EQ(std::fpclassify(y), FP_SUBNORMAL) << RowOf<T>(e.f) << " x " << e.x;
+            else
+                EXPECT_TRUE(SameValue(y, e.want))
+                    << RowOf<T>(e.f) << " slot " << slot << " x " << e.x << " got " << y;
+            EXPECT_EQ(st, e.status) << RowOf<T>(e.f) << " slot " << slot << " x " << e.x;
+        }
+}
+
+TEST(ErfRows, EdgeValuesAndStatuses) {
+    const double inf = INFINITY;
+    ExpectEdges<double>({
+        {Fn::Erf, 6.0, 1.0, 0},
+        {Fn::Erf, -0.0, -0.0, 0},
+        {Fn::Erf, 1.0 / 128, 0.008815282895179188, 0},
+        {Fn::Erf, -inf, -1.0, 0},
+        {Fn::Erf, 1e300, 1.0, 0},
+        {Fn::Erfc, 27.3, 0.0, 4},
+        {Fn::Erfc, 26.8, kDenormal, 4},
+        {Fn::Erfc, -30.0, 2.0, 0},
+        {Fn::Erfc, inf, 0.0, 0},
+        {Fn::Erfc, -inf, 2.0, 0},
+        {Fn::Erfc, -0.0, 1.0, 0},
+        {Fn::CdfNorm, -39.0, 0.0, 4},
+        {Fn::CdfNorm, -38.0, kDenormal, 4},
+        {Fn::CdfNorm, 40.0, 1.0, 0},
+        {Fn::CdfNorm, -inf, 0.0, 0},
+        {Fn::CdfNorm, inf, 1.0, 0},
+        {Fn::CdfNorm, 0.0, 0.5, 0},
+    });
+    const float finf = INFINITY;
+    ExpectEdges<float>({
+        {Fn::Erf, 6.0f, 1.0f, 0},
+        {Fn::Erf, -0.0f, -0.0f, 0},
+        {Fn::Erf, -finf, -1.0f, 0},
+        {Fn::Erfc, 10.5f, 0.0f, 4},
+        {Fn::Erfc, 9.5f, kDenormal, 4},
+        {Fn::Erfc, -30.0f, 2.0f, 0},
+        {Fn::Erfc, finf, 0.0f, 0},
+        {Fn::CdfNorm, -14.0f, kDenormal, 4},
+        {Fn::CdfNorm, -20.0f, 0.0f, 4},
+        {Fn::CdfNorm, -finf, 0.0f, 0},
+        {Fn::CdfNorm, 20.0f, 1.0f, 0},
+    });
+}
+
+template <class T>
+void ExpectQuietNaNs() {
+    using U = decltype(Bits(T()));
+    constexpr U quiet = sizeof(T) == 4 ? U(0x00400000u) : U(0x0008000000000000ull);
+    const U exp = sizeof(T) == 4 ? U(0x7F800000u) : U(0x7FF0000000000000ull);
+    const U sign = U(1) << (sizeof(T) * 8 - 1);
+    for (U nan : {U(exp | quiet | 5), U(exp | 5), U(sign | exp | quiet), U(sign | exp | 7)})
+        for (Fn f : kAll)
+            for (int slot : kSlots) {
+                int st;
+                T y = Call(f, slot, __builtin_bit_cast(T, nan), &st);
+                EXPECT_EQ(Bits(y), nan | quiet) << RowOf<T>(f) << " slot " << slot;
+                EXPECT_EQ(st, 0);
+            }
+}
+
+TEST(ErfRows, NaNsComeBackQuietedWithoutStatus) {
+    ExpectQuietNaNs<float>();
+    ExpectQuietNaNs<double>();
+}
+
+// Every row leaves the caller's MXCSR controls as they were (flags may be added), and
+// runs at nearest whatever rounding the caller has set.
+template <class T>
+void ExpectCallerCsrKept() {
+    std::vector<T> in;
+    for (int i = 0; i < 64; ++i)
+        in.push_back(T(-45 + 1.4 * i));
+    in.push_back(T(NAN));
+    std::vector<T> out(in.size()), near(in.size());
+    for (Fn f : kAll)
+        for (int slot : kSlots) {
+            auto k = As<Unary<T>>(Slot(RowOf<T>(f), slot));
+            k(int(in.size()), in.data(), near.data());
+            for (unsigned csr : {0x1F80u, 0x7F80u, 0x3F80u, 0x9F80u}) {
+                CsrScope scope(csr);
+                k(int(in.size()), in.data(), out.data());
+                EXPECT_EQ(_mm_getcsr() & ~0x3Fu, csr) << RowOf<T>(f) << " slot " << slot;
+                for (size_t i = 0; i < in.size(); ++i)
+                    EXPECT_TRUE(SameValue(out[i], near[i])) << RowOf<T>(f) << " " << in[i];
+            }
+        }
+}
+
+TEST(ErfRows, CallerCsrKept) {
+    ExpectCallerCsrKept<float>();
+    ExpectCallerCsrKept<double>();
+}
+
+// A vector with special lanes scattered through it gives what single elements give.
+template <class T>
+void ExpectVectorAsElements() {
+    const T mix[] = {T(0.3),   T(INFINITY), T(-2),   T(30),  T(-40), T(NAN),  T(9.6),  T(-13.5),
+                     T(1e-30), T(27),       T(-0.0), T(5.5), T(38),  T(-6.5), T(0.75), T(14)};
+    std::vector<T> in;
+    for (int r = 0; r < 5; ++r)
+        for (T v : mix)
+            in.push_back(v);
+    std::vector<T> out(in.size());
+    for (Fn f : kAll)
+        for (int slot : kSlots) {
+            As<Unary<T>>(Slot(RowOf<T>(f), slot))(int(in.size()), in.data(), out.data());
+            for (size_t i = 0; i < in.size(); ++i)
+                EXPECT_TRUE(SameValue(out[i], Call(f, slot, in[i])))
+                    << RowOf<T>(f) << " slot " << slot << " x " << in[i];
+        }
+}
+
+TEST(ErfRows, VectorsAsSingleElements) {
+    ExpectVectorAsElements<float>();
+    ExpectVectorAsElements<double>();
+}
+
+// The EP body reads the table's rows as they stand: at x = 1/128 the result is row 1's
+// value, and below the first step D*x is row 0's derivative times x.
+TEST(ErfRows, FirstTableRowsAsPrinted) {
+    EXPECT_EQ(Call(Fn::Erf, kSlotEP, 1.0 / 128), 0.008815282895179188);
+    EXPECT_EQ(Call(Fn::Erf, kSlotEP, 0x1p-300), 1.1283791670955126 * 0x1p-300);
+    EXPECT_EQ(Call(Fn::Erf, kSlotEP, -0x1p-300), -1.1283791670955126 * 0x1p-300);
+}
+
+} // namespace
+} // namespace brenn::test

@@ -1,0 +1,67 @@
+/* CdfNorm, the standard normal distribution function Phi, single and double, three
+ * levels each.
+ *
+ * The grid j/64 of cdfNormRows up to 38.5 holds Q(x) = Phi(-x) (tail_body.h,
+ * grid_core.h): Phi(x) = Q(|x|) for negative x, and 1 - Q(x) for positive x, held at
+ * 8.5, from where it is 1 to the last bit. Lanes from |x| = 37.5 (double) or 13
+ * (single), where the result may leave the normal range, and NaNs and infinities, go to
+ * the scalar routine, which reports status 4 for a result below the least normal (+0
+ * from -38.5 down). Double HA adds up in two parts, LA with the row's remainder, EP
+ * plainly; single runs in double on the widened lanes. */
+#include "frame/kernels.h"
+#include "vecmath/erf/tail_body.h"
+#include "vecmath/frame/kernel_frame.h"
+
+namespace brenn::vm {
+namespace {
+
+struct CdfNormGrid {
+    static constexpr const double (*kRows)[4] = cdfNormRows;
+    static constexpr double kShifter = 0x1p46, kLimit = 38.5;
+    static constexpr double kTauScale = 1.0, kUScale = 0.5;
+    static constexpr double kMirror = 1.0, kMirrorLimit = 8.5;
+    static constexpr bool kMirrorPositive = true, kLowDerivative = false;
+};
+
+struct CdfNormFn {
+    using Grid = CdfNormGrid;
+    static constexpr double kTailLimit = 38.5;
+    static constexpr bool kTailPositive = false;
+    static constexpr const char* kNameS = ZAR_ERROR_NAME(sCdfNorm);
+    static constexpr const char* kNameD = ZAR_ERROR_NAME(dCdfNorm);
+    template <class T>
+    static constexpr LaneRange<T> Window() {
+        if constexpr (sizeof(T) == 4)
+            return {0x7FFFFFFFu, 0u, 0x41500000u - 1}; // |x| from 13
+        else
+            return LaneRange<T>{0x7FFFFFFFFFFFFFFFull, 0u, 0x4042C00000000000ull - 1}; // 37.5
+    }
+    // Terms left out below 2^-57 (HA), 2^-55 (LA), 2^-29 (EP) of the result in double,
+    // 2^-30, 2^-27, 2^-15 in single.
+    template <class T, Level L>
+    static constexpr SeriesCut Cut() {
+        if constexpr (sizeof(T) == 8) {
+            if constexpr (L == Level::HA) return {12, 10, 7, 3};
+            if constexpr (L == Level::LA) return {12, 10, 6, 2};
+            return {6, 4, 0, 0};
+        }
+        if constexpr (L == Level::HA) return {5, 3, 0, 0};
+        if constexpr (L == Level::LA) return {4, 2, 0, 0};
+        return {2, 0, 0, 0};
+    }
+    template <class T, Level L>
+    static constexpr GridSum Sum() {
+        if constexpr (sizeof(T) == 4 || L == Level::EP) return GridSum::Plain;
+        return L == Level::HA ? GridSum::TwoPart : GridSum::WithLow;
+    }
+};
+
+template <class Tp, Level L>
+using CdfNormBody = TailBody<CdfNormFn, Tp, L>;
+
+} // namespace
+} // namespace brenn::vm
+
+extern "C" {
+ZAR_ROW_KERNELS(CdfNorm, Unary, brenn::vm::CdfNormBody)
+}

@@ -1,0 +1,97 @@
+/* Erf, single and double, three levels each; no lane is special and nothing is reported
+ * (a NaN comes back quieted by a blend; beyond the grid's last point erf is 1 to the last
+ * bit).
+ *
+ * EP: the short expansion around the nearest grid point j/128 with the row (V, D) of
+ * erfRows: t = xj*d, u = d^2 (0 below 2^-256), R = t*P + u*Q with P, Q the Taylor
+ * terms of erf(xj + d) in t, slightly tuned; erf = V + (w + R*w), w = d*D, and x's sign
+ * OR-ed on. LA and HA: grid_core.h's series of S(tau, u), LA adding up V + (w + w*S1),
+ * HA on the row pairs of erfRowsHA with the exact product and sums (0.5x ulp). Single
+ * runs each level in double on the widened lanes, the grid held at 3.9296875, from
+ * where erf is 1 in single. */
+#include "frame/kernels.h"
+#include "vecmath/erf/grid_core.h"
+#include "vecmath/frame/kernel_frame.h"
+#include "vecmath/frame/level.h"
+
+namespace brenn::vm {
+namespace {
+
+constexpr double kShifter128 = 0x1p45; // a + 2^45 rounds a to a multiple of 1/128
+
+struct ErfGridLA {
+    static constexpr const double (*kRows)[2] = erfRows;
+    static constexpr double kShifter = kShifter128, kLimit = 5.9921875;
+    static constexpr double kTauScale = 2.0, kUScale = 1.0;
+    static constexpr double kMirror = 0, kMirrorLimit = 0;
+    static constexpr bool kMirrorPositive = false, kLowDerivative = false;
+};
+struct ErfGridHA : ErfGridLA {
+    static constexpr const double (*kRows)[4] = erfRowsHA;
+    static constexpr bool kLowDerivative = true;
+};
+struct ErfGridSingle : ErfGridLA {
+    static constexpr double kLimit = 3.9296875;
+};
+
+// The cuts of the series: terms left out stay below 2^-57 (HA), 2^-55 (LA) of the
+// result in double, 2^-30 and 2^-27 in single, at the worst grid point and offset
+// (one cut serves both levels where the two bounds give the same).
+constexpr SeriesCut kCutHA{5, 4, 2, 1}, kCutLA{5, 4, 2, 1};
+constexpr SeriesCut kCutSingleHA{2, 1, 0, 0}, kCutSingleLA{2, 1, 0, 0};
+
+// The EP expansion, with the grid held at `limit`.
+template <double Limit>
+inline __m128d ErfShort(__m128d x) {
+    constexpr double kP1 = 0.6666678110767819, kP0 = -1.0000014305126206;
+    constexpr double kQ1 = 0.5000019073510884, kQ0 = -0.33333504994947405;
+    __m128d ax = Abs(x);
+    __m128d a = Min(ax, Set<double>(Limit));
+    __m128d s = Add(a, Set<double>(kShifter128));
+    __m128d xj = Sub(s, Set<double>(kShifter128));
+    __m128d d = Sub(a, xj);
+    __m128d t = Mul(xj, d);
+    __m128d u = IfThenZeroElse(Lt(a, Set<double>(0x1p-256)), Mul(d, d));
+    I64x2 row = AsInt(s);
+    __m128d v, deriv;
+    LoadTransposed(erfRows[LowWord<0>(row)], erfRows[LowWord<1>(row)], v, deriv);
+    __m128d p = MulAdd(Set<double>(kP1), t, Set<double>(kP0));
+    __m128d q = MulAdd(Set<double>(kQ1), t, Set<double>(kQ0));
+    __m128d r = Add(Mul(t, p), Mul(u, q));
+    __m128d w = Mul(d, deriv);
+    return Or(Add(v, Add(w, Mul(r, w))), SignBit(x));
+}
+
+template <class T, Level L>
+inline __m128d ErfDouble(__m128d x) {
+    constexpr bool single = sizeof(T) == 4;
+    if constexpr (L == Level::EP)
+        return ErfShort < single ? 3.9296875 : 5.9921875 > (x);
+    else if constexpr (single)
+        return Or(GridEval < ErfGridSingle, L == Level::HA ? kCutSingleHA : kCutSingleLA,
+                  GridSum::Plain > (x), SignBit(x));
+    else if constexpr (L == Level::HA)
+        return Or(GridEval<ErfGridHA, kCutHA, GridSum::TwoPart>(x), SignBit(x));
+    else
+        return Or(GridEval<ErfGridLA, kCutLA, GridSum::Plain>(x), SignBit(x));
+}
+
+template <class Tp, Level L>
+struct ErfBody {
+    using T = Tp;
+    using V = Vec<T>;
+    static V Eval(V x, V&) {
+        if constexpr (sizeof(T) == 4)
+            return Narrow(NaNQuiet(WidenLower(x), ErfDouble<T, L>),
+                          NaNQuiet(WidenUpper(x), ErfDouble<T, L>));
+        else
+            return NaNQuiet(x, ErfDouble<T, L>);
+    }
+};
+
+} // namespace
+} // namespace brenn::vm
+
+extern "C" {
+ZAR_ROW_KERNELS(Erf, Unary, brenn::vm::ErfBody)
+}

@@ -1,0 +1,59 @@
+/* Erfc, single (three levels) and double (one kernel for all three, at HA's bound).
+ *
+ * The grid j/128 of erfcRows up to 27.2421875 (tail_body.h, grid_core.h): erfc(|x|) on
+ * the row and its series; for negative x, 2 - erfc(|x|), held at |x| = 6, from where it
+ * is 2 to the last bit. Lanes from |x| = 26.5 (double) or 9.1875 (single), where the
+ * result may leave the normal range, and NaNs and infinities, go to the scalar routine,
+ * which reports status 4 for a result below the least normal (+0 from 27.2421875 on).
+ * Double adds up in two parts (0.5x ulp); single in double on the widened lanes. */
+#include "frame/kernels.h"
+#include "vecmath/erf/tail_body.h"
+#include "vecmath/frame/kernel_frame.h"
+
+namespace brenn::vm {
+namespace {
+
+struct ErfcGrid {
+    static constexpr const double (*kRows)[4] = erfcRows;
+    static constexpr double kShifter = 0x1p45, kLimit = 27.2421875;
+    static constexpr double kTauScale = 2.0, kUScale = 1.0;
+    static constexpr double kMirror = 2.0, kMirrorLimit = 6.0;
+    static constexpr bool kMirrorPositive = false, kLowDerivative = false;
+};
+
+struct ErfcFn {
+    using Grid = ErfcGrid;
+    static constexpr double kTailLimit = 27.2421875;
+    static constexpr bool kTailPositive = true;
+    static constexpr const char* kNameS = ZAR_ERROR_NAME(sErfc);
+    static constexpr const char* kNameD = ZAR_ERROR_NAME(dErfc);
+    template <class T>
+    static constexpr LaneRange<T> Window() {
+        if constexpr (sizeof(T) == 4)
+            return {0x7FFFFFFFu, 0u, 0x41130000u - 1}; // |x| from 9.1875
+        else
+            return LaneRange<T>{0x7FFFFFFFFFFFFFFFull, 0u, 0x403A800000000000ull - 1}; // 26.5
+    }
+    // Terms left out below 2^-57 of the result (double), 2^-30, 2^-27, 2^-15 (single).
+    template <class T, Level L>
+    static constexpr SeriesCut Cut() {
+        if constexpr (sizeof(T) == 8) return {11, 9, 6, 1};
+        if constexpr (L == Level::EP) return {2, 0, 0, 0};
+        return {4, 2, 0, 0};
+    }
+    template <class T, Level L>
+    static constexpr GridSum Sum() {
+        return sizeof(T) == 8 ? GridSum::TwoPart : GridSum::Plain;
+    }
+};
+
+template <class Tp, Level L>
+using ErfcBody = TailBody<ErfcFn, Tp, L>;
+
+} // namespace
+} // namespace brenn::vm
+
+extern "C" {
+ZAR_LEVEL_KERNELS(s, Erfc, Unary, brenn::vm::ErfcBody)
+ZAR_KERNEL_OF(d, Erfc, All, Unary, brenn::vm::ErfcBody<double, brenn::vm::Level::HA>)
+}

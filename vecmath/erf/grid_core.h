@@ -1,0 +1,151 @@
+/* The table-driven evaluation that Erf, Erfc and CdfNorm share, on double lanes (the
+ * single rows widen their lanes to it).
+ *
+ * a = min(|x|, limit) is rounded to the grid by the shifter (a + 2^45 for steps of 1/128,
+ * a + 2^46 for 1/64: the row index is the low word of the sum, xj the sum less the
+ * shifter); d = a - xj is exact and at most half a step. With the row's value V and
+ * signed derivative D of F (erf, erfc, or Q(x) = Phi(-x)) at xj,
+ *   F(xj + d) = V + D*d*S(tau, u),   S = integral over [0, 1] of exp(-tau*s - u*s^2) ds,
+ * tau = 2*xj*d and u = d^2 for erf and erfc, tau = xj*d and u = d^2/2 for Q. S - 1 is
+ * the Taylor series of erf_series.h (exact coefficients), cut where the terms left out
+ * fall below the level's bound: tau*P0(tau) + u*(P1(tau) + u*(P2(tau) + u*P3(tau))).
+ *
+ * The other side of Erfc and CdfNorm is 2 - erfc(|x|) and 1 - Q(x): their lanes take
+ * K - F with K - V split exactly (FastTwoSum, V being at most 1). Three ways to add up:
+ *   TwoPart (HA double): D*d as an exact product, the sum V + D*d split exactly, the
+ *            remainders (of the row, the product, the derivative for Erf) added last;
+ *   WithLow (LA double, single): V + (Vlo + w*(1 + S1)), w = D*d;
+ *   Plain   (EP double): V + w*(1 + S1).
+ * The scale column (2^-128 in the far tail) multiplies the sum last, exactly while the
+ * result is normal; lanes whose result would not be are the kernels' special lanes.
+ * x is never a NaN here: the kernels take NaN lanes aside (NaNQuiet, or special lanes). */
+#ifndef BRENN_VECMATH_ERF_GRID_CORE_H
+#define BRENN_VECMATH_ERF_GRID_CORE_H
+
+#include "vecmath/erf/erf_series.h"
+#include "vecmath/erf/erf_tables.h"
+#include "vecmath/frame/vec.h"
+
+namespace brenn::vm {
+
+enum class GridSum { TwoPart, WithLow, Plain };
+
+// Numbers of coefficients kept of P0 .. P3 (P0 from tau^1 on).
+struct SeriesCut {
+    int n0, n1, n2, n3;
+};
+
+// The first N coefficients of row m of the series from column k0, as an array for Horner.
+template <int M, int K0, int N>
+struct SeriesPart {
+    static constexpr double c[N > 0 ? N : 1] = {};
+};
+template <int M, int K0, int N>
+requires(N > 0) struct SeriesPart<M, K0, N> {
+    static constexpr auto Make() {
+        struct A {
+            double v[N];
+        } a{};
+        for (int i = 0; i < N; ++i)
+            a.v[i] = kErfSeries[M][K0 + i];
+        return a;
+    }
+    static constexpr auto kA = Make();
+    static constexpr const double (&c)[N] = kA.v;
+};
+
+template <int M, int N>
+BRENN_VEC __m128d SeriesRow(__m128d tau) {
+    return Horner(tau, SeriesPart<M, 0, N>::c);
+}
+
+// S - 1 at (tau, u).
+template <SeriesCut C>
+BRENN_VEC __m128d SeriesLessOne(__m128d tau, __m128d u) {
+    __m128d s = Mul(tau, Horner(tau, SeriesPart<0, 1, C.n0>::c));
+    if constexpr (C.n1 > 0) {
+        __m128d q = SeriesRow<1, C.n1>(tau);
+        if constexpr (C.n2 > 0) {
+            __m128d r = SeriesRow<2, C.n2>(tau);
+            if constexpr (C.n3 > 0) r = MulAdd(u, SeriesRow<3, C.n3>(tau), r);
+            q = MulAdd(u, r, q);
+        }
+        s = MulAdd(u, q, s);
+    }
+    return s;
+}
+
+/* A function's grid, as the per-function struct gives it:
+ *   kRows (double[][W], W 2 or 4), kShifter, kLimit, kTauScale, kUScale;
+ *   kMirror (K, 0 for none), kMirrorLimit, kMirrorPositive (Q mirrors x > 0);
+ *   kLowDerivative: the fourth column is D's remainder (Erf HA) rather than a scale. */
+template <class G, SeriesCut C, GridSum Sum>
+inline __m128d GridEval(__m128d x) {
+    constexpr size_t W = sizeof(G::kRows[0]) / sizeof(double);
+    __m128d ax = Abs(x);
+    __m128d mirror = Zero<double>(), lim = Set<double>(G::kLimit);
+    if constexpr (G::kMirror != 0) {
+        mirror = G::kMirrorPositive ? Xor(x, SignMask<double>()) : x; // by the sign bit
+        lim = IfThenElse(mirror, Set<double>(G::kMirrorLimit), lim);
+    }
+    __m128d a = Min(ax, lim);
+    __m128d s = Add(a, Set<double>(G::kShifter));
+    __m128d xj = Sub(s, Set<double>(G::kShifter));
+    __m128d d = Sub(a, xj);
+    I64x2 row = AsInt(s);
+    const double* r0 = G::kRows[LowWord<0>(row)];
+    const double* r1 = G::kRows[LowWord<1>(row)];
+    __m128d v, vlo = Zero<double>(), deriv, extra = Zero<double>();
+    if constexpr (W == 2) {
+        LoadTransposed(r0, r1, v, deriv);
+    } else {
+        LoadTransposed(r0, r1, v, vlo);
+        LoadTransposed(r0 + 2, r1 + 2, deriv, extra);
+    }
+    __m128d tau = Mul(Mul(Set<double>(G::kTauScale), xj), d);
+    __m128d u = Mul(d, d);
+    if constexpr (G::kUScale != 1.0) u = Mul(u, Set<double>(G::kUScale));
+    // Below 2^-256 u is 0, so that tiny arguments raise no underflow of their own.
+    __m128d tiny = Lt(a, Set<double>(0x1p-256));
+    u = IfThenZeroElse(tiny, u);
+    __m128d s1 = SeriesLessOne<C>(tau, u);
+
+    __m128d flip = Zero<double>(), k = Zero<double>();
+    if constexpr (G::kMirror != 0) {
+        flip = And(mirror, SignMask<double>());
+        k = IfThenElse(mirror, Set<double>(G::kMirror), k);
+    }
+    __m128d vs = Xor(v, flip);
+    __m128d y;
+    if constexpr (Sum == GridSum::TwoPart) {
+        __m128d ph, pl, hi, e1, sum, e2;
+        TwoProduct(deriv, d, ph, pl);
+        __m128d rest = Add(Mul(ph, s1), pl);
+        if constexpr (G::kLowDerivative) rest = Add(rest, Mul(extra, d));
+        // Tiny arguments take D*d rounded once: the remainders would underflow, and their
+        // roundings would be as large as what they correct.
+        rest = IfThenZeroElse(tiny, rest);
+        FastTwoSum(k, vs, hi, e1);
+        FastTwoSum(hi, Xor(ph, flip), sum, e2);
+        y = Add(sum, Add(Add(e1, e2), Xor(Add(vlo, rest), flip)));
+    } else {
+        __m128d w = Mul(deriv, d);
+        __m128d c = Add(w, Mul(w, s1));
+        if constexpr (Sum == GridSum::WithLow) c = Add(vlo, c);
+        y = Add(Add(k, vs), Xor(c, flip));
+    }
+    if constexpr (W == 4 && !G::kLowDerivative) y = Mul(y, extra);
+    return y;
+}
+
+// f on x with the NaN lanes set to 0 first, and those lanes' results x + 0, the NaN
+// quieted (an invalid flag for a signalling one only): no NaN reaches a compare or min.
+template <class F>
+BRENN_VEC __m128d NaNQuiet(__m128d x, F f) {
+    __m128d nan = Unordered(x, x);
+    return IfThenElse(nan, Add(x, Zero<double>()), f(IfThenZeroElse(nan, x)));
+}
+
+} // namespace brenn::vm
+
+#endif

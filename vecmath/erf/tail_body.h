@@ -1,0 +1,69 @@
+/* The body of Erfc and CdfNorm: grid_core.h on the tail side and on the mirrored one, and
+ * the scalar routine of the lanes whose result would not be normal.
+ *
+ * A function's struct gives its grid (grid_core.h) and:
+ *   kTailLimit       the argument from which the result is below half the least
+ *                    denormal (erfc: 27.2421875 up; Phi: -38.5 down), the grid's end;
+ *   kTailPositive    whether the tail lies at positive x (erfc) or negative (Phi);
+ *   Window<T>        the range test: |x| from where the result may leave the normal range
+ *                    of T (and infinities, NaNs); those lanes go to the scalar routine;
+ *   Cut<T, L>, Sum<T, L>  the series cut and the way of adding up, by precision and level;
+ *   kNameS, kNameD   the public error names.
+ * The scalar routine: a NaN comes back quieted; beyond the tail limit the result is +0
+ * with status 4 (exact and no status for an infinity); otherwise the grid's value on one
+ * lane, rounded to T, with status 4 when it is below T's least normal. Single runs in
+ * double on the widened lanes and rounds once. */
+#ifndef BRENN_VECMATH_ERF_TAIL_BODY_H
+#define BRENN_VECMATH_ERF_TAIL_BODY_H
+
+#include <float.h>
+
+#include "vecmath/erf/grid_core.h"
+#include "vecmath/frame/level.h"
+#include "vecmath/frame/scalar.h"
+#include "vecmath/frame/status.h"
+
+namespace brenn::vm {
+
+template <class Fn, class T, Level L>
+inline __m128d TailEval(__m128d x) {
+    return GridEval<typename Fn::Grid, Fn::template Cut<T, L>(), Fn::template Sum<T, L>()>(x);
+}
+
+template <class Fn, class T, Level L>
+inline int TailScalar(const T* a, T* y) {
+    T x = *a;
+    if (__builtin_isnan(x)) {
+        *y = x + x;
+        return status::kNone;
+    }
+    double tail = Fn::kTailPositive ? double(x) : -double(x);
+    if (tail > Fn::kTailLimit) {
+        *y = T(0);
+        return __builtin_isinf(x) ? status::kNone : status::kUnderflow;
+    }
+    T r = T(GetLane(TailEval<Fn, T, L>(SetFirst<double>(double(x)))));
+    *y = r;
+    return r < (sizeof(T) == 4 ? FLT_MIN : DBL_MIN) ? status::kUnderflow : status::kNone;
+}
+
+template <class Fn, class Tp, Level L>
+struct TailBody {
+    using T = Tp;
+    using V = Vec<T>;
+    static constexpr const char* kName = sizeof(T) == 4 ? Fn::kNameS : Fn::kNameD;
+    static V Eval(V x, V& special) {
+        special = RangeTest(x, Fn::template Window<T>());
+        // Special lanes run at 0 here: no NaN or infinity reaches the arithmetic.
+        V xs = IfThenElse(special, Zero<T>(), x);
+        if constexpr (sizeof(T) == 4)
+            return Narrow(TailEval<Fn, T, L>(WidenLower(xs)), TailEval<Fn, T, L>(WidenUpper(xs)));
+        else
+            return TailEval<Fn, T, L>(xs);
+    }
+    static int Scalar(const T* a, T* y) { return TailScalar<Fn, T, L>(a, y); }
+};
+
+} // namespace brenn::vm
+
+#endif
