@@ -69,42 +69,12 @@ struct Words {
     }
 };
 
-// Doubles x' s + a, where x' is the word shifted right by 1 (31 bits) or the word
-// itself (32 bits).
-template <bool k31>
-struct Double {
-    static constexpr int kShift = k31 ? 1 : 0;
-    static constexpr bool kMultiply = true;
-    double* r;
-    double s, a;
-    uint32_t high; // that of 2^52 when rounding is to nearest, else 0
-    void Put(int64_t i, uint32_t x) const { r[i] = static_cast<double>(k31 ? x >> 1 : x) * s + a; }
-    template <int L>
-    void Lanes(int64_t i, __m128i x) const {
-        const __m128d vs = _mm_set1_pd(s), va = _mm_set1_pd(a);
-        __m128d lo, hi;
-        if constexpr (k31) { // below 2^31: the signed conversion is exact
-            x = _mm_srli_epi32(x, 1);
-            lo = _mm_cvtepi32_pd(x);
-            hi = _mm_cvtepi32_pd(_mm_shuffle_epi32(x, 0xEE));
-        } else {
-            lo = LowWordsToDouble(x);
-            hi = HighWordsToDouble(x);
-        }
-        lo = _mm_add_pd(_mm_mul_pd(lo, vs), va);
-        if constexpr (L > 2) hi = _mm_add_pd(_mm_mul_pd(hi, vs), va);
-        StoreLanes<L>(r + i, lo, hi);
-    }
-};
-using Double31 = Double<true>;
-using Double32 = Double<false>;
-
-// The same doubles when s is a power of two 2^k: a word x' placed under the
-// exponent of 2^(52 + k) is exactly 2^(52 + k) + x' s, so taking 2^(52 + k) away
-// leaves the product x' s exactly, as the multiplication does, and the sum with a
-// rounds as before. ExponentScale holds when this is so: 2^(53 + k) is finite, x' s
-// is normal or zero, and rounding is to nearest (rounding down would make the zero
-// difference -0 where the product is +0).
+// A power-of-two scale s = 2^k: a word x' placed under the exponent of 2^(52 + k)
+// is exactly 2^(52 + k) + x' s, so taking 2^(52 + k) away leaves the product x' s
+// exactly, as the multiplication does, and the sum with a rounds as before.
+// ExponentScale holds when this is so: 2^(53 + k) is finite, x' s is normal or
+// zero, and rounding is to nearest (rounding down would make the zero difference
+// -0 where the product is +0).
 inline bool ExponentScale(double s, uint32_t* highWord) {
     uint64_t bits;
     memcpy(&bits, &s, sizeof bits);
@@ -115,37 +85,52 @@ inline bool ExponentScale(double s, uint32_t* highWord) {
     return true;
 }
 
-template <bool k31>
-struct DoubleByExponent {
+// Doubles x' s + a, where x' is the word shifted right by 1 (31 bits) or the word
+// itself (32 bits). kByExponent: s is a power of two and `high` the high word of
+// 2^(52 + k), so no multiplication; else `high` is that of 2^52 when rounding is to
+// nearest (for RunByExponent), or 0.
+template <bool k31, bool kByExponent>
+struct Double {
     static constexpr int kShift = k31 ? 1 : 0;
-    static constexpr bool kMultiply = false;
+    static constexpr bool kMultiply = !kByExponent;
     double* r;
     double s, a;
-    uint32_t high;    // high word of 2^(52 + k)
-    __m128i exponent; // `high` in every lane
+    uint32_t high;
     void Put(int64_t i, uint32_t x) const { r[i] = static_cast<double>(k31 ? x >> 1 : x) * s + a; }
     template <int L>
     void Lanes(int64_t i, __m128i x) const {
+        const __m128d vs = _mm_set1_pd(s), va = _mm_set1_pd(a);
+        __m128d lo, hi;
         if constexpr (k31) x = _mm_srli_epi32(x, 1);
-        const __m128d bias = _mm_castsi128_pd(_mm_unpacklo_epi32(_mm_setzero_si128(), exponent));
-        const __m128d va = _mm_set1_pd(a);
-        const __m128d lo =
-            _mm_add_pd(_mm_sub_pd(_mm_castsi128_pd(_mm_unpacklo_epi32(x, exponent)), bias), va);
-        __m128d hi = lo;
-        if constexpr (L > 2)
-            hi =
-                _mm_add_pd(_mm_sub_pd(_mm_castsi128_pd(_mm_unpackhi_epi32(x, exponent)), bias), va);
-        StoreLanes<L>(r + i, lo, hi);
+        if constexpr (kByExponent) {
+            const __m128i e = _mm_set1_epi32(static_cast<int32_t>(high));
+            const __m128d bias = _mm_castsi128_pd(_mm_unpacklo_epi32(_mm_setzero_si128(), e));
+            lo = _mm_sub_pd(_mm_castsi128_pd(_mm_unpacklo_epi32(x, e)), bias);
+            hi = _mm_sub_pd(_mm_castsi128_pd(_mm_unpackhi_epi32(x, e)), bias);
+        } else if constexpr (k31) { // below 2^31: the signed conversion is exact
+            lo = _mm_cvtepi32_pd(x);
+            hi = _mm_cvtepi32_pd(_mm_shuffle_epi32(x, 0xEE));
+        } else {
+            lo = LowWordsToDouble(x);
+            hi = HighWordsToDouble(x);
+        }
+        if constexpr (!kByExponent) {
+            lo = _mm_mul_pd(lo, vs);
+            hi = _mm_mul_pd(hi, vs);
+        }
+        StoreLanes<L>(r + i, _mm_add_pd(lo, va), _mm_add_pd(hi, va));
     }
 };
+using Double31 = Double<true, false>;
+using Double32 = Double<false, false>;
+template <bool k31>
+using DoubleByExponent = Double<k31, true>;
 
 // The double forms, whose whole points may go by RunByExponent.
 template <typename Form>
 struct IsDoubleForm : std::false_type {};
-template <bool k31>
-struct IsDoubleForm<Double<k31>> : std::true_type {};
-template <bool k31>
-struct IsDoubleForm<DoubleByExponent<k31>> : std::true_type {};
+template <bool k31, bool kByExponent>
+struct IsDoubleForm<Double<k31, kByExponent>> : std::true_type {};
 
 struct Float31 {
     float* r;

@@ -266,9 +266,8 @@ int32_t QrngGenerateDoubles(const QrngView& v, int32_t n, double* r, double a, d
     const double s = (b - a) * (v.chunk ? kTwoM32 : kTwoM31);
     uint32_t high;
     if (ExponentScale(s, &high)) {
-        const __m128i e = _mm_set1_epi32(static_cast<int32_t>(high));
-        if (v.chunk) return Generate(v, n, DoubleByExponent<false>{r, s, a, high, e});
-        return Generate(v, n, DoubleByExponent<true>{r, s, a, high, e});
+        if (v.chunk) return Generate(v, n, DoubleByExponent<false>{r, s, a, high});
+        return Generate(v, n, DoubleByExponent<true>{r, s, a, high});
     }
     // Otherwise runs keep coordinates under the exponent of 2^52, whose subtraction
     // gives +0 for a zero word only when rounding is to nearest.
