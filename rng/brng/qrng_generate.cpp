@@ -1,9 +1,10 @@
 // Generation of the quasi-random generators in Gray-code order: the single
 // coordinate of a leapfrogged stream, the rest of a partial point, whole points by
-// dimension-specialised kernels (1 to 15 coordinates held in registers) or by
-// blocks of 32 coordinates, which the chunk path spreads over threads, and the
-// start of the next point. The state path delivers 31-bit reals, the chunk path
-// 32-bit ones.
+// dimension-specialised kernels (1 to 15 coordinates held in registers), by the
+// wide point formed in place, or by blocks of 32 coordinates, which the chunk path
+// spreads over threads, and the start of the next point. Runs of doubles, rounding
+// being to nearest, go by qrng_exponent.cpp instead. The state path delivers
+// 31-bit reals, the chunk path 32-bit ones.
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -172,8 +173,9 @@ template <typename Form>
 void RunPoints(const QrngView& v, uint32_t q, int64_t off, const Form& f) {
     QrngHead* h = v.head;
     const int32_t d = h->dimension;
+    const bool threads = UseThreads(v);
     if constexpr (IsDoubleForm<Form>::value) {
-        if (f.high != 0 && q >= kExponentMinPoints && !UseThreads(v)) {
+        if (f.high != 0 && q >= kExponentMinPoints && !threads) {
             h->counter =
                 RunByExponent(v, q, f.r + off, f.high, f.s, f.a, Form::kShift, Form::kMultiply);
             return;
@@ -184,7 +186,6 @@ void RunPoints(const QrngView& v, uint32_t q, int64_t off, const Form& f) {
         h->counter = table[d - 1](q, off, h->counter, v.point, v.dirs, v.rowStride, f);
         return;
     }
-    const bool threads = UseThreads(v);
     if (!threads && v.pointStride == 1 && v.colStride == 1) {
         h->counter = RunWide(v, q, off, f);
         return;
