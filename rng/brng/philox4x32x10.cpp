@@ -3,15 +3,19 @@
 // mixes the halves of the products with c1, c3 and the round key; the key rises by
 // two Weyl constants between rounds.
 //
-// Whole blocks are made eight at a time, two to a vector: each 64-bit lane holds one
+// Whole blocks are made six at a time, two to a vector: each 64-bit lane holds one
 // block's word in its low half, so one unsigned 32 x 32 multiplication gives both
 // halves of a product in place, and the high halves the lanes carry along are never
 // read by the next multiplication. A run stops short of a carry out of the low
-// counter word, which one block made word by word then takes.
+// counter word, which one block made word by word then takes. Where the processor
+// has 256-bit integer registers, long requests run four blocks a register
+// (philox_avx2.cpp) with the same words.
 #include <emmintrin.h>
 
 #include "frame/export.h"
 #include "rng/brng/counter_core.h"
+#include "rng/brng/philox.h"
+#include "rng/core/cpu_hooks.h"
 #include "rng/core/stream.h"
 
 namespace brenn::rng {
@@ -27,7 +31,7 @@ static_assert(sizeof(StreamHeader) + sizeof(PhiloxState) <= 64, "record size of 
 constexpr uint32_t kMul0 = 0xD2511F53u, kMul1 = 0xCD9E8D57u;
 constexpr uint32_t kBump0 = 0x9E3779B9u, kBump1 = 0xBB67AE85u;
 constexpr int kRounds = 10;
-constexpr int kPairs = 4; // two blocks a vector, eight blocks a run
+constexpr int kRun = 6; // blocks a run: three pairs of vectors keep the registers
 
 void OneBlock(uint32_t k0, uint32_t k1, const uint64_t count[2], uint32_t* out) {
     uint32_t c0 = static_cast<uint32_t>(count[0]), c1 = static_cast<uint32_t>(count[0] >> 32);
@@ -47,42 +51,64 @@ void OneBlock(uint32_t k0, uint32_t k1, const uint64_t count[2], uint32_t* out) 
     out[3] = c3;
 }
 
+// Two blocks, one in the low half of each 64-bit lane of four vectors.
+struct Pair {
+    __m128i c0, c1, c2, c3;
+
+    __attribute__((always_inline)) void Round(const __m128i key[2]) {
+        const __m128i m0 = _mm_set1_epi64x(kMul0), m1 = _mm_set1_epi64x(kMul1);
+        __m128i p0 = _mm_mul_epu32(c0, m0), p1 = _mm_mul_epu32(c2, m1);
+        // The high halves moved down by a shuffle, which leaves the shift and
+        // multiply units to the products; the key goes in beside the product, off
+        // its path.
+        c0 = _mm_xor_si128(_mm_shuffle_epi32(p1, 0xF5), _mm_xor_si128(c1, key[0]));
+        c2 = _mm_xor_si128(_mm_shuffle_epi32(p0, 0xF5), _mm_xor_si128(c3, key[1]));
+        c1 = p1;
+        c3 = p0;
+    }
+
+    // The low halves of the lanes, block by block.
+    void Store(uint32_t* out) const {
+        __m128i a = _mm_unpacklo_epi32(c0, c1), b = _mm_unpacklo_epi32(c2, c3);
+        __m128i c = _mm_unpackhi_epi32(c0, c1), d = _mm_unpackhi_epi32(c2, c3);
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(out), _mm_unpacklo_epi64(a, b));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(out + 4), _mm_unpacklo_epi64(c, d));
+    }
+};
+
 struct PhiloxMaker {
     uint32_t k0, k1;
 
-    // Eight blocks for counters whose low words base .. base + 7 do not wrap.
-    static void Run8(const __m128i keys[kRounds][2], uint64_t lowWord, uint64_t highWord,
-                     uint32_t* out) {
-        const __m128i m0 = _mm_set1_epi64x(kMul0), m1 = _mm_set1_epi64x(kMul1);
-        __m128i c0[kPairs], c1[kPairs], c2[kPairs], c3[kPairs];
+    // kRun blocks for counters whose low words do not wrap in the run. The pairs are
+    // named one by one: kept in arrays, they would live in memory.
+    static void Run(const __m128i keys[kRounds][2], uint64_t lowWord, uint64_t highWord,
+                    uint32_t* out) {
         const uint32_t low = static_cast<uint32_t>(lowWord);
-        for (int j = 0; j < kPairs; ++j) {
-            c0[j] = _mm_set_epi64x(low + 2 * j + 1, low + 2 * j);
-            c1[j] = _mm_set1_epi64x(static_cast<int64_t>(lowWord >> 32));
-            c2[j] = _mm_set1_epi64x(static_cast<int64_t>(highWord & 0xFFFFFFFFu));
-            c3[j] = _mm_set1_epi64x(static_cast<int64_t>(highWord >> 32));
-        }
+        const __m128i c1 = _mm_set1_epi64x(static_cast<int64_t>(lowWord >> 32));
+        const __m128i c2 = _mm_set1_epi64x(static_cast<int64_t>(highWord & 0xFFFFFFFFu));
+        const __m128i c3 = _mm_set1_epi64x(static_cast<int64_t>(highWord >> 32));
+        Pair a{_mm_set_epi64x(low + 1, low), c1, c2, c3};
+        Pair b{_mm_set_epi64x(low + 3, low + 2), c1, c2, c3};
+        Pair c{_mm_set_epi64x(low + 5, low + 4), c1, c2, c3};
         for (int round = 0; round < kRounds; ++round) {
-            for (int j = 0; j < kPairs; ++j) {
-                __m128i p0 = _mm_mul_epu32(c0[j], m0), p1 = _mm_mul_epu32(c2[j], m1);
-                c0[j] = _mm_xor_si128(_mm_xor_si128(_mm_srli_epi64(p1, 32), c1[j]), keys[round][0]);
-                c2[j] = _mm_xor_si128(_mm_xor_si128(_mm_srli_epi64(p0, 32), c3[j]), keys[round][1]);
-                c1[j] = p1;
-                c3[j] = p0;
-            }
+            a.Round(keys[round]);
+            b.Round(keys[round]);
+            c.Round(keys[round]);
         }
-        // The low halves of the lanes, block by block.
-        for (int j = 0; j < kPairs; ++j) {
-            __m128i a = _mm_unpacklo_epi32(c0[j], c1[j]), b = _mm_unpacklo_epi32(c2[j], c3[j]);
-            __m128i c = _mm_unpackhi_epi32(c0[j], c1[j]), d = _mm_unpackhi_epi32(c2[j], c3[j]);
-            _mm_storeu_si128(reinterpret_cast<__m128i*>(out + 8 * j), _mm_unpacklo_epi64(a, b));
-            _mm_storeu_si128(reinterpret_cast<__m128i*>(out + 8 * j + 4), _mm_unpacklo_epi64(c, d));
-        }
+        a.Store(out);
+        b.Store(out + 8);
+        c.Store(out + 16);
     }
 
     void Blocks(uint64_t count[2], int64_t nblocks, uint32_t* out) {
+        if (nblocks >= 12 && PhiloxWideRegisters() &&
+            !(testing::hiddenFeatures & testing::kHideAvx2)) {
+            int64_t made = PhiloxRunsAvx2(k0, k1, count, nblocks, out);
+            out += 4 * made;
+            nblocks -= made;
+        }
         __m128i keys[kRounds][2];
-        if (nblocks >= 8) {
+        if (nblocks >= kRun) {
             uint32_t a = k0, b = k1;
             for (int round = 0; round < kRounds; ++round, a += kBump0, b += kBump1) {
                 keys[round][0] = _mm_set1_epi64x(a);
@@ -90,11 +116,11 @@ struct PhiloxMaker {
             }
         }
         while (nblocks > 0) {
-            if (nblocks >= 8 && static_cast<uint32_t>(count[0]) <= 0xFFFFFFFFu - 7) {
-                Run8(keys, count[0], count[1], out);
-                AddToCount(count, 8);
-                out += 32;
-                nblocks -= 8;
+            if (nblocks >= kRun && static_cast<uint32_t>(count[0]) <= 0xFFFFFFFFu - (kRun - 1)) {
+                Run(keys, count[0], count[1], out);
+                AddToCount(count, kRun);
+                out += 4 * kRun;
+                nblocks -= kRun;
             } else {
                 OneBlock(k0, k1, count, out);
                 AddToCount(count, 1);

@@ -9,10 +9,10 @@
 
 namespace brenn::rng::testing {
 
-enum : uint32_t { kHideAes = 1, kHideRdrand = 2, kHideVaes = 4 };
+enum : uint32_t { kHideAes = 1, kHideRdrand = 2, kHideVaes = 4, kHideAvx2 = 8 };
 
 // Features that __qesCPUisAES, __qesCPUisRDRAND and __qesCPUisVAES report absent
-// whatever the processor says.
+// whatever the processor says; kHideAvx2 keeps PHILOX4X32X10 on 128-bit registers.
 extern uint32_t hiddenFeatures;
 
 // A stand-in for one 32-bit RDRAND: 1 with a word stored, 0 for a failure. Null

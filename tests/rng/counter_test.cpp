@@ -317,6 +317,28 @@ TEST(RngCounter, VectorAesAndAesGiveTheSameWords) {
     }
 }
 
+// PHILOX4X32X10's 256-bit runs and its 128-bit ones give the same words, near the
+// wrap of the low counter word too.
+TEST(RngCounter, PhiloxRegisterWidthsGiveTheSameWords) {
+    for (uint64_t low : {0ull, 0xFFFFFFFFull - 50, ~0ull - 30}) {
+        Words32 seed = SeedAt(kPhilox, low, 9);
+        for (int32_t n : {47, 48, 49, 100, 1030, 4099}) {
+            Words32 got[2];
+            for (int hide = 0; hide < 2; ++hide) {
+                hooks::hiddenFeatures = hide ? hooks::kHideAvx2 : 0;
+                void* s = NewKeyed(QES_BRNG_PHILOX4X32X10, seed);
+                Take(kPhilox.brng, s, n % 3);
+                got[hide] = Take(kPhilox.brng, s, n);
+                Words32 after = Take(kPhilox.brng, s, 5);
+                got[hide].insert(got[hide].end(), after.begin(), after.end());
+                __qesDeleteStream(&s);
+            }
+            hooks::hiddenFeatures = 0;
+            ASSERT_EQ(got[0], got[1]) << "low " << low << " n " << n;
+        }
+    }
+}
+
 // Without AES every ARS5 entry but seeding refuses and leaves r and the stream alone,
 // and an image loads as nothing.
 TEST(RngCounter, WithoutAesArs5RefusesEverythingButSeeding) {
