@@ -4,8 +4,10 @@
 // the Mersenne Twister family: MT2203 members as parallel streams, an MT19937
 // skip-ahead, a stream saved to memory and loaded again, and the standard library's
 // normal distribution drawing from it; an MRG32K3A sequence split by skip-ahead and
-// two members of the Wichmann-Hill set; last a 5-dimensional integral estimated by
-// Sobol points and by pseudo-random ones.
+// two members of the Wichmann-Hill set; then a 5-dimensional integral estimated by
+// Sobol points and by pseudo-random ones; last a PHILOX4X32X10 sequence split by
+// skip-ahead whose first part feeds an abstract stream (made through the kernel
+// library's entries: the front-end has no abstract streams).
 #include <cstdio>
 #include <random>
 #include <vector>
@@ -13,6 +15,23 @@
 #include "brenn/brenn.hpp"
 
 using brenn::rng::stream;
+
+namespace {
+
+// The stream whose uniforms the abstract stream's callback copies in: the free run of
+// the circular buffer from the start index, in two pieces when it wraps.
+stream* feeder = nullptr;
+
+int32_t FeedFromStream(void*, int32_t* size, double* buffer, int32_t*, int32_t* free,
+                       int32_t* start) {
+    int32_t first = *free < *size - *start ? *free : *size - *start;
+    if (!feeder->fill(std::span<double>(buffer + *start, static_cast<size_t>(first))).ok() ||
+        !feeder->fill(std::span<double>(buffer, static_cast<size_t>(*free - first))).ok())
+        return 0;
+    return *free;
+}
+
+} // namespace
 
 void TourRandom() {
     const uint32_t seed = 2024;
@@ -119,4 +138,27 @@ void TourRandom() {
     std::printf("random: integral of a product over [0, 1]^5 (exactly 1), 4096 points: "
                 "Sobol %.6f, MCG31M1 %.6f\n",
                 estimate[0], estimate[1]);
+
+    // One PHILOX4X32X10 sequence split by skip-ahead into two parts of 2^40 words,
+    // and the first part feeding an abstract stream: the callback copies the part's
+    // uniforms into the caller's buffer, and the uniform generator draws from it.
+    const uint32_t key[6] = {20241126, 7, 0, 0, 0, 0};
+    stream parts[2] = {stream::make(QES_BRNG_PHILOX4X32X10, key).value,
+                       stream::make(QES_BRNG_PHILOX4X32X10, key).value};
+    parts[1].skip_ahead(uint64_t{1} << 40);
+    double starts[2] = {0, 0};
+    parts[0].fill(std::span<double>(&starts[0], 1));
+    parts[1].fill(std::span<double>(&starts[1], 1));
+    std::printf("random: PHILOX4X32X10 words 0 and 2^40 of one sequence: %.9f %.9f\n", starts[0],
+                starts[1]);
+    feeder = &parts[0];
+    double ring[8];
+    void* fed = nullptr;
+    double fromFed[3] = {0, 0, 0};
+    if (__qesdNewAbstractStream(&fed, 8, ring, 0.0, 1.0, FeedFromStream) == 0) {
+        _qesdRngUniform(0, fed, 3, fromFed, -1.0, 1.0);
+        __qesDeleteStream(&fed);
+    }
+    std::printf("random: an abstract stream fed by the first part, on [-1, 1): %.9f %.9f %.9f\n",
+                fromFed[0], fromFed[1], fromFed[2]);
 }
