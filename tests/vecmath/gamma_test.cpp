@@ -1,0 +1,310 @@
+// The gamma rows LGamma and TGamma, single and double, every slot: the special values
+// with their statuses (poles 2, domain 1, overflow 3, underflow 4) and quieted NaNs, the
+// values on both sides of every place the routines change path, the overflow limits,
+// the caller's x87 control word and MXCSR after every call, the index a report carries,
+// and every length and alignment against one element at a time.
+#include <cfloat>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <vector>
+#include <xmmintrin.h>
+
+#include "tests/vecmath/kernels.h"
+
+namespace brenn::test {
+namespace {
+
+constexpr int kSlots[] = {0, 1, 2};
+
+template <class T>
+Unary<T> K(const char* row, int slot) {
+    return As<Unary<T>>(Slot(row, slot));
+}
+
+template <class T>
+T Call(const char* row, int slot, T x, int* status = nullptr) {
+    brenn_zar_kernel_SetErrStatus(0);
+    T y;
+    K<T>(row, slot)(1, &x, &y);
+    if (status) *status = brenn_zar_kernel_GetErrStatus();
+    return y;
+}
+
+struct ModeScope {
+    uint32_t saved;
+    explicit ModeScope(uint32_t errorMode) : saved(brenn_zar_kernel_SetMode(errorMode)) {}
+    ~ModeScope() { brenn_zar_kernel_SetMode(saved); }
+};
+
+template <class T>
+const char* RowName(bool lgamma) {
+    if (sizeof(T) == 4) return lgamma ? "sLGamma" : "sTGamma";
+    return lgamma ? "dLGamma" : "dTGamma";
+}
+
+template <class T>
+T SignallingNaN() {
+    return std::numeric_limits<T>::signaling_NaN();
+}
+
+// One case: the input, the result (NaN for any NaN) and the status.
+template <class T>
+struct Case {
+    T x, y;
+    int status;
+};
+
+template <class T>
+void ExpectCases(const char* row, const std::vector<Case<T>>& cases) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    for (int slot : kSlots)
+        for (const Case<T>& c : cases) {
+            int st;
+            T y = Call(row, slot, c.x, &st);
+            EXPECT_TRUE(SameValue(y, c.y))
+                << row << " slot " << slot << " x " << c.x << " got " << y;
+            EXPECT_EQ(st, c.status) << row << " x " << c.x;
+            if (std::isnan(y)) {
+                EXPECT_NE(Bits(y) & (sizeof(T) == 4 ? 0x400000u : 0x8000000000000ull), 0u)
+                    << row << " NaN comes back quiet";
+            }
+        }
+}
+
+template <class T>
+void ExpectSpecialValues() {
+    const T inf = std::numeric_limits<T>::infinity(), nan = std::numeric_limits<T>::quiet_NaN();
+    const T big = std::numeric_limits<T>::max(), tiny = std::numeric_limits<T>::denorm_min();
+    const bool single = sizeof(T) == 4;
+    ExpectCases<T>(RowName<T>(true), {
+                                         {T(1), T(0), 0},
+                                         {T(2), T(0), 0},
+                                         {T(0), inf, 2},
+                                         {T(-0.0), inf, 2},
+                                         {T(-1), inf, 2},
+                                         {T(-2), inf, 2},
+                                         {T(-1e30), inf, 2}, // every such float is an integer
+                                         {inf, inf, 0},
+                                         {-inf, inf, 0},
+                                         {nan, nan, 0},
+                                         {SignallingNaN<T>(), nan, 0},
+                                         {big, inf, 3},
+                                         {single ? T(4.1e36) : T(2.6e305), inf, 3},
+                                     });
+    ExpectCases<T>(RowName<T>(false), {
+                                          {T(1), T(1), 0},
+                                          {T(2), T(1), 0},
+                                          {T(3), T(2), 0},
+                                          {T(5), T(24), 0},
+                                          {T(0), inf, 2},
+                                          {T(-0.0), -inf, 2},
+                                          {T(-1), nan, 1},
+                                          {T(-2), nan, 1},
+                                          {-big, nan, 1},
+                                          {-inf, nan, 1},
+                                          {inf, inf, 0},
+                                          {nan, nan, 0},
+                                          {SignallingNaN<T>(), nan, 0},
+                                          {single ? T(35.0402f) : T(171.7), inf, 3},
+                                          {big, inf, 3},
+                                          {tiny, inf, 3},
+                                          {-tiny, -inf, 3},
+                                          {single ? T(-51.5) : T(-185.5), T(0), 4},
+                                          {single ? T(-50.5) : T(-186.5), T(-0.0), 4},
+                                          {single ? T(-60.25) : T(-1000.25), T(-0.0), 4},
+                                      });
+}
+
+TEST(Gamma, SpecialValuesAndStatuses) {
+    ExpectSpecialValues<float>();
+    ExpectSpecialValues<double>();
+}
+
+// The long double library's values as references, within the HA bound with room for
+// the reference's own error (it is extended precision, far below the double ulp).
+template <class T>
+void ExpectNear(bool lgamma, T x, double ulps) {
+    long double ref = lgamma ? lgammal(x) : tgammal(x);
+    for (int slot : kSlots) {
+        T y = Call(RowName<T>(lgamma), slot, x);
+        EXPECT_LE(UlpError(y, ref), ulps) << RowName<T>(lgamma) << " x " << x << " got " << y;
+    }
+}
+
+// Both sides of every place the routines change path: the pieces of [1, 2] at 1.25,
+// 1.5, 1.75, the reductions at 1, 2, 3, the Stirling points (8 in single, 12 in double),
+// near the overflow limits, tiny arguments and reflection.
+TEST(Gamma, ValuesWhereThePathsMeet) {
+    const double points[] = {
+        0x1p-60,   1e-9,    0.1,  0.5,     0.75, 0.9999999, 1.0000001, 1.2499,    1.25,   1.251,
+        1.4616321, 1.49999, 1.5,  1.74999, 1.75, 1.9,       1.999,     2.0000001, 2.5,    2.99999,
+        3.0,       3.0001,  5.5,  7.999,   8.0,  8.001,     11.999,    12.0,      12.001, 30.5,
+        -0.75,     -0.5,    -1.5, -2.5,    -3.3, -7.9,      -11.5,     -12.5,     -30.2,  -0x1p-40};
+    for (double p : points) {
+        ExpectNear<double>(true, p, 1.0);
+        ExpectNear<double>(false, p, 1.0);
+        ExpectNear<float>(true, float(p), 1.0);
+        ExpectNear<float>(false, float(p), 1.0);
+    }
+    for (double p : {100.1, 150.5, 170.9, 171.6, 171.62437695630272})
+        ExpectNear<double>(false, p, 1.0);
+    for (float p : {20.5f, 34.9f, 35.04f, 35.040096f})
+        ExpectNear<float>(false, p, 1.0);
+    for (double p : {-170.5, -171.5, -180.5, -184.9})
+        ExpectNear<double>(false, p, 1.0);
+    for (float p : {-30.5f, -33.5f, -34.9f})
+        ExpectNear<float>(false, p, 1.0);
+    for (double p : {1e10, 1e100, 1e300, 2.5e305})
+        ExpectNear<double>(true, p, 1.0);
+    for (float p : {1e10f, 1e30f, 4e36f})
+        ExpectNear<float>(true, p, 1.0);
+}
+
+// The last argument with a finite TGamma and the first past it, in both precisions
+// (171.62437695630274 and 35.0401001f are already past).
+TEST(Gamma, TGammaOverflowLimit) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    for (int slot : kSlots) {
+        int st;
+        EXPECT_TRUE(std::isfinite(Call("dTGamma", slot, 171.62437695630272, &st)));
+        EXPECT_EQ(st, 0);
+        EXPECT_EQ(Call("dTGamma", slot, 171.62437695630274, &st), INFINITY);
+        EXPECT_EQ(st, 3);
+        EXPECT_TRUE(std::isfinite(Call("sTGamma", slot, 35.040096f, &st)));
+        EXPECT_EQ(st, 0);
+        EXPECT_EQ(Call("sTGamma", slot, 35.0401001f, &st), INFINITY);
+        EXPECT_EQ(st, 3);
+    }
+}
+
+// TGamma between the negative poles keeps the sign of its interval and its size.
+TEST(Gamma, TGammaSignsBetweenNegativePoles) {
+    for (int n = 1; n < 30; ++n)
+        for (double f : {0x1p-30, 0.25, 0.5, 0.75, 1 - 0x1p-30}) {
+            double x = -n + f; // in (-n, -n + 1): sign (-1)^n
+            double y = Call("dTGamma", 1, x);
+            EXPECT_EQ(std::signbit(y), n % 2 == 1) << x;
+            EXPECT_LE(UlpError(y, tgammal(x)), 1.0) << x;
+            float xs = float(x);
+            if (xs != -n && xs != -n + 1)
+                EXPECT_EQ(std::signbit(Call("sTGamma", 1, xs)), n % 2 == 1);
+        }
+}
+
+// The caller's x87 control word (a 53-bit precision with rounding up, say) and MXCSR
+// (its rounding and flush controls) come back unchanged after every row and slot, and
+// the results do not depend on the caller's x87 precision.
+uint16_t ReadCw() {
+    uint16_t cw;
+    __asm__ volatile("fnstcw %0" : "=m"(cw));
+    return cw;
+}
+void LoadCw(uint16_t cw) {
+    __asm__ volatile("fldcw %0" : : "m"(cw));
+}
+
+template <class T>
+void ExpectControlsKept(const char* row) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    const T in[] = {T(0.3), T(1.5), T(-2.5), T(0), T(-3), T(7.25), T(20.5), T(1e-3), T(INFINITY)};
+    constexpr int n = sizeof(in) / sizeof(in[0]);
+    T expect[n], y[n];
+    for (int slot : kSlots) {
+        K<T>(row, slot)(n, in, expect);
+        for (uint16_t cw : {uint16_t(0x27F), uint16_t(0xA7F), uint16_t(0x07F), uint16_t(0x37F)})
+            for (unsigned csr : {0x1F80u, 0x1F80u | 0x6000u, 0x1F80u | 0x8040u}) {
+                const uint16_t saved = ReadCw();
+                LoadCw(cw);
+                unsigned after;
+                {
+                    CsrScope scope(csr);
+                    K<T>(row, slot)(n, in, y);
+                    after = _mm_getcsr();
+                }
+                uint16_t cwAfter = ReadCw();
+                LoadCw(saved);
+                EXPECT_EQ(cwAfter, cw) << row << " slot " << slot;
+                EXPECT_EQ(after & ~0x3Fu, csr) << row << " slot " << slot;
+                if (csr == 0x1F80u)
+                    for (int i = 0; i < n; ++i)
+                        EXPECT_TRUE(SameValue(y[i], expect[i]))
+                            << row << " cw " << cw << " x " << in[i];
+            }
+    }
+}
+
+TEST(Gamma, CallersControlWordAndCsrComeBack) {
+    for (bool lg : {true, false}) {
+        ExpectControlsKept<float>(RowName<float>(lg));
+        ExpectControlsKept<double>(RowName<double>(lg));
+    }
+}
+
+// Each pole is reported once, with its own index, and the callback's result is kept.
+int gCalls, gIndex, gCode;
+int Record(ErrorRecord* r) {
+    ++gCalls;
+    gIndex = r->index;
+    gCode = r->code;
+    r->r1 = 7.0;
+    return 0;
+}
+
+TEST(Gamma, ReportsCarryTheElement) {
+    ModeScope mode(BRENN_MODE_ERRMODE_CALLBACK);
+    ErrorCallback saved = brenn_zar_kernel_SetErrorCallBack(Record);
+    std::vector<double> x(13, 2.5), y(13);
+    brenn_zar_kernel_SetInterfInputVectorPointer(x.data());
+    for (const char* row : {"dLGamma", "dTGamma"})
+        for (int at : {0, 5, 12})
+            for (int slot : kSlots) {
+                std::fill(x.begin(), x.end(), 2.5);
+                x[at] = -4.0;
+                gCalls = 0;
+                K<double>(row, slot)(13, x.data(), y.data());
+                EXPECT_EQ(gCalls, 1) << row;
+                EXPECT_EQ(gIndex, at);
+                EXPECT_EQ(gCode, row[1] == 'L' ? 2 : 1);
+                EXPECT_EQ(y[at], 7.0);
+            }
+    brenn_zar_kernel_SetErrorCallBack(saved);
+    brenn_zar_kernel_SetInterfInputVectorPointer(nullptr);
+}
+
+// Every length and alignment, in place too: each element as the row gives it alone.
+template <class T>
+void ExpectLanesAgree(const char* row) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    const T pool[] = {T(0.1), T(-2.5),  T(0.02),     T(-9.7), T(11),   T(-0.5), T(3.75), T(30.9),
+                      T(-95), T(1e-30), T(INFINITY), T(NAN),  T(-0.0), T(1.0),  T(2.0),  T(-1.0)};
+    constexpr int n = sizeof(pool) / sizeof(pool[0]);
+    for (int slot : kSlots) {
+        T one[n];
+        for (int i = 0; i < n; ++i)
+            one[i] = Call(row, slot, pool[i]);
+        for (int len = 1; len <= 21; ++len)
+            for (int off = 0; off < 4; ++off) {
+                std::vector<T> in(len + 4), out(len + 4);
+                for (int i = 0; i < len; ++i)
+                    in[off + i] = pool[(i * 7 + len) % n];
+                K<T>(row, slot)(len, in.data() + off, out.data() + off);
+                for (int i = 0; i < len; ++i)
+                    ASSERT_TRUE(SameValue(out[off + i], one[(i * 7 + len) % n]))
+                        << row << " " << len;
+                K<T>(row, slot)(len, in.data() + off, in.data() + off);
+                for (int i = 0; i < len; ++i)
+                    ASSERT_TRUE(SameValue(in[off + i], one[(i * 7 + len) % n]));
+            }
+    }
+}
+
+TEST(Gamma, EveryLengthAndAlignmentAgreesWithOneElement) {
+    for (bool lg : {true, false}) {
+        ExpectLanesAgree<float>(RowName<float>(lg));
+        ExpectLanesAgree<double>(RowName<double>(lg));
+    }
+}
+
+} // namespace
+} // namespace brenn::test

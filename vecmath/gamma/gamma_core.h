@@ -1,0 +1,147 @@
+/* The gamma function's shared mathematics for TGamma and LGamma, written once over a
+ * working type W wider than the result: long double (the x87 extended format, 64-bit
+ * significand) for the double rows, double for the single rows.
+ *
+ *   H(z) = (Gamma(1 + z) - 1) / (z (z - 1)) on [0, 1], four polynomials split at 1/4,
+ *   1/2 and 3/4 (x = 1.25, 1.5, 1.75). With it Gamma(x) - 1 has a relative error of
+ *   the working precision on (0, 3], zeros at 1 and 2 included, which LGamma needs:
+ *     x in (0, 1):  Gamma(x) - 1 = (1 - x)(1 - x H(x)) / x
+ *     x in [1, 2]:  Gamma(x) - 1 = z (z - 1) H(z),            z = x - 1
+ *     x in (2, 3]:  Gamma(x) - 1 = z (1 + (z^2 - 1) H(z)),    z = x - 2
+ *   From 2 up to the Stirling point the recurrence Gamma(x) = (x - 1) Gamma(x - 1)
+ *   carries x down to [1, 2] (each x - k is exact in W).
+ *   From the Stirling point on: ln Gamma(x) = (x - 1/2)(ln x - 1) + (ln sqrt(2 pi) - 1/2)
+ *   + S(x), S(x) = sum B_2k / (2k (2k - 1) x^(2k - 1)), the asymptotic correction series
+ *   with as many terms as the working precision needs at that point.
+ *   Negative x by reflection: Gamma(x) = pi / (sin(pi x) Gamma(1 - x)), the sine taken
+ *   on x - rint(x), which is exact. */
+#ifndef BRENN_VECMATH_GAMMA_GAMMA_CORE_H
+#define BRENN_VECMATH_GAMMA_GAMMA_CORE_H
+
+#include <math.h>
+
+#include "vecmath/gamma/gamma_data.h"
+
+namespace brenn::vm::gamma {
+
+// The working precision's elementary functions: the x87 extended ones for long double.
+inline long double Log(long double x) {
+    return logl(x);
+}
+inline double Log(double x) {
+    return log(x);
+}
+inline long double Log1p(long double x) {
+    return log1pl(x);
+}
+inline double Log1p(double x) {
+    return log1p(x);
+}
+inline long double Exp(long double x) {
+    return expl(x);
+}
+inline double Exp(double x) {
+    return exp(x);
+}
+inline long double Sin(long double x) {
+    return sinl(x);
+}
+inline double Sin(double x) {
+    return sin(x);
+}
+
+template <class W, size_t N>
+inline W Horner(W t, const W (&c)[N]) {
+    W p = c[N - 1];
+    for (size_t k = N - 1; k-- > 0;)
+        p = p * t + c[k];
+    return p;
+}
+
+// H(z) for z in [0, 1]: the piece's polynomial in z less the piece's centre.
+template <class W>
+inline W H(W z) {
+    using D = GammaData<W>;
+    int i = static_cast<int>(z * 4);
+    i = i > 3 ? 3 : i;
+    W t = z - W(2 * i + 1) / 8;
+    return Horner(t, D::kH[i]);
+}
+
+// Gamma(x) - 1 for x in (0, 3], to the working precision relative to itself.
+template <class W>
+inline W GammaMinusOne(W x) {
+    if (x < 1) return (1 - x) * (1 - x * H(x)) / x;
+    if (x <= 2) {
+        W z = x - 1;
+        return z * (z - 1) * H(z);
+    }
+    W z = x - 2;
+    return z * (1 + (z * z - 1) * H(z));
+}
+
+// Gamma(x) for 0 < x below the Stirling point.
+template <class W>
+inline W GammaBelowStirling(W x) {
+    if (x < 1) return (1 + x * (x - 1) * H(x)) / x;
+    W p = 1;
+    while (x > 2) {
+        x -= 1;
+        p *= x;
+    }
+    W z = x - 1;
+    return p * (1 + z * (z - 1) * H(z));
+}
+
+// S(x), the correction series, for x at or above the Stirling point.
+template <class W>
+inline W StirlingSeries(W x) {
+    W r = 1 / x;
+    return r * Horner(r * r, GammaData<W>::kStirling);
+}
+
+// ln Gamma(x) for x at or above the Stirling point (any size: from 2^64 on S is lost in
+// the rounding and the main term alone remains).
+template <class W>
+inline W LnGammaStirling(W x) {
+    return (x - W(0.5)) * (Log(x) - 1) + (GammaData<W>::kHalfLn2PiLessHalf + StirlingSeries(x));
+}
+
+// Gamma(x) for x from the Stirling point up to the overflow limit, through
+// exp(ln Gamma(x)). The exponent reaches 709 (88 in single), so its rounding errors are
+// kept small: with x = 2^e m, m in [1, 2), ln x - 1 = (e ln2hi - 1) + (ln m + e ln2lo),
+// where ln2hi has 8 bits, so that (x - 1/2)(e ln2hi - 1) is exact in W (x has at most
+// 53 bits below 2^8, e at most 8) and only the small parts round.
+template <class W>
+inline W GammaStirling(W x) {
+    using D = GammaData<W>;
+    int e;
+    W m = frexp(x, &e) * 2;
+    e -= 1;
+    W h = x - W(0.5);
+    W big = h * (W(e) * D::kLn2Hi - 1);
+    W small = h * (Log(m) + W(e) * D::kLn2Lo);
+    return Exp(big + (small + (D::kHalfLn2PiLessHalf + StirlingSeries(x))));
+}
+
+// Gamma(x) for x > 0 up to the overflow limit.
+template <class W>
+inline W GammaPositive(W x) {
+    return x < GammaData<W>::kStirlingFrom ? GammaBelowStirling(x) : GammaStirling(x);
+}
+
+// |sin(pi x)| and its sign for x not an integer, |x| < 2^52: the sine of pi (x - rint(x)),
+// whose argument is exact; the sign flips with the parity of rint(x).
+template <class T, class W>
+inline W SinPi(T x, bool& negative) {
+    T n = __builtin_rint(x);
+    T r = x - n;
+    long long k = static_cast<long long>(n);
+    W s = Sin(GammaData<W>::kPi * W(r));
+    negative = (s < 0) != ((k & 1) != 0);
+    return s < 0 ? -s : s;
+}
+
+} // namespace brenn::vm::gamma
+
+#endif

@@ -1,0 +1,93 @@
+/* TGamma, single and double: one kernel for every level, element by element through
+ * the scalar routine, which works in a wider format (gamma_core.h): x87 extended for
+ * double, double for single.
+ *
+ *   x > 0: Gamma(x) from [1, 2] by the recurrence below the Stirling point, by
+ *   exp(ln Gamma) above it; above 171.62437695630274 (35.0401001 in single) +inf,
+ *   status 3; a denormal x whose 1/x passes the range overflows the same way.
+ *   x < 0: by reflection; a negative integer (and -inf) is a domain error, NaN with
+ *   status 1; a result below the smallest normal is an underflow, status 4 (every x at
+ *   or below -185, -50 in single, whose results are zeros).
+ *   +-0: the infinity of 1/x, status 2. +inf stays, NaN comes back quieted.
+ * The kernel runs the x87 unit at 64-bit precision, rounding to nearest, and puts the
+ * caller's control word back when it leaves; the MXCSR follows the common entry rule. */
+#include <limits>
+
+#include "frame/kernels.h"
+#include "vecmath/frame/scalar.h"
+#include "vecmath/gamma/each.h"
+#include "vecmath/gamma/gamma_core.h"
+
+namespace brenn::vm {
+namespace {
+
+template <class T>
+struct TGammaLimits;
+template <>
+struct TGammaLimits<double> {
+    static constexpr double kOverflow = 171.62437695630274;
+    static constexpr double kUnderflow = -185.0;
+};
+template <>
+struct TGammaLimits<float> {
+    static constexpr float kOverflow = 35.0401001f;
+    static constexpr float kUnderflow = -50.0f;
+};
+
+template <class T>
+int TGammaOf(T x, T* y) {
+    using W = gamma::Wide<T>;
+    using Lim = TGammaLimits<T>;
+    constexpr T kHuge = std::numeric_limits<T>::max();
+    constexpr T kTiny = std::numeric_limits<T>::min();
+    if (__builtin_isnan(x)) {
+        *y = x + x;
+        return status::kNone;
+    }
+    if (x == 0) {
+        *y = Keep(T(1)) / x;
+        return status::kSingularity;
+    }
+    if (x > 0) {
+        if (x > Lim::kOverflow) {
+            *y = __builtin_isinf(x) ? x : Keep(kHuge) * T(2);
+            return __builtin_isinf(x) ? status::kNone : status::kOverflow;
+        }
+        T r = static_cast<T>(gamma::GammaPositive(W(x)));
+        *y = r;
+        return __builtin_isinf(r) ? status::kOverflow : status::kNone;
+    }
+    if (x == __builtin_rint(x)) { // negative integers and -inf
+        *y = Keep(T(0)) / Keep(T(0));
+        return status::kDomain;
+    }
+    bool negative;
+    if (x <= Lim::kUnderflow) {
+        gamma::SinPi<T, W>(x, negative);
+        T z = Keep(kTiny) * kTiny;
+        *y = negative ? -z : z;
+        return status::kUnderflow;
+    }
+    W s = gamma::SinPi<T, W>(x, negative);
+    W g = gamma::GammaData<W>::kPi / (s * gamma::GammaPositive(1 - W(x)));
+    T r = static_cast<T>(negative ? -g : g);
+    *y = r;
+    if (__builtin_isinf(r)) return status::kOverflow; // -x denormal: 1/x beyond the range
+    return (r < kTiny && r > -kTiny) ? status::kUnderflow : status::kNone;
+}
+
+template <class Tp>
+struct TGammaBody {
+    using T = Tp;
+    static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, TGamma);
+    static constexpr X87Rule kX87 = X87Rule::Extended;
+    static int Scalar(const T* a, T* y) { return TGammaOf(*a, y); }
+};
+
+} // namespace
+} // namespace brenn::vm
+
+extern "C" {
+ZAR_EACH_KERNEL(s, TGamma, All, brenn::vm::TGammaBody)
+ZAR_EACH_KERNEL(d, TGamma, All, brenn::vm::TGammaBody)
+}
