@@ -1,5 +1,6 @@
 // Speed of the quasi-random generators: Sobol and Niederr dGenerate per coordinate
-// at 3, 12 and 40 dimensions beside GSL's gsl_qrng_sobol and
+// at 3, 12 and 40 dimensions on [0, 1) (Sobol also on bounds whose scale is not a
+// power of two) beside GSL's gsl_qrng_sobol and
 // gsl_qrng_niederreiter_2 (which fill one point of doubles a call), and a Sobol
 // user table of 1000 coordinates (the chunk path) with the thread limit at 1 and 2.
 // Each body makes 12000 coordinates; "per_cycle" is coordinates per time-stamp cycle.
@@ -23,7 +24,8 @@ using brenn::bench::Measure;
 
 constexpr int kCoordinates = 12000; // a multiple of 3, 12, 40 and 1000
 
-void Ours(benchmark::State& state, int32_t brng, std::vector<uint32_t> params, int threads) {
+void Ours(benchmark::State& state, int32_t brng, std::vector<uint32_t> params, int threads,
+          double a = 0.0, double b = 1.0) {
     void* s = nullptr;
     __qesNewStreamEx(&s, brng, static_cast<int32_t>(params.size()), params.data());
     BrngRecord row;
@@ -33,7 +35,7 @@ void Ours(benchmark::State& state, int32_t brng, std::vector<uint32_t> params, i
     Measure(
         state,
         [&] {
-            if (row.dGenerate(s, kCoordinates, r.data(), 0.0, 1.0) != 0) {
+            if (row.dGenerate(s, kCoordinates, r.data(), a, b) != 0) {
                 __qesDeleteStream(&s);
                 __qesNewStreamEx(&s, brng, static_cast<int32_t>(params.size()), params.data());
             }
@@ -46,6 +48,10 @@ void Ours(benchmark::State& state, int32_t brng, std::vector<uint32_t> params, i
 
 void Sobol(benchmark::State& state) {
     Ours(state, QES_BRNG_SOBOL, {static_cast<uint32_t>(state.range(0))}, 0);
+}
+// On [-1.25, 3.5), whose scale is not a power of two: a multiplication a coordinate.
+void SobolScaled(benchmark::State& state) {
+    Ours(state, QES_BRNG_SOBOL, {static_cast<uint32_t>(state.range(0))}, 0, -1.25, 3.5);
 }
 void Niederr(benchmark::State& state) {
     Ours(state, QES_BRNG_NIEDERR, {static_cast<uint32_t>(state.range(0))}, 0);
@@ -62,6 +68,7 @@ void SobolUser1000(benchmark::State& state) {
 }
 
 BENCHMARK(Sobol)->Arg(3)->Arg(12)->Arg(40);
+BENCHMARK(SobolScaled)->Arg(3)->Arg(12)->Arg(40);
 BENCHMARK(Niederr)->Arg(3)->Arg(12);
 BENCHMARK(SobolUser1000)->Arg(1)->Arg(2)->UseRealTime();
 
