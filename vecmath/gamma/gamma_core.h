@@ -20,34 +20,30 @@
 
 #include <math.h>
 
+#include "vecmath/gamma/ext_math.h"
 #include "vecmath/gamma/gamma_data.h"
 
 namespace brenn::vm::gamma {
 
-// The working precision's elementary functions: the x87 extended ones for long double.
+// The working precision's elementary functions: ext_math.h's for long double, the C
+// library's for double.
 inline long double Log(long double x) {
-    return logl(x);
+    return ext::Log(x);
 }
 inline double Log(double x) {
     return log(x);
 }
 inline long double Log1p(long double x) {
-    return log1pl(x);
+    return ext::Log1p(x);
 }
 inline double Log1p(double x) {
     return log1p(x);
 }
 inline long double Exp(long double x) {
-    return expl(x);
+    return ext::Exp(x);
 }
 inline double Exp(double x) {
     return exp(x);
-}
-inline long double Sin(long double x) {
-    return sinl(x);
-}
-inline double Sin(double x) {
-    return sin(x);
 }
 
 template <class W, size_t N>
@@ -56,6 +52,15 @@ inline W Horner(W t, const W (&c)[N]) {
     for (size_t k = N - 1; k-- > 0;)
         p = p * t + c[k];
     return p;
+}
+
+// sin(pi r) for |r| <= 1/2: a polynomial in extended precision (the library's sinl is
+// slow), the C library's sine in double.
+inline long double SinPiReduced(long double r) {
+    return r * Horner(r * r, GammaData<long double>::kSinPi);
+}
+inline double SinPiReduced(double r) {
+    return sin(GammaData<double>::kPi * r);
 }
 
 // H(z) for z in [0, 1]: the piece's polynomial in z less the piece's centre.
@@ -137,7 +142,7 @@ inline W SinPi(T x, bool& negative) {
     T n = __builtin_rint(x);
     T r = x - n;
     long long k = static_cast<long long>(n);
-    W s = Sin(GammaData<W>::kPi * W(r));
+    W s = SinPiReduced(W(r));
     negative = (s < 0) != ((k & 1) != 0);
     return s < 0 ? -s : s;
 }

@@ -45,7 +45,7 @@ inline bool NearZero(double x, long double& r) {
         long double g = z.g[z.terms - 1];
         for (int j = z.terms - 1; j-- > 0;)
             g = g * t + z.g[j];
-        r = t * g - log1pl(t / z.d0);
+        r = t * g - gamma::Log1p(t / z.d0);
         return true;
     }
     return false;
