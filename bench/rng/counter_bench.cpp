@@ -11,6 +11,7 @@
 
 #include "bench/rng/measure.h"
 #include "brenn_rng.h"
+#include "rng/brng/ars5.h"
 #include "rng/core/cpu_hooks.h"
 
 #if __has_include(<Random123/philox.h>)
@@ -64,6 +65,54 @@ void BM_Ars5WordsVectorAes(benchmark::State& state) {
     }
     Words(state, QES_BRNG_ARS5, 0);
 }
+// The entries ask the processor for AES (and for vector AES from 256 words) at each
+// call; where that query is slow (a hypervisor that traps it), the block paths alone
+// and requests of 2^20 words show the generator itself.
+void Blocks(benchmark::State& state, bool wide) {
+    if (!__qesCPUisAES() || (wide && (!__qesCPUisVAES() || !brenn::rng::Ars5WideRegisters()))) {
+        state.SkipWithError("no AES (or no vector AES) on this processor");
+        return;
+    }
+    brenn::rng::Ars5Keys keys{};
+    for (int i = 1; i < 6; ++i) {
+        keys.k[i][0] = keys.k[i - 1][0] + 0x9E3779B97F4A7C15ull;
+        keys.k[i][1] = keys.k[i - 1][1] + 0xBB67AE8584CAA73Bull;
+    }
+    uint64_t count[2] = {1, 2};
+    std::vector<uint32_t> r(kBlock);
+    Measure(state, [&] {
+        if (wide)
+            brenn::rng::Ars5RunsVaes(keys, count, kBlock / 4, r.data());
+        else
+            brenn::rng::Ars5BlocksAes(keys, count, kBlock / 4, r.data());
+        benchmark::DoNotOptimize(r.data());
+    });
+}
+void BM_Ars5BlocksAes(benchmark::State& state) {
+    Blocks(state, false);
+}
+void BM_Ars5BlocksVectorAes(benchmark::State& state) {
+    Blocks(state, true);
+}
+void BM_Ars5WordsLong(benchmark::State& state) {
+    void* s = nullptr;
+    uint32_t key[8] = {0x123, 0x234, 0x345, 0x456, 1, 2, 3, 4};
+    __qesNewStreamEx(&s, QES_BRNG_ARS5, 8, key);
+    const int32_t n = 1 << 20;
+    std::vector<uint32_t> r(n);
+    if (__qesiBRngARS5(s, n, r.data()) != 0) {
+        state.SkipWithError("no AES on this processor");
+    } else {
+        Measure(
+            state,
+            [&] {
+                __qesiBRngARS5(s, n, r.data());
+                benchmark::DoNotOptimize(r.data());
+            },
+            n);
+    }
+    __qesDeleteStream(&s);
+}
 void BM_TrngWords(benchmark::State& state) {
     Words(state, QES_BRNG_TRNG, 0);
 }
@@ -71,6 +120,9 @@ BENCHMARK(BM_Philox4x32x10Words);
 BENCHMARK(BM_Philox4x32x10Words128);
 BENCHMARK(BM_Ars5WordsAes);
 BENCHMARK(BM_Ars5WordsVectorAes);
+BENCHMARK(BM_Ars5BlocksAes);
+BENCHMARK(BM_Ars5BlocksVectorAes);
+BENCHMARK(BM_Ars5WordsLong);
 BENCHMARK(BM_TrngWords);
 
 #if defined(BRENN_BENCH_R123)

@@ -45,7 +45,7 @@ struct Ars5Maker {
 };
 
 bool WideFor(int32_t n) {
-    return n >= kWideFrom && __qesCPUisVAES() && Ars5WideRegisters();
+    return n >= kWideFrom && Ars5WideRegisters() && __qesCPUisVAES();
 }
 
 template <typename Out>

@@ -32,13 +32,18 @@ __attribute__((target("aes"))) void Ars5BlocksAes(const Ars5Keys& keys, uint64_t
         if (nblocks >= kWide && count[0] <= UINT64_MAX - (kWide - 1)) {
             const __m128i high = _mm_set_epi64x(static_cast<int64_t>(count[1]), 0);
             __m128i c[kWide];
+#pragma GCC unroll 8
             for (int j = 0; j < kWide; ++j)
                 c[j] = _mm_or_si128(high, _mm_set_epi64x(0, static_cast<int64_t>(count[0] + j)));
+#pragma GCC unroll 8
             for (int j = 0; j < kWide; ++j)
                 c[j] = _mm_xor_si128(c[j], k[0]);
+#pragma GCC unroll 4
             for (int r = 1; r < 5; ++r)
+#pragma GCC unroll 8
                 for (int j = 0; j < kWide; ++j)
                     c[j] = _mm_aesenc_si128(c[j], k[r]);
+#pragma GCC unroll 8
             for (int j = 0; j < kWide; ++j)
                 _mm_storeu_si128(reinterpret_cast<__m128i*>(out + 4 * j),
                                  _mm_aesenclast_si128(c[j], k[5]));

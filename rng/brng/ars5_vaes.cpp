@@ -46,13 +46,18 @@ Ars5RunsVaes(const Ars5Keys& keys, uint64_t count[2], int64_t nblocks, uint32_t*
         const int64_t lo = static_cast<int64_t>(count[0]), hi = static_cast<int64_t>(count[1]);
         __m512i c[kRegs];
         c[0] = _mm512_set_epi64(hi, lo + 3, hi, lo + 2, hi, lo + 1, hi, lo);
+#pragma GCC unroll 4
         for (int j = 1; j < kRegs; ++j)
             c[j] = _mm512_add_epi64(c[j - 1], step);
+#pragma GCC unroll 4
         for (int j = 0; j < kRegs; ++j)
             c[j] = _mm512_xor_si512(c[j], k[0]);
+#pragma GCC unroll 4
         for (int r = 1; r < 5; ++r)
+#pragma GCC unroll 4
             for (int j = 0; j < kRegs; ++j)
                 c[j] = _mm512_aesenc_epi128(c[j], k[r]);
+#pragma GCC unroll 4
         for (int j = 0; j < kRegs; ++j)
             _mm512_storeu_si512(out + 16 * j, _mm512_aesenclast_epi128(c[j], k[5]));
         count[0] += kRun;
