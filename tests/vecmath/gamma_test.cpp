@@ -161,6 +161,58 @@ TEST(Gamma, ValuesWhereThePathsMeet) {
         ExpectNear<float>(true, p, 1.0);
 }
 
+// LGamma where its value vanishes: around 1 and 2, and around each of its zeros on the
+// negative axis (two in each interval (-n-1, -n), n = 2 .. 16), where the reflection's
+// terms cancel, at spreads from single ulps up to 2^-5 of the argument; within 1 ulp of
+// the extended library's value (which treats these zeros with care of its own).
+TEST(Gamma, LGammaNearItsZeros) {
+    const double zeros[] = {-2.4570247382208006,
+                            -2.7476826467274127,
+                            -3.14358088834998,
+                            -3.955294284858598,
+                            -4.039361839740537,
+                            -4.991544640560048,
+                            -5.0082181683225935,
+                            -5.998607480080875,
+                            -6.001385294453155,
+                            -6.999801507890638,
+                            -7.000198333407325,
+                            -7.999975197095821,
+                            -8.000024800270682,
+                            -8.999997244250977,
+                            -9.000002755714823,
+                            -9.99999972442663,
+                            -10.000000275573013,
+                            -10.99999997494789,
+                            -11.000000025052106,
+                            -11.999999997912324,
+                            -12.000000002087676,
+                            -12.99999999983941,
+                            -13.00000000016059,
+                            -13.99999999998853,
+                            -14.00000000001147,
+                            -14.999999999999236,
+                            -15.000000000000764,
+                            -15.999999999999952,
+                            -16.000000000000046,
+                            1.0,
+                            2.0};
+    for (double z : zeros)
+        for (double spread : {0x1p-52, 0x1p-40, 0x1p-30, 0x1p-20, 0x1p-12, 0x1p-8, 0x1p-5})
+            for (int k = -8; k <= 8; ++k) {
+                double x = z + k * spread * std::fabs(z);
+                if (x == std::nearbyint(x) && x <= 0) continue;
+                for (int slot : kSlots) {
+                    double y = Call("dLGamma", slot, x);
+                    EXPECT_LE(UlpError(y, lgammal(x)), 1.0) << "x " << x << " got " << y;
+                    float xs = float(x);
+                    if (xs == std::nearbyint(xs) && xs <= 0) continue;
+                    float ys = Call("sLGamma", slot, xs);
+                    EXPECT_LE(UlpError(ys, lgammal(xs)), 1.0) << "x " << xs << " got " << ys;
+                }
+            }
+}
+
 // The last argument with a finite TGamma and the first past it, in both precisions
 // (171.62437695630274 and 35.0401001f are already past).
 TEST(Gamma, TGammaOverflowLimit) {

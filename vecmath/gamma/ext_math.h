@@ -16,6 +16,7 @@
 #include <string.h>
 
 #include "vecmath/gamma/ext_tables.h"
+#include "vecmath/gamma/poly.h"
 
 namespace brenn::vm::gamma::ext {
 
@@ -36,18 +37,11 @@ inline long double FromBits(uint64_t mantissa, uint16_t signExponent) {
     return x;
 }
 
-// ln(1 + u) - u for |u| < 2^-7: -u^2/2 + u^3/3 - ... - u^10/10.
+// ln(1 + u) - u for |u| < 2^-7: u^2 (-1/2 + u/3 - ... - u^8/10).
 inline long double Log1pTail(long double u) {
-    long double p = -1.0L / 10;
-    p = p * u + 1.0L / 9;
-    p = p * u - 1.0L / 8;
-    p = p * u + 1.0L / 7;
-    p = p * u - 1.0L / 6;
-    p = p * u + 1.0L / 5;
-    p = p * u - 1.0L / 4;
-    p = p * u + 1.0L / 3;
-    p = p * u - 1.0L / 2;
-    return u * u * p;
+    static constexpr long double kC[9] = {-1.0L / 2, 1.0L / 3,  -1.0L / 4, 1.0L / 5,  -1.0L / 6,
+                                          1.0L / 7,  -1.0L / 8, 1.0L / 9,  -1.0L / 10};
+    return u * u * Poly(u, kC);
 }
 
 inline long double Log(long double x) {

@@ -22,6 +22,7 @@
 
 #include "vecmath/gamma/ext_math.h"
 #include "vecmath/gamma/gamma_data.h"
+#include "vecmath/gamma/poly.h"
 
 namespace brenn::vm::gamma {
 
@@ -46,18 +47,10 @@ inline double Exp(double x) {
     return exp(x);
 }
 
-template <class W, size_t N>
-inline W Horner(W t, const W (&c)[N]) {
-    W p = c[N - 1];
-    for (size_t k = N - 1; k-- > 0;)
-        p = p * t + c[k];
-    return p;
-}
-
 // sin(pi r) for |r| <= 1/2: a polynomial in extended precision (the library's sinl is
 // slow), the C library's sine in double.
 inline long double SinPiReduced(long double r) {
-    return r * Horner(r * r, GammaData<long double>::kSinPi);
+    return r * Poly(r * r, GammaData<long double>::kSinPi);
 }
 inline double SinPiReduced(double r) {
     return sin(GammaData<double>::kPi * r);
@@ -70,7 +63,7 @@ inline W H(W z) {
     int i = static_cast<int>(z * 4);
     i = i > 3 ? 3 : i;
     W t = z - W(2 * i + 1) / 8;
-    return Horner(t, D::kH[i]);
+    return Poly(t, D::kH[i]);
 }
 
 // Gamma(x) - 1 for x in (0, 3], to the working precision relative to itself.
@@ -102,7 +95,7 @@ inline W GammaBelowStirling(W x) {
 template <class W>
 inline W StirlingSeries(W x) {
     W r = 1 / x;
-    return r * Horner(r * r, GammaData<W>::kStirling);
+    return r * Poly(r * r, GammaData<W>::kStirling);
 }
 
 // ln Gamma(x) for x at or above the Stirling point (any size: from 2^64 on S is lost in
