@@ -6,10 +6,10 @@
  *       the exact residual s - r^2. Lanes whose larger part lies outside [2^-450, 2^500]
  *       (zeros, denormals and huge parts among them) and non-finite lanes go to the
  *       scalar routine.
- *   LA: the root from the single reciprocal-root estimate y of s, refined by the series
- *       of (1 + e)^(-1/2) to degree 4 (e = y^2 s - 1, coefficients -1/2, 3/8, -5/16,
- *       35/128) and multiplied by s kept in two parts.
- *   EP: the same series to degree 2, times the rounded s.
+ *   LA: the root from the single reciprocal-root estimate y of the rounded s, refined by
+ *       the series of (1 + e)^(-1/2) to degree 4 (e = y^2 s - 1, coefficients -1/2, 3/8,
+ *       -5/16, 35/128), times s.
+ *   EP: the same series to degree 2.
  *   LA and EP send s outside [2^-67, 2^66), where the single estimate does not reach,
  *   to the scalar routine.
  * Single Abs: the squares are exact in double; their sum's root in double, rounded once
@@ -32,7 +32,8 @@ namespace {
 // sqrt(sh + sl) from the rounded root of sh, corrected by the exact residual.
 BRENN_VEC __m128d CorrectedRoot(__m128d sh, __m128d sl) {
     __m128d r = Sqrt(sh), ph, pl;
-    ExactProduct(r, r, ph, pl);
+    Halves<__m128d> hr = SplitOnce(r);
+    ExactProduct(hr, hr, ph, pl);
     __m128d e = Add(Sub(Sub(sh, ph), pl), sl);
     return Add(r, Div(Mul(e, Set<double>(0.5)), r));
 }
@@ -82,16 +83,14 @@ struct AbsZ {
     static int Eval(const Cx<double>* x, const Cx<double>*, Cx<double>& y) {
         __m128d sh, sl;
         if constexpr (L == Level::HA) {
-            SumOfProducts(x->re, x->re, x->im, x->im, sh, sl);
+            Halves<__m128d> hx = SplitOnce(x->re), hy = SplitOnce(x->im);
+            SumOfProducts(hx, hx, hy, hy, sh, sl);
             y.re = CorrectedRoot(sh, sl);
             constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
             return MaskBits(
                 HighWordsToLanes(HighWordOutside<kLo, kHi>(LargerMagnitude(x->re, x->im))));
         } else {
-            if constexpr (L == Level::LA)
-                SumOfProducts(x->re, x->re, x->im, x->im, sh, sl);
-            else
-                sh = Add(Mul(x->re, x->re), Mul(x->im, x->im));
+            sh = Add(Mul(x->re, x->re), Mul(x->im, x->im));
             constexpr int32_t kLo = 0x3BC00000, kHi = 0x440FFFFF; // 2^-67, 2^66
             __m128d special = HighWordsToLanes(HighWordOutside<kLo, kHi>(sh));
             __m128d s = NaNWhere(special, sh); // no estimate of lanes out of its reach
@@ -104,7 +103,7 @@ struct AbsZ {
             else
                 p = Horner(e, kRootSeries2);
             r = Add(r, Mul(Mul(r, e), p));
-            y.re = L == Level::LA ? Add(Mul(sh, r), Mul(sl, r)) : Mul(sh, r);
+            y.re = Mul(sh, r);
             return MaskBits(special);
         }
     }

@@ -63,9 +63,11 @@ struct MulZ {
             y.im = Add(s, t);
             return MaskBits(Or(Cancelled(y.re, q), Cancelled(y.im, s)));
         } else {
+            // each factor split once for its two products
+            Halves<V> ha = SplitOnce(a), hb = SplitOnce(b), hc = SplitOnce(c), hd = SplitOnce(d);
             V lo;
-            SumOfProducts(a, c, Neg(b), d, y.re, lo);
-            SumOfProducts(a, d, b, c, y.im, lo);
+            SumOfProducts(ha, hc, Negated(hb), hd, y.re, lo);
+            SumOfProducts(ha, hd, hb, hc, y.im, lo);
             return MaskBits(OutsideWindow<kMulWindowTop>(a, b, c, d));
         }
     }
@@ -97,10 +99,12 @@ struct MulC {
     static int Scalar(const In* x, const In* w, Out* y) { return MulScalar(x, w, y, Conj); }
 };
 
-// The quotient hi + lo over the divisor dh + dl, from its reciprocal estimate inv.
-inline __m128d QuotientOf(__m128d nh, __m128d nl, __m128d dh, __m128d dl, __m128d inv) {
+// The quotient hi + lo over the divisor dh + dl (dh split), from its reciprocal estimate
+// inv, with one correction by the exact residual.
+inline __m128d QuotientOf(__m128d nh, __m128d nl, const Halves<__m128d>& dh, __m128d dl,
+                          __m128d inv) {
     __m128d q = Mul(nh, inv), ph, pl;
-    ExactProduct(q, dh, ph, pl);
+    ExactProduct(SplitOnce(q), dh, ph, pl);
     __m128d r = Add(Sub(Sub(nh, ph), pl), Sub(nl, Mul(q, dl)));
     return Add(q, Mul(r, inv));
 }
@@ -120,13 +124,16 @@ struct DivZ {
             y.re = Mul(Add(Mul(a, c), Mul(b, d)), r);
             y.im = Mul(Sub(Mul(b, c), Mul(a, d)), r);
         } else {
+            // each factor split once for its three products, the divisor's head for two
+            Halves<V> ha = SplitOnce(a), hb = SplitOnce(b), hc = SplitOnce(c), hd = SplitOnce(d);
             V dh, dl, nh, nl;
-            SumOfProducts(c, c, d, d, dh, dl);
+            SumOfProducts(hc, hc, hd, hd, dh, dl);
+            Halves<V> hdh = SplitOnce(dh);
             V inv = Div(Set<double>(1), dh);
-            SumOfProducts(a, c, b, d, nh, nl);
-            y.re = QuotientOf(nh, nl, dh, dl, inv);
-            SumOfProducts(b, c, Neg(a), d, nh, nl);
-            y.im = QuotientOf(nh, nl, dh, dl, inv);
+            SumOfProducts(ha, hc, hb, hd, nh, nl);
+            y.re = QuotientOf(nh, nl, hdh, dl, inv);
+            SumOfProducts(hb, hc, Negated(ha), hd, nh, nl);
+            y.im = QuotientOf(nh, nl, hdh, dl, inv);
         }
         return bits;
     }

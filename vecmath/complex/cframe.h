@@ -117,14 +117,9 @@ struct ComplexFrame {
         }
     }
 
-    static inline void Group(const B& body, const In* a, const In* b, Out* y, int i) {
-        Cx<T> ca = LoadParts(a + i), cb, cy;
-        if (b) cb = LoadParts(b + i);
-        int bits = body.Eval(&ca, b ? &cb : nullptr, cy);
-        if (__builtin_expect(bits == 0, 1)) {
-            StoreParts(y + i, cy);
-            return;
-        }
+    // The results of a group with special lanes (bits), K elements from i.
+    static void SpecialGroup(const B& body, const In* a, const In* b, Out* y, int i, int bits,
+                             const Cx<T>& cy) {
         if constexpr (kHasScalar<B>) {
             alignas(16) Out r[K];
             StoreParts(r, cy);
@@ -134,7 +129,31 @@ struct ComplexFrame {
         }
     }
 
-    // The last m (< K) elements, through a group of copies.
+    // A round of two groups, 2K elements from i: both evaluated before either is stored,
+    // so that their chains interleave.
+    BRENN_VEC static void Round(const B& body, const In* a, const In* b, Out* y, int i) {
+        Cx<T> a0 = LoadParts(a + i), a1 = LoadParts(a + i + K), b0, b1, y0, y1;
+        if (b) b0 = LoadParts(b + i), b1 = LoadParts(b + i + K);
+        int bits0 = body.Eval(&a0, b ? &b0 : nullptr, y0);
+        int bits1 = body.Eval(&a1, b ? &b1 : nullptr, y1);
+        if (__builtin_expect((bits0 | bits1) == 0, 1)) {
+            StoreParts(y + i, y0);
+            StoreParts(y + i + K, y1);
+            return;
+        }
+        // group by group: the scalar routines read the caller's elements, which the first
+        // group's stores do not reach in place
+        if (bits0)
+            SpecialGroup(body, a, b, y, i, bits0, y0);
+        else
+            StoreParts(y + i, y0);
+        if (bits1)
+            SpecialGroup(body, a, b, y, i + K, bits1, y1);
+        else
+            StoreParts(y + i + K, y1);
+    }
+
+    // The last m (<= K) elements, through a group of copies.
     static void Partial(const B& body, const In* a, const In* b, Out* y, int i, int m) {
         alignas(16) In ta[K], tb[K];
         for (int k = 0; k < K; ++k) {
@@ -159,13 +178,10 @@ struct ComplexFrame {
     static void Run(const B& body, int n, const In* a, const In* b, Out* y) {
         Env<B> env = Enter<B>();
         int i = 0;
-        for (; i + 2 * K <= n; i += 2 * K) {
-            Group(body, a, b, y, i);
-            Group(body, a, b, y, i + K);
-        }
-        for (; i + K <= n; i += K)
-            Group(body, a, b, y, i);
-        if (i < n) Partial(body, a, b, y, i, n - i);
+        for (; i + 2 * K <= n; i += 2 * K)
+            Round(body, a, b, y, i);
+        for (; i < n; i += K)
+            Partial(body, a, b, y, i, n - i < K ? n - i : K);
         Leave(env);
     }
 };

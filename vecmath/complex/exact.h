@@ -34,6 +34,40 @@ BRENN_VEC void ExactProduct(V a, V b, V& hi, V& lo) {
     lo = Add(Add(Add(Sub(Mul(ah, bh), hi), Mul(ah, bl)), Mul(al, bh)), Mul(al, bl));
 }
 
+// A factor split once into Veltkamp halves, for factors that meet several others.
+template <class V>
+struct Halves {
+    V v, hi, lo;
+};
+template <class V>
+BRENN_VEC Halves<V> SplitOnce(V a) {
+    V t = Mul(a, Set<double>(kVeltkamp));
+    V hi = Sub(t, Sub(t, a));
+    return {a, hi, Sub(a, hi)};
+}
+// The exact product of two split factors (as ExactProduct).
+template <class V>
+BRENN_VEC void ExactProduct(const Halves<V>& a, const Halves<V>& b, V& hi, V& lo) {
+    hi = Mul(a.v, b.v);
+    lo = Add(Add(Add(Sub(Mul(a.hi, b.hi), hi), Mul(a.hi, b.lo)), Mul(a.lo, b.hi)), Mul(a.lo, b.lo));
+}
+// hi + lo = a*c + b*d from split factors, hi the rounded value (as SumOfProducts).
+template <class V>
+BRENN_VEC void SumOfProducts(const Halves<V>& a, const Halves<V>& c, const Halves<V>& b,
+                             const Halves<V>& d, V& hi, V& lo) {
+    V p, pl, q, ql, e;
+    ExactProduct(a, c, p, pl);
+    ExactProduct(b, d, q, ql);
+    TwoSum(p, q, hi, e);
+    lo = Add(e, Add(pl, ql));
+    FastTwoSum(hi, lo, hi, lo);
+}
+// The negation of a split factor (exact).
+template <class V>
+BRENN_VEC Halves<V> Negated(const Halves<V>& a) {
+    return {Neg(a.v), Neg(a.hi), Neg(a.lo)};
+}
+
 // hi + lo = a*c + s*b*d (s = +1 or -1 by Neg), hi the rounded value.
 template <class V>
 BRENN_VEC void SumOfProducts(V a, V c, V b, V d, V& hi, V& lo) {

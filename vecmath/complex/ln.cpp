@@ -63,7 +63,8 @@ struct LnZ {
         __m128d re = IfThenElse(special, Set<double>(1), x->re);
         __m128d im = IfThenZeroElse(special, x->im);
         __m128d sh, sl;
-        SumOfProducts(re, re, im, im, sh, sl);
+        Halves<__m128d> hr = SplitOnce(re), hi = SplitOnce(im);
+        SumOfProducts(hr, hr, hi, hi, sh, sl);
         y.re = HalfLog<L>(sh, sl);
         __m128d angle;
         y.im = Atan2::Eval(x->im, x->re, angle);

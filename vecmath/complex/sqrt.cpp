@@ -77,9 +77,11 @@ struct SqrtZ {
         const __m128d half = Set<double>(0.5);
         // |z| = mh + ml
         __m128d sh, sl, ph, pl;
-        SumOfProducts(x, x, w, w, sh, sl);
+        Halves<__m128d> hx = SplitOnce(x), hw = SplitOnce(w);
+        SumOfProducts(hx, hx, hw, hw, sh, sl);
         __m128d mh = Sqrt(sh);
-        ExactProduct(mh, mh, ph, pl);
+        Halves<__m128d> hm = SplitOnce(mh);
+        ExactProduct(hm, hm, ph, pl);
         __m128d ml = Div(Mul(Add(Sub(Sub(sh, ph), pl), sl), half), mh);
         // v = (|x| + |z|)/2 = vh + vl
         __m128d vh, vl;
@@ -89,12 +91,13 @@ struct SqrtZ {
         // t = th + tl, and its reciprocal
         __m128d th = Sqrt(vh);
         __m128d inv = Div(Set<double>(1), th);
-        ExactProduct(th, th, ph, pl);
+        Halves<__m128d> ht = SplitOnce(th);
+        ExactProduct(ht, ht, ph, pl);
         __m128d tl = Mul(Mul(Add(Sub(Sub(vh, ph), pl), vl), half), inv);
         // q = (w/2)/t, corrected by the exact residual
         __m128d w2 = Mul(w, half);
         __m128d q = Mul(w2, inv);
-        ExactProduct(q, th, ph, pl);
+        ExactProduct(SplitOnce(q), ht, ph, pl);
         q = Add(q, Mul(Sub(Sub(Sub(w2, ph), pl), Mul(q, tl)), inv));
         q = Xor(Abs(q), SignBit(w)); // y's sign, also where q is a zero
 
