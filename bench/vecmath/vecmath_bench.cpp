@@ -55,6 +55,8 @@ enum class Kind {
     ComplexBinary,
     LoopInv, // y = 1 / a as a plain compiled loop: the peer of Inv, which no library has
     LoopDiv, // y = a / b likewise, for Div
+    LoopCMul, // complex y = a * b as compiled (the C runtime's multiply), for complex Mul
+    LoopCDiv, // complex y = a / b likewise, for complex Div
 };
 
 struct Job {
@@ -279,6 +281,19 @@ void CallPeer(const Job& j, Buffers& b) {
         for (long i = 0; i < n; ++i)
             y[i] = a[i] / bb[i];
         break;
+    case Kind::LoopCMul:
+    case Kind::LoopCDiv: {
+        C* ca = reinterpret_cast<C*>(a);
+        C* cb = reinterpret_cast<C*>(bb);
+        C* cy = reinterpret_cast<C*>(y);
+        if (j.kind == Kind::LoopCMul)
+            for (long i = 0; i < n; ++i)
+                cy[i] = ca[i] * cb[i];
+        else
+            for (long i = 0; i < n; ++i)
+                cy[i] = ca[i] / cb[i];
+        break;
+    }
     case Kind::ComplexUnary: {
         C* ca = reinterpret_cast<C*>(a);
         C* cy = reinterpret_cast<C*>(y);
@@ -399,6 +414,9 @@ void RegisterPeers(const Row& r, const RowFacts& f, long n, const Libs& libs) {
     if (!complex && (f.ref == brenn::tools::Ref::Inv || f.ref == brenn::tools::Ref::Div))
         add("c_loop", f.ref == brenn::tools::Ref::Inv ? Kind::LoopInv : Kind::LoopDiv,
             reinterpret_cast<void*>(1)); // no function: the loop is the peer
+    if (complex && (f.ref == brenn::tools::Ref::CMul || f.ref == brenn::tools::Ref::CDiv))
+        add("c_loop", f.ref == brenn::tools::Ref::CMul ? Kind::LoopCMul : Kind::LoopCDiv,
+            reinterpret_cast<void*>(1)); // the compiled complex operation is the peer
     if (f.sleef && !complex) {
         // SLEEF: HA's match is the best of u05/u10/u15 (or the exact form); LA and EP's
         // is u35 where it exists
