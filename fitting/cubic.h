@@ -6,8 +6,6 @@
 #ifndef BRENN_FITTING_CUBIC_H
 #define BRENN_FITTING_CUBIC_H
 
-#include <emmintrin.h>
-
 #include <initializer_list>
 
 #include "fitting/construct.h"
@@ -63,29 +61,6 @@ struct CubicCells {
     T h(int64_t i) const { return Uniform ? step : x[i + 1] - x[i]; }
     T rcp(int64_t i) const { return Uniform ? inverseStep : r[i]; }
 };
-
-// r[i] = 1 / (x[i+1] - x[i]), i below count, a register of cells at a time: each
-// lane's quotient is the one-at-a-time quotient to the bit, at a fraction of the
-// divider's time.
-inline void ReciprocalWidths(const double* x, int64_t count, double* r) {
-    int64_t i = 0;
-    const __m128d one = _mm_set1_pd(1.0);
-    for (; i + 2 <= count; i += 2)
-        _mm_storeu_pd(r + i,
-                      _mm_div_pd(one, _mm_sub_pd(_mm_loadu_pd(x + i + 1), _mm_loadu_pd(x + i))));
-    for (; i < count; ++i)
-        r[i] = 1.0 / (x[i + 1] - x[i]);
-}
-
-inline void ReciprocalWidths(const float* x, int64_t count, float* r) {
-    int64_t i = 0;
-    const __m128 one = _mm_set1_ps(1.0f);
-    for (; i + 4 <= count; i += 4)
-        _mm_storeu_ps(r + i,
-                      _mm_div_ps(one, _mm_sub_ps(_mm_loadu_ps(x + i + 1), _mm_loadu_ps(x + i))));
-    for (; i < count; ++i)
-        r[i] = 1.0f / (x[i + 1] - x[i]);
-}
 
 // The cells of a task; r (nx-1 elements) receives the reciprocal widths of a
 // non-uniform partition.
