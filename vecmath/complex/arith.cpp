@@ -13,9 +13,11 @@
  * exact residual. EP: the plain formula with one shared reciprocal; its lanes outside
  * the window go to the scalar routine too, since c*c overflows or underflows there.
  *
- * Single: products of singles are exact in double, so every level forms the formulas in
- * double and rounds once to single (division by the double reciprocal); a lane whose
- * result is not finite goes to the scalar routine (Annex G recovery, overflow status). */
+ * Single: products of singles are exact in double, so LA and HA (and Div's EP) form the
+ * formulas in double and round once to single (division by the double reciprocal); a
+ * lane whose result is not finite goes to the scalar routine (Annex G recovery, overflow
+ * status). Single Mul EP is the plain formula in single with the double EP's test at
+ * 2^-10. */
 #include "vecmath/complex/arith_scalar.h"
 #include "vecmath/complex/cframe.h"
 #include "vecmath/frame/level.h"
@@ -70,6 +72,32 @@ struct MulZ {
             SumOfProducts(ha, hd, hb, hc, y.im, lo);
             return MaskBits(OutsideWindow<kMulWindowTop>(a, b, c, d));
         }
+    }
+    static int Scalar(const In* x, const In* w, Out* y) { return MulScalar(x, w, y, Conj); }
+};
+
+// The same test on single lanes, at 2^-10: a part cancelled by 10 bits or more, or not
+// finite (EP keeps at least 13 of its 24 bits).
+inline I32x4 Cancelled(__m128 re, __m128 q) {
+    const I32x4 inf = Set<int32_t>(0x7F800000);
+    I32x4 r = AsInt(Abs(re)), t = AsInt(Mul(Abs(q), Set<float>(0x1p-10f)));
+    return Not(And(Gt(r, t), Gt(inf, r)));
+}
+
+// Single EP: the plain products in single, the cancelled and non-finite lanes to the
+// scalar routine (exact in double).
+template <bool Conj>
+struct MulCLight {
+    using T = float;
+    using In = BrennComplex8;
+    using Out = BrennComplex8;
+    static constexpr const char* kName = MulNameC<Conj>();
+    static int Eval(const Cx<float>* x, const Cx<float>* w, Cx<float>& y) {
+        __m128 a = x->re, b = x->im, c = w->re, d = Conj ? Neg(w->im) : w->im;
+        __m128 p = Mul(a, c), q = Mul(b, d), s = Mul(a, d), t = Mul(b, c);
+        y.re = Sub(p, q);
+        y.im = Add(s, t);
+        return MaskBits(Or(Cancelled(y.re, q), Cancelled(y.im, s)));
     }
     static int Scalar(const In* x, const In* w, Out* y) { return MulScalar(x, w, y, Conj); }
 };
@@ -212,9 +240,9 @@ ZAR_COMPLEX_KERNEL(z, Mul, EP, Binary, MulZ<false, Level::EP>)
 ZAR_COMPLEX_KERNEL(z, MulByConj, LaHa, Binary, MulZ<true, Level::HA>)
 ZAR_COMPLEX_KERNEL(z, MulByConj, EP, Binary, MulZ<true, Level::EP>)
 ZAR_COMPLEX_KERNEL(c, Mul, LaHa, Binary, MulC<false>)
-ZAR_COMPLEX_KERNEL(c, Mul, EP, Binary, MulC<false>)
+ZAR_COMPLEX_KERNEL(c, Mul, EP, Binary, MulCLight<false>)
 ZAR_COMPLEX_KERNEL(c, MulByConj, LaHa, Binary, MulC<true>)
-ZAR_COMPLEX_KERNEL(c, MulByConj, EP, Binary, MulC<true>)
+ZAR_COMPLEX_KERNEL(c, MulByConj, EP, Binary, MulCLight<true>)
 
 ZAR_COMPLEX_KERNEL(z, Div, LaHa, Binary, DivZ<Level::HA>)
 ZAR_COMPLEX_KERNEL(z, Div, EP, Binary, DivZ<Level::EP>)
