@@ -1,0 +1,10 @@
+# Runs a generator that writes its table to standard output (a sollya or Python script)
+# and compares the output with the committed file.
+execute_process(COMMAND ${GEN} ${SCRIPT} OUTPUT_FILE ${OUT} RESULT_VARIABLE rc)
+if(NOT rc EQUAL 0)
+  message(FATAL_ERROR "generator failed: ${GEN} ${SCRIPT}")
+endif()
+execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${OUT} ${COMMITTED} RESULT_VARIABLE differ)
+if(NOT differ EQUAL 0)
+  message(FATAL_ERROR "${COMMITTED} differs from a fresh generation (${OUT})")
+endif()
