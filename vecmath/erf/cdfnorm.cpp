@@ -20,7 +20,8 @@ struct CdfNormGrid {
     static constexpr double kShifter = 0x1p46, kLimit = 38.5;
     static constexpr double kTauScale = 1.0, kUScale = 0.5;
     static constexpr double kMirror = 1.0, kMirrorLimit = 8.5;
-    static constexpr bool kMirrorPositive = true, kLowDerivative = false;
+    static constexpr bool kMirrorPositive = true;
+    static constexpr double kScaleFrom = 26.0;
 };
 
 struct CdfNormFn {

@@ -24,11 +24,11 @@ struct ErfGridLA {
     static constexpr double kShifter = kShifter128, kLimit = 5.9921875;
     static constexpr double kTauScale = 2.0, kUScale = 1.0;
     static constexpr double kMirror = 0, kMirrorLimit = 0;
-    static constexpr bool kMirrorPositive = false, kLowDerivative = false;
+    static constexpr bool kMirrorPositive = false;
+    static constexpr double kScaleFrom = 0;
 };
 struct ErfGridHA : ErfGridLA {
     static constexpr const double (*kRows)[4] = erfRowsHA;
-    static constexpr bool kLowDerivative = true;
 };
 struct ErfGridSingle : ErfGridLA {
     static constexpr double kLimit = 3.9296875;

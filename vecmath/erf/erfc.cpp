@@ -18,7 +18,8 @@ struct ErfcGrid {
     static constexpr double kShifter = 0x1p45, kLimit = 27.2421875;
     static constexpr double kTauScale = 2.0, kUScale = 1.0;
     static constexpr double kMirror = 2.0, kMirrorLimit = 6.0;
-    static constexpr bool kMirrorPositive = false, kLowDerivative = false;
+    static constexpr bool kMirrorPositive = false;
+    static constexpr double kScaleFrom = 20.0;
 };
 
 struct ErfcFn {

@@ -12,12 +12,13 @@
  *
  * The other side of Erfc and CdfNorm is 2 - erfc(|x|) and 1 - Q(x): their lanes take
  * K - F with K - V split exactly (FastTwoSum, V being at most 1). Three ways to add up:
- *   TwoPart (HA double): D*d as an exact product, the sum V + D*d split exactly, the
- *            remainders (of the row, the product, the derivative for Erf) added last;
- *   WithLow (LA double, single): V + (Vlo + w*(1 + S1)), w = D*d;
- *   Plain   (EP double): V + w*(1 + S1).
- * The scale column (2^-128 in the far tail) multiplies the sum last, exactly while the
- * result is normal; lanes whose result would not be are the kernels' special lanes.
+ *   TwoPart (HA double): Dh*dh exact (26 bits of each), the sum V + Dh*dh split exactly,
+ *            the remainders (of the row, Dh*dl + Dl*d, the series' part) added last;
+ *   WithLow (LA double): V + (Vlo + w*(1 + S1)), w = D*d;
+ *   Plain   (EP double, single): V + w*(1 + S1).
+ * Rows from kScaleFrom on are times 2^128; the sum is multiplied by 2^-128 there, exactly
+ * while the result is normal; lanes whose result would not be are the kernels' special
+ * lanes.
  * x is never a NaN here: the kernels take NaN lanes aside (NaNQuiet, or special lanes). */
 #ifndef BRENN_VECMATH_ERF_GRID_CORE_H
 #define BRENN_VECMATH_ERF_GRID_CORE_H
@@ -78,7 +79,7 @@ BRENN_VEC __m128d SeriesLessOne(__m128d tau, __m128d u) {
 /* A function's grid, as the per-function struct gives it:
  *   kRows (double[][W], W 2 or 4), kShifter, kLimit, kTauScale, kUScale;
  *   kMirror (K, 0 for none), kMirrorLimit, kMirrorPositive (Q mirrors x > 0);
- *   kLowDerivative: the fourth column is D's remainder (Erf HA) rather than a scale. */
+ *   kScaleFrom: the first scaled grid point (0 for none). */
 template <class G, SeriesCut C, GridSum Sum>
 inline __m128d GridEval(__m128d x) {
     constexpr size_t W = sizeof(G::kRows[0]) / sizeof(double);
@@ -95,12 +96,12 @@ inline __m128d GridEval(__m128d x) {
     I64x2 row = AsInt(s);
     const double* r0 = G::kRows[LowWord<0>(row)];
     const double* r1 = G::kRows[LowWord<1>(row)];
-    __m128d v, vlo = Zero<double>(), deriv, extra = Zero<double>();
+    __m128d v, vlo = Zero<double>(), deriv, dl = Zero<double>();
     if constexpr (W == 2) {
         LoadTransposed(r0, r1, v, deriv);
     } else {
         LoadTransposed(r0, r1, v, vlo);
-        LoadTransposed(r0 + 2, r1 + 2, deriv, extra);
+        LoadTransposed(r0 + 2, r1 + 2, deriv, dl);
     }
     __m128d tau = Mul(Mul(Set<double>(G::kTauScale), xj), d);
     __m128d u = Mul(d, d);
@@ -118,23 +119,27 @@ inline __m128d GridEval(__m128d x) {
     __m128d vs = Xor(v, flip);
     __m128d y;
     if constexpr (Sum == GridSum::TwoPart) {
-        __m128d ph, pl, hi, e1, sum, e2;
-        TwoProduct(deriv, d, ph, pl);
-        __m128d rest = Add(Mul(ph, s1), pl);
-        if constexpr (G::kLowDerivative) rest = Add(rest, Mul(extra, d));
+        static_assert(W == 4, "two parts need the wide rows");
+        __m128d dh, dlow, hi = vs, e1 = Zero<double>(), sum, e2;
+        Split(d, dh, dlow);
+        __m128d pl = Add(Mul(deriv, dlow), Mul(dl, d));
         // Tiny arguments take D*d rounded once: the remainders would underflow, and their
         // roundings would be as large as what they correct.
-        rest = IfThenZeroElse(tiny, rest);
-        FastTwoSum(k, vs, hi, e1);
+        __m128d ph = IfThenElse(tiny, Mul(Add(deriv, dl), d), Mul(deriv, dh));
+        __m128d rest = IfThenZeroElse(tiny, Add(Mul(Add(ph, pl), s1), pl));
+        if constexpr (G::kMirror != 0) FastTwoSum(k, vs, hi, e1);
         FastTwoSum(hi, Xor(ph, flip), sum, e2);
         y = Add(sum, Add(Add(e1, e2), Xor(Add(vlo, rest), flip)));
     } else {
+        if constexpr (W == 4) deriv = Add(deriv, dl);
         __m128d w = Mul(deriv, d);
         __m128d c = Add(w, Mul(w, s1));
         if constexpr (Sum == GridSum::WithLow) c = Add(vlo, c);
         y = Add(Add(k, vs), Xor(c, flip));
     }
-    if constexpr (W == 4 && !G::kLowDerivative) y = Mul(y, extra);
+    if constexpr (G::kScaleFrom != 0)
+        y = Mul(y, IfThenElse(Lt(xj, Set<double>(G::kScaleFrom)), Set<double>(1.0),
+                              Set<double>(0x1p-128)));
     return y;
 }
 
