@@ -35,18 +35,8 @@ constexpr int kSlots[] = {frame::SlotLA, frame::SlotHA, frame::SlotEP};
 // One element through a slot: its result and the status it leaves.
 template <class T>
 T Call(RowIndex row, int slot, T x, int* status = nullptr) {
-    brenn_zar_kernel_SetErrStatus(0);
-    T y;
-    K<T>(row, slot)(1, &x, &y);
-    if (status) *status = brenn_zar_kernel_GetErrStatus();
-    return y;
+    return CallUnary(K<T>(row, slot), x, status);
 }
-
-struct ModeScope {
-    uint32_t saved;
-    explicit ModeScope(uint32_t errorMode) : saved(brenn_zar_kernel_SetMode(errorMode)) {}
-    ~ModeScope() { brenn_zar_kernel_SetMode(saved); }
-};
 
 const RowIndex kExpRowsS[] = {frame::Row_sExp, frame::Row_sExp2, frame::Row_sExp10};
 const RowIndex kExpRowsD[] = {frame::Row_dExp, frame::Row_dExp2, frame::Row_dExp10};

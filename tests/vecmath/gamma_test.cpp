@@ -24,18 +24,8 @@ Unary<T> K(const char* row, int slot) {
 
 template <class T>
 T Call(const char* row, int slot, T x, int* status = nullptr) {
-    brenn_zar_kernel_SetErrStatus(0);
-    T y;
-    K<T>(row, slot)(1, &x, &y);
-    if (status) *status = brenn_zar_kernel_GetErrStatus();
-    return y;
+    return CallUnary(K<T>(row, slot), x, status);
 }
-
-struct ModeScope {
-    uint32_t saved;
-    explicit ModeScope(uint32_t errorMode) : saved(brenn_zar_kernel_SetMode(errorMode)) {}
-    ~ModeScope() { brenn_zar_kernel_SetMode(saved); }
-};
 
 template <class T>
 const char* RowName(bool lgamma) {

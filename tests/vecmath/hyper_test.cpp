@@ -26,18 +26,8 @@ constexpr int kSlots[] = {kSlotLA, kSlotHA, kSlotEP};
 
 template <class T>
 T Call(RowIndex row, int slot, T x, int* status = nullptr) {
-    brenn_zar_kernel_SetErrStatus(0);
-    T y;
-    K<T>(row, slot)(1, &x, &y);
-    if (status) *status = brenn_zar_kernel_GetErrStatus();
-    return y;
+    return CallUnary(K<T>(row, slot), x, status);
 }
-
-struct ModeScope {
-    uint32_t saved;
-    explicit ModeScope(uint32_t errorMode) : saved(brenn_zar_kernel_SetMode(errorMode)) {}
-    ~ModeScope() { brenn_zar_kernel_SetMode(saved); }
-};
 
 enum class Fn { Cosh, Sinh, Tanh, Asinh, Acosh, Atanh };
 constexpr Fn kAll[] = {Fn::Cosh, Fn::Sinh, Fn::Tanh, Fn::Asinh, Fn::Acosh, Fn::Atanh};

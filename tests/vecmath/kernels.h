@@ -65,6 +65,23 @@ double UlpError(T got, long double ref) {
     return double(fabsl((long double)got - ref) / ldexpl(1.0L, e - prec));
 }
 
+// One element through a unary kernel: its result and the status it leaves.
+template <class T>
+T CallUnary(Unary<T> k, T x, int* status = nullptr) {
+    brenn_zar_kernel_SetErrStatus(0);
+    T y;
+    k(1, &x, &y);
+    if (status) *status = brenn_zar_kernel_GetErrStatus();
+    return y;
+}
+
+// The thread's error mode for a scope, the previous mode word restored afterwards.
+struct ModeScope {
+    uint32_t saved;
+    explicit ModeScope(uint32_t errorMode) : saved(brenn_zar_kernel_SetMode(errorMode)) {}
+    ~ModeScope() { brenn_zar_kernel_SetMode(saved); }
+};
+
 // Caller's MXCSR around a body, restored afterwards.
 struct CsrScope {
     unsigned saved;

@@ -27,12 +27,6 @@ BrennKernel Raw(RowIndex row, int slot) {
     return (&BrennDispatchTable[row].kernelLA)[slot];
 }
 
-struct ModeScope {
-    uint32_t saved;
-    explicit ModeScope(uint32_t errorMode) : saved(brenn_zar_kernel_SetMode(errorMode)) {}
-    ~ModeScope() { brenn_zar_kernel_SetMode(saved); }
-};
-
 // One element through a binary slot, with the status it leaves.
 template <class T>
 T Call2(RowIndex row, int slot, T a, T b, int* status) {

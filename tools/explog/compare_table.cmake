@@ -1,5 +1,11 @@
-# Runs a table generator and compares its output with the committed table.
-execute_process(COMMAND ${GEN} ${OUT} RESULT_VARIABLE rc)
+# Runs a table generator and compares its output with the committed table. The generator
+# writes the file named by OUT, or, given SCRIPT (a sollya or Python script that GEN
+# runs), prints the table to standard output.
+if(DEFINED SCRIPT)
+  execute_process(COMMAND ${GEN} ${SCRIPT} OUTPUT_FILE ${OUT} RESULT_VARIABLE rc)
+else()
+  execute_process(COMMAND ${GEN} ${OUT} RESULT_VARIABLE rc)
+endif()
 if(NOT rc EQUAL 0)
   message(FATAL_ERROR "generator failed: ${GEN}")
 endif()
