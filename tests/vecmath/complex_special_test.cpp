@@ -1,7 +1,8 @@
-// The special values of the complex rows with vector bodies (Exp, Ln, Sqrt, Abs, Arg),
-// cell by cell on every pair of +-0, +-inf, NaN and finite parts, in every slot and both
-// precisions, against the C library's cexp, clog, csqrt, cabs and carg; the statuses of
-// those cells; and the branch cuts, whose sides the sign of a zero part picks.
+// The special values of the complex rows (Exp, Ln, Sqrt, Abs, Arg; Cos, Sin,
+// Cosh, Sinh, Log10), cell by cell on every pair of +-0, +-inf, NaN and finite
+// parts, in every slot and both precisions, against the C library's cexp, clog,
+// csqrt, cabs, carg, ccos, csin, ccosh, csinh and clog10; the statuses of those
+// cells; and the branch cuts, whose sides the sign of a zero part picks.
 #include <gtest/gtest.h>
 #include <limits>
 #include <string>
@@ -21,13 +22,24 @@ double cabs(double _Complex);
 float cabsf(float _Complex);
 double carg(double _Complex);
 float cargf(float _Complex);
+double _Complex ccos(double _Complex);
+float _Complex ccosf(float _Complex);
+double _Complex csin(double _Complex);
+float _Complex csinf(float _Complex);
+double _Complex ccosh(double _Complex);
+float _Complex ccoshf(float _Complex);
+double _Complex csinh(double _Complex);
+float _Complex csinhf(float _Complex);
+double _Complex clog10(double _Complex);
+float _Complex clog10f(float _Complex);
 }
 
 namespace brenn::test {
 namespace {
 
-// Where C99 Annex G leaves a sign unspecified, or the C library gives a NaN's payload or
-// sign, a cell is compared without the sign (named in the table below).
+// Where C99 Annex G leaves a sign unspecified, or the C library gives a NaN's
+// payload or sign, a cell is compared without the sign (named in the table
+// below).
 enum class Sign { Kept, Free };
 
 struct Fn {
@@ -56,19 +68,32 @@ const Fn kFns[] = {
     {"Sqrt", frame::Row_zSqrt, frame::Row_cSqrt, csqrt, csqrtf},
     {"Abs", frame::Row_zAbs, frame::Row_cAbs, CabsZ, CabsC},
     {"Arg", frame::Row_zArg, frame::Row_cArg, CargZ, CargC},
+    {"Cos", frame::Row_zCos, frame::Row_cCos, ccos, ccosf},
+    {"Sin", frame::Row_zSin, frame::Row_cSin, csin, csinf},
+    {"Cosh", frame::Row_zCosh, frame::Row_cCosh, ccosh, ccoshf},
+    {"Sinh", frame::Row_zSinh, frame::Row_cSinh, csinh, csinhf},
+    {"Log10", frame::Row_zLog10, frame::Row_cLog10, clog10, clog10f},
 };
 
 bool IsAbsArg(const Fn& f) {
     return f.z == frame::Row_zAbs || f.z == frame::Row_zArg;
 }
 
-// Cells where the sign is free, by Annex G: cexp(-inf + i inf) and cexp(-inf + i NaN) are
-// +-0 +- 0i; cexp(+inf + i inf) and cexp(+inf + i NaN) have a real part of either sign;
-// csqrt(-inf + i NaN) has an imaginary infinity of either sign. NaN parts are compared as
-// NaN whatever their sign.
+// Cells where the sign is free, by Annex G: cexp(-inf + i inf) and cexp(-inf +
+// i NaN) are
+// +-0 +- 0i; cexp(+inf + i inf) and cexp(+inf + i NaN) have a real part of
+// either sign; csqrt(-inf + i NaN) has an imaginary infinity of either sign;
+// ccosh(+0 + i inf) and ccosh(+0 + i NaN) are NaN +- 0i, so ccos(inf + i0) and
+// ccos(NaN + i0) are NaN +- 0i; csinh(+inf + i inf) and csinh(+inf + i NaN)
+// have a real infinity of either sign, so csin(NaN or inf + i inf) an imaginary
+// one. NaN parts are compared as NaN whatever their sign.
 bool SignFree(const Fn& f, double re, double im) {
     if (f.z == frame::Row_zExp) return std::isinf(re) && !std::isfinite(im);
     if (f.z == frame::Row_zSqrt) return std::isinf(re) && re < 0 && std::isnan(im);
+    if (f.z == frame::Row_zCosh) return re == 0 && !std::isfinite(im);
+    if (f.z == frame::Row_zCos) return im == 0 && !std::isfinite(re);
+    if (f.z == frame::Row_zSinh) return std::isinf(re) && !std::isfinite(im);
+    if (f.z == frame::Row_zSin) return std::isinf(im) && !std::isfinite(re);
     return false;
 }
 
@@ -136,9 +161,10 @@ TEST(ComplexSpecialValues, EveryCellAgreesWithTheCLibrary) {
         }
 }
 
-// Statuses of the special cells: Ln of zero is a pole; Exp of an infinite imaginary part
-// with a finite or +inf real part is a domain error; Exp overflows from finite parts;
-// Sqrt never reports, and NaNs report nothing anywhere.
+// Statuses of the special cells: Ln of zero is a pole; Exp of an infinite
+// imaginary part with a finite or +inf real part is a domain error; Exp
+// overflows from finite parts; Sqrt never reports, and NaNs report nothing
+// anywhere.
 TEST(ComplexSpecialValues, StatusesOfTheSpecialCells) {
     const double inf = std::numeric_limits<double>::infinity();
     const double nan = std::numeric_limits<double>::quiet_NaN();
@@ -169,8 +195,8 @@ TEST(ComplexSpecialValues, StatusesOfTheSpecialCells) {
         }
 }
 
-// Both sides of the cuts: Ln and Sqrt along the negative reals, by the sign of a zero
-// imaginary part, in long vectors (vector bodies) and alone.
+// Both sides of the cuts: Ln and Sqrt along the negative reals, by the sign of
+// a zero imaginary part, in long vectors (vector bodies) and alone.
 TEST(ComplexSpecialValues, BranchCutsFollowTheSignOfZero) {
     const double pi = 3.141592653589793;
     for (int slot : kCxSlots) {
@@ -218,8 +244,8 @@ TEST(ComplexSpecialValues, AbsOfHugeAndTinyParts) {
             std::vector<double> y(5);
             As<void (*)(int, const Z*, double*)>(CxRaw(frame::Row_zAbs, slot))(5, a.data(),
                                                                                y.data());
-            // within an ulp of the decimal (3e200 and 4e200 are not exact: the correctly
-            // rounded |z| is the double below 5e200)
+            // within an ulp of the decimal (3e200 and 4e200 are not exact: the
+            // correctly rounded |z| is the double below 5e200)
             if (std::isinf(c.want))
                 EXPECT_EQ(y[2], c.want) << c.a.re << " slot " << slot;
             else
