@@ -45,7 +45,7 @@ void ExpectLoads(const std::vector<uint8_t>& image, int32_t id, const std::vecto
         if (status < 0) {
             EXPECT_EQ(s, nullptr) << what;
         } else if (s != nullptr) {
-            std::vector<uint8_t> words(next.size() + 16);
+            std::vector<uint8_t> words(5 * 16); // five words of the widest generator
             EXPECT_EQ(_qesiRngUniformBits(0, s, 5, words.data()), 0) << what;
             if (!next.empty())
                 EXPECT_EQ(std::vector<uint8_t>(words.begin(), words.begin() + next.size()), next)
