@@ -117,7 +117,7 @@ void CheckAgainstScalar(RowIndex row, int slot, Fn scalar, double tolerance) {
         if (i % 7 == 3) b[i].im = 0; // a zero part: a special lane
         if (i % 11 == 5) a[i].re = std::numeric_limits<R>::infinity();
     }
-    CxModeScope quiet(BRENN_MODE_ERRMODE_IGNORE);
+    ModeScope quiet(BRENN_MODE_ERRMODE_IGNORE);
     As<Binary<E>>(CxRaw(row, slot))(n, a.data(), b.data(), y.data());
     for (int i = 0; i < n; ++i) {
         E want;
@@ -155,7 +155,7 @@ TEST(ComplexArith, VectorBodiesAgreeWithTheScalarRoutine) {
 // Overflow and pole statuses reach the reporter with the row's public name and the
 // element's index; a product that is merely huge reports nothing.
 TEST(ComplexArith, StatusesAreReportedWithTheRowName) {
-    CxModeScope mode(BRENN_MODE_ERRMODE_CALLBACK);
+    ModeScope mode(BRENN_MODE_ERRMODE_CALLBACK);
     ErrorCallback saved = brenn_zar_kernel_SetErrorCallBack(RecordCxReport);
     brenn_zar_kernel_SetInterfInputVectorPointer(nullptr);
     struct Row {

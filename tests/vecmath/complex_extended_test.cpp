@@ -6,6 +6,7 @@
 #include <limits>
 #include <vector>
 
+#include "frame/fpenv.h"
 #include "tests/vecmath/complex_util.h"
 
 namespace brenn::test {
@@ -14,15 +15,6 @@ namespace {
 const RowIndex kExtendedRows[] = {
     frame::Row_zCos, frame::Row_zSin, frame::Row_zCosh, frame::Row_zSinh, frame::Row_zLog10,
     frame::Row_cCos, frame::Row_cSin, frame::Row_cCosh, frame::Row_cSinh, frame::Row_cLog10};
-
-uint16_t ControlWord() {
-    uint16_t cw;
-    __asm__ volatile("fnstcw %0" : "=m"(cw));
-    return cw;
-}
-void SetControlWord(uint16_t cw) {
-    __asm__ volatile("fldcw %0" : : "m"(cw));
-}
 
 // One kernel in the three slots; with the caller's x87 unit at double precision
 // the results are those of extended precision, and the caller's word comes
@@ -35,12 +27,12 @@ TEST(ComplexExtended, OneKernelWhateverTheModeAndTheCallersPrecision) {
         if (row >= frame::Row_cCos && row <= frame::Row_cConj) continue;
         std::vector<Z> y(a.size()), w(a.size());
         As<Unary<Z>>(CxRaw(row, frame::SlotHA))(int(a.size()), a.data(), y.data());
-        const uint16_t saved = ControlWord();
+        const uint16_t saved = frame::ReadX87ControlWord();
         const uint16_t doublePrecision = uint16_t((saved & ~0x300) | 0x200);
-        SetControlWord(doublePrecision);
+        frame::LoadX87ControlWord(doublePrecision);
         As<Unary<Z>>(CxRaw(row, frame::SlotHA))(int(a.size()), a.data(), w.data());
-        EXPECT_EQ(ControlWord(), doublePrecision);
-        SetControlWord(saved);
+        EXPECT_EQ(frame::ReadX87ControlWord(), doublePrecision);
+        frame::LoadX87ControlWord(saved);
         for (size_t i = 0; i < a.size(); ++i)
             EXPECT_TRUE(SameParts(y[i], w[i])) << frame::kRowInfo[row].name << " element " << i;
     }
@@ -49,7 +41,7 @@ TEST(ComplexExtended, OneKernelWhateverTheModeAndTheCallersPrecision) {
 // Finite parts with an infinite result are overflows of Cos, Sin, Cosh and
 // Sinh, reported at their index.
 TEST(ComplexExtended, OverflowsAreReportedAtTheirIndex) {
-    CxModeScope mode(BRENN_MODE_ERRMODE_CALLBACK);
+    ModeScope mode(BRENN_MODE_ERRMODE_CALLBACK);
     ErrorCallback saved = brenn_zar_kernel_SetErrorCallBack(RecordCxReport);
     brenn_zar_kernel_SetInterfInputVectorPointer(nullptr);
     struct Case {

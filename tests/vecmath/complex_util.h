@@ -1,5 +1,5 @@
 // Helpers of the complex-row tests: calls of a row's slot on complex elements with the
-// status it leaves, the thread's error mode for a scope, and a recording callback.
+// status it leaves, and a recording callback.
 #ifndef BRENN_TESTS_VECMATH_COMPLEX_UTIL_H
 #define BRENN_TESTS_VECMATH_COMPLEX_UTIL_H
 
@@ -21,12 +21,6 @@ constexpr int kCxSlots[] = {frame::SlotLA, frame::SlotHA, frame::SlotEP};
 inline BrennKernel CxRaw(RowIndex row, int slot) {
     return (&BrennDispatchTable[row].kernelLA)[slot];
 }
-
-struct CxModeScope {
-    uint32_t saved;
-    explicit CxModeScope(uint32_t mode) : saved(brenn_zar_kernel_SetMode(mode)) {}
-    ~CxModeScope() { brenn_zar_kernel_SetMode(saved); }
-};
 
 // One element through a slot, with the status it leaves (0 when none was reported).
 template <class E>
