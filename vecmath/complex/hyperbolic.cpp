@@ -19,6 +19,22 @@
 namespace brenn::vm::cx {
 namespace {
 
+// cosh x and sinh x from one exponential: with m = e^|x| - 1 (exact near 0),
+// sinh|x| = (m + m/(m + 1))/2 and cosh x = ((m + 1) + 1/(m + 1))/2. Beyond |x| = 11000,
+// where e^|x| leaves the extended range, the library's own cosh and sinh give the
+// infinities.
+void CoshSinh(LD x, LD& ch, LD& sh) {
+    LD a = fabsl(x);
+    if (a > 11000) {
+        ch = coshl(x);
+        sh = sinhl(x);
+        return;
+    }
+    LD m = expm1l(a), e = m + 1;
+    ch = (e + 1 / e) * 0.5L;
+    sh = __builtin_copysignl((m + m / e) * 0.5L, x);
+}
+
 LD Turned(LD y) { // -y, but a NaN keeps its sign
     return __builtin_isnan(y) ? y : -y;
 }
@@ -34,8 +50,11 @@ int CoshOf(LD x, LD y, LD& re, LD& im) {
         re = x * x;
         im = y - y;
     } else {
-        re = coshl(x) * cosl(y);
-        im = sinhl(x) * sinl(y);
+        LD ch, sh, c, sn;
+        CoshSinh(x, ch, sh);
+        sincosl(y, &sn, &c);
+        re = ch * c;
+        im = sh * sn;
     }
     return status::kNone;
 }
@@ -51,8 +70,11 @@ int SinhOf(LD x, LD y, LD& re, LD& im) {
         re = x;
         im = y - y;
     } else {
-        re = sinhl(x) * cosl(y);
-        im = coshl(x) * sinl(y);
+        LD ch, sh, c, sn;
+        CoshSinh(x, ch, sh);
+        sincosl(y, &sn, &c);
+        re = sh * c;
+        im = ch * sn;
     }
     return status::kNone;
 }
