@@ -20,12 +20,15 @@ struct WordsOut {
 };
 
 // Two words as exact doubles: placed under the exponent of 2^52, which is then
-// taken away again.
+// taken away again. Rounding downward, 2^52 - 2^52 is -0; the sign is cleared so
+// that a zero word gives +0 in every mode, as the scalar conversion does.
 inline __m128d TwoWordsToDouble(const uint32_t* u) {
     __m128i w = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(u));
     w = _mm_unpacklo_epi32(w, _mm_setzero_si128());
     const __m128i magic = _mm_set1_epi64x(0x4330000000000000ll);
-    return _mm_sub_pd(_mm_castsi128_pd(_mm_or_si128(w, magic)), _mm_set1_pd(4503599627370496.0));
+    const __m128d d =
+        _mm_sub_pd(_mm_castsi128_pd(_mm_or_si128(w, magic)), _mm_set1_pd(4503599627370496.0));
+    return _mm_andnot_pd(_mm_set1_pd(-0.0), d);
 }
 
 inline void StoreTwo(double* to, __m128d v) {
