@@ -7,7 +7,9 @@
 #include <cstdint>
 #include <cstring>
 #include <dlfcn.h>
+#include <gtest/gtest.h>
 #include <string>
+#include <vector>
 #include <xmmintrin.h>
 
 #include "brenn_vecmath.h"
@@ -73,6 +75,29 @@ T CallUnary(Unary<T> k, T x, int* status = nullptr) {
     k(1, &x, &y);
     if (status) *status = brenn_zar_kernel_GetErrStatus();
     return y;
+}
+
+// Every length from 1 to maxLen at every alignment of four, in place too: each element
+// comes out as the kernel gives it alone (one[i] for pool[i]). Inputs are drawn from the
+// pool in a stride that moves each value through every lane. A fatal failure names the
+// call and returns.
+template <class T, size_t N>
+void ExpectLanesAgree(Unary<T> k, const T (&pool)[N], const T (&one)[N], int maxLen,
+                      const std::string& what) {
+    for (int len = 1; len <= maxLen; ++len)
+        for (int off = 0; off < 4; ++off) {
+            std::vector<T> in(len + 4), out(len + 4);
+            for (int i = 0; i < len; ++i)
+                in[off + i] = pool[(i * 7 + len) % N];
+            k(len, in.data() + off, out.data() + off);
+            for (int i = 0; i < len; ++i)
+                ASSERT_TRUE(SameValue(out[off + i], one[(i * 7 + len) % N]))
+                    << what << " len " << len << " i " << i;
+            k(len, in.data() + off, in.data() + off);
+            for (int i = 0; i < len; ++i)
+                ASSERT_TRUE(SameValue(in[off + i], one[(i * 7 + len) % N]))
+                    << what << " in place, len " << len << " i " << i;
+        }
 }
 
 // The thread's error mode for a scope, the previous mode word restored afterwards.
