@@ -133,18 +133,21 @@ BRENN_FE_EXPORT int brenn_rng_load_file(brenn_stream** stream, const char* path)
 BRENN_FE_EXPORT int brenn_rng_suniform(brenn_stream* stream, int method, int n, float* r, float a,
                                        float b) {
     if (int s = CheckDraw(stream, n, r)) return s;
+    if (!(a < b)) return BRENN_ERR_BAD_ARGUMENT;
     return _qessRngUniform(method, stream, n, r, a, b);
 }
 
 BRENN_FE_EXPORT int brenn_rng_duniform(brenn_stream* stream, int method, int n, double* r, double a,
                                        double b) {
     if (int s = CheckDraw(stream, n, r)) return s;
+    if (!(a < b)) return BRENN_ERR_BAD_ARGUMENT;
     return _qesdRngUniform(method, stream, n, r, a, b);
 }
 
 BRENN_FE_EXPORT int brenn_rng_iuniform(brenn_stream* stream, int method, int n, int32_t* r,
                                        int32_t a, int32_t b) {
     if (int s = CheckDraw(stream, n, r)) return s;
+    if (a >= b) return BRENN_ERR_BAD_ARGUMENT;
     return _qesiRngUniform(method, stream, n, r, a, b);
 }
 

@@ -84,7 +84,8 @@ int brenn_rng_save_file(const brenn_stream* stream, const char* path);
 int brenn_rng_load_file(brenn_stream** stream, const char* path);
 
 /** n uniform floats on [a, b) (method 0 or QES_RNG_METHOD_UNIFORM_ACCURATE).
- * @return BRENN_OK, a refusal, or the service's status (QES_STATUS_BAD_ARGUMENT for b <= a). */
+ * @return BRENN_OK, a refusal (BRENN_ERR_BAD_ARGUMENT when a < b does not hold, NaN
+ *         bounds included; nothing is drawn), or the service's status. */
 int brenn_rng_suniform(brenn_stream* stream, int method, int n, float* r, float a, float b);
 /** n uniform doubles on [a, b). @copydetails brenn_rng_suniform */
 int brenn_rng_duniform(brenn_stream* stream, int method, int n, double* r, double a, double b);

@@ -63,6 +63,21 @@ TEST(FrontendRngChecks, DrawArgumentsAreCheckedBeforeAnyDraw) {
     EXPECT_EQ(brenn_rng_iuniform(s, 0, 4, nullptr, 0, 6), BRENN_ERR_NULL_POINTER);
     EXPECT_EQ(brenn_rng_iuniform(nullptr, 0, 4, r, 0, 6), BRENN_ERR_NULL_POINTER);
     EXPECT_EQ(brenn_rng_leapfrog(s, 3, 3), BRENN_ERR_BAD_ARGUMENT);
+    // Empty, reversed and NaN ranges of the uniforms.
+    EXPECT_EQ(brenn_rng_iuniform(s, 0, 4, r, 6, 6), BRENN_ERR_BAD_ARGUMENT);
+    EXPECT_EQ(brenn_rng_iuniform(s, 0, 4, r, 6, -6), BRENN_ERR_BAD_ARGUMENT);
+    double d[4] = {-7, -7, -7, -7};
+    float f[4] = {-7, -7, -7, -7};
+    for (double b : {0.5, 0.25, std::nan("")}) {
+        EXPECT_EQ(brenn_rng_duniform(s, 0, 4, d, 0.5, b), BRENN_ERR_BAD_ARGUMENT) << b;
+        const auto fb = static_cast<float>(b);
+        EXPECT_EQ(brenn_rng_suniform(s, 0, 4, f, 0.5f, fb), BRENN_ERR_BAD_ARGUMENT) << b;
+    }
+    EXPECT_EQ(brenn_rng_duniform(s, 0, 4, d, std::nan(""), 1.0), BRENN_ERR_BAD_ARGUMENT);
+    for (int k = 0; k < 4; ++k) {
+        EXPECT_EQ(d[k], -7.0);
+        EXPECT_EQ(f[k], -7.0f);
+    }
     for (int v : r)
         EXPECT_EQ(v, -7);
     // Nothing was drawn: the stream and its copy still agree.
