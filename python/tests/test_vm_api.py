@@ -35,8 +35,9 @@ def test_other_dtypes_are_refused(bad):
 
 
 def test_family_without_a_complex_row_refuses_complex():
+    # Cube roots have real rows only.
     with pytest.raises(TypeError, match="no row for dtype complex128"):
-        vm.exp(np.ones(3, dtype=np.complex128))
+        vm.cbrt(np.ones(3, dtype=np.complex128))
 
 
 def test_shapes_layouts_and_out():
