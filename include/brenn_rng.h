@@ -1090,6 +1090,178 @@ int32_t _qesiRngBernoulli(int32_t method, void* stream, int32_t n, int32_t* r, d
  * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; QES_STATUS_BAD_ARGUMENT; a status of
  *         the generator (QES_RNG_ERROR_BITS_NOT_SUPPORTED for too few bits). */
 int32_t _qesiRngGeometric(int32_t method, void* stream, int32_t n, int32_t* r, double p);
+/** Single-precision Gaussian variates a + sigma z.
+ * @param method 0 Box-Muller, sine halves; 1 Box-Muller, both halves; 2 inverse CDF
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param a mean
+ * @param sigma standard deviation
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; a status of the generator. */
+int32_t _qessRngGaussian(int32_t method, void* stream, int32_t n, float* r, float a, float sigma);
+/** Double-precision Gaussian variates a + sigma z.
+ * @param method 0 Box-Muller, sine halves; 1 Box-Muller, both halves; 2 inverse CDF
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param a mean
+ * @param sigma standard deviation
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; a status of the generator. */
+int32_t _qesdRngGaussian(int32_t method, void* stream, int32_t n, double* r, double a,
+                         double sigma);
+/** Single-precision lognormal variates max(b, beta exp(a + sigma z) + b).
+ * @param method 0 from Gaussian method 1, any other value from method 2
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param a mean of the logarithm
+ * @param sigma its standard deviation
+ * @param b shift
+ * @param beta scale
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; a status of the generator. */
+int32_t _qessRngLognormal(int32_t method, void* stream, int32_t n, float* r, float a, float sigma,
+                          float b, float beta);
+/** Double-precision lognormal variates max(b, beta exp(a + sigma z) + b).
+ * @param method 0 from Gaussian method 1, any other value from method 2
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param a mean of the logarithm
+ * @param sigma its standard deviation
+ * @param b shift
+ * @param beta scale
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; a status of the generator. */
+int32_t _qesdRngLognormal(int32_t method, void* stream, int32_t n, double* r, double a,
+                          double sigma, double b, double beta);
+/** Single-precision exponential variates max(a, a - beta ln u).
+ * @param method 0 (not read)
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param a shift
+ * @param beta scale
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; a status of the generator. */
+int32_t _qessRngExponential(int32_t method, void* stream, int32_t n, float* r, float a, float beta);
+/** Double-precision exponential variates max(a, a - beta ln u).
+ * @param method 0 (not read)
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param a shift
+ * @param beta scale
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; a status of the generator. */
+int32_t _qesdRngExponential(int32_t method, void* stream, int32_t n, double* r, double a,
+                            double beta);
+/** Single-precision Gumbel variates beta ln(-ln u) + a (the minimum form).
+ * @param method 0 (not read)
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param a location
+ * @param beta scale
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; a status of the generator. */
+int32_t _qessRngGumbel(int32_t method, void* stream, int32_t n, float* r, float a, float beta);
+/** Double-precision Gumbel variates beta ln(-ln u) + a (the minimum form).
+ * @param method 0 (not read)
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param a location
+ * @param beta scale
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; a status of the generator. */
+int32_t _qesdRngGumbel(int32_t method, void* stream, int32_t n, double* r, double a, double beta);
+/** Single-precision Laplace variates a +- beta ln u.
+ * @param method 0 (not read)
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param a location
+ * @param beta scale
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; a status of the generator. */
+int32_t _qessRngLaplace(int32_t method, void* stream, int32_t n, float* r, float a, float beta);
+/** Double-precision Laplace variates a +- beta ln u.
+ * @param method 0 (not read)
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param a location
+ * @param beta scale
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; a status of the generator. */
+int32_t _qesdRngLaplace(int32_t method, void* stream, int32_t n, double* r, double a, double beta);
+/** Single-precision Rayleigh variates max(a, beta sqrt(-ln u) + a).
+ * @param method 0 (not read)
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param a shift
+ * @param beta scale
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; a status of the generator. */
+int32_t _qessRngRayleigh(int32_t method, void* stream, int32_t n, float* r, float a, float beta);
+/** Double-precision Rayleigh variates max(a, beta sqrt(-ln u) + a).
+ * @param method 0 (not read)
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param a shift
+ * @param beta scale
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; a status of the generator. */
+int32_t _qesdRngRayleigh(int32_t method, void* stream, int32_t n, double* r, double a, double beta);
+/** Single-precision Weibull variates max(a, beta (-ln u)^(1/alpha) + a).
+ * @param method 0 (not read)
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param alpha shape
+ * @param a shift
+ * @param beta scale
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; a status of the generator. */
+int32_t _qessRngWeibull(int32_t method, void* stream, int32_t n, float* r, float alpha, float a,
+                        float beta);
+/** Double-precision Weibull variates max(a, beta (-ln u)^(1/alpha) + a).
+ * @param method 0 (not read)
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param alpha shape
+ * @param a shift
+ * @param beta scale
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; a status of the generator. */
+int32_t _qesdRngWeibull(int32_t method, void* stream, int32_t n, double* r, double alpha, double a,
+                        double beta);
+/** Single-precision Cauchy variates a + beta tan(v), v uniform on [-pi/2, pi/2).
+ * @param method 0 (not read)
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param a location
+ * @param beta scale
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; a status of the generator. */
+int32_t _qessRngCauchy(int32_t method, void* stream, int32_t n, float* r, float a, float beta);
+/** Double-precision Cauchy variates a + beta tan(v), v uniform on [-pi/2, pi/2).
+ * @param method 0 (not read)
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param a location
+ * @param beta scale
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; a status of the generator. */
+int32_t _qesdRngCauchy(int32_t method, void* stream, int32_t n, double* r, double a, double beta);
 
 #ifdef __cplusplus
 }

@@ -1,0 +1,117 @@
+// The Box-Muller method that uses both halves of each pair: sine and cosine from one
+// SinCos. A cosine half left over by an odd call waits in a chunk of the stream as
+// its two raw uniforms (-1.0 twice when none waits), so the variates a stream yields
+// do not depend on how the calls cut them; a and sigma apply at delivery.
+#include "platform/serv.h"
+#include "rng/dist/continuous.h"
+
+namespace brenn::rng {
+
+namespace {
+
+// Radius sqrt(-2 ln u1) of `m` pairs taken from 2m words into `radius`, the angles
+// 2 pi u2 into `sine` and `cosine`. The logarithm is out of place: the sentinel
+// reads its argument back from the source.
+template <typename T>
+void Pairs(int32_t m, T* words, T* angle, T* radius, T* sine, T* cosine) {
+    using C = Continuous<T>;
+    const T twoPi = C::TwoPi();
+    for (int32_t i = 0; i < m; ++i) {
+        T u1 = words[2 * i], u2 = words[2 * i + 1];
+        words[i] = u1;
+        angle[i] = u2 * twoPi;
+    }
+    C::SinCos(m, angle, sine, cosine);
+    C::LnTo(m, words, radius);
+    for (int32_t i = 0; i < m; ++i)
+        radius[i] = -(radius[i] + radius[i]);
+    C::Sqrt(m, radius);
+}
+
+// The chunk of the stream, made with nothing waiting on first use; null with the
+// status in `status` when it cannot be made.
+template <typename T>
+T* PendingChunk(void* stream, int32_t* status) {
+    const int32_t id = Continuous<T>::kChunk;
+    T* pending = static_cast<T*>(__qesSearchChunk(stream, id));
+    if (pending != nullptr) return pending;
+    pending = static_cast<T*>(brenn_serv_allocate(2 * sizeof(T), 128));
+    if (pending == nullptr) {
+        *status = QES_ERROR_MEM_FAILURE;
+        return nullptr;
+    }
+    pending[0] = T(-1);
+    pending[1] = T(-1);
+    *status = __qesAddChunk(stream, id, nullptr, pending, 2 * sizeof(T));
+    if (*status != QES_STATUS_OK) {
+        brenn_serv_deallocate(pending);
+        return nullptr;
+    }
+    return pending;
+}
+
+} // namespace
+
+template <typename T>
+int32_t GaussianBoxMuller2(void* stream, int32_t n, T* r, T a, T sigma) {
+    using C = Continuous<T>;
+    if (n <= 0) return QES_STATUS_OK;
+    int32_t status = QES_STATUS_OK;
+    T* pending = PendingChunk<T>(stream, &status);
+    if (pending == nullptr) return status;
+    int32_t written = 0;
+    if (pending[0] != T(-1)) {
+        // The waiting cosine half, computed in the chunk itself: a failure later in
+        // this call leaves the chunk as this step leaves it.
+        pending[1] *= C::TwoPi();
+        C::Cos(1, pending + 1);
+        T l;
+        C::LnTo(1, pending, &l);
+        pending[0] = -(l + l);
+        C::Sqrt(1, pending);
+        r[0] = pending[0] * pending[1];
+        written = 1;
+    }
+    const int32_t owed = n - written;
+    constexpr int32_t kHalf = kContinuousBlock / 2;
+    T words[kContinuousBlock];
+    T angle[kHalf], radius[kHalf], cosine[kHalf];
+    T* sine = words + kHalf; // the angle words' half, free once they are read
+    auto pairs = [&](int32_t m) {
+        status = C::Uniform(stream, 2 * m, words, T(0), T(1));
+        if (status < 0) return false;
+        Pairs(m, words, angle, radius, sine, cosine);
+        for (int32_t i = 0; i < m; ++i) {
+            r[written++] = radius[i] * sine[i];
+            r[written++] = radius[i] * cosine[i];
+        }
+        return true;
+    };
+    for (int32_t b = owed / kContinuousBlock; b > 0; --b)
+        if (!pairs(kHalf)) return status;
+    const int32_t p = (n - written) / 2;
+    if (p > 0 && !pairs(p)) return status;
+    if (owed % 2 != 0) {
+        T u[2];
+        status = C::Uniform(stream, 2, u, T(0), T(1));
+        if (status < 0) return status;
+        pending[0] = u[0];
+        pending[1] = u[1];
+        T last, angle1 = u[1] * C::TwoPi();
+        C::Sin(1, &angle1);
+        C::LnTo(1, u, &last);
+        last = -(last + last);
+        C::Sqrt(1, &last);
+        r[n - 1] = last * angle1;
+    } else {
+        pending[0] = T(-1);
+        pending[1] = T(-1);
+    }
+    AffinePass(n, r, sigma, a);
+    return status;
+}
+
+template int32_t GaussianBoxMuller2<float>(void*, int32_t, float*, float, float);
+template int32_t GaussianBoxMuller2<double>(void*, int32_t, double*, double, double);
+
+} // namespace brenn::rng
