@@ -245,6 +245,26 @@ TEST(RngContinuous, WeibullAtAlphaOneIsTheExponential) {
     __qesDeleteStream(&t);
 }
 
+TEST(RngContinuous, LognormalFollowsItsGaussianMethod) {
+    // Any method word but 0 is the inverse CDF: one uniform a variate, and refused
+    // with the stream untouched when the library has no ErfInv row.
+    for (int32_t method : {1, 2, 7}) {
+        void* s = NewSeeded(QES_BRNG_MT19937, 8);
+        void* t = CopyOf(s);
+        std::vector<double> r(1500), g(1500);
+        int32_t status = _qesdRngLognormal(method, s, 1500, r.data(), 0.5, 0.25, 1.0, 2.0);
+        if (!Ref<double>::HasErfInv()) {
+            EXPECT_EQ(status, QES_STATUS_BAD_METHOD);
+        } else {
+            ASSERT_EQ(status, 0);
+            ASSERT_EQ(_qesdRngGaussian(2, t, 1500, g.data(), 0.5, 0.25), 0);
+            for (int i = 0; i < 1500; ++i)
+                ASSERT_EQ(r[i], Max(Ref<double>::Exp(g[i]) * 2.0 + 1.0, 1.0)) << i;
+        }
+        ExpectInStepAndDelete(s, t);
+    }
+}
+
 int Marker(ErrorRecord*) {
     return 0;
 }
