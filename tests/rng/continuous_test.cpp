@@ -3,6 +3,7 @@
 // lengths and alignments, the uniforms taken, calls cut anywhere, the sentinels for
 // a uniform of exactly 0, and the caller's settings coming back.
 #include <cmath>
+#include <cstring>
 #include <functional>
 #include <random>
 #include <string>
@@ -186,15 +187,42 @@ TEST(RngContinuous, UniformsTakenAndCallsCutAnywhere) {
     ExpectTakenAndCuts(Members_s());
 }
 
+// A generator that records the counts of its double requests: uniforms k / 8.
+std::vector<int32_t> requests;
+
+int32_t RecordInit(int32_t, void*, int32_t, const void*) {
+    return 0;
+}
+int32_t RecordD(void*, int32_t n, double* r, double a, double b) {
+    requests.push_back(n);
+    for (int32_t i = 0; i < n; ++i)
+        r[i] = a + (b - a) * ((i % 8) / 8.0);
+    return 0;
+}
+int32_t RecordS(void*, int32_t n, float* r, float a, float b) {
+    requests.push_back(n);
+    for (int32_t i = 0; i < n; ++i)
+        r[i] = a + (b - a) * ((i % 8) / 8.0f);
+    return 0;
+}
+int32_t RecordI(void*, int32_t n, void* r) {
+    std::memset(r, 0, 4 * static_cast<size_t>(n > 0 ? n : 0));
+    return 0;
+}
+
 TEST(RngContinuous, LaplaceFetchesTheEmptyRest) {
-    // 1024 variates: one block of 2048 words and a last fetch of 0, which a
-    // generator at its limit still answers (the stepping one refuses only beyond).
-    std::vector<double> r(1024);
-    void* s = NewStepStream(2048);
-    EXPECT_EQ(_qesdRngLaplace(0, s, 1024, r.data(), 0.0, 1.0), 0);
-    __qesDeleteStream(&s);
-    s = NewStepStream(2047);
-    EXPECT_EQ(_qesdRngLaplace(0, s, 1024, r.data(), 0.0, 1.0), QES_RNG_STATUS_RDRAND_FAILED);
+    static const BrngRecord record = {24, 1, 1, 4, 32, RecordInit, RecordS, RecordD, RecordI};
+    int32_t id = __qesRegisterBrng(&record);
+    ASSERT_GT(id, 0);
+    void* s = NewSeeded(id, 1);
+    std::vector<double> r(2048);
+    for (int32_t n : {0, 1024, 2048, 1025}) {
+        requests.clear();
+        ASSERT_EQ(_qesdRngLaplace(0, s, n, r.data(), 0.0, 1.0), 0);
+        std::vector<int32_t> expected(n / 1024, 2048);
+        expected.push_back(2 * (n % 1024)); // also when it is 0
+        EXPECT_EQ(requests, expected) << n;
+    }
     __qesDeleteStream(&s);
 }
 
