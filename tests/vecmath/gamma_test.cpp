@@ -237,14 +237,6 @@ TEST(Gamma, TGammaSignsBetweenNegativePoles) {
 // The caller's x87 control word (a 53-bit precision with rounding up, say) and MXCSR
 // (its rounding and flush controls) come back unchanged after every row and slot, and
 // the results do not depend on the caller's x87 precision.
-uint16_t ReadCw() {
-    uint16_t cw;
-    __asm__ volatile("fnstcw %0" : "=m"(cw));
-    return cw;
-}
-void LoadCw(uint16_t cw) {
-    __asm__ volatile("fldcw %0" : : "m"(cw));
-}
 
 template <class T>
 void ExpectControlsKept(const char* row) {
@@ -256,16 +248,16 @@ void ExpectControlsKept(const char* row) {
         K<T>(row, slot)(n, in, expect);
         for (uint16_t cw : {uint16_t(0x27F), uint16_t(0xA7F), uint16_t(0x07F), uint16_t(0x37F)})
             for (unsigned csr : {0x1F80u, 0x1F80u | 0x6000u, 0x1F80u | 0x8040u}) {
-                const uint16_t saved = ReadCw();
-                LoadCw(cw);
+                const uint16_t saved = ReadX87Cw();
+                LoadX87Cw(cw);
                 unsigned after;
                 {
                     CsrScope scope(csr);
                     K<T>(row, slot)(n, in, y);
                     after = _mm_getcsr();
                 }
-                uint16_t cwAfter = ReadCw();
-                LoadCw(saved);
+                uint16_t cwAfter = ReadX87Cw();
+                LoadX87Cw(saved);
                 EXPECT_EQ(cwAfter, cw) << row << " slot " << slot;
                 EXPECT_EQ(after & ~0x3Fu, csr) << row << " slot " << slot;
                 if (csr == 0x1F80u)

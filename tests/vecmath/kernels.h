@@ -100,6 +100,16 @@ void ExpectLanesAgree(Unary<T> k, const T (&pool)[N], const T (&one)[N], int max
         }
 }
 
+// The x87 control word, read and loaded.
+inline uint16_t ReadX87Cw() {
+    uint16_t cw;
+    __asm__ volatile("fnstcw %0" : "=m"(cw));
+    return cw;
+}
+inline void LoadX87Cw(uint16_t cw) {
+    __asm__ volatile("fldcw %0" : : "m"(cw));
+}
+
 // The thread's error mode for a scope, the previous mode word restored afterwards.
 struct ModeScope {
     uint32_t saved;

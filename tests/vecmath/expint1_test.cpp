@@ -1,0 +1,188 @@
+// ExpInt1, single and double, LA and HA (one kernel): the special values with their
+// statuses (domain 1 below 0, pole 2 at 0, underflow 4 in the tail) and quieted NaNs,
+// values on both sides of the routine's switch at 1 and of its cell edges against a
+// reference of its own (series and continued fraction in long double), the caller's x87
+// control word and MXCSR, and every length and alignment against one element at a time.
+#include <cfloat>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <vector>
+#include <xmmintrin.h>
+
+#include "tests/vecmath/kernels.h"
+
+namespace brenn::test {
+namespace {
+
+constexpr int kSlots[] = {0, 1};
+
+template <class T>
+const char* Row() {
+    return sizeof(T) == 4 ? "sExpInt1" : "dExpInt1";
+}
+
+template <class T>
+Unary<T> K(int slot) {
+    return As<Unary<T>>(Slot(Row<T>(), slot));
+}
+
+// E1(x) for x > 0 in long double: the power series up to 2, the continued fraction
+// e^-x / (x + 1 - 1/(x + 3 - 4/(x + 5 - ...))) by Lentz's method beyond.
+long double E1Ref(long double x) {
+    if (x <= 2) {
+        long double sum = 0, term = 1;
+        for (int k = 1; k < 200; ++k) {
+            term *= -x / k;
+            sum += term / k;
+        }
+        return -0.57721566490153286060651209008240243L - logl(x) - sum;
+    }
+    const long double tiny = 1e-4000L;
+    long double b = x + 1, c = 1 / tiny, d = 1 / b, h = d;
+    for (int i = 1; i < 100000; ++i) {
+        long double a = -(long double)i * i;
+        b += 2;
+        d = 1 / (a * d + b);
+        c = b + a / c;
+        long double del = c * d;
+        h *= del;
+        if (fabsl(del - 1) < 1e-21L) break;
+    }
+    return h * expl(-x);
+}
+
+template <class T>
+void ExpectSpecialValues() {
+    const T inf = std::numeric_limits<T>::infinity(), nan = std::numeric_limits<T>::quiet_NaN();
+    const T denorm = std::numeric_limits<T>::denorm_min();
+    const bool single = sizeof(T) == 4;
+    struct Case {
+        T x, y;
+        int status;
+    };
+    const Case cases[] = {
+        {T(0), inf, 2},
+        {T(-0.0), inf, 2},
+        {T(-1), nan, 1},
+        {-denorm, nan, 1},
+        {-inf, nan, 1},
+        {inf, T(0), 0},
+        {nan, nan, 0},
+        {std::numeric_limits<T>::signaling_NaN(), nan, 0},
+        {single ? T(120) : T(800), T(0), 4}, // far below the smallest denormal
+        {single ? T(1e30) : T(1e300), T(0), 4},
+        {std::numeric_limits<T>::max(), T(0), 4},
+    };
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    for (int slot : kSlots)
+        for (const Case& c : cases) {
+            int st;
+            T y = CallUnary(K<T>(slot), c.x, &st);
+            EXPECT_TRUE(SameValue(y, c.y)) << Row<T>() << " x " << c.x << " got " << y;
+            EXPECT_EQ(st, c.status) << Row<T>() << " x " << c.x;
+            if (std::isnan(y))
+                EXPECT_NE(Bits(y) & (single ? 0x400000u : 0x8000000000000ull), 0u)
+                    << Row<T>() << " NaN comes back quiet";
+        }
+}
+
+TEST(ExpInt1, SpecialValuesAndStatuses) {
+    ExpectSpecialValues<float>();
+    ExpectSpecialValues<double>();
+}
+
+// Within an ulp of the reference, reporting nothing while the result is normal and 4
+// once it is not: tiny and denormal arguments (where ln x rules), the switch at 1, the
+// edges of t = 1/x's cells and binades, and the tail down through the underflow.
+template <class T>
+void ExpectValues() {
+    const bool single = sizeof(T) == 4;
+    std::vector<T> xs = {std::numeric_limits<T>::denorm_min(),
+                         std::numeric_limits<T>::min(),
+                         T(1e-30),
+                         T(1e-8),
+                         T(0.03125),
+                         T(0.5),
+                         T(0.96875),
+                         T(1.0625)};
+    for (T edge : {T(1), T(2), T(4), T(1.0L / 0.53125L), T(16), T(64), T(100), T(512)})
+        for (T x : {std::nextafter(edge, T(0)), edge, std::nextafter(edge, T(1e4))})
+            xs.push_back(x);
+    for (T x = single ? T(80) : T(690); x < (single ? T(104) : T(745)); x += T(0.375))
+        xs.push_back(x);
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    for (int slot : kSlots)
+        for (T x : xs) {
+            if (single && x > T(512)) continue;
+            int st;
+            T y = CallUnary(K<T>(slot), x, &st);
+            long double ref = E1Ref(x);
+            EXPECT_LE(UlpError(y, ref), 1.0) << Row<T>() << " x " << x;
+            EXPECT_EQ(st, y >= std::numeric_limits<T>::min() ? 0 : 4) << Row<T>() << " x " << x;
+        }
+}
+
+TEST(ExpInt1, ValuesAcrossThePathsAndIntoTheUnderflow) {
+    ExpectValues<float>();
+    ExpectValues<double>();
+}
+
+// The caller's x87 control word (53-bit precision, rounding up, ...) and MXCSR come back
+// as they were, and the results do not depend on either.
+template <class T>
+void ExpectControlsKept() {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    const T in[] = {T(0.3), T(1), T(1.5), T(-2.5), T(0), T(7.25), T(30), T(1e-3), T(INFINITY)};
+    constexpr int n = sizeof(in) / sizeof(in[0]);
+    T expect[n], y[n];
+    for (int slot : kSlots) {
+        K<T>(slot)(n, in, expect);
+        for (uint16_t cw : {uint16_t(0x27F), uint16_t(0xA7F), uint16_t(0x07F), uint16_t(0x37F)})
+            for (unsigned csr : {0x1F80u, 0x1F80u | 0x6000u, 0x1F80u | 0x8040u}) {
+                const uint16_t saved = ReadX87Cw();
+                LoadX87Cw(cw);
+                unsigned after;
+                {
+                    CsrScope scope(csr);
+                    K<T>(slot)(n, in, y);
+                    after = _mm_getcsr();
+                }
+                uint16_t cwAfter = ReadX87Cw();
+                LoadX87Cw(saved);
+                EXPECT_EQ(cwAfter, cw) << Row<T>();
+                EXPECT_EQ(after & ~0x3Fu, csr) << Row<T>();
+                if (csr == 0x1F80u)
+                    for (int i = 0; i < n; ++i)
+                        EXPECT_TRUE(SameValue(y[i], expect[i])) << Row<T>() << " x " << in[i];
+            }
+    }
+}
+
+TEST(ExpInt1, CallersControlWordAndCsrComeBack) {
+    ExpectControlsKept<float>();
+    ExpectControlsKept<double>();
+}
+
+template <class T>
+void ExpectRowLanesAgree() {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    const T pool[] = {T(0.25), T(-1), T(3.5),     T(0),   T(1),
+                      T(NAN),  T(40), T(0.96875), T(200), T(1e-20)};
+    constexpr int n = sizeof(pool) / sizeof(pool[0]);
+    for (int slot : kSlots) {
+        T one[n];
+        for (int i = 0; i < n; ++i)
+            one[i] = CallUnary(K<T>(slot), pool[i]);
+        ExpectLanesAgree(K<T>(slot), pool, one, 21,
+                         std::string(Row<T>()) + " slot " + std::to_string(slot));
+    }
+}
+
+TEST(ExpInt1, EveryLengthAndAlignmentAgreesWithOneElement) {
+    ExpectRowLanesAgree<float>();
+    ExpectRowLanesAgree<double>();
+}
+
+} // namespace
+} // namespace brenn::test

@@ -1,0 +1,134 @@
+/* ExpInt1, single and double: E1(x), the exponential integral, in one kernel for LA and
+ * HA, element by element through the scalar routine, which works in a wider format:
+ * x87 extended for double, double for single (the C library's log and exp there).
+ *
+ *   0 < x <= 1: E1(x) = -gamma - ln x + x S(x), S the exponential integral's own series
+ *   (21 terms in extended, 12 in double); E1 is at least 0.219 here, so the logarithm's
+ *   absolute error stays small next to it, also where ln x is near 0.
+ *   x > 1: E1(x) = e^-x t G(t), t = 1/x, G(t) = x e^x E1(x) by its Taylor polynomial
+ *   about the centre of t's cell (16 cells a binade, t down to 2^-10; 14 terms in
+ *   extended, 7 in double). Both sets of constants come from tools/gamma/gen_expint1.py.
+ *   Beyond 750 (110 in single) the result is below half the smallest denormal: +0.
+ *   A result below the smallest normal reports an underflow, status 4.
+ *   x < 0 (and -inf) is outside the domain: NaN, status 1; +-0 is the pole: +inf,
+ *   status 2; +inf gives +0; NaN comes back quieted.
+ * The kernel runs the x87 unit at 64-bit precision, rounding to nearest, and puts the
+ * caller's control word back when it leaves; the MXCSR is not touched. */
+#include <limits>
+#include <math.h>
+#include <stdint.h>
+#include <string.h>
+
+#include "frame/kernels.h"
+#include "vecmath/frame/scalar.h"
+#include "vecmath/gamma/each.h"
+#include "vecmath/gamma/expint1_table.h"
+#include "vecmath/gamma/gamma_core.h"
+
+namespace brenn::vm {
+namespace {
+
+// c[B] .. c[B + M - 1] in t by Estrin's scheme (poly.h), for series longer than 16.
+template <size_t B, size_t M, class W, size_t N>
+inline W PolyPart(W t, const W (&c)[N]) {
+    W p[4] = {t, t * t, 0, 0};
+    p[2] = p[1] * p[1];
+    p[3] = p[2] * p[2];
+    return gamma::detail::EstrinPart<B, M>(p, c);
+}
+
+// -gamma - ln x + x S(x) for 0 < x <= 1.
+inline long double NearZero(long double x) {
+    const auto& c = gamma::kExpInt1SeriesL;
+    long double x16 = x * x;
+    x16 *= x16;
+    x16 *= x16;
+    x16 *= x16;
+    long double s = PolyPart<0, 16>(x, c) + x16 * PolyPart<16, 5>(x, c);
+    return (x * s - gamma::kEulerGammaL) - gamma::Log(x);
+}
+inline double NearZero(double x) {
+    double s = gamma::Poly(x, gamma::kExpInt1Series);
+    return (x * s - gamma::kEulerGamma) - log(x);
+}
+
+// The row of t in [2^-10, 1) and that cell's centre.
+inline int CellOf(long double t, long double& centre) {
+    gamma::ext::Bits80 b = gamma::ext::BitsOf(t);
+    int e = static_cast<int>(b.signExponent & 0x7FFF) - 16383;
+    int j = static_cast<int>((b.mantissa >> 59) & 15);
+    centre = gamma::ext::FromBits(0x8000000000000000ull | (uint64_t(2 * j + 1) << 58),
+                                  static_cast<uint16_t>(16383 + e));
+    return 16 * (-1 - e) + j;
+}
+inline int CellOf(double t, double& centre) {
+    uint64_t b;
+    memcpy(&b, &t, sizeof b);
+    int e = static_cast<int>(b >> 52) - 1023;
+    int j = static_cast<int>((b >> 48) & 15);
+    uint64_t c = (b & ~((uint64_t(1) << 48) - 1)) | (uint64_t(1) << 47);
+    memcpy(&centre, &c, sizeof c);
+    return 16 * (-1 - e) + j;
+}
+
+// e^-x t G(t) for 1 < x <= 750.
+inline long double Tail(long double x) {
+    long double t = 1 / x, c;
+    int row = CellOf(t, c);
+    return gamma::ext::Exp(-x) * (t * gamma::Poly(t - c, gamma::kExpInt1TailL[row]));
+}
+inline double Tail(double x) {
+    double t = 1 / x, c;
+    int row = CellOf(t, c);
+    return exp(-x) * (t * gamma::Poly(t - c, gamma::kExpInt1Tail[row]));
+}
+
+template <class T>
+constexpr T kZeroBeyond = sizeof(T) == 8 ? T(750) : T(110);
+
+template <class T>
+int ExpInt1Of(T x, T* y) {
+    using W = gamma::Wide<T>;
+    constexpr T kTiny = std::numeric_limits<T>::min();
+    if (__builtin_isnan(x)) {
+        *y = x + x;
+        return status::kNone;
+    }
+    if (x < 0) {
+        *y = Keep(T(0)) / Keep(T(0));
+        return status::kDomain;
+    }
+    if (x == 0) {
+        *y = Keep(T(1)) / Keep(T(0));
+        return status::kSingularity;
+    }
+    if (x > kZeroBeyond<T>) {
+        if (__builtin_isinf(x)) {
+            *y = 0;
+            return status::kNone;
+        }
+        *y = Keep(kTiny) * kTiny;
+        return status::kUnderflow;
+    }
+    W r = x <= 1 ? NearZero(W(x)) : Tail(W(x));
+    T v = static_cast<T>(r);
+    *y = v;
+    return v < kTiny ? status::kUnderflow : status::kNone;
+}
+
+template <class Tp>
+struct ExpInt1Body {
+    using T = Tp;
+    static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, ExpInt1);
+    static constexpr CsrRule kCsr = CsrRule::Untouched;
+    static constexpr X87Rule kX87 = X87Rule::Extended;
+    static int Scalar(const T* a, T* y) { return ExpInt1Of(*a, y); }
+};
+
+} // namespace
+} // namespace brenn::vm
+
+extern "C" {
+ZAR_EACH_KERNEL(s, ExpInt1, LaHa, brenn::vm::ExpInt1Body)
+ZAR_EACH_KERNEL(d, ExpInt1, LaHa, brenn::vm::ExpInt1Body)
+}
