@@ -1,5 +1,5 @@
-# Runs the error-function generator for one PART and compares its output with the
-# committed file.
+# Runs an error-function generator (for one PART, when it writes several) and compares
+# its output with the committed file.
 execute_process(COMMAND ${GEN} ${PART} ${OUT} RESULT_VARIABLE rc)
 if(NOT rc EQUAL 0)
   message(FATAL_ERROR "generator failed: ${GEN} ${PART}")
