@@ -97,11 +97,18 @@ struct ComplexFrame {
     using Out = typename B::Out;
     static constexpr int K = kGroup<T>;
 
-    // The reporter's view of a call: complex elements, or the result reported as the
-    // complex element whose real part it is (Abs and Arg never report).
+    // The reporter's view of a call: complex elements; or, for a real input and a
+    // complex result (CIS), the real reporter with the result's two parts as its two
+    // results, as a function of two results reports (Abs and Arg never report).
     static void Report(int st, int i, const In* a, const In* b, Out* y) {
-        if constexpr (kIsComplex<In> && kIsComplex<Out>)
+        if constexpr (kIsComplex<In> && kIsComplex<Out>) {
             frame::ReportError(st, i, a, b ? b : a, y, y, NameOf<B>());
+        } else if constexpr (kIsComplex<Out>) {
+            // parts as real vectors whose element i they are
+            T* re = &y[i].re - i;
+            T* im = &y[i].im - i;
+            frame::ReportError(st, i, a, a, re, im, NameOf<B>());
+        }
     }
 
     // The special lanes of a group whose results sit in r (K elements from i).
