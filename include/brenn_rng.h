@@ -1090,6 +1090,19 @@ int32_t _qesiRngBernoulli(int32_t method, void* stream, int32_t n, int32_t* r, d
  * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD; QES_STATUS_BAD_ARGUMENT; a status of
  *         the generator (QES_RNG_ERROR_BITS_NOT_SUPPORTED for too few bits). */
 int32_t _qesiRngGeometric(int32_t method, void* stream, int32_t n, int32_t* r, double p);
+/** Binomial variates: the successes in ntrial trials of probability p. Inversion
+ * (one uniform a variate) while ntrial min(p, 1 - p) is below 30, BTPE from there;
+ * the set-up is kept in chunk 5 of the stream.
+ * @param method 0
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param ntrial number of trials, 0 or more (0 fills r with 0 and draws nothing)
+ * @param p probability of success, in [0, 1]
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; QES_ERROR_MEM_FAILURE; a status of the generator. */
+int32_t _qesiRngBinomial(int32_t method, void* stream, int32_t n, int32_t* r, int32_t ntrial,
+                         double p);
 /** Single-precision Gaussian variates a + sigma z.
  * @param method 0 Box-Muller, sine halves; 1 Box-Muller, both halves; 2 inverse CDF
  * @param stream the stream

@@ -1,0 +1,43 @@
+/* The search of the discrete inversion methods: a table of cumulative probabilities
+ * searched from a start index near the mode, down or up, so that a variate costs a
+ * few comparisons; a uniform beyond the table's last value is left to the caller's
+ * recurrence. */
+#ifndef BRENN_RNG_DIST_TABLE_INVERSION_H
+#define BRENN_RNG_DIST_TABLE_INVERSION_H
+
+#include <stdint.h>
+
+namespace brenn::rng {
+
+// The index k whose cumulative value first exceeds u, searched from `start`: below
+// cdf[0] it is 0; from `start` down while u stays at or below the neighbour, or up
+// until cdf[k] exceeds u. `count` when u is at or above the table's last value.
+inline int32_t SearchCumulative(double u, const double* cdf, int32_t count, int32_t start) {
+    if (u < cdf[0]) return 0;
+    int32_t k = start;
+    if (u < cdf[k]) {
+        while (k > 0 && u <= cdf[k - 1])
+            --k;
+        return k;
+    }
+    while (++k < count && u >= cdf[k]) {
+    }
+    return k;
+}
+
+// Cumulative values of `count` probabilities f, formed from the top down as the
+// total less the sum above each index, so that the rounding falls on the rare end.
+inline void CumulativeFromTop(int32_t count, const double* f, double* cdf) {
+    double total = 0.0;
+    for (int32_t k = 0; k < count; ++k)
+        total += f[k];
+    double above = 0.0;
+    for (int32_t k = count - 1; k >= 0; --k) {
+        cdf[k] = total - above;
+        above += f[k];
+    }
+}
+
+} // namespace brenn::rng
+
+#endif

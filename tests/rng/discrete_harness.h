@@ -1,0 +1,51 @@
+// What the tests of the discrete generators share: a generator that counts the
+// uniforms asked of it (MT19937 underneath), the caller's settings to check after
+// a call, and the moments of a sample.
+#ifndef BRENN_TESTS_RNG_DISCRETE_HARNESS_H
+#define BRENN_TESTS_RNG_DISCRETE_HARNESS_H
+
+#include <stdint.h>
+
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "brenn_rng.h"
+#include "brenn_vecmath.h"
+
+namespace brenn::test {
+
+// One request of the counting generator: its count and 's' or 'd'.
+struct Request {
+    int32_t n;
+    char kind;
+    bool operator==(const Request&) const = default;
+};
+
+// The counting generator's id, registered once, and the requests since the last clear.
+int32_t CountingBrngId();
+std::vector<Request>& Requests();
+
+// A caller's settings that no generator may leave changed: a mode word, a callback,
+// an x87 control word and MXCSR, set by Install and checked (then reset) by Expect.
+struct CallerSettings {
+    uint32_t before, mode;
+    void Install();
+    void ExpectBack(const char* what) const;
+    void Reset() const; // the settings from before Install
+};
+
+// Sample mean and variance.
+struct Moments {
+    double mean, variance;
+};
+Moments MomentsOf(const std::vector<int32_t>& x);
+
+// Mean and variance within `sigmas` standard errors of the true ones (the variance's
+// error from the sample's fourth central moment).
+void ExpectMoments(const std::vector<int32_t>& x, double mean, double variance, double sigmas,
+                   const char* what);
+
+} // namespace brenn::test
+
+#endif
