@@ -80,8 +80,8 @@ struct Spline {
     std::vector<T> x, y, bc, ic, coefficients;
     ~Spline() { brenn_df_kernel_DeleteTask(&task); }
 };
-struct brenn_fit_dspline : Spline<double> {};
-struct brenn_fit_sspline : Spline<float> {};
+struct brenn_fit_spline_f64 : Spline<double> {};
+struct brenn_fit_spline_f32 : Spline<float> {};
 
 namespace {
 
@@ -167,27 +167,27 @@ BRENN_FE_EXPORT int brenn_fit_order(int kind) {
     return kind < 0 || kind >= BRENN_FIT_KIND_COUNT ? 0 : kKinds[kind].order;
 }
 
-BRENN_FE_EXPORT int brenn_fit_dspline_new(brenn_fit_dspline** spline, int kind, int64_t nx,
-                                          const double* x, const double* y, int64_t bcType,
-                                          const double* bc, const double* ic) {
+BRENN_FE_EXPORT int brenn_fit_spline_new_f64(brenn_fit_spline_f64** spline, int kind, int64_t nx,
+                                             const double* x, const double* y, int64_t bcType,
+                                             const double* bc, const double* ic) {
     return New(spline, kind, nx, x, y, bcType, bc, ic);
 }
-BRENN_FE_EXPORT int brenn_fit_dspline_eval(const brenn_fit_dspline* spline, int64_t nsite,
-                                           const double* site, int nderiv, double* result) {
+BRENN_FE_EXPORT int brenn_fit_spline_eval_f64(const brenn_fit_spline_f64* spline, int64_t nsite,
+                                              const double* site, int nderiv, double* result) {
     return Eval(spline, nsite, site, nderiv, result);
 }
-BRENN_FE_EXPORT int brenn_fit_dspline_delete(brenn_fit_dspline** spline) {
+BRENN_FE_EXPORT int brenn_fit_spline_delete_f64(brenn_fit_spline_f64** spline) {
     return Delete(spline);
 }
-BRENN_FE_EXPORT int brenn_fit_sspline_new(brenn_fit_sspline** spline, int kind, int64_t nx,
-                                          const float* x, const float* y, int64_t bcType,
-                                          const float* bc, const float* ic) {
+BRENN_FE_EXPORT int brenn_fit_spline_new_f32(brenn_fit_spline_f32** spline, int kind, int64_t nx,
+                                             const float* x, const float* y, int64_t bcType,
+                                             const float* bc, const float* ic) {
     return New(spline, kind, nx, x, y, bcType, bc, ic);
 }
-BRENN_FE_EXPORT int brenn_fit_sspline_eval(const brenn_fit_sspline* spline, int64_t nsite,
-                                           const float* site, int nderiv, float* result) {
+BRENN_FE_EXPORT int brenn_fit_spline_eval_f32(const brenn_fit_spline_f32* spline, int64_t nsite,
+                                              const float* site, int nderiv, float* result) {
     return Eval(spline, nsite, site, nderiv, result);
 }
-BRENN_FE_EXPORT int brenn_fit_sspline_delete(brenn_fit_sspline** spline) {
+BRENN_FE_EXPORT int brenn_fit_spline_delete_f32(brenn_fit_spline_f32** spline) {
     return Delete(spline);
 }

@@ -130,49 +130,49 @@ BRENN_FE_EXPORT int brenn_rng_load_file(brenn_stream** stream, const char* path)
                     __qesLoadStreamF(Raw(stream), path, static_cast<int32_t>(strlen(path))));
 }
 
-BRENN_FE_EXPORT int brenn_rng_suniform(brenn_stream* stream, int method, int n, float* r, float a,
-                                       float b) {
+BRENN_FE_EXPORT int brenn_rng_uniform_f32(brenn_stream* stream, int method, int n, float* r,
+                                          float a, float b) {
     if (int s = CheckDraw(stream, n, r)) return s;
     if (!(a < b)) return BRENN_ERR_BAD_ARGUMENT;
     return _qessRngUniform(method, stream, n, r, a, b);
 }
 
-BRENN_FE_EXPORT int brenn_rng_duniform(brenn_stream* stream, int method, int n, double* r, double a,
-                                       double b) {
+BRENN_FE_EXPORT int brenn_rng_uniform_f64(brenn_stream* stream, int method, int n, double* r,
+                                          double a, double b) {
     if (int s = CheckDraw(stream, n, r)) return s;
     if (!(a < b)) return BRENN_ERR_BAD_ARGUMENT;
     return _qesdRngUniform(method, stream, n, r, a, b);
 }
 
-BRENN_FE_EXPORT int brenn_rng_iuniform(brenn_stream* stream, int method, int n, int32_t* r,
-                                       int32_t a, int32_t b) {
+BRENN_FE_EXPORT int brenn_rng_uniform_i32(brenn_stream* stream, int method, int n, int32_t* r,
+                                          int32_t a, int32_t b) {
     if (int s = CheckDraw(stream, n, r)) return s;
     if (a >= b) return BRENN_ERR_BAD_ARGUMENT;
     return _qesiRngUniform(method, stream, n, r, a, b);
 }
 
-BRENN_FE_EXPORT int brenn_rng_ibits(brenn_stream* stream, int n, void* r) {
+BRENN_FE_EXPORT int brenn_rng_bits_raw(brenn_stream* stream, int n, void* r) {
     if (int s = CheckDraw(stream, n, r)) return s;
     return _qesiRngUniformBits(0, stream, n, r);
 }
 
-BRENN_FE_EXPORT int brenn_rng_ibits32(brenn_stream* stream, int n, uint32_t* r) {
+BRENN_FE_EXPORT int brenn_rng_bits_u32(brenn_stream* stream, int n, uint32_t* r) {
     if (int s = CheckDraw(stream, n, r)) return s;
     return _qesiRngUniformBits32(0, stream, n, r);
 }
 
-BRENN_FE_EXPORT int brenn_rng_ibits64(brenn_stream* stream, int n, uint64_t* r) {
+BRENN_FE_EXPORT int brenn_rng_bits_u64(brenn_stream* stream, int n, uint64_t* r) {
     if (int s = CheckDraw(stream, n, r)) return s;
     return _qesiRngUniformBits64(0, stream, n, r);
 }
 
-BRENN_FE_EXPORT int brenn_rng_ibernoulli(brenn_stream* stream, int n, int32_t* r, double p) {
+BRENN_FE_EXPORT int brenn_rng_bernoulli_i32(brenn_stream* stream, int n, int32_t* r, double p) {
     if (int s = CheckDraw(stream, n, r)) return s;
     if (!(p >= 0.0 && p <= 1.0)) return BRENN_ERR_BAD_ARGUMENT;
     return _qesiRngBernoulli(0, stream, n, r, p);
 }
 
-BRENN_FE_EXPORT int brenn_rng_igeometric(brenn_stream* stream, int n, int32_t* r, double p) {
+BRENN_FE_EXPORT int brenn_rng_geometric_i32(brenn_stream* stream, int n, int32_t* r, double p) {
     if (int s = CheckDraw(stream, n, r)) return s;
     if (!(p > 0.0 && p < 1.0)) return BRENN_ERR_BAD_ARGUMENT;
     return _qesiRngGeometric(0, stream, n, r, p);

@@ -146,12 +146,12 @@ int Compute(const Matrix* m, uint64_t estimates, const Results* r) {
 
 } // namespace
 
-BRENN_FE_EXPORT int brenn_ss_dcompute(const brenn_ss_dmatrix* matrix, uint64_t estimates,
-                                      const brenn_ss_dresults* results) {
+BRENN_FE_EXPORT int brenn_ss_compute_f64(const brenn_ss_matrix_f64* matrix, uint64_t estimates,
+                                         const brenn_ss_results_f64* results) {
     return Compute<double>(matrix, estimates, results);
 }
 
-BRENN_FE_EXPORT int brenn_ss_scompute(const brenn_ss_smatrix* matrix, uint64_t estimates,
-                                      const brenn_ss_sresults* results) {
+BRENN_FE_EXPORT int brenn_ss_compute_f32(const brenn_ss_matrix_f32* matrix, uint64_t estimates,
+                                         const brenn_ss_results_f32* results) {
     return Compute<float>(matrix, estimates, results);
 }

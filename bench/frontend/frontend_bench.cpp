@@ -34,7 +34,7 @@ void BM_DirectRow(benchmark::State& state) {
 void BM_FrontEnd(benchmark::State& state) {
     Data d(static_cast<int>(state.range(0)));
     for (auto _ : state) {
-        brenn_vdexp(static_cast<int>(d.a.size()), d.a.data(), d.y.data());
+        brenn_vm_exp_f64(static_cast<int>(d.a.size()), d.a.data(), d.y.data());
         benchmark::DoNotOptimize(d.y.data());
     }
 }
@@ -52,7 +52,7 @@ void BM_DirectSlot(benchmark::State& state) {
 void BM_FrontEndAcc(benchmark::State& state) {
     Data d(static_cast<int>(state.range(0)));
     for (auto _ : state) {
-        brenn_vdexp_acc(static_cast<int>(d.a.size()), d.a.data(), d.y.data(), BRENN_HA);
+        brenn_vm_exp_f64_acc(static_cast<int>(d.a.size()), d.a.data(), d.y.data(), BRENN_HA);
         benchmark::DoNotOptimize(d.y.data());
     }
 }
@@ -62,7 +62,7 @@ void Split(benchmark::State& state, bool split) {
     Data d(static_cast<int>(state.range(0)));
     double old = brenn_vm_set_split_work(split ? 1e-300 : 1e300);
     for (auto _ : state) {
-        brenn_vdexp(static_cast<int>(d.a.size()), d.a.data(), d.y.data());
+        brenn_vm_exp_f64(static_cast<int>(d.a.size()), d.a.data(), d.y.data());
         benchmark::DoNotOptimize(d.y.data());
     }
     brenn_vm_set_split_work(old);

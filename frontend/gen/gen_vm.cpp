@@ -3,7 +3,9 @@
 //   gen_vm header OUT   C declarations (include/brenn/brenn_vm_entries.h)
 //   gen_vm source OUT   their definitions, each a call of the shape's checked runner
 //   gen_vm cxx OUT      C++ overloads over std::span (include/brenn/brenn_vm_entries.hpp)
-// Names are lower case: brenn_v + type letter + the row's name ("vdExp" -> brenn_vdexp).
+// Names are lower case: brenn_vm_ + the row's function + the element type's suffix
+// (f32, f64, c64, c128), so the double Exp row's entries are brenn_vm_exp_f64 and
+// brenn_vm_exp_f64_acc.
 #include <cctype>
 #include <cstdio>
 #include <fstream>
@@ -107,48 +109,147 @@ std::string CParams(const Row& r, bool accuracy) {
     return s;
 }
 
+// The element type's suffix and its name in words.
+std::string Suffix(char t) {
+    return t == 's' ? "f32" : t == 'd' ? "f64" : t == 'c' ? "c64" : "c128";
+}
+std::string TypeWords(char t) {
+    return t == 's' ? "float" : t == 'd' ? "double" : t == 'c' ? "complex float" : "complex double";
+}
+
 std::string EntryName(const Row& r) {
-    return std::string("brenn_v") + r.type + Lower(r.name);
+    return "brenn_vm_" + Lower(r.name) + "_" + Suffix(r.type);
 }
 
 bool IsPack(const std::string& shape) {
     return shape.rfind("Pack", 0) == 0 || shape.rfind("Unpack", 0) == 0;
 }
 
+// What a function computes of one element, in plain words; "a" and "b" stand for
+// a[i] and b[i] (or the scalar b). The shapes' own forms (two results, packing,
+// the linear fraction) are given by Describe.
+struct Formula {
+    const char* name;
+    const char* text;
+};
+const Formula kFormulas[] = {
+    {"Ceil", "y[i] = the least integer not below a[i]"},
+    {"Floor", "y[i] = the greatest integer not above a[i]"},
+    {"Frac", "y[i] = a[i] less its integer part, with a[i]'s sign"},
+    {"NearbyInt", "y[i] = a[i] rounded to an integer in the current mode, no inexact flag"},
+    {"Rint", "y[i] = a[i] rounded to an integer in the current rounding mode"},
+    {"Round", "y[i] = a[i] rounded to the nearest integer, halves away from 0"},
+    {"Trunc", "y[i] = a[i] rounded toward 0"},
+    {"Abs", "y[i] = |a[i]|"},
+    {"Inv", "y[i] = 1 / a[i]"},
+    {"Sqrt", "y[i] = the square root of a[i]"},
+    {"InvSqrt", "y[i] = 1 / sqrt(a[i])"},
+    {"Cbrt", "y[i] = the cube root of a[i]"},
+    {"InvCbrt", "y[i] = 1 / cbrt(a[i])"},
+    {"Sqr", "y[i] = a[i]^2"},
+    {"Pow2o3", "y[i] = a[i]^(2/3)"},
+    {"Pow3o2", "y[i] = a[i]^(3/2)"},
+    {"Exp", "y[i] = e^a[i]"},
+    {"Exp2", "y[i] = 2^a[i]"},
+    {"Exp10", "y[i] = 10^a[i]"},
+    {"Expm1", "y[i] = e^a[i] - 1"},
+    {"Ln", "y[i] = the natural logarithm of a[i]"},
+    {"Log2", "y[i] = the base-2 logarithm of a[i]"},
+    {"Log10", "y[i] = the base-10 logarithm of a[i]"},
+    {"Log1p", "y[i] = ln(1 + a[i])"},
+    {"Logb", "y[i] = the binary exponent of a[i], floor(log2 |a[i]|)"},
+    {"Cos", "y[i] = cos a[i] (radians)"},
+    {"Sin", "y[i] = sin a[i] (radians)"},
+    {"Tan", "y[i] = tan a[i] (radians)"},
+    {"Cosd", "y[i] = cos of a[i] degrees"},
+    {"Sind", "y[i] = sin of a[i] degrees"},
+    {"Tand", "y[i] = tan of a[i] degrees"},
+    {"Cospi", "y[i] = cos(pi a[i])"},
+    {"Sinpi", "y[i] = sin(pi a[i])"},
+    {"Tanpi", "y[i] = tan(pi a[i])"},
+    {"Acos", "y[i] = arccos a[i]"},
+    {"Asin", "y[i] = arcsin a[i]"},
+    {"Atan", "y[i] = arctan a[i]"},
+    {"Acospi", "y[i] = arccos(a[i]) / pi"},
+    {"Asinpi", "y[i] = arcsin(a[i]) / pi"},
+    {"Atanpi", "y[i] = arctan(a[i]) / pi"},
+    {"Atan2", "y[i] = the angle of the point (b[i], a[i]), atan2(a[i], b[i])"},
+    {"Atan2pi", "y[i] = atan2(a[i], b[i]) / pi"},
+    {"Cosh", "y[i] = cosh a[i]"},
+    {"Sinh", "y[i] = sinh a[i]"},
+    {"Tanh", "y[i] = tanh a[i]"},
+    {"Acosh", "y[i] = arcosh a[i]"},
+    {"Asinh", "y[i] = arsinh a[i]"},
+    {"Atanh", "y[i] = artanh a[i]"},
+    {"Erf", "y[i] = erf a[i]"},
+    {"Erfc", "y[i] = 1 - erf a[i]"},
+    {"CdfNorm", "y[i] = the standard normal distribution function at a[i]"},
+    {"ErfInv", "y[i] = the inverse of erf at a[i]"},
+    {"ErfcInv", "y[i] = the inverse of erfc at a[i]"},
+    {"CdfNormInv", "y[i] = the standard normal quantile of a[i]"},
+    {"LGamma", "y[i] = ln |Gamma(a[i])|"},
+    {"TGamma", "y[i] = Gamma(a[i])"},
+    {"ExpInt1", "y[i] = the exponential integral E1(a[i])"},
+    {"Add", "y[i] = a[i] + b[i]"},
+    {"Sub", "y[i] = a[i] - b[i]"},
+    {"Mul", "y[i] = a[i] * b[i]"},
+    {"Div", "y[i] = a[i] / b[i]"},
+    {"MulByConj", "y[i] = a[i] * conj(b[i])"},
+    {"Conj", "y[i] = the complex conjugate of a[i]"},
+    {"Arg", "y[i] = the argument (phase angle) of a[i]"},
+    {"CIS", "y[i] = cos a[i] + i sin a[i]"},
+    {"Pow", "y[i] = a[i]^b[i]"},
+    {"Powr", "y[i] = a[i]^b[i], as e^(b[i] ln a[i])"},
+    {"Powx", "y[i] = a[i]^b, b one scalar"},
+    {"Hypot", "y[i] = sqrt(a[i]^2 + b[i]^2)"},
+    {"Fdim", "y[i] = a[i] - b[i] when positive, else +0"},
+    {"Fmax", "y[i] = the larger of a[i] and b[i]"},
+    {"Fmin", "y[i] = the smaller of a[i] and b[i]"},
+    {"MaxMag", "y[i] = of a[i] and b[i] the larger in magnitude"},
+    {"MinMag", "y[i] = of a[i] and b[i] the smaller in magnitude"},
+    {"Fmod", "y[i] = a[i] - b[i] trunc(a[i] / b[i])"},
+    {"Remainder", "y[i] = a[i] - b[i] n, n the nearest integer to a[i] / b[i]"},
+    {"NextAfter", "y[i] = the next number after a[i] toward b[i]"},
+    {"CopySign", "y[i] = |a[i]| with the sign of b[i]"},
+    {"SinCos", "y[i] = sin a[i], z[i] = cos a[i]"},
+    {"Modf", "y[i] = the integer part of a[i], z[i] its fraction"},
+    {"LinearFrac", "y[i] = (scalea*a[i] + shifta) / (scaleb*b[i] + shiftb)"},
+    {"PackI", "y[i] = a[i*incra]"},
+    {"PackM", "the elements of a whose ma[i] is non-zero, packed into y"},
+    {"PackV", "y[i] = a[ia[i]]"},
+    {"UnpackI", "y[i*incry] = a[i]"},
+    {"UnpackM", "y[i] = a[next] where my[i] is non-zero, in order"},
+    {"UnpackV", "y[iy[i]] = a[i]"},
+};
+
+// "Exp, double: y[i] = e^a[i]". A row without a line above stops the build, so a
+// new function gets its words when its row is added.
 std::string Describe(const Row& r) {
-    const std::string& s = r.shape;
-    const std::string f = r.name;
-    if (s == "Unary" || s == "AbsArg" || s == "Cis") return "y[i] = " + f + "(a[i])";
-    if (s == "Binary") return "y[i] = " + f + "(a[i], b[i])";
-    if (s == "Powx") return "y[i] = a[i] to the power b";
-    if (s == "TwoRes") return "(y[i], z[i]) = " + f + "(a[i])";
-    if (s == "LinFrac") return "y[i] = (scalea*a[i] + shifta) / (scaleb*b[i] + shiftb)";
-    if (s == "PackI") return "y[i] = a[i*incra]";
-    if (s == "PackM") return "the elements of a whose ma[i] is non-zero, packed into y";
-    if (s == "PackV") return "y[i] = a[ia[i]]";
-    if (s == "UnpackI") return "y[i*incry] = a[i]";
-    if (s == "UnpackM") return "y[i] = a[next] where my[i] is non-zero, in order";
-    return "y[iy[i]] = a[i]";
+    for (const Formula& f : kFormulas)
+        if (r.name == f.name) return r.name + ", " + TypeWords(r.type) + ": " + f.text;
+    std::cerr << "gen_vm: no description of " << r.name << "\n";
+    std::exit(1);
 }
 
 void Header(std::ostream& o) {
     o << "/** @file brenn_vm_entries.h\n"
          " * Generated from frame/rows.def by frontend/gen/gen_vm; do not edit.\n"
-         " * The checked entries of every vector-math row: brenn_v<t><fn>() at the thread's\n"
-         " * accuracy and brenn_v<t><fn>_acc() at the accuracy given (BRENN_LA, BRENN_HA,\n"
-         " * BRENN_EP). Each returns BRENN_OK, the last element status of the call\n"
+         " * The checked entries of every vector-math row: brenn_vm_<fn>_<t>() at the\n"
+         " * thread's accuracy and brenn_vm_<fn>_<t>_acc() at the accuracy given (BRENN_LA,\n"
+         " * BRENN_HA, BRENN_EP); <t> is f32, f64, c64 or c128. Each returns BRENN_OK, the last "
+         "element status of the call\n"
          " * (BRENN_STATUS_DOMAIN .. BRENN_STATUS_UNDERFLOW) or a refusal (BRENN_ERR_*); see\n"
          " * brenn_vm.h for the rules they share. */\n"
          "#ifndef BRENN_VM_ENTRIES_H\n#define BRENN_VM_ENTRIES_H\n\n#include \"brenn_types.h\"\n\n"
          "#ifdef __cplusplus\nextern \"C\" {\n#endif\n\n";
     for (const Row& r : kRows) {
         const std::string e = EntryName(r);
-        o << "/** @brief v" << r.type << r.name << ": " << Describe(r)
-          << " for i below n, at the thread's accuracy.\n";
+        o << "/** @brief " << Describe(r) << ", for i below n, at the thread's accuracy.\n";
         o << " * @return BRENN_OK, the call's last element status, or a refusal (brenn_vm.h) */\n";
         o << "int " << e << "(" << CParams(r, false) << ");\n";
-        o << "/** @brief v" << r.type << r.name << " at the accuracy given (BRENN_LA, BRENN_HA, "
-          << "BRENN_EP). @copydetails " << e << " */\n";
+        o << "/** @brief " << r.name << ", " << TypeWords(r.type)
+          << ", at the accuracy given (BRENN_LA, BRENN_HA, BRENN_EP). @copydetails " << e
+          << " */\n";
         o << "int " << e << "_acc(" << CParams(r, true) << ");\n";
     }
     o << "\n#ifdef __cplusplus\n}\n#endif\n\n#endif\n";
@@ -180,7 +281,7 @@ void Cxx(std::ostream& o) {
     o << "/** @file brenn_vm_entries.hpp\n"
          " * Generated from frame/rows.def by frontend/gen/gen_vm; do not edit.\n"
          " * brenn::vm::<fn>(spans..., [accuracy]) for every vector-math row: the overload\n"
-         " * of the element type calls brenn_v<t><fn>() or brenn_v<t><fn>_acc(). Sizes\n"
+         " * of the element type calls brenn_vm_<fn>_<t>() or brenn_vm_<fn>_<t>_acc(). Sizes\n"
          " * that do not match give status BRENN_ERR_SIZE_MISMATCH and write nothing. */\n"
          "#ifndef BRENN_VM_ENTRIES_HPP\n#define BRENN_VM_ENTRIES_HPP\n\n"
          "#include <complex>\n#include <span>\n\n#include \"brenn_vm_call.hpp\"\n\n"
@@ -206,12 +307,12 @@ void Cxx(std::ostream& o) {
         const std::string check = IsPack(r.shape)
                                       ? "detail::count_" + Lower(r.shape) + "(" + names + ")"
                                       : "detail::common_size({" + sizes + "})";
-        o << "/** v" << r.type << r.name << ": " << Describe(r) << ". */\n";
+        o << "/** " << Describe(r) << ". */\n";
         o << "inline status " << Lower(r.name) << "(" << params << ") {\n"
           << "    const long n = " << check << ";\n"
           << "    return n < 0 ? status{static_cast<int>(n)} : status{" << e << "(int(n)" << pass
           << ")};\n}\n";
-        o << "/** v" << r.type << r.name << " at the accuracy given. */\n";
+        o << "/** " << r.name << ", " << TypeWords(r.type) << ", at the accuracy given. */\n";
         o << "inline status " << Lower(r.name) << "(" << params << ", accuracy acc) {\n"
           << "    const long n = " << check << ";\n"
           << "    return n < 0 ? status{static_cast<int>(n)} : status{" << e << "_acc(int(n)"

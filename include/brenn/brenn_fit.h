@@ -2,7 +2,7 @@
  * Data fitting through the front-end: a spline object built from its partition,
  * function values and conditions in one checked call, and evaluated (values and
  * derivatives) at sites. The object owns copies of everything it needs; the caller's
- * arrays may go once brenn_fit_dspline_new() returns.
+ * arrays may go once brenn_fit_spline_new_f64() returns.
  *
  * Kinds are the construction families of the fitting service. Each kind's
  * construction entry is looked up in the kernel library when a spline is made, so a
@@ -41,10 +41,10 @@ enum {
     BRENN_FIT_KIND_COUNT = 9       /**< the number of kinds */
 };
 
-/** A spline of doubles, owned by the caller from brenn_fit_dspline_new() to _delete(). */
-typedef struct brenn_fit_dspline brenn_fit_dspline;
+/** A spline of doubles, owned by the caller from brenn_fit_spline_new_f64() to _delete(). */
+typedef struct brenn_fit_spline_f64 brenn_fit_spline_f64;
 /** A spline of floats. */
-typedef struct brenn_fit_sspline brenn_fit_sspline;
+typedef struct brenn_fit_spline_f32 brenn_fit_spline_f32;
 
 /** Whether a kind's construction is in this build.
  * @param kind a BRENN_FIT_* kind
@@ -65,8 +65,8 @@ int brenn_fit_order(int kind);
  * @param bc the numbers the codes need, left end first (null when none is needed)
  * @param ic the kind's internal conditions (knots or node derivatives), else null
  * @return BRENN_OK, a refusal, or a FIT_STATUS_* of the construction. */
-int brenn_fit_dspline_new(brenn_fit_dspline** spline, int kind, int64_t nx, const double* x,
-                          const double* y, int64_t bc_type, const double* bc, const double* ic);
+int brenn_fit_spline_new_f64(brenn_fit_spline_f64** spline, int kind, int64_t nx, const double* x,
+                             const double* y, int64_t bc_type, const double* bc, const double* ic);
 /** Values and derivatives at sites: result[s * nderiv + d] is derivative d (0 the
  * value) at site s. Sites outside the partition extend the end cells.
  * @param spline the spline
@@ -75,21 +75,21 @@ int brenn_fit_dspline_new(brenn_fit_dspline** spline, int kind, int64_t nx, cons
  * @param nderiv derivatives a site, 1 .. the order
  * @param result nsite * nderiv values
  * @return BRENN_OK, a refusal, or a FIT_STATUS_* of the interpolation. */
-int brenn_fit_dspline_eval(const brenn_fit_dspline* spline, int64_t nsite, const double* site,
-                           int nderiv, double* result);
+int brenn_fit_spline_eval_f64(const brenn_fit_spline_f64* spline, int64_t nsite, const double* site,
+                              int nderiv, double* result);
 /** Ends a spline and sets *spline to null; a null *spline is accepted.
  * @param spline the spline's address
  * @return BRENN_OK, or BRENN_ERR_NULL_POINTER for a null address. */
-int brenn_fit_dspline_delete(brenn_fit_dspline** spline);
+int brenn_fit_spline_delete_f64(brenn_fit_spline_f64** spline);
 
-/** The float form of brenn_fit_dspline_new(). @copydetails brenn_fit_dspline_new */
-int brenn_fit_sspline_new(brenn_fit_sspline** spline, int kind, int64_t nx, const float* x,
-                          const float* y, int64_t bc_type, const float* bc, const float* ic);
-/** The float form of brenn_fit_dspline_eval(). @copydetails brenn_fit_dspline_eval */
-int brenn_fit_sspline_eval(const brenn_fit_sspline* spline, int64_t nsite, const float* site,
-                           int nderiv, float* result);
-/** The float form of brenn_fit_dspline_delete(). @copydetails brenn_fit_dspline_delete */
-int brenn_fit_sspline_delete(brenn_fit_sspline** spline);
+/** The float form of brenn_fit_spline_new_f64(). @copydetails brenn_fit_spline_new_f64 */
+int brenn_fit_spline_new_f32(brenn_fit_spline_f32** spline, int kind, int64_t nx, const float* x,
+                             const float* y, int64_t bc_type, const float* bc, const float* ic);
+/** The float form of brenn_fit_spline_eval_f64(). @copydetails brenn_fit_spline_eval_f64 */
+int brenn_fit_spline_eval_f32(const brenn_fit_spline_f32* spline, int64_t nsite, const float* site,
+                              int nderiv, float* result);
+/** The float form of brenn_fit_spline_delete_f64(). @copydetails brenn_fit_spline_delete_f64 */
+int brenn_fit_spline_delete_f32(brenn_fit_spline_f32** spline);
 
 #ifdef __cplusplus
 }

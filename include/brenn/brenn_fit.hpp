@@ -44,7 +44,7 @@ struct boundary {
 template <class T>
 class basic_spline {
     using Handle =
-        std::conditional_t<std::is_same_v<T, double>, brenn_fit_dspline, brenn_fit_sspline>;
+        std::conditional_t<std::is_same_v<T, double>, brenn_fit_spline_f64, brenn_fit_spline_f32>;
 
   public:
     basic_spline() noexcept = default;
@@ -63,11 +63,11 @@ class basic_spline {
         const T* icData = ic.empty() ? nullptr : ic.data();
         const auto nx = static_cast<std::int64_t>(x.size());
         if constexpr (std::is_same_v<T, double>)
-            r.stat.code = brenn_fit_dspline_new(&r.value.h_, static_cast<int>(k), nx, x.data(),
-                                                y.data(), bc.type, values, icData);
+            r.stat.code = brenn_fit_spline_new_f64(&r.value.h_, static_cast<int>(k), nx, x.data(),
+                                                   y.data(), bc.type, values, icData);
         else
-            r.stat.code = brenn_fit_sspline_new(&r.value.h_, static_cast<int>(k), nx, x.data(),
-                                                y.data(), bc.type, values, icData);
+            r.stat.code = brenn_fit_spline_new_f32(&r.value.h_, static_cast<int>(k), nx, x.data(),
+                                                   y.data(), bc.type, values, icData);
         return r;
     }
     ~basic_spline() { release(); }
@@ -90,9 +90,9 @@ class basic_spline {
             return {nderiv < 1 ? BRENN_ERR_BAD_ARGUMENT : BRENN_ERR_SIZE_MISMATCH};
         const auto ns = static_cast<std::int64_t>(sites.size());
         if constexpr (std::is_same_v<T, double>)
-            return {brenn_fit_dspline_eval(h_, ns, sites.data(), nderiv, out.data())};
+            return {brenn_fit_spline_eval_f64(h_, ns, sites.data(), nderiv, out.data())};
         else
-            return {brenn_fit_sspline_eval(h_, ns, sites.data(), nderiv, out.data())};
+            return {brenn_fit_spline_eval_f32(h_, ns, sites.data(), nderiv, out.data())};
     }
     /** Values and derivatives at sites, returned: element s * nderiv + d. */
     result<std::vector<T>> eval(std::span<const T> sites, int nderiv = 1) const {
@@ -106,9 +106,9 @@ class basic_spline {
   private:
     void release() noexcept {
         if constexpr (std::is_same_v<T, double>)
-            brenn_fit_dspline_delete(&h_);
+            brenn_fit_spline_delete_f64(&h_);
         else
-            brenn_fit_sspline_delete(&h_);
+            brenn_fit_spline_delete_f32(&h_);
     }
     Handle* h_ = nullptr;
 };

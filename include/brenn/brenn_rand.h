@@ -8,7 +8,12 @@
  * gives BRENN_ERR_NOT_AVAILABLE. Every entry refuses a null stream or array (with
  * n > 0) with BRENN_ERR_NULL_POINTER and a negative count with BRENN_ERR_BAD_SIZE,
  * before anything is written; other statuses are the random-number service's own
- * (QES_*), passed on. A stream is used by one thread at a time. */
+ * (QES_*), passed on. A stream is used by one thread at a time.
+ *
+ * Names: stream calls are brenn_rng_<verb>; each distribution's entry is
+ * brenn_rng_<distribution>_<t>, <t> the element type of its results (f32, f64, i32,
+ * u32, u64), e.g. brenn_rng_uniform_f64(); brenn_rng_bits_raw() gives the generator's
+ * own words, whatever their size. */
 #ifndef BRENN_RAND_H
 #define BRENN_RAND_H
 
@@ -86,25 +91,26 @@ int brenn_rng_load_file(brenn_stream** stream, const char* path);
 /** n uniform floats on [a, b) (method 0 or QES_RNG_METHOD_UNIFORM_ACCURATE).
  * @return BRENN_OK, a refusal (BRENN_ERR_BAD_ARGUMENT when a < b does not hold, NaN
  *         bounds included; nothing is drawn), or the service's status. */
-int brenn_rng_suniform(brenn_stream* stream, int method, int n, float* r, float a, float b);
-/** n uniform doubles on [a, b). @copydetails brenn_rng_suniform */
-int brenn_rng_duniform(brenn_stream* stream, int method, int n, double* r, double a, double b);
-/** n uniform integers on [a, b). @copydetails brenn_rng_suniform */
-int brenn_rng_iuniform(brenn_stream* stream, int method, int n, int32_t* r, int32_t a, int32_t b);
+int brenn_rng_uniform_f32(brenn_stream* stream, int method, int n, float* r, float a, float b);
+/** n uniform doubles on [a, b). @copydetails brenn_rng_uniform_f32 */
+int brenn_rng_uniform_f64(brenn_stream* stream, int method, int n, double* r, double a, double b);
+/** n uniform integers on [a, b). @copydetails brenn_rng_uniform_f32 */
+int brenn_rng_uniform_i32(brenn_stream* stream, int method, int n, int32_t* r, int32_t a,
+                          int32_t b);
 /** n raw words of the stream's generator, of its word size (r holds n of them).
  * @return BRENN_OK, a refusal, or the service's status. */
-int brenn_rng_ibits(brenn_stream* stream, int n, void* r);
+int brenn_rng_bits_raw(brenn_stream* stream, int n, void* r);
 /** n words of 32 uniform bits. @return BRENN_OK, a refusal, or
  * QES_RNG_ERROR_BITS_NOT_SUPPORTED for a generator with fewer bits. */
-int brenn_rng_ibits32(brenn_stream* stream, int n, uint32_t* r);
-/** n words of 64 uniform bits. @copydetails brenn_rng_ibits32 */
-int brenn_rng_ibits64(brenn_stream* stream, int n, uint64_t* r);
+int brenn_rng_bits_u32(brenn_stream* stream, int n, uint32_t* r);
+/** n words of 64 uniform bits. @copydetails brenn_rng_bits_u32 */
+int brenn_rng_bits_u64(brenn_stream* stream, int n, uint64_t* r);
 /** n Bernoulli variates with P(1) = p, p in [0, 1].
  * @return BRENN_OK, a refusal (p outside: BRENN_ERR_BAD_ARGUMENT), or the service's status. */
-int brenn_rng_ibernoulli(brenn_stream* stream, int n, int32_t* r, double p);
+int brenn_rng_bernoulli_i32(brenn_stream* stream, int n, int32_t* r, double p);
 /** n geometric variates (failures before the first success), p in (0, 1).
- * @copydetails brenn_rng_ibernoulli */
-int brenn_rng_igeometric(brenn_stream* stream, int n, int32_t* r, double p);
+ * @copydetails brenn_rng_bernoulli_i32 */
+int brenn_rng_geometric_i32(brenn_stream* stream, int n, int32_t* r, double p);
 
 #ifdef __cplusplus
 }

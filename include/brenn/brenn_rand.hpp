@@ -110,37 +110,40 @@ class stream {
     /** Fills a span with uniform variates. */
     status fill(std::span<double> r, uniform<double> u = {}) {
         if (status s = detail::too_long(r.size()); !s.ok()) return s;
-        return {brenn_rng_duniform(s_, u.method, static_cast<int>(r.size()), r.data(), u.a, u.b)};
+        return {
+            brenn_rng_uniform_f64(s_, u.method, static_cast<int>(r.size()), r.data(), u.a, u.b)};
     }
     /** Fills a span with uniform variates. */
     status fill(std::span<float> r, uniform<float> u = {}) {
         if (status s = detail::too_long(r.size()); !s.ok()) return s;
-        return {brenn_rng_suniform(s_, u.method, static_cast<int>(r.size()), r.data(), u.a, u.b)};
+        return {
+            brenn_rng_uniform_f32(s_, u.method, static_cast<int>(r.size()), r.data(), u.a, u.b)};
     }
     /** Fills a span with uniform integers on [a, b). */
     status fill(std::span<std::int32_t> r, uniform<std::int32_t> u) {
         if (status s = detail::too_long(r.size()); !s.ok()) return s;
-        return {brenn_rng_iuniform(s_, u.method, static_cast<int>(r.size()), r.data(), u.a, u.b)};
+        return {
+            brenn_rng_uniform_i32(s_, u.method, static_cast<int>(r.size()), r.data(), u.a, u.b)};
     }
     /** Fills a span with Bernoulli variates. */
     status fill(std::span<std::int32_t> r, bernoulli d) {
         if (status s = detail::too_long(r.size()); !s.ok()) return s;
-        return {brenn_rng_ibernoulli(s_, static_cast<int>(r.size()), r.data(), d.p)};
+        return {brenn_rng_bernoulli_i32(s_, static_cast<int>(r.size()), r.data(), d.p)};
     }
     /** Fills a span with geometric variates. */
     status fill(std::span<std::int32_t> r, geometric d) {
         if (status s = detail::too_long(r.size()); !s.ok()) return s;
-        return {brenn_rng_igeometric(s_, static_cast<int>(r.size()), r.data(), d.p)};
+        return {brenn_rng_geometric_i32(s_, static_cast<int>(r.size()), r.data(), d.p)};
     }
     /** Fills a span with 32 random bits a word. */
     status fill(std::span<std::uint32_t> r, bits32 = {}) {
         if (status s = detail::too_long(r.size()); !s.ok()) return s;
-        return {brenn_rng_ibits32(s_, static_cast<int>(r.size()), r.data())};
+        return {brenn_rng_bits_u32(s_, static_cast<int>(r.size()), r.data())};
     }
     /** Fills a span with 64 random bits a word. */
     status fill(std::span<std::uint64_t> r, bits64 = {}) {
         if (status s = detail::too_long(r.size()); !s.ok()) return s;
-        return {brenn_rng_ibits64(s_, static_cast<int>(r.size()), r.data())};
+        return {brenn_rng_bits_u64(s_, static_cast<int>(r.size()), r.data())};
     }
 
     /** One word of 32 uniform bits. A generator of fewer bits a word gives two
@@ -148,12 +151,12 @@ class stream {
     result_type operator()() {
         std::uint32_t w = 0;
         if (!composed_) {
-            int s = brenn_rng_ibits32(s_, 1, &w);
+            int s = brenn_rng_bits_u32(s_, 1, &w);
             if (s != QES_RNG_ERROR_BITS_NOT_SUPPORTED) return w;
             composed_ = true;
         }
         std::int32_t h[2] = {0, 0};
-        brenn_rng_iuniform(s_, 0, 2, h, 0, 65536);
+        brenn_rng_uniform_i32(s_, 0, 2, h, 0, 65536);
         return (static_cast<std::uint32_t>(h[0]) << 16) | static_cast<std::uint32_t>(h[1]);
     }
 

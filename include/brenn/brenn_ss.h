@@ -33,50 +33,50 @@ enum {
 };
 
 /** A view of double observations. */
-typedef struct brenn_ss_dmatrix {
+typedef struct brenn_ss_matrix_f64 {
     int64_t p;              /**< variables */
     int64_t n;              /**< observations */
     int64_t layout;         /**< BRENN_SS_VARIABLES_IN_ROWS or BRENN_SS_OBSERVATIONS_IN_ROWS */
     const double* x;        /**< p * n values */
     const double* weights;  /**< n weights (non-negative, finite), or null for all 1 */
     const int64_t* indices; /**< p words, 0 leaves a variable out, or null for all */
-} brenn_ss_dmatrix;
+} brenn_ss_matrix_f64;
 
 /** A view of float observations. */
-typedef struct brenn_ss_smatrix {
+typedef struct brenn_ss_matrix_f32 {
     int64_t p;              /**< variables */
     int64_t n;              /**< observations */
     int64_t layout;         /**< BRENN_SS_VARIABLES_IN_ROWS or BRENN_SS_OBSERVATIONS_IN_ROWS */
     const float* x;         /**< p * n values */
     const float* weights;   /**< n weights (non-negative, finite), or null for all 1 */
     const int64_t* indices; /**< p words, 0 leaves a variable out, or null for all */
-} brenn_ss_smatrix;
+} brenn_ss_matrix_f32;
 
 /** Where the estimates go: p values each, p * p for the two matrices (full storage).
  * Only the arrays of the estimates asked for are written; the others may be null. */
-typedef struct brenn_ss_dresults {
+typedef struct brenn_ss_results_f64 {
     double *mean, *raw_moment2, *raw_moment3, *raw_moment4, *central_moment2, *central_moment3,
         *central_moment4, *skewness, *kurtosis, *variation, *minimum, *maximum, *covariance,
         *correlation;
-} brenn_ss_dresults;
+} brenn_ss_results_f64;
 
-/** The float form of brenn_ss_dresults. */
-typedef struct brenn_ss_sresults {
+/** The float form of brenn_ss_results_f64. */
+typedef struct brenn_ss_results_f32 {
     float *mean, *raw_moment2, *raw_moment3, *raw_moment4, *central_moment2, *central_moment3,
         *central_moment4, *skewness, *kurtosis, *variation, *minimum, *maximum, *covariance,
         *correlation;
-} brenn_ss_sresults;
+} brenn_ss_results_f32;
 
 /** Computes the estimates asked for of a matrix of double observations.
  * @param matrix the observations
  * @param estimates an OR of the estimate bits above
  * @param results where each estimate asked for goes
  * @return BRENN_OK, a refusal, or a BRENN_SS_ERROR_* status of the compute. */
-int brenn_ss_dcompute(const brenn_ss_dmatrix* matrix, uint64_t estimates,
-                      const brenn_ss_dresults* results);
-/** The float form of brenn_ss_dcompute(). @copydetails brenn_ss_dcompute */
-int brenn_ss_scompute(const brenn_ss_smatrix* matrix, uint64_t estimates,
-                      const brenn_ss_sresults* results);
+int brenn_ss_compute_f64(const brenn_ss_matrix_f64* matrix, uint64_t estimates,
+                         const brenn_ss_results_f64* results);
+/** The float form of brenn_ss_compute_f64(). @copydetails brenn_ss_compute_f64 */
+int brenn_ss_compute_f32(const brenn_ss_matrix_f32* matrix, uint64_t estimates,
+                         const brenn_ss_results_f32* results);
 
 #ifdef __cplusplus
 }

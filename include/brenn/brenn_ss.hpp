@@ -61,9 +61,9 @@ result<estimates<T>> compute(const matrix_view<T>& m, std::uint64_t which) {
         return v.data();
     };
     using Results =
-        std::conditional_t<std::is_same_v<T, double>, brenn_ss_dresults, brenn_ss_sresults>;
+        std::conditional_t<std::is_same_v<T, double>, brenn_ss_results_f64, brenn_ss_results_f32>;
     using Matrix =
-        std::conditional_t<std::is_same_v<T, double>, brenn_ss_dmatrix, brenn_ss_smatrix>;
+        std::conditional_t<std::is_same_v<T, double>, brenn_ss_matrix_f64, brenn_ss_matrix_f32>;
     const Results out = {take(BRENN_SS_MEAN, e.mean, p),
                          take(BRENN_SS_2R_MOM, e.raw_moment2, p),
                          take(BRENN_SS_3R_MOM, e.raw_moment3, p),
@@ -85,9 +85,9 @@ result<estimates<T>> compute(const matrix_view<T>& m, std::uint64_t which) {
                          m.weights.empty() ? nullptr : m.weights.data(),
                          m.indices.empty() ? nullptr : m.indices.data()};
     if constexpr (std::is_same_v<T, double>)
-        r.stat.code = brenn_ss_dcompute(&view, which, &out);
+        r.stat.code = brenn_ss_compute_f64(&view, which, &out);
     else
-        r.stat.code = brenn_ss_scompute(&view, which, &out);
+        r.stat.code = brenn_ss_compute_f32(&view, which, &out);
     if (r.stat.code < 0) e = {};
     return r;
 }

@@ -3,10 +3,13 @@
  * choice, and the settings of how long vectors are split over threads.
  *
  * Entries (declared in brenn_vm_entries.h, made from the row list):
- * - brenn_v<t><fn>(n, inputs..., results...) runs the row at the calling thread's
+ * - brenn_vm_<fn>_<t>(n, inputs..., results...) runs the row at the calling thread's
  *   accuracy (its mode word, brenn_zar_kernel_GetMode());
- * - brenn_v<t><fn>_acc(n, inputs..., results..., accuracy) runs it at BRENN_LA,
+ * - brenn_vm_<fn>_<t>_acc(n, inputs..., results..., accuracy) runs it at BRENN_LA,
  *   BRENN_HA or BRENN_EP for this call only; the thread's mode word is not touched.
+ * <fn> is the function's name in lower case, <t> the element type: f32 (float), f64
+ * (double), c64 (BrennComplex8) or c128 (BrennComplex16); brenn_vm_exp_f64() is the
+ * exponential of doubles.
  *
  * Checks, in this order, before any kernel runs; a refused call writes no element,
  * stores its status in the thread's status word and returns it:
@@ -47,7 +50,7 @@
 extern "C" {
 #endif
 
-/** Accuracy of a brenn_v*_acc() call: the values of the mode word's accuracy field. */
+/** Accuracy of a brenn_vm_*_acc() call: the values of the mode word's accuracy field. */
 enum {
     BRENN_LA = 1, /**< low accuracy (slot 0) */
     BRENN_HA = 2, /**< high accuracy (slot 1) */

@@ -1,7 +1,7 @@
 /** @file brenn_vm_entries.hpp
  * Generated from frame/rows.def by frontend/gen/gen_vm; do not edit.
  * brenn::vm::<fn>(spans..., [accuracy]) for every vector-math row: the overload
- * of the element type calls brenn_v<t><fn>() or brenn_v<t><fn>_acc(). Sizes
+ * of the element type calls brenn_vm_<fn>_<t>() or brenn_vm_<fn>_<t>_acc(). Sizes
  * that do not match give status BRENN_ERR_SIZE_MISMATCH and write nothing. */
 #ifndef BRENN_VM_ENTRIES_HPP
 #define BRENN_VM_ENTRIES_HPP
@@ -13,2325 +13,2325 @@
 
 namespace brenn::vm {
 
-/** vsCeil: y[i] = Ceil(a[i]). */
+/** Ceil, float: y[i] = the least integer not below a[i]. */
 inline status ceil(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsceil(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_ceil_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsCeil at the accuracy given. */
+/** Ceil, float, at the accuracy given. */
 inline status ceil(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsceil_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_ceil_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsFloor: y[i] = Floor(a[i]). */
+/** Floor, float: y[i] = the greatest integer not above a[i]. */
 inline status floor(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsfloor(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_floor_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsFloor at the accuracy given. */
+/** Floor, float, at the accuracy given. */
 inline status floor(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsfloor_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_floor_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsFrac: y[i] = Frac(a[i]). */
+/** Frac, float: y[i] = a[i] less its integer part, with a[i]'s sign. */
 inline status frac(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsfrac(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_frac_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsFrac at the accuracy given. */
+/** Frac, float, at the accuracy given. */
 inline status frac(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsfrac_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_frac_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsNearbyInt: y[i] = NearbyInt(a[i]). */
+/** NearbyInt, float: y[i] = a[i] rounded to an integer in the current mode, no inexact flag. */
 inline status nearbyint(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsnearbyint(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_nearbyint_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsNearbyInt at the accuracy given. */
+/** NearbyInt, float, at the accuracy given. */
 inline status nearbyint(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsnearbyint_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_nearbyint_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsRint: y[i] = Rint(a[i]). */
+/** Rint, float: y[i] = a[i] rounded to an integer in the current rounding mode. */
 inline status rint(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsrint(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_rint_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsRint at the accuracy given. */
+/** Rint, float, at the accuracy given. */
 inline status rint(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsrint_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_rint_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsRound: y[i] = Round(a[i]). */
+/** Round, float: y[i] = a[i] rounded to the nearest integer, halves away from 0. */
 inline status round(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsround(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_round_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsRound at the accuracy given. */
+/** Round, float, at the accuracy given. */
 inline status round(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsround_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_round_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsTrunc: y[i] = Trunc(a[i]). */
+/** Trunc, float: y[i] = a[i] rounded toward 0. */
 inline status trunc(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vstrunc(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_trunc_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsTrunc at the accuracy given. */
+/** Trunc, float, at the accuracy given. */
 inline status trunc(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vstrunc_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_trunc_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsAbs: y[i] = Abs(a[i]). */
+/** Abs, float: y[i] = |a[i]|. */
 inline status abs(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsabs(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_abs_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsAbs at the accuracy given. */
+/** Abs, float, at the accuracy given. */
 inline status abs(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsabs_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_abs_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsInv: y[i] = Inv(a[i]). */
+/** Inv, float: y[i] = 1 / a[i]. */
 inline status inv(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsinv(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_inv_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsInv at the accuracy given. */
+/** Inv, float, at the accuracy given. */
 inline status inv(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsinv_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_inv_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsSqrt: y[i] = Sqrt(a[i]). */
+/** Sqrt, float: y[i] = the square root of a[i]. */
 inline status sqrt(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vssqrt(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sqrt_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsSqrt at the accuracy given. */
+/** Sqrt, float, at the accuracy given. */
 inline status sqrt(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vssqrt_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sqrt_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsInvSqrt: y[i] = InvSqrt(a[i]). */
+/** InvSqrt, float: y[i] = 1 / sqrt(a[i]). */
 inline status invsqrt(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsinvsqrt(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_invsqrt_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsInvSqrt at the accuracy given. */
+/** InvSqrt, float, at the accuracy given. */
 inline status invsqrt(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsinvsqrt_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_invsqrt_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsCbrt: y[i] = Cbrt(a[i]). */
+/** Cbrt, float: y[i] = the cube root of a[i]. */
 inline status cbrt(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vscbrt(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cbrt_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsCbrt at the accuracy given. */
+/** Cbrt, float, at the accuracy given. */
 inline status cbrt(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vscbrt_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cbrt_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsInvCbrt: y[i] = InvCbrt(a[i]). */
+/** InvCbrt, float: y[i] = 1 / cbrt(a[i]). */
 inline status invcbrt(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsinvcbrt(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_invcbrt_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsInvCbrt at the accuracy given. */
+/** InvCbrt, float, at the accuracy given. */
 inline status invcbrt(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsinvcbrt_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_invcbrt_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsExp: y[i] = Exp(a[i]). */
+/** Exp, float: y[i] = e^a[i]. */
 inline status exp(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsexp(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_exp_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsExp at the accuracy given. */
+/** Exp, float, at the accuracy given. */
 inline status exp(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsexp_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_exp_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsLn: y[i] = Ln(a[i]). */
+/** Ln, float: y[i] = the natural logarithm of a[i]. */
 inline status ln(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsln(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_ln_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsLn at the accuracy given. */
+/** Ln, float, at the accuracy given. */
 inline status ln(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsln_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_ln_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsLog10: y[i] = Log10(a[i]). */
+/** Log10, float: y[i] = the base-10 logarithm of a[i]. */
 inline status log10(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vslog10(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_log10_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsLog10 at the accuracy given. */
+/** Log10, float, at the accuracy given. */
 inline status log10(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vslog10_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_log10_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsCos: y[i] = Cos(a[i]). */
+/** Cos, float: y[i] = cos a[i] (radians). */
 inline status cos(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vscos(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cos_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsCos at the accuracy given. */
+/** Cos, float, at the accuracy given. */
 inline status cos(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vscos_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cos_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsSin: y[i] = Sin(a[i]). */
+/** Sin, float: y[i] = sin a[i] (radians). */
 inline status sin(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vssin(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sin_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsSin at the accuracy given. */
+/** Sin, float, at the accuracy given. */
 inline status sin(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vssin_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sin_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsTan: y[i] = Tan(a[i]). */
+/** Tan, float: y[i] = tan a[i] (radians). */
 inline status tan(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vstan(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tan_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsTan at the accuracy given. */
+/** Tan, float, at the accuracy given. */
 inline status tan(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vstan_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tan_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsAcos: y[i] = Acos(a[i]). */
+/** Acos, float: y[i] = arccos a[i]. */
 inline status acos(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsacos(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_acos_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsAcos at the accuracy given. */
+/** Acos, float, at the accuracy given. */
 inline status acos(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsacos_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_acos_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsAcosh: y[i] = Acosh(a[i]). */
+/** Acosh, float: y[i] = arcosh a[i]. */
 inline status acosh(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsacosh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_acosh_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsAcosh at the accuracy given. */
+/** Acosh, float, at the accuracy given. */
 inline status acosh(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsacosh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_acosh_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsAsin: y[i] = Asin(a[i]). */
+/** Asin, float: y[i] = arcsin a[i]. */
 inline status asin(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsasin(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_asin_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsAsin at the accuracy given. */
+/** Asin, float, at the accuracy given. */
 inline status asin(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsasin_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_asin_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsAsinh: y[i] = Asinh(a[i]). */
+/** Asinh, float: y[i] = arsinh a[i]. */
 inline status asinh(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsasinh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_asinh_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsAsinh at the accuracy given. */
+/** Asinh, float, at the accuracy given. */
 inline status asinh(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsasinh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_asinh_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsAtan: y[i] = Atan(a[i]). */
+/** Atan, float: y[i] = arctan a[i]. */
 inline status atan(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsatan(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atan_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsAtan at the accuracy given. */
+/** Atan, float, at the accuracy given. */
 inline status atan(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsatan_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atan_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsAtanh: y[i] = Atanh(a[i]). */
+/** Atanh, float: y[i] = artanh a[i]. */
 inline status atanh(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsatanh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atanh_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsAtanh at the accuracy given. */
+/** Atanh, float, at the accuracy given. */
 inline status atanh(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsatanh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atanh_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsCosh: y[i] = Cosh(a[i]). */
+/** Cosh, float: y[i] = cosh a[i]. */
 inline status cosh(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vscosh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cosh_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsCosh at the accuracy given. */
+/** Cosh, float, at the accuracy given. */
 inline status cosh(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vscosh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cosh_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsSinh: y[i] = Sinh(a[i]). */
+/** Sinh, float: y[i] = sinh a[i]. */
 inline status sinh(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vssinh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sinh_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsSinh at the accuracy given. */
+/** Sinh, float, at the accuracy given. */
 inline status sinh(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vssinh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sinh_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsTanh: y[i] = Tanh(a[i]). */
+/** Tanh, float: y[i] = tanh a[i]. */
 inline status tanh(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vstanh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tanh_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsTanh at the accuracy given. */
+/** Tanh, float, at the accuracy given. */
 inline status tanh(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vstanh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tanh_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsErf: y[i] = Erf(a[i]). */
+/** Erf, float: y[i] = erf a[i]. */
 inline status erf(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vserf(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_erf_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsErf at the accuracy given. */
+/** Erf, float, at the accuracy given. */
 inline status erf(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vserf_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_erf_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsErfc: y[i] = Erfc(a[i]). */
+/** Erfc, float: y[i] = 1 - erf a[i]. */
 inline status erfc(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vserfc(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_erfc_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsErfc at the accuracy given. */
+/** Erfc, float, at the accuracy given. */
 inline status erfc(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vserfc_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_erfc_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsErfInv: y[i] = ErfInv(a[i]). */
+/** ErfInv, float: y[i] = the inverse of erf at a[i]. */
 inline status erfinv(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vserfinv(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_erfinv_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsErfInv at the accuracy given. */
+/** ErfInv, float, at the accuracy given. */
 inline status erfinv(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vserfinv_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_erfinv_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsSqr: y[i] = Sqr(a[i]). */
+/** Sqr, float: y[i] = a[i]^2. */
 inline status sqr(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vssqr(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sqr_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsSqr at the accuracy given. */
+/** Sqr, float, at the accuracy given. */
 inline status sqr(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vssqr_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sqr_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsExpm1: y[i] = Expm1(a[i]). */
+/** Expm1, float: y[i] = e^a[i] - 1. */
 inline status expm1(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsexpm1(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_expm1_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsExpm1 at the accuracy given. */
+/** Expm1, float, at the accuracy given. */
 inline status expm1(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsexpm1_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_expm1_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsLog1p: y[i] = Log1p(a[i]). */
+/** Log1p, float: y[i] = ln(1 + a[i]). */
 inline status log1p(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vslog1p(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_log1p_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsLog1p at the accuracy given. */
+/** Log1p, float, at the accuracy given. */
 inline status log1p(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vslog1p_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_log1p_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsPow3o2: y[i] = Pow3o2(a[i]). */
+/** Pow3o2, float: y[i] = a[i]^(3/2). */
 inline status pow3o2(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vspow3o2(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_pow3o2_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsPow3o2 at the accuracy given. */
+/** Pow3o2, float, at the accuracy given. */
 inline status pow3o2(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vspow3o2_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_pow3o2_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsPow2o3: y[i] = Pow2o3(a[i]). */
+/** Pow2o3, float: y[i] = a[i]^(2/3). */
 inline status pow2o3(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vspow2o3(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_pow2o3_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsPow2o3 at the accuracy given. */
+/** Pow2o3, float, at the accuracy given. */
 inline status pow2o3(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vspow2o3_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_pow2o3_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsErfcInv: y[i] = ErfcInv(a[i]). */
+/** ErfcInv, float: y[i] = the inverse of erfc at a[i]. */
 inline status erfcinv(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vserfcinv(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_erfcinv_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsErfcInv at the accuracy given. */
+/** ErfcInv, float, at the accuracy given. */
 inline status erfcinv(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vserfcinv_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_erfcinv_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsCdfNorm: y[i] = CdfNorm(a[i]). */
+/** CdfNorm, float: y[i] = the standard normal distribution function at a[i]. */
 inline status cdfnorm(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vscdfnorm(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cdfnorm_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsCdfNorm at the accuracy given. */
+/** CdfNorm, float, at the accuracy given. */
 inline status cdfnorm(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vscdfnorm_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cdfnorm_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsCdfNormInv: y[i] = CdfNormInv(a[i]). */
+/** CdfNormInv, float: y[i] = the standard normal quantile of a[i]. */
 inline status cdfnorminv(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vscdfnorminv(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cdfnorminv_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsCdfNormInv at the accuracy given. */
+/** CdfNormInv, float, at the accuracy given. */
 inline status cdfnorminv(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vscdfnorminv_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cdfnorminv_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsLGamma: y[i] = LGamma(a[i]). */
+/** LGamma, float: y[i] = ln |Gamma(a[i])|. */
 inline status lgamma(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vslgamma(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_lgamma_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsLGamma at the accuracy given. */
+/** LGamma, float, at the accuracy given. */
 inline status lgamma(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vslgamma_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_lgamma_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsTGamma: y[i] = TGamma(a[i]). */
+/** TGamma, float: y[i] = Gamma(a[i]). */
 inline status tgamma(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vstgamma(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tgamma_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsTGamma at the accuracy given. */
+/** TGamma, float, at the accuracy given. */
 inline status tgamma(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vstgamma_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tgamma_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsExpInt1: y[i] = ExpInt1(a[i]). */
+/** ExpInt1, float: y[i] = the exponential integral E1(a[i]). */
 inline status expint1(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsexpint1(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_expint1_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsExpInt1 at the accuracy given. */
+/** ExpInt1, float, at the accuracy given. */
 inline status expint1(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsexpint1_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_expint1_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsSinpi: y[i] = Sinpi(a[i]). */
+/** Sinpi, float: y[i] = sin(pi a[i]). */
 inline status sinpi(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vssinpi(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sinpi_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsSinpi at the accuracy given. */
+/** Sinpi, float, at the accuracy given. */
 inline status sinpi(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vssinpi_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sinpi_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsCospi: y[i] = Cospi(a[i]). */
+/** Cospi, float: y[i] = cos(pi a[i]). */
 inline status cospi(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vscospi(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cospi_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsCospi at the accuracy given. */
+/** Cospi, float, at the accuracy given. */
 inline status cospi(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vscospi_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cospi_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsTanpi: y[i] = Tanpi(a[i]). */
+/** Tanpi, float: y[i] = tan(pi a[i]). */
 inline status tanpi(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vstanpi(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tanpi_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsTanpi at the accuracy given. */
+/** Tanpi, float, at the accuracy given. */
 inline status tanpi(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vstanpi_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tanpi_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsAcospi: y[i] = Acospi(a[i]). */
+/** Acospi, float: y[i] = arccos(a[i]) / pi. */
 inline status acospi(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsacospi(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_acospi_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsAcospi at the accuracy given. */
+/** Acospi, float, at the accuracy given. */
 inline status acospi(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsacospi_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_acospi_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsAsinpi: y[i] = Asinpi(a[i]). */
+/** Asinpi, float: y[i] = arcsin(a[i]) / pi. */
 inline status asinpi(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsasinpi(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_asinpi_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsAsinpi at the accuracy given. */
+/** Asinpi, float, at the accuracy given. */
 inline status asinpi(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsasinpi_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_asinpi_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsAtanpi: y[i] = Atanpi(a[i]). */
+/** Atanpi, float: y[i] = arctan(a[i]) / pi. */
 inline status atanpi(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsatanpi(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atanpi_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsAtanpi at the accuracy given. */
+/** Atanpi, float, at the accuracy given. */
 inline status atanpi(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsatanpi_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atanpi_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsExp2: y[i] = Exp2(a[i]). */
+/** Exp2, float: y[i] = 2^a[i]. */
 inline status exp2(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsexp2(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_exp2_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsExp2 at the accuracy given. */
+/** Exp2, float, at the accuracy given. */
 inline status exp2(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsexp2_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_exp2_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsExp10: y[i] = Exp10(a[i]). */
+/** Exp10, float: y[i] = 10^a[i]. */
 inline status exp10(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsexp10(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_exp10_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsExp10 at the accuracy given. */
+/** Exp10, float, at the accuracy given. */
 inline status exp10(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsexp10_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_exp10_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsLog2: y[i] = Log2(a[i]). */
+/** Log2, float: y[i] = the base-2 logarithm of a[i]. */
 inline status log2(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vslog2(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_log2_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsLog2 at the accuracy given. */
+/** Log2, float, at the accuracy given. */
 inline status log2(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vslog2_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_log2_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsSind: y[i] = Sind(a[i]). */
+/** Sind, float: y[i] = sin of a[i] degrees. */
 inline status sind(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vssind(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sind_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsSind at the accuracy given. */
+/** Sind, float, at the accuracy given. */
 inline status sind(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vssind_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sind_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsCosd: y[i] = Cosd(a[i]). */
+/** Cosd, float: y[i] = cos of a[i] degrees. */
 inline status cosd(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vscosd(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cosd_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsCosd at the accuracy given. */
+/** Cosd, float, at the accuracy given. */
 inline status cosd(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vscosd_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cosd_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsTand: y[i] = Tand(a[i]). */
+/** Tand, float: y[i] = tan of a[i] degrees. */
 inline status tand(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vstand(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tand_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsTand at the accuracy given. */
+/** Tand, float, at the accuracy given. */
 inline status tand(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vstand_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tand_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsLogb: y[i] = Logb(a[i]). */
+/** Logb, float: y[i] = the binary exponent of a[i], floor(log2 |a[i]|). */
 inline status logb(std::span<const float> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vslogb(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_logb_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vsLogb at the accuracy given. */
+/** Logb, float, at the accuracy given. */
 inline status logb(std::span<const float> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vslogb_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_logb_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdCeil: y[i] = Ceil(a[i]). */
+/** Ceil, double: y[i] = the least integer not below a[i]. */
 inline status ceil(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdceil(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_ceil_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdCeil at the accuracy given. */
+/** Ceil, double, at the accuracy given. */
 inline status ceil(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdceil_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_ceil_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdFloor: y[i] = Floor(a[i]). */
+/** Floor, double: y[i] = the greatest integer not above a[i]. */
 inline status floor(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdfloor(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_floor_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdFloor at the accuracy given. */
+/** Floor, double, at the accuracy given. */
 inline status floor(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdfloor_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_floor_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdFrac: y[i] = Frac(a[i]). */
+/** Frac, double: y[i] = a[i] less its integer part, with a[i]'s sign. */
 inline status frac(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdfrac(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_frac_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdFrac at the accuracy given. */
+/** Frac, double, at the accuracy given. */
 inline status frac(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdfrac_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_frac_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdNearbyInt: y[i] = NearbyInt(a[i]). */
+/** NearbyInt, double: y[i] = a[i] rounded to an integer in the current mode, no inexact flag. */
 inline status nearbyint(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdnearbyint(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_nearbyint_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdNearbyInt at the accuracy given. */
+/** NearbyInt, double, at the accuracy given. */
 inline status nearbyint(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdnearbyint_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_nearbyint_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdRint: y[i] = Rint(a[i]). */
+/** Rint, double: y[i] = a[i] rounded to an integer in the current rounding mode. */
 inline status rint(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdrint(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_rint_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdRint at the accuracy given. */
+/** Rint, double, at the accuracy given. */
 inline status rint(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdrint_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_rint_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdRound: y[i] = Round(a[i]). */
+/** Round, double: y[i] = a[i] rounded to the nearest integer, halves away from 0. */
 inline status round(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdround(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_round_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdRound at the accuracy given. */
+/** Round, double, at the accuracy given. */
 inline status round(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdround_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_round_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdTrunc: y[i] = Trunc(a[i]). */
+/** Trunc, double: y[i] = a[i] rounded toward 0. */
 inline status trunc(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdtrunc(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_trunc_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdTrunc at the accuracy given. */
+/** Trunc, double, at the accuracy given. */
 inline status trunc(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdtrunc_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_trunc_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdAbs: y[i] = Abs(a[i]). */
+/** Abs, double: y[i] = |a[i]|. */
 inline status abs(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdabs(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_abs_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdAbs at the accuracy given. */
+/** Abs, double, at the accuracy given. */
 inline status abs(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdabs_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_abs_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdInv: y[i] = Inv(a[i]). */
+/** Inv, double: y[i] = 1 / a[i]. */
 inline status inv(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdinv(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_inv_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdInv at the accuracy given. */
+/** Inv, double, at the accuracy given. */
 inline status inv(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdinv_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_inv_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdSqrt: y[i] = Sqrt(a[i]). */
+/** Sqrt, double: y[i] = the square root of a[i]. */
 inline status sqrt(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdsqrt(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sqrt_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdSqrt at the accuracy given. */
+/** Sqrt, double, at the accuracy given. */
 inline status sqrt(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdsqrt_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sqrt_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdInvSqrt: y[i] = InvSqrt(a[i]). */
+/** InvSqrt, double: y[i] = 1 / sqrt(a[i]). */
 inline status invsqrt(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdinvsqrt(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_invsqrt_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdInvSqrt at the accuracy given. */
+/** InvSqrt, double, at the accuracy given. */
 inline status invsqrt(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdinvsqrt_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_invsqrt_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdCbrt: y[i] = Cbrt(a[i]). */
+/** Cbrt, double: y[i] = the cube root of a[i]. */
 inline status cbrt(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdcbrt(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cbrt_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdCbrt at the accuracy given. */
+/** Cbrt, double, at the accuracy given. */
 inline status cbrt(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdcbrt_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cbrt_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdInvCbrt: y[i] = InvCbrt(a[i]). */
+/** InvCbrt, double: y[i] = 1 / cbrt(a[i]). */
 inline status invcbrt(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdinvcbrt(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_invcbrt_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdInvCbrt at the accuracy given. */
+/** InvCbrt, double, at the accuracy given. */
 inline status invcbrt(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdinvcbrt_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_invcbrt_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdExp: y[i] = Exp(a[i]). */
+/** Exp, double: y[i] = e^a[i]. */
 inline status exp(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdexp(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_exp_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdExp at the accuracy given. */
+/** Exp, double, at the accuracy given. */
 inline status exp(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdexp_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_exp_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdLn: y[i] = Ln(a[i]). */
+/** Ln, double: y[i] = the natural logarithm of a[i]. */
 inline status ln(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdln(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_ln_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdLn at the accuracy given. */
+/** Ln, double, at the accuracy given. */
 inline status ln(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdln_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_ln_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdLog10: y[i] = Log10(a[i]). */
+/** Log10, double: y[i] = the base-10 logarithm of a[i]. */
 inline status log10(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdlog10(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_log10_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdLog10 at the accuracy given. */
+/** Log10, double, at the accuracy given. */
 inline status log10(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdlog10_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_log10_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdCos: y[i] = Cos(a[i]). */
+/** Cos, double: y[i] = cos a[i] (radians). */
 inline status cos(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdcos(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cos_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdCos at the accuracy given. */
+/** Cos, double, at the accuracy given. */
 inline status cos(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdcos_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cos_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdSin: y[i] = Sin(a[i]). */
+/** Sin, double: y[i] = sin a[i] (radians). */
 inline status sin(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdsin(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sin_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdSin at the accuracy given. */
+/** Sin, double, at the accuracy given. */
 inline status sin(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdsin_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sin_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdTan: y[i] = Tan(a[i]). */
+/** Tan, double: y[i] = tan a[i] (radians). */
 inline status tan(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdtan(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tan_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdTan at the accuracy given. */
+/** Tan, double, at the accuracy given. */
 inline status tan(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdtan_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tan_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdAcos: y[i] = Acos(a[i]). */
+/** Acos, double: y[i] = arccos a[i]. */
 inline status acos(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdacos(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_acos_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdAcos at the accuracy given. */
+/** Acos, double, at the accuracy given. */
 inline status acos(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdacos_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_acos_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdAcosh: y[i] = Acosh(a[i]). */
+/** Acosh, double: y[i] = arcosh a[i]. */
 inline status acosh(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdacosh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_acosh_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdAcosh at the accuracy given. */
+/** Acosh, double, at the accuracy given. */
 inline status acosh(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdacosh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_acosh_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdAsin: y[i] = Asin(a[i]). */
+/** Asin, double: y[i] = arcsin a[i]. */
 inline status asin(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdasin(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_asin_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdAsin at the accuracy given. */
+/** Asin, double, at the accuracy given. */
 inline status asin(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdasin_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_asin_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdAsinh: y[i] = Asinh(a[i]). */
+/** Asinh, double: y[i] = arsinh a[i]. */
 inline status asinh(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdasinh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_asinh_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdAsinh at the accuracy given. */
+/** Asinh, double, at the accuracy given. */
 inline status asinh(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdasinh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_asinh_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdAtan: y[i] = Atan(a[i]). */
+/** Atan, double: y[i] = arctan a[i]. */
 inline status atan(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdatan(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atan_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdAtan at the accuracy given. */
+/** Atan, double, at the accuracy given. */
 inline status atan(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdatan_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atan_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdAtanh: y[i] = Atanh(a[i]). */
+/** Atanh, double: y[i] = artanh a[i]. */
 inline status atanh(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdatanh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atanh_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdAtanh at the accuracy given. */
+/** Atanh, double, at the accuracy given. */
 inline status atanh(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdatanh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atanh_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdCosh: y[i] = Cosh(a[i]). */
+/** Cosh, double: y[i] = cosh a[i]. */
 inline status cosh(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdcosh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cosh_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdCosh at the accuracy given. */
+/** Cosh, double, at the accuracy given. */
 inline status cosh(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdcosh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cosh_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdSinh: y[i] = Sinh(a[i]). */
+/** Sinh, double: y[i] = sinh a[i]. */
 inline status sinh(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdsinh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sinh_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdSinh at the accuracy given. */
+/** Sinh, double, at the accuracy given. */
 inline status sinh(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdsinh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sinh_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdTanh: y[i] = Tanh(a[i]). */
+/** Tanh, double: y[i] = tanh a[i]. */
 inline status tanh(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdtanh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tanh_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdTanh at the accuracy given. */
+/** Tanh, double, at the accuracy given. */
 inline status tanh(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdtanh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tanh_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdErf: y[i] = Erf(a[i]). */
+/** Erf, double: y[i] = erf a[i]. */
 inline status erf(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vderf(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_erf_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdErf at the accuracy given. */
+/** Erf, double, at the accuracy given. */
 inline status erf(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vderf_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_erf_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdErfc: y[i] = Erfc(a[i]). */
+/** Erfc, double: y[i] = 1 - erf a[i]. */
 inline status erfc(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vderfc(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_erfc_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdErfc at the accuracy given. */
+/** Erfc, double, at the accuracy given. */
 inline status erfc(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vderfc_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_erfc_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdErfInv: y[i] = ErfInv(a[i]). */
+/** ErfInv, double: y[i] = the inverse of erf at a[i]. */
 inline status erfinv(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vderfinv(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_erfinv_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdErfInv at the accuracy given. */
+/** ErfInv, double, at the accuracy given. */
 inline status erfinv(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vderfinv_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_erfinv_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdSqr: y[i] = Sqr(a[i]). */
+/** Sqr, double: y[i] = a[i]^2. */
 inline status sqr(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdsqr(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sqr_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdSqr at the accuracy given. */
+/** Sqr, double, at the accuracy given. */
 inline status sqr(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdsqr_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sqr_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdExpm1: y[i] = Expm1(a[i]). */
+/** Expm1, double: y[i] = e^a[i] - 1. */
 inline status expm1(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdexpm1(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_expm1_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdExpm1 at the accuracy given. */
+/** Expm1, double, at the accuracy given. */
 inline status expm1(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdexpm1_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_expm1_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdLog1p: y[i] = Log1p(a[i]). */
+/** Log1p, double: y[i] = ln(1 + a[i]). */
 inline status log1p(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdlog1p(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_log1p_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdLog1p at the accuracy given. */
+/** Log1p, double, at the accuracy given. */
 inline status log1p(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdlog1p_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_log1p_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdPow3o2: y[i] = Pow3o2(a[i]). */
+/** Pow3o2, double: y[i] = a[i]^(3/2). */
 inline status pow3o2(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdpow3o2(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_pow3o2_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdPow3o2 at the accuracy given. */
+/** Pow3o2, double, at the accuracy given. */
 inline status pow3o2(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdpow3o2_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_pow3o2_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdPow2o3: y[i] = Pow2o3(a[i]). */
+/** Pow2o3, double: y[i] = a[i]^(2/3). */
 inline status pow2o3(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdpow2o3(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_pow2o3_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdPow2o3 at the accuracy given. */
+/** Pow2o3, double, at the accuracy given. */
 inline status pow2o3(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdpow2o3_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_pow2o3_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdErfcInv: y[i] = ErfcInv(a[i]). */
+/** ErfcInv, double: y[i] = the inverse of erfc at a[i]. */
 inline status erfcinv(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vderfcinv(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_erfcinv_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdErfcInv at the accuracy given. */
+/** ErfcInv, double, at the accuracy given. */
 inline status erfcinv(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vderfcinv_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_erfcinv_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdCdfNorm: y[i] = CdfNorm(a[i]). */
+/** CdfNorm, double: y[i] = the standard normal distribution function at a[i]. */
 inline status cdfnorm(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdcdfnorm(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cdfnorm_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdCdfNorm at the accuracy given. */
+/** CdfNorm, double, at the accuracy given. */
 inline status cdfnorm(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdcdfnorm_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cdfnorm_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdCdfNormInv: y[i] = CdfNormInv(a[i]). */
+/** CdfNormInv, double: y[i] = the standard normal quantile of a[i]. */
 inline status cdfnorminv(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdcdfnorminv(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cdfnorminv_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdCdfNormInv at the accuracy given. */
+/** CdfNormInv, double, at the accuracy given. */
 inline status cdfnorminv(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdcdfnorminv_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cdfnorminv_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdLGamma: y[i] = LGamma(a[i]). */
+/** LGamma, double: y[i] = ln |Gamma(a[i])|. */
 inline status lgamma(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdlgamma(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_lgamma_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdLGamma at the accuracy given. */
+/** LGamma, double, at the accuracy given. */
 inline status lgamma(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdlgamma_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_lgamma_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdTGamma: y[i] = TGamma(a[i]). */
+/** TGamma, double: y[i] = Gamma(a[i]). */
 inline status tgamma(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdtgamma(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tgamma_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdTGamma at the accuracy given. */
+/** TGamma, double, at the accuracy given. */
 inline status tgamma(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdtgamma_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tgamma_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdExpInt1: y[i] = ExpInt1(a[i]). */
+/** ExpInt1, double: y[i] = the exponential integral E1(a[i]). */
 inline status expint1(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdexpint1(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_expint1_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdExpInt1 at the accuracy given. */
+/** ExpInt1, double, at the accuracy given. */
 inline status expint1(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdexpint1_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_expint1_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdSinpi: y[i] = Sinpi(a[i]). */
+/** Sinpi, double: y[i] = sin(pi a[i]). */
 inline status sinpi(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdsinpi(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sinpi_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdSinpi at the accuracy given. */
+/** Sinpi, double, at the accuracy given. */
 inline status sinpi(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdsinpi_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sinpi_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdCospi: y[i] = Cospi(a[i]). */
+/** Cospi, double: y[i] = cos(pi a[i]). */
 inline status cospi(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdcospi(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cospi_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdCospi at the accuracy given. */
+/** Cospi, double, at the accuracy given. */
 inline status cospi(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdcospi_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cospi_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdTanpi: y[i] = Tanpi(a[i]). */
+/** Tanpi, double: y[i] = tan(pi a[i]). */
 inline status tanpi(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdtanpi(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tanpi_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdTanpi at the accuracy given. */
+/** Tanpi, double, at the accuracy given. */
 inline status tanpi(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdtanpi_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tanpi_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdAcospi: y[i] = Acospi(a[i]). */
+/** Acospi, double: y[i] = arccos(a[i]) / pi. */
 inline status acospi(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdacospi(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_acospi_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdAcospi at the accuracy given. */
+/** Acospi, double, at the accuracy given. */
 inline status acospi(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdacospi_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_acospi_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdAsinpi: y[i] = Asinpi(a[i]). */
+/** Asinpi, double: y[i] = arcsin(a[i]) / pi. */
 inline status asinpi(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdasinpi(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_asinpi_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdAsinpi at the accuracy given. */
+/** Asinpi, double, at the accuracy given. */
 inline status asinpi(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdasinpi_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_asinpi_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdAtanpi: y[i] = Atanpi(a[i]). */
+/** Atanpi, double: y[i] = arctan(a[i]) / pi. */
 inline status atanpi(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdatanpi(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atanpi_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdAtanpi at the accuracy given. */
+/** Atanpi, double, at the accuracy given. */
 inline status atanpi(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdatanpi_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atanpi_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdExp2: y[i] = Exp2(a[i]). */
+/** Exp2, double: y[i] = 2^a[i]. */
 inline status exp2(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdexp2(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_exp2_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdExp2 at the accuracy given. */
+/** Exp2, double, at the accuracy given. */
 inline status exp2(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdexp2_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_exp2_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdExp10: y[i] = Exp10(a[i]). */
+/** Exp10, double: y[i] = 10^a[i]. */
 inline status exp10(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdexp10(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_exp10_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdExp10 at the accuracy given. */
+/** Exp10, double, at the accuracy given. */
 inline status exp10(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdexp10_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_exp10_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdLog2: y[i] = Log2(a[i]). */
+/** Log2, double: y[i] = the base-2 logarithm of a[i]. */
 inline status log2(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdlog2(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_log2_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdLog2 at the accuracy given. */
+/** Log2, double, at the accuracy given. */
 inline status log2(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdlog2_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_log2_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdSind: y[i] = Sind(a[i]). */
+/** Sind, double: y[i] = sin of a[i] degrees. */
 inline status sind(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdsind(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sind_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdSind at the accuracy given. */
+/** Sind, double, at the accuracy given. */
 inline status sind(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdsind_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sind_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdCosd: y[i] = Cosd(a[i]). */
+/** Cosd, double: y[i] = cos of a[i] degrees. */
 inline status cosd(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdcosd(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cosd_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdCosd at the accuracy given. */
+/** Cosd, double, at the accuracy given. */
 inline status cosd(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdcosd_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cosd_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdTand: y[i] = Tand(a[i]). */
+/** Tand, double: y[i] = tan of a[i] degrees. */
 inline status tand(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdtand(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tand_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdTand at the accuracy given. */
+/** Tand, double, at the accuracy given. */
 inline status tand(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdtand_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tand_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdLogb: y[i] = Logb(a[i]). */
+/** Logb, double: y[i] = the binary exponent of a[i], floor(log2 |a[i]|). */
 inline status logb(std::span<const double> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdlogb(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_logb_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vdLogb at the accuracy given. */
+/** Logb, double, at the accuracy given. */
 inline status logb(std::span<const double> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdlogb_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_logb_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcCos: y[i] = Cos(a[i]). */
+/** Cos, complex float: y[i] = cos a[i] (radians). */
 inline status cos(std::span<const std::complex<float>> a, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vccos(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cos_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vcCos at the accuracy given. */
+/** Cos, complex float, at the accuracy given. */
 inline status cos(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vccos_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cos_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcSin: y[i] = Sin(a[i]). */
+/** Sin, complex float: y[i] = sin a[i] (radians). */
 inline status sin(std::span<const std::complex<float>> a, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcsin(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sin_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vcSin at the accuracy given. */
+/** Sin, complex float, at the accuracy given. */
 inline status sin(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcsin_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sin_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcTan: y[i] = Tan(a[i]). */
+/** Tan, complex float: y[i] = tan a[i] (radians). */
 inline status tan(std::span<const std::complex<float>> a, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vctan(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tan_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vcTan at the accuracy given. */
+/** Tan, complex float, at the accuracy given. */
 inline status tan(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vctan_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tan_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcCosh: y[i] = Cosh(a[i]). */
+/** Cosh, complex float: y[i] = cosh a[i]. */
 inline status cosh(std::span<const std::complex<float>> a, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vccosh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cosh_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vcCosh at the accuracy given. */
+/** Cosh, complex float, at the accuracy given. */
 inline status cosh(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vccosh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cosh_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcSinh: y[i] = Sinh(a[i]). */
+/** Sinh, complex float: y[i] = sinh a[i]. */
 inline status sinh(std::span<const std::complex<float>> a, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcsinh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sinh_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vcSinh at the accuracy given. */
+/** Sinh, complex float, at the accuracy given. */
 inline status sinh(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcsinh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sinh_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcTanh: y[i] = Tanh(a[i]). */
+/** Tanh, complex float: y[i] = tanh a[i]. */
 inline status tanh(std::span<const std::complex<float>> a, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vctanh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tanh_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vcTanh at the accuracy given. */
+/** Tanh, complex float, at the accuracy given. */
 inline status tanh(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vctanh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tanh_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcAcos: y[i] = Acos(a[i]). */
+/** Acos, complex float: y[i] = arccos a[i]. */
 inline status acos(std::span<const std::complex<float>> a, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcacos(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_acos_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vcAcos at the accuracy given. */
+/** Acos, complex float, at the accuracy given. */
 inline status acos(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcacos_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_acos_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcAsin: y[i] = Asin(a[i]). */
+/** Asin, complex float: y[i] = arcsin a[i]. */
 inline status asin(std::span<const std::complex<float>> a, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcasin(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_asin_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vcAsin at the accuracy given. */
+/** Asin, complex float, at the accuracy given. */
 inline status asin(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcasin_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_asin_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcAtan: y[i] = Atan(a[i]). */
+/** Atan, complex float: y[i] = arctan a[i]. */
 inline status atan(std::span<const std::complex<float>> a, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcatan(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atan_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vcAtan at the accuracy given. */
+/** Atan, complex float, at the accuracy given. */
 inline status atan(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcatan_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atan_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcAcosh: y[i] = Acosh(a[i]). */
+/** Acosh, complex float: y[i] = arcosh a[i]. */
 inline status acosh(std::span<const std::complex<float>> a, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcacosh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_acosh_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vcAcosh at the accuracy given. */
+/** Acosh, complex float, at the accuracy given. */
 inline status acosh(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcacosh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_acosh_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcAsinh: y[i] = Asinh(a[i]). */
+/** Asinh, complex float: y[i] = arsinh a[i]. */
 inline status asinh(std::span<const std::complex<float>> a, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcasinh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_asinh_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vcAsinh at the accuracy given. */
+/** Asinh, complex float, at the accuracy given. */
 inline status asinh(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcasinh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_asinh_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcAtanh: y[i] = Atanh(a[i]). */
+/** Atanh, complex float: y[i] = artanh a[i]. */
 inline status atanh(std::span<const std::complex<float>> a, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcatanh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atanh_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vcAtanh at the accuracy given. */
+/** Atanh, complex float, at the accuracy given. */
 inline status atanh(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcatanh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atanh_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcExp: y[i] = Exp(a[i]). */
+/** Exp, complex float: y[i] = e^a[i]. */
 inline status exp(std::span<const std::complex<float>> a, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcexp(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_exp_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vcExp at the accuracy given. */
+/** Exp, complex float, at the accuracy given. */
 inline status exp(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcexp_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_exp_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcLn: y[i] = Ln(a[i]). */
+/** Ln, complex float: y[i] = the natural logarithm of a[i]. */
 inline status ln(std::span<const std::complex<float>> a, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcln(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_ln_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vcLn at the accuracy given. */
+/** Ln, complex float, at the accuracy given. */
 inline status ln(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcln_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_ln_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcLog10: y[i] = Log10(a[i]). */
+/** Log10, complex float: y[i] = the base-10 logarithm of a[i]. */
 inline status log10(std::span<const std::complex<float>> a, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vclog10(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_log10_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vcLog10 at the accuracy given. */
+/** Log10, complex float, at the accuracy given. */
 inline status log10(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vclog10_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_log10_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcSqrt: y[i] = Sqrt(a[i]). */
+/** Sqrt, complex float: y[i] = the square root of a[i]. */
 inline status sqrt(std::span<const std::complex<float>> a, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcsqrt(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sqrt_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vcSqrt at the accuracy given. */
+/** Sqrt, complex float, at the accuracy given. */
 inline status sqrt(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcsqrt_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sqrt_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcConj: y[i] = Conj(a[i]). */
+/** Conj, complex float: y[i] = the complex conjugate of a[i]. */
 inline status conj(std::span<const std::complex<float>> a, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcconj(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_conj_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vcConj at the accuracy given. */
+/** Conj, complex float, at the accuracy given. */
 inline status conj(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcconj_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_conj_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzCos: y[i] = Cos(a[i]). */
+/** Cos, complex double: y[i] = cos a[i] (radians). */
 inline status cos(std::span<const std::complex<double>> a, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzcos(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cos_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vzCos at the accuracy given. */
+/** Cos, complex double, at the accuracy given. */
 inline status cos(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzcos_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cos_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzSin: y[i] = Sin(a[i]). */
+/** Sin, complex double: y[i] = sin a[i] (radians). */
 inline status sin(std::span<const std::complex<double>> a, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzsin(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sin_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vzSin at the accuracy given. */
+/** Sin, complex double, at the accuracy given. */
 inline status sin(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzsin_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sin_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzTan: y[i] = Tan(a[i]). */
+/** Tan, complex double: y[i] = tan a[i] (radians). */
 inline status tan(std::span<const std::complex<double>> a, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vztan(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tan_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vzTan at the accuracy given. */
+/** Tan, complex double, at the accuracy given. */
 inline status tan(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vztan_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tan_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzCosh: y[i] = Cosh(a[i]). */
+/** Cosh, complex double: y[i] = cosh a[i]. */
 inline status cosh(std::span<const std::complex<double>> a, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzcosh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cosh_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vzCosh at the accuracy given. */
+/** Cosh, complex double, at the accuracy given. */
 inline status cosh(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzcosh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cosh_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzSinh: y[i] = Sinh(a[i]). */
+/** Sinh, complex double: y[i] = sinh a[i]. */
 inline status sinh(std::span<const std::complex<double>> a, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzsinh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sinh_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vzSinh at the accuracy given. */
+/** Sinh, complex double, at the accuracy given. */
 inline status sinh(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzsinh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sinh_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzTanh: y[i] = Tanh(a[i]). */
+/** Tanh, complex double: y[i] = tanh a[i]. */
 inline status tanh(std::span<const std::complex<double>> a, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vztanh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tanh_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vzTanh at the accuracy given. */
+/** Tanh, complex double, at the accuracy given. */
 inline status tanh(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vztanh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_tanh_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzAcos: y[i] = Acos(a[i]). */
+/** Acos, complex double: y[i] = arccos a[i]. */
 inline status acos(std::span<const std::complex<double>> a, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzacos(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_acos_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vzAcos at the accuracy given. */
+/** Acos, complex double, at the accuracy given. */
 inline status acos(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzacos_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_acos_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzAsin: y[i] = Asin(a[i]). */
+/** Asin, complex double: y[i] = arcsin a[i]. */
 inline status asin(std::span<const std::complex<double>> a, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzasin(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_asin_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vzAsin at the accuracy given. */
+/** Asin, complex double, at the accuracy given. */
 inline status asin(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzasin_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_asin_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzAtan: y[i] = Atan(a[i]). */
+/** Atan, complex double: y[i] = arctan a[i]. */
 inline status atan(std::span<const std::complex<double>> a, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzatan(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atan_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vzAtan at the accuracy given. */
+/** Atan, complex double, at the accuracy given. */
 inline status atan(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzatan_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atan_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzAcosh: y[i] = Acosh(a[i]). */
+/** Acosh, complex double: y[i] = arcosh a[i]. */
 inline status acosh(std::span<const std::complex<double>> a, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzacosh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_acosh_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vzAcosh at the accuracy given. */
+/** Acosh, complex double, at the accuracy given. */
 inline status acosh(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzacosh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_acosh_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzAsinh: y[i] = Asinh(a[i]). */
+/** Asinh, complex double: y[i] = arsinh a[i]. */
 inline status asinh(std::span<const std::complex<double>> a, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzasinh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_asinh_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vzAsinh at the accuracy given. */
+/** Asinh, complex double, at the accuracy given. */
 inline status asinh(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzasinh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_asinh_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzAtanh: y[i] = Atanh(a[i]). */
+/** Atanh, complex double: y[i] = artanh a[i]. */
 inline status atanh(std::span<const std::complex<double>> a, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzatanh(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atanh_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vzAtanh at the accuracy given. */
+/** Atanh, complex double, at the accuracy given. */
 inline status atanh(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzatanh_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atanh_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzExp: y[i] = Exp(a[i]). */
+/** Exp, complex double: y[i] = e^a[i]. */
 inline status exp(std::span<const std::complex<double>> a, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzexp(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_exp_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vzExp at the accuracy given. */
+/** Exp, complex double, at the accuracy given. */
 inline status exp(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzexp_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_exp_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzLn: y[i] = Ln(a[i]). */
+/** Ln, complex double: y[i] = the natural logarithm of a[i]. */
 inline status ln(std::span<const std::complex<double>> a, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzln(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_ln_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vzLn at the accuracy given. */
+/** Ln, complex double, at the accuracy given. */
 inline status ln(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzln_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_ln_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzLog10: y[i] = Log10(a[i]). */
+/** Log10, complex double: y[i] = the base-10 logarithm of a[i]. */
 inline status log10(std::span<const std::complex<double>> a, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzlog10(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_log10_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vzLog10 at the accuracy given. */
+/** Log10, complex double, at the accuracy given. */
 inline status log10(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzlog10_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_log10_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzSqrt: y[i] = Sqrt(a[i]). */
+/** Sqrt, complex double: y[i] = the square root of a[i]. */
 inline status sqrt(std::span<const std::complex<double>> a, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzsqrt(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sqrt_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vzSqrt at the accuracy given. */
+/** Sqrt, complex double, at the accuracy given. */
 inline status sqrt(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzsqrt_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sqrt_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzConj: y[i] = Conj(a[i]). */
+/** Conj, complex double: y[i] = the complex conjugate of a[i]. */
 inline status conj(std::span<const std::complex<double>> a, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzconj(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_conj_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vzConj at the accuracy given. */
+/** Conj, complex double, at the accuracy given. */
 inline status conj(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzconj_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_conj_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcCIS: y[i] = CIS(a[i]). */
+/** CIS, complex float: y[i] = cos a[i] + i sin a[i]. */
 inline status cis(std::span<const float> a, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vccis(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cis_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vcCIS at the accuracy given. */
+/** CIS, complex float, at the accuracy given. */
 inline status cis(std::span<const float> a, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vccis_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cis_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzCIS: y[i] = CIS(a[i]). */
+/** CIS, complex double: y[i] = cos a[i] + i sin a[i]. */
 inline status cis(std::span<const double> a, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzcis(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cis_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vzCIS at the accuracy given. */
+/** CIS, complex double, at the accuracy given. */
 inline status cis(std::span<const double> a, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzcis_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_cis_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcAbs: y[i] = Abs(a[i]). */
+/** Abs, complex float: y[i] = |a[i]|. */
 inline status abs(std::span<const std::complex<float>> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcabs(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_abs_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vcAbs at the accuracy given. */
+/** Abs, complex float, at the accuracy given. */
 inline status abs(std::span<const std::complex<float>> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcabs_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_abs_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcArg: y[i] = Arg(a[i]). */
+/** Arg, complex float: y[i] = the argument (phase angle) of a[i]. */
 inline status arg(std::span<const std::complex<float>> a, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcarg(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_arg_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vcArg at the accuracy given. */
+/** Arg, complex float, at the accuracy given. */
 inline status arg(std::span<const std::complex<float>> a, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcarg_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_arg_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzAbs: y[i] = Abs(a[i]). */
+/** Abs, complex double: y[i] = |a[i]|. */
 inline status abs(std::span<const std::complex<double>> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzabs(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_abs_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vzAbs at the accuracy given. */
+/** Abs, complex double, at the accuracy given. */
 inline status abs(std::span<const std::complex<double>> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzabs_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_abs_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzArg: y[i] = Arg(a[i]). */
+/** Arg, complex double: y[i] = the argument (phase angle) of a[i]. */
 inline status arg(std::span<const std::complex<double>> a, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzarg(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_arg_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()))};
 }
-/** vzArg at the accuracy given. */
+/** Arg, complex double, at the accuracy given. */
 inline status arg(std::span<const std::complex<double>> a, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzarg_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_arg_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsDiv: y[i] = Div(a[i], b[i]). */
+/** Div, float: y[i] = a[i] / b[i]. */
 inline status div(std::span<const float> a, std::span<const float> b, std::span<float> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsdiv(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_div_f32(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vsDiv at the accuracy given. */
+/** Div, float, at the accuracy given. */
 inline status div(std::span<const float> a, std::span<const float> b, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsdiv_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_div_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsPow: y[i] = Pow(a[i], b[i]). */
+/** Pow, float: y[i] = a[i]^b[i]. */
 inline status pow(std::span<const float> a, std::span<const float> b, std::span<float> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vspow(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_pow_f32(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vsPow at the accuracy given. */
+/** Pow, float, at the accuracy given. */
 inline status pow(std::span<const float> a, std::span<const float> b, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vspow_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_pow_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsAtan2: y[i] = Atan2(a[i], b[i]). */
+/** Atan2, float: y[i] = the angle of the point (b[i], a[i]), atan2(a[i], b[i]). */
 inline status atan2(std::span<const float> a, std::span<const float> b, std::span<float> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsatan2(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atan2_f32(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vsAtan2 at the accuracy given. */
+/** Atan2, float, at the accuracy given. */
 inline status atan2(std::span<const float> a, std::span<const float> b, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsatan2_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atan2_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsHypot: y[i] = Hypot(a[i], b[i]). */
+/** Hypot, float: y[i] = sqrt(a[i]^2 + b[i]^2). */
 inline status hypot(std::span<const float> a, std::span<const float> b, std::span<float> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vshypot(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_hypot_f32(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vsHypot at the accuracy given. */
+/** Hypot, float, at the accuracy given. */
 inline status hypot(std::span<const float> a, std::span<const float> b, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vshypot_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_hypot_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsAdd: y[i] = Add(a[i], b[i]). */
+/** Add, float: y[i] = a[i] + b[i]. */
 inline status add(std::span<const float> a, std::span<const float> b, std::span<float> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsadd(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_add_f32(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vsAdd at the accuracy given. */
+/** Add, float, at the accuracy given. */
 inline status add(std::span<const float> a, std::span<const float> b, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsadd_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_add_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsSub: y[i] = Sub(a[i], b[i]). */
+/** Sub, float: y[i] = a[i] - b[i]. */
 inline status sub(std::span<const float> a, std::span<const float> b, std::span<float> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vssub(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sub_f32(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vsSub at the accuracy given. */
+/** Sub, float, at the accuracy given. */
 inline status sub(std::span<const float> a, std::span<const float> b, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vssub_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sub_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsMul: y[i] = Mul(a[i], b[i]). */
+/** Mul, float: y[i] = a[i] * b[i]. */
 inline status mul(std::span<const float> a, std::span<const float> b, std::span<float> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsmul(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_mul_f32(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vsMul at the accuracy given. */
+/** Mul, float, at the accuracy given. */
 inline status mul(std::span<const float> a, std::span<const float> b, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsmul_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_mul_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsAtan2pi: y[i] = Atan2pi(a[i], b[i]). */
+/** Atan2pi, float: y[i] = atan2(a[i], b[i]) / pi. */
 inline status atan2pi(std::span<const float> a, std::span<const float> b, std::span<float> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsatan2pi(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atan2pi_f32(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vsAtan2pi at the accuracy given. */
+/** Atan2pi, float, at the accuracy given. */
 inline status atan2pi(std::span<const float> a, std::span<const float> b, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsatan2pi_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atan2pi_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsCopySign: y[i] = CopySign(a[i], b[i]). */
+/** CopySign, float: y[i] = |a[i]| with the sign of b[i]. */
 inline status copysign(std::span<const float> a, std::span<const float> b, std::span<float> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vscopysign(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_copysign_f32(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vsCopySign at the accuracy given. */
+/** CopySign, float, at the accuracy given. */
 inline status copysign(std::span<const float> a, std::span<const float> b, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vscopysign_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_copysign_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsNextAfter: y[i] = NextAfter(a[i], b[i]). */
+/** NextAfter, float: y[i] = the next number after a[i] toward b[i]. */
 inline status nextafter(std::span<const float> a, std::span<const float> b, std::span<float> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsnextafter(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_nextafter_f32(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vsNextAfter at the accuracy given. */
+/** NextAfter, float, at the accuracy given. */
 inline status nextafter(std::span<const float> a, std::span<const float> b, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsnextafter_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_nextafter_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsFdim: y[i] = Fdim(a[i], b[i]). */
+/** Fdim, float: y[i] = a[i] - b[i] when positive, else +0. */
 inline status fdim(std::span<const float> a, std::span<const float> b, std::span<float> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsfdim(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_fdim_f32(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vsFdim at the accuracy given. */
+/** Fdim, float, at the accuracy given. */
 inline status fdim(std::span<const float> a, std::span<const float> b, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsfdim_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_fdim_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsFmax: y[i] = Fmax(a[i], b[i]). */
+/** Fmax, float: y[i] = the larger of a[i] and b[i]. */
 inline status fmax(std::span<const float> a, std::span<const float> b, std::span<float> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsfmax(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_fmax_f32(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vsFmax at the accuracy given. */
+/** Fmax, float, at the accuracy given. */
 inline status fmax(std::span<const float> a, std::span<const float> b, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsfmax_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_fmax_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsFmin: y[i] = Fmin(a[i], b[i]). */
+/** Fmin, float: y[i] = the smaller of a[i] and b[i]. */
 inline status fmin(std::span<const float> a, std::span<const float> b, std::span<float> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsfmin(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_fmin_f32(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vsFmin at the accuracy given. */
+/** Fmin, float, at the accuracy given. */
 inline status fmin(std::span<const float> a, std::span<const float> b, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsfmin_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_fmin_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsMaxMag: y[i] = MaxMag(a[i], b[i]). */
+/** MaxMag, float: y[i] = of a[i] and b[i] the larger in magnitude. */
 inline status maxmag(std::span<const float> a, std::span<const float> b, std::span<float> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsmaxmag(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_maxmag_f32(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vsMaxMag at the accuracy given. */
+/** MaxMag, float, at the accuracy given. */
 inline status maxmag(std::span<const float> a, std::span<const float> b, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsmaxmag_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_maxmag_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsMinMag: y[i] = MinMag(a[i], b[i]). */
+/** MinMag, float: y[i] = of a[i] and b[i] the smaller in magnitude. */
 inline status minmag(std::span<const float> a, std::span<const float> b, std::span<float> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsminmag(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_minmag_f32(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vsMinMag at the accuracy given. */
+/** MinMag, float, at the accuracy given. */
 inline status minmag(std::span<const float> a, std::span<const float> b, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsminmag_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_minmag_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsPowr: y[i] = Powr(a[i], b[i]). */
+/** Powr, float: y[i] = a[i]^b[i], as e^(b[i] ln a[i]). */
 inline status powr(std::span<const float> a, std::span<const float> b, std::span<float> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vspowr(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_powr_f32(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vsPowr at the accuracy given. */
+/** Powr, float, at the accuracy given. */
 inline status powr(std::span<const float> a, std::span<const float> b, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vspowr_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_powr_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsRemainder: y[i] = Remainder(a[i], b[i]). */
+/** Remainder, float: y[i] = a[i] - b[i] n, n the nearest integer to a[i] / b[i]. */
 inline status remainder(std::span<const float> a, std::span<const float> b, std::span<float> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsremainder(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_remainder_f32(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vsRemainder at the accuracy given. */
+/** Remainder, float, at the accuracy given. */
 inline status remainder(std::span<const float> a, std::span<const float> b, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsremainder_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_remainder_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsFmod: y[i] = Fmod(a[i], b[i]). */
+/** Fmod, float: y[i] = a[i] - b[i] trunc(a[i] / b[i]). */
 inline status fmod(std::span<const float> a, std::span<const float> b, std::span<float> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsfmod(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_fmod_f32(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vsFmod at the accuracy given. */
+/** Fmod, float, at the accuracy given. */
 inline status fmod(std::span<const float> a, std::span<const float> b, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsfmod_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_fmod_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdDiv: y[i] = Div(a[i], b[i]). */
+/** Div, double: y[i] = a[i] / b[i]. */
 inline status div(std::span<const double> a, std::span<const double> b, std::span<double> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vddiv(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_div_f64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vdDiv at the accuracy given. */
+/** Div, double, at the accuracy given. */
 inline status div(std::span<const double> a, std::span<const double> b, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vddiv_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_div_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdPow: y[i] = Pow(a[i], b[i]). */
+/** Pow, double: y[i] = a[i]^b[i]. */
 inline status pow(std::span<const double> a, std::span<const double> b, std::span<double> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdpow(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_pow_f64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vdPow at the accuracy given. */
+/** Pow, double, at the accuracy given. */
 inline status pow(std::span<const double> a, std::span<const double> b, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdpow_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_pow_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdAtan2: y[i] = Atan2(a[i], b[i]). */
+/** Atan2, double: y[i] = the angle of the point (b[i], a[i]), atan2(a[i], b[i]). */
 inline status atan2(std::span<const double> a, std::span<const double> b, std::span<double> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdatan2(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atan2_f64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vdAtan2 at the accuracy given. */
+/** Atan2, double, at the accuracy given. */
 inline status atan2(std::span<const double> a, std::span<const double> b, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdatan2_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atan2_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdHypot: y[i] = Hypot(a[i], b[i]). */
+/** Hypot, double: y[i] = sqrt(a[i]^2 + b[i]^2). */
 inline status hypot(std::span<const double> a, std::span<const double> b, std::span<double> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdhypot(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_hypot_f64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vdHypot at the accuracy given. */
+/** Hypot, double, at the accuracy given. */
 inline status hypot(std::span<const double> a, std::span<const double> b, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdhypot_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_hypot_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdAdd: y[i] = Add(a[i], b[i]). */
+/** Add, double: y[i] = a[i] + b[i]. */
 inline status add(std::span<const double> a, std::span<const double> b, std::span<double> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdadd(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_add_f64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vdAdd at the accuracy given. */
+/** Add, double, at the accuracy given. */
 inline status add(std::span<const double> a, std::span<const double> b, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdadd_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_add_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdSub: y[i] = Sub(a[i], b[i]). */
+/** Sub, double: y[i] = a[i] - b[i]. */
 inline status sub(std::span<const double> a, std::span<const double> b, std::span<double> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdsub(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sub_f64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vdSub at the accuracy given. */
+/** Sub, double, at the accuracy given. */
 inline status sub(std::span<const double> a, std::span<const double> b, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdsub_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sub_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdMul: y[i] = Mul(a[i], b[i]). */
+/** Mul, double: y[i] = a[i] * b[i]. */
 inline status mul(std::span<const double> a, std::span<const double> b, std::span<double> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdmul(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_mul_f64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vdMul at the accuracy given. */
+/** Mul, double, at the accuracy given. */
 inline status mul(std::span<const double> a, std::span<const double> b, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdmul_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_mul_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdAtan2pi: y[i] = Atan2pi(a[i], b[i]). */
+/** Atan2pi, double: y[i] = atan2(a[i], b[i]) / pi. */
 inline status atan2pi(std::span<const double> a, std::span<const double> b, std::span<double> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdatan2pi(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atan2pi_f64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vdAtan2pi at the accuracy given. */
+/** Atan2pi, double, at the accuracy given. */
 inline status atan2pi(std::span<const double> a, std::span<const double> b, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdatan2pi_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_atan2pi_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdCopySign: y[i] = CopySign(a[i], b[i]). */
+/** CopySign, double: y[i] = |a[i]| with the sign of b[i]. */
 inline status copysign(std::span<const double> a, std::span<const double> b, std::span<double> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdcopysign(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_copysign_f64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vdCopySign at the accuracy given. */
+/** CopySign, double, at the accuracy given. */
 inline status copysign(std::span<const double> a, std::span<const double> b, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdcopysign_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_copysign_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdNextAfter: y[i] = NextAfter(a[i], b[i]). */
+/** NextAfter, double: y[i] = the next number after a[i] toward b[i]. */
 inline status nextafter(std::span<const double> a, std::span<const double> b, std::span<double> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdnextafter(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_nextafter_f64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vdNextAfter at the accuracy given. */
+/** NextAfter, double, at the accuracy given. */
 inline status nextafter(std::span<const double> a, std::span<const double> b, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdnextafter_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_nextafter_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdFdim: y[i] = Fdim(a[i], b[i]). */
+/** Fdim, double: y[i] = a[i] - b[i] when positive, else +0. */
 inline status fdim(std::span<const double> a, std::span<const double> b, std::span<double> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdfdim(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_fdim_f64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vdFdim at the accuracy given. */
+/** Fdim, double, at the accuracy given. */
 inline status fdim(std::span<const double> a, std::span<const double> b, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdfdim_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_fdim_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdFmax: y[i] = Fmax(a[i], b[i]). */
+/** Fmax, double: y[i] = the larger of a[i] and b[i]. */
 inline status fmax(std::span<const double> a, std::span<const double> b, std::span<double> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdfmax(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_fmax_f64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vdFmax at the accuracy given. */
+/** Fmax, double, at the accuracy given. */
 inline status fmax(std::span<const double> a, std::span<const double> b, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdfmax_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_fmax_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdFmin: y[i] = Fmin(a[i], b[i]). */
+/** Fmin, double: y[i] = the smaller of a[i] and b[i]. */
 inline status fmin(std::span<const double> a, std::span<const double> b, std::span<double> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdfmin(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_fmin_f64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vdFmin at the accuracy given. */
+/** Fmin, double, at the accuracy given. */
 inline status fmin(std::span<const double> a, std::span<const double> b, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdfmin_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_fmin_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdMaxMag: y[i] = MaxMag(a[i], b[i]). */
+/** MaxMag, double: y[i] = of a[i] and b[i] the larger in magnitude. */
 inline status maxmag(std::span<const double> a, std::span<const double> b, std::span<double> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdmaxmag(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_maxmag_f64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vdMaxMag at the accuracy given. */
+/** MaxMag, double, at the accuracy given. */
 inline status maxmag(std::span<const double> a, std::span<const double> b, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdmaxmag_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_maxmag_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdMinMag: y[i] = MinMag(a[i], b[i]). */
+/** MinMag, double: y[i] = of a[i] and b[i] the smaller in magnitude. */
 inline status minmag(std::span<const double> a, std::span<const double> b, std::span<double> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdminmag(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_minmag_f64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vdMinMag at the accuracy given. */
+/** MinMag, double, at the accuracy given. */
 inline status minmag(std::span<const double> a, std::span<const double> b, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdminmag_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_minmag_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdPowr: y[i] = Powr(a[i], b[i]). */
+/** Powr, double: y[i] = a[i]^b[i], as e^(b[i] ln a[i]). */
 inline status powr(std::span<const double> a, std::span<const double> b, std::span<double> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdpowr(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_powr_f64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vdPowr at the accuracy given. */
+/** Powr, double, at the accuracy given. */
 inline status powr(std::span<const double> a, std::span<const double> b, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdpowr_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_powr_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdRemainder: y[i] = Remainder(a[i], b[i]). */
+/** Remainder, double: y[i] = a[i] - b[i] n, n the nearest integer to a[i] / b[i]. */
 inline status remainder(std::span<const double> a, std::span<const double> b, std::span<double> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdremainder(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_remainder_f64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vdRemainder at the accuracy given. */
+/** Remainder, double, at the accuracy given. */
 inline status remainder(std::span<const double> a, std::span<const double> b, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdremainder_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_remainder_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdFmod: y[i] = Fmod(a[i], b[i]). */
+/** Fmod, double: y[i] = a[i] - b[i] trunc(a[i] / b[i]). */
 inline status fmod(std::span<const double> a, std::span<const double> b, std::span<double> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdfmod(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_fmod_f64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vdFmod at the accuracy given. */
+/** Fmod, double, at the accuracy given. */
 inline status fmod(std::span<const double> a, std::span<const double> b, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdfmod_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_fmod_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcDiv: y[i] = Div(a[i], b[i]). */
+/** Div, complex float: y[i] = a[i] / b[i]. */
 inline status div(std::span<const std::complex<float>> a, std::span<const std::complex<float>> b, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcdiv(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_div_c64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vcDiv at the accuracy given. */
+/** Div, complex float, at the accuracy given. */
 inline status div(std::span<const std::complex<float>> a, std::span<const std::complex<float>> b, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcdiv_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_div_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcPow: y[i] = Pow(a[i], b[i]). */
+/** Pow, complex float: y[i] = a[i]^b[i]. */
 inline status pow(std::span<const std::complex<float>> a, std::span<const std::complex<float>> b, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcpow(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_pow_c64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vcPow at the accuracy given. */
+/** Pow, complex float, at the accuracy given. */
 inline status pow(std::span<const std::complex<float>> a, std::span<const std::complex<float>> b, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcpow_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_pow_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcAdd: y[i] = Add(a[i], b[i]). */
+/** Add, complex float: y[i] = a[i] + b[i]. */
 inline status add(std::span<const std::complex<float>> a, std::span<const std::complex<float>> b, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcadd(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_add_c64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vcAdd at the accuracy given. */
+/** Add, complex float, at the accuracy given. */
 inline status add(std::span<const std::complex<float>> a, std::span<const std::complex<float>> b, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcadd_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_add_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcSub: y[i] = Sub(a[i], b[i]). */
+/** Sub, complex float: y[i] = a[i] - b[i]. */
 inline status sub(std::span<const std::complex<float>> a, std::span<const std::complex<float>> b, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcsub(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sub_c64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vcSub at the accuracy given. */
+/** Sub, complex float, at the accuracy given. */
 inline status sub(std::span<const std::complex<float>> a, std::span<const std::complex<float>> b, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcsub_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sub_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcMul: y[i] = Mul(a[i], b[i]). */
+/** Mul, complex float: y[i] = a[i] * b[i]. */
 inline status mul(std::span<const std::complex<float>> a, std::span<const std::complex<float>> b, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcmul(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_mul_c64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vcMul at the accuracy given. */
+/** Mul, complex float, at the accuracy given. */
 inline status mul(std::span<const std::complex<float>> a, std::span<const std::complex<float>> b, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcmul_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_mul_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcMulByConj: y[i] = MulByConj(a[i], b[i]). */
+/** MulByConj, complex float: y[i] = a[i] * conj(b[i]). */
 inline status mulbyconj(std::span<const std::complex<float>> a, std::span<const std::complex<float>> b, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcmulbyconj(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_mulbyconj_c64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vcMulByConj at the accuracy given. */
+/** MulByConj, complex float, at the accuracy given. */
 inline status mulbyconj(std::span<const std::complex<float>> a, std::span<const std::complex<float>> b, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcmulbyconj_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_mulbyconj_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzDiv: y[i] = Div(a[i], b[i]). */
+/** Div, complex double: y[i] = a[i] / b[i]. */
 inline status div(std::span<const std::complex<double>> a, std::span<const std::complex<double>> b, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzdiv(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_div_c128(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vzDiv at the accuracy given. */
+/** Div, complex double, at the accuracy given. */
 inline status div(std::span<const std::complex<double>> a, std::span<const std::complex<double>> b, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzdiv_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_div_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzPow: y[i] = Pow(a[i], b[i]). */
+/** Pow, complex double: y[i] = a[i]^b[i]. */
 inline status pow(std::span<const std::complex<double>> a, std::span<const std::complex<double>> b, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzpow(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_pow_c128(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vzPow at the accuracy given. */
+/** Pow, complex double, at the accuracy given. */
 inline status pow(std::span<const std::complex<double>> a, std::span<const std::complex<double>> b, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzpow_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_pow_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzAdd: y[i] = Add(a[i], b[i]). */
+/** Add, complex double: y[i] = a[i] + b[i]. */
 inline status add(std::span<const std::complex<double>> a, std::span<const std::complex<double>> b, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzadd(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_add_c128(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vzAdd at the accuracy given. */
+/** Add, complex double, at the accuracy given. */
 inline status add(std::span<const std::complex<double>> a, std::span<const std::complex<double>> b, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzadd_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_add_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzSub: y[i] = Sub(a[i], b[i]). */
+/** Sub, complex double: y[i] = a[i] - b[i]. */
 inline status sub(std::span<const std::complex<double>> a, std::span<const std::complex<double>> b, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzsub(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sub_c128(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vzSub at the accuracy given. */
+/** Sub, complex double, at the accuracy given. */
 inline status sub(std::span<const std::complex<double>> a, std::span<const std::complex<double>> b, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzsub_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sub_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzMul: y[i] = Mul(a[i], b[i]). */
+/** Mul, complex double: y[i] = a[i] * b[i]. */
 inline status mul(std::span<const std::complex<double>> a, std::span<const std::complex<double>> b, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzmul(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_mul_c128(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vzMul at the accuracy given. */
+/** Mul, complex double, at the accuracy given. */
 inline status mul(std::span<const std::complex<double>> a, std::span<const std::complex<double>> b, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzmul_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_mul_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzMulByConj: y[i] = MulByConj(a[i], b[i]). */
+/** MulByConj, complex double: y[i] = a[i] * conj(b[i]). */
 inline status mulbyconj(std::span<const std::complex<double>> a, std::span<const std::complex<double>> b, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzmulbyconj(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_mulbyconj_c128(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()))};
 }
-/** vzMulByConj at the accuracy given. */
+/** MulByConj, complex double, at the accuracy given. */
 inline status mulbyconj(std::span<const std::complex<double>> a, std::span<const std::complex<double>> b, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzmulbyconj_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_mulbyconj_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcPowx: y[i] = a[i] to the power b. */
+/** Powx, complex float: y[i] = a[i]^b, b one scalar. */
 inline status powx(std::span<const std::complex<float>> a, std::complex<float> b, std::span<std::complex<float>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcpowx(int(n), detail::as_c(a.data()), detail::as_c(b), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_powx_c64(int(n), detail::as_c(a.data()), detail::as_c(b), detail::as_c(y.data()))};
 }
-/** vcPowx at the accuracy given. */
+/** Powx, complex float, at the accuracy given. */
 inline status powx(std::span<const std::complex<float>> a, std::complex<float> b, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcpowx_acc(int(n), detail::as_c(a.data()), detail::as_c(b), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_powx_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(b), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzPowx: y[i] = a[i] to the power b. */
+/** Powx, complex double: y[i] = a[i]^b, b one scalar. */
 inline status powx(std::span<const std::complex<double>> a, std::complex<double> b, std::span<std::complex<double>> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzpowx(int(n), detail::as_c(a.data()), detail::as_c(b), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_powx_c128(int(n), detail::as_c(a.data()), detail::as_c(b), detail::as_c(y.data()))};
 }
-/** vzPowx at the accuracy given. */
+/** Powx, complex double, at the accuracy given. */
 inline status powx(std::span<const std::complex<double>> a, std::complex<double> b, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzpowx_acc(int(n), detail::as_c(a.data()), detail::as_c(b), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_powx_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(b), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsPowx: y[i] = a[i] to the power b. */
+/** Powx, float: y[i] = a[i]^b, b one scalar. */
 inline status powx(std::span<const float> a, float b, std::span<float> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vspowx(int(n), detail::as_c(a.data()), b, detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_powx_f32(int(n), detail::as_c(a.data()), b, detail::as_c(y.data()))};
 }
-/** vsPowx at the accuracy given. */
+/** Powx, float, at the accuracy given. */
 inline status powx(std::span<const float> a, float b, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vspowx_acc(int(n), detail::as_c(a.data()), b, detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_powx_f32_acc(int(n), detail::as_c(a.data()), b, detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdPowx: y[i] = a[i] to the power b. */
+/** Powx, double: y[i] = a[i]^b, b one scalar. */
 inline status powx(std::span<const double> a, double b, std::span<double> y) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdpowx(int(n), detail::as_c(a.data()), b, detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_powx_f64(int(n), detail::as_c(a.data()), b, detail::as_c(y.data()))};
 }
-/** vdPowx at the accuracy given. */
+/** Powx, double, at the accuracy given. */
 inline status powx(std::span<const double> a, double b, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdpowx_acc(int(n), detail::as_c(a.data()), b, detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_powx_f64_acc(int(n), detail::as_c(a.data()), b, detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsSinCos: (y[i], z[i]) = SinCos(a[i]). */
+/** SinCos, float: y[i] = sin a[i], z[i] = cos a[i]. */
 inline status sincos(std::span<const float> a, std::span<float> y, std::span<float> z) {
     const long n = detail::common_size({a.size(), y.size(), z.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vssincos(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(z.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sincos_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(z.data()))};
 }
-/** vsSinCos at the accuracy given. */
+/** SinCos, float, at the accuracy given. */
 inline status sincos(std::span<const float> a, std::span<float> y, std::span<float> z, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size(), z.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vssincos_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(z.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sincos_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(z.data()), static_cast<int>(acc))};
 }
-/** vsModf: (y[i], z[i]) = Modf(a[i]). */
+/** Modf, float: y[i] = the integer part of a[i], z[i] its fraction. */
 inline status modf(std::span<const float> a, std::span<float> y, std::span<float> z) {
     const long n = detail::common_size({a.size(), y.size(), z.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsmodf(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(z.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_modf_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(z.data()))};
 }
-/** vsModf at the accuracy given. */
+/** Modf, float, at the accuracy given. */
 inline status modf(std::span<const float> a, std::span<float> y, std::span<float> z, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size(), z.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsmodf_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(z.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_modf_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(z.data()), static_cast<int>(acc))};
 }
-/** vdSinCos: (y[i], z[i]) = SinCos(a[i]). */
+/** SinCos, double: y[i] = sin a[i], z[i] = cos a[i]. */
 inline status sincos(std::span<const double> a, std::span<double> y, std::span<double> z) {
     const long n = detail::common_size({a.size(), y.size(), z.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdsincos(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(z.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sincos_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(z.data()))};
 }
-/** vdSinCos at the accuracy given. */
+/** SinCos, double, at the accuracy given. */
 inline status sincos(std::span<const double> a, std::span<double> y, std::span<double> z, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size(), z.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdsincos_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(z.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_sincos_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(z.data()), static_cast<int>(acc))};
 }
-/** vdModf: (y[i], z[i]) = Modf(a[i]). */
+/** Modf, double: y[i] = the integer part of a[i], z[i] its fraction. */
 inline status modf(std::span<const double> a, std::span<double> y, std::span<double> z) {
     const long n = detail::common_size({a.size(), y.size(), z.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdmodf(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(z.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_modf_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(z.data()))};
 }
-/** vdModf at the accuracy given. */
+/** Modf, double, at the accuracy given. */
 inline status modf(std::span<const double> a, std::span<double> y, std::span<double> z, accuracy acc) {
     const long n = detail::common_size({a.size(), y.size(), z.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdmodf_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(z.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_modf_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(z.data()), static_cast<int>(acc))};
 }
-/** vsLinearFrac: y[i] = (scalea*a[i] + shifta) / (scaleb*b[i] + shiftb). */
+/** LinearFrac, float: y[i] = (scalea*a[i] + shifta) / (scaleb*b[i] + shiftb). */
 inline status linearfrac(std::span<const float> a, std::span<const float> b, float scalea, float shifta, float scaleb, float shiftb, std::span<float> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vslinearfrac(int(n), detail::as_c(a.data()), detail::as_c(b.data()), scalea, shifta, scaleb, shiftb, detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_linearfrac_f32(int(n), detail::as_c(a.data()), detail::as_c(b.data()), scalea, shifta, scaleb, shiftb, detail::as_c(y.data()))};
 }
-/** vsLinearFrac at the accuracy given. */
+/** LinearFrac, float, at the accuracy given. */
 inline status linearfrac(std::span<const float> a, std::span<const float> b, float scalea, float shifta, float scaleb, float shiftb, std::span<float> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vslinearfrac_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), scalea, shifta, scaleb, shiftb, detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_linearfrac_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), scalea, shifta, scaleb, shiftb, detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdLinearFrac: y[i] = (scalea*a[i] + shifta) / (scaleb*b[i] + shiftb). */
+/** LinearFrac, double: y[i] = (scalea*a[i] + shifta) / (scaleb*b[i] + shiftb). */
 inline status linearfrac(std::span<const double> a, std::span<const double> b, double scalea, double shifta, double scaleb, double shiftb, std::span<double> y) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdlinearfrac(int(n), detail::as_c(a.data()), detail::as_c(b.data()), scalea, shifta, scaleb, shiftb, detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_linearfrac_f64(int(n), detail::as_c(a.data()), detail::as_c(b.data()), scalea, shifta, scaleb, shiftb, detail::as_c(y.data()))};
 }
-/** vdLinearFrac at the accuracy given. */
+/** LinearFrac, double, at the accuracy given. */
 inline status linearfrac(std::span<const double> a, std::span<const double> b, double scalea, double shifta, double scaleb, double shiftb, std::span<double> y, accuracy acc) {
     const long n = detail::common_size({a.size(), b.size(), y.size()});
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdlinearfrac_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), scalea, shifta, scaleb, shiftb, detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_linearfrac_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(b.data()), scalea, shifta, scaleb, shiftb, detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsPackI: y[i] = a[i*incra]. */
+/** PackI, float: y[i] = a[i*incra]. */
 inline status packi(std::span<const float> a, int incra, std::span<float> y) {
     const long n = detail::count_packi(a, incra, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vspacki(int(n), detail::as_c(a.data()), incra, detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packi_f32(int(n), detail::as_c(a.data()), incra, detail::as_c(y.data()))};
 }
-/** vsPackI at the accuracy given. */
+/** PackI, float, at the accuracy given. */
 inline status packi(std::span<const float> a, int incra, std::span<float> y, accuracy acc) {
     const long n = detail::count_packi(a, incra, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vspacki_acc(int(n), detail::as_c(a.data()), incra, detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packi_f32_acc(int(n), detail::as_c(a.data()), incra, detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdPackI: y[i] = a[i*incra]. */
+/** PackI, double: y[i] = a[i*incra]. */
 inline status packi(std::span<const double> a, int incra, std::span<double> y) {
     const long n = detail::count_packi(a, incra, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdpacki(int(n), detail::as_c(a.data()), incra, detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packi_f64(int(n), detail::as_c(a.data()), incra, detail::as_c(y.data()))};
 }
-/** vdPackI at the accuracy given. */
+/** PackI, double, at the accuracy given. */
 inline status packi(std::span<const double> a, int incra, std::span<double> y, accuracy acc) {
     const long n = detail::count_packi(a, incra, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdpacki_acc(int(n), detail::as_c(a.data()), incra, detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packi_f64_acc(int(n), detail::as_c(a.data()), incra, detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcPackI: y[i] = a[i*incra]. */
+/** PackI, complex float: y[i] = a[i*incra]. */
 inline status packi(std::span<const std::complex<float>> a, int incra, std::span<std::complex<float>> y) {
     const long n = detail::count_packi(a, incra, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcpacki(int(n), detail::as_c(a.data()), incra, detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packi_c64(int(n), detail::as_c(a.data()), incra, detail::as_c(y.data()))};
 }
-/** vcPackI at the accuracy given. */
+/** PackI, complex float, at the accuracy given. */
 inline status packi(std::span<const std::complex<float>> a, int incra, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::count_packi(a, incra, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcpacki_acc(int(n), detail::as_c(a.data()), incra, detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packi_c64_acc(int(n), detail::as_c(a.data()), incra, detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzPackI: y[i] = a[i*incra]. */
+/** PackI, complex double: y[i] = a[i*incra]. */
 inline status packi(std::span<const std::complex<double>> a, int incra, std::span<std::complex<double>> y) {
     const long n = detail::count_packi(a, incra, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzpacki(int(n), detail::as_c(a.data()), incra, detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packi_c128(int(n), detail::as_c(a.data()), incra, detail::as_c(y.data()))};
 }
-/** vzPackI at the accuracy given. */
+/** PackI, complex double, at the accuracy given. */
 inline status packi(std::span<const std::complex<double>> a, int incra, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::count_packi(a, incra, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzpacki_acc(int(n), detail::as_c(a.data()), incra, detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packi_c128_acc(int(n), detail::as_c(a.data()), incra, detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsPackM: the elements of a whose ma[i] is non-zero, packed into y. */
+/** PackM, float: the elements of a whose ma[i] is non-zero, packed into y. */
 inline status packm(std::span<const float> a, std::span<const int> ma, std::span<float> y) {
     const long n = detail::count_packm(a, ma, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vspackm(int(n), detail::as_c(a.data()), detail::as_c(ma.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packm_f32(int(n), detail::as_c(a.data()), detail::as_c(ma.data()), detail::as_c(y.data()))};
 }
-/** vsPackM at the accuracy given. */
+/** PackM, float, at the accuracy given. */
 inline status packm(std::span<const float> a, std::span<const int> ma, std::span<float> y, accuracy acc) {
     const long n = detail::count_packm(a, ma, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vspackm_acc(int(n), detail::as_c(a.data()), detail::as_c(ma.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packm_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(ma.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdPackM: the elements of a whose ma[i] is non-zero, packed into y. */
+/** PackM, double: the elements of a whose ma[i] is non-zero, packed into y. */
 inline status packm(std::span<const double> a, std::span<const int> ma, std::span<double> y) {
     const long n = detail::count_packm(a, ma, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdpackm(int(n), detail::as_c(a.data()), detail::as_c(ma.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packm_f64(int(n), detail::as_c(a.data()), detail::as_c(ma.data()), detail::as_c(y.data()))};
 }
-/** vdPackM at the accuracy given. */
+/** PackM, double, at the accuracy given. */
 inline status packm(std::span<const double> a, std::span<const int> ma, std::span<double> y, accuracy acc) {
     const long n = detail::count_packm(a, ma, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdpackm_acc(int(n), detail::as_c(a.data()), detail::as_c(ma.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packm_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(ma.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcPackM: the elements of a whose ma[i] is non-zero, packed into y. */
+/** PackM, complex float: the elements of a whose ma[i] is non-zero, packed into y. */
 inline status packm(std::span<const std::complex<float>> a, std::span<const int> ma, std::span<std::complex<float>> y) {
     const long n = detail::count_packm(a, ma, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcpackm(int(n), detail::as_c(a.data()), detail::as_c(ma.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packm_c64(int(n), detail::as_c(a.data()), detail::as_c(ma.data()), detail::as_c(y.data()))};
 }
-/** vcPackM at the accuracy given. */
+/** PackM, complex float, at the accuracy given. */
 inline status packm(std::span<const std::complex<float>> a, std::span<const int> ma, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::count_packm(a, ma, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcpackm_acc(int(n), detail::as_c(a.data()), detail::as_c(ma.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packm_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(ma.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzPackM: the elements of a whose ma[i] is non-zero, packed into y. */
+/** PackM, complex double: the elements of a whose ma[i] is non-zero, packed into y. */
 inline status packm(std::span<const std::complex<double>> a, std::span<const int> ma, std::span<std::complex<double>> y) {
     const long n = detail::count_packm(a, ma, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzpackm(int(n), detail::as_c(a.data()), detail::as_c(ma.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packm_c128(int(n), detail::as_c(a.data()), detail::as_c(ma.data()), detail::as_c(y.data()))};
 }
-/** vzPackM at the accuracy given. */
+/** PackM, complex double, at the accuracy given. */
 inline status packm(std::span<const std::complex<double>> a, std::span<const int> ma, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::count_packm(a, ma, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzpackm_acc(int(n), detail::as_c(a.data()), detail::as_c(ma.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packm_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(ma.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsPackV: y[i] = a[ia[i]]. */
+/** PackV, float: y[i] = a[ia[i]]. */
 inline status packv(std::span<const float> a, std::span<const int> ia, std::span<float> y) {
     const long n = detail::count_packv(a, ia, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vspackv(int(n), detail::as_c(a.data()), detail::as_c(ia.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packv_f32(int(n), detail::as_c(a.data()), detail::as_c(ia.data()), detail::as_c(y.data()))};
 }
-/** vsPackV at the accuracy given. */
+/** PackV, float, at the accuracy given. */
 inline status packv(std::span<const float> a, std::span<const int> ia, std::span<float> y, accuracy acc) {
     const long n = detail::count_packv(a, ia, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vspackv_acc(int(n), detail::as_c(a.data()), detail::as_c(ia.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packv_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(ia.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vdPackV: y[i] = a[ia[i]]. */
+/** PackV, double: y[i] = a[ia[i]]. */
 inline status packv(std::span<const double> a, std::span<const int> ia, std::span<double> y) {
     const long n = detail::count_packv(a, ia, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdpackv(int(n), detail::as_c(a.data()), detail::as_c(ia.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packv_f64(int(n), detail::as_c(a.data()), detail::as_c(ia.data()), detail::as_c(y.data()))};
 }
-/** vdPackV at the accuracy given. */
+/** PackV, double, at the accuracy given. */
 inline status packv(std::span<const double> a, std::span<const int> ia, std::span<double> y, accuracy acc) {
     const long n = detail::count_packv(a, ia, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdpackv_acc(int(n), detail::as_c(a.data()), detail::as_c(ia.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packv_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(ia.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vcPackV: y[i] = a[ia[i]]. */
+/** PackV, complex float: y[i] = a[ia[i]]. */
 inline status packv(std::span<const std::complex<float>> a, std::span<const int> ia, std::span<std::complex<float>> y) {
     const long n = detail::count_packv(a, ia, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcpackv(int(n), detail::as_c(a.data()), detail::as_c(ia.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packv_c64(int(n), detail::as_c(a.data()), detail::as_c(ia.data()), detail::as_c(y.data()))};
 }
-/** vcPackV at the accuracy given. */
+/** PackV, complex float, at the accuracy given. */
 inline status packv(std::span<const std::complex<float>> a, std::span<const int> ia, std::span<std::complex<float>> y, accuracy acc) {
     const long n = detail::count_packv(a, ia, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcpackv_acc(int(n), detail::as_c(a.data()), detail::as_c(ia.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packv_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(ia.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vzPackV: y[i] = a[ia[i]]. */
+/** PackV, complex double: y[i] = a[ia[i]]. */
 inline status packv(std::span<const std::complex<double>> a, std::span<const int> ia, std::span<std::complex<double>> y) {
     const long n = detail::count_packv(a, ia, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzpackv(int(n), detail::as_c(a.data()), detail::as_c(ia.data()), detail::as_c(y.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packv_c128(int(n), detail::as_c(a.data()), detail::as_c(ia.data()), detail::as_c(y.data()))};
 }
-/** vzPackV at the accuracy given. */
+/** PackV, complex double, at the accuracy given. */
 inline status packv(std::span<const std::complex<double>> a, std::span<const int> ia, std::span<std::complex<double>> y, accuracy acc) {
     const long n = detail::count_packv(a, ia, y);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzpackv_acc(int(n), detail::as_c(a.data()), detail::as_c(ia.data()), detail::as_c(y.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_packv_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(ia.data()), detail::as_c(y.data()), static_cast<int>(acc))};
 }
-/** vsUnpackI: y[i*incry] = a[i]. */
+/** UnpackI, float: y[i*incry] = a[i]. */
 inline status unpacki(std::span<const float> a, std::span<float> y, int incry) {
     const long n = detail::count_unpacki(a, y, incry);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsunpacki(int(n), detail::as_c(a.data()), detail::as_c(y.data()), incry)};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpacki_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()), incry)};
 }
-/** vsUnpackI at the accuracy given. */
+/** UnpackI, float, at the accuracy given. */
 inline status unpacki(std::span<const float> a, std::span<float> y, int incry, accuracy acc) {
     const long n = detail::count_unpacki(a, y, incry);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsunpacki_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), incry, static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpacki_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), incry, static_cast<int>(acc))};
 }
-/** vdUnpackI: y[i*incry] = a[i]. */
+/** UnpackI, double: y[i*incry] = a[i]. */
 inline status unpacki(std::span<const double> a, std::span<double> y, int incry) {
     const long n = detail::count_unpacki(a, y, incry);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdunpacki(int(n), detail::as_c(a.data()), detail::as_c(y.data()), incry)};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpacki_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()), incry)};
 }
-/** vdUnpackI at the accuracy given. */
+/** UnpackI, double, at the accuracy given. */
 inline status unpacki(std::span<const double> a, std::span<double> y, int incry, accuracy acc) {
     const long n = detail::count_unpacki(a, y, incry);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdunpacki_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), incry, static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpacki_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), incry, static_cast<int>(acc))};
 }
-/** vcUnpackI: y[i*incry] = a[i]. */
+/** UnpackI, complex float: y[i*incry] = a[i]. */
 inline status unpacki(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, int incry) {
     const long n = detail::count_unpacki(a, y, incry);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcunpacki(int(n), detail::as_c(a.data()), detail::as_c(y.data()), incry)};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpacki_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()), incry)};
 }
-/** vcUnpackI at the accuracy given. */
+/** UnpackI, complex float, at the accuracy given. */
 inline status unpacki(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, int incry, accuracy acc) {
     const long n = detail::count_unpacki(a, y, incry);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcunpacki_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), incry, static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpacki_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), incry, static_cast<int>(acc))};
 }
-/** vzUnpackI: y[i*incry] = a[i]. */
+/** UnpackI, complex double: y[i*incry] = a[i]. */
 inline status unpacki(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, int incry) {
     const long n = detail::count_unpacki(a, y, incry);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzunpacki(int(n), detail::as_c(a.data()), detail::as_c(y.data()), incry)};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpacki_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()), incry)};
 }
-/** vzUnpackI at the accuracy given. */
+/** UnpackI, complex double, at the accuracy given. */
 inline status unpacki(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, int incry, accuracy acc) {
     const long n = detail::count_unpacki(a, y, incry);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzunpacki_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), incry, static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpacki_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), incry, static_cast<int>(acc))};
 }
-/** vsUnpackM: y[i] = a[next] where my[i] is non-zero, in order. */
+/** UnpackM, float: y[i] = a[next] where my[i] is non-zero, in order. */
 inline status unpackm(std::span<const float> a, std::span<float> y, std::span<const int> my) {
     const long n = detail::count_unpackm(a, y, my);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsunpackm(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(my.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpackm_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(my.data()))};
 }
-/** vsUnpackM at the accuracy given. */
+/** UnpackM, float, at the accuracy given. */
 inline status unpackm(std::span<const float> a, std::span<float> y, std::span<const int> my, accuracy acc) {
     const long n = detail::count_unpackm(a, y, my);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsunpackm_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(my.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpackm_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(my.data()), static_cast<int>(acc))};
 }
-/** vdUnpackM: y[i] = a[next] where my[i] is non-zero, in order. */
+/** UnpackM, double: y[i] = a[next] where my[i] is non-zero, in order. */
 inline status unpackm(std::span<const double> a, std::span<double> y, std::span<const int> my) {
     const long n = detail::count_unpackm(a, y, my);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdunpackm(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(my.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpackm_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(my.data()))};
 }
-/** vdUnpackM at the accuracy given. */
+/** UnpackM, double, at the accuracy given. */
 inline status unpackm(std::span<const double> a, std::span<double> y, std::span<const int> my, accuracy acc) {
     const long n = detail::count_unpackm(a, y, my);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdunpackm_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(my.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpackm_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(my.data()), static_cast<int>(acc))};
 }
-/** vcUnpackM: y[i] = a[next] where my[i] is non-zero, in order. */
+/** UnpackM, complex float: y[i] = a[next] where my[i] is non-zero, in order. */
 inline status unpackm(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, std::span<const int> my) {
     const long n = detail::count_unpackm(a, y, my);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcunpackm(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(my.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpackm_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(my.data()))};
 }
-/** vcUnpackM at the accuracy given. */
+/** UnpackM, complex float, at the accuracy given. */
 inline status unpackm(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, std::span<const int> my, accuracy acc) {
     const long n = detail::count_unpackm(a, y, my);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcunpackm_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(my.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpackm_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(my.data()), static_cast<int>(acc))};
 }
-/** vzUnpackM: y[i] = a[next] where my[i] is non-zero, in order. */
+/** UnpackM, complex double: y[i] = a[next] where my[i] is non-zero, in order. */
 inline status unpackm(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, std::span<const int> my) {
     const long n = detail::count_unpackm(a, y, my);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzunpackm(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(my.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpackm_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(my.data()))};
 }
-/** vzUnpackM at the accuracy given. */
+/** UnpackM, complex double, at the accuracy given. */
 inline status unpackm(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, std::span<const int> my, accuracy acc) {
     const long n = detail::count_unpackm(a, y, my);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzunpackm_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(my.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpackm_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(my.data()), static_cast<int>(acc))};
 }
-/** vsUnpackV: y[iy[i]] = a[i]. */
+/** UnpackV, float: y[iy[i]] = a[i]. */
 inline status unpackv(std::span<const float> a, std::span<float> y, std::span<const int> iy) {
     const long n = detail::count_unpackv(a, y, iy);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsunpackv(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(iy.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpackv_f32(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(iy.data()))};
 }
-/** vsUnpackV at the accuracy given. */
+/** UnpackV, float, at the accuracy given. */
 inline status unpackv(std::span<const float> a, std::span<float> y, std::span<const int> iy, accuracy acc) {
     const long n = detail::count_unpackv(a, y, iy);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vsunpackv_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(iy.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpackv_f32_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(iy.data()), static_cast<int>(acc))};
 }
-/** vdUnpackV: y[iy[i]] = a[i]. */
+/** UnpackV, double: y[iy[i]] = a[i]. */
 inline status unpackv(std::span<const double> a, std::span<double> y, std::span<const int> iy) {
     const long n = detail::count_unpackv(a, y, iy);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdunpackv(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(iy.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpackv_f64(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(iy.data()))};
 }
-/** vdUnpackV at the accuracy given. */
+/** UnpackV, double, at the accuracy given. */
 inline status unpackv(std::span<const double> a, std::span<double> y, std::span<const int> iy, accuracy acc) {
     const long n = detail::count_unpackv(a, y, iy);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vdunpackv_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(iy.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpackv_f64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(iy.data()), static_cast<int>(acc))};
 }
-/** vcUnpackV: y[iy[i]] = a[i]. */
+/** UnpackV, complex float: y[iy[i]] = a[i]. */
 inline status unpackv(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, std::span<const int> iy) {
     const long n = detail::count_unpackv(a, y, iy);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcunpackv(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(iy.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpackv_c64(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(iy.data()))};
 }
-/** vcUnpackV at the accuracy given. */
+/** UnpackV, complex float, at the accuracy given. */
 inline status unpackv(std::span<const std::complex<float>> a, std::span<std::complex<float>> y, std::span<const int> iy, accuracy acc) {
     const long n = detail::count_unpackv(a, y, iy);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vcunpackv_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(iy.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpackv_c64_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(iy.data()), static_cast<int>(acc))};
 }
-/** vzUnpackV: y[iy[i]] = a[i]. */
+/** UnpackV, complex double: y[iy[i]] = a[i]. */
 inline status unpackv(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, std::span<const int> iy) {
     const long n = detail::count_unpackv(a, y, iy);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzunpackv(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(iy.data()))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpackv_c128(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(iy.data()))};
 }
-/** vzUnpackV at the accuracy given. */
+/** UnpackV, complex double, at the accuracy given. */
 inline status unpackv(std::span<const std::complex<double>> a, std::span<std::complex<double>> y, std::span<const int> iy, accuracy acc) {
     const long n = detail::count_unpackv(a, y, iy);
-    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vzunpackv_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(iy.data()), static_cast<int>(acc))};
+    return n < 0 ? status{static_cast<int>(n)} : status{brenn_vm_unpackv_c128_acc(int(n), detail::as_c(a.data()), detail::as_c(y.data()), detail::as_c(iy.data()), static_cast<int>(acc))};
 }
 
 } // namespace brenn::vm

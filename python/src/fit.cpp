@@ -19,17 +19,17 @@ template <class T>
 struct Api;
 template <>
 struct Api<double> {
-    using Handle = brenn_fit_dspline;
-    static constexpr auto New = &brenn_fit_dspline_new;
-    static constexpr auto Eval = &brenn_fit_dspline_eval;
-    static constexpr auto Delete = &brenn_fit_dspline_delete;
+    using Handle = brenn_fit_spline_f64;
+    static constexpr auto New = &brenn_fit_spline_new_f64;
+    static constexpr auto Eval = &brenn_fit_spline_eval_f64;
+    static constexpr auto Delete = &brenn_fit_spline_delete_f64;
 };
 template <>
 struct Api<float> {
-    using Handle = brenn_fit_sspline;
-    static constexpr auto New = &brenn_fit_sspline_new;
-    static constexpr auto Eval = &brenn_fit_sspline_eval;
-    static constexpr auto Delete = &brenn_fit_sspline_delete;
+    using Handle = brenn_fit_spline_f32;
+    static constexpr auto New = &brenn_fit_spline_new_f32;
+    static constexpr auto Eval = &brenn_fit_spline_eval_f32;
+    static constexpr auto Delete = &brenn_fit_spline_delete_f32;
 };
 
 template <class T>

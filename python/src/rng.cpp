@@ -97,7 +97,7 @@ class BitSource {
         // The stream must give 32-bit words: refuse now rather than inside numpy.
         uint32_t probe;
         StreamHandle trial = CopyStream(s_);
-        Check(brenn_rng_ibits32(trial.get(), 1, &probe), "32-bit words of this generator");
+        Check(brenn_rng_bits_u32(trial.get(), 1, &probe), "32-bit words of this generator");
     }
     // The record carries this object's address, fixed once it lies in its Python
     // object; numpy copies the record when a Generator is made.
@@ -148,7 +148,7 @@ class BitSource {
         if (at_ == words_.size()) {
             words_.resize(kBlock);
             // The generator was checked to give 32-bit words; a draw cannot fail later.
-            brenn_rng_ibits32(s_.get(), static_cast<int>(kBlock), words_.data());
+            brenn_rng_bits_u32(s_.get(), static_cast<int>(kBlock), words_.data());
             at_ = 0;
         }
         return words_[at_++];
@@ -202,39 +202,40 @@ void InitRng(py::module_& m) {
         .def("duniform",
              [](Stream& s, int64_t n, double a, double b, bool accurate) {
                  return Fill<double>(n, [&](int c, double* p) {
-                     return brenn_rng_duniform(s.get(), MethodOf(accurate), c, p, a, b);
+                     return brenn_rng_uniform_f64(s.get(), MethodOf(accurate), c, p, a, b);
                  });
              })
         .def("suniform",
              [](Stream& s, int64_t n, float a, float b, bool accurate) {
                  return Fill<float>(n, [&](int c, float* p) {
-                     return brenn_rng_suniform(s.get(), MethodOf(accurate), c, p, a, b);
+                     return brenn_rng_uniform_f32(s.get(), MethodOf(accurate), c, p, a, b);
                  });
              })
         .def("iuniform",
              [](Stream& s, int64_t n, int32_t a, int32_t b) {
                  return Fill<int32_t>(n, [&](int c, int32_t* p) {
-                     return brenn_rng_iuniform(s.get(), 0, c, p, a, b);
+                     return brenn_rng_uniform_i32(s.get(), 0, c, p, a, b);
                  });
              })
         .def("bits32",
              [](Stream& s, int64_t n) {
                  return Fill<uint32_t>(
-                     n, [&](int c, uint32_t* p) { return brenn_rng_ibits32(s.get(), c, p); });
+                     n, [&](int c, uint32_t* p) { return brenn_rng_bits_u32(s.get(), c, p); });
              })
         .def("bits64",
              [](Stream& s, int64_t n) {
                  return Fill<uint64_t>(
-                     n, [&](int c, uint64_t* p) { return brenn_rng_ibits64(s.get(), c, p); });
+                     n, [&](int c, uint64_t* p) { return brenn_rng_bits_u64(s.get(), c, p); });
              })
         .def("bernoulli",
              [](Stream& s, int64_t n, double p) {
-                 return Fill<int32_t>(
-                     n, [&](int c, int32_t* r) { return brenn_rng_ibernoulli(s.get(), c, r, p); });
+                 return Fill<int32_t>(n, [&](int c, int32_t* r) {
+                     return brenn_rng_bernoulli_i32(s.get(), c, r, p);
+                 });
              })
         .def("geometric", [](Stream& s, int64_t n, double p) {
             return Fill<int32_t>(
-                n, [&](int c, int32_t* r) { return brenn_rng_igeometric(s.get(), c, r, p); });
+                n, [&](int c, int32_t* r) { return brenn_rng_geometric_i32(s.get(), c, r, p); });
         });
 
     py::class_<BitSource>(r, "BitSource")

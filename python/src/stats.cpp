@@ -17,18 +17,18 @@ template <class T>
 struct Api;
 template <>
 struct Api<double> {
-    using Matrix = brenn_ss_dmatrix;
-    using Results = brenn_ss_dresults;
+    using Matrix = brenn_ss_matrix_f64;
+    using Results = brenn_ss_results_f64;
     static int Compute(const Matrix* m, uint64_t e, const Results* r) {
-        return brenn_ss_dcompute(m, e, r);
+        return brenn_ss_compute_f64(m, e, r);
     }
 };
 template <>
 struct Api<float> {
-    using Matrix = brenn_ss_smatrix;
-    using Results = brenn_ss_sresults;
+    using Matrix = brenn_ss_matrix_f32;
+    using Results = brenn_ss_results_f32;
     static int Compute(const Matrix* m, uint64_t e, const Results* r) {
-        return brenn_ss_scompute(m, e, r);
+        return brenn_ss_compute_f32(m, e, r);
     }
 };
 
@@ -110,7 +110,7 @@ void InitStats(py::module_& m) {
     s.def("compute", &Compute<float>, py::arg("x"), py::arg("p"), py::arg("n"),
           py::arg("observations_in_rows"), py::arg("weights"), py::arg("names"));
     py::list names;
-    for (const auto& slot : kSlots<brenn_ss_dresults>)
+    for (const auto& slot : kSlots<brenn_ss_results_f64>)
         names.append(slot.name);
     s.attr("ESTIMATES") = py::tuple(names);
 }

@@ -35,11 +35,16 @@ constexpr Row kRows[] = {
 };
 constexpr int kRowCount = static_cast<int>(sizeof(kRows) / sizeof(kRows[0]));
 
-// The entry brenn_v<t><name>_acc of a row, or null when libbrenn lacks it.
+// The entry brenn_vm_<name>_<t>_acc of a row (<t> f32, f64, c64 or c128), or null
+// when libbrenn lacks it.
 void* EntryOf(const Row& row) {
-    std::string name = std::string("brenn_v") + row.type;
+    std::string name = "brenn_vm_";
     for (const char* c = row.name; *c; ++c)
         name += static_cast<char>(*c >= 'A' && *c <= 'Z' ? *c - 'A' + 'a' : *c);
+    name += row.type == 's'   ? "_f32"
+            : row.type == 'd' ? "_f64"
+            : row.type == 'c' ? "_c64"
+                              : "_c128";
     name += "_acc";
     static void* library = [] {
         Dl_info info;

@@ -43,7 +43,7 @@ TEST(FrontendRngChecks, EveryRegisteredFamilyIsMadeOrNotAvailable) {
         }
         ++made;
         double u[4];
-        EXPECT_GE(brenn_rng_duniform(s, 0, 4, u, 0.0, 1.0), 0) << std::hex << id;
+        EXPECT_GE(brenn_rng_uniform_f64(s, 0, 4, u, 0.0, 1.0), 0) << std::hex << id;
         EXPECT_EQ(brenn_rng_delete(&s), BRENN_OK);
         EXPECT_EQ(s, nullptr);
     }
@@ -56,24 +56,24 @@ TEST(FrontendRngChecks, DrawArgumentsAreCheckedBeforeAnyDraw) {
     brenn_stream* copy = nullptr;
     ASSERT_EQ(brenn_rng_copy(&copy, s), BRENN_OK);
     int32_t r[4] = {-7, -7, -7, -7};
-    EXPECT_EQ(brenn_rng_ibernoulli(s, 4, r, 1.5), BRENN_ERR_BAD_ARGUMENT);
-    EXPECT_EQ(brenn_rng_ibernoulli(s, 4, r, std::nan("")), BRENN_ERR_BAD_ARGUMENT);
-    EXPECT_EQ(brenn_rng_igeometric(s, 4, r, 0.0), BRENN_ERR_BAD_ARGUMENT);
-    EXPECT_EQ(brenn_rng_igeometric(s, -1, r, 0.5), BRENN_ERR_BAD_SIZE);
-    EXPECT_EQ(brenn_rng_iuniform(s, 0, 4, nullptr, 0, 6), BRENN_ERR_NULL_POINTER);
-    EXPECT_EQ(brenn_rng_iuniform(nullptr, 0, 4, r, 0, 6), BRENN_ERR_NULL_POINTER);
+    EXPECT_EQ(brenn_rng_bernoulli_i32(s, 4, r, 1.5), BRENN_ERR_BAD_ARGUMENT);
+    EXPECT_EQ(brenn_rng_bernoulli_i32(s, 4, r, std::nan("")), BRENN_ERR_BAD_ARGUMENT);
+    EXPECT_EQ(brenn_rng_geometric_i32(s, 4, r, 0.0), BRENN_ERR_BAD_ARGUMENT);
+    EXPECT_EQ(brenn_rng_geometric_i32(s, -1, r, 0.5), BRENN_ERR_BAD_SIZE);
+    EXPECT_EQ(brenn_rng_uniform_i32(s, 0, 4, nullptr, 0, 6), BRENN_ERR_NULL_POINTER);
+    EXPECT_EQ(brenn_rng_uniform_i32(nullptr, 0, 4, r, 0, 6), BRENN_ERR_NULL_POINTER);
     EXPECT_EQ(brenn_rng_leapfrog(s, 3, 3), BRENN_ERR_BAD_ARGUMENT);
     // Empty, reversed and NaN ranges of the uniforms.
-    EXPECT_EQ(brenn_rng_iuniform(s, 0, 4, r, 6, 6), BRENN_ERR_BAD_ARGUMENT);
-    EXPECT_EQ(brenn_rng_iuniform(s, 0, 4, r, 6, -6), BRENN_ERR_BAD_ARGUMENT);
+    EXPECT_EQ(brenn_rng_uniform_i32(s, 0, 4, r, 6, 6), BRENN_ERR_BAD_ARGUMENT);
+    EXPECT_EQ(brenn_rng_uniform_i32(s, 0, 4, r, 6, -6), BRENN_ERR_BAD_ARGUMENT);
     double d[4] = {-7, -7, -7, -7};
     float f[4] = {-7, -7, -7, -7};
     for (double b : {0.5, 0.25, std::nan("")}) {
-        EXPECT_EQ(brenn_rng_duniform(s, 0, 4, d, 0.5, b), BRENN_ERR_BAD_ARGUMENT) << b;
+        EXPECT_EQ(brenn_rng_uniform_f64(s, 0, 4, d, 0.5, b), BRENN_ERR_BAD_ARGUMENT) << b;
         const auto fb = static_cast<float>(b);
-        EXPECT_EQ(brenn_rng_suniform(s, 0, 4, f, 0.5f, fb), BRENN_ERR_BAD_ARGUMENT) << b;
+        EXPECT_EQ(brenn_rng_uniform_f32(s, 0, 4, f, 0.5f, fb), BRENN_ERR_BAD_ARGUMENT) << b;
     }
-    EXPECT_EQ(brenn_rng_duniform(s, 0, 4, d, std::nan(""), 1.0), BRENN_ERR_BAD_ARGUMENT);
+    EXPECT_EQ(brenn_rng_uniform_f64(s, 0, 4, d, std::nan(""), 1.0), BRENN_ERR_BAD_ARGUMENT);
     for (int k = 0; k < 4; ++k) {
         EXPECT_EQ(d[k], -7.0);
         EXPECT_EQ(f[k], -7.0f);
@@ -82,8 +82,8 @@ TEST(FrontendRngChecks, DrawArgumentsAreCheckedBeforeAnyDraw) {
         EXPECT_EQ(v, -7);
     // Nothing was drawn: the stream and its copy still agree.
     double a, b;
-    brenn_rng_duniform(s, 0, 1, &a, 0.0, 1.0);
-    brenn_rng_duniform(copy, 0, 1, &b, 0.0, 1.0);
+    brenn_rng_uniform_f64(s, 0, 1, &a, 0.0, 1.0);
+    brenn_rng_uniform_f64(copy, 0, 1, &b, 0.0, 1.0);
     EXPECT_EQ(a, b);
     brenn_rng_delete(&copy);
     brenn_rng_delete(&s);
@@ -106,8 +106,8 @@ TEST(FrontendRngChecks, ImagesShorterThanTheyClaimAreRefused) {
     EXPECT_EQ(loaded, nullptr);
     ASSERT_EQ(brenn_rng_load_memory(&loaded, image.data(), size), BRENN_OK);
     uint32_t x, y;
-    brenn_rng_ibits32(s, 1, &x);
-    brenn_rng_ibits32(loaded, 1, &y);
+    brenn_rng_bits_u32(s, 1, &x);
+    brenn_rng_bits_u32(loaded, 1, &y);
     EXPECT_EQ(x, y);
     brenn_rng_delete(&loaded);
     EXPECT_EQ(brenn_rng_load_file(&loaded, "/nonexistent/brenn/stream"), QES_RNG_STATUS_FILE_OPEN);

@@ -11,12 +11,12 @@ namespace {
 TEST(FrontendSs, RefusalsWriteNothing) {
     const double x[6] = {1, 2, 3, 4, 5, 6};
     double mean[2] = {-1, -1}, cov[4] = {-1, -1, -1, -1};
-    brenn_ss_dresults r = {};
+    brenn_ss_results_f64 r = {};
     r.mean = mean;
     r.covariance = cov;
     const double badWeights[3] = {1, -1, 1};
     struct Case {
-        brenn_ss_dmatrix m;
+        brenn_ss_matrix_f64 m;
         uint64_t estimates;
         int expected;
     } cases[] = {
@@ -41,11 +41,11 @@ TEST(FrontendSs, RefusalsWriteNothing) {
          BRENN_ERR_NOT_AVAILABLE},
     };
     for (const Case& c : cases) {
-        EXPECT_EQ(brenn_ss_dcompute(&c.m, c.estimates, &r), c.expected);
+        EXPECT_EQ(brenn_ss_compute_f64(&c.m, c.estimates, &r), c.expected);
         EXPECT_EQ(mean[0], -1.0);
         EXPECT_EQ(cov[3], -1.0);
     }
-    EXPECT_EQ(brenn_ss_dcompute(nullptr, BRENN_SS_MEAN, &r), BRENN_ERR_NULL_POINTER);
+    EXPECT_EQ(brenn_ss_compute_f64(nullptr, BRENN_SS_MEAN, &r), BRENN_ERR_NULL_POINTER);
 }
 
 // Both layouts and both precisions give the sums' values; an estimate asked for
@@ -67,22 +67,23 @@ TEST(FrontendSs, EstimatesOfBothLayoutsAndPrecisions) {
     for (const auto& [layout, x] : {std::pair{BRENN_SS_VARIABLES_IN_ROWS, &rows},
                                     std::pair{BRENN_SS_OBSERVATIONS_IN_ROWS, &cols}}) {
         double cor[4], minimum[2], maximum[2];
-        brenn_ss_dresults r = {};
+        brenn_ss_results_f64 r = {};
         r.correlation = cor;
         r.minimum = minimum;
         r.maximum = maximum;
-        brenn_ss_dmatrix m = {p, n, layout, x->data(), nullptr, nullptr};
-        ASSERT_EQ(brenn_ss_dcompute(&m, BRENN_SS_COR | BRENN_SS_MIN | BRENN_SS_MAX, &r), BRENN_OK);
+        brenn_ss_matrix_f64 m = {p, n, layout, x->data(), nullptr, nullptr};
+        ASSERT_EQ(brenn_ss_compute_f64(&m, BRENN_SS_COR | BRENN_SS_MIN | BRENN_SS_MAX, &r),
+                  BRENN_OK);
         EXPECT_NEAR(cor[1], c01 / std::sqrt(var0 * var1), 1e-14);
         EXPECT_EQ(minimum[1], -3.0);
         EXPECT_EQ(maximum[0], 16.0);
         std::vector<float> xs(x->begin(), x->end());
         float mean[2], c2[2];
-        brenn_ss_sresults rs = {};
+        brenn_ss_results_f32 rs = {};
         rs.mean = mean;
         rs.central_moment2 = c2;
-        brenn_ss_smatrix ms = {p, n, layout, xs.data(), nullptr, nullptr};
-        ASSERT_EQ(brenn_ss_scompute(&ms, BRENN_SS_MEAN | BRENN_SS_2C_MOM, &rs), BRENN_OK);
+        brenn_ss_matrix_f32 ms = {p, n, layout, xs.data(), nullptr, nullptr};
+        ASSERT_EQ(brenn_ss_compute_f32(&ms, BRENN_SS_MEAN | BRENN_SS_2C_MOM, &rs), BRENN_OK);
         EXPECT_NEAR(mean[0], m0, 1e-5);
         EXPECT_NEAR(c2[1], var1, 1e-5);
     }
@@ -91,31 +92,33 @@ TEST(FrontendSs, EstimatesOfBothLayoutsAndPrecisions) {
 TEST(FrontendFit, RefusalsLeaveNoSpline) {
     const double x[4] = {0, 1, 2, 3}, y[4] = {0, 1, 4, 9}, unsorted[4] = {0, 2, 1, 3};
     const double infinite[4] = {0, 1, INFINITY, 4};
-    brenn_fit_dspline* s = nullptr;
-    EXPECT_EQ(brenn_fit_dspline_new(&s, BRENN_FIT_LINEAR, -4, x, y, 0, nullptr, nullptr),
+    brenn_fit_spline_f64* s = nullptr;
+    EXPECT_EQ(brenn_fit_spline_new_f64(&s, BRENN_FIT_LINEAR, -4, x, y, 0, nullptr, nullptr),
               BRENN_ERR_BAD_SIZE);
-    EXPECT_EQ(brenn_fit_dspline_new(&s, 99, 4, x, y, 0, nullptr, nullptr), BRENN_ERR_BAD_ARGUMENT);
-    EXPECT_EQ(brenn_fit_dspline_new(&s, BRENN_FIT_LINEAR, 4, unsorted, y, 0, nullptr, nullptr),
+    EXPECT_EQ(brenn_fit_spline_new_f64(&s, 99, 4, x, y, 0, nullptr, nullptr),
               BRENN_ERR_BAD_ARGUMENT);
-    EXPECT_EQ(brenn_fit_dspline_new(&s, BRENN_FIT_LINEAR, 4, infinite, y, 0, nullptr, nullptr),
+    EXPECT_EQ(brenn_fit_spline_new_f64(&s, BRENN_FIT_LINEAR, 4, unsorted, y, 0, nullptr, nullptr),
               BRENN_ERR_BAD_ARGUMENT);
-    EXPECT_EQ(brenn_fit_dspline_new(&s, BRENN_FIT_LINEAR, 4, x, nullptr, 0, nullptr, nullptr),
+    EXPECT_EQ(brenn_fit_spline_new_f64(&s, BRENN_FIT_LINEAR, 4, infinite, y, 0, nullptr, nullptr),
+              BRENN_ERR_BAD_ARGUMENT);
+    EXPECT_EQ(brenn_fit_spline_new_f64(&s, BRENN_FIT_LINEAR, 4, x, nullptr, 0, nullptr, nullptr),
               BRENN_ERR_NULL_POINTER);
-    EXPECT_EQ(
-        brenn_fit_dspline_new(&s, BRENN_FIT_QUADRATIC, 4, x, y, FIT_BC_MID_VALUE, nullptr, nullptr),
-        BRENN_ERR_NULL_POINTER);
-    EXPECT_EQ(brenn_fit_dspline_new(&s, BRENN_FIT_QUADRATIC_KNOTS, 4, x, y, 12, x, nullptr),
+    EXPECT_EQ(brenn_fit_spline_new_f64(&s, BRENN_FIT_QUADRATIC, 4, x, y, FIT_BC_MID_VALUE, nullptr,
+                                       nullptr),
+              BRENN_ERR_NULL_POINTER);
+    EXPECT_EQ(brenn_fit_spline_new_f64(&s, BRENN_FIT_QUADRATIC_KNOTS, 4, x, y, 12, x, nullptr),
               BRENN_ERR_NULL_POINTER);
     EXPECT_EQ(s, nullptr);
-    ASSERT_EQ(brenn_fit_dspline_new(&s, BRENN_FIT_LINEAR, 4, x, y, 0, nullptr, nullptr), BRENN_OK);
+    ASSERT_EQ(brenn_fit_spline_new_f64(&s, BRENN_FIT_LINEAR, 4, x, y, 0, nullptr, nullptr),
+              BRENN_OK);
     double site[2] = {0.5, NAN}, out[4] = {-1, -1, -1, -1};
-    EXPECT_EQ(brenn_fit_dspline_eval(s, 2, site, 1, out), BRENN_ERR_BAD_ARGUMENT);
-    EXPECT_EQ(brenn_fit_dspline_eval(s, 1, site, 3, out), BRENN_ERR_BAD_ARGUMENT);
-    EXPECT_EQ(brenn_fit_dspline_eval(s, 1, site, 0, out), BRENN_ERR_BAD_ARGUMENT);
-    EXPECT_EQ(brenn_fit_dspline_eval(s, -1, site, 1, out), BRENN_ERR_BAD_SIZE);
-    EXPECT_EQ(brenn_fit_dspline_eval(s, 1, site, 1, nullptr), BRENN_ERR_NULL_POINTER);
+    EXPECT_EQ(brenn_fit_spline_eval_f64(s, 2, site, 1, out), BRENN_ERR_BAD_ARGUMENT);
+    EXPECT_EQ(brenn_fit_spline_eval_f64(s, 1, site, 3, out), BRENN_ERR_BAD_ARGUMENT);
+    EXPECT_EQ(brenn_fit_spline_eval_f64(s, 1, site, 0, out), BRENN_ERR_BAD_ARGUMENT);
+    EXPECT_EQ(brenn_fit_spline_eval_f64(s, -1, site, 1, out), BRENN_ERR_BAD_SIZE);
+    EXPECT_EQ(brenn_fit_spline_eval_f64(s, 1, site, 1, nullptr), BRENN_ERR_NULL_POINTER);
     EXPECT_EQ(out[0], -1.0);
-    brenn_fit_dspline_delete(&s);
+    brenn_fit_spline_delete_f64(&s);
     EXPECT_EQ(s, nullptr);
 }
 
@@ -132,7 +135,7 @@ TEST(FrontendFit, EveryBuiltKindReproducesItsPolynomials) {
     const double sites[3] = {0.1, 1.3, 2.9};
     int built = 0;
     for (int kind = 0; kind < BRENN_FIT_KIND_COUNT; ++kind) {
-        brenn_fit_dspline* s = nullptr;
+        brenn_fit_spline_f64* s = nullptr;
         std::vector<double> knots(nx + 1), derivatives(nx);
         for (int i = 0; i <= nx; ++i)
             knots[i] = i == 0 ? x[0] : i == nx ? x[nx - 1] : 0.5 * (x[i - 1] + x[i]);
@@ -146,7 +149,7 @@ TEST(FrontendFit, EveryBuiltKindReproducesItsPolynomials) {
                      : kind == BRENN_FIT_LINEAR  ? FIT_BC_NONE
                                                  : FIT_BC_FIRST_LEFT | FIT_BC_FIRST_RIGHT;
         double bcValues[2] = {kind == BRENN_FIT_QUADRATIC ? 3 * (0.5 * x[1]) - 1 : 3.0, 3.0};
-        int status = brenn_fit_dspline_new(&s, kind, nx, x.data(), y1.data(), bc, bcValues, ic);
+        int status = brenn_fit_spline_new_f64(&s, kind, nx, x.data(), y1.data(), bc, bcValues, ic);
         if (brenn_fit_available(kind) != BRENN_OK) {
             EXPECT_EQ(status, BRENN_ERR_NOT_AVAILABLE) << kind;
             continue;
@@ -154,24 +157,24 @@ TEST(FrontendFit, EveryBuiltKindReproducesItsPolynomials) {
         ASSERT_EQ(status, BRENN_OK) << kind;
         ++built;
         double out[6];
-        ASSERT_EQ(brenn_fit_dspline_eval(s, 3, sites, 2, out), BRENN_OK);
+        ASSERT_EQ(brenn_fit_spline_eval_f64(s, 3, sites, 2, out), BRENN_OK);
         for (int i = 0; i < 3; ++i) {
             EXPECT_NEAR(out[2 * i], 3 * sites[i] - 1, 1e-13) << kind;
             EXPECT_NEAR(out[2 * i + 1], 3.0, 1e-12) << kind;
         }
-        brenn_fit_dspline_delete(&s);
+        brenn_fit_spline_delete_f64(&s);
     }
     EXPECT_GE(built, 2);
     // Single precision: the linear spline of a line.
     std::vector<float> xf(x.begin(), x.end()), yf(y1.begin(), y1.end());
-    brenn_fit_sspline* f = nullptr;
-    ASSERT_EQ(
-        brenn_fit_sspline_new(&f, BRENN_FIT_LINEAR, nx, xf.data(), yf.data(), 0, nullptr, nullptr),
-        BRENN_OK);
+    brenn_fit_spline_f32* f = nullptr;
+    ASSERT_EQ(brenn_fit_spline_new_f32(&f, BRENN_FIT_LINEAR, nx, xf.data(), yf.data(), 0, nullptr,
+                                       nullptr),
+              BRENN_OK);
     float site = 1.3f, value;
-    ASSERT_EQ(brenn_fit_sspline_eval(f, 1, &site, 1, &value), BRENN_OK);
+    ASSERT_EQ(brenn_fit_spline_eval_f32(f, 1, &site, 1, &value), BRENN_OK);
     EXPECT_NEAR(value, 2.9f, 1e-5f);
-    brenn_fit_sspline_delete(&f);
+    brenn_fit_spline_delete_f32(&f);
 }
 
 } // namespace

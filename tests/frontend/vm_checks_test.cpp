@@ -22,29 +22,31 @@ struct Case {
 const double kInput[4] = {0.5, 1.0, 2.0, 3.0};
 
 const Case kCases[] = {
-    {"negative n", BRENN_ERR_BAD_SIZE, [](double* y) { return brenn_vdexp(-1, kInput, y); }},
+    {"negative n", BRENN_ERR_BAD_SIZE, [](double* y) { return brenn_vm_exp_f64(-1, kInput, y); }},
     {"negative n beats a null array", BRENN_ERR_BAD_SIZE,
-     [](double*) { return brenn_vdexp(-5, nullptr, nullptr); }},
-    {"null input", BRENN_ERR_NULL_POINTER, [](double* y) { return brenn_vdexp(4, nullptr, y); }},
+     [](double*) { return brenn_vm_exp_f64(-5, nullptr, nullptr); }},
+    {"null input", BRENN_ERR_NULL_POINTER,
+     [](double* y) { return brenn_vm_exp_f64(4, nullptr, y); }},
     {"null result", BRENN_ERR_NULL_POINTER,
-     [](double*) { return brenn_vdexp(4, kInput, nullptr); }},
+     [](double*) { return brenn_vm_exp_f64(4, kInput, nullptr); }},
     {"null second input", BRENN_ERR_NULL_POINTER,
-     [](double* y) { return brenn_vdadd(4, kInput, nullptr, y); }},
+     [](double* y) { return brenn_vm_add_f64(4, kInput, nullptr, y); }},
     {"null second result", BRENN_ERR_NULL_POINTER,
-     [](double* y) { return brenn_vdsincos(4, kInput, y, nullptr); }},
+     [](double* y) { return brenn_vm_sincos_f64(4, kInput, y, nullptr); }},
     {"accuracy 0", BRENN_ERR_BAD_ACCURACY,
-     [](double* y) { return brenn_vdexp_acc(4, kInput, y, 0); }},
+     [](double* y) { return brenn_vm_exp_f64_acc(4, kInput, y, 0); }},
     {"accuracy 4", BRENN_ERR_BAD_ACCURACY,
-     [](double* y) { return brenn_vdexp_acc(4, kInput, y, 4); }},
+     [](double* y) { return brenn_vm_exp_f64_acc(4, kInput, y, 4); }},
     {"accuracy -1", BRENN_ERR_BAD_ACCURACY,
-     [](double* y) { return brenn_vdexp_acc(4, kInput, y, -1); }},
+     [](double* y) { return brenn_vm_exp_f64_acc(4, kInput, y, -1); }},
     {"bad accuracy beats a null array", BRENN_ERR_BAD_ACCURACY,
-     [](double*) { return brenn_vdln_acc(4, nullptr, nullptr, 9); }},
-    {"stride 0", BRENN_ERR_BAD_ARGUMENT, [](double* y) { return brenn_vdpacki(2, kInput, 0, y); }},
+     [](double*) { return brenn_vm_ln_f64_acc(4, nullptr, nullptr, 9); }},
+    {"stride 0", BRENN_ERR_BAD_ARGUMENT,
+     [](double* y) { return brenn_vm_packi_f64(2, kInput, 0, y); }},
     {"negative stride", BRENN_ERR_BAD_ARGUMENT,
-     [](double* y) { return brenn_vdunpacki(2, kInput, y, -2); }},
+     [](double* y) { return brenn_vm_unpacki_f64(2, kInput, y, -2); }},
     {"null mask", BRENN_ERR_NULL_POINTER,
-     [](double* y) { return brenn_vdpackm(4, kInput, nullptr, y); }},
+     [](double* y) { return brenn_vm_packm_f64(4, kInput, nullptr, y); }},
 };
 
 TEST(FrontendVmChecks, RefusalsWriteNothingAndNameTheirStatus) {
@@ -61,15 +63,15 @@ TEST(FrontendVmChecks, RefusalsWriteNothingAndNameTheirStatus) {
 
 TEST(FrontendVmChecks, SinglePrecisionAndComplexShapesAreCheckedAlike) {
     float ys[3] = {-1, -1, -1};
-    EXPECT_EQ(brenn_vsexp(-3, nullptr, ys), BRENN_ERR_BAD_SIZE);
-    EXPECT_EQ(brenn_vssqrt_acc(3, nullptr, ys, BRENN_HA), BRENN_ERR_NULL_POINTER);
-    EXPECT_EQ(brenn_vspowx_acc(3, ys, 2.0f, ys, 5), BRENN_ERR_BAD_ACCURACY);
+    EXPECT_EQ(brenn_vm_exp_f32(-3, nullptr, ys), BRENN_ERR_BAD_SIZE);
+    EXPECT_EQ(brenn_vm_sqrt_f32_acc(3, nullptr, ys, BRENN_HA), BRENN_ERR_NULL_POINTER);
+    EXPECT_EQ(brenn_vm_powx_f32_acc(3, ys, 2.0f, ys, 5), BRENN_ERR_BAD_ACCURACY);
     EXPECT_EQ(ys[0], -1.0f);
     BrennComplex16 z[2] = {{1, 1}, {2, 2}};
-    EXPECT_EQ(brenn_vzmul(2, z, nullptr, z), BRENN_ERR_NULL_POINTER);
+    EXPECT_EQ(brenn_vm_mul_c128(2, z, nullptr, z), BRENN_ERR_NULL_POINTER);
     double r[2] = {kSentinel, kSentinel};
-    EXPECT_EQ(brenn_vzabs(2, nullptr, r), BRENN_ERR_NULL_POINTER);
-    EXPECT_EQ(brenn_vzcis_acc(-2, r, z, BRENN_LA), BRENN_ERR_BAD_SIZE);
+    EXPECT_EQ(brenn_vm_abs_c128(2, nullptr, r), BRENN_ERR_NULL_POINTER);
+    EXPECT_EQ(brenn_vm_cis_c128_acc(-2, r, z, BRENN_LA), BRENN_ERR_BAD_SIZE);
     EXPECT_EQ(r[0], kSentinel);
     EXPECT_EQ(z[0].re, 1.0);
     brenn_zar_kernel_ClearErrStatus();
@@ -77,9 +79,9 @@ TEST(FrontendVmChecks, SinglePrecisionAndComplexShapesAreCheckedAlike) {
 
 TEST(FrontendVmChecks, EmptyCallsAcceptNullArrays) {
     brenn_zar_kernel_SetErrStatus(3);
-    EXPECT_EQ(brenn_vdexp(0, nullptr, nullptr), BRENN_OK);
-    EXPECT_EQ(brenn_vslinearfrac(0, nullptr, nullptr, 1, 0, 1, 0, nullptr), BRENN_OK);
-    EXPECT_EQ(brenn_vzpackv(0, nullptr, nullptr, nullptr), BRENN_OK);
+    EXPECT_EQ(brenn_vm_exp_f64(0, nullptr, nullptr), BRENN_OK);
+    EXPECT_EQ(brenn_vm_linearfrac_f32(0, nullptr, nullptr, 1, 0, 1, 0, nullptr), BRENN_OK);
+    EXPECT_EQ(brenn_vm_packv_c128(0, nullptr, nullptr, nullptr), BRENN_OK);
     // An accepted call with nothing reported leaves the status word as it was.
     EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 3);
     brenn_zar_kernel_ClearErrStatus();
@@ -97,10 +99,10 @@ TEST(FrontendVmChecks, EmptySlotsAreNotAvailable) {
             int (*acc)(int, const double*, double*, int);
         };
         const Row rows[] = {
-            {brenn_zar_kernel_dErf_ttab, brenn_vderf, brenn_vderf_acc},
-            {brenn_zar_kernel_dAcos_ttab, brenn_vdacos, brenn_vdacos_acc},
-            {brenn_zar_kernel_dLGamma_ttab, brenn_vdlgamma, brenn_vdlgamma_acc},
-            {brenn_zar_kernel_dExp_ttab, brenn_vdexp, brenn_vdexp_acc},
+            {brenn_zar_kernel_dErf_ttab, brenn_vm_erf_f64, brenn_vm_erf_f64_acc},
+            {brenn_zar_kernel_dAcos_ttab, brenn_vm_acos_f64, brenn_vm_acos_f64_acc},
+            {brenn_zar_kernel_dLGamma_ttab, brenn_vm_lgamma_f64, brenn_vm_lgamma_f64_acc},
+            {brenn_zar_kernel_dExp_ttab, brenn_vm_exp_f64, brenn_vm_exp_f64_acc},
         };
         for (const Row& r : rows) {
             std::vector<double> y(4, kSentinel);

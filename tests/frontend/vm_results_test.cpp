@@ -34,11 +34,11 @@ TEST(FrontendVmResults, EqualTheKernelOfEachLevel) {
     for (int level = 1; level <= 3; ++level) {
         std::vector<double> want(n), got(n), plain(n);
         thunks[level - 1](n, a.data(), want.data());
-        EXPECT_GE(brenn_vdexp_acc(n, a.data(), got.data(), level), 0);
+        EXPECT_GE(brenn_vm_exp_f64_acc(n, a.data(), got.data(), level), 0);
         EXPECT_TRUE(SameBits(want, got)) << level;
         EXPECT_EQ(brenn_zar_kernel_GetMode(), mode) << "the explicit accuracy left the mode";
         brenn_zar_kernel_SetMode(static_cast<uint32_t>(level));
-        EXPECT_GE(brenn_vdexp(n, a.data(), plain.data()), 0);
+        EXPECT_GE(brenn_vm_exp_f64(n, a.data(), plain.data()), 0);
         EXPECT_TRUE(SameBits(want, plain)) << level;
         brenn_zar_kernel_SetMode(mode);
     }
@@ -50,17 +50,17 @@ TEST(FrontendVmResults, EqualTheKernelOfEachLevel) {
 TEST(FrontendVmResults, ReturnTheCallsLastStatus) {
     brenn_zar_kernel_ClearErrStatus();
     double a[3] = {1.0, 710.0, -746.0}, y[3];
-    EXPECT_EQ(brenn_vdexp(3, a, y), BRENN_STATUS_UNDERFLOW);
+    EXPECT_EQ(brenn_vm_exp_f64(3, a, y), BRENN_STATUS_UNDERFLOW);
     EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), BRENN_STATUS_UNDERFLOW);
     EXPECT_EQ(y[1], std::numeric_limits<double>::infinity());
     double ok[2] = {0.0, 1.0};
-    EXPECT_EQ(brenn_vdexp(2, ok, y), BRENN_OK);
+    EXPECT_EQ(brenn_vm_exp_f64(2, ok, y), BRENN_OK);
     EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), BRENN_STATUS_UNDERFLOW);
     float s[2] = {1.0f, 89.0f}, ys[2];
-    EXPECT_EQ(brenn_vsexp_acc(2, s, ys, BRENN_LA), BRENN_STATUS_OVERFLOW);
+    EXPECT_EQ(brenn_vm_exp_f32_acc(2, s, ys, BRENN_LA), BRENN_STATUS_OVERFLOW);
     EXPECT_EQ(ys[1], std::numeric_limits<float>::infinity());
     double zero[2] = {2.0, 0.0};
-    EXPECT_EQ(brenn_vdln(2, zero, y), BRENN_STATUS_SINGULARITY);
+    EXPECT_EQ(brenn_vm_ln_f64(2, zero, y), BRENN_STATUS_SINGULARITY);
     EXPECT_EQ(y[1], -std::numeric_limits<double>::infinity());
     brenn_zar_kernel_ClearErrStatus();
 }
@@ -69,10 +69,10 @@ TEST(FrontendVmResults, ReturnTheCallsLastStatus) {
 TEST(FrontendVmResults, SignallingNanIsNotAnError) {
     brenn_zar_kernel_ClearErrStatus();
     double a[1] = {std::numeric_limits<double>::signaling_NaN()}, y[1];
-    EXPECT_EQ(brenn_vdexp(1, a, y), BRENN_OK);
+    EXPECT_EQ(brenn_vm_exp_f64(1, a, y), BRENN_OK);
     EXPECT_TRUE(std::isnan(y[0]));
     float s[1] = {std::numeric_limits<float>::signaling_NaN()}, ys[1];
-    EXPECT_EQ(brenn_vsln_acc(1, s, ys, BRENN_EP), BRENN_OK);
+    EXPECT_EQ(brenn_vm_ln_f32_acc(1, s, ys, BRENN_EP), BRENN_OK);
     EXPECT_TRUE(std::isnan(ys[0]));
 }
 
@@ -89,15 +89,15 @@ TEST(FrontendVmResults, OneThreadReportsCountFromTheCallersVector) {
         brenn_zar_kernel_SetErrorCallBack(RecordIndex);
         std::vector<double> a(64, 2.0), y(64);
         a[41] = -1.0;
-        EXPECT_EQ(brenn_vdln(64, a.data(), y.data()), BRENN_STATUS_DOMAIN);
+        EXPECT_EQ(brenn_vm_ln_f64(64, a.data(), y.data()), BRENN_STATUS_DOMAIN);
         EXPECT_EQ(gIndex, 41);
         double old = brenn_vm_set_split_work(1e-300);
         std::vector<double> big(100'000, 2.0), out(100'000);
         big[99'000] = -1.0;
-        EXPECT_EQ(brenn_vdln(100'000, big.data(), out.data()), BRENN_STATUS_DOMAIN);
+        EXPECT_EQ(brenn_vm_ln_f64(100'000, big.data(), out.data()), BRENN_STATUS_DOMAIN);
         EXPECT_EQ(gIndex, 99'000);
         brenn_vm_set_split_work(old);
-        EXPECT_EQ(brenn_vdln(64, a.data(), y.data()), BRENN_STATUS_DOMAIN);
+        EXPECT_EQ(brenn_vm_ln_f64(64, a.data(), y.data()), BRENN_STATUS_DOMAIN);
         EXPECT_EQ(gIndex, 41);
     }).join();
 }
@@ -105,14 +105,14 @@ TEST(FrontendVmResults, OneThreadReportsCountFromTheCallersVector) {
 TEST(FrontendVmResults, PackingFollowsStrideMaskAndIndex) {
     const double a[6] = {0, 1, 2, 3, 4, 5};
     double y[3] = {-1, -1, -1};
-    EXPECT_EQ(brenn_vdpacki(3, a, 2, y), BRENN_OK);
+    EXPECT_EQ(brenn_vm_packi_f64(3, a, 2, y), BRENN_OK);
     EXPECT_EQ(y[2], 4.0);
     const int mask[6] = {0, 1, 0, 0, 1, 0};
-    EXPECT_EQ(brenn_vdpackm(6, a, mask, y), BRENN_OK);
+    EXPECT_EQ(brenn_vm_packm_f64(6, a, mask, y), BRENN_OK);
     EXPECT_EQ(y[0], 1.0);
     EXPECT_EQ(y[1], 4.0);
     const int index[3] = {5, 0, 3};
-    EXPECT_EQ(brenn_vdpackv(3, a, index, y), BRENN_OK);
+    EXPECT_EQ(brenn_vm_packv_f64(3, a, index, y), BRENN_OK);
     EXPECT_EQ(y[0], 5.0);
     EXPECT_EQ(y[2], 3.0);
 }

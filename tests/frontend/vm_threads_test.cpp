@@ -33,20 +33,20 @@ TEST(FrontendVmThreads, SplitResultsEqualOneThreadAtTenMillion) {
         a[i] = -700.0 + 1400.0 * (i / double(n)) + 1e-7 * (i % 97);
     {
         SplitWork w(kNever);
-        EXPECT_EQ(brenn_vdexp(n, a.data(), one.data()), BRENN_OK);
+        EXPECT_EQ(brenn_vm_exp_f64(n, a.data(), one.data()), BRENN_OK);
     }
     // The default threshold splits a call of this size.
     ASSERT_LE(n * brenn_zar_kernel_dExp_ctab[1], 1e300);
     ASSERT_GE(n * brenn_zar_kernel_dExp_ctab[1], brenn_vm_get_split_work());
-    EXPECT_EQ(brenn_vdexp(n, a.data(), split.data()), BRENN_OK);
+    EXPECT_EQ(brenn_vm_exp_f64(n, a.data(), split.data()), BRENN_OK);
     EXPECT_EQ(std::memcmp(one.data(), split.data(), n * sizeof(double)), 0);
     float fa[4099], fo[4099], fs[4099];
     for (int i = 0; i < 4099; ++i)
         fa[i] = -100.0f + 0.05f * i;
     SplitWork w(kNever);
-    brenn_vsexp_acc(4099, fa, fo, BRENN_EP);
+    brenn_vm_exp_f32_acc(4099, fa, fo, BRENN_EP);
     brenn_vm_set_split_work(kAlways);
-    brenn_vsexp_acc(4099, fa, fs, BRENN_EP);
+    brenn_vm_exp_f32_acc(4099, fa, fs, BRENN_EP);
     EXPECT_EQ(std::memcmp(fo, fs, sizeof fo), 0);
     brenn_zar_kernel_ClearErrStatus();
 }
@@ -85,7 +85,7 @@ TEST(FrontendVmThreads, ReportsCarryGlobalIndicesAndStatusesAreCollected) {
     int status;
     {
         SplitWork w(kAlways);
-        status = brenn_vdln(n, a.data(), y.data());
+        status = brenn_vm_ln_f64(n, a.data(), y.data());
     }
     EXPECT_EQ(status, BRENN_STATUS_SINGULARITY);
     EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), BRENN_STATUS_SINGULARITY);
@@ -98,7 +98,7 @@ TEST(FrontendVmThreads, ReportsCarryGlobalIndicesAndStatusesAreCollected) {
     a[n - 5] = 3.0;
     {
         SplitWork w(kAlways);
-        EXPECT_EQ(brenn_vdln(n, a.data(), y.data()), BRENN_STATUS_DOMAIN);
+        EXPECT_EQ(brenn_vm_ln_f64(n, a.data(), y.data()), BRENN_STATUS_DOMAIN);
     }
     brenn_zar_kernel_SetErrorCallBack(old);
     brenn_zar_kernel_SetMode(mode);
@@ -113,7 +113,7 @@ TEST(FrontendVmThreads, ConcurrentCallersEachGetTheirOwnStatus) {
         std::vector<double> a(50'000, 2.0), y(50'000);
         a[30'000] = bad;
         for (int round = 0; round < 20; ++round)
-            *status = brenn_vdln(50'000, a.data(), y.data());
+            *status = brenn_vm_ln_f64(50'000, a.data(), y.data());
     };
     int s1 = -99, s2 = -99;
     std::thread t1(work, -1.0, &s1), t2(work, 0.0, &s2);
@@ -142,7 +142,7 @@ TEST(FrontendVmThreads, TrapModesAreNotSplit) {
         for (int i = 0; i < 100'000; i += 5'000)
             a[i] = -1.0;
         gThreads.clear();
-        EXPECT_EQ(brenn_vdln(100'000, a.data(), y.data()), BRENN_STATUS_DOMAIN);
+        EXPECT_EQ(brenn_vm_ln_f64(100'000, a.data(), y.data()), BRENN_STATUS_DOMAIN);
         EXPECT_EQ(gThreads.size(), 20u);
         for (std::thread::id id : gThreads)
             EXPECT_EQ(id, std::this_thread::get_id());

@@ -31,12 +31,12 @@ int main(void) {
         const double a[5] = {0.0, 1.0, -1.0, 10.5, -700.25};
         double y[5];
         int i;
-        if (brenn_vdexp_acc(5, a, y, BRENN_HA) != BRENN_OK) {
-            fprintf(stderr, "brenn_vdexp_acc: %s\n",
+        if (brenn_vm_exp_f64_acc(5, a, y, BRENN_HA) != BRENN_OK) {
+            fprintf(stderr, "brenn_vm_exp_f64_acc: %s\n",
                     brenn_status_name(brenn_zar_kernel_GetErrStatus()));
             return 1;
         }
-        if (brenn_vdexp(5, NULL, y) != BRENN_ERR_NULL_POINTER) {
+        if (brenn_vm_exp_f64(5, NULL, y) != BRENN_ERR_NULL_POINTER) {
             fprintf(stderr, "a null input was not refused\n");
             return 1;
         }
