@@ -326,6 +326,17 @@ BRENN_TRIG_HOT bool AnyNearZeroS(const __m128* r) {
     return MaskBits(Lt(least, Set<uint32_t>(kNearZeroBits))) != 0;
 }
 
+// The lanes of single remainders r below 2^-9 replaced by the wide reduction's, lane by
+// lane: which reduction an element takes depends on its own remainder only, never on its
+// neighbours in the block, so its result does not depend on where it stands in a call.
+template <int N>
+BRENN_TRIG_HOT void TakeNearZeroS(__m128* r, const __m128* wide) {
+    BRENN_EACH(k, N) {
+        __m128 near = AsFloat(Lt(AsInt(Abs(r[k])), Set<uint32_t>(kNearZeroBits)));
+        r[k] = IfThenElse(near, wide[k], r[k]);
+    }
+}
+
 // Lanes with the exponent field all ones (infinity and NaN), as the range-test mask.
 template <class V>
 BRENN_TRIG_HOT V InfNan(V a) {

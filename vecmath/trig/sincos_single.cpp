@@ -130,13 +130,16 @@ BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p,
         SeriesEP<N>(r, p);
     } else if constexpr (L == Level::LA) {
         // The single reduction is good to 2^-35 absolute; only a remainder below 2^-9
-        // (a lane near a multiple of pi, a few in a thousand) needs the double one.
+        // (a lane near a multiple of pi, a few in a thousand) needs the double one, and
+        // only those lanes take it.
         __m128 r[N];
         ReduceS<N>(a, n, r);
         if (__builtin_expect(AnyNearZeroS<N>(r), 0)) {
             __m128d rd[2 * N];
             ReduceD<N>(a, n, rd);
-            BRENN_EACH(k, N) r[k] = Narrow(rd[2 * k], rd[2 * k + 1]);
+            __m128 wide[N];
+            BRENN_EACH(k, N) wide[k] = Narrow(rd[2 * k], rd[2 * k + 1]);
+            TakeNearZeroS<N>(r, wide);
         }
         SeriesOdd<N>(r, kSinLA, p);
     } else {

@@ -153,8 +153,13 @@ inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
         BRENN_EACH(k, M) r[k] = Sub(r[k], Mul(n[k], Set<T>(piHalf[i])));
     if constexpr (std::is_same_v<Sides, TanFitSingleLA>) {
         // The single reduction is good to 2^-35 absolute; a remainder below 2^-9 (a
-        // lane near a multiple of pi/2, a few in a thousand) takes the double one.
-        if (__builtin_expect(AnyNearZeroS<M>(r), 0)) ReduceWide<M>(a, n, r);
+        // lane near a multiple of pi/2, a few in a thousand) takes the double one, and
+        // only such a lane.
+        if (__builtin_expect(AnyNearZeroS<M>(r), 0)) {
+            V wide[M];
+            ReduceWide<M>(a, n, wide);
+            TakeNearZeroS<M>(r, wide);
+        }
     }
     BRENN_EACH(k, M) u[k] = Mul(r[k], r[k]);
     SidesOf<M, Sides>(r, u, s, c);
