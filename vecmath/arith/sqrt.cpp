@@ -1,17 +1,16 @@
 /* Sqrt, single and double, three levels.
  *
  * sSqrt: EP x*rsqrt(x) (about 11.4 bits); LA one Goldschmidt step on that seed (within
- * 4 ulp); HA the correctly rounded root instruction. dSqrt: EP and LA a seed on the
- * significand with the exponent apart, then the series of (1 - e)^(-1/2) to second
- * (EP, about 36 bits) or fourth order (LA, within 2 ulp); HA the correctly rounded
- * root instruction. Lanes that are not positive normals go to the scalar routine;
+ * 4 ulp); HA the correctly rounded root instruction. dSqrt: the correctly rounded root
+ * instruction at every level, each level a kernel of its own: a seed on the significand
+ * and the series of (1 - e)^(-1/2) took 6.4 ticks an element at LA and 5.0 at EP,
+ * against 2.2 for the instruction. Lanes that are not positive normals go to the scalar routine;
  * their body result is made a quiet NaN first so that they raise no flag of their own.
  *
  * Scalar routine: -inf and negatives give NaN with status 1; -0 gives -0, +inf and NaN
  * themselves (NaN quieted), denormals their correctly rounded root, all with status 0. */
 #include "frame/kernels.h"
 #include "vecmath/arith/ranges.h"
-#include "vecmath/arith/seed.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 
@@ -55,20 +54,7 @@ inline __m128 RootOf(__m128 x, __m128 special) {
     return Add(g, Mul(g, e));
 }
 
-// Double EP and LA from the seed: g = x*r and e = 1 - g*r, then g + g*e*P(e) with P
-// the series of (1 - e)^(-1/2) beyond 1, to second order (EP) or fourth (LA).
-constexpr double kRootSeries2[] = {0.5, 0.375};
-
-template <Level L>
-inline __m128d RootOf(__m128d x, __m128d special) {
-    __m128d r = NaNWhere(special, RootSeed(x));
-    __m128d g = Mul(x, r);
-    __m128d e = Sub(Set<double>(1.0), Mul(g, r));
-    __m128d p = L == Level::EP ? Horner(e, kRootSeries2) : Horner(e, kRootSeries);
-    return Add(g, Mul(Mul(g, e), p));
-}
-
-// HA is the correctly rounded root instruction.
+// HA, and every level in double, is the correctly rounded root instruction.
 template <class Tp, Level L>
 struct SqrtBody {
     using T = Tp;
@@ -76,7 +62,7 @@ struct SqrtBody {
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Sqrt);
     static V Eval(V x, V& special) {
         special = RangeTest(x, ArithRanges<T>::kRoot);
-        if constexpr (L == Level::HA)
+        if constexpr (L == Level::HA || sizeof(T) == 8)
             return Sqrt(NaNWhere(special, x));
         else
             return RootOf<L>(x, special);
