@@ -1,40 +1,15 @@
 // The affine post-pass of the continuous generators, r = r * scale + shift with an
 // optional lower bound, in the peel / eight / two / one shape. Every path multiplies
 // then adds then bounds, in that order, so the split does not change a result.
-#include <emmintrin.h>
 #include <stdint.h>
 #include <string.h>
 
 #include "rng/dist/frame.h"
+#include "rng/dist/lanes.h"
 
 namespace brenn::rng {
 
 namespace {
-
-template <typename T>
-struct Lanes;
-
-template <>
-struct Lanes<double> {
-    using V = __m128d;
-    static constexpr int kCount = 2;
-    static V Set(double x) { return _mm_set1_pd(x); }
-    static V Load(const double* p) { return _mm_load_pd(p); }
-    static void Store(double* p, V v) { _mm_store_pd(p, v); }
-    static V Fma(V x, V s, V t) { return _mm_add_pd(_mm_mul_pd(x, s), t); }
-    static V Max(V x, V m) { return _mm_max_pd(x, m); }
-};
-
-template <>
-struct Lanes<float> {
-    using V = __m128;
-    static constexpr int kCount = 4;
-    static V Set(float x) { return _mm_set1_ps(x); }
-    static V Load(const float* p) { return _mm_load_ps(p); }
-    static void Store(float* p, V v) { _mm_store_ps(p, v); }
-    static V Fma(V x, V s, V t) { return _mm_add_ps(_mm_mul_ps(x, s), t); }
-    static V Max(V x, V m) { return _mm_max_ps(x, m); }
-};
 
 // max(x, m) as the vector instruction does it: m when x is NaN.
 template <typename T>

@@ -4,6 +4,7 @@
 // do not depend on how the calls cut them; a and sigma apply at delivery.
 #include "platform/serv.h"
 #include "rng/dist/continuous.h"
+#include "rng/dist/pair_passes.h"
 
 namespace brenn::rng {
 
@@ -15,17 +16,33 @@ namespace {
 template <typename T>
 void Pairs(int32_t m, T* words, T* angle, T* radius, T* sine, T* cosine) {
     using C = Continuous<T>;
-    const T twoPi = C::TwoPi();
-    for (int32_t i = 0; i < m; ++i) {
-        T u1 = words[2 * i], u2 = words[2 * i + 1];
-        words[i] = u1;
-        angle[i] = u2 * twoPi;
-    }
+    SplitPairs(m, words, angle);
     C::SinCos(m, angle, sine, cosine);
     C::LnTo(m, words, radius);
-    for (int32_t i = 0; i < m; ++i)
-        radius[i] = -(radius[i] + radius[i]);
+    MinusTwice(m, radius);
     C::Sqrt(m, radius);
+}
+
+// r gets radius * sine, then radius * cosine, for each pair in order, each raw
+// product then scaled and shifted: the same rounding as a raw half kept for a later
+// call and scaled at delivery there.
+template <typename T>
+void Deliver(int32_t m, const T* radius, const T* sine, const T* cosine, T* r, T sigma, T a) {
+    using L = Lanes<T>;
+    const typename L::V s = L::Set(sigma), t = L::Set(a);
+    int32_t i = 0;
+    for (; i + L::kCount <= m; i += L::kCount) {
+        typename L::V rad = L::LoadU(radius + i);
+        typename L::V x = L::Fma(L::Mul(rad, L::LoadU(sine + i)), s, t);
+        typename L::V y = L::Fma(L::Mul(rad, L::LoadU(cosine + i)), s, t);
+        L::StoreU(r + 2 * i, L::InterleaveLow(x, y));
+        L::StoreU(r + 2 * i + L::kCount, L::InterleaveHigh(x, y));
+    }
+    for (; i < m; ++i) {
+        T x = radius[i] * sine[i], y = radius[i] * cosine[i];
+        Put(r + 2 * i, x * sigma + a);
+        Put(r + 2 * i + 1, y * sigma + a);
+    }
 }
 
 // The chunk of the stream, made with nothing waiting on first use; null with the
@@ -69,22 +86,21 @@ int32_t GaussianBoxMuller2(void* stream, int32_t n, T* r, T a, T sigma) {
         C::LnTo(1, pending, &l);
         pending[0] = -(l + l);
         C::Sqrt(1, pending);
-        r[0] = pending[0] * pending[1];
+        T z = pending[0] * pending[1];
+        Put(r, z * sigma + a);
         written = 1;
     }
     const int32_t owed = n - written;
     constexpr int32_t kHalf = kContinuousBlock / 2;
-    T words[kContinuousBlock];
-    T angle[kHalf], radius[kHalf], cosine[kHalf];
+    alignas(16) T words[kContinuousBlock];
+    alignas(16) T angle[kHalf], radius[kHalf], cosine[kHalf];
     T* sine = words + kHalf; // the angle words' half, free once they are read
     auto pairs = [&](int32_t m) {
         status = C::Uniform(stream, 2 * m, words, T(0), T(1));
         if (status < 0) return false;
         Pairs(m, words, angle, radius, sine, cosine);
-        for (int32_t i = 0; i < m; ++i) {
-            r[written++] = radius[i] * sine[i];
-            r[written++] = radius[i] * cosine[i];
-        }
+        Deliver(m, radius, sine, cosine, r + written, sigma, a);
+        written += 2 * m;
         return true;
     };
     for (int32_t b = owed / kContinuousBlock; b > 0; --b)
@@ -102,12 +118,12 @@ int32_t GaussianBoxMuller2(void* stream, int32_t n, T* r, T a, T sigma) {
         C::LnTo(1, u, &last);
         last = -(last + last);
         C::Sqrt(1, &last);
-        r[n - 1] = last * angle1;
+        T z = last * angle1;
+        Put(r + n - 1, z * sigma + a);
     } else {
         pending[0] = T(-1);
         pending[1] = T(-1);
     }
-    AffinePass(n, r, sigma, a);
     return status;
 }
 

@@ -3,35 +3,45 @@
 // the sine half of each pair, and the inverse-CDF method through ErfInv.
 #include "frame/export.h"
 #include "rng/dist/continuous.h"
+#include "rng/dist/pair_passes.h"
 
 namespace brenn::rng {
+
+namespace {
+
+// r[i] = radius[i] * sigma * sine[i] + a, the product taken in that order.
+template <typename T>
+void DeliverSines(int32_t m, const T* radius, const T* sine, T* r, T sigma, T a) {
+    using L = Lanes<T>;
+    const typename L::V s = L::Set(sigma), t = L::Set(a);
+    int32_t i = 0;
+    for (; i + L::kCount <= m; i += L::kCount)
+        L::StoreU(r + i, L::Add(L::Mul(L::Mul(L::Load(radius + i), s), L::Load(sine + i)), t));
+    for (; i < m; ++i)
+        Put(r + i, radius[i] * sigma * sine[i] + a);
+}
+
+} // namespace
 
 template <typename T>
 int32_t GaussianBoxMuller(void* stream, int32_t n, T* r, T a, T sigma) {
     using C = Continuous<T>;
     // The radius words are packed down in place into the front of `words`; their
     // logarithms go to the back half, since the sentinel reads the argument back.
-    T words[2 * kContinuousBlock];
+    alignas(16) T words[2 * kContinuousBlock];
     T* radius = words + kContinuousBlock;
-    T angle[kContinuousBlock];
-    const T twoPi = C::TwoPi();
+    alignas(16) T angle[kContinuousBlock];
     int32_t status = QES_STATUS_OK;
     for (int32_t done = 0; done < n;) {
         int32_t m = n - done < kContinuousBlock ? n - done : kContinuousBlock;
         status = C::Uniform(stream, 2 * m, words, T(0), T(1));
         if (status < 0) return status;
-        for (int32_t i = 0; i < m; ++i) {
-            T u1 = words[2 * i], u2 = words[2 * i + 1];
-            words[i] = u1;
-            angle[i] = u2 * twoPi;
-        }
+        SplitPairs(m, words, angle);
         C::Sin(m, angle);
         C::LnTo(m, words, radius);
-        for (int32_t i = 0; i < m; ++i)
-            radius[i] = -(radius[i] + radius[i]);
+        MinusTwice(m, radius);
         C::Sqrt(m, radius);
-        for (int32_t i = 0; i < m; ++i)
-            r[done + i] = radius[i] * sigma * angle[i] + a;
+        DeliverSines(m, radius, angle, r + done, sigma, a);
         done += m;
     }
     return status;
