@@ -1276,6 +1276,40 @@ int32_t _qessRngCauchy(int32_t method, void* stream, int32_t n, float* r, float 
  *         kernel rows it needs; a status of the generator. */
 int32_t _qesdRngCauchy(int32_t method, void* stream, int32_t n, double* r, double a, double beta);
 
+/** Single-precision Gamma variates a + beta v, v of shape alpha and unit scale. Alpha
+ * above 1: Marsaglia and Tsang's squeeze with normals, a trial left over at the end of a
+ * call kept in chunk 8 (so calls may be cut anywhere); 1: the Exponential generator;
+ * from 0.6 to 1: rejection from a Weibull form; below 0.6: Ahrens and Dieter's
+ * two-uniform rejection.
+ * @param method 0 (not read)
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param alpha shape, above 0
+ * @param a displacement
+ * @param beta scale, above 0
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; QES_ERROR_MEM_FAILURE; a status of the generator. */
+int32_t _qessRngGamma(int32_t method, void* stream, int32_t n, float* r, float alpha, float a,
+                      float beta);
+/** Double-precision Gamma variates a + beta v, as _qessRngGamma; the leftover trial of
+ * alpha above 1 waits in chunk 7. */
+int32_t _qesdRngGamma(int32_t method, void* stream, int32_t n, double* r, double alpha, double a,
+                      double beta);
+/** Single-precision chi-square variates of v degrees of freedom: v = 1 the square of a
+ * Gaussian; v above 16 Gamma of shape v / 2 and scale 2; otherwise -2 ln of the product
+ * of v / 2 (rounded down) uniforms, plus the square of a Gaussian for odd v. The
+ * Gaussians are those of _qessRngGaussian's method 1.
+ * @param method 0 (not read)
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param v degrees of freedom, 1 or more
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; QES_ERROR_MEM_FAILURE; a status of the generator. */
+int32_t _qessRngChiSquare(int32_t method, void* stream, int32_t n, float* r, int32_t v);
+/** Double-precision chi-square variates, as _qessRngChiSquare. */
+int32_t _qesdRngChiSquare(int32_t method, void* stream, int32_t n, double* r, int32_t v);
 #ifdef __cplusplus
 }
 #endif

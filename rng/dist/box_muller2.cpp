@@ -2,8 +2,8 @@
 // SinCos. A cosine half left over by an odd call waits in a chunk of the stream as
 // its two raw uniforms (-1.0 twice when none waits), so the variates a stream yields
 // do not depend on how the calls cut them; a and sigma apply at delivery.
-#include "platform/serv.h"
 #include "rng/dist/continuous.h"
+#include "rng/dist/pair_chunk.h"
 #include "rng/dist/pair_passes.h"
 
 namespace brenn::rng {
@@ -45,28 +45,6 @@ void Deliver(int32_t m, const T* radius, const T* sine, const T* cosine, T* r, T
     }
 }
 
-// The chunk of the stream, made with nothing waiting on first use; null with the
-// status in `status` when it cannot be made.
-template <typename T>
-T* PendingChunk(void* stream, int32_t* status) {
-    const int32_t id = Continuous<T>::kChunk;
-    T* pending = static_cast<T*>(__qesSearchChunk(stream, id));
-    if (pending != nullptr) return pending;
-    pending = static_cast<T*>(brenn_serv_allocate(2 * sizeof(T), 128));
-    if (pending == nullptr) {
-        *status = QES_ERROR_MEM_FAILURE;
-        return nullptr;
-    }
-    pending[0] = T(-1);
-    pending[1] = T(-1);
-    *status = __qesAddChunk(stream, id, nullptr, pending, 2 * sizeof(T));
-    if (*status != QES_STATUS_OK) {
-        brenn_serv_deallocate(pending);
-        return nullptr;
-    }
-    return pending;
-}
-
 } // namespace
 
 template <typename T>
@@ -74,7 +52,7 @@ int32_t GaussianBoxMuller2(void* stream, int32_t n, T* r, T a, T sigma) {
     using C = Continuous<T>;
     if (n <= 0) return QES_STATUS_OK;
     int32_t status = QES_STATUS_OK;
-    T* pending = PendingChunk<T>(stream, &status);
+    T* pending = PairChunk<T>(stream, C::kChunk, &status);
     if (pending == nullptr) return status;
     int32_t written = 0;
     if (pending[0] != T(-1)) {

@@ -3,23 +3,11 @@
 // distribution needs one and an affine pass. Gumbel nests its frame around the
 // exponential's; the maxima keep a shift exact when a logarithm's sign is lost.
 #include "frame/export.h"
-#include "rng/dist/continuous.h"
+#include "rng/dist/framed.h"
 
 using namespace brenn::rng;
 
 namespace {
-
-// The guard and the error mode around `body`, undone on every path.
-template <typename T, typename Body>
-int32_t Framed(ErrorCallback sentinel, Body body) {
-    if (!Continuous<T>::HasRows()) return QES_STATUS_BAD_METHOD;
-    FpGuard guard = GuardEnter();
-    ErrorFrame errors = ErrorModeEnter(sentinel);
-    int32_t status = body();
-    ErrorModeLeave(errors);
-    GuardLeave(guard);
-    return status;
-}
 
 template <typename T>
 int32_t Exponential(void* stream, int32_t n, T* r, T a, T beta) {

@@ -1,0 +1,206 @@
+// Gamma variates a + beta v, v of shape alpha and unit scale, by one of four ways
+// chosen by alpha alone: above 1 Marsaglia and Tsang's squeeze with Box-Muller
+// normals, at 1 the Exponential, from 0.6 to 1 rejection from a Weibull form, below
+// 0.6 Ahrens and Dieter's two-uniform rejection (GS). The squeeze way keeps a trial
+// left over at the end of a call in chunk 7 (double) or 8 (single), so that its
+// variates do not depend on how a request is cut into calls.
+#include <cmath>
+
+#include "frame/export.h"
+#include "rng/dist/framed.h"
+#include "rng/dist/gamma.h"
+#include "rng/dist/pair_chunk.h"
+
+namespace brenn::rng {
+
+namespace {
+
+constexpr int32_t kTrials = 512; // trials a round at most: 1024 uniforms
+
+int32_t Min(int32_t x, int32_t y) {
+    return x < y ? x : y;
+}
+
+// Marsaglia and Tsang's test of one normal x with its uniform u: the variate d v,
+// or a negative value for a rejection.
+template <typename T>
+struct Squeeze {
+    T d, c, s;
+    T Trial(T x, T u) const {
+        using G = GammaOf<T>;
+        T t = c * x + T(1);
+        if (!(t > T(0))) return T(-1);
+        T v = t * t * t, x2 = x * x;
+        if (u < T(1) - s * x2 * x2) return d * v;
+        T w = T(0.5) * x2 + d * (T(1) - v + G::ScalarLn(v));
+        return w > G::ScalarLn(u) ? d * v : T(-1);
+    }
+};
+
+// Alpha above 1. A round of k trials (the count still wanted, at most 512, rounded up
+// to even) takes 2k uniforms; pair j of normals owns words 4j to 4j + 3: the radius and
+// the angle of Box-Muller, then the test uniforms of its sine and its cosine normal.
+// Trials thus run through the stream in a fixed order, and since a round has at most
+// one trial more than wanted, only a cosine trial can be left over: it waits in the
+// chunk as its uniform and its normal.
+template <typename T>
+int32_t SqueezeWay(void* stream, int32_t n, T* r, T alpha) {
+    using C = Continuous<T>;
+    using G = GammaOf<T>;
+    const Squeeze<T> q{alpha - G::Third(), T(1) / std::sqrt(T(9) * alpha - T(3)), G::Squeeze()};
+    if (n <= 0) return QES_STATUS_OK;
+    int32_t status = QES_STATUS_OK;
+    T* pending = PairChunk<T>(stream, G::kChunk, &status);
+    if (pending == nullptr) return status;
+    int32_t written = 0;
+    if (!(pending[0] < T(0))) {
+        T v = q.Trial(pending[1], pending[0]);
+        pending[0] = T(-1);
+        if (v >= T(0)) r[written++] = v;
+    }
+    constexpr int32_t kPairs = kTrials / 2;
+    T words[2 * kTrials];
+    T radius[kPairs], angle[kPairs], sine[kPairs], cosine[kPairs];
+    const T twoPi = C::TwoPi();
+    while (written < n) {
+        int32_t k = Min(n - written, kTrials);
+        k += k & 1;
+        status = C::Uniform(stream, 2 * k, words, T(0), T(1));
+        if (status < 0) return status;
+        const int32_t pairs = k / 2;
+        for (int32_t j = 0; j < pairs; ++j) {
+            radius[j] = words[4 * j];
+            angle[j] = words[4 * j + 1] * twoPi;
+        }
+        C::SinCos(pairs, angle, sine, cosine);
+        C::Ln(pairs, radius);
+        for (int32_t j = 0; j < pairs; ++j)
+            radius[j] = -(radius[j] + radius[j]);
+        C::Sqrt(pairs, radius);
+        for (int32_t j = 0; j < pairs && written < n; ++j) {
+            T v = q.Trial(radius[j] * sine[j], words[4 * j + 2]);
+            if (v >= T(0)) r[written++] = v;
+            T xc = radius[j] * cosine[j], uc = words[4 * j + 3];
+            if (written == n) {
+                pending[0] = uc;
+                pending[1] = xc;
+                break;
+            }
+            v = q.Trial(xc, uc);
+            if (v >= T(0)) r[written++] = v;
+        }
+    }
+    return status;
+}
+
+// Alpha from 0.6 to 1: x = e1^(1/alpha) is Weibull for an exponential e1, and with a
+// second exponential e2 it is accepted when x <= e1 + e2 - b, b = (1 - alpha)
+// alpha^(alpha / (1 - alpha)) the largest value of x^alpha - x. Trial i takes words
+// 2i (e1) and 2i + 1 (e2) of its round.
+template <typename T>
+int32_t WeibullWay(void* stream, int32_t n, T* r, T alpha) {
+    using C = Continuous<T>;
+    using G = GammaOf<T>;
+    const T b = (T(1) - alpha) * G::ExpHA(alpha / (T(1) - alpha) * G::LnHA(alpha));
+    const T inverse = T(1) / alpha;
+    T words[2 * kTrials];
+    T e1[kTrials], bound[kTrials];
+    int32_t status = QES_STATUS_OK;
+    for (int32_t written = 0; written < n;) {
+        const int32_t k = Min(n - written, kTrials);
+        status = C::Uniform(stream, 2 * k, words, T(0), T(1));
+        if (status < 0) return status;
+        C::Ln(2 * k, words);
+        for (int32_t i = 0; i < k; ++i) {
+            e1[i] = -words[2 * i];
+            bound[i] = (e1[i] - words[2 * i + 1]) - b;
+        }
+        // e1^(1/alpha) as exp(ln(e1) / alpha), in place over the block.
+        C::LnTo(k, e1, words);
+        for (int32_t i = 0; i < k; ++i)
+            words[i] *= inverse;
+        C::Exp(k, words);
+        for (int32_t i = 0; i < k && written < n; ++i)
+            if (words[i] <= bound[i]) r[written++] = words[i];
+    }
+    return status;
+}
+
+// Alpha below 0.6, Ahrens and Dieter's GS: p = b u1 with b = 1 + alpha / e. For p <= 1
+// the candidate is x = p^(1/alpha), accepted when u2 <= exp(-x); above, x = -ln((b - p)
+// / alpha), accepted when u2 <= x^(alpha - 1), that is when x <= u2^(-1/(1 - alpha)).
+// One logarithm call over the 2k arguments of a round and one exponential over k:
+// exp(ln p / alpha) below, exp(-ln u2 / (1 - alpha)) above. Trial i takes words 2i
+// (u1) and 2i + 1 (u2).
+template <typename T>
+int32_t RejectionWay(void* stream, int32_t n, T* r, T alpha) {
+    using C = Continuous<T>;
+    const T inverse = T(1) / alpha, oneMinus = T(1) - alpha;
+    const T b = T(1) + alpha * T(0.36787944117144233);
+    T words[2 * kTrials], logs[2 * kTrials];
+    T* lu2 = logs + kTrials;
+    T e[kTrials];
+    int32_t status = QES_STATUS_OK;
+    for (int32_t written = 0; written < n;) {
+        const int32_t k = Min(n - written, kTrials);
+        status = C::Uniform(stream, 2 * k, words, T(0), T(1));
+        if (status < 0) return status;
+        for (int32_t i = 0; i < k; ++i) {
+            T p = b * words[2 * i];
+            e[i] = p; // kept to tell the branch
+            logs[i] = p <= T(1) ? p : (b - p) * inverse;
+            lu2[i] = words[2 * i + 1];
+        }
+        C::LnTo(k, logs, words);
+        C::LnTo(k, lu2, words + kTrials);
+        for (int32_t i = 0; i < k; ++i)
+            logs[i] = e[i] <= T(1) ? words[i] * inverse : -words[kTrials + i] / oneMinus;
+        C::Exp(k, logs);
+        for (int32_t i = 0; i < k && written < n; ++i) {
+            if (e[i] <= T(1)) {
+                if (words[kTrials + i] <= -logs[i]) r[written++] = logs[i];
+            } else {
+                T x = -words[i];
+                if (x <= logs[i]) r[written++] = x;
+            }
+        }
+    }
+    return status;
+}
+
+template <typename T>
+int32_t Gamma(void* stream, int32_t n, T* r, T alpha, T a, T beta) {
+    using C = Continuous<T>;
+    if (alpha == T(1)) {
+        if constexpr (sizeof(T) == 8)
+            return _qesdRngExponential(0, stream, n, r, a, beta);
+        else
+            return _qessRngExponential(0, stream, n, r, a, beta);
+    }
+    return Framed<T>(C::kLogZeroOnlyCallback, [&] {
+        int32_t status = alpha > T(1)      ? SqueezeWay(stream, n, r, alpha)
+                         : alpha >= T(0.6) ? WeibullWay(stream, n, r, alpha)
+                                           : RejectionWay(stream, n, r, alpha);
+        if (status < 0) return status;
+        AffinePass(n, r, beta, a);
+        return status;
+    });
+}
+
+} // namespace
+
+} // namespace brenn::rng
+
+using namespace brenn::rng;
+
+BRENN_EXPORT int32_t _qessRngGamma(int32_t method, void* stream, int32_t n, float* r, float alpha,
+                                   float a, float beta) {
+    (void)method;
+    return Gamma(stream, n, r, alpha, a, beta);
+}
+
+BRENN_EXPORT int32_t _qesdRngGamma(int32_t method, void* stream, int32_t n, double* r, double alpha,
+                                   double a, double beta) {
+    (void)method;
+    return Gamma(stream, n, r, alpha, a, beta);
+}
