@@ -81,15 +81,6 @@ struct Ref<float> {
 #undef BRENN_REF
 #undef BRENN_REF_ONE
 
-// x and y within a few units in the last place: the pair method's variates when a
-// call boundary moves a pair between SinCos, Sin and Cos or to another place in a
-// SinCos call, whose last bits depend on that place.
-template <typename T>
-bool WithinUlps(T x, T y) {
-    T scale = std::fabs(x) > T(1) ? std::fabs(x) : T(1);
-    return std::fabs(x - y) <= T(8) * std::numeric_limits<T>::epsilon() * scale;
-}
-
 // The radius sqrt(-2 ln u) as the generators form it.
 template <typename T>
 T Radius(T u) {
