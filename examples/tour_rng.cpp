@@ -7,7 +7,8 @@
 // two members of the Wichmann-Hill set; then a 5-dimensional integral estimated by
 // Sobol points and by pseudo-random ones; last a PHILOX4X32X10 sequence split by
 // skip-ahead whose first part feeds an abstract stream (made through the kernel
-// library's entries: the front-end has no abstract streams).
+// library's entries: the front-end has no abstract streams); and Gaussian variates by
+// the three methods of the kernel library's Gaussian entry.
 #include <cstdio>
 #include <random>
 #include <vector>
@@ -161,4 +162,28 @@ void TourRandom() {
     }
     std::printf("random: an abstract stream fed by the first part, on [-1, 1): %.9f %.9f %.9f\n",
                 fromFed[0], fromFed[1], fromFed[2]);
+
+    // Gaussian variates, mean 10 and deviation 2, by the kernel library's three methods
+    // on equal MT19937 streams: Box-Muller keeping the sine half of each pair, Box-Muller
+    // using both halves, and the inverse CDF. The pair method keeps a waiting half in
+    // the stream, so one draw of 1 and one of 3 give the same four as one draw of 4.
+    const char* methods[3] = {"Box-Muller, sine half", "Box-Muller, both halves", "inverse CDF"};
+    for (int32_t method = 0; method < 3; ++method) {
+        void* g = nullptr;
+        double z[4] = {0, 0, 0, 0};
+        if (__qesNewStreamEx(&g, QES_BRNG_MT19937, 1, &seed) != 0) continue;
+        int32_t st = _qesdRngGaussian(method, g, 4, z, 10.0, 2.0);
+        __qesDeleteStream(&g);
+        std::printf("random: Gaussian(10, 2) by %s (status %d): %.6f %.6f %.6f %.6f\n",
+                    methods[method], st, z[0], z[1], z[2], z[3]);
+    }
+    void* g = nullptr;
+    double cut[4] = {0, 0, 0, 0};
+    if (__qesNewStreamEx(&g, QES_BRNG_MT19937, 1, &seed) == 0) {
+        _qesdRngGaussian(1, g, 1, cut, 10.0, 2.0);
+        _qesdRngGaussian(1, g, 3, cut + 1, 10.0, 2.0);
+        __qesDeleteStream(&g);
+    }
+    std::printf("random: the same by both halves, drawn as 1 + 3: %.6f %.6f %.6f %.6f\n", cut[0],
+                cut[1], cut[2], cut[3]);
 }

@@ -9,7 +9,6 @@
 
 #include <cmath>
 #include <cstring>
-#include <limits>
 #include <vector>
 
 #include "brenn_rng.h"
