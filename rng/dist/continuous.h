@@ -10,6 +10,7 @@
 
 #include "brenn_rng.h"
 #include "rng/dist/frame.h"
+#include "rng/dist/lanes.h"
 
 namespace brenn::rng {
 
@@ -110,12 +111,15 @@ struct Continuous<float> {
 
 #undef BRENN_DIST_KERNELS
 
-// -x by the sign bit alone, for each element.
+// -x by the sign bit alone, for each element; r need not be element-aligned.
 template <typename T>
 inline void FlipSigns(int32_t n, T* r) {
-    using B = typename Continuous<T>::Bits;
-    for (int32_t i = 0; i < n; ++i) {
-        B b;
+    using L = Lanes<T>;
+    int32_t i = 0;
+    for (; i + L::kCount <= n; i += L::kCount)
+        L::StoreU(r + i, L::Neg(L::LoadU(r + i)));
+    for (; i < n; ++i) {
+        typename Continuous<T>::Bits b;
         memcpy(&b, r + i, sizeof b);
         b ^= Continuous<T>::kSign;
         memcpy(r + i, &b, sizeof b);

@@ -27,6 +27,10 @@ struct Lanes<double> {
     static V Neg(V x) { return _mm_xor_pd(x, _mm_set1_pd(-0.0)); }
     static V Fma(V x, V s, V t) { return _mm_add_pd(_mm_mul_pd(x, s), t); }
     static V Max(V x, V m) { return _mm_max_pd(x, m); }
+    // All ones where x <= y (false for a NaN), zero elsewhere; and the bitwise mixers.
+    static V AtMost(V x, V y) { return _mm_cmple_pd(x, y); }
+    static V And(V x, V y) { return _mm_and_pd(x, y); }
+    static V Xor(V x, V y) { return _mm_xor_pd(x, y); }
     // Elements 0, 2, ... and 1, 3, ... of the pairs in x then y.
     static V Evens(V x, V y) { return _mm_unpacklo_pd(x, y); }
     static V Odds(V x, V y) { return _mm_unpackhi_pd(x, y); }
@@ -49,6 +53,9 @@ struct Lanes<float> {
     static V Neg(V x) { return _mm_xor_ps(x, _mm_set1_ps(-0.0f)); }
     static V Fma(V x, V s, V t) { return _mm_add_ps(_mm_mul_ps(x, s), t); }
     static V Max(V x, V m) { return _mm_max_ps(x, m); }
+    static V AtMost(V x, V y) { return _mm_cmple_ps(x, y); }
+    static V And(V x, V y) { return _mm_and_ps(x, y); }
+    static V Xor(V x, V y) { return _mm_xor_ps(x, y); }
     static V Evens(V x, V y) { return _mm_shuffle_ps(x, y, _MM_SHUFFLE(2, 0, 2, 0)); }
     static V Odds(V x, V y) { return _mm_shuffle_ps(x, y, _MM_SHUFFLE(3, 1, 3, 1)); }
     static V InterleaveLow(V x, V y) { return _mm_unpacklo_ps(x, y); }
