@@ -1310,6 +1310,56 @@ int32_t _qesdRngGamma(int32_t method, void* stream, int32_t n, double* r, double
 int32_t _qessRngChiSquare(int32_t method, void* stream, int32_t n, float* r, int32_t v);
 /** Double-precision chi-square variates, as _qessRngChiSquare. */
 int32_t _qesdRngChiSquare(int32_t method, void* stream, int32_t n, double* r, int32_t v);
+/** Storage forms of the Cholesky factor T of _qessRngGaussianMV and _qesdRngGaussianMV:
+ * T is lower triangular and the covariance is T T'. Full: d by d, row by row, element
+ * (i, j) at t[i d + j], the part above the diagonal not read. Packed: the lower
+ * triangle row by row, (i, j), j <= i, at t[i (i + 1) / 2 + j]. Diagonal: the d
+ * diagonal elements. */
+enum {
+    QES_RNG_STORAGE_FULL = 0,
+    QES_RNG_STORAGE_PACKED = 1,
+    QES_RNG_STORAGE_DIAGONAL = 2
+};
+/** Single-precision Beta variates a + beta x, x on (0, 1) of density proportional to
+ * x^(p - 1) (1 - x)^(q - 1). p and q below 1: Joehnk's method; both above 1: Cheng's
+ * BB; otherwise Cheng's BC. Two uniforms a trial; a call draws rounds of trials and
+ * drops what the last round has left.
+ * @param method 0 (not read)
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param p first shape, above 0
+ * @param q second shape, above 0
+ * @param a displacement
+ * @param beta scale, above 0
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; a status of the generator. */
+int32_t _qessRngBeta(int32_t method, void* stream, int32_t n, float* r, float p, float q, float a,
+                     float beta);
+/** Double-precision Beta variates, as _qessRngBeta. */
+int32_t _qesdRngBeta(int32_t method, void* stream, int32_t n, double* r, double p, double q,
+                     double a, double beta);
+/** Single-precision multivariate Gaussian vectors a + T z, z a vector of dimen standard
+ * Gaussians of _qessRngGaussian's method `method`, T the lower triangular Cholesky
+ * factor of the covariance T T' in the storage that mstorage names. Vector k is
+ * r[k dimen] to r[k dimen + dimen - 1]; the products run through the service
+ * library's triangular products (brenn_blas4zar_strmm, brenn_blas4zar_sptrmm).
+ * @param method the Gaussian method of z: 0, 1 or 2 as in _qessRngGaussian
+ * @param stream the stream
+ * @param n number of vectors
+ * @param r where they go, n dimen elements
+ * @param dimen dimension d, 1 or more
+ * @param mstorage QES_RNG_STORAGE_FULL, QES_RNG_STORAGE_PACKED or QES_RNG_STORAGE_DIAGONAL
+ * @param a mean, dimen elements
+ * @param t the factor in that storage
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; QES_ERROR_MEM_FAILURE; a status of the generator. */
+int32_t _qessRngGaussianMV(int32_t method, void* stream, int32_t n, float* r, int32_t dimen,
+                           int32_t mstorage, const float* a, const float* t);
+/** Double-precision multivariate Gaussian vectors, as _qessRngGaussianMV
+ * (brenn_blas4zar_dtrmm, brenn_blas4zar_dptrmm). */
+int32_t _qesdRngGaussianMV(int32_t method, void* stream, int32_t n, double* r, int32_t dimen,
+                           int32_t mstorage, const double* a, const double* t);
 #ifdef __cplusplus
 }
 #endif
