@@ -2,6 +2,7 @@
 // the element stands: in one call of 37 elements, one element a call, in two calls cut at
 // any point, or with the arrays moved off their 16-byte boundary by one element. The rows
 // come from the row list, so a row that gains a kernel is checked without a change here.
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
@@ -11,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include "kernels.h"
+#include "tools/accuracy/measure.h"
 
 namespace {
 
@@ -21,21 +23,7 @@ constexpr int kN = 37;   // elements of the whole call
 constexpr int kCap = 96; // array room: twice kN (stride two) plus the shift
 constexpr int kInc = 2;  // stride of PackI and UnpackI
 
-enum class Shape {
-    Unary,
-    AbsArg,
-    Cis,
-    Binary,
-    Powx,
-    TwoRes,
-    LinFrac,
-    PackI,
-    PackM,
-    PackV,
-    UnpackI,
-    UnpackM,
-    UnpackV
-};
+using brenn::tools::Shape; // the argument lists of the row list
 
 // Statuses by element, from the error callback: slot = first element of the call + index.
 int gFirst = 0;
@@ -338,13 +326,13 @@ const RowCheck kRows[] = {
 #undef ROW
 };
 
-// Slots whose results still depend on where an element stands, with the reason.
+// Slots whose results still depend on where an element stands, with the reason: none.
 struct Known {
     const char* row;
     int slot;
     const char* reason;
 };
-const Known kKnown[] = {{"", -1, ""}};
+constexpr std::array<Known, 0> kKnown{};
 
 const char* KnownReason(const std::string& row, int slot) {
     for (const Known& k : kKnown)
