@@ -178,13 +178,8 @@ int32_t ChengWay(void* stream, int32_t n, T* r, T p, T q) {
 
 template <typename T>
 int32_t Beta(void* stream, int32_t n, T* r, T p, T q, T a, T beta) {
-    using C = Continuous<T>;
-    return Framed<T>(C::kLogZeroOnlyCallback, [&] {
-        int32_t status =
-            p < T(1) && q < T(1) ? Joehnk(stream, n, r, p, q) : ChengWay(stream, n, r, p, q);
-        if (status < 0) return status;
-        AffinePass(n, r, beta, a);
-        return status;
+    return FramedScaled(n, r, a, beta, [&] {
+        return p < T(1) && q < T(1) ? Joehnk(stream, n, r, p, q) : ChengWay(stream, n, r, p, q);
     });
 }
 

@@ -170,20 +170,16 @@ int32_t RejectionWay(void* stream, int32_t n, T* r, T alpha) {
 
 template <typename T>
 int32_t Gamma(void* stream, int32_t n, T* r, T alpha, T a, T beta) {
-    using C = Continuous<T>;
     if (alpha == T(1)) {
         if constexpr (sizeof(T) == 8)
             return _qesdRngExponential(0, stream, n, r, a, beta);
         else
             return _qessRngExponential(0, stream, n, r, a, beta);
     }
-    return Framed<T>(C::kLogZeroOnlyCallback, [&] {
-        int32_t status = alpha > T(1)      ? SqueezeWay(stream, n, r, alpha)
-                         : alpha >= T(0.6) ? WeibullWay(stream, n, r, alpha)
-                                           : RejectionWay(stream, n, r, alpha);
-        if (status < 0) return status;
-        AffinePass(n, r, beta, a);
-        return status;
+    return FramedScaled(n, r, a, beta, [&] {
+        return alpha > T(1)      ? SqueezeWay(stream, n, r, alpha)
+               : alpha >= T(0.6) ? WeibullWay(stream, n, r, alpha)
+                                 : RejectionWay(stream, n, r, alpha);
     });
 }
 
