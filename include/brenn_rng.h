@@ -78,6 +78,9 @@ enum {
     QES_RNG_STATUS_RDRAND_FAILED = -1131,
     /** the processor has no AES instructions */
     QES_RNG_STATUS_NO_AES = -1140,
+    /** Multinomial: fewer than one cell, a negative probability, or probabilities
+     * whose sum lies outside [0.999, 1.001] */
+    QES_RNG_ERROR_BAD_MULTINOMIAL = -1150,
     /** memory image: not a stream, or not of this generator's size */
     QES_RNG_STATUS_BAD_IMAGE_FORMAT = -1200,
     /** the shared read-only table has no such entry */
@@ -1275,6 +1278,45 @@ int32_t _qessRngCauchy(int32_t method, void* stream, int32_t n, float* r, float 
  * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
  *         kernel rows it needs; a status of the generator. */
 int32_t _qesdRngCauchy(int32_t method, void* stream, int32_t n, double* r, double a, double beta);
+/** Poisson variates.
+ * @param method 0 exact (inversion below lambda 27, rejection from 27; keeps its
+ *        set-up in chunk 3 of the stream); 1 transforming, one uniform a variate, an
+ *        approximation (partial sums below 1, a Cornish-Fisher expansion from 1 to
+ *        100, a bent normal from 100)
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param lambda the mean, above 0
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD for another method word or when the
+ *         library is built without the kernel rows it needs; QES_ERROR_MEM_FAILURE
+ *         or the status of __qesAddChunk when chunk 3 cannot be made; a status of the
+ *         generator. */
+int32_t _qesiRngPoisson(int32_t method, void* stream, int32_t n, int32_t* r, double lambda);
+/** Poisson variates with a mean for each element, by the transforming method's
+ * approximations: exactly n uniforms whatever the means.
+ * @param method 0 (not read)
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param lambda n means, each at least 0
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; a status of the generator. */
+int32_t _qesiRngPoissonV(int32_t method, void* stream, int32_t n, int32_t* r,
+                         const double* lambda);
+/** Multinomial rows: n rows of k counts, each row adding up to ntrial.
+ * @param method 0 (not read)
+ * @param stream the stream
+ * @param n number of rows
+ * @param r where they go, n * k counts, row after row
+ * @param ntrial trials a row, at least 0
+ * @param k number of cells
+ * @param p k probabilities
+ * @return QES_STATUS_OK; QES_RNG_ERROR_BAD_MULTINOMIAL for k below 1, a negative p
+ *         or a sum of p outside [0.999, 1.001] (not checked when ntrial is 0);
+ *         QES_ERROR_MEM_FAILURE; QES_STATUS_BAD_METHOD when the library is built
+ *         without the kernel rows it needs; a status of the generator. */
+int32_t _qesiRngMultinomial(int32_t method, void* stream, int32_t n, int32_t* r, int32_t ntrial,
+                            int32_t k, const double* p);
 
 /** Single-precision Gamma variates a + beta v, v of shape alpha and unit scale. Alpha
  * above 1: Marsaglia and Tsang's squeeze with normals, a trial left over at the end of a
