@@ -90,6 +90,17 @@ inline void FillSafe(E& e) {
     }
 }
 
+// The common part of a body whose special lanes go to a scalar routine that works in
+// x87 extended precision: its types, the x87 rule of the kernel, and the routine.
+template <class Tp, class I, class O, int (*Routine)(const I*, const I*, O*)>
+struct ExtendedScalarBody {
+    using T = Tp;
+    using In = I;
+    using Out = O;
+    static constexpr X87Rule kX87 = X87Rule::Extended;
+    static int Scalar(const In* x, const In* w, Out* y) { return Routine(x, w, y); }
+};
+
 template <class B>
 struct ComplexFrame {
     using T = typename B::T;

@@ -81,11 +81,7 @@ BRENN_VEC void TableCis(__m128d a, __m128d& c, __m128d& s) {
 }
 
 template <Level L>
-struct CisZ {
-    using T = double;
-    using In = double;
-    using Out = BrennComplex16;
-    static constexpr X87Rule kX87 = X87Rule::Extended; // for the 80-bit scalar routine
+struct CisZ : ExtendedScalarBody<double, double, BrennComplex16, CisScalar> {
     static constexpr const char* kName = "vzCIS";
     static int Eval(const Cx<double>* x, const Cx<double>*, Cx<double>& y) {
         __m128d a = Abs(x->re);
@@ -93,7 +89,6 @@ struct CisZ {
         y.im = Xor(y.im, SignBit(x->re));
         return MaskBits(trig::InfNan(a));
     }
-    static int Scalar(const In* x, const In* w, Out* y) { return CisScalar(x, w, y); }
 };
 
 // Single EP: sin r ~ r + r^3 P(r^2), cos r ~ 1 + r^2 Q(r^2) on [-pi/4, pi/4]
@@ -123,11 +118,7 @@ BRENN_VEC void QuadrantCis(__m128d a, __m128d& c, __m128d& s) {
 }
 
 template <Level L>
-struct CisC {
-    using T = float;
-    using In = float;
-    using Out = BrennComplex8;
-    static constexpr X87Rule kX87 = X87Rule::Extended; // for the 80-bit scalar routine
+struct CisC : ExtendedScalarBody<float, float, BrennComplex8, CisScalar> {
     static constexpr const char* kName = "vcCIS";
     static void Half(__m128d a, __m128d& c, __m128d& s) {
         if constexpr (L == Level::EP)
@@ -147,7 +138,6 @@ struct CisC {
         else
             return MaskBits(trig::InfNan(a));
     }
-    static int Scalar(const In* x, const In* w, Out* y) { return CisScalar(x, w, y); }
 };
 
 } // namespace

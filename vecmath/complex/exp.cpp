@@ -92,26 +92,17 @@ BRENN_VEC __m128d ExpOutside(__m128d a, __m128d b) {
 }
 
 template <Level L>
-struct ExpZ {
-    using T = double;
-    using In = BrennComplex16;
-    using Out = BrennComplex16;
-    static constexpr X87Rule kX87 = X87Rule::Extended; // for the 80-bit scalar routine
+struct ExpZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, ExpScalar> {
     static constexpr const char* kName = "vzExp";
     static int Eval(const Cx<double>* x, const Cx<double>*, Cx<double>& y) {
         __m128d special = ExpOutside(x->re, x->im);
         y = ExpOf<L>(IfThenZeroElse(special, x->re), IfThenZeroElse(special, x->im));
         return MaskBits(special);
     }
-    static int Scalar(const In* x, const In* w, Out* y) { return ExpScalar(x, w, y); }
 };
 
 template <Level L>
-struct ExpC {
-    using T = float;
-    using In = BrennComplex8;
-    using Out = BrennComplex8;
-    static constexpr X87Rule kX87 = X87Rule::Extended; // for the 80-bit scalar routine
+struct ExpC : ExtendedScalarBody<float, BrennComplex8, BrennComplex8, ExpScalar> {
     static constexpr const char* kName = "vcExp";
     static int Eval(const Cx<float>* x, const Cx<float>*, Cx<float>& y) {
         __m128d a0 = WidenLower(x->re), b0 = WidenLower(x->im);
@@ -125,7 +116,6 @@ struct ExpC {
         I32x4 o = Or(Eq(And(AsInt(y.re), inf), inf), Eq(And(AsInt(y.im), inf), inf));
         return MaskBits(o) | MaskBits(s0) | (MaskBits(s1) << 2);
     }
-    static int Scalar(const In* x, const In* w, Out* y) { return ExpScalar(x, w, y); }
 };
 
 } // namespace

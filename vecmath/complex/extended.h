@@ -3,14 +3,16 @@
  * serves every accuracy level, since the extended routine is as exact as it
  * gets whatever the mode.
  *
- * A routine takes the element's two parts, widened to long double, and gives
+ * A routine takes the element's two parts (and those of the second operand:
+ * Pow's element, Powx's one value for all), widened to long double, and gives
  * the result's parts and a status; the frame runs it with the x87 unit at
  * extended precision (the caller's control word saved and restored by the
  * kernel frame's entry rule), rounds the parts once to the element's type, and
  * reports a non-zero status through the reporter of the type. Functions whose
  * result may overflow from finite parts (Sin, Cos, Sinh, Cosh) set kOverflow: a
  * finite element whose rounded result has an infinite part is then reported
- * with status 3. In-place calls are safe: each element is read before its
+ * with status 3. The shared turns of the trigonometric functions into the
+ * hyperbolic ones live here too. In-place calls are safe: each element is read before its
  * result is written. */
 #ifndef BRENN_VECMATH_COMPLEX_EXTENDED_H
 #define BRENN_VECMATH_COMPLEX_EXTENDED_H
@@ -22,27 +24,50 @@ namespace brenn::vm::cx {
 using LD = long double;
 
 // A body: the element type E, the routine, its public error name and kOverflow.
-//   static int Eval(LD re, LD im, LD& yr, LD& yi);
+//   unary:  static int Eval(LD re, LD im, LD& yr, LD& yi);
+//   binary: static int Eval(LD ar, LD ai, LD br, LD bi, LD& yr, LD& yi);
 template <class B, class E>
 struct ExtendedRun {
+    using R = decltype(E{}.re);
     static constexpr X87Rule kX87 = X87Rule::Extended;
 
-    template <class Routine>
-    static void Run(int n, const E* a, E* y, Routine routine) {
-        using R = decltype(E{}.re);
+    // The result rounded once into y, and the status with the overflow test.
+    static int Put(E& y, LD yr, LD yi, int st, bool finite) {
+        y.re = R(yr);
+        y.im = R(yi);
+        if (B::kOverflow && st == status::kNone && finite &&
+            !(__builtin_isfinite(y.re) && __builtin_isfinite(y.im)))
+            st = status::kOverflow;
+        return st;
+    }
+
+    static void Run(int n, const E* a, E* y) {
         Env<ExtendedRun> env = Enter<ExtendedRun>();
         for (int i = 0; i < n; ++i) {
             const R re = a[i].re, im = a[i].im;
             LD yr, yi;
-            int st = routine(LD(re), LD(im), yr, yi);
-            y[i].re = R(yr);
-            y[i].im = R(yi);
-            if (B::kOverflow && st == status::kNone && __builtin_isfinite(re) &&
-                __builtin_isfinite(im) &&
-                !(__builtin_isfinite(y[i].re) && __builtin_isfinite(y[i].im)))
-                st = status::kOverflow;
+            int st = B::Eval(LD(re), LD(im), yr, yi);
+            st = Put(y[i], yr, yi, st, __builtin_isfinite(re) && __builtin_isfinite(im));
             if (__builtin_expect(st != status::kNone, 0))
                 frame::ReportError(st, i, a, a, y, y, B::kName);
+        }
+        Leave(env);
+    }
+
+    // Two inputs: b a vector (step 1) or one element for all (step 0, Powx).
+    static void Run(int n, const E* a, const E* b, int step, E* y) {
+        Env<ExtendedRun> env = Enter<ExtendedRun>();
+        for (int i = 0; i < n; ++i) {
+            const R ar = a[i].re, ai = a[i].im, br = b[i * step].re, bi = b[i * step].im;
+            LD yr, yi;
+            int st = B::Eval(LD(ar), LD(ai), LD(br), LD(bi), yr, yi);
+            st = Put(y[i], yr, yi, st,
+                     __builtin_isfinite(ar) && __builtin_isfinite(ai) && __builtin_isfinite(br) &&
+                         __builtin_isfinite(bi));
+            // the reporter reads the second input at the element's index: for one element
+            // for all, a base from which index i reaches it
+            if (__builtin_expect(st != status::kNone, 0))
+                frame::ReportError(st, i, a, step ? b : b - i, y, y, B::kName);
         }
         Leave(env);
     }
@@ -50,9 +75,60 @@ struct ExtendedRun {
 
 template <class B, class E>
 inline void RunExtended(int n, const E* a, E* y) {
-    ExtendedRun<B, E>::Run(n, a, y, B::Eval);
+    ExtendedRun<B, E>::Run(n, a, y);
+}
+template <class B, class E>
+inline void RunExtended(int n, const E* a, const E* b, E* y) {
+    ExtendedRun<B, E>::Run(n, a, b, 1, y);
+}
+template <class B, class E>
+inline void RunExtendedScalar(int n, const E* a, E b, E* y) {
+    ExtendedRun<B, E>::Run(n, a, &b, 0, y);
+}
+
+// -y, but a NaN keeps its sign: the turn of the trigonometric functions into the
+// hyperbolic ones leaves a NaN part as it is.
+inline LD Turned(LD y) {
+    return __builtin_isnan(y) ? y : -y;
+}
+
+// The trigonometric functions from the hyperbolic ones: with f(-y + ix) = u + iv,
+// cos-like functions are u + iv (Turn false) and sin-like ones (g(z) = -i f(iz)) are
+// v - iu (Turn true).
+template <int (*F)(LD, LD, LD&, LD&), bool Turn>
+int Rotated(LD x, LD y, LD& re, LD& im) {
+    LD u, v;
+    int st = F(Turned(y), x, u, v);
+    if (Turn) {
+        re = v;
+        im = Turned(u);
+    } else {
+        re = u;
+        im = v;
+    }
+    return st;
 }
 
 } // namespace brenn::vm::cx
+
+// A body of one routine: BRENN_EXTENDED_BODY(Tanh, TanhOf, false) makes Tanh<E> with the
+// public names "vcTanh" and "vzTanh"; Overflow as kOverflow above.
+#define BRENN_EXTENDED_BODY(Body, Fn, Overflow)                                                    \
+    template <class E>                                                                             \
+    struct Body {                                                                                  \
+        static constexpr bool kOverflow = Overflow;                                                \
+        static constexpr const char* kName =                                                       \
+            std::is_same_v<E, BrennComplex8> ? "vc" #Body : "vz" #Body;                            \
+        static int Eval(LD x, LD y, LD& re, LD& im) { return Fn(x, y, re, im); }                   \
+    };
+
+// The c and z kernels of a unary body, one kernel for every level (inside extern "C").
+#define BRENN_EXTENDED_KERNELS(Fn)                                                                 \
+    void ZAR_KERNEL(c##Fn, All) BRENN_SIG(c, Unary) {                                              \
+        brenn::vm::cx::RunExtended<Fn<BrennComplex8>>(n, a, y);                                    \
+    }                                                                                              \
+    void ZAR_KERNEL(z##Fn, All) BRENN_SIG(z, Unary) {                                              \
+        brenn::vm::cx::RunExtended<Fn<BrennComplex16>>(n, a, y);                                   \
+    }
 
 #endif

@@ -35,10 +35,6 @@ void CoshSinh(LD x, LD& ch, LD& sh) {
     sh = __builtin_copysignl((m + m / e) * 0.5L, x);
 }
 
-LD Turned(LD y) { // -y, but a NaN keeps its sign
-    return __builtin_isnan(y) ? y : -y;
-}
-
 int CoshOf(LD x, LD y, LD& re, LD& im) {
     if (y == 0) { // cosh x + i 0, the zero signed as sinh(x) * y
         re = coshl(x);
@@ -79,31 +75,6 @@ int SinhOf(LD x, LD y, LD& re, LD& im) {
     return status::kNone;
 }
 
-// f(-y + ix) = u + iv; the trigonometric function is u + iv (Cos) or v - iu
-// (Sin).
-template <int (*F)(LD, LD, LD&, LD&), bool Turn>
-int Rotated(LD x, LD y, LD& re, LD& im) {
-    LD u, v;
-    int st = F(Turned(y), x, u, v);
-    if (Turn) {
-        re = v;
-        im = Turned(u);
-    } else {
-        re = u;
-        im = v;
-    }
-    return st;
-}
-
-#define BRENN_EXTENDED_BODY(Body, Fn, Overflow)                                                    \
-    template <class E>                                                                             \
-    struct Body {                                                                                  \
-        static constexpr bool kOverflow = Overflow;                                                \
-        static constexpr const char* kName =                                                       \
-            std::is_same_v<E, BrennComplex8> ? "vc" #Body : "vz" #Body;                            \
-        static int Eval(LD x, LD y, LD& re, LD& im) { return Fn(x, y, re, im); }                   \
-    };
-
 BRENN_EXTENDED_BODY(Cosh, CoshOf, true)
 BRENN_EXTENDED_BODY(Sinh, SinhOf, true)
 BRENN_EXTENDED_BODY(Cos, (Rotated<CoshOf, false>), true)
@@ -113,14 +84,6 @@ BRENN_EXTENDED_BODY(Sin, (Rotated<SinhOf, true>), true)
 } // namespace brenn::vm::cx
 
 using namespace brenn::vm::cx;
-
-#define BRENN_EXTENDED_KERNELS(Fn)                                                                 \
-    void ZAR_KERNEL(c##Fn, All) BRENN_SIG(c, Unary) {                                              \
-        RunExtended<Fn<BrennComplex8>>(n, a, y);                                                   \
-    }                                                                                              \
-    void ZAR_KERNEL(z##Fn, All) BRENN_SIG(z, Unary) {                                              \
-        RunExtended<Fn<BrennComplex16>>(n, a, y);                                                  \
-    }
 
 extern "C" {
 BRENN_EXTENDED_KERNELS(Cosh)

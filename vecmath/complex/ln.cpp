@@ -49,11 +49,7 @@ BRENN_VEC __m128d HalfLog(__m128d sh, __m128d sl) {
 }
 
 template <Level L>
-struct LnZ {
-    using T = double;
-    using In = BrennComplex16;
-    using Out = BrennComplex16;
-    static constexpr X87Rule kX87 = X87Rule::Extended; // for the 80-bit scalar routine
+struct LnZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, LnScalar> {
     using Atan2 = invtrig::Atan2Body<double, L, invtrig::Unit::Radian>;
     static constexpr const char* kName = "vzLn";
     static int Eval(const Cx<double>* x, const Cx<double>*, Cx<double>& y) {
@@ -70,15 +66,10 @@ struct LnZ {
         y.im = Atan2::Eval(x->im, x->re, angle);
         return MaskBits(Or(special, angle));
     }
-    static int Scalar(const In* x, const In* w, Out* y) { return LnScalar(x, w, y); }
 };
 
 template <Level L>
-struct LnC {
-    using T = float;
-    using In = BrennComplex8;
-    using Out = BrennComplex8;
-    static constexpr X87Rule kX87 = X87Rule::Extended; // for the 80-bit scalar routine
+struct LnC : ExtendedScalarBody<float, BrennComplex8, BrennComplex8, LnScalar> {
     using Atan2 = invtrig::Atan2Body<double, L, invtrig::Unit::Radian>;
     static constexpr const char* kName = "vcLn";
     static void Half(__m128d a, __m128d b, __m128d& re, __m128d& im, __m128d& special) {
@@ -95,7 +86,6 @@ struct LnC {
         y.im = Narrow(i0, i1);
         return MaskBits(s0) | (MaskBits(s1) << 2);
     }
-    static int Scalar(const In* x, const In* w, Out* y) { return LnScalar(x, w, y); }
 };
 
 } // namespace

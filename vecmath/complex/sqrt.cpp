@@ -63,11 +63,7 @@ BRENN_VEC void Place(V x, V y, V t, V q, Cx<ElemOf<V>>& r) {
     r.im = IfThenElse(x, Or(t, SignBit(y)), q);
 }
 
-struct SqrtZ {
-    using T = double;
-    using In = BrennComplex16;
-    using Out = BrennComplex16;
-    static constexpr X87Rule kX87 = X87Rule::Extended; // for the 80-bit scalar routine
+struct SqrtZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, SqrtScalar> {
     static int Eval(const Cx<double>* z, const Cx<double>*, Cx<double>& y) {
         constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
         __m128d special =
@@ -104,14 +100,9 @@ struct SqrtZ {
         Place(x, w, Add(th, tl), q, y);
         return MaskBits(special);
     }
-    static int Scalar(const In* x, const In* w, Out* y) { return SqrtScalar(x, w, y); }
 };
 
-struct SqrtC {
-    using T = float;
-    using In = BrennComplex8;
-    using Out = BrennComplex8;
-    static constexpr X87Rule kX87 = X87Rule::Extended; // for the 80-bit scalar routine
+struct SqrtC : ExtendedScalarBody<float, BrennComplex8, BrennComplex8, SqrtScalar> {
     static void Half(__m128d x, __m128d w, __m128d& t, __m128d& q) {
         __m128d m = Sqrt(Add(Mul(x, x), Mul(w, w)));
         t = Sqrt(Mul(Add(Abs(x), m), Set<double>(0.5)));
@@ -132,7 +123,6 @@ struct SqrtC {
         Place(x, w, Narrow(t0, t1), Narrow(q0, q1), y);
         return MaskBits(special);
     }
-    static int Scalar(const In* x, const In* w, Out* y) { return SqrtScalar(x, w, y); }
 };
 
 } // namespace
