@@ -5,18 +5,14 @@
 
 #include "brenn_rand.h"
 #include "frontend/export.h"
+#include "frontend/rng_checks.h"
 
 namespace {
 
+using brenn::fe::CheckDraw;
+
 void** Raw(brenn_stream** s) {
     return reinterpret_cast<void**>(s);
-}
-
-// n < 0 or a null array with n > 0 (or a null stream) is refused before any draw.
-int CheckDraw(const brenn_stream* stream, int n, const void* r) {
-    if (n < 0) return BRENN_ERR_BAD_SIZE;
-    if (stream == nullptr || (n > 0 && r == nullptr)) return BRENN_ERR_NULL_POINTER;
-    return BRENN_OK;
 }
 
 // Statuses a partly made stream leaves: the record is ended here, so the caller

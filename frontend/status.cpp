@@ -25,6 +25,8 @@ BRENN_FE_EXPORT const char* brenn_status_name(int status) {
         return "BRENN_ERR_NO_MEMORY";
     case BRENN_ERR_TOO_LONG:
         return "BRENN_ERR_TOO_LONG";
+    case BRENN_ERR_BAD_METHOD:
+        return "BRENN_ERR_BAD_METHOD";
     case BRENN_STATUS_DOMAIN:
         return "BRENN_STATUS_DOMAIN";
     case BRENN_STATUS_SINGULARITY:

@@ -1,8 +1,9 @@
 /** @file brenn_rand.hpp
  * Random numbers in C++: brenn::rng::stream owns one stream (movable, not copyable;
- * copy() makes an independent copy), fills spans through the distributions built,
- * saves and loads itself, and is a std::uniform_random_bit_generator of 32-bit words,
- * so the standard library's distributions can draw from it. */
+ * copy() makes an independent copy), fills spans through the distributions built
+ * (the continuous ones described in brenn_rand_cont.hpp), saves and loads itself, and
+ * is a std::uniform_random_bit_generator of 32-bit words, so the standard library's
+ * distributions can draw from it. */
 #ifndef BRENN_RAND_HPP
 #define BRENN_RAND_HPP
 
@@ -14,6 +15,7 @@
 #include <vector>
 
 #include "brenn_rand.h"
+#include "brenn_rand_cont.hpp"
 #include "brenn_result.hpp"
 
 namespace brenn::rng {
@@ -144,6 +146,15 @@ class stream {
     status fill(std::span<std::uint64_t> r, bits64 = {}) {
         if (status s = detail::too_long(r.size()); !s.ok()) return s;
         return {brenn_rng_bits_u64(s_, static_cast<int>(r.size()), r.data())};
+    }
+
+    /** Fills a float or double span from a continuous distribution (gaussian,
+     * lognormal, exponential, gumbel, laplace, rayleigh, weibull, cauchy of
+     * brenn_rand_cont.hpp); the span's element type is the description's. */
+    template <continuous_distribution D>
+    status fill(std::type_identity_t<std::span<typename D::value_type>> r, const D& d) {
+        if (status s = detail::too_long(r.size()); !s.ok()) return s;
+        return {d.draw(s_, static_cast<int>(r.size()), r.data())};
     }
 
     /** One word of 32 uniform bits. A generator of fewer bits a word gives two

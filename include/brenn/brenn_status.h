@@ -25,7 +25,8 @@ enum {
     BRENN_ERR_SIZE_MISMATCH = -9003, /**< C++: spans whose sizes do not fit together */
     BRENN_ERR_BAD_ARGUMENT = -9004,  /**< an argument outside its documented range */
     BRENN_ERR_NO_MEMORY = -9005,     /**< the front-end could not allocate its own record */
-    BRENN_ERR_TOO_LONG = -9006       /**< C++: more elements than one call takes (2^31 - 1) */
+    BRENN_ERR_TOO_LONG = -9006,      /**< C++: more elements than one call takes (2^31 - 1) */
+    BRENN_ERR_BAD_METHOD = -9007     /**< a method id the distribution does not have */
 };
 
 /** A short name of a status, for messages: "BRENN_OK", "BRENN_ERR_NULL_POINTER",

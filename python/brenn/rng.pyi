@@ -67,3 +67,31 @@ class Stream:
         """Bernoulli variates."""
     def geometric(self, size: int, p: float) -> NDArray[np.int32]:
         """Geometric variates."""
+    def gaussian(self, size: Union[int, tuple[int, ...]], mean: float = ..., sigma: float = ...,
+                 method: Union[str, int] = ..., dtype: DTypeLike = ...) -> NDArray[np.floating]:
+        """Gaussian variates mean + sigma z ("boxmuller", "boxmuller2", "icdf")."""
+    def standard_normal(self, size: Union[int, tuple[int, ...]], dtype: DTypeLike = ...,
+                        method: Union[str, int] = ...) -> NDArray[np.floating]:
+        """Standard normal variates."""
+    def lognormal(self, size: Union[int, tuple[int, ...]], mean: float = ..., sigma: float = ...,
+                  loc: float = ..., scale: float = ..., method: Union[str, int] = ...,
+                  dtype: DTypeLike = ...) -> NDArray[np.floating]:
+        """Lognormal variates loc + scale exp(mean + sigma z)."""
+    def exponential(self, size: Union[int, tuple[int, ...]], scale: float = ..., loc: float = ...,
+                    dtype: DTypeLike = ...) -> NDArray[np.floating]:
+        """Exponential variates loc - scale ln u."""
+    def gumbel(self, size: Union[int, tuple[int, ...]], loc: float = ..., scale: float = ...,
+               dtype: DTypeLike = ...) -> NDArray[np.floating]:
+        """Gumbel variates loc + scale ln(-ln u) (the minimum form)."""
+    def laplace(self, size: Union[int, tuple[int, ...]], loc: float = ..., scale: float = ...,
+                dtype: DTypeLike = ...) -> NDArray[np.floating]:
+        """Laplace variates loc +- scale ln u."""
+    def rayleigh(self, size: Union[int, tuple[int, ...]], scale: float = ..., loc: float = ...,
+                 dtype: DTypeLike = ...) -> NDArray[np.floating]:
+        """Rayleigh variates loc + scale sqrt(-ln u)."""
+    def weibull(self, size: Union[int, tuple[int, ...]], shape: float, loc: float = ...,
+                scale: float = ..., dtype: DTypeLike = ...) -> NDArray[np.floating]:
+        """Weibull variates loc + scale (-ln u)^(1/shape)."""
+    def cauchy(self, size: Union[int, tuple[int, ...]], loc: float = ..., scale: float = ...,
+               dtype: DTypeLike = ...) -> NDArray[np.floating]:
+        """Cauchy variates loc + scale tan(v)."""

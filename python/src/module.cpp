@@ -18,6 +18,7 @@ void Check(int status, const char* what) {
     case BRENN_ERR_BAD_ACCURACY:
     case BRENN_ERR_SIZE_MISMATCH:
     case BRENN_ERR_TOO_LONG:
+    case BRENN_ERR_BAD_METHOD:
     case QES_STATUS_BAD_ARGUMENT:
         throw py::value_error(message);
     case QES_RNG_STATUS_NO_SKIPAHEAD: // the generator has no jump or leapfrog

@@ -1,8 +1,8 @@
 // Random numbers for Python: Stream, the bulk distribution calls of a front-end
-// stream, and BitSource, a stream read word by word through numpy's bit-generator
-// record (bitgen_t, handed over in a capsule named "BitGenerator"). A BitSource
-// draws its words in blocks; the words drawn but not yet read belong to its state,
-// so copies, jumps and saved images count from the words already read.
+// stream (the continuous ones in rng_continuous.cpp), and BitSource, a stream read word by word
+// through numpy's bit-generator record (bitgen_t, handed over in a capsule named "BitGenerator"). A
+// BitSource draws its words in blocks; the words drawn but not yet read belong to its state, so
+// copies, jumps and saved images count from the words already read.
 #include <pybind11/numpy.h>
 #include <pybind11/pybind11.h>
 #include <pybind11/stl.h>
@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "python/src/bindings.h"
+#include "python/src/rng_stream.h"
 
 namespace py = pybind11;
 
@@ -28,6 +29,8 @@ struct bitgen_t {
     uint64_t (*next_raw)(void* st);
 };
 
+} // namespace
+
 StreamHandle NewStream(int brng, const std::vector<uint32_t>& seed) {
     StreamHandle s;
     int status = seed.size() == 1
@@ -36,6 +39,8 @@ StreamHandle NewStream(int brng, const std::vector<uint32_t>& seed) {
     Check(status, "stream");
     return s;
 }
+
+namespace {
 
 StreamHandle CopyStream(const StreamHandle& from) {
     StreamHandle s;
@@ -57,33 +62,6 @@ StreamHandle Load(const py::bytes& image) {
     Check(brenn_rng_load_memory(s.out(), v.data(), static_cast<int64_t>(v.size())), "load");
     return s;
 }
-
-// Fills n elements by calls of at most INT_MAX elements, without the GIL.
-template <class T, class F>
-py::array_t<T> Fill(int64_t n, F draw) {
-    if (n < 0) throw py::value_error("size must not be negative");
-    py::array_t<T> r(n);
-    T* p = r.mutable_data();
-    int status = BRENN_OK;
-    {
-        py::gil_scoped_release release;
-        for (int64_t at = 0; at < n && status >= 0; at += INT_MAX)
-            status = draw(static_cast<int>(std::min<int64_t>(n - at, INT_MAX)), p + at);
-    }
-    Check(status, "draw");
-    return r;
-}
-
-class Stream {
-  public:
-    Stream(int brng, const std::vector<uint32_t>& seed) : s_(NewStream(brng, seed)) {}
-    explicit Stream(StreamHandle s) : s_(std::move(s)) {}
-    const StreamHandle& handle() const { return s_; }
-    brenn_stream* get() const { return s_.get(); }
-
-  private:
-    StreamHandle s_;
-};
 
 constexpr size_t kBlock = 1024;
 
@@ -184,8 +162,8 @@ void InitRng(py::module_& m) {
     py::module_ r = m.def_submodule("rng", "Streams of the front-end");
     r.def("check_brng", &brenn_rng_check_brng, "Status of a generator id in this build.");
 
-    py::class_<Stream>(r, "Stream")
-        .def(py::init<int, std::vector<uint32_t>>(), py::arg("brng"), py::arg("seed"))
+    py::class_<Stream> stream(r, "Stream");
+    stream.def(py::init<int, std::vector<uint32_t>>(), py::arg("brng"), py::arg("seed"))
         .def_property_readonly("brng",
                                [](const Stream& s) {
                                    int id = 0;
@@ -237,6 +215,7 @@ void InitRng(py::module_& m) {
             return Fill<int32_t>(
                 n, [&](int c, int32_t* r) { return brenn_rng_geometric_i32(s.get(), c, r, p); });
         });
+    AddContinuous(stream);
 
     py::class_<BitSource>(r, "BitSource")
         .def(py::init([](int brng, const std::vector<uint32_t>& seed) {

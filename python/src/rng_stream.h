@@ -1,0 +1,52 @@
+// The Python Stream of the bindings: one front-end stream with its bulk draws, and
+// Fill, which runs a draw of any length into a new numpy array without the GIL. Shared
+// by the stream's uniform and discrete draws (rng.cpp) and its continuous ones
+// (rng_continuous.cpp).
+#pragma once
+
+#include <pybind11/numpy.h>
+#include <pybind11/pybind11.h>
+
+#include <algorithm>
+#include <climits>
+#include <cstdint>
+#include <vector>
+
+#include "python/src/bindings.h"
+
+namespace brenn_py {
+
+// A new stream of a generator id seeded by the words given.
+StreamHandle NewStream(int brng, const std::vector<uint32_t>& seed);
+
+class Stream {
+  public:
+    Stream(int brng, const std::vector<uint32_t>& seed) : s_(NewStream(brng, seed)) {}
+    explicit Stream(StreamHandle s) : s_(std::move(s)) {}
+    const StreamHandle& handle() const { return s_; }
+    brenn_stream* get() const { return s_.get(); }
+
+  private:
+    StreamHandle s_;
+};
+
+// Fills n elements by calls of at most INT_MAX elements, without the GIL.
+template <class T, class F>
+pybind11::array_t<T> Fill(int64_t n, F draw) {
+    if (n < 0) throw pybind11::value_error("size must not be negative");
+    pybind11::array_t<T> r(n);
+    T* p = r.mutable_data();
+    int status = BRENN_OK;
+    {
+        pybind11::gil_scoped_release release;
+        for (int64_t at = 0; at < n && status >= 0; at += INT_MAX)
+            status = draw(static_cast<int>(std::min<int64_t>(n - at, INT_MAX)), p + at);
+    }
+    Check(status, "draw");
+    return r;
+}
+
+// Adds the continuous distributions' draws to the Stream class.
+void AddContinuous(pybind11::class_<Stream>& stream);
+
+} // namespace brenn_py
