@@ -268,4 +268,52 @@ TEST(RngGaussian, CallerSettingsComeBackAndEarlierBlocksStay) {
     brenn_zar_kernel_SetMode(callerMode);
 }
 
+// The pair method's chunk: a block that cannot be allocated gives -4 and a chunk that
+// cannot be attached the status of __qesAddChunk, with nothing written, taken or left
+// behind and the caller's settings back; a fetch that fails after a waiting half was
+// delivered leaves that half's radius and cosine in the chunk, not -1.0, and the
+// next call takes them as its pair without a fetch.
+template <typename T>
+void ExpectChunkFailures() {
+    std::vector<T> r(3, T(-7));
+    void* s = NewStepStream(1u << 30);
+    const int64_t live = brenn_serv_live_allocations();
+    Settings before = Read();
+    brenn_serv_fail_allocation(1);
+    EXPECT_EQ(Gaussian(1, s, 3, r.data(), T(0), T(1)), QES_ERROR_MEM_FAILURE);
+    brenn_serv_fail_allocation(2);
+    EXPECT_EQ(Gaussian(1, s, 3, r.data(), T(0), T(1)), QES_STATUS_NO_MEMORY);
+    brenn_serv_fail_allocation(0);
+    EXPECT_EQ(Served(s), 0u);
+    EXPECT_EQ(__qesSearchChunk(s, Ref<T>::kChunk), nullptr);
+    EXPECT_EQ(r, std::vector<T>(3, T(-7)));
+    EXPECT_EQ(brenn_serv_live_allocations(), live);
+    EXPECT_TRUE(Read() == before);
+    __qesDeleteStream(&s);
+
+    // Words k / 7: a pair of 0 and 1/7 delivered whole, then 2/7 and 3/7 waiting.
+    s = NewStepStream(4);
+    ASSERT_EQ(Gaussian(1, s, 2, r.data(), T(0), T(1)), 0);
+    ASSERT_EQ(Gaussian(1, s, 1, r.data(), T(0), T(1)), 0);
+    void* t = NewStepStream(4);
+    std::vector<T> u = Ref<T>::Uniforms(t, 4, T(0), T(1));
+    __qesDeleteStream(&t);
+    before = Read(); // the reference kernels above raise flags of their own
+    EXPECT_EQ(Gaussian(1, s, 3000, r.data(), T(0), T(1)), QES_RNG_STATUS_RDRAND_FAILED);
+    T* pending = static_cast<T*>(__qesSearchChunk(s, Ref<T>::kChunk));
+    ASSERT_NE(pending, nullptr);
+    EXPECT_EQ(pending[0], Radius(u[2]));
+    EXPECT_EQ(pending[1], Ref<T>::Cos(u[3] * Ref<T>::kTwoPi));
+    EXPECT_TRUE(Read() == before);
+    EXPECT_EQ(Gaussian(1, s, 1, r.data(), T(0), T(1)), 0);
+    EXPECT_EQ(Served(s), 4u);
+    EXPECT_EQ(pending[0], T(-1));
+    __qesDeleteStream(&s);
+}
+
+TEST(RngGaussian, PairMethodChunkFailures) {
+    ExpectChunkFailures<double>();
+    ExpectChunkFailures<float>();
+}
+
 } // namespace
