@@ -197,6 +197,7 @@ int main(int argc, char** argv) {
         benchmark::RegisterBenchmark(
             (p.name + suffix).c_str(), Gsl, &p,
             std::string(p.name).find("multivariate") != std::string::npos ? kD : 1)
+            ->UseManualTime()
             ->Repetitions(3)
             ->Unit(benchmark::kMillisecond);
 #endif

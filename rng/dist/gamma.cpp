@@ -26,6 +26,13 @@ int32_t Min(int32_t x, int32_t y) {
 template <typename T>
 struct Squeeze {
     T d, c, s;
+    // The first tests alone: d v, -1 for a rejection, -2 when Trial must finish.
+    T Squeezed(T x, T u) const {
+        T t = c * x + T(1);
+        T v = d * (t * t * t), x2 = x * x;
+        T open = t > T(0) ? T(-2) : T(-1);
+        return t > T(0) && u < T(1) - s * x2 * x2 ? v : open;
+    }
     T Trial(T x, T u) const {
         using G = GammaOf<T>;
         T t = c * x + T(1);
@@ -61,6 +68,7 @@ int32_t SqueezeWay(void* stream, int32_t n, T* r, T alpha) {
     constexpr int32_t kPairs = kTrials / 2;
     T words[2 * kTrials];
     T radius[kPairs], angle[kPairs], sine[kPairs], cosine[kPairs];
+    T normal[kTrials], value[kTrials]; // trial 2j the sine normal of pair j, 2j + 1 its cosine
     const T twoPi = C::TwoPi();
     while (written < n) {
         int32_t k = Min(n - written, kTrials);
@@ -77,17 +85,22 @@ int32_t SqueezeWay(void* stream, int32_t n, T* r, T alpha) {
         for (int32_t j = 0; j < pairs; ++j)
             radius[j] = -(radius[j] + radius[j]);
         C::Sqrt(pairs, radius);
-        for (int32_t j = 0; j < pairs && written < n; ++j) {
-            T v = q.Trial(radius[j] * sine[j], words[4 * j + 2]);
+        // The squeeze of every trial at once, branch-free: d v when it accepts, -1 when
+        // t is not positive, -2 when the logarithmic test must decide.
+        for (int32_t j = 0; j < pairs; ++j) {
+            normal[2 * j] = radius[j] * sine[j];
+            normal[2 * j + 1] = radius[j] * cosine[j];
+        }
+        for (int32_t i = 0; i < k; ++i)
+            value[i] = q.Squeezed(normal[i], words[4 * (i >> 1) + 2 + (i & 1)]);
+        for (int32_t i = 0; i < k && written < n; ++i) {
+            const T u = words[4 * (i >> 1) + 2 + (i & 1)];
+            T v = value[i] == T(-2) ? q.Trial(normal[i], u) : value[i];
             if (v >= T(0)) r[written++] = v;
-            T xc = radius[j] * cosine[j], uc = words[4 * j + 3];
-            if (written == n) {
-                pending[0] = uc;
-                pending[1] = xc;
-                break;
+            if (written == n && (i & 1) == 0) {
+                pending[0] = words[4 * (i >> 1) + 3];
+                pending[1] = normal[i + 1];
             }
-            v = q.Trial(xc, uc);
-            if (v >= T(0)) r[written++] = v;
         }
     }
     return status;
