@@ -2,7 +2,7 @@
 // MT19937, beside numpy's Generator (PCG64, timed by dist_numpy_timing.py through
 // /usr/bin/python3 in the same run) and GSL's generators on its mt19937. The table at
 // the end gives each entry's time and the ratios peer / ours (above 1 is faster than
-// the peer), with the best of several rounds on both sides.
+// the peer), with the best of several rounds of CPU time on both sides.
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -157,6 +157,7 @@ int main(int argc, char** argv) {
 #endif
     }
     brenn::bench::Recorder recorder;
+    recorder.cpuTime = true;
     benchmark::RunSpecifiedBenchmarks(&recorder);
 
     auto ns = [&](const std::string& name, int32_t n) {
