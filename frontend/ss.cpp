@@ -9,6 +9,7 @@
 
 #include "brenn_ss.h"
 #include "frontend/export.h"
+#include "frontend/ss_task.h"
 #include "platform/threader.h"
 
 namespace {
@@ -18,24 +19,6 @@ constexpr uint64_t kBasic = BRENN_SS_MEAN | BRENN_SS_2R_MOM | BRENN_SS_3R_MOM | 
                             BRENN_SS_SKEWNESS | BRENN_SS_KURTOSIS | BRENN_SS_VARIATION |
                             BRENN_SS_COV | BRENN_SS_COR;
 constexpr uint64_t kMinMax = BRENN_SS_MIN | BRENN_SS_MAX;
-
-// The precision's entries of the statistics service.
-template <class T>
-struct Entries;
-template <>
-struct Entries<double> {
-    static constexpr auto newTask = _qesdSSNewTask;
-    static constexpr auto edit = _qesdSSEditTask;
-    static constexpr auto basic = _qesdSSBasic;
-    static constexpr auto minmax = _qesdSSMinmax;
-};
-template <>
-struct Entries<float> {
-    static constexpr auto newTask = _qessSSNewTask;
-    static constexpr auto edit = _qessSSEditTask;
-    static constexpr auto basic = _qessSSBasic;
-    static constexpr auto minmax = _qessSSMinmax;
-};
 
 // One result array: its estimate bit, editor id, and whether it is p x p.
 struct Field {
@@ -62,20 +45,13 @@ constexpr Field kFields[14] = {
 
 template <class T, class Matrix, class Results>
 int Check(const Matrix* m, uint64_t estimates, const Results* r, T* const* arrays) {
-    if (m == nullptr || r == nullptr) return BRENN_ERR_NULL_POINTER;
-    if (m->p < 1 || m->n < 1) return BRENN_ERR_BAD_SIZE;
-    if (m->layout != BRENN_SS_VARIABLES_IN_ROWS && m->layout != BRENN_SS_OBSERVATIONS_IN_ROWS)
-        return BRENN_ERR_BAD_ARGUMENT;
-    if (m->x == nullptr) return BRENN_ERR_NULL_POINTER;
+    if (r == nullptr) return BRENN_ERR_NULL_POINTER;
+    if (int s = brenn::fe::CheckMatrix(m)) return s;
     if ((estimates & ~(kBasic | kMinMax)) != 0) return BRENN_ERR_NOT_AVAILABLE;
     for (int f = 0; f < 14; ++f)
         if ((estimates & kFields[f].bit) != 0 && arrays[f] == nullptr)
             return BRENN_ERR_NULL_POINTER;
-    if (m->weights != nullptr)
-        for (int64_t i = 0; i < m->n; ++i)
-            if (!(m->weights[i] >= 0 && std::isfinite(m->weights[i])))
-                return BRENN_ERR_BAD_ARGUMENT;
-    return BRENN_OK;
+    return brenn::fe::CheckWeights(m);
 }
 
 template <class T, class Matrix, class Results>
@@ -111,36 +87,31 @@ int Compute(const Matrix* m, uint64_t estimates, const Results* r) {
             at += kFields[f].square ? p * p : p;
         }
     }
-    const int64_t storage = m->layout, full = BRENN_SS_MATRIX_STORAGE_FULL;
+    const int64_t full = BRENN_SS_MATRIX_STORAGE_FULL;
     T accumWeight[2] = {0, 0};
-    void* task = nullptr;
-    int status =
-        Entries<T>::newTask(&task, &m->p, &m->n, &storage, m->x, m->weights, m->indices, 1);
-    if (status != BRENN_SS_OK) {
-        _qesSSDeleteTask(&task);
-        return status;
-    }
+    brenn::fe::SsTask<T> owner(m);
+    void* task = owner.get();
+    int status = owner.status();
     for (int f = 0; f < 14 && status == BRENN_SS_OK; ++f) {
         T* target = (estimates & kFields[f].bit) != 0 ? arrays[f] : columns[f];
-        status = Entries<T>::edit(task, kFields[f].id, target);
+        status = brenn::fe::SsEntries<T>::edit(task, kFields[f].id, target);
         columns[f] = target;
     }
     if (status == BRENN_SS_OK) status = _qesiSSEditTask(task, BRENN_SS_ED_COV_STORAGE, &full);
     if (status == BRENN_SS_OK) status = _qesiSSEditTask(task, BRENN_SS_ED_COR_STORAGE, &full);
     if (status == BRENN_SS_OK)
-        status = Entries<T>::edit(task, BRENN_SS_ED_ACCUM_WEIGHT, accumWeight);
+        status = brenn::fe::SsEntries<T>::edit(task, BRENN_SS_ED_ACCUM_WEIGHT, accumWeight);
     if (status == BRENN_SS_OK && (estimates & kBasic) != 0)
-        status = Entries<T>::basic(task, estimates & kBasic, BRENN_SS_METHOD_ONE_PASS,
-                                   brenn_serv_pool_threader());
+        status = brenn::fe::SsEntries<T>::basic(task, estimates & kBasic, BRENN_SS_METHOD_ONE_PASS,
+                                                brenn_serv_pool_threader());
     if (status == BRENN_SS_OK && (estimates & kMinMax) != 0) {
         // The min/max compute updates its arrays: they start from the infinities.
         for (int64_t j = 0; j < p; ++j) {
             columns[10][j] = std::numeric_limits<T>::infinity();
             columns[11][j] = -std::numeric_limits<T>::infinity();
         }
-        status = Entries<T>::minmax(task, estimates & kMinMax, BRENN_SS_METHOD_FAST);
+        status = brenn::fe::SsEntries<T>::minmax(task, estimates & kMinMax, BRENN_SS_METHOD_FAST);
     }
-    _qesSSDeleteTask(&task);
     return status;
 }
 

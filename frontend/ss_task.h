@@ -1,0 +1,77 @@
+// What every statistics entry of the front-end shares: the statistics service's
+// entries of each precision, the checks of a matrix view, and a task made over the
+// view and ended with its owner.
+#pragma once
+
+#include <cmath>
+
+#include "brenn_ss.h"
+
+namespace brenn::fe {
+
+// The precision's entries of the statistics service.
+template <class T>
+struct SsEntries;
+template <>
+struct SsEntries<double> {
+    static constexpr auto newTask = _qesdSSNewTask;
+    static constexpr auto edit = _qesdSSEditTask;
+    static constexpr auto basic = _qesdSSBasic;
+    static constexpr auto minmax = _qesdSSMinmax;
+    static constexpr auto editQuantiles = __qesdSSEditQuantiles;
+    static constexpr auto quantiles = _qesdSSQuantiles;
+};
+template <>
+struct SsEntries<float> {
+    static constexpr auto newTask = _qessSSNewTask;
+    static constexpr auto edit = _qessSSEditTask;
+    static constexpr auto basic = _qessSSBasic;
+    static constexpr auto minmax = _qessSSMinmax;
+    static constexpr auto editQuantiles = __qessSSEditQuantiles;
+    static constexpr auto quantiles = _qessSSQuantiles;
+};
+
+// A null view, counts below 1, a layout other than the two, no observations.
+template <class Matrix>
+int CheckMatrix(const Matrix* m) {
+    if (m == nullptr) return BRENN_ERR_NULL_POINTER;
+    if (m->p < 1 || m->n < 1) return BRENN_ERR_BAD_SIZE;
+    if (m->layout != BRENN_SS_VARIABLES_IN_ROWS && m->layout != BRENN_SS_OBSERVATIONS_IN_ROWS)
+        return BRENN_ERR_BAD_ARGUMENT;
+    if (m->x == nullptr) return BRENN_ERR_NULL_POINTER;
+    return BRENN_OK;
+}
+
+// A negative or non-finite weight.
+template <class Matrix>
+int CheckWeights(const Matrix* m) {
+    if (m->weights != nullptr)
+        for (int64_t i = 0; i < m->n; ++i)
+            if (!(m->weights[i] >= 0 && std::isfinite(m->weights[i])))
+                return BRENN_ERR_BAD_ARGUMENT;
+    return BRENN_OK;
+}
+
+// A task over a checked view, ended when the owner goes. status() is the making's.
+template <class T>
+class SsTask {
+  public:
+    template <class Matrix>
+    explicit SsTask(const Matrix* m) : storage_(m->layout) {
+        status_ =
+            SsEntries<T>::newTask(&task_, &m->p, &m->n, &storage_, m->x, m->weights, m->indices, 1);
+    }
+    ~SsTask() { _qesSSDeleteTask(&task_); }
+    SsTask(const SsTask&) = delete;
+    SsTask& operator=(const SsTask&) = delete;
+    void* get() const { return task_; }
+    int status() const { return status_; }
+    const int64_t* storage() const { return &storage_; }
+
+  private:
+    void* task_ = nullptr;
+    int64_t storage_;
+    int status_;
+};
+
+} // namespace brenn::fe
