@@ -1106,6 +1106,36 @@ int32_t _qesiRngGeometric(int32_t method, void* stream, int32_t n, int32_t* r, d
  *         kernel rows it needs; QES_ERROR_MEM_FAILURE; a status of the generator. */
 int32_t _qesiRngBinomial(int32_t method, void* stream, int32_t n, int32_t* r, int32_t ntrial,
                          double p);
+/** Hypergeometric variates: the marked elements among s drawn without replacement
+ * from a lot of l elements of which m are marked. Inversion (one uniform a variate)
+ * when the mode of the folded distribution is below 10, H2PE above; the set-up is
+ * kept in chunk 6 of the stream, made anew for new parameters.
+ * @param method 0
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param l lot size, 0 or more
+ * @param s sample size, 0 to l
+ * @param m number of marked elements, 0 to l
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; QES_ERROR_MEM_FAILURE; a status of the generator. */
+int32_t _qesiRngHypergeometric(int32_t method, void* stream, int32_t n, int32_t* r, int32_t l,
+                               int32_t s, int32_t m);
+/** Negative binomial variates: the failures before the a-th success of trials of
+ * probability p. Inversion (one uniform a variate, the table in chunk 4 of the
+ * stream) while the mean a (1 - p) / p is below 10737418.24 and the mode (a - 1) (1 -
+ * p) / p below 100; a rejection method above (for a below 1 at huge means, a sum of
+ * logarithmic counts); a result beyond INT32_MAX is held at INT32_MAX.
+ * @param method 0
+ * @param stream the stream
+ * @param n number of variates
+ * @param r where they go
+ * @param a number of successes, above 0 (need not be whole)
+ * @param p probability of success, in (0, 1]
+ * @return QES_STATUS_OK; QES_STATUS_BAD_METHOD when the library is built without the
+ *         kernel rows it needs; QES_ERROR_MEM_FAILURE; a status of the generator. */
+int32_t _qesiRngNegbinomial(int32_t method, void* stream, int32_t n, int32_t* r, double a,
+                            double p);
 /** Single-precision Gaussian variates a + sigma z.
  * @param method 0 Box-Muller, sine halves; 1 Box-Muller, both halves; 2 inverse CDF
  * @param stream the stream

@@ -36,10 +36,15 @@ constexpr double kLogFactorialTable[kLogFactorialTableSize] = {
     27.899271383840891566,
 };
 
-// The tail of Stirling's series at x, in powers of 1/x^2.
+// The tail of Stirling's series from w = 1/x, in powers of 1/x^2.
+inline double StirlingTailOfInverse(double w) {
+    const double w2 = w * w;
+    return (1.0 / 12 - w2 * (1.0 / 360 - w2 * (1.0 / 1260 - w2 * (1.0 / 1680 - w2 / 1188)))) * w;
+}
+
+// The tail of Stirling's series at x.
 inline double StirlingTail(double x) {
-    const double w = 1.0 / (x * x);
-    return (1.0 / 12 - w * (1.0 / 360 - w * (1.0 / 1260 - w * (1.0 / 1680 - w / 1188)))) / x;
+    return StirlingTailOfInverse(1.0 / x);
 }
 
 // ln k! for an integer k at or above 0, held in a double.
