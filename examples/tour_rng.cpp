@@ -7,8 +7,9 @@
 // two members of the Wichmann-Hill set; then a 5-dimensional integral estimated by
 // Sobol points and by pseudo-random ones; last a PHILOX4X32X10 sequence split by
 // skip-ahead whose first part feeds an abstract stream (made through the kernel
-// library's entries: the front-end has no abstract streams); and Gaussian variates by
-// the three methods of the kernel library's Gaussian entry.
+// library's entries: the front-end has no abstract streams); Gaussian variates by
+// the three methods of the kernel library's Gaussian entry; and Poisson counts by both
+// methods and a Multinomial row.
 #include <cstdio>
 #include <random>
 #include <vector>
@@ -186,4 +187,23 @@ void TourRandom() {
     }
     std::printf("random: the same by both halves, drawn as 1 + 3: %.6f %.6f %.6f %.6f\n", cut[0],
                 cut[1], cut[2], cut[3]);
+
+    // Poisson counts of mean 4.5 by the exact method and by the transforming one (one
+    // uniform a count), and a Multinomial row: 100 trials over five cells, its counts
+    // adding up to 100.
+    if (__qesNewStreamEx(&g, QES_BRNG_MT19937, 1, &seed) == 0) {
+        int32_t exact[6] = {0}, transformed[6] = {0}, row[5] = {0};
+        const double p[5] = {0.4, 0.3, 0.15, 0.1, 0.05};
+        int32_t s0 = _qesiRngPoisson(0, g, 6, exact, 4.5);
+        int32_t s1 = _qesiRngPoisson(1, g, 6, transformed, 4.5);
+        int32_t s2 = _qesiRngMultinomial(0, g, 1, row, 100, 5, p);
+        __qesDeleteStream(&g);
+        std::printf("random: Poisson(4.5), exact (status %d): %d %d %d %d %d %d; transforming "
+                    "(status %d): %d %d %d %d %d %d\n",
+                    s0, exact[0], exact[1], exact[2], exact[3], exact[4], exact[5], s1,
+                    transformed[0], transformed[1], transformed[2], transformed[3], transformed[4],
+                    transformed[5]);
+        std::printf("random: Multinomial(100; .4 .3 .15 .1 .05) row (status %d): %d %d %d %d %d\n",
+                    s2, row[0], row[1], row[2], row[3], row[4]);
+    }
 }
