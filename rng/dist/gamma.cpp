@@ -4,6 +4,8 @@
 // 0.6 Ahrens and Dieter's two-uniform rejection (GS). The squeeze way keeps a trial
 // left over at the end of a call in chunk 7 (double) or 8 (single), so that its
 // variates do not depend on how a request is cut into calls.
+#include <string.h>
+
 #include <cmath>
 
 #include "frame/export.h"
@@ -26,12 +28,29 @@ int32_t Min(int32_t x, int32_t y) {
 template <typename T>
 struct Squeeze {
     T d, c, s;
-    // The first tests alone: d v, -1 for a rejection, -2 when Trial must finish.
-    T Squeezed(T x, T u) const {
-        T t = c * x + T(1);
-        T v = d * (t * t * t), x2 = x * x;
-        T open = t > T(0) ? T(-2) : T(-1);
-        return t > T(0) && u < T(1) - s * x2 * x2 ? v : open;
+    // The first tests of m trials, a register at a time: d v, -1 for a rejection, -2
+    // when Trial must finish.
+    void Squeezed(int32_t m, const T* x, const T* u, T* value) const {
+        typedef T V __attribute__((vector_size(16)));
+        constexpr int32_t kLanes = 16 / sizeof(T);
+        auto one = [&](auto xi, auto ui, auto k1, auto k0) {
+            auto t = c * xi + k1;
+            auto v = d * (t * t * t), x2 = xi * xi;
+            auto open = t > k0 ? k1 * T(-2) : -k1;
+            return (t > k0) & (ui < k1 - s * x2 * x2) ? v : open;
+        };
+        int32_t i = 0;
+        for (; i + kLanes <= m; i += kLanes) {
+            V xi, ui;
+            memcpy(&xi, x + i, sizeof xi);
+            memcpy(&ui, u + i, sizeof ui);
+            V r = one(xi, ui, V{} + T(1), V{});
+            memcpy(value + i, &r, sizeof r);
+        }
+        for (; i < m; ++i) {
+            T t = c * x[i] + T(1), v = d * (t * t * t), x2 = x[i] * x[i];
+            value[i] = t > T(0) && u[i] < T(1) - s * x2 * x2 ? v : t > T(0) ? T(-2) : T(-1);
+        }
     }
     T Trial(T x, T u) const {
         using G = GammaOf<T>;
@@ -68,7 +87,8 @@ int32_t SqueezeWay(void* stream, int32_t n, T* r, T alpha) {
     constexpr int32_t kPairs = kTrials / 2;
     T words[2 * kTrials];
     T radius[kPairs], angle[kPairs], sine[kPairs], cosine[kPairs];
-    T normal[kTrials], value[kTrials]; // trial 2j the sine normal of pair j, 2j + 1 its cosine
+    // Trial 2j is the sine normal of pair j with its test uniform, 2j + 1 the cosine's.
+    T normal[kTrials], test[kTrials], value[kTrials];
     const T twoPi = C::TwoPi();
     while (written < n) {
         int32_t k = Min(n - written, kTrials);
@@ -90,15 +110,15 @@ int32_t SqueezeWay(void* stream, int32_t n, T* r, T alpha) {
         for (int32_t j = 0; j < pairs; ++j) {
             normal[2 * j] = radius[j] * sine[j];
             normal[2 * j + 1] = radius[j] * cosine[j];
+            test[2 * j] = words[4 * j + 2];
+            test[2 * j + 1] = words[4 * j + 3];
         }
-        for (int32_t i = 0; i < k; ++i)
-            value[i] = q.Squeezed(normal[i], words[4 * (i >> 1) + 2 + (i & 1)]);
+        q.Squeezed(k, normal, test, value);
         for (int32_t i = 0; i < k && written < n; ++i) {
-            const T u = words[4 * (i >> 1) + 2 + (i & 1)];
-            T v = value[i] == T(-2) ? q.Trial(normal[i], u) : value[i];
+            T v = value[i] == T(-2) ? q.Trial(normal[i], test[i]) : value[i];
             if (v >= T(0)) r[written++] = v;
             if (written == n && (i & 1) == 0) {
-                pending[0] = words[4 * (i >> 1) + 3];
+                pending[0] = test[i + 1];
                 pending[1] = normal[i + 1];
             }
         }
