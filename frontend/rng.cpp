@@ -10,18 +10,8 @@
 namespace {
 
 using brenn::fe::CheckDraw;
-
-void** Raw(brenn_stream** s) {
-    return reinterpret_cast<void**>(s);
-}
-
-// Statuses a partly made stream leaves: the record is ended here, so the caller
-// holds a stream exactly when the status is not an error.
-int Conclude(brenn_stream** stream, int status) {
-    if (status < 0 && *stream != nullptr) __qesDeleteStream(Raw(stream));
-    if (status < 0) *stream = nullptr;
-    return status;
-}
+using brenn::fe::Conclude;
+using brenn::fe::Raw;
 
 } // namespace
 
