@@ -1,11 +1,12 @@
 // Poisson variates with a lambda for each element, _qesiRngPoissonV: n inverse-CDF
-// Gaussians first (exactly n uniforms, whatever the lambdas), then blocks of 2048
-// elements split by lambda. Below 0.0625 the Gaussian goes back to a uniform through
-// Erf and the count is the first partial sum of lambda^j / j! that reaches E(lambda)
-// u; above, the Cornish-Fisher row of lambda's exponent (rows from 2^-4) or, from
-// 100, range C of the transforming method, each element with its own lambda. The
-// coefficients of a lambda are made once for a run of equal lambdas (and once for
-// all rows by Multinomial).
+// Gaussians first (exactly n uniforms, whatever the lambdas), then the elements a
+// block at a time, split by lambda. Below 0.0625 the Gaussian goes back to a uniform
+// through Erf (one kernel call for the block's small group) and the count is the
+// first partial sum of lambda^j / j! that reaches E(lambda) u; above, the
+// Cornish-Fisher row of lambda's exponent (rows from 2^-4) or, from 100, range C of
+// the transforming method, each element with its own lambda. The coefficients of a
+// lambda are made once for a run of equal lambdas (and once for all rows by
+// Multinomial); the counts do not depend on how the elements are blocked.
 #include <math.h>
 #include <string.h>
 

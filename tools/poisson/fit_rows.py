@@ -17,8 +17,8 @@ by about that much) and, on a grid of z in [-5.5, 5.5], the distance of v outsid
 cell weighted by phi(z) (wrong counts for whole ranges of z, e.g. a quartic turning
 up in a tail). Row 0 (lambda in [1, 2)) is kept as published, and row 6 keeps its
 five published leading entries; the other entries of row 6 and rows -4 to -1 and 1
-to 5 are fitted. Starting point: the Cornish-Fisher expansion of the Poisson quantile
-with the continuity half, v ~ lambda + 1/3 + sqrt(lambda) z + z^2 / 6 + ...
+to 5 are fitted. Starting point: for 32 lambdas of the row, the quartic in z that
+passes nearest the crossings, each of its coefficients then a polynomial in t.
 """
 import sys
 
@@ -83,14 +83,29 @@ def residuals(T, data):
 
 
 def start(e):
-    """The expansion's coefficients, each fitted as its polynomial in t."""
-    ts = np.linspace(0, 1, 64)
-    lam = 2.0 ** e * (1 + ts)
-    s = np.sqrt(lam)
-    c0 = lam + 1.0 / 3
-    c = [s, 1 - 7 / (72 * lam), 1 / (6 * s), 1 / (72 * lam), 0 * s]
-    T = list(np.polyfit(ts, c0 - 1, 2)[::-1])
-    for ci in c:
+    """Each coefficient's polynomial in t fitted to the best quartic of each lambda
+    alone: the weighted least-squares quartic through the crossings (z_k, k + 1), held
+    below 1 far left where 0 is likely, taken as c2 = 1, c1 its slope and c3 to c5
+    its higher terms over the slope."""
+    ts = (np.arange(32) + 0.5) / 32
+    D = []
+    for t in ts:
+        lam = 2.0 ** e * (1 + t)
+        ks = np.arange(0, int(lam + 12 * np.sqrt(lam) + 20))
+        F = poisson.cdf(ks, lam)
+        keep = (F > 1e-8) & (F < 1 - 1e-8)
+        zk, kk = ndtri(F[keep]), ks[keep]
+        w = norm.pdf(zk)
+        A = np.vander(zk, 5, increasing=True) * w[:, None]
+        b = (kk + 1) * w
+        if F[0] > 0.2:
+            A = np.vstack([A, np.vander([-5.0], 5, increasing=True)])
+            b = np.append(b, 0.5)
+        D.append(np.linalg.lstsq(A, b, rcond=None)[0])
+    D = np.array(D)
+    cs = [D[:, 1], np.ones_like(ts), D[:, 2] / D[:, 1], D[:, 3] / D[:, 1], D[:, 4] / D[:, 1]]
+    T = list(np.polyfit(ts, D[:, 0] - 1, 2)[::-1])
+    for ci in cs:
         T += list(np.polyfit(ts, ci, 3)[::-1])
     return np.array(T)
 
