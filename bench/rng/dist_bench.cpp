@@ -3,6 +3,8 @@
 // /usr/bin/python3 in the same run) and GSL's generators on its mt19937. The table at
 // the end gives each entry's time and the ratios peer / ours (above 1 is faster than
 // the peer), with the best of several rounds of CPU time on both sides.
+//   build/default/bench/rng/dist_bench [--benchmark_min_time=0.1]
+// BRENN_BENCH_NUMPY=0 leaves numpy out, --benchmark_filter=dGaussian picks entries.
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
