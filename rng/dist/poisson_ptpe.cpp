@@ -8,13 +8,15 @@
 //
 // Candidates run in batches of up to 1024 pairs of single uniforms. A batch goes
 // through four passes: the logarithms of all the v (single LA Ln, under the entry's
-// sentinel); the region of each candidate, its count y and its height v', deciding
-// the triangle, the rejections and, near the mode or far out, the exact ratio
+// sentinel); the triangle two lanes at a time, then for the rest the region, the
+// count y and the height v', deciding the rejections and, near the mode or far out,
+// the exact ratio
 // f(y) / f(M) by products; for the rest the double HA Ln of v' and Inv of y with the
 // squeeze of BTPE; and for the few that the squeeze leaves, the log ratio by
 // Stirling's series. Accepted counts are written in order; the rest of the last batch
 // is dropped.
 #include <math.h>
+#include <smmintrin.h>
 
 #include "rng/core/stream.h"
 #include "rng/dist/frame.h"
@@ -54,6 +56,30 @@ inline uint8_t ByProducts(int32_t y, double v, double m, double lambda) {
     return v < f ? kAccept : kReject;
 }
 
+// The triangle, whose counts need no test: y = floor(xm - p1 v + u), accepted where
+// u = p4 U is at most p1; every other candidate is marked refused for now.
+void TrianglePass(int32_t m, const float* uv, const decltype(PoissonChunk::ptpe)& s, int32_t* y,
+                  uint8_t* verdict) {
+    const __m128d p4 = _mm_set1_pd(s.p4), p1 = _mm_set1_pd(s.p1), xm = _mm_set1_pd(s.xm);
+    int32_t i = 0;
+    for (; i + 2 <= m; i += 2) {
+        __m128 pair = _mm_loadu_ps(uv + 2 * i); // u0 v0 u1 v1
+        pair = _mm_shuffle_ps(pair, pair, _MM_SHUFFLE(3, 1, 2, 0));
+        const __m128d u = _mm_mul_pd(p4, _mm_cvtps_pd(pair));
+        const __m128d v = _mm_cvtps_pd(_mm_movehl_ps(pair, pair));
+        const __m128d x = _mm_add_pd(_mm_sub_pd(xm, _mm_mul_pd(p1, v)), u);
+        _mm_storel_epi64(reinterpret_cast<__m128i*>(y + i), _mm_cvttpd_epi32(_mm_floor_pd(x)));
+        const int inside = _mm_movemask_pd(_mm_cmple_pd(u, p1));
+        verdict[i] = (inside & 1) ? kAccept : kReject;
+        verdict[i + 1] = (inside & 2) ? kAccept : kReject;
+    }
+    for (; i < m; ++i) {
+        const double u = s.p4 * uv[2 * i], v = uv[2 * i + 1];
+        y[i] = static_cast<int32_t>(floor(s.xm - s.p1 * v + u));
+        verdict[i] = u <= s.p1 ? kAccept : kReject;
+    }
+}
+
 } // namespace
 
 void PoissonPtpeSetUp(double lambda, PoissonChunk* chunk) {
@@ -90,7 +116,7 @@ int32_t PoissonPtpe(void* stream, int32_t n, int32_t* r, const PoissonChunk* chu
     const double lambda = chunk->lambda;
     float uv[2 * kBatch], lnv[kBatch];
     double height[kBatch], inv[kBatch], ratioL[kBatch], ratioM[kBatch];
-    int32_t y[kBatch], pending[kBatch];
+    int32_t y[kBatch], pending[kBatch], outside[kBatch];
     uint8_t verdict[kBatch];
     int32_t status = QES_STATUS_OK;
     for (int32_t done = 0; done < n;) {
@@ -101,16 +127,19 @@ int32_t PoissonPtpe(void* stream, int32_t n, int32_t* r, const PoissonChunk* chu
         for (int32_t i = 0; i < m; ++i)
             lnv[i] = uv[2 * i + 1];
         Bracketed(ZAR_SLOT(sLn, frame::SlotLA), int(m), lnv, lnv);
-        // Pass 2: regions.
-        int32_t waiting = 0;
+        // Pass 2: the triangle for every candidate, two lanes at a time; then the
+        // other regions for the candidates outside it, listed without a branch.
+        TrianglePass(m, uv, s, y, verdict);
+        int32_t others = 0;
         for (int32_t i = 0; i < m; ++i) {
+            outside[others] = i;
+            others += verdict[i] != kAccept;
+        }
+        int32_t waiting = 0;
+        for (int32_t j = 0; j < others; ++j) {
+            const int32_t i = outside[j];
             const double u = s.p4 * uv[2 * i], v = uv[2 * i + 1];
             double x, h;
-            if (u <= s.p1) { // the triangle: no test
-                y[i] = static_cast<int32_t>(floor(s.xm - s.p1 * v + u));
-                verdict[i] = kAccept;
-                continue;
-            }
             if (u <= s.p2) { // the parallelogram
                 x = s.xl + (u - s.p1) * s.inverseC;
                 h = v * s.c + 1.0 - fabs(x - s.xm) / s.p1;
@@ -184,8 +213,11 @@ int32_t PoissonPtpe(void* stream, int32_t n, int32_t* r, const PoissonChunk* chu
                              StirlingTail(static_cast<float>(inv[j]));
             verdict[i] = height[j] <= g ? kAccept : kReject;
         }
-        for (int32_t i = 0; i < m && done < n; ++i)
-            if (verdict[i] == kAccept) r[done++] = y[i];
+        // In order of the batch, without a branch: a refused count is overwritten.
+        for (int32_t i = 0; i < m && done < n; ++i) {
+            r[done] = y[i];
+            done += verdict[i] == kAccept;
+        }
     }
     return status;
 }
