@@ -35,10 +35,16 @@ struct InversionSetup {
 };
 
 // BTPE's set-up: its constants in single, as published, except the location terms,
-// kept in double so that every count stays reachable beyond 2^24 trials.
+// kept in double so that every count stays reachable beyond 2^24 trials, and the
+// ratios f(m + j) / f(m) for |j| up to 20, which the test near the mode reads instead
+// of forming their products for each candidate.
+constexpr int32_t kNear = 20;
+
 struct BtpeSetup {
     double n, m, xm, xl, xr;
     float npq, p1, p2, p3, p4, c, laml, lamr, r, q, s, a;
+    double invC, invLaml, invLamr, invP1; // reciprocals, so that candidates divide by nothing
+    double near[2 * kNear + 1];
 };
 
 struct BinomialChunk {
@@ -114,6 +120,18 @@ void SetUpBtpe(int32_t ntrial, double r, BtpeSetup* b) {
     b->p4 = b->p3 + b->c / b->lamr;
     b->s = static_cast<float>(r / q);
     b->a = static_cast<float>((n + 1.0) * (r / q));
+    b->invC = 1.0 / b->c;
+    b->invLaml = 1.0 / b->laml;
+    b->invLamr = 1.0 / b->lamr;
+    b->invP1 = 1.0 / b->p1;
+    // The products of the ratios a / i - s outward from the mode; 0 off the support.
+    double* at = b->near + kNear;
+    at[0] = 1.0;
+    for (int32_t j = 1; j <= kNear; ++j) {
+        const double up = b->m + j, down = b->m - j + 1.0;
+        at[j] = up <= n ? at[j - 1] * (b->a / up - b->s) : 0.0;
+        at[-j] = down >= 1.0 ? at[1 - j] / (b->a / down - b->s) : 0.0;
+    }
 }
 
 // BTPE: a triangle at the mode, parallelograms beside it and exponential tails.
@@ -128,16 +146,16 @@ struct Btpe {
         }
         double x, t;
         if (u <= b.p2) {
-            const double at = b.xl + (u - b.p1) / b.c;
-            t = v * b.c + 1.0 - fabs(b.xm - at) / b.p1;
+            const double at = b.xl + (u - b.p1) * b.invC;
+            t = v * b.c + 1.0 - fabs(b.xm - at) * b.invP1;
             if (t > 1.0 || t <= 0.0) return Reject;
             x = floor(at);
         } else if (u <= b.p3) {
-            x = floor(b.xl + lnv / b.laml);
+            x = floor(b.xl + lnv * b.invLaml);
             if (x < 0.0) return Reject;
             t = v * (u - b.p2) * b.laml;
         } else {
-            x = floor(b.xr - lnv / b.lamr);
+            x = floor(b.xr - lnv * b.invLamr);
             if (x > b.n) return Reject;
             t = v * (u - b.p3) * b.lamr;
         }
@@ -147,7 +165,8 @@ struct Btpe {
             *w = static_cast<float>(t);
             return Undecided;
         }
-        // Near the mode the ratio f(x) / f(m) by its recurrence.
+        // Near the mode the ratio f(x) / f(m) from the table, far out by its recurrence.
+        if (k <= kNear) return t <= b.near[kNear + static_cast<int32_t>(x - b.m)] ? Accept : Reject;
         double f = 1.0;
         if (b.m < x) {
             for (double i = b.m + 1.0; i <= x; ++i)
