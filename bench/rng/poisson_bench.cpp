@@ -41,17 +41,15 @@ const Entry kEntries[] = {
     {"Multinomial_100_10", 0, 0.0, "numpy_multinomial_100_10", "gsl_multinomial_100_10"},
 };
 
-struct Brng {
-    const char* name;
-    int32_t id;
-};
-constexpr Brng kBrngs[] = {{"MCG59", QES_BRNG_MCG59}, {"MT19937", QES_BRNG_MT19937}};
+// The generators each entry runs on, by name and id.
+const char* const kBrngNames[2] = {"MCG59", "MT19937"};
+constexpr int32_t kBrngIds[2] = {QES_BRNG_MCG59, QES_BRNG_MT19937};
 
 void Ours(benchmark::State& state, const Entry* e, int32_t brng) {
+    const uint32_t seed = 1;
     void* stream = nullptr;
-    uint32_t seed = 1;
-    __qesNewStreamEx(&stream, brng, 1, &seed);
     std::vector<int32_t> r(kVariates);
+    __qesNewStreamEx(&stream, brng, 1, &seed);
     std::vector<double> lambdas(e->lambda < 0 ? kVariates : 0, -e->lambda);
     for (auto _ : state) {
         int32_t status;
@@ -102,9 +100,9 @@ int main(int argc, char** argv) {
     brenn::bench::RegisterPeerTimes(BRENN_POISSON_NUMPY_TIMING);
     brenn::bench::RegisterPeerTimes(BRENN_POISSON_NUMPY_TIMING);
     for (const Entry& e : kEntries)
-        for (const Brng& b : kBrngs)
-            benchmark::RegisterBenchmark((e.name + std::string("_") + b.name).c_str(), Ours, &e,
-                                         b.id)
+        for (int b = 0; b < 2; ++b)
+            benchmark::RegisterBenchmark((e.name + std::string("_") + kBrngNames[b]).c_str(), Ours,
+                                         &e, kBrngIds[b])
                 ->Repetitions(3)
                 ->Unit(benchmark::kMillisecond);
 #ifdef BRENN_BENCH_GSL
@@ -122,13 +120,13 @@ int main(int argc, char** argv) {
     std::printf("\n%-20s %-8s %10s %10s %10s %9s %9s   (ns a variate; Multinomial a row)\n",
                 "entry", "brng", "ns", "numpy", "GSL", "numpy/us", "GSL/us");
     for (const Entry& e : kEntries)
-        for (const Brng& b : kBrngs) {
+        for (int b = 0; b < 2; ++b) {
             const double per = e.lambda == 0 ? kRows : kVariates;
-            double t = ns(e.name + std::string("_") + b.name, per);
+            double t = ns(e.name + std::string("_") + kBrngNames[b], per);
             double np = ns(e.numpy, per), gsl = e.gsl ? ns(e.gsl, per) : 0.0;
             if (t == 0) continue;
-            std::printf("%-20s %-8s %10.2f %10.2f %10.2f %9.2f %9.2f\n", e.name, b.name, t, np, gsl,
-                        np / t, gsl / t);
+            std::printf("%-20s %-8s %10.2f %10.2f %10.2f %9.2f %9.2f\n", e.name, kBrngNames[b], t,
+                        np, gsl, np / t, gsl / t);
         }
     benchmark::Shutdown();
     return 0;
