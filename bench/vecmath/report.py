@@ -100,7 +100,8 @@ def main():
         w("")
 
     w("## Rows\n")
-    peer_cols = ["sleef_u05", "sleef_u10", "sleef_u15", "sleef_exact", "sleef_u35", "libmvec", "libm", "c_loop"]
+    peer_cols = ["sleef_u05", "sleef_u10", "sleef_u15", "sleef_exact", "sleef_u35", "libmvec", "libm", "c_loop",
+                 "as241", "acklam"]
     used = [p for p in peer_cols if any(k[0] == p for r in rows.values() for k in r)]
     w("| Row | n | LA | HA | EP | cost LA / HA / EP |" + "".join(" %s |" % p for p in used))
     w("|---|---|---|---|---|---|" + "---|" * len(used))
@@ -147,6 +148,15 @@ def main():
             verdict = "at or below" if mine[0] <= best[1] else "**above**"
             checks.append("%s %s: %.2f, %s the fastest peer of its accuracy (%s %.2f)" %
                           (row, s, mine[0], verdict, best[0], best[1]))
+    # the inverse normal beside a scalar loop of AS 241 (the best published one): 3x its speed
+    for row in ("sCdfNormInv", "dCdfNormInv"):
+        peer = rows.get(row, {}).get(("as241", 1000))
+        for s in SLOTS:
+            mine = rows.get(row, {}).get((s, 1000))
+            if mine and peer:
+                ratio = peer[0] / mine[0]
+                checks.append("%s %s: %.2f, %.1fx the AS 241 loop (%.2f), %s" %
+                              (row, s, mine[0], ratio, peer[0], "at least 3x" if ratio >= 3 else "**under 3x**"))
     w("## Checks\n")
     for c in checks:
         w("- " + c)

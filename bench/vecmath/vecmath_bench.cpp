@@ -18,6 +18,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include "bench/vecmath/normal_inverse_peers.h"
 #include "frame/dispatch.h"
 #include "tools/accuracy/rowtable.h"
 
@@ -417,6 +418,15 @@ void RegisterPeers(const Row& r, const RowFacts& f, long n, const Libs& libs) {
     if (complex && (f.ref == brenn::tools::Ref::CMul || f.ref == brenn::tools::Ref::CDiv))
         add("c_loop", f.ref == brenn::tools::Ref::CMul ? Kind::LoopCMul : Kind::LoopCDiv,
             reinterpret_cast<void*>(1)); // the compiled complex operation is the peer
+    if (f.ref == brenn::tools::Ref::CdfNormInv) {
+        // no library has it: scalar loops of the published rational forms
+        using namespace brenn::bench;
+        add("as241", Kind::ScalarUnary,
+            single ? reinterpret_cast<void*>(&Ppnd7) : reinterpret_cast<void*>(&Ppnd16));
+        add("acklam", Kind::ScalarUnary,
+            single ? reinterpret_cast<void*>(&Acklam<float>)
+                   : reinterpret_cast<void*>(&Acklam<double>));
+    }
     if (f.sleef && !complex) {
         // SLEEF: HA's match is the best of u05/u10/u15 (or the exact form); LA and EP's
         // is u35 where it exists

@@ -85,19 +85,6 @@ int32_t Invert(const InversionSetup& t, int32_t ntrial, double u) {
     return ntrial;
 }
 
-int32_t Inversion(const InversionSetup& t, int32_t ntrial, void* stream, int32_t n, int32_t* r) {
-    double u[kBlock];
-    int32_t status = QES_STATUS_OK;
-    for (int32_t done = 0; done < n; done += kBlock) {
-        const int32_t block = n - done < kBlock ? n - done : kBlock;
-        status = _qesdRngUniform(0, stream, block, u, 0.0, 1.0);
-        if (status < 0) return status;
-        for (int32_t i = 0; i < block; ++i)
-            r[done + i] = Invert(t, ntrial, u[i]);
-    }
-    return status;
-}
-
 void SetUpBtpe(int32_t ntrial, double r, BtpeSetup* b) {
     const double q = 1.0 - r, n = ntrial;
     const double fm = n * r + r;
@@ -227,7 +214,8 @@ BRENN_EXPORT int32_t _qesiRngBinomial(int32_t method, void* stream, int32_t n, i
             if (fresh) SetUpInversion(ntrial, q, &chunk->inversion);
             chunk->ntrial = ntrial;
             chunk->p = p;
-            status = Inversion(chunk->inversion, ntrial, stream, n, r);
+            status = InvertUniformBlocks<kBlock>(
+                stream, n, r, [&](double u) { return Invert(chunk->inversion, ntrial, u); });
         } else {
             if (fresh) SetUpBtpe(ntrial, q, &chunk->btpe);
             chunk->ntrial = ntrial;

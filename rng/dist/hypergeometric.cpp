@@ -104,19 +104,6 @@ int32_t Invert(const HypergeometricChunk& h, double u) {
     return top;
 }
 
-int32_t Inversion(const HypergeometricChunk& h, void* stream, int32_t n, int32_t* r) {
-    double u[kBlock];
-    int32_t status = QES_STATUS_OK;
-    for (int32_t done = 0; done < n; done += kBlock) {
-        const int32_t block = n - done < kBlock ? n - done : kBlock;
-        status = _qesdRngUniform(0, stream, block, u, 0.0, 1.0);
-        if (status < 0) return status;
-        for (int32_t i = 0; i < block; ++i)
-            r[done + i] = Invert(h, u[i]);
-    }
-    return status;
-}
-
 void SetUpH2pe(HypergeometricChunk* h, double mode) {
     H2peSetup& s = h->h2pe;
     const double n1 = h->n1, n2 = h->n2, k = h->k, lot = n1 + n2, nk = n2 - k;
@@ -258,8 +245,9 @@ BRENN_EXPORT int32_t _qesiRngHypergeometric(int32_t method, void* stream, int32_
     int32_t status = QES_STATUS_OK;
     const HypergeometricChunk* h = ChunkFor(stream, l, s, m, &status);
     if (h != nullptr) {
-        status =
-            h->way == 0 ? Inversion(*h, stream, n, r) : RunRejectionBatches(H2pe{*h}, stream, n, r);
+        status = h->way == 0 ? InvertUniformBlocks<kBlock>(stream, n, r,
+                                                           [&](double u) { return Invert(*h, u); })
+                             : RunRejectionBatches(H2pe{*h}, stream, n, r);
         if (status >= 0 && (h->sign != 1 || h->offset != 0))
             for (int32_t i = 0; i < n; ++i)
                 r[i] = h->offset + h->sign * r[i];

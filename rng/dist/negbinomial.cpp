@@ -82,20 +82,6 @@ int32_t Invert(const InversionSetup& t, double a, double q, double u) {
     return k;
 }
 
-int32_t Inversion(const InversionSetup& t, double a, double p, void* stream, int32_t n,
-                  int32_t* r) {
-    double u[kBlock];
-    int32_t status = QES_STATUS_OK;
-    for (int32_t done = 0; done < n; done += kBlock) {
-        const int32_t block = n - done < kBlock ? n - done : kBlock;
-        status = _qesdRngUniform(0, stream, block, u, 0.0, 1.0);
-        if (status < 0) return status;
-        for (int32_t i = 0; i < block; ++i)
-            r[done + i] = Invert(t, a, 1.0 - p, u[i]);
-    }
-    return status;
-}
-
 // ln f(k) up to a constant: ln Gamma(a + k) - ln k! + k ln(1 - p).
 double LogCount(const RatioSetup& s, double k) {
     return LogGamma(s.a + k) - LogGamma(k + 1.0) + k * s.lnq;
@@ -252,7 +238,8 @@ BRENN_EXPORT int32_t _qesiRngNegbinomial(int32_t method, void* stream, int32_t n
         else if (mode >= kLargeMode)
             status = LargeMode(chunk->ratio, stream, n, r);
         else
-            status = Inversion(chunk->inversion, a, p, stream, n, r);
+            status = InvertUniformBlocks<kBlock>(
+                stream, n, r, [&](double u) { return Invert(chunk->inversion, a, 1.0 - p, u); });
     }
     ErrorModeLeave(errors);
     GuardLeave(guard);

@@ -1,11 +1,13 @@
 /* The search of the discrete inversion methods: a table of cumulative probabilities
  * searched from a start index near the mode, down or up, so that a variate costs a
  * few comparisons; a uniform beyond the table's last value is left to the caller's
- * recurrence. */
+ * recurrence. And the loop that feeds an inversion its uniforms, a block at a time. */
 #ifndef BRENN_RNG_DIST_TABLE_INVERSION_H
 #define BRENN_RNG_DIST_TABLE_INVERSION_H
 
 #include <stdint.h>
+
+#include "brenn_rng.h"
 
 namespace brenn::rng {
 
@@ -36,6 +38,22 @@ inline void CumulativeFromTop(int32_t count, const double* f, double* cdf) {
         cdf[k] = total - above;
         above += f[k];
     }
+}
+
+// n variates by inversion, one double uniform on [0, 1) each, fetched in blocks of
+// `Block`: r[i] = invert(u). A failing fetch ends the work with its status.
+template <int32_t Block, typename Invert>
+int32_t InvertUniformBlocks(void* stream, int32_t n, int32_t* r, Invert invert) {
+    double u[Block];
+    int32_t status = QES_STATUS_OK;
+    for (int32_t done = 0; done < n; done += Block) {
+        const int32_t block = n - done < Block ? n - done : Block;
+        status = _qesdRngUniform(0, stream, block, u, 0.0, 1.0);
+        if (status < 0) return status;
+        for (int32_t i = 0; i < block; ++i)
+            r[done + i] = invert(u[i]);
+    }
+    return status;
 }
 
 } // namespace brenn::rng

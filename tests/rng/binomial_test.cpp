@@ -10,7 +10,6 @@
 
 #include "brenn_rng.h"
 #include "frame/dispatch.h"
-#include "platform/serv.h"
 #include "tests/rng/discrete_harness.h"
 #include "tests/rng/toy_brng.h"
 
@@ -25,14 +24,12 @@ std::vector<int32_t> InversionWrittenOut(int32_t ntrial, double p, const std::ve
     const bool flip = p >= 0.5;
     const double q = flip ? 1 - p : p, s = q / (1 - q), a = (ntrial + 1.0) * s;
     const int32_t m = std::max(0, static_cast<int32_t>(std::trunc(ntrial * q))), top = m + 32;
-    std::vector<double> f(top), cdf(top);
+    std::vector<double> f(top);
     f[0] = 1 - q;
     ZAR_SLOT(dPowx, brenn::frame::SlotHA)(1, &f[0], ntrial, &f[0]);
-    double total = 0, above = 0;
-    for (int32_t k = 0; k < top; total += f[k], ++k)
-        if (k > 0) f[k] = f[k - 1] * (a / k - s);
-    for (int32_t k = top - 1; k >= 0; above += f[k--])
-        cdf[k] = total - above;
+    for (int32_t k = 1; k < top; ++k)
+        f[k] = f[k - 1] * (a / k - s);
+    const std::vector<double> cdf = CumulativeFromTop(f);
     std::vector<int32_t> x;
     for (double v : u) {
         int32_t k = 0;
@@ -50,12 +47,6 @@ std::vector<int32_t> InversionWrittenOut(int32_t ntrial, double p, const std::ve
         x.push_back(flip ? ntrial - k : k);
     }
     return x;
-}
-
-std::vector<double> Uniforms(void* s, int32_t n) {
-    std::vector<double> u(n);
-    EXPECT_EQ(_qesdRngUniform(0, s, n, u.data(), 0.0, 1.0), 0);
-    return u;
 }
 
 struct Case {
@@ -76,7 +67,7 @@ TEST(RngBinomial, InversionIsTheTableSearchOfEachUniform) {
             void* t = CopyOf(s);
             std::vector<int32_t> r(n);
             ASSERT_EQ(_qesiRngBinomial(0, s, n, r.data(), c.ntrial, c.p), 0);
-            EXPECT_EQ(r, InversionWrittenOut(c.ntrial, c.p, Uniforms(t, n)))
+            EXPECT_EQ(r, InversionWrittenOut(c.ntrial, c.p, DoubleUniforms(t, n)))
                 << c.ntrial << " " << c.p << " n " << n;
             ExpectInStepAndDelete(s, t); // one uniform a variate
         }
@@ -199,29 +190,12 @@ TEST(RngBinomial, MomentsOnEitherSideOfTheSwitch) {
 }
 
 TEST(RngBinomial, FailuresComeBackWithTheFrameUndone) {
-    CallerSettings caller;
-    caller.Install();
-    std::vector<int32_t> r(3000);
-    for (const Case& c : {Case{100, 0.2}, Case{1000, 0.6}}) {
-        void* s = NewStepStream(1500);
-        EXPECT_EQ(_qesiRngBinomial(0, s, 3000, r.data(), c.ntrial, c.p),
-                  QES_RNG_STATUS_RDRAND_FAILED);
-        caller.ExpectBack("generator failure");
-        __qesDeleteStream(&s);
-        s = NewSeeded(QES_BRNG_MT19937, 1);
-        void* t = CopyOf(s);
-        brenn_serv_fail_allocation(1);
-        EXPECT_EQ(_qesiRngBinomial(0, s, 3000, r.data(), c.ntrial, c.p), QES_ERROR_MEM_FAILURE);
-        brenn_serv_fail_allocation(0);
-        caller.ExpectBack("allocation failure");
-        EXPECT_EQ(__qesGetNumChunks(s), 0);
-        ExpectInStepAndDelete(s, t); // nothing drawn
-        s = NewSeeded(QES_BRNG_MT19937, 1);
-        EXPECT_EQ(_qesiRngBinomial(0, s, 3000, r.data(), c.ntrial, c.p), 0);
-        caller.ExpectBack("success");
-        __qesDeleteStream(&s);
-    }
-    caller.Reset();
+    for (const Case& c : {Case{100, 0.2}, Case{1000, 0.6}})
+        ExpectFailuresUndoTheFrame(
+            [&](void* s, int32_t n, int32_t* r) {
+                return _qesiRngBinomial(0, s, n, r, c.ntrial, c.p);
+            },
+            3000, 1500);
 }
 
 } // namespace

@@ -5,6 +5,8 @@
 #include <cmath>
 
 #include "frame/fpenv.h"
+#include "platform/serv.h"
+#include "tests/rng/toy_brng.h"
 
 namespace brenn::test {
 
@@ -90,6 +92,41 @@ void ExpectMoments(const std::vector<int32_t>& x, double mean, double variance, 
     EXPECT_NEAR(m.mean, mean, sigmas * std::sqrt(variance / n) + 1e-12) << what;
     EXPECT_NEAR(m.variance, variance, sigmas * std::sqrt((m4 - variance * variance) / n) + 1e-12)
         << what;
+}
+
+std::vector<double> DoubleUniforms(void* stream, int32_t n) {
+    std::vector<double> u(n);
+    EXPECT_EQ(_qesdRngUniform(0, stream, n, u.data(), 0.0, 1.0), 0);
+    return u;
+}
+
+std::vector<double> CumulativeFromTop(const std::vector<double>& f) {
+    double total = 0, above = 0;
+    for (double v : f)
+        total += v;
+    std::vector<double> cdf(f.size());
+    for (size_t k = f.size(); k-- > 0; above += f[k])
+        cdf[k] = total - above;
+    return cdf;
+}
+
+void ExpectFailuresUndoTheFrame(const DiscreteCall& call, int32_t n, uint32_t limit) {
+    CallerSettings caller;
+    caller.Install();
+    std::vector<int32_t> r(n);
+    void* s = NewStepStream(limit);
+    EXPECT_EQ(call(s, n, r.data()), QES_RNG_STATUS_RDRAND_FAILED);
+    caller.ExpectBack("generator failure");
+    __qesDeleteStream(&s);
+    s = NewSeeded(QES_BRNG_MT19937, 1);
+    void* t = CopyOf(s);
+    brenn_serv_fail_allocation(1);
+    EXPECT_EQ(call(s, n, r.data()), QES_ERROR_MEM_FAILURE);
+    brenn_serv_fail_allocation(0);
+    caller.ExpectBack("allocation failure");
+    EXPECT_EQ(__qesGetNumChunks(s), 0);
+    ExpectInStepAndDelete(s, t); // nothing drawn
+    caller.Reset();
 }
 
 } // namespace brenn::test

@@ -6,6 +6,7 @@
 
 #include <stdint.h>
 
+#include <functional>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -45,6 +46,19 @@ Moments MomentsOf(const std::vector<int32_t>& x);
 // error from the sample's fourth central moment).
 void ExpectMoments(const std::vector<int32_t>& x, double mean, double variance, double sigmas,
                    const char* what);
+
+// n double uniforms on [0, 1) from a stream.
+std::vector<double> DoubleUniforms(void* stream, int32_t n);
+
+// Cumulative values of the probabilities f as the inversions form them: each the total
+// less the sum above it.
+std::vector<double> CumulativeFromTop(const std::vector<double>& f);
+
+// A call that must fail with the frame undone: with the stepping generator failing
+// past `limit` words (its status comes back), and with the chunk's allocation
+// failing (-4, no chunk, nothing drawn); the caller's settings back after each.
+using DiscreteCall = std::function<int32_t(void* stream, int32_t n, int32_t* r)>;
+void ExpectFailuresUndoTheFrame(const DiscreteCall& call, int32_t n, uint32_t limit);
 
 } // namespace brenn::test
 

@@ -11,7 +11,6 @@
 #include <gtest/gtest.h>
 
 #include "brenn_rng.h"
-#include "platform/serv.h"
 #include "tests/rng/discrete_harness.h"
 #include "tests/rng/toy_brng.h"
 
@@ -42,14 +41,10 @@ std::vector<int32_t> InversionWrittenOut(const Case& c, const std::vector<double
         f0 *= (double(c.l) - std::max(n1, k) - i) / (double(c.l) - i);
     auto ratio = [&](double x) { return (n1 - x) * (k - x) / ((x + 1) * (n2 - k + x + 1)); };
     const int32_t count = std::min(top + 1, 66);
-    std::vector<double> f(count, f0), cdf(count);
+    std::vector<double> f(count, f0);
     for (int32_t x = 1; x < count; ++x)
         f[x] = f[x - 1] * ratio(x - 1);
-    double total = 0, above = 0;
-    for (double v : f)
-        total += v;
-    for (int32_t x = count - 1; x >= 0; above += f[x--])
-        cdf[x] = total - above;
+    const std::vector<double> cdf = CumulativeFromTop(f);
     std::vector<int32_t> out;
     for (double v : u) {
         int32_t x = 0;
@@ -69,12 +64,6 @@ std::vector<int32_t> InversionWrittenOut(const Case& c, const std::vector<double
         out.push_back(sampleFolded ? c.m - y : y);
     }
     return out;
-}
-
-std::vector<double> Uniforms(void* s, int32_t n) {
-    std::vector<double> u(n);
-    EXPECT_EQ(_qesdRngUniform(0, s, n, u.data(), 0.0, 1.0), 0);
-    return u;
 }
 
 // Modes below 10 after the fold, every fold, degenerate samples and marked counts,
@@ -101,7 +90,7 @@ TEST(RngHypergeometric, InversionIsTheFoldedTableSearchOfEachUniform) {
             void* t = CopyOf(s);
             std::vector<int32_t> r(n);
             ASSERT_EQ(_qesiRngHypergeometric(0, s, n, r.data(), c.l, c.s, c.m), 0);
-            EXPECT_EQ(r, InversionWrittenOut(c, Uniforms(t, n))) << Name(c) << " n " << n;
+            EXPECT_EQ(r, InversionWrittenOut(c, DoubleUniforms(t, n))) << Name(c) << " n " << n;
             ExpectInStepAndDelete(s, t); // one uniform a variate
         }
     }
@@ -182,26 +171,12 @@ TEST(RngHypergeometric, MomentsOnEveryFold) {
 }
 
 TEST(RngHypergeometric, FailuresComeBackWithTheFrameUndone) {
-    CallerSettings caller;
-    caller.Install();
-    std::vector<int32_t> r(3000);
-    for (const Case& c : {Case{100, 80, 30}, Case{1000, 400, 450}}) {
-        void* s = NewStepStream(1500);
-        EXPECT_EQ(_qesiRngHypergeometric(0, s, 3000, r.data(), c.l, c.s, c.m),
-                  QES_RNG_STATUS_RDRAND_FAILED);
-        caller.ExpectBack("generator failure");
-        __qesDeleteStream(&s);
-        s = NewSeeded(QES_BRNG_MT19937, 1);
-        void* t = CopyOf(s);
-        brenn_serv_fail_allocation(1);
-        EXPECT_EQ(_qesiRngHypergeometric(0, s, 3000, r.data(), c.l, c.s, c.m),
-                  QES_ERROR_MEM_FAILURE);
-        brenn_serv_fail_allocation(0);
-        caller.ExpectBack("allocation failure");
-        EXPECT_EQ(__qesGetNumChunks(s), 0);
-        ExpectInStepAndDelete(s, t);
-    }
-    caller.Reset();
+    for (const Case& c : {Case{100, 80, 30}, Case{1000, 400, 450}})
+        ExpectFailuresUndoTheFrame(
+            [&](void* s, int32_t n, int32_t* r) {
+                return _qesiRngHypergeometric(0, s, n, r, c.l, c.s, c.m);
+            },
+            3000, 1500);
 }
 
 } // namespace

@@ -12,7 +12,6 @@
 
 #include "brenn_rng.h"
 #include "frame/dispatch.h"
-#include "platform/serv.h"
 #include "tests/rng/discrete_harness.h"
 #include "tests/rng/toy_brng.h"
 
@@ -35,16 +34,12 @@ std::string Name(const Case& c) {
 std::vector<int32_t> InversionWrittenOut(const Case& c, const std::vector<double>& u) {
     const double q = 1 - c.p, mode = (c.a - 1) * q / c.p;
     const int32_t count = (mode > 0 ? static_cast<int32_t>(mode) : 0) + 61;
-    std::vector<double> f(count), cdf(count);
+    std::vector<double> f(count);
     f[0] = c.p;
     ZAR_SLOT(dPowx, brenn::frame::SlotHA)(1, &f[0], c.a, &f[0]);
     for (int32_t k = 1; k < count; ++k)
         f[k] = f[k - 1] * q * (c.a + k - 1) / k;
-    double total = 0, above = 0;
-    for (double v : f)
-        total += v;
-    for (int32_t k = count - 1; k >= 0; above += f[k--])
-        cdf[k] = total - above;
+    const std::vector<double> cdf = CumulativeFromTop(f);
     std::vector<int32_t> out;
     for (double v : u) {
         int32_t k = 0;
@@ -60,12 +55,6 @@ std::vector<int32_t> InversionWrittenOut(const Case& c, const std::vector<double
     return out;
 }
 
-std::vector<double> Uniforms(void* s, int32_t n) {
-    std::vector<double> u(n);
-    EXPECT_EQ(_qesdRngUniform(0, s, n, u.data(), 0.0, 1.0), 0);
-    return u;
-}
-
 // Below both thresholds: a below 1, a just above 1 with the mode at 0, the mode just
 // below 100, long tails past the table, a huge a, p = 1.
 const Case kInversionCases[] = {{5, 0.3},    {0.5, 0.01}, {1.0, 0.0101},
@@ -79,7 +68,7 @@ TEST(RngNegbinomial, InversionIsTheTableSearchOfEachUniform) {
             void* t = CopyOf(s);
             std::vector<int32_t> r(n);
             ASSERT_EQ(_qesiRngNegbinomial(0, s, n, r.data(), c.a, c.p), 0);
-            EXPECT_EQ(r, InversionWrittenOut(c, Uniforms(t, n))) << Name(c) << " n " << n;
+            EXPECT_EQ(r, InversionWrittenOut(c, DoubleUniforms(t, n))) << Name(c) << " n " << n;
             ExpectInStepAndDelete(s, t); // one uniform a variate
         }
     }
@@ -138,25 +127,12 @@ TEST(RngNegbinomial, EachWayOnEitherSideOfItsThreshold) {
 }
 
 TEST(RngNegbinomial, FailuresComeBackWithTheFrameUndone) {
-    CallerSettings caller;
-    caller.Install();
-    std::vector<int32_t> r(5000);
-    for (const Case& c : {Case{5, 0.3}, Case{60, 0.37}, Case{0.5, 1e-8}}) {
-        void* s = NewStepStream(3000);
-        EXPECT_EQ(_qesiRngNegbinomial(0, s, 5000, r.data(), c.a, c.p),
-                  QES_RNG_STATUS_RDRAND_FAILED);
-        caller.ExpectBack("generator failure");
-        __qesDeleteStream(&s);
-        s = NewSeeded(QES_BRNG_MT19937, 1);
-        void* t = CopyOf(s);
-        brenn_serv_fail_allocation(1);
-        EXPECT_EQ(_qesiRngNegbinomial(0, s, 5000, r.data(), c.a, c.p), QES_ERROR_MEM_FAILURE);
-        brenn_serv_fail_allocation(0);
-        caller.ExpectBack("allocation failure");
-        EXPECT_EQ(__qesGetNumChunks(s), 0);
-        ExpectInStepAndDelete(s, t);
-    }
-    caller.Reset();
+    for (const Case& c : {Case{5, 0.3}, Case{60, 0.37}, Case{0.5, 1e-8}})
+        ExpectFailuresUndoTheFrame(
+            [&](void* s, int32_t n, int32_t* r) {
+                return _qesiRngNegbinomial(0, s, n, r, c.a, c.p);
+            },
+            5000, 3000);
 }
 
 } // namespace

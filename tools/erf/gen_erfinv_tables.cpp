@@ -1,5 +1,6 @@
-// Generates the tables of the inverse error function from MPFR at 256 bits:
+// Generates the tables of the inverse error functions from MPFR at 256 bits:
 //   gen_erfinv_tables OUT         vecmath/erf/erfinv_tables.cpp
+//   gen_erfinv_tables tail OUT    vecmath/erf/erfcinv_tail.h (below t = 2^-53)
 //   gen_erfinv_tables check       the largest relative error of each table's fit
 // The argument is t = 1 - |x|, from 2^-53 (the largest double below 1) to 1. Row i
 // covers one sixteenth of a binade of t, [lo, lo + 2^e/16) with lo = 2^e*(1 + k/16),
@@ -75,10 +76,12 @@ Interval Row(int i) {
     return {lo, width, lo + width / 2};
 }
 
-// The interpolant of degree n at the Chebyshev nodes, as coefficients of v^k (256 bits).
-void Fit(int i, int n, mpfr_t* coef) {
-    Interval r = Row(i);
-    mpfr_t v[16], f[16], t, w;
+using Function = void (*)(mpfr_t out, mpfr_t arg);
+
+// The interpolant of f of degree n at the Chebyshev nodes of the interval r, as
+// coefficients of v^k, v = arg - r.c (256 bits).
+void Fit(const Interval& r, Function fn, int n, mpfr_t* coef) {
+    mpfr_t v[24], f[24], t, w;
     mpfr_inits2(kPrec, t, w, (mpfr_ptr)0);
     for (int k = 0; k <= n; ++k) {
         mpfr_inits2(kPrec, v[k], f[k], (mpfr_ptr)0);
@@ -88,7 +91,7 @@ void Fit(int i, int n, mpfr_t* coef) {
         mpfr_cos(t, t, MPFR_RNDN);
         mpfr_mul_d(v[k], t, r.width / 2, MPFR_RNDN);
         mpfr_add_d(t, v[k], r.c, MPFR_RNDN);
-        P(f[k], t);
+        fn(f[k], t);
     }
     // Divided differences, then the Newton form expanded into powers of v.
     for (int j = 1; j <= n; ++j)
@@ -122,7 +125,7 @@ void RowOf(int i, int n, bool low, double* out) {
     for (int k = 0; k <= n; ++k)
         mpfr_init2(coef[k], kPrec);
     mpfr_init2(r, kPrec);
-    Fit(i, n, coef);
+    Fit(Row(i), P, n, coef);
     for (int k = 0; k <= n; ++k)
         out[n - k] = mpfr_get_d(coef[k], MPFR_RNDN);
     if (low) {
@@ -166,6 +169,97 @@ double Check(int n, bool low) {
     return worst;
 }
 
+// erfcinv(e^(-s^2)) for s >= 6, by Newton's steps on ln erfc(y) = -s^2 from y = s, in
+// MPFR's exponent range (e^(-s^2) reaches 2^-1075 and below).
+void TailOfS(mpfr_t out, mpfr_t s) {
+    mpfr_t y, f, d, l, q;
+    mpfr_inits2(kPrec, y, f, d, l, q, (mpfr_ptr)0);
+    mpfr_sqr(l, s, MPFR_RNDN);
+    mpfr_set(y, s, MPFR_RNDN);
+    mpfr_const_pi(q, MPFR_RNDN);
+    mpfr_sqrt(q, q, MPFR_RNDN);
+    for (int i = 0; i < 40; ++i) {
+        mpfr_erfc(f, y, MPFR_RNDN);
+        mpfr_sqr(d, y, MPFR_RNDN);
+        mpfr_neg(d, d, MPFR_RNDN);
+        mpfr_exp(d, d, MPFR_RNDN);
+        mpfr_div(d, d, f, MPFR_RNDN); // -(ln erfc)'(y) sqrt(pi)/2
+        mpfr_log(f, f, MPFR_RNDN);
+        mpfr_add(f, f, l, MPFR_RNDN);
+        mpfr_mul(f, f, q, MPFR_RNDN);
+        mpfr_div_ui(f, f, 2, MPFR_RNDN);
+        mpfr_div(f, f, d, MPFR_RNDN);
+        mpfr_add(y, y, f, MPFR_RNDN);
+        if (mpfr_zero_p(f) || mpfr_get_exp(f) < mpfr_get_exp(y) - 250) break;
+    }
+    mpfr_set(out, y, MPFR_RNDN);
+    mpfr_clears(y, f, d, l, q, (mpfr_ptr)0);
+}
+
+// The tail's function of u = 1/s: G(u) = u erfcinv(e^(-1/u^2)), about 1 - u^2 ln(...)/2.
+void G(mpfr_t out, mpfr_t u) {
+    mpfr_t s;
+    mpfr_init2(s, kPrec);
+    mpfr_ui_div(s, 1, u, MPFR_RNDN);
+    TailOfS(out, s);
+    mpfr_mul(out, out, u, MPFR_RNDN);
+    mpfr_clear(s);
+}
+
+// The tail, t = e^(-s^2) below 2^-53 (s above 6.06, u below 0.1651) down to 2^-1075
+// (u above 0.0365): G on the cells [1/32 + k/128, 1/32 + (k+1)/128) of u, kTailCells of
+// them, each a polynomial of degree kTailDegree in v = u - c, c the cell's midpoint,
+// rounded to long double.
+constexpr int kTailCells = 18, kTailDegree = 13;
+
+Interval TailCell(int k) {
+    double lo = 1.0 / 32 + k / 128.0;
+    return {lo, 1.0 / 128, lo + 1.0 / 256};
+}
+
+void TailRow(int k, long double* out) {
+    mpfr_t coef[kTailDegree + 1];
+    for (int j = 0; j <= kTailDegree; ++j)
+        mpfr_init2(coef[j], kPrec);
+    Fit(TailCell(k), G, kTailDegree, coef);
+    for (int j = 0; j <= kTailDegree; ++j) {
+        out[kTailDegree - j] = mpfr_get_ld(coef[j], MPFR_RNDN);
+        mpfr_clear(coef[j]);
+    }
+}
+
+// The largest relative error of the tail's cells (as rounded) against G.
+double CheckTail() {
+    double worst = 0;
+    mpfr_t u, g, q, e;
+    mpfr_inits2(kPrec, u, g, q, e, (mpfr_ptr)0);
+    for (int k = 0; k < kTailCells; ++k) {
+        long double row[kTailDegree + 1];
+        TailRow(k, row);
+        Interval r = TailCell(k);
+        for (int s = 0; s <= 32; ++s) {
+            double v = -r.width / 2 + r.width * s / 32;
+            mpfr_set_d(u, r.c + v, MPFR_RNDN);
+            G(g, u);
+            mpfr_set_ld(q, row[0], MPFR_RNDN);
+            for (int j = 1; j <= kTailDegree; ++j) {
+                mpfr_mul_d(q, q, v, MPFR_RNDN);
+                mpfr_t c;
+                mpfr_init2(c, 64);
+                mpfr_set_ld(c, row[j], MPFR_RNDN);
+                mpfr_add(q, q, c, MPFR_RNDN);
+                mpfr_clear(c);
+            }
+            mpfr_sub(e, q, g, MPFR_RNDN);
+            mpfr_div(e, e, g, MPFR_RNDN);
+            double d = std::fabs(mpfr_get_d(e, MPFR_RNDN));
+            if (d > worst) worst = d;
+        }
+    }
+    mpfr_clears(u, g, q, e, (mpfr_ptr)0);
+    return worst;
+}
+
 void Table(FILE* f, const char* name, int n, bool low) {
     int w = n + 1 + (low ? 1 : 0);
     std::fprintf(f, "\nalignas(16) const double %s[%d][%d] = {\n", name, kRows, w);
@@ -180,16 +274,50 @@ void Table(FILE* f, const char* name, int n, bool low) {
     std::fprintf(f, "};\n");
 }
 
+void TailTable(FILE* f) {
+    std::fprintf(f,
+                 "// Generated by tools/erf/gen_erfinv_tables (MPFR); do not edit.\n"
+                 "/* The tail of the inverse complementary error function, t = e^(-s^2) below "
+                 "2^-53:\n"
+                 " * erfcinv(t) = s G(u), u = 1/s, G on the cells [1/32 + k/128, 1/32 + "
+                 "(k+1)/128) of u\n"
+                 " * by its interpolant at the Chebyshev nodes in v = u - c, c the cell's "
+                 "midpoint,\n"
+                 " * highest degree first (relative error %.2g). */\n"
+                 "#ifndef BRENN_VECMATH_ERF_ERFCINV_TAIL_H\n"
+                 "#define BRENN_VECMATH_ERF_ERFCINV_TAIL_H\n\n"
+                 "namespace brenn::vm {\n\n"
+                 "inline constexpr int kErfcInvTailCells = %d, kErfcInvTailDegree = %d;\n\n"
+                 "inline constexpr long double erfcInvTail[%d][%d] = {\n",
+                 CheckTail(), kTailCells, kTailDegree, kTailCells, kTailDegree + 1);
+    for (int k = 0; k < kTailCells; ++k) {
+        long double row[kTailDegree + 1];
+        TailRow(k, row);
+        std::fprintf(f, "    {");
+        for (int j = 0; j <= kTailDegree; ++j)
+            std::fprintf(f, "%s%LaL", j ? ", " : "", row[j]);
+        std::fprintf(f, "},\n");
+    }
+    std::fprintf(f, "};\n\n} // namespace brenn::vm\n\n#endif\n");
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: gen_erfinv_tables OUT | check\n");
+    if (argc != 2 && argc != 3) {
+        std::fprintf(stderr, "usage: gen_erfinv_tables OUT | tail OUT | check\n");
         return 2;
     }
+    if (argc == 3 && !std::strcmp(argv[1], "tail")) {
+        FILE* f = std::fopen(argv[2], "w");
+        if (!f) return 1;
+        TailTable(f);
+        return std::fclose(f) ? 1 : 0;
+    }
+    if (argc == 3) return 2;
     if (!std::strcmp(argv[1], "check")) {
-        std::printf("EP %.3g\nLA %.3g\nHA %.3g\n", Check(5, false), Check(9, false),
-                    Check(10, true));
+        std::printf("EP %.3g\nLA %.3g\nHA %.3g\ntail %.3g\n", Check(5, false), Check(9, false),
+                    Check(10, true), CheckTail());
         return 0;
     }
     FILE* f = std::fopen(argv[1], "w");
