@@ -1,8 +1,9 @@
 // The special values of the complex rows (Exp, Ln, Sqrt, Abs, Arg; Cos, Sin,
-// Cosh, Sinh, Log10), cell by cell on every pair of +-0, +-inf, NaN and finite
-// parts, in every slot and both precisions, against the C library's cexp, clog,
-// csqrt, cabs, carg, ccos, csin, ccosh, csinh and clog10; the statuses of those
-// cells; and the branch cuts, whose sides the sign of a zero part picks.
+// Tan, Cosh, Sinh, Tanh, the inverse trigonometric and hyperbolic functions,
+// Log10), cell by cell on every pair of +-0, +-1, +-inf, NaN and finite parts, in
+// every slot and both precisions, against the C library's functions of the same
+// names; the statuses of those cells; and the branch cuts, whose sides the sign
+// of a zero part picks.
 #include <gtest/gtest.h>
 #include <limits>
 #include <string>
@@ -15,17 +16,16 @@
 #define BRENN_C_COMPLEX(R, RF, fn)                                                                 \
     R fn(double _Complex);                                                                         \
     RF fn##f(float _Complex);
+#define BRENN_C_CX(fn) BRENN_C_COMPLEX(double _Complex, float _Complex, fn)
 extern "C" {
-BRENN_C_COMPLEX(double _Complex, float _Complex, cexp)
-BRENN_C_COMPLEX(double _Complex, float _Complex, clog)
-BRENN_C_COMPLEX(double _Complex, float _Complex, csqrt)
 BRENN_C_COMPLEX(double, float, cabs)
 BRENN_C_COMPLEX(double, float, carg)
-BRENN_C_COMPLEX(double _Complex, float _Complex, ccos)
-BRENN_C_COMPLEX(double _Complex, float _Complex, csin)
-BRENN_C_COMPLEX(double _Complex, float _Complex, ccosh)
-BRENN_C_COMPLEX(double _Complex, float _Complex, csinh)
-BRENN_C_COMPLEX(double _Complex, float _Complex, clog10)
+// clang-format off
+BRENN_C_CX(cexp) BRENN_C_CX(clog) BRENN_C_CX(csqrt) BRENN_C_CX(clog10)
+BRENN_C_CX(ccos) BRENN_C_CX(csin) BRENN_C_CX(ctan) BRENN_C_CX(ccosh) BRENN_C_CX(csinh)
+BRENN_C_CX(ctanh) BRENN_C_CX(cacos) BRENN_C_CX(casin) BRENN_C_CX(catan) BRENN_C_CX(cacosh)
+BRENN_C_CX(casinh) BRENN_C_CX(catanh)
+// clang-format on
 }
 
 namespace brenn::test {
@@ -67,6 +67,12 @@ const Fn kFns[] = {
     {"Cosh", frame::Row_zCosh, frame::Row_cCosh, ccosh, ccoshf},
     {"Sinh", frame::Row_zSinh, frame::Row_cSinh, csinh, csinhf},
     {"Log10", frame::Row_zLog10, frame::Row_cLog10, clog10, clog10f},
+    {"Acos", frame::Row_zAcos, frame::Row_cAcos, cacos, cacosf},
+    {"Asin", frame::Row_zAsin, frame::Row_cAsin, casin, casinf},
+    {"Atan", frame::Row_zAtan, frame::Row_cAtan, catan, catanf},
+    {"Acosh", frame::Row_zAcosh, frame::Row_cAcosh, cacosh, cacoshf},
+    {"Asinh", frame::Row_zAsinh, frame::Row_cAsinh, casinh, casinhf},
+    {"Atanh", frame::Row_zAtanh, frame::Row_cAtanh, catanh, catanhf},
 };
 
 bool IsAbsArg(const Fn& f) {
@@ -80,7 +86,11 @@ bool IsAbsArg(const Fn& f) {
 // ccosh(+0 + i inf) and ccosh(+0 + i NaN) are NaN +- 0i, so ccos(inf + i0) and
 // ccos(NaN + i0) are NaN +- 0i; csinh(+inf + i inf) and csinh(+inf + i NaN)
 // have a real infinity of either sign, so csin(NaN or inf + i inf) an imaginary
-// one. NaN parts are compared as NaN whatever their sign.
+// one; ctanh(+inf + i inf) and ctanh(+inf + i NaN) are 1 +- 0i, so ctan(inf or
+// NaN + i inf) has a real zero of either sign; cacos(+-inf + i NaN) is NaN +- i inf,
+// and so is casin's imaginary part there; casinh(NaN + i inf) is +-inf + i NaN;
+// catanh(NaN + i inf) is +-0 + i pi/2, and catan's imaginary zero at +-inf + i NaN
+// likewise. NaN parts are compared as NaN whatever their sign.
 bool SignFree(const Fn& f, double re, double im) {
     if (f.z == frame::Row_zExp) return std::isinf(re) && !std::isfinite(im);
     if (f.z == frame::Row_zSqrt) return std::isinf(re) && re < 0 && std::isnan(im);
@@ -88,6 +98,12 @@ bool SignFree(const Fn& f, double re, double im) {
     if (f.z == frame::Row_zCos) return im == 0 && !std::isfinite(re);
     if (f.z == frame::Row_zSinh) return std::isinf(re) && !std::isfinite(im);
     if (f.z == frame::Row_zSin) return std::isinf(im) && !std::isfinite(re);
+    if (f.z == frame::Row_zTanh) return std::isinf(re) && !std::isfinite(im);
+    if (f.z == frame::Row_zTan) return std::isinf(im) && !std::isfinite(re);
+    if (f.z == frame::Row_zAcos || f.z == frame::Row_zAsin || f.z == frame::Row_zAtan)
+        return std::isinf(re) && std::isnan(im);
+    if (f.z == frame::Row_zAsinh || f.z == frame::Row_zAtanh)
+        return std::isnan(re) && std::isinf(im);
     return false;
 }
 
@@ -105,6 +121,8 @@ const double kParts[] = {0.0,
                          -1.5,
                          0.75,
                          -2.0,
+                         1.0,
+                         -1.0,
                          std::numeric_limits<double>::infinity(),
                          -std::numeric_limits<double>::infinity(),
                          std::numeric_limits<double>::quiet_NaN()};
@@ -168,12 +186,16 @@ TEST(ComplexSpecialValues, StatusesOfTheSpecialCells) {
         int status;
     };
     const Cell cells[] = {
-        {frame::Row_zLn, {0.0, -0.0}, 2},  {frame::Row_zLn, {-0.0, 0.0}, 2},
-        {frame::Row_zLn, {nan, 0.0}, 0},   {frame::Row_zLn, {-inf, 1}, 0},
-        {frame::Row_zExp, {1, inf}, 1},    {frame::Row_zExp, {inf, -inf}, 1},
-        {frame::Row_zExp, {-inf, inf}, 0}, {frame::Row_zExp, {800, 0.5}, 3},
-        {frame::Row_zExp, {710, 0.8}, 0},  {frame::Row_zExp, {nan, inf}, 0},
-        {frame::Row_zSqrt, {-0.0, 0}, 0},  {frame::Row_zSqrt, {-inf, nan}, 0},
+        {frame::Row_zLn, {0.0, -0.0}, 2},   {frame::Row_zLn, {-0.0, 0.0}, 2},
+        {frame::Row_zLn, {nan, 0.0}, 0},    {frame::Row_zLn, {-inf, 1}, 0},
+        {frame::Row_zExp, {1, inf}, 1},     {frame::Row_zExp, {inf, -inf}, 1},
+        {frame::Row_zExp, {-inf, inf}, 0},  {frame::Row_zExp, {800, 0.5}, 3},
+        {frame::Row_zExp, {710, 0.8}, 0},   {frame::Row_zExp, {nan, inf}, 0},
+        {frame::Row_zSqrt, {-0.0, 0}, 0},   {frame::Row_zSqrt, {-inf, nan}, 0},
+        {frame::Row_zAtanh, {1, 0.0}, 2},   {frame::Row_zAtanh, {-1, -0.0}, 2},
+        {frame::Row_zAtanh, {1, 0.5}, 0},   {frame::Row_zAtanh, {nan, 0.0}, 0},
+        {frame::Row_zAtan, {0.0, 1}, 0},    {frame::Row_zAcos, {inf, nan}, 0},
+        {frame::Row_zAsinh, {0.0, inf}, 0}, {frame::Row_zAcosh, {-2, 0.0}, 0},
     };
     for (const Cell& c : cells)
         for (int slot : kCxSlots) {
@@ -217,6 +239,74 @@ TEST(ComplexSpecialValues, BranchCutsFollowTheSignOfZero) {
         Z m{-1, -0.0};
         As<void (*)(int, const Z*, double*)>(CxRaw(frame::Row_zArg, slot))(1, &m, &arg);
         EXPECT_EQ(arg, -pi);
+    }
+}
+
+// Both sides of the cuts of the inverse functions, by the sign of a zero part and just
+// off the cut (a part of +-1e-30, where the result is within rounding of the zero's
+// side), against the C library: Acos, Asin and Atanh along the real axis beyond +-1,
+// Acosh below 1, Asinh and Atan along the imaginary axis beyond +-i.
+TEST(ComplexSpecialValues, CutsOfTheInverseFunctionsOnBothSides) {
+    struct Cut {
+        RowIndex z, c;
+        double _Complex (*ref)(double _Complex);
+        float _Complex (*refF)(float _Complex);
+        bool imaginaryAxis; // the cut along the imaginary axis
+        double at[3];       // points on the cut
+    } cuts[] = {
+        {frame::Row_zAcos, frame::Row_cAcos, cacos, cacosf, false, {2, -1.25, 1e30}},
+        {frame::Row_zAsin, frame::Row_cAsin, casin, casinf, false, {2, -1.25, -1e30}},
+        {frame::Row_zAtanh, frame::Row_cAtanh, catanh, catanhf, false, {2, -1.25, 1e30}},
+        {frame::Row_zAcosh, frame::Row_cAcosh, cacosh, cacoshf, false, {-2, 0.5, -1e30}},
+        {frame::Row_zAsinh, frame::Row_cAsinh, casinh, casinhf, true, {2, -1.25, 1e30}},
+        {frame::Row_zAtan, frame::Row_cAtan, catan, catanf, true, {2, -1.25, -1e30}},
+    };
+    for (const Cut& c : cuts)
+        for (double t : c.at)
+            for (double off : {0.0, -0.0, 1e-30, -1e-30}) {
+                double re = c.imaginaryAxis ? off : t, im = c.imaginaryAxis ? t : off;
+                double _Complex x;
+                __real__ x = re, __imag__ x = im;
+                double _Complex want = c.ref(x);
+                Z got = CxCall(c.z, frame::SlotHA, Z{re, im});
+                EXPECT_TRUE(SamePart(got.re, double(__real__ want), false, 0x1p-50) &&
+                            SamePart(got.im, double(__imag__ want), false, 0x1p-50))
+                    << frame::kRowInfo[c.z].name << " (" << re << ", " << im << "): got (" << got.re
+                    << ", " << got.im << ")";
+                float _Complex xf;
+                __real__ xf = float(re), __imag__ xf = float(im);
+                float _Complex wantF = c.refF(xf);
+                C gotF = CxCall(c.c, frame::SlotEP, C{float(re), float(im)});
+                EXPECT_TRUE(SamePart(gotF.re, float(__real__ wantF), false, 0x1p-21) &&
+                            SamePart(gotF.im, float(__imag__ wantF), false, 0x1p-21))
+                    << frame::kRowInfo[c.c].name << " (" << re << ", " << im << "): got ("
+                    << gotF.re << ", " << gotF.im << ")";
+            }
+}
+
+// Parts near the ends of the double range, denormal parts, points beside +-1 and the
+// hyperbolic tangent's switch to +-1 at |x| = 23: the extended routines neither overflow
+// nor underflow on the way, and agree with the C library.
+TEST(ComplexSpecialValues, ExtremePartsOfTheExtendedRows) {
+    const Z parts[] = {
+        {1e308, 1e308}, {-1e308, 1e-308}, {1e-308, -1e308},      {-1e-310, 1e300},
+        {5e-324, 1},    {1, 5e-324},      {0.9999999999, 1e-20}, {-1.0000000001, -1e-20},
+        {23.5, 1},      {-22.9, 0.5},     {-30, 1e-300},         {3e-200, -4e-200},
+        {7e15, -2},     {0.5, 1e200}};
+    for (const Fn& f : kFns) {
+        if (f.z < frame::Row_zTan || f.z > frame::Row_zAtanh || f.z == frame::Row_zCosh ||
+            f.z == frame::Row_zSinh)
+            continue; // the tangents and the inverse functions
+        for (const Z& a : parts) {
+            double _Complex x;
+            __real__ x = a.re, __imag__ x = a.im;
+            double _Complex want = f.ref(x);
+            Z got = CxCall(f.z, frame::SlotHA, a);
+            EXPECT_TRUE(SamePart(got.re, double(__real__ want), false, 0x1p-49) &&
+                        SamePart(got.im, double(__imag__ want), false, 0x1p-49))
+                << f.name << " (" << a.re << ", " << a.im << "): got (" << got.re << ", " << got.im
+                << ") want (" << __real__ want << ", " << __imag__ want << ")";
+        }
     }
 }
 

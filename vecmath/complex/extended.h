@@ -83,24 +83,28 @@ int Rotated(LD x, LD y, LD& re, LD& im) {
 
 } // namespace brenn::vm::cx
 
-// A body of one routine: BRENN_EXTENDED_BODY(Tanh, TanhOf, false) makes Tanh<E> with the
-// public names "vcTanh" and "vzTanh"; Overflow as kOverflow above.
-#define BRENN_EXTENDED_BODY(Body, Fn, Overflow)                                                    \
+// One row pair of a routine, at file scope after the routine: ZAR_EXTENDED_ROW(Tanh,
+// TanhOf, false) makes the body Tanh<E> (public names "vcTanh" and "vzTanh", kOverflow as
+// above) and the c and z kernels of rows cTanh and zTanh, one kernel for every level.
+#define ZAR_EXTENDED_ROW(Fn, Routine, Overflow)                                                    \
+    namespace brenn::vm::cx {                                                                      \
+    namespace {                                                                                    \
     template <class E>                                                                             \
-    struct Body {                                                                                  \
+    struct Fn {                                                                                    \
         static constexpr bool kOverflow = Overflow;                                                \
         static constexpr const char* kName =                                                       \
-            std::is_same_v<E, BrennComplex8> ? "vc" #Body : "vz" #Body;                            \
-        static int Eval(LD x, LD y, LD& re, LD& im) { return Fn(x, y, re, im); }                   \
-    };
-
-// The c and z kernels of a unary body, one kernel for every level (inside extern "C").
-#define BRENN_EXTENDED_KERNELS(Fn)                                                                 \
+            std::is_same_v<E, BrennComplex8> ? "vc" #Fn : "vz" #Fn;                                \
+        static int Eval(LD x, LD y, LD& re, LD& im) { return Routine(x, y, re, im); }              \
+    };                                                                                             \
+    }                                                                                              \
+    }                                                                                              \
+    extern "C" {                                                                                   \
     void ZAR_KERNEL(c##Fn, All) BRENN_SIG(c, Unary) {                                              \
-        brenn::vm::cx::RunExtended<Fn<BrennComplex8>>(n, a, y);                                    \
+        brenn::vm::cx::RunExtended<brenn::vm::cx::Fn<BrennComplex8>>(n, a, y);                     \
     }                                                                                              \
     void ZAR_KERNEL(z##Fn, All) BRENN_SIG(z, Unary) {                                              \
-        brenn::vm::cx::RunExtended<Fn<BrennComplex16>>(n, a, y);                                   \
+        brenn::vm::cx::RunExtended<brenn::vm::cx::Fn<BrennComplex16>>(n, a, y);                    \
+    }                                                                                              \
     }
 
 #endif

@@ -75,19 +75,10 @@ int SinhOf(LD x, LD y, LD& re, LD& im) {
     return status::kNone;
 }
 
-BRENN_EXTENDED_BODY(Cosh, CoshOf, true)
-BRENN_EXTENDED_BODY(Sinh, SinhOf, true)
-BRENN_EXTENDED_BODY(Cos, (Rotated<CoshOf, false>), true)
-BRENN_EXTENDED_BODY(Sin, (Rotated<SinhOf, true>), true)
-
 } // namespace
 } // namespace brenn::vm::cx
 
-using namespace brenn::vm::cx;
-
-extern "C" {
-BRENN_EXTENDED_KERNELS(Cosh)
-BRENN_EXTENDED_KERNELS(Sinh)
-BRENN_EXTENDED_KERNELS(Cos)
-BRENN_EXTENDED_KERNELS(Sin)
-}
+ZAR_EXTENDED_ROW(Cosh, CoshOf, true)
+ZAR_EXTENDED_ROW(Sinh, SinhOf, true)
+ZAR_EXTENDED_ROW(Cos, (Rotated<CoshOf, false>), true)
+ZAR_EXTENDED_ROW(Sin, (Rotated<SinhOf, true>), true)

@@ -17,23 +17,7 @@ int Log10Of(LD x, LD y, LD& re, LD& im) {
     return st;
 }
 
-template <class E>
-struct Log10 {
-    static constexpr bool kOverflow = false;
-    static constexpr const char* kName = std::is_same_v<E, BrennComplex8> ? "vcLog10" : "vzLog10";
-    static int Eval(LD x, LD y, LD& re, LD& im) { return Log10Of(x, y, re, im); }
-};
-
 } // namespace
 } // namespace brenn::vm::cx
 
-using namespace brenn::vm::cx;
-
-extern "C" {
-void ZAR_KERNEL(cLog10, All) BRENN_SIG(c, Unary) {
-    RunExtended<Log10<BrennComplex8>>(n, a, y);
-}
-void ZAR_KERNEL(zLog10, All) BRENN_SIG(z, Unary) {
-    RunExtended<Log10<BrennComplex16>>(n, a, y);
-}
-}
+ZAR_EXTENDED_ROW(Log10, Log10Of, false)
