@@ -37,24 +37,18 @@
         for (int i = 0; i < n; ++i)                                                                \
             y[i] = fn##f(a[i]);                                                                    \
     }
+/* clang-format off */
 #define EXTENDED(C, f)                                                                             \
-    UNARY(C, f, ccos, Cos)                                                                         \
-    UNARY(C, f, csin, Sin)                                                                         \
-    UNARY(C, f, ctan, Tan)                                                                         \
-    UNARY(C, f, ccosh, Cosh)                                                                       \
-    UNARY(C, f, csinh, Sinh)                                                                       \
-    UNARY(C, f, ctanh, Tanh)                                                                       \
-    UNARY(C, f, cacos, Acos)                                                                       \
-    UNARY(C, f, casin, Asin)                                                                       \
-    UNARY(C, f, catan, Atan)                                                                       \
-    UNARY(C, f, cacosh, Acosh)                                                                     \
-    UNARY(C, f, casinh, Asinh)                                                                     \
-    UNARY(C, f, catanh, Atanh)                                                                     \
+    UNARY(C, f, ccos, Cos) UNARY(C, f, csin, Sin) UNARY(C, f, ctan, Tan)                           \
+    UNARY(C, f, ccosh, Cosh) UNARY(C, f, csinh, Sinh) UNARY(C, f, ctanh, Tanh)                     \
+    UNARY(C, f, cacos, Acos) UNARY(C, f, casin, Asin) UNARY(C, f, catan, Atan)                     \
+    UNARY(C, f, cacosh, Acosh) UNARY(C, f, casinh, Asinh) UNARY(C, f, catanh, Atanh)               \
     UNARY(C, f, clog10, Log10)                                                                     \
     void Loop##f##Pow(int n, const C* a, const C* b, C* y) {                                       \
         for (int i = 0; i < n; ++i)                                                                \
             y[i] = cpow##f(a[i], b[i]);                                                            \
     }
+/* clang-format on */
 
 LOOPS(double, double complex, )
 LOOPS(float, float complex, f)
