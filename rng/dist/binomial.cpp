@@ -201,10 +201,11 @@ BRENN_EXPORT int32_t _qesiRngBinomial(int32_t method, void* stream, int32_t n, i
         return QES_STATUS_OK;
     }
     if (!HasRows()) return QES_STATUS_BAD_METHOD;
+    // Inside the guard, so that the caller's flags stay as they were.
+    FpGuard guard = GuardEnter();
     const bool flip = p >= 0.5;
     const double q = flip ? 1.0 - p : p;
     const double test = flip ? ntrial * (1.0 - p) : ntrial * p;
-    FpGuard guard = GuardEnter();
     ErrorFrame errors = ErrorModeEnter(LogZeroCallbackS);
     int32_t status = QES_STATUS_OK;
     auto* chunk = static_cast<BinomialChunk*>(SetupChunk(stream, kChunkId, kChunkSize, &status));

@@ -219,8 +219,9 @@ BRENN_EXPORT int32_t _qesiRngNegbinomial(int32_t method, void* stream, int32_t n
     (void)method;
     if (n <= 0) return QES_STATUS_OK;
     if (!HasRows()) return QES_STATUS_BAD_METHOD;
-    const double mean = a * (1.0 - p) / p, mode = (a - 1.0) * (1.0 - p) / p;
+    // Inside the guard, so that the caller's flags stay as they were.
     FpGuard guard = GuardEnter();
+    const double mean = a * (1.0 - p) / p, mode = (a - 1.0) * (1.0 - p) / p;
     ErrorFrame errors = ErrorModeEnter(LogZeroCallbackD);
     int32_t status = QES_STATUS_OK;
     auto* chunk = static_cast<NegbinomialChunk*>(SetupChunk(stream, kChunkId, kChunkSize, &status));

@@ -1,11 +1,11 @@
-// The counting generator, the caller's settings and sample moments of the discrete
-// generators' tests.
+// The counting generator, sample moments, the written-out cumulative values and the
+// failure paths of the discrete generators' tests.
 #include "tests/rng/discrete_harness.h"
 
 #include <cmath>
 
-#include "frame/fpenv.h"
 #include "platform/serv.h"
+#include "tests/rng/caller_settings.h"
 #include "tests/rng/toy_brng.h"
 
 namespace brenn::test {
@@ -24,13 +24,6 @@ int32_t CountD(void* s, int32_t n, double* r, double a, double b) {
     return __qesdBRngMT19937(s, n, r, a, b);
 }
 
-int Marker(ErrorRecord*) {
-    return 0;
-}
-
-constexpr uint16_t kCallerCw = 0x037A;                        // two exceptions unmasked
-constexpr uint32_t kCallerCsr = (0x1F80 & ~0x0200u) | 0x6000; // one unmasked, round to zero
-
 } // namespace
 
 int32_t CountingBrngId() {
@@ -46,29 +39,6 @@ int32_t CountingBrngId() {
 
 std::vector<Request>& Requests() {
     return requests;
-}
-
-void CallerSettings::Install() {
-    before = brenn_zar_kernel_GetMode();
-    brenn_zar_kernel_SetMode(BRENN_MODE_LA | BRENN_MODE_ERRMODE_STDERR);
-    brenn_zar_kernel_SetErrorCallBack(Marker);
-    brenn::frame::LoadX87ControlWord(kCallerCw);
-    brenn::frame::LoadCsr(kCallerCsr);
-    mode = brenn_zar_kernel_GetMode();
-}
-
-void CallerSettings::ExpectBack(const char* what) const {
-    EXPECT_EQ(brenn_zar_kernel_GetMode(), mode) << what;
-    EXPECT_EQ(brenn_zar_kernel_GetErrorCallBack(), &Marker) << what;
-    EXPECT_EQ(brenn::frame::ReadX87ControlWord(), kCallerCw) << what;
-    EXPECT_EQ(brenn::frame::ReadCsr() & ~0x3Fu, kCallerCsr) << what;
-}
-
-void CallerSettings::Reset() const {
-    brenn::frame::LoadX87ControlWord(0x037F);
-    brenn::frame::LoadCsr(0x1F80);
-    brenn_zar_kernel_SetErrorCallBack(nullptr);
-    brenn_zar_kernel_SetMode(before);
 }
 
 Moments MomentsOf(const std::vector<int32_t>& x) {
@@ -112,21 +82,21 @@ std::vector<double> CumulativeFromTop(const std::vector<double>& f) {
 
 void ExpectFailuresUndoTheFrame(const DiscreteCall& call, int32_t n, uint32_t limit) {
     CallerSettings caller;
-    caller.Install();
+    caller.Set();
     std::vector<int32_t> r(n);
     void* s = NewStepStream(limit);
     EXPECT_EQ(call(s, n, r.data()), QES_RNG_STATUS_RDRAND_FAILED);
-    caller.ExpectBack("generator failure");
+    caller.Expect("generator failure");
     __qesDeleteStream(&s);
     s = NewSeeded(QES_BRNG_MT19937, 1);
     void* t = CopyOf(s);
+    caller.Set();
     brenn_serv_fail_allocation(1);
     EXPECT_EQ(call(s, n, r.data()), QES_ERROR_MEM_FAILURE);
     brenn_serv_fail_allocation(0);
-    caller.ExpectBack("allocation failure");
+    caller.Expect("allocation failure");
     EXPECT_EQ(__qesGetNumChunks(s), 0);
     ExpectInStepAndDelete(s, t); // nothing drawn
-    caller.Reset();
 }
 
 } // namespace brenn::test

@@ -1,6 +1,6 @@
 // What the tests of the discrete generators share: a generator that counts the
-// uniforms asked of it (MT19937 underneath), the caller's settings to check after
-// a call, and the moments of a sample.
+// uniforms asked of it (MT19937 underneath), the moments of a sample, the written-out
+// cumulative values, and the failure paths with the caller's settings checked.
 #ifndef BRENN_TESTS_RNG_DISCRETE_HARNESS_H
 #define BRENN_TESTS_RNG_DISCRETE_HARNESS_H
 
@@ -26,15 +26,6 @@ struct Request {
 // The counting generator's id, registered once, and the requests since the last clear.
 int32_t CountingBrngId();
 std::vector<Request>& Requests();
-
-// A caller's settings that no generator may leave changed: a mode word, a callback,
-// an x87 control word and MXCSR, set by Install and checked (then reset) by Expect.
-struct CallerSettings {
-    uint32_t before, mode;
-    void Install();
-    void ExpectBack(const char* what) const;
-    void Reset() const; // the settings from before Install
-};
 
 // Sample mean and variance.
 struct Moments {
