@@ -151,25 +151,15 @@ TEST(InverseErfcRows, EndsAndOutsideWithStatuses) {
     ExpectEnds<double>();
 }
 
-template <class T>
-void ExpectQuietNaNs() {
-    using U = decltype(Bits(T()));
-    constexpr U quiet = sizeof(T) == 4 ? U(0x00400000u) : U(0x0008000000000000ull);
-    const U exp = sizeof(T) == 4 ? U(0x7F800000u) : U(0x7FF0000000000000ull);
-    const U sign = U(1) << (sizeof(T) * 8 - 1);
-    for (Fn f : {Fn::ErfcInv, Fn::CdfNormInv})
-        for (U nan : {U(exp | quiet | 5), U(exp | 5), U(sign | exp | quiet), U(sign | exp | 7)})
-            for (int slot : kSlots) {
-                int st;
-                T y = Call(f, slot, __builtin_bit_cast(T, nan), &st);
-                EXPECT_EQ(Bits(y), nan | quiet) << RowOf<T>(f) << " slot " << slot;
-                EXPECT_EQ(st, 0);
-            }
-}
-
 TEST(InverseErfcRows, NaNsComeBackQuietedWithoutStatus) {
-    ExpectQuietNaNs<float>();
-    ExpectQuietNaNs<double>();
+    for (Fn f : {Fn::ErfcInv, Fn::CdfNormInv})
+        for (int slot : kSlots) {
+            const std::string what = " slot " + std::to_string(slot);
+            ExpectNaNsQuieted(As<Unary<float>>(Slot(RowOf<float>(f).c_str(), slot)),
+                              RowOf<float>(f) + what);
+            ExpectNaNsQuieted(As<Unary<double>>(Slot(RowOf<double>(f).c_str(), slot)),
+                              RowOf<double>(f) + what);
+        }
 }
 
 // Vectors with special and tail lanes give what single elements give at every length,

@@ -100,6 +100,22 @@ void ExpectLanesAgree(Unary<T> k, const T (&pool)[N], const T (&one)[N], int max
         }
 }
 
+// NaNs of both signs, quiet and signalling, come back as the same NaN quieted, with no
+// status.
+template <class T>
+void ExpectNaNsQuieted(Unary<T> k, const std::string& what) {
+    using U = decltype(Bits(T()));
+    constexpr U quiet = sizeof(T) == 4 ? U(0x00400000u) : U(0x0008000000000000ull);
+    const U exp = sizeof(T) == 4 ? U(0x7F800000u) : U(0x7FF0000000000000ull);
+    const U sign = U(1) << (sizeof(T) * 8 - 1);
+    for (U nan : {U(exp | quiet | 5), U(exp | 5), U(sign | exp | quiet), U(sign | exp | 7)}) {
+        int st;
+        T y = CallUnary(k, __builtin_bit_cast(T, nan), &st);
+        EXPECT_EQ(Bits(y), nan | quiet) << what;
+        EXPECT_EQ(st, 0) << what;
+    }
+}
+
 // The x87 control word, read and loaded.
 inline uint16_t ReadX87Cw() {
     uint16_t cw;

@@ -137,6 +137,14 @@ void RowOf(int i, int n, bool low, double* out) {
     mpfr_clear(r);
 }
 
+// worst = max(worst, |q/p - 1|), e the scratch.
+void KeepWorst(double& worst, mpfr_t q, mpfr_t p, mpfr_t e) {
+    mpfr_sub(e, q, p, MPFR_RNDN);
+    mpfr_div(e, e, p, MPFR_RNDN);
+    double d = std::fabs(mpfr_get_d(e, MPFR_RNDN));
+    if (d > worst) worst = d;
+}
+
 // The largest relative error of the rows of degree n (as rounded) against P, on 64
 // points of each interval, evaluated at 256 bits.
 double Check(int n, bool low) {
@@ -159,10 +167,7 @@ double Check(int n, bool low) {
                 mpfr_add_d(q, q, row[k], MPFR_RNDN);
             }
             if (low) mpfr_add_d(q, q, row[n + 1], MPFR_RNDN);
-            mpfr_sub(e, q, p, MPFR_RNDN);
-            mpfr_div(e, e, p, MPFR_RNDN);
-            double d = std::fabs(mpfr_get_d(e, MPFR_RNDN));
-            if (d > worst) worst = d;
+            KeepWorst(worst, q, p, e);
         }
     }
     mpfr_clears(t, p, q, e, (mpfr_ptr)0);
@@ -250,10 +255,7 @@ double CheckTail() {
                 mpfr_add(q, q, c, MPFR_RNDN);
                 mpfr_clear(c);
             }
-            mpfr_sub(e, q, g, MPFR_RNDN);
-            mpfr_div(e, e, g, MPFR_RNDN);
-            double d = std::fabs(mpfr_get_d(e, MPFR_RNDN));
-            if (d > worst) worst = d;
+            KeepWorst(worst, q, g, e);
         }
     }
     mpfr_clears(u, g, q, e, (mpfr_ptr)0);
