@@ -1,6 +1,5 @@
 // The special values of the complex rows (Exp, Ln, Sqrt, Abs, Arg; Cos, Sin,
-// Tan, Cosh, Sinh, Tanh, the inverse trigonometric and hyperbolic functions,
-// Log10), cell by cell on every pair of +-0, +-1, +-inf, NaN and finite parts, in
+// Cosh, Sinh, the inverse trigonometric and hyperbolic functions, Log10), cell by cell on every pair of +-0, +-1, +-inf, NaN and finite parts, in
 // every slot and both precisions, against the C library's functions of the same
 // names; the statuses of those cells; and the branch cuts, whose sides the sign
 // of a zero part picks.
