@@ -5,8 +5,14 @@
 # export list are generated from both.
 #
 # BRENN_SUBSYSTEMS narrows a developer's build to some subsystems (the frame is
-# always in): -DBRENN_SUBSYSTEMS=rng builds the frame and rng only, with their tests.
+# always in): -DBRENN_SUBSYSTEMS=stats builds the frame and stats only, with their tests.
 set(BRENN_SUBSYSTEMS "vecmath;rng;stats;fitting" CACHE STRING "Subsystems to build besides the frame")
+# The distribution generators call the vector-math library's scalar routines
+# (__qesdLn, __qessLn) directly, not only through the dispatch table: a build with
+# rng has vecmath too.
+if("rng" IN_LIST BRENN_SUBSYSTEMS AND NOT "vecmath" IN_LIST BRENN_SUBSYSTEMS)
+  set(BRENN_SUBSYSTEMS vecmath ${BRENN_SUBSYSTEMS})
+endif()
 # The front-end, the tour and examples, installation and packages need every service:
 # a narrowed build leaves them out.
 set(BRENN_FULL_BUILD ON)
