@@ -5,14 +5,8 @@
 # export list are generated from both.
 #
 # BRENN_SUBSYSTEMS narrows a developer's build to some subsystems (the frame is
-# always in): -DBRENN_SUBSYSTEMS=stats builds the frame and stats only, with their tests.
+# always in): -DBRENN_SUBSYSTEMS=rng builds the frame and rng only, with their tests.
 set(BRENN_SUBSYSTEMS "vecmath;rng;stats;fitting" CACHE STRING "Subsystems to build besides the frame")
-# The distribution generators call the vector-math library's scalar routines
-# (__qesdLn, __qessLn) directly, not only through the dispatch table: a build with
-# rng has vecmath too.
-if("rng" IN_LIST BRENN_SUBSYSTEMS AND NOT "vecmath" IN_LIST BRENN_SUBSYSTEMS)
-  set(BRENN_SUBSYSTEMS vecmath ${BRENN_SUBSYSTEMS})
-endif()
 # The front-end, the tour and examples, installation and packages need every service:
 # a narrowed build leaves them out.
 set(BRENN_FULL_BUILD ON)
@@ -33,6 +27,11 @@ function(brenn_add_kernel_library)
     list(APPEND lists ${l})
   endforeach()
   list(FILTER sources EXCLUDE REGEX "/gen/")
+  # The distribution generators call the scalar set-up logarithms (__qesdLn,
+  # __qessLn) directly; a build with rng and without vecmath takes just that file.
+  if("rng" IN_LIST BRENN_SUBSYSTEMS AND NOT "vecmath" IN_LIST BRENN_SUBSYSTEMS)
+    list(APPEND sources ${PROJECT_SOURCE_DIR}/vecmath/explog/scalar_log.cpp)
+  endif()
   list(SORT lists)
 
   # Host program that expands the row list into names and declarations.
