@@ -28,9 +28,11 @@ function(brenn_add_kernel_library)
   endforeach()
   list(FILTER sources EXCLUDE REGEX "/gen/")
   # The distribution generators call the scalar set-up logarithms (__qesdLn,
-  # __qessLn) directly; a build with rng and without vecmath takes just that file.
+  # __qessLn) directly; a build with rng and without vecmath takes just those and
+  # their table.
   if("rng" IN_LIST BRENN_SUBSYSTEMS AND NOT "vecmath" IN_LIST BRENN_SUBSYSTEMS)
-    list(APPEND sources ${PROJECT_SOURCE_DIR}/vecmath/explog/scalar_log.cpp)
+    list(APPEND sources ${PROJECT_SOURCE_DIR}/vecmath/explog/scalar_log.cpp
+                        ${PROJECT_SOURCE_DIR}/vecmath/explog/explog_tables.cpp)
   endif()
   list(SORT lists)
 
