@@ -34,9 +34,9 @@ def load_tables(names):
         stem = os.path.basename(path)[len("cases_"):-len(".py")]
         if names and stem not in names:
             continue
-        spec = importlib.util.spec_from_file_location(f"cases_{stem}", path)
-        module = importlib.util.module_from_spec(spec)
-        spec.loader.exec_module(module)
+        module_spec = importlib.util.spec_from_file_location(f"cases_{stem}", path)
+        module = importlib.util.module_from_spec(module_spec)
+        module_spec.loader.exec_module(module)
         tables.append((stem, module.CASES))
     missing = set(names or ()) - {stem for stem, _ in tables}
     if missing:
