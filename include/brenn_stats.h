@@ -140,7 +140,74 @@ enum {
     /** the sorted-observation array is missing */
     BRENN_SS_ERROR_SORTED_MISSING = -4084,
     /** the sort writes over its own observations with another layout, or with indices */
-    BRENN_SS_ERROR_SORT_STORAGE = -4085
+    BRENN_SS_ERROR_SORT_STORAGE = -4085,
+    /** the robust covariance result is missing */
+    BRENN_SS_ERROR_ROBUST_COV_MISSING = -4027,
+    /** the robust mean result is missing */
+    BRENN_SS_ERROR_ROBUST_MEAN_MISSING = -4028,
+    /** the pooled covariance result is missing */
+    BRENN_SS_ERROR_POOLED_OUT_COV_MISSING = -4034,
+    /** the pooled mean result is missing */
+    BRENN_SS_ERROR_POOLED_OUT_MEAN_MISSING = -4035,
+    /** the group covariance array is missing */
+    BRENN_SS_ERROR_POOLED_COV_MISSING = -4036,
+    /** the group mean array is missing */
+    BRENN_SS_ERROR_POOLED_MEAN_MISSING = -4037,
+    /** the group count or the group labels are missing, or a label is outside 0 to g - 1 */
+    BRENN_SS_ERROR_POOLED_GROUPS = -4038,
+    /** the outlier detection parameters are missing */
+    BRENN_SS_ERROR_OUTLIER_PARAMS_MISSING = -4039,
+    /** the outlier detection parameter count is missing or wrong */
+    BRENN_SS_ERROR_OUTLIER_PARAM_COUNT = -4040,
+    /** the outlier weight array is missing */
+    BRENN_SS_ERROR_OUTLIER_WEIGHTS_MISSING = -4041,
+    /** the robust covariance parameters are missing or one is outside its range */
+    BRENN_SS_ERROR_ROBUST_PARAMS_MISSING = -4042,
+    /** the robust covariance parameter count is missing or wrong */
+    BRENN_SS_ERROR_ROBUST_PARAM_COUNT = -4043,
+    /** the partial covariance index array is missing or holds a word other than 1, -1, 0 */
+    BRENN_SS_ERROR_PARTIAL_INDICES = -4045,
+    /** the partial covariance result is missing */
+    BRENN_SS_ERROR_PARTIAL_COV_MISSING = -4046,
+    /** the partial correlation result is missing */
+    BRENN_SS_ERROR_PARTIAL_COR_MISSING = -4047,
+    /** the missing-value parameters are missing or one is outside its range */
+    BRENN_SS_ERROR_MISSING_PARAMS_MISSING = -4048,
+    /** the missing-value parameter count is missing or wrong */
+    BRENN_SS_ERROR_MISSING_PARAM_COUNT = -4049,
+    /** the imputed-pattern count is missing or too small */
+    BRENN_SS_ERROR_MISSING_PATTERN_COUNT = -4052,
+    /** the imputed-pattern array is missing */
+    BRENN_SS_ERROR_MISSING_PATTERNS_MISSING = -4053,
+    /** the EM mean result is missing */
+    BRENN_SS_ERROR_MISSING_MEANS_MISSING = -4054,
+    /** the EM mean count is missing or too small */
+    BRENN_SS_ERROR_MISSING_MEAN_COUNT = -4055,
+    /** the EM covariance count is missing or too small */
+    BRENN_SS_ERROR_MISSING_COV_COUNT = -4056,
+    /** the EM covariance result is missing */
+    BRENN_SS_ERROR_MISSING_COVS_MISSING = -4057,
+    /** the imputation count is missing or below 0 */
+    BRENN_SS_ERROR_MISSING_SIM_COUNT = -4061,
+    /** the imputation mean array is missing */
+    BRENN_SS_ERROR_MISSING_SIM_MEANS_MISSING = -4062,
+    /** the parametrized correlation result is missing */
+    BRENN_SS_ERROR_PARAMETRIZED_COR_MISSING = -4071,
+    /** the parametrization's weight multipliers are missing (the same number as the
+     * median absolute deviation's result) */
+    BRENN_SS_ERROR_MULTIPLIER_A_MISSING = -4082,
+    /** the parametrization's tolerance and iteration limit are missing */
+    BRENN_SS_ERROR_MULTIPLIER_B_MISSING = -4083,
+    /** a matrix that must be positive definite (a covariance, its Cholesky factor) is not */
+    BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE = -4025,
+    /** an exact fit: more than h observations lie on a hyperplane, the covariance is
+     * singular and the robust estimate is that hyperplane's */
+    BRENN_SS_ERROR_EXACT_FIT = -4026,
+    /** an iteration reached its limit without meeting its tolerance (the last iterate is
+     * stored) */
+    BRENN_SS_ERROR_NO_CONVERGENCE = -4030,
+    /** the result array of the Mahalanobis distances is missing */
+    BRENN_SS_ERROR_MAHALANOBIS_MISSING = -4033
 };
 
 /** Parameter ids of the general editors. Integer ids go through _qesiSSEditTask, real
