@@ -1,6 +1,6 @@
-// Quantiles and order statistics in one call each: the view's and the orders' checks,
-// a task over the view with the result arrays, and the service's order compute on the
-// thread pool.
+// Quantiles, order statistics and the sort in one call each: the view's and the
+// orders' checks, a task over the view with the result arrays, and the service's
+// order compute on the thread pool.
 #include "brenn_ss_order.h"
 #include "frontend/export.h"
 #include "frontend/ss_task.h"
@@ -44,8 +44,33 @@ int OrderStatistics(const Matrix* matrix, T* sorted) {
     return status;
 }
 
+// The sort may write x itself, which the service allows only without indices.
+template <class T, class Matrix>
+int Sort(const Matrix* matrix, T* sorted) {
+    if (int s = brenn::fe::CheckMatrix(matrix)) return s;
+    if (sorted == nullptr) return BRENN_ERR_NULL_POINTER;
+    if (sorted == matrix->x && matrix->indices != nullptr) return BRENN_ERR_BAD_ARGUMENT;
+    if (int s = brenn::fe::CheckWeights(matrix)) return s;
+    brenn::fe::SsTask<T> task(matrix);
+    int status = task.status();
+    if (status == BRENN_SS_OK)
+        status = brenn::fe::SsEntries<T>::edit(task.get(), BRENN_SS_ED_SORTED_OBSERV, sorted);
+    if (status == BRENN_SS_OK)
+        status = _qesiSSEditTask(task.get(), BRENN_SS_ED_SORTED_OBSERV_STORAGE, task.storage());
+    if (status == BRENN_SS_OK)
+        status = brenn::fe::SsEntries<T>::sort(task.get(), BRENN_SS_SORTED_OBSERV,
+                                               BRENN_SS_METHOD_FAST, brenn_serv_pool_threader());
+    return status;
+}
+
 } // namespace
 
+BRENN_FE_EXPORT int brenn_ss_sort_f64(const brenn_ss_matrix_f64* matrix, double* sorted) {
+    return Sort(matrix, sorted);
+}
+BRENN_FE_EXPORT int brenn_ss_sort_f32(const brenn_ss_matrix_f32* matrix, float* sorted) {
+    return Sort(matrix, sorted);
+}
 BRENN_FE_EXPORT int brenn_ss_quantiles_f64(const brenn_ss_matrix_f64* matrix, int64_t m,
                                            const double* orders, double* quantiles) {
     return Quantiles(matrix, m, orders, quantiles);

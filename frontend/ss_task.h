@@ -20,6 +20,11 @@ struct SsEntries<double> {
     static constexpr auto minmax = _qesdSSMinmax;
     static constexpr auto editQuantiles = __qesdSSEditQuantiles;
     static constexpr auto quantiles = _qesdSSQuantiles;
+    static constexpr auto sort = _qesdSSSort;
+    static constexpr auto mad = _qesdSSMAD;
+    static constexpr auto weightedMedian = _qesdSSWMedian;
+    static constexpr auto editStream = __qesdSSEditStreamQuantiles;
+    static constexpr auto stream = _qesdSSStreamQuantiles;
 };
 template <>
 struct SsEntries<float> {
@@ -29,6 +34,11 @@ struct SsEntries<float> {
     static constexpr auto minmax = _qessSSMinmax;
     static constexpr auto editQuantiles = __qessSSEditQuantiles;
     static constexpr auto quantiles = _qessSSQuantiles;
+    static constexpr auto sort = _qessSSSort;
+    static constexpr auto mad = _qessSSMAD;
+    static constexpr auto weightedMedian = _qessSSWMedian;
+    static constexpr auto editStream = __qessSSEditStreamQuantiles;
+    static constexpr auto stream = _qessSSStreamQuantiles;
 };
 
 // A null view, counts below 1, a layout other than the two, no observations.
@@ -61,7 +71,9 @@ class SsTask {
         status_ =
             SsEntries<T>::newTask(&task_, &m->p, &m->n, &storage_, m->x, m->weights, m->indices, 1);
     }
-    ~SsTask() { _qesSSDeleteTask(&task_); }
+    ~SsTask() {
+        if (task_ != nullptr) _qesSSDeleteTask(&task_);
+    }
     SsTask(const SsTask&) = delete;
     SsTask& operator=(const SsTask&) = delete;
     void* get() const { return task_; }

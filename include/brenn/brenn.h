@@ -10,7 +10,7 @@
  * | vector math | brenn_vm.h | brenn_vm_<fn>_<t>(n, inputs..., results...), brenn_vm_<fn>_<t>_acc(..., accuracy) | brenn_vm_exp_f64(n, a, y), brenn_vm_exp_f32_acc(n, a, y, BRENN_EP) |
  * | vector-math settings | brenn_vm.h | brenn_vm_<verb>_<what> | brenn_vm_set_split_work(w) |
  * | random numbers | brenn_rand.h | brenn_rng_<verb> (streams; brenn_rand_abstract.h: brenn_rng_new_abstract_<t>), brenn_rng_<distribution>_<t> (brenn_rand_cont.h: the continuous ones) | brenn_rng_new(&s, QES_BRNG_MT19937, 7), brenn_rng_uniform_f64(s, 0, n, r, 0, 1) |
- * | summary statistics | brenn_ss.h, brenn_ss_order.h | brenn_ss_compute_<t>, brenn_ss_quantiles_<t>, brenn_ss_order_statistics_<t>, types brenn_ss_matrix_<t>, brenn_ss_results_<t> | brenn_ss_compute_f64(&m, BRENN_SS_MEAN, &r) |
+ * | summary statistics | brenn_ss.h, brenn_ss_order.h, brenn_ss_stream.h | brenn_ss_compute_<t>, brenn_ss_quantiles_<t>, brenn_ss_order_statistics_<t>, brenn_ss_sort_<t>, brenn_ss_mad_<t>, brenn_ss_weighted_median_<t>, brenn_ss_stream_<verb>_<t>, types brenn_ss_matrix_<t>, brenn_ss_results_<t>, brenn_ss_stream_<t> | brenn_ss_compute_f64(&m, BRENN_SS_MEAN, &r) |
  * | data fitting | brenn_fit.h | brenn_fit_spline_<verb>_<t>, type brenn_fit_spline_<t>, kinds BRENN_FIT_* | brenn_fit_spline_new_f64(&s, BRENN_FIT_LINEAR, nx, x, y, 0, 0, 0) |
  *
  * `<t>` is the element type: f32 float, f64 double, c64 single complex (BrennComplex8),
@@ -35,6 +35,7 @@
 #include "brenn_rand_abstract.h"
 #include "brenn_ss.h"
 #include "brenn_ss_order.h"
+#include "brenn_ss_stream.h"
 #include "brenn_fit.h"
 
 #ifdef __cplusplus

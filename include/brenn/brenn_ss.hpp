@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <span>
+#include <type_traits>
 #include <vector>
 
 #include "brenn_result.hpp"
@@ -31,6 +32,32 @@ struct matrix_view {
     std::span<const std::int64_t> indices = {};  /**< empty, or p words */
 };
 
+namespace detail {
+
+template <class T>
+using c_matrix =
+    std::conditional_t<std::is_same_v<T, double>, brenn_ss_matrix_f64, brenn_ss_matrix_f32>;
+
+// The C view of a view whose spans fit p and n; BRENN_ERR_BAD_SIZE or
+// BRENN_ERR_SIZE_MISMATCH when they do not.
+template <class T>
+status c_view(const matrix_view<T>& m, c_matrix<T>* out) {
+    if (m.p < 0 || m.n < 0) return {BRENN_ERR_BAD_SIZE};
+    const std::size_t p = static_cast<std::size_t>(m.p), n = static_cast<std::size_t>(m.n);
+    if (m.x.size() != p * n || (!m.weights.empty() && m.weights.size() != n) ||
+        (!m.indices.empty() && m.indices.size() != p))
+        return {BRENN_ERR_SIZE_MISMATCH};
+    *out = {m.p,
+            m.n,
+            static_cast<std::int64_t>(m.order),
+            m.x.data(),
+            m.weights.empty() ? nullptr : m.weights.data(),
+            m.indices.empty() ? nullptr : m.indices.data()};
+    return {};
+}
+
+} // namespace detail
+
 /** The estimates computed: each vector asked for holds p values (p * p for the two
  * matrices, full storage); the others stay empty. */
 template <class T>
@@ -44,16 +71,10 @@ struct estimates {
 template <class T>
 result<estimates<T>> compute(const matrix_view<T>& m, std::uint64_t which) {
     result<estimates<T>> r;
-    if (m.p < 0 || m.n < 0) {
-        r.stat.code = BRENN_ERR_BAD_SIZE;
-        return r;
-    }
-    const std::size_t p = static_cast<std::size_t>(m.p), n = static_cast<std::size_t>(m.n);
-    if (m.x.size() != p * n || (!m.weights.empty() && m.weights.size() != n) ||
-        (!m.indices.empty() && m.indices.size() != p)) {
-        r.stat.code = BRENN_ERR_SIZE_MISMATCH;
-        return r;
-    }
+    detail::c_matrix<T> view;
+    r.stat = detail::c_view(m, &view);
+    if (!r.stat.ok()) return r;
+    const std::size_t p = static_cast<std::size_t>(m.p);
     estimates<T>& e = r.value;
     auto take = [&](std::uint64_t bit, std::vector<T>& v, std::size_t size) -> T* {
         if ((which & bit) == 0) return nullptr;
@@ -62,8 +83,6 @@ result<estimates<T>> compute(const matrix_view<T>& m, std::uint64_t which) {
     };
     using Results =
         std::conditional_t<std::is_same_v<T, double>, brenn_ss_results_f64, brenn_ss_results_f32>;
-    using Matrix =
-        std::conditional_t<std::is_same_v<T, double>, brenn_ss_matrix_f64, brenn_ss_matrix_f32>;
     const Results out = {take(BRENN_SS_MEAN, e.mean, p),
                          take(BRENN_SS_2R_MOM, e.raw_moment2, p),
                          take(BRENN_SS_3R_MOM, e.raw_moment3, p),
@@ -78,12 +97,6 @@ result<estimates<T>> compute(const matrix_view<T>& m, std::uint64_t which) {
                          take(BRENN_SS_MAX, e.maximum, p),
                          take(BRENN_SS_COV, e.covariance, p * p),
                          take(BRENN_SS_COR, e.correlation, p * p)};
-    const Matrix view = {m.p,
-                         m.n,
-                         static_cast<std::int64_t>(m.order),
-                         m.x.data(),
-                         m.weights.empty() ? nullptr : m.weights.data(),
-                         m.indices.empty() ? nullptr : m.indices.data()};
     if constexpr (std::is_same_v<T, double>)
         r.stat.code = brenn_ss_compute_f64(&view, which, &out);
     else
