@@ -14,7 +14,7 @@ packages=(
   libopenblas-dev liblapack-dev
   # references: correctly rounded functions, peers, generator and statistics oracles
   libmpfr-dev libmpc-dev libgmp-dev libsleef-dev libgsl-dev librandom123-dev
-  python3 python3-numpy python3-scipy
+  python3 python3-numpy python3-scipy python3-sklearn
   # the Python package (pybind11) and its tests
   python3-dev pybind11-dev python3-pybind11 python3-pytest python3-mpmath
   # fitting of coefficients and statistical quality of generators
