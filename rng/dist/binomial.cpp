@@ -13,9 +13,6 @@
 #include "rng/dist/setup_chunk.h"
 #include "rng/dist/table_inversion.h"
 
-// Weak, as in Geometric: a build without the vector-math kernels refuses the method.
-#pragma weak __qesdLn
-
 namespace brenn::rng {
 
 namespace {
@@ -182,7 +179,7 @@ struct Btpe {
 };
 
 bool HasRows() {
-    return __qesdLn != nullptr && ZAR_SLOT(dPowx, brenn::frame::SlotHA) != nullptr &&
+    return ZAR_SLOT(dPowx, brenn::frame::SlotHA) != nullptr &&
            ZAR_SLOT(sLn, brenn::frame::SlotLA) != nullptr;
 }
 

@@ -10,10 +10,6 @@
 #include "rng/dist/frame.h"
 #include "vecmath/explog/scalar_log.h"
 
-// Weak, like the registry's generator entries: a developer build of the random
-// numbers without the vector-math kernels still links, and refuses Geometric.
-#pragma weak __qesdLn
-
 namespace {
 
 constexpr int32_t kBlock = 1024;
@@ -43,8 +39,7 @@ BRENN_EXPORT int32_t _qesiRngGeometric(int32_t method, void* stream, int32_t n, 
                                        double p) {
     (void)method;
     if (n <= 0) return QES_STATUS_OK;
-    if (__qesdLn == nullptr || ZAR_SLOT(sLn, brenn::frame::SlotLA) == nullptr)
-        return QES_STATUS_BAD_METHOD;
+    if (ZAR_SLOT(sLn, brenn::frame::SlotLA) == nullptr) return QES_STATUS_BAD_METHOD;
     const float c = static_cast<float>(1.0 / __qesdLn(1.0 - p));
     FpGuard guard = GuardEnter();
     ErrorFrame errors = ErrorModeEnter(LogZeroCallbackS);

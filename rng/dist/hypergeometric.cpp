@@ -14,8 +14,6 @@
 #include "rng/dist/setup_chunk.h"
 #include "rng/dist/table_inversion.h"
 
-#pragma weak __qesdLn
-
 namespace brenn::rng {
 
 namespace {
@@ -224,7 +222,7 @@ HypergeometricChunk* ChunkFor(void* stream, int32_t l, int32_t s, int32_t m, int
 }
 
 bool HasRows() {
-    return __qesdLn != nullptr && ZAR_SLOT(dLn, brenn::frame::SlotHA) != nullptr &&
+    return ZAR_SLOT(dLn, brenn::frame::SlotHA) != nullptr &&
            ZAR_SLOT(dInv, brenn::frame::SlotHA) != nullptr &&
            ZAR_SLOT(sLn, brenn::frame::SlotLA) != nullptr;
 }

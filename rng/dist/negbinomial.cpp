@@ -16,8 +16,6 @@
 #include "rng/dist/setup_chunk.h"
 #include "rng/dist/table_inversion.h"
 
-#pragma weak __qesdLn
-
 namespace brenn::rng {
 
 namespace {
@@ -205,7 +203,7 @@ int32_t HugeMean(const RatioSetup& s, void* stream, int32_t n, int32_t* r) {
 }
 
 bool HasRows() {
-    return __qesdLn != nullptr && ZAR_SLOT(dPowx, brenn::frame::SlotHA) != nullptr;
+    return ZAR_SLOT(dPowx, brenn::frame::SlotHA) != nullptr;
 }
 
 } // namespace
