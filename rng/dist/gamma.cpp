@@ -52,14 +52,20 @@ struct Squeeze {
             value[i] = t > T(0) && u[i] < T(1) - s * x2 * x2 ? v : t > T(0) ? T(-2) : T(-1);
         }
     }
-    T Trial(T x, T u) const {
+    // The logarithmic test of a trial whose t is positive and which the squeeze left
+    // open: d v or -1.
+    T Slow(T x, T u) const {
         using G = GammaOf<T>;
-        T t = c * x + T(1);
-        if (!(t > T(0))) return T(-1);
-        T v = t * t * t, x2 = x * x;
-        if (u < T(1) - s * x2 * x2) return d * v;
+        T t = c * x + T(1), v = t * t * t, x2 = x * x;
         T w = T(0.5) * x2 + d * (T(1) - v + G::ScalarLn(v));
         return w > G::ScalarLn(u) ? d * v : T(-1);
+    }
+    T Trial(T x, T u) const {
+        T t = c * x + T(1);
+        if (!(t > T(0))) return T(-1);
+        T x2 = x * x;
+        if (u < T(1) - s * x2 * x2) return d * (t * t * t);
+        return Slow(x, u);
     }
 };
 
@@ -89,6 +95,7 @@ int32_t SqueezeWay(void* stream, int32_t n, T* r, T alpha) {
     T radius[kPairs], angle[kPairs], sine[kPairs], cosine[kPairs];
     // Trial 2j is the sine normal of pair j with its test uniform, 2j + 1 the cosine's.
     T normal[kTrials], test[kTrials], value[kTrials];
+    int32_t open[kTrials];
     const T twoPi = C::TwoPi();
     while (written < n) {
         int32_t k = Min(n - written, kTrials);
@@ -114,9 +121,25 @@ int32_t SqueezeWay(void* stream, int32_t n, T* r, T alpha) {
             test[2 * j + 1] = words[4 * j + 3];
         }
         q.Squeezed(k, normal, test, value);
+        // The open trials' logarithmic tests in a row of their own, away from the
+        // unpredictable branch on each trial.
+        int32_t opened = 0;
+        for (int32_t i = 0; i < k; ++i) {
+            open[opened] = i;
+            opened += value[i] == T(-2);
+        }
+        for (int32_t j = 0; j < opened; ++j)
+            value[open[j]] = q.Slow(normal[open[j]], test[open[j]]);
+        if (k <= n - written) {
+            // All k may be taken: the accepted ones go out without a branch.
+            for (int32_t i = 0; i < k; ++i) {
+                r[written] = value[i];
+                written += value[i] >= T(0);
+            }
+            continue;
+        }
         for (int32_t i = 0; i < k && written < n; ++i) {
-            T v = value[i] == T(-2) ? q.Trial(normal[i], test[i]) : value[i];
-            if (v >= T(0)) r[written++] = v;
+            if (value[i] >= T(0)) r[written++] = value[i];
             if (written == n && (i & 1) == 0) {
                 pending[0] = test[i + 1];
                 pending[1] = normal[i + 1];
@@ -209,6 +232,11 @@ int32_t Gamma(void* stream, int32_t n, T* r, T alpha, T a, T beta) {
         else
             return _qessRngExponential(0, stream, n, r, a, beta);
     }
+    // The squeeze way's values are positive or +0, which 0 + 1 v leaves as they are:
+    // the standard form skips the last pass.
+    if (alpha > T(1) && a == T(0) && beta == T(1))
+        return Framed<T>(Continuous<T>::kLogZeroOnlyCallback,
+                         [&] { return SqueezeWay(stream, n, r, alpha); });
     return FramedScaled(n, r, a, beta, [&] {
         return alpha > T(1)      ? SqueezeWay(stream, n, r, alpha)
                : alpha >= T(0.6) ? WeibullWay(stream, n, r, alpha)

@@ -3,6 +3,7 @@
 // anywhere for the ways that keep a leftover trial, the chunk's empty mark, uniforms
 // of exactly 0, extreme shapes, and the failure paths with the caller's settings.
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <random>
 #include <vector>
@@ -19,6 +20,9 @@
 namespace {
 
 using namespace brenn::test;
+
+template <typename T>
+using Bits = std::conditional_t<sizeof(T) == 8, uint64_t, uint32_t>;
 
 template <typename T>
 struct Prec;
@@ -172,32 +176,41 @@ std::vector<T> ChiRef(void* s, int32_t n, int32_t v) {
     return z;
 }
 
+// One row a case: Gamma's shape with its displacement and scale (0 and 1 besides the
+// usual 0.5 and 3, where the last pass changes nothing), or ChiSquare's degrees of
+// freedom; every length is drawn for each.
+struct Transcribed {
+    bool chi;
+    double shape, a, beta;
+};
+const Transcribed kTranscribed[] = {
+    {false, 0.05, 0.5, 3}, {false, 0.3, 0.5, 3}, {false, 0.5999, 0.5, 3}, {false, 0.6, 0.5, 3},
+    {false, 0.99, 0.5, 3}, {false, 1.0, 0.5, 3}, {false, 1.0001, 0.5, 3}, {false, 5.0, 0.5, 3},
+    {false, 1e4, 0.5, 3},  {false, 0.3, 0, 1},   {false, 3.0, 0, 1},      {false, 3.0, -0.0, 1},
+    {true, 1, 0, 2},       {true, 2, 0, 2},      {true, 3, 0, 2},         {true, 4, 0, 2},
+    {true, 9, 0, 2},       {true, 16, 0, 2},     {true, 17, 0, 2},        {true, 40, 0, 2},
+};
 const double kAlphas[] = {0.05, 0.3, 0.5999, 0.6, 0.99, 1.0, 1.0001, 5.0, 1e4};
 const int32_t kLengths[] = {0, 1, 2, 5, 17, 511, 512, 513, 1025, 3000};
 
 template <typename T>
 void ExpectTranscriptions() {
-    for (double alpha : kAlphas)
+    for (const Transcribed& c : kTranscribed)
         for (int32_t n : kLengths) {
-            void* s = NewSeeded(QES_BRNG_MT19937, 7 + n);
+            void* s = NewSeeded(c.chi ? QES_BRNG_MCG59 : QES_BRNG_MT19937, (c.chi ? 70 : 7) + n);
             void* t = CopyOf(s);
-            std::vector<T> r(n + 1, T(-99));
-            ASSERT_EQ(Prec<T>::Gamma(s, n, r.data(), T(alpha), T(0.5), T(3)), 0);
-            std::vector<T> z = GammaRef<T>(t, n, T(alpha), T(0.5), T(3));
+            std::vector<T> r(n + 1, T(-99)), z;
+            if (c.chi) {
+                ASSERT_EQ(Prec<T>::Chi(s, n, r.data(), int32_t(c.shape)), 0);
+                z = ChiRef<T>(t, n, int32_t(c.shape));
+            } else {
+                ASSERT_EQ(Prec<T>::Gamma(s, n, r.data(), T(c.shape), T(c.a), T(c.beta)), 0);
+                z = GammaRef<T>(t, n, T(c.shape), T(c.a), T(c.beta));
+            }
             for (int32_t i = 0; i < n; ++i)
-                ASSERT_EQ(r[i], z[i]) << "alpha " << alpha << " n " << n << " i " << i;
-            EXPECT_EQ(r[n], T(-99));
-            ExpectInStepAndDelete(s, t);
-        }
-    for (int32_t v : {1, 2, 3, 4, 9, 16, 17, 40})
-        for (int32_t n : kLengths) {
-            void* s = NewSeeded(QES_BRNG_MCG59, 70 + n);
-            void* t = CopyOf(s);
-            std::vector<T> r(n + 1, T(-99));
-            ASSERT_EQ(Prec<T>::Chi(s, n, r.data(), v), 0);
-            std::vector<T> z = ChiRef<T>(t, n, v);
-            for (int32_t i = 0; i < n; ++i)
-                ASSERT_EQ(r[i], z[i]) << "v " << v << " n " << n << " i " << i;
+                ASSERT_EQ(std::bit_cast<Bits<T>>(r[i]), std::bit_cast<Bits<T>>(z[i]))
+                    << (c.chi ? "v " : "alpha ") << c.shape << " a " << c.a << " n " << n << " i "
+                    << i << ": " << r[i] << " against " << z[i];
             EXPECT_EQ(r[n], T(-99));
             ExpectInStepAndDelete(s, t);
         }
