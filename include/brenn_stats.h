@@ -240,11 +240,11 @@ enum {
     BRENN_SS_ED_QUANT_ORDER = 25,
     BRENN_SS_ED_QUANT_QUANTILES = 26,
     BRENN_SS_ED_ORDER_STATS = 27,
-    BRENN_SS_ED_GROUP_INDC = 28,
+    BRENN_SS_ED_POOLED_GROUP_N = 28,
     BRENN_SS_ED_POOLED_COV_STORAGE = 29,
     BRENN_SS_ED_POOLED_MEAN = 30,
     BRENN_SS_ED_POOLED_COV = 31,
-    BRENN_SS_ED_GROUP_COV_INDC = 32,
+    BRENN_SS_ED_POOLED_STORAGE = 32,
     BRENN_SS_ED_GROUP_MEAN = 33,
     BRENN_SS_ED_GROUP_COV_STORAGE = 34,
     BRENN_SS_ED_GROUP_COV = 35,
@@ -264,14 +264,14 @@ enum {
     BRENN_SS_ED_PARTIAL_COR_STORAGE = 49,
     BRENN_SS_ED_MI_PARAMS_N = 50,
     BRENN_SS_ED_MI_PARAMS = 51,
-    BRENN_SS_ED_MI_INIT_ESTIMATES_N = 52,
-    BRENN_SS_ED_MI_INIT_ESTIMATES = 53,
-    BRENN_SS_ED_MI_SIMUL_VALS_N = 54,
-    BRENN_SS_ED_MI_SIMUL_VALS = 55,
-    BRENN_SS_ED_MI_ESTIMATES_N = 56,
-    BRENN_SS_ED_MI_ESTIMATES = 57,
-    BRENN_SS_ED_MI_PRIOR_N = 58,
-    BRENN_SS_ED_MI_PRIOR = 59,
+    BRENN_SS_ED_MI_PATTERN_N = 52,
+    BRENN_SS_ED_MI_PATTERNS = 53,
+    BRENN_SS_ED_MI_MEAN_N = 54,
+    BRENN_SS_ED_MI_MEANS = 55,
+    BRENN_SS_ED_MI_COV_N = 56,
+    BRENN_SS_ED_MI_COVS = 57,
+    BRENN_SS_ED_MI_SIM_N = 58,
+    BRENN_SS_ED_MI_SIM_MEANS = 59,
     BRENN_SS_ED_PARAMTR_COR = 60,
     BRENN_SS_ED_PARAMTR_COR_STORAGE = 61,
     BRENN_SS_ED_STREAM_QUANT_PARAMS_N = 62,
@@ -288,8 +288,8 @@ enum {
     BRENN_SS_ED_4C_SUM = 73,
     BRENN_SS_ED_CP = 74,
     BRENN_SS_ED_CP_STORAGE = 75,
-    BRENN_SS_ED_MDAD = 76,
-    BRENN_SS_ED_MNAD = 77,
+    BRENN_SS_ED_MULTIPLIER_A = 76,
+    BRENN_SS_ED_MULTIPLIER_B = 77,
     BRENN_SS_ED_SORTED_OBSERV = 78,
     BRENN_SS_ED_SORTED_OBSERV_STORAGE = 79
 };
@@ -368,6 +368,7 @@ enum {
 #define BRENN_SS_CP 0x100000000ULL             /**< cross-product matrix */
 #define BRENN_SS_MDAD 0x200000000ULL           /**< median absolute deviation */
 #define BRENN_SS_SORTED_OBSERV 0x8000000000ULL /**< sorted observations */
+#define BRENN_SS_MAH_DIST 0x10000000000ULL     /**< Mahalanobis distances */
 /** @} */
 
 /** Creates a task over the caller's observations. Integer words are passed by address
@@ -778,6 +779,125 @@ int32_t _qessSSStreamQuantiles(void* task, uint64_t estimates, uint64_t method,
 /** Frees the streaming summary of a task and sets its state to null; the task's
  * clean-up hook, called by _qesSSDeleteTask(). */
 void __qesSQuantilesFreeBuffers(void* task);
+
+/** @name Partial, pooled and parametrized covariance, Mahalanobis distances
+ * Method BRENN_SS_METHOD_FAST (else BRENN_SS_ERROR_METHOD). Without their estimate bits
+ * the entries do nothing and return BRENN_SS_OK. Matrix arrays are read and written in
+ * the forms of their storage words (BRENN_SS_MATRIX_STORAGE_FULL, _U_PACKED,
+ * _L_PACKED); a missing storage word gives BRENN_SS_ERROR_STORAGE_WORD_MISSING, an
+ * unknown one BRENN_SS_ERROR_STORAGE. Variables that `indices` leaves out take no part
+ * and keep what their result places held.
+ * @{ */
+/** Partial covariance (BRENN_SS_PARTIAL_COV) and correlation (BRENN_SS_PARTIAL_COR):
+ * `partialParamIndexCount` (id 45) holds p index-width words, 1 for a result variable
+ * (Y), -1 for a conditioning variable (Z), 0 for neither. The partial covariance is
+ * S_YY - S_YZ S_ZZ^-1 S_ZY, through the Cholesky factor of S_ZZ (no inverse); the
+ * partial correlation is its normalisation r_ab = s_ab / sqrt(s_aa s_bb). Both are
+ * matrices of dimension ny (the number of result variables), in the order of the
+ * variables' indices. S is the task's `covariance` (form `covStorage`); with
+ * BRENN_SS_COV in the estimates it is made first by _qesdSSBasic() with the blocked
+ * method (together with BRENN_SS_MEAN and BRENN_SS_COR if asked), else the caller's
+ * matrix is read. Without conditioning variables the result is S_YY.
+ * @param task the task
+ * @param estimates BRENN_SS_PARTIAL_COV, BRENN_SS_PARTIAL_COR, and optionally
+ *        BRENN_SS_COV (BRENN_SS_MEAN, BRENN_SS_COR) for the basic compute first
+ * @param method BRENN_SS_METHOD_FAST
+ * @param thr the threading record (for the basic compute), or null
+ * @return BRENN_SS_OK; BRENN_SS_ERROR_TASK_NULL; in this order:
+ *         BRENN_SS_ERROR_DIMENSION, BRENN_SS_ERROR_PARTIAL_INDICES (array missing or a
+ *         word other than 1, -1, 0), BRENN_SS_ERROR_PARTIAL_COV_MISSING and
+ *         BRENN_SS_ERROR_PARTIAL_COR_MISSING (or their storage statuses),
+ *         BRENN_SS_ERROR_METHOD, the statuses of _qesdSSBasic() when it is run,
+ *         BRENN_SS_ERROR_COV_MISSING (or the covariance's storage statuses),
+ *         BRENN_SS_ERROR_ALLOC, BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE when S_ZZ is not
+ *         (the results are not written). */
+int32_t _qesdSSPartialCovariance(void* task, uint64_t estimates, uint64_t method,
+                                 const struct threader* thr);
+/** The single-precision form of _qesdSSPartialCovariance().
+ * @copydetails _qesdSSPartialCovariance */
+int32_t _qessSSPartialCovariance(void* task, uint64_t estimates, uint64_t method,
+                                 const struct threader* thr);
+
+/** Group covariances (BRENN_SS_GROUP_COV) and the pooled covariance
+ * (BRENN_SS_POOLED_COV). `pooledGroupCount` (id 28) is the number of groups g and
+ * `pooledStorage` (id 32) holds n index-width group labels, 0 to g - 1. Group k's mean
+ * goes to pooledMean[k * p + j] and its unbiased covariance (cross-products of the
+ * deviations from the group mean over n_k - 1) to the k-th matrix of `pooledCov`
+ * (each of p * p elements in the full form, p (p + 1) / 2 packed). The pooled mean is
+ * the mean of all n observations (`pooledOutMean`, p values), the pooled covariance
+ * the sum of the groups' cross-products over n - g (`pooledOutCov`). A group of one
+ * observation has a NaN covariance, an empty group NaN means too; n = g gives a NaN
+ * pooled covariance. The results do not depend on the threader.
+ * @param task the task
+ * @param estimates BRENN_SS_GROUP_COV, BRENN_SS_POOLED_COV or both
+ * @param method BRENN_SS_METHOD_FAST
+ * @param thr the threading record (one group a unit of work), or null
+ * @return BRENN_SS_OK; BRENN_SS_ERROR_TASK_NULL; in this order: the observation
+ *         statuses of _qesdSSQuantiles(), BRENN_SS_ERROR_POOLED_GROUPS (count missing or
+ *         not above 0, labels missing), BRENN_SS_ERROR_POOLED_MEAN_MISSING,
+ *         BRENN_SS_ERROR_POOLED_COV_MISSING, BRENN_SS_ERROR_POOLED_OUT_MEAN_MISSING,
+ *         BRENN_SS_ERROR_POOLED_OUT_COV_MISSING (with the storage statuses),
+ *         BRENN_SS_ERROR_METHOD, BRENN_SS_ERROR_POOLED_GROUPS for a label outside 0 to
+ *         g - 1, BRENN_SS_ERROR_ALLOC. */
+int32_t _qesdSSPooledCovariance(void* task, uint64_t estimates, uint64_t method,
+                                const struct threader* thr);
+/** The single-precision form of _qesdSSPooledCovariance().
+ * @copydetails _qesdSSPooledCovariance */
+int32_t _qessSSPooledCovariance(void* task, uint64_t estimates, uint64_t method,
+                                const struct threader* thr);
+
+/** Parametrized correlation (BRENN_SS_PARAMTR_COR): the nearest correlation matrix to
+ * `correlation` (form `corStorage`) in the weighted norm |W^1/2 (A - X) W^1/2|_F,
+ * W = diag(multiplierA[j]), by alternating projections with Dykstra's correction
+ * (Higham 2002), into `parametrizedCor` (form `parametrizedCorStorage`). The result
+ * has a unit diagonal exactly and eigenvalues at or above -tolerance; a correlation
+ * matrix comes back unchanged up to rounding.
+ * `multiplierA` (id 76): p weights above 0 and finite; null: all 1.
+ * `multiplierB` (id 77): two reals, the tolerance (above 0) on both max |1 - X_ii| of
+ * the semidefinite iterate X and the Frobenius step of the iterate; and the iteration
+ * limit (1 to 2^31 - 1). Null: 1e-12 (single: 1e-5) and 10000.
+ * @param task the task
+ * @param estimates BRENN_SS_PARAMTR_COR
+ * @param method BRENN_SS_METHOD_FAST
+ * @param thr not used (one matrix is one unit of work)
+ * @return BRENN_SS_OK; BRENN_SS_ERROR_TASK_NULL; in this order:
+ *         BRENN_SS_ERROR_DIMENSION (also p above 46340), BRENN_SS_ERROR_COR_MISSING,
+ *         BRENN_SS_ERROR_PARAMETRIZED_COR_MISSING (with the storage statuses),
+ *         BRENN_SS_ERROR_MULTIPLIER_B_MISSING for a tolerance or limit outside its
+ *         range, BRENN_SS_ERROR_METHOD, BRENN_SS_ERROR_ALLOC,
+ *         BRENN_SS_ERROR_MULTIPLIER_A_MISSING for a weight not above 0 or not finite,
+ *         BRENN_SS_ERROR_NO_CONVERGENCE when the limit is reached or the input holds
+ *         NaNs (the last iterate is stored). */
+int32_t _qesdSSCorParametrization(void* task, uint64_t estimates, uint64_t method,
+                                  const struct threader* thr);
+/** The single-precision form of _qesdSSCorParametrization().
+ * @copydetails _qesdSSCorParametrization */
+int32_t _qessSSCorParametrization(void* task, uint64_t estimates, uint64_t method,
+                                  const struct threader* thr);
+
+/** Mahalanobis distances (BRENN_SS_MAH_DIST): result[i] =
+ * sqrt((x_i - m)' S^-1 (x_i - m)) over the active variables, m the task's `mean` and S
+ * its `covariance` (form `covStorage`), by S's Cholesky factor and a triangular solve
+ * (no inverse). Observations go in fixed blocks of 256, so the results do not depend on
+ * the threader. No active variable gives distances 0.
+ * @param task the task
+ * @param estimates BRENN_SS_MAH_DIST
+ * @param method BRENN_SS_METHOD_FAST
+ * @param result n distances
+ * @param thr the threading record (blocks of observations), or null
+ * @return BRENN_SS_OK; BRENN_SS_ERROR_TASK_NULL; in this order: the observation
+ *         statuses of _qesdSSQuantiles(), BRENN_SS_ERROR_MEAN_MISSING,
+ *         BRENN_SS_ERROR_COV_MISSING (with the storage statuses),
+ *         BRENN_SS_ERROR_MAHALANOBIS_MISSING for a null result, BRENN_SS_ERROR_METHOD,
+ *         BRENN_SS_ERROR_ALLOC, BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE when S is not
+ *         (the result is not written). */
+int32_t _qesdSSMahDistance(void* task, uint64_t estimates, uint64_t method, double* result,
+                           const struct threader* thr);
+/** The single-precision form of _qesdSSMahDistance().
+ * @copydetails _qesdSSMahDistance */
+int32_t _qessSSMahDistance(void* task, uint64_t estimates, uint64_t method, float* result,
+                           const struct threader* thr);
+/** @} */
 
 #ifdef __cplusplus
 }

@@ -85,13 +85,14 @@ inline void RunOneVariable(int64_t c, int thread, int64_t, void* context) {
             return;
         }
     }
-    int32_t s = loop->work(loop, loop->act[c], scratch);
+    int32_t s = loop->work(loop, loop->act != nullptr ? loop->act[c] : c, scratch);
     if (s != 0) loop->status.store(s, std::memory_order_relaxed);
     if (own != nullptr) brenn_serv_deallocate(own);
 }
 
 // Runs `work` over the variables that `indices` keeps, with `scratchBytes` of scratch a
-// thread. Returns 0 or the status of a failure (-4000 when the scratch can't be made).
+// thread; with a null task, over every index below p. Returns 0 or the status of a
+// failure (-4000 when the scratch can't be made).
 inline int32_t ForEachVariable(const SSTask* task, int64_t p, size_t scratchBytes,
                                const threader* thr, int32_t (*work)(VariableLoop*, int64_t, void*),
                                void* detail) {
@@ -111,8 +112,12 @@ inline int32_t ForEachVariable(const SSTask* task, int64_t p, size_t scratchByte
     if (!AddBytesFor(&bytes, used, scratchBytes)) return BRENN_SS_ERROR_ALLOC;
     char* block = static_cast<char*>(brenn_serv_allocate(bytes, 128));
     if (block == nullptr) return BRENN_SS_ERROR_ALLOC;
-    int64_t* act = reinterpret_cast<int64_t*>(block);
-    q = ActiveVariables(task, p, act);
+    int64_t* act = nullptr;
+    q = p;
+    if (task != nullptr) {
+        act = reinterpret_cast<int64_t*>(block);
+        q = ActiveVariables(task, p, act);
+    }
     VariableLoop loop;
     loop.act = act;
     loop.q = q;

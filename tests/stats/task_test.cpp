@@ -152,12 +152,12 @@ TEST(StatsEditTask, NullAddressGivesTheFieldsStatus) {
     EXPECT_EQ(_qesdSSEditTask(g.task, BRENN_SS_ED_OBSERV, nullptr), -4032);
     EXPECT_EQ(_qesdSSEditTask(g.task, BRENN_SS_ED_ACCUM_WEIGHT, nullptr), -4020);
     EXPECT_EQ(_qesdSSEditTask(g.task, BRENN_SS_ED_CP, nullptr), -4081);
-    EXPECT_EQ(_qesdSSEditTask(g.task, BRENN_SS_ED_MDAD, nullptr), -4082);
+    EXPECT_EQ(_qesdSSEditTask(g.task, BRENN_SS_ED_MULTIPLIER_A, nullptr), -4082);
     EXPECT_EQ(_qesdSSEditTask(g.task, BRENN_SS_ED_SORTED_OBSERV, nullptr), -4084);
     EXPECT_EQ(_qesiSSEditTask(g.task, BRENN_SS_ED_DIMEN, nullptr), -4001);
     EXPECT_EQ(_qesiSSEditTask(g.task, BRENN_SS_ED_COV_STORAGE, nullptr), -4044);
     EXPECT_EQ(_qesiSSEditTask(g.task, BRENN_SS_ED_INDC, nullptr), -4004);
-    EXPECT_EQ(_qesiSSEditTask(g.task, BRENN_SS_ED_GROUP_INDC, nullptr), -4038);
+    EXPECT_EQ(_qesiSSEditTask(g.task, BRENN_SS_ED_POOLED_GROUP_N, nullptr), -4038);
 }
 
 // A field set through an editor is what a compute reads: moments of one variable
