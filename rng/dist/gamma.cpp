@@ -28,30 +28,52 @@ int32_t Min(int32_t x, int32_t y) {
 template <typename T>
 struct Squeeze {
     T d, c, s;
-    // The first tests of m trials, a register at a time: d v, -1 for a rejection, -2
-    // when Trial must finish.
-    void Squeezed(int32_t m, const T* x, const T* u, T* value) const {
+    // The first tests of a round's trials, a register at a time. Pair j gives trial
+    // 2j its sine normal and trial 2j + 1 its cosine normal, which go to `normal`, with
+    // the test uniforms words[4j + 2] and words[4j + 3]. To `value`: d v when the
+    // squeeze accepts, -1 when t is not positive, -2 when Slow must decide; the trials
+    // left open are listed in `open`, and their count returned.
+    int32_t Squeezed(int32_t pairs, const T* radius, const T* sine, const T* cosine, const T* words,
+                     T* normal, T* value, int32_t* open) const {
         typedef T V __attribute__((vector_size(16)));
-        constexpr int32_t kLanes = 16 / sizeof(T);
+        constexpr int32_t kLanes = 16 / sizeof(T), kPer = kLanes / 2;
         auto one = [&](auto xi, auto ui, auto k1, auto k0) {
             auto t = c * xi + k1;
             auto v = d * (t * t * t), x2 = xi * xi;
             auto open = t > k0 ? k1 * T(-2) : -k1;
             return (t > k0) & (ui < k1 - s * x2 * x2) ? v : open;
         };
-        int32_t i = 0;
-        for (; i + kLanes <= m; i += kLanes) {
-            V xi, ui;
-            memcpy(&xi, x + i, sizeof xi);
-            memcpy(&ui, u + i, sizeof ui);
-            V r = one(xi, ui, V{} + T(1), V{});
-            memcpy(value + i, &r, sizeof r);
+        int32_t opened = 0, j = 0;
+        for (; j + kPer <= pairs; j += kPer) {
+            V x{}, u{};
+            for (int32_t l = 0; l < kPer; ++l) {
+                x[2 * l] = radius[j + l] * sine[j + l];
+                x[2 * l + 1] = radius[j + l] * cosine[j + l];
+                u[2 * l] = words[4 * (j + l) + 2];
+                u[2 * l + 1] = words[4 * (j + l) + 3];
+            }
+            V r = one(x, u, V{} + T(1), V{});
+            memcpy(normal + 2 * j, &x, sizeof x);
+            memcpy(value + 2 * j, &r, sizeof r);
+            for (int32_t l = 0; l < kLanes; ++l) {
+                open[opened] = 2 * j + l;
+                opened += r[l] == T(-2);
+            }
         }
-        for (; i < m; ++i) {
-            T t = c * x[i] + T(1), v = d * (t * t * t), x2 = x[i] * x[i];
-            value[i] = t > T(0) && u[i] < T(1) - s * x2 * x2 ? v : t > T(0) ? T(-2) : T(-1);
+        for (int32_t i = 2 * j; i < 2 * pairs; ++i) {
+            T x = radius[i / 2] * (i & 1 ? cosine[i / 2] : sine[i / 2]);
+            T t = c * x + T(1), v = d * (t * t * t), x2 = x * x;
+            normal[i] = x;
+            value[i] = t > T(0) && Test(words, i) < T(1) - s * x2 * x2 ? v
+                       : t > T(0)                                      ? T(-2)
+                                                                       : T(-1);
+            open[opened] = i;
+            opened += value[i] == T(-2);
         }
+        return opened;
     }
+    // The test uniform of trial i in its round's words.
+    static T Test(const T* words, int32_t i) { return words[2 * i + 2 - (i & 1)]; }
     // The logarithmic test of a trial whose t is positive and which the squeeze left
     // open: d v or -1.
     T Slow(T x, T u) const {
@@ -94,7 +116,7 @@ int32_t SqueezeWay(void* stream, int32_t n, T* r, T alpha) {
     T words[2 * kTrials];
     T radius[kPairs], angle[kPairs], sine[kPairs], cosine[kPairs];
     // Trial 2j is the sine normal of pair j with its test uniform, 2j + 1 the cosine's.
-    T normal[kTrials], test[kTrials], value[kTrials];
+    T normal[kTrials], value[kTrials];
     int32_t open[kTrials];
     const T twoPi = C::TwoPi();
     while (written < n) {
@@ -112,24 +134,11 @@ int32_t SqueezeWay(void* stream, int32_t n, T* r, T alpha) {
         for (int32_t j = 0; j < pairs; ++j)
             radius[j] = -(radius[j] + radius[j]);
         C::Sqrt(pairs, radius);
-        // The squeeze of every trial at once, branch-free: d v when it accepts, -1 when
-        // t is not positive, -2 when the logarithmic test must decide.
-        for (int32_t j = 0; j < pairs; ++j) {
-            normal[2 * j] = radius[j] * sine[j];
-            normal[2 * j + 1] = radius[j] * cosine[j];
-            test[2 * j] = words[4 * j + 2];
-            test[2 * j + 1] = words[4 * j + 3];
-        }
-        q.Squeezed(k, normal, test, value);
-        // The open trials' logarithmic tests in a row of their own, away from the
-        // unpredictable branch on each trial.
-        int32_t opened = 0;
-        for (int32_t i = 0; i < k; ++i) {
-            open[opened] = i;
-            opened += value[i] == T(-2);
-        }
+        // The squeeze of every trial at once, branch-free; then the logarithmic tests of
+        // the trials it left open, in a row of their own.
+        const int32_t opened = q.Squeezed(pairs, radius, sine, cosine, words, normal, value, open);
         for (int32_t j = 0; j < opened; ++j)
-            value[open[j]] = q.Slow(normal[open[j]], test[open[j]]);
+            value[open[j]] = q.Slow(normal[open[j]], q.Test(words, open[j]));
         if (k <= n - written) {
             // All k may be taken: the accepted ones go out without a branch.
             for (int32_t i = 0; i < k; ++i) {
@@ -141,7 +150,7 @@ int32_t SqueezeWay(void* stream, int32_t n, T* r, T alpha) {
         for (int32_t i = 0; i < k && written < n; ++i) {
             if (value[i] >= T(0)) r[written++] = value[i];
             if (written == n && (i & 1) == 0) {
-                pending[0] = test[i + 1];
+                pending[0] = q.Test(words, i + 1);
                 pending[1] = normal[i + 1];
             }
         }
