@@ -19,7 +19,7 @@
 #include <gsl/gsl_vector.h>
 #endif
 
-#include "bench/stats/peer_timing.h"
+#include "bench/rng/peer_table.h"
 #include "brenn_rng.h"
 
 namespace {
@@ -204,21 +204,12 @@ int main(int argc, char** argv) {
     brenn::bench::Recorder recorder;
     benchmark::RunSpecifiedBenchmarks(&recorder);
 
-    auto ns = [&](const std::string& name) {
-        auto at = recorder.seconds.find(name + suffix);
-        return at == recorder.seconds.end() ? 0.0 : at->second * 1e9 / kN;
-    };
-    std::printf("\n%-16s %-8s %8s %8s %8s %10s %10s\n", "entry", "brng", "ns", "numpy", "GSL",
-                "numpy/us", "GSL/us");
+    const brenn::bench::PeerTable table(recorder, 16, "entry");
+    auto ns = [&](const std::string& name) { return table.Nanos(name + suffix, kN); };
     for (const Entry& e : kEntries)
-        for (const Brng& b : kBrngs) {
-            double t = ns(e.name + std::string("_") + b.name);
-            double np = ns(std::string("numpy_") + e.numpy);
-            double gsl = e.gsl ? ns(e.gsl) : 0.0;
-            if (t == 0) continue;
-            std::printf("%-16s %-8s %8.2f %8.2f %8.2f %10.2f %10.2f\n", e.name, b.name, t, np, gsl,
-                        np / t, gsl / t);
-        }
+        for (const Brng& b : kBrngs)
+            table.Row(e.name, b.name, ns(e.name + std::string("_") + b.name),
+                      ns(std::string("numpy_") + e.numpy), e.gsl ? ns(e.gsl) : 0.0);
     benchmark::Shutdown();
     return 0;
 }

@@ -14,7 +14,7 @@
 #include <gsl/gsl_rng.h>
 #endif
 
-#include "bench/stats/peer_timing.h"
+#include "bench/rng/peer_table.h"
 #include "brenn_rng.h"
 
 namespace {
@@ -113,20 +113,14 @@ int main(int argc, char** argv) {
     brenn::bench::Recorder recorder;
     benchmark::RunSpecifiedBenchmarks(&recorder);
 
-    auto ns = [&](const std::string& name, double per) {
-        auto at = recorder.seconds.find(name);
-        return at == recorder.seconds.end() ? 0.0 : at->second * 1e9 / per;
-    };
-    std::printf("\n%-20s %-8s %10s %10s %10s %9s %9s   (ns a variate; Multinomial a row)\n",
-                "entry", "brng", "ns", "numpy", "GSL", "numpy/us", "GSL/us");
+    const brenn::bench::PeerTable table(recorder, 20, "entry",
+                                        "   (ns a variate; Multinomial a row)");
     for (const Entry& e : kEntries)
         for (int b = 0; b < 2; ++b) {
             const double per = e.lambda == 0 ? kRows : kVariates;
-            double t = ns(e.name + std::string("_") + kBrngNames[b], per);
-            double np = ns(e.numpy, per), gsl = e.gsl ? ns(e.gsl, per) : 0.0;
-            if (t == 0) continue;
-            std::printf("%-20s %-8s %10.2f %10.2f %10.2f %9.2f %9.2f\n", e.name, kBrngNames[b], t,
-                        np, gsl, np / t, gsl / t);
+            table.Row(e.name, kBrngNames[b],
+                      table.Nanos(e.name + std::string("_") + kBrngNames[b], per),
+                      table.Nanos(e.numpy, per), e.gsl ? table.Nanos(e.gsl, per) : 0.0);
         }
     benchmark::Shutdown();
     return 0;

@@ -13,7 +13,7 @@
 #include <gsl/gsl_rng.h>
 #endif
 
-#include "bench/stats/peer_timing.h"
+#include "bench/rng/peer_table.h"
 #include "brenn_rng.h"
 
 namespace {
@@ -104,20 +104,12 @@ int main(int argc, char** argv) {
     recorder.cpuTime = true;
     benchmark::RunSpecifiedBenchmarks(&recorder);
 
-    auto ns = [&](const std::string& name) {
-        auto at = recorder.seconds.find(name + suffix);
-        return at == recorder.seconds.end() ? 0.0 : at->second * 1e9 / kN;
-    };
-    std::printf("\n%-24s %-8s %8s %8s %8s %10s %10s\n", "problem", "brng", "ns", "numpy", "GSL",
-                "numpy/us", "GSL/us");
+    const brenn::bench::PeerTable table(recorder, 24, "problem");
+    auto ns = [&](const std::string& name) { return table.Nanos(name + suffix, kN); };
     for (const Problem& p : kProblems)
-        for (const Brng& b : kBrngs) {
-            double t = ns(std::string(p.name) + "_" + b.name);
-            double np = ns(std::string("numpy_") + p.name), gsl = ns(std::string("gsl_") + p.name);
-            if (t > 0)
-                std::printf("%-24s %-8s %8.2f %8.2f %8.2f %10.2f %10.2f\n", p.name, b.name, t, np,
-                            gsl, np / t, gsl > 0 ? gsl / t : 0.0);
-        }
+        for (const Brng& b : kBrngs)
+            table.Row(p.name, b.name, ns(std::string(p.name) + "_" + b.name),
+                      ns(std::string("numpy_") + p.name), ns(std::string("gsl_") + p.name));
     benchmark::Shutdown();
     return 0;
 }
