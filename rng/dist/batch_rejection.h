@@ -18,13 +18,16 @@ constexpr int32_t kRejectionPairs = 1024;
 enum Verdict : int8_t { Reject = 0, Accept = 1, Undecided = 2 };
 
 // `Way` decides a pair: Candidate(u, v, ln v, &y, &w) gives a verdict, and for an
-// undecided one the test value w whose logarithm Final(y, ln w) then judges.
+// undecided one the test value w whose logarithm Final(y, ln w) then judges. A way
+// may first take the whole batch in Quick(pairs, u, v, y, verdict, rest): it decides
+// the pairs it can, as Candidate would, and lists the others in `rest`, in order,
+// returning their count.
 template <typename Way>
 int32_t RunRejectionBatches(const Way& way, void* stream, int32_t n, int32_t* r) {
     float words[2 * kRejectionPairs];
     float logs[kRejectionPairs];
     float tests[kRejectionPairs];
-    int32_t y[kRejectionPairs];
+    int32_t y[kRejectionPairs] = {}; // a rejected pair's value is stored, then overwritten
     int32_t open[kRejectionPairs];
     int8_t verdict[kRejectionPairs];
     auto ln = ZAR_SLOT(sLn, brenn::frame::SlotLA);
@@ -43,17 +46,32 @@ int32_t RunRejectionBatches(const Way& way, void* stream, int32_t n, int32_t* r)
             v[i] = logs[i];
         Bracketed(ln, static_cast<int>(pairs), v, logs);
         int32_t opened = 0;
-        for (int32_t i = 0; i < pairs; ++i) {
-            verdict[i] = way.Candidate(words[i], v[i], logs[i], &y[i], &tests[opened]);
-            if (verdict[i] == Undecided) open[opened++] = i;
+        if constexpr (requires { way.Quick(pairs, words, v, y, verdict, open); }) {
+            // The way decides the easy candidates of the whole batch at once and lists
+            // the others, in their order, for Candidate.
+            const int32_t rest = way.Quick(pairs, words, v, y, verdict, open);
+            for (int32_t j = 0; j < rest; ++j) {
+                const int32_t i = open[j];
+                verdict[i] = way.Candidate(words[i], v[i], logs[i], &y[i], &tests[opened]);
+                if (verdict[i] == Undecided) open[opened++] = i;
+            }
+        } else {
+            for (int32_t i = 0; i < pairs; ++i) {
+                verdict[i] = way.Candidate(words[i], v[i], logs[i], &y[i], &tests[opened]);
+                if (verdict[i] == Undecided) open[opened++] = i;
+            }
         }
         if (opened > 0) {
             Bracketed(ln, static_cast<int>(opened), tests, tests);
             for (int32_t j = 0; j < opened; ++j)
                 verdict[open[j]] = way.Final(y[open[j]], tests[j]) ? Accept : Reject;
         }
-        for (int32_t i = 0; i < pairs && done < n; ++i)
-            if (verdict[i] == Accept) r[done++] = y[i];
+        // A batch has no more pairs than variates still wanted, so every accepted value
+        // fits: each pair's value is stored, and kept when accepted.
+        for (int32_t i = 0; i < pairs; ++i) {
+            r[done] = y[i];
+            done += verdict[i] == Accept;
+        }
     }
     return status;
 }

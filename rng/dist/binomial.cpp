@@ -5,6 +5,7 @@
 // single uniforms. The set-up of either way waits in chunk 5 of the stream for the
 // next call with the same parameters.
 #include <math.h>
+#include <smmintrin.h>
 #include <string.h>
 
 #include "frame/export.h"
@@ -121,6 +122,35 @@ void SetUpBtpe(int32_t ntrial, double r, BtpeSetup* b) {
 // BTPE: a triangle at the mode, parallelograms beside it and exponential tails.
 struct Btpe {
     const BtpeSetup& b;
+
+    // The triangle's candidates, four at a time: u p4 <= p1 accepts at once with
+    // floor(xm - p1 v + u p4), in the same double steps as Candidate.
+    int32_t Quick(int32_t pairs, const float* uf, const float* vf, int32_t* y, int8_t* verdict,
+                  int32_t* rest) const {
+        const __m128d p4 = _mm_set1_pd(b.p4), p1 = _mm_set1_pd(b.p1), xm = _mm_set1_pd(b.xm);
+        auto half = [&](__m128 u4, __m128 v4, int* mask) {
+            const __m128d u = _mm_mul_pd(_mm_cvtps_pd(u4), p4), v = _mm_cvtps_pd(v4);
+            *mask = _mm_movemask_pd(_mm_cmple_pd(u, p1));
+            return _mm_cvttpd_epi32(_mm_floor_pd(_mm_add_pd(_mm_sub_pd(xm, _mm_mul_pd(p1, v)), u)));
+        };
+        int32_t left = 0, i = 0;
+        for (; i + 4 <= pairs; i += 4) {
+            const __m128 u4 = _mm_loadu_ps(uf + i), v4 = _mm_loadu_ps(vf + i);
+            int low, high;
+            const __m128i y0 = half(u4, v4, &low);
+            const __m128i y1 = half(_mm_movehl_ps(u4, u4), _mm_movehl_ps(v4, v4), &high);
+            _mm_storeu_si128(reinterpret_cast<__m128i*>(y + i), _mm_unpacklo_epi64(y0, y1));
+            const int mask = low | high << 2;
+            for (int32_t l = 0; l < 4; ++l) {
+                verdict[i + l] = static_cast<Verdict>(mask >> l & 1);
+                rest[left] = i + l;
+                left += (mask >> l & 1) ^ 1;
+            }
+        }
+        for (; i < pairs; ++i)
+            rest[left++] = i;
+        return left;
+    }
 
     Verdict Candidate(float uf, float vf, float lnv, int32_t* y, float* w) const {
         const double u = uf * static_cast<double>(b.p4), v = vf;
