@@ -23,6 +23,42 @@ enum EvaluatorKind {
     kEvalLookup = 7
 };
 
+// The evaluator kind of a spline order and type; -1011 for orders and types that
+// have none. Order 0 without a step or look-up type is evaluated by the callbacks
+// alone, and only when all three are given.
+inline int32_t KindOf(int64_t order, int64_t type, bool allCallbacks, int* kind) {
+    if (order == 2) {
+        *kind = kEvalLinear;
+    } else if (order == 3) {
+        if (type == 0)
+            *kind = kEvalQuadratic;
+        else if (type == 1)
+            *kind = kEvalKnotQuadratic;
+        else
+            return FIT_STATUS_BAD_SPLINE_TYPE;
+    } else if (order == 4) {
+        if (!(type == 0 || (type >= 2 && type <= 5) || type == 9))
+            return FIT_STATUS_BAD_SPLINE_TYPE;
+        *kind = kEvalCubic;
+    } else if (order > 4) {
+        *kind = kEvalGeneric;
+    } else if (order == 0) {
+        if (type == 8)
+            *kind = kEvalStepLeftContinuous;
+        else if (type == 7)
+            *kind = kEvalStepRightContinuous;
+        else if (type == 6)
+            *kind = kEvalLookup;
+        else if (allCallbacks)
+            *kind = kEvalGeneric;
+        else
+            return FIT_STATUS_BAD_SPLINE_TYPE;
+    } else {
+        return FIT_STATUS_BAD_SPLINE_TYPE;
+    }
+    return FIT_STATUS_OK;
+}
+
 template <typename T>
 struct EvalSetup {
     int kind;

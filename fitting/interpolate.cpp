@@ -1,10 +1,10 @@
 // Interpolation: the preamble (evaluator kind, searcher, layout, derivative rows), the
 // site loop in blocks of 64 and chunks of 320 on the threader, the callbacks, and the
 // copy of each block to the caller's layout.
-#include <atomic>
 #include <cstring>
 
 #include "fitting/evaluate.h"
+#include "fitting/first_failure.h"
 #include "fitting/search_rules.h"
 #include "frame/export.h"
 #include "platform/bytes.h"
@@ -44,39 +44,6 @@ struct Interp {
     int64_t blockElements; // 64 * nf * nd: one thread's result block
     T* blocks;             // one block a thread for the layouts that are copied
 };
-
-inline int32_t KindOf(int64_t order, int64_t type, bool allCallbacks, int* kind) {
-    if (order == 2) {
-        *kind = kEvalLinear;
-    } else if (order == 3) {
-        if (type == 0)
-            *kind = kEvalQuadratic;
-        else if (type == 1)
-            *kind = kEvalKnotQuadratic;
-        else
-            return FIT_STATUS_BAD_SPLINE_TYPE;
-    } else if (order == 4) {
-        if (!(type == 0 || (type >= 2 && type <= 5) || type == 9))
-            return FIT_STATUS_BAD_SPLINE_TYPE;
-        *kind = kEvalCubic;
-    } else if (order > 4) {
-        *kind = kEvalGeneric;
-    } else if (order == 0) {
-        if (type == 8)
-            *kind = kEvalStepLeftContinuous;
-        else if (type == 7)
-            *kind = kEvalStepRightContinuous;
-        else if (type == 6)
-            *kind = kEvalLookup;
-        else if (allCallbacks)
-            *kind = kEvalGeneric;
-        else
-            return FIT_STATUS_BAD_SPLINE_TYPE;
-    } else {
-        return FIT_STATUS_BAD_SPLINE_TYPE;
-    }
-    return FIT_STATUS_OK;
-}
 
 // The evaluator of the kind, for one function over one block.
 template <typename T>
@@ -264,22 +231,16 @@ int32_t DoSites(const Interp<T>& in, int64_t begin, int64_t count, T* block) {
 template <typename T>
 struct ChunkRun {
     const Interp<T>* in;
-    // The failure of the lowest chunk: (chunk << 32) | status bits; all ones: none.
-    std::atomic<uint64_t> failure{~uint64_t(0)};
+    FirstFailure failure;
 };
 
 template <typename T>
 void InterpChunk(int64_t k, int threadIndex, int64_t, void* context) {
     auto* run = static_cast<ChunkRun<T>*>(context);
     const Interp<T>& in = *run->in;
-    if ((run->failure.load(std::memory_order_relaxed) >> 32) < static_cast<uint64_t>(k)) return;
+    if (run->failure.Skip(k)) return;
     T* block = in.blocks != nullptr ? in.blocks + threadIndex * in.blockElements : nullptr;
-    int32_t s = DoSites(in, k * kChunkSites, kChunkSites, block);
-    if (s == 0) return;
-    uint64_t mine = (static_cast<uint64_t>(k) << 32) | static_cast<uint32_t>(s);
-    uint64_t seen = run->failure.load(std::memory_order_relaxed);
-    while (mine < seen && !run->failure.compare_exchange_weak(seen, mine)) {
-    }
+    if (int32_t s = DoSites(in, k * kChunkSites, kChunkSites, block)) run->failure.Record(k, s);
 }
 
 template <typename T>
@@ -432,11 +393,10 @@ int32_t Interpolate(FitTaskHandle handle, int64_t type, int64_t nsite, const T* 
     } else {
         for (int64_t k = 0; k < chunks; ++k) {
             InterpChunk<T>(k, 0, chunks, &run);
-            if (run.failure.load() != ~uint64_t(0)) break;
+            if (run.failure.Failed()) break;
         }
     }
-    uint64_t failure = run.failure.load();
-    if (failure != ~uint64_t(0)) return static_cast<int32_t>(static_cast<uint32_t>(failure));
+    if (run.failure.Failed()) return run.failure.Status();
     int64_t done = chunks * kChunkSites;
     if (done < nsite) return DoSites(in, done, nsite - done, in.blocks);
     return FIT_STATUS_OK;

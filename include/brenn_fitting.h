@@ -1,6 +1,6 @@
 /** @file brenn_fitting.h
  * Data fitting: the task record's editors and queries, spline construction, cell
- * search and interpolation of one-dimensional functions on a partition.
+ * search, interpolation and integration of one-dimensional functions on a partition.
  *
  * A task holds addresses of the caller's arrays (partition, function values,
  * conditions, coefficient memory) and three blocks of its own (the pointers to the
@@ -183,7 +183,7 @@ enum {
  * @param cell where the cells go, *count 64-bit words
  * @param flag where the flags go, *count words
  * @param params the caller's searchParams
- * @param extra 0 from the search entry, 1 from interpolation
+ * @param extra 0 from the search entry, 1 from interpolation, 2 from integration
  * @return 0; FIT_SEARCH_ALL_CELLS_RIGHT to trust the whole block; a negative value
  *         stops the call and is returned by it. */
 typedef int32_t (*FitdSearchCallback)(const int64_t* count, const double* site, int64_t* cell,
@@ -209,6 +209,24 @@ typedef int32_t (*FitdInterpCallback)(const int64_t* count, double* result, cons
  * @copydetails FitdInterpCallback */
 typedef int32_t (*FitsInterpCallback)(const int64_t* count, float* result, const float* site,
                                       const int64_t* cell, void* params, int64_t function);
+
+/** Integration callbacks (left and right extrapolation, interior): fill result[k] with
+ * the integral over [llim[k], rlim[k]] (llim[k] <= rlim[k]) for the *count parts of one
+ * block of intervals that lie on the callback's side of the partition's ends, for one
+ * function.
+ * @param count address of the number of parts
+ * @param result where the parts' integrals go
+ * @param llim the parts' lower limits
+ * @param rlim the parts' upper limits
+ * @param params the caller's parameters for this callback
+ * @param function the index of the function (0 for a single one)
+ * @return 0, or a negative value that stops the call and is returned by it. */
+typedef int32_t (*FitdIntegCallback)(const int64_t* count, double* result, const double* llim,
+                                     const double* rlim, void* params, int64_t function);
+/** The single-precision form of FitdIntegCallback.
+ * @copydetails FitdIntegCallback */
+typedef int32_t (*FitsIntegCallback)(const int64_t* count, float* result, const float* llim,
+                                     const float* rlim, void* params, int64_t function);
 
 /** Creates a task over a partition and, optionally, function values on it. The task
  * keeps the caller's addresses; a cell-search table is made at once unless the
@@ -689,6 +707,63 @@ int32_t brenn_df_kernel_sDFInterpolate1D(FitTaskHandle task, int64_t type, int64
                                          FitsInterpCallback interpCallback, void* interpParams,
                                          FitsSearchCallback searchCallback, void* searchParams,
                                          const struct threader* threader);
+
+/** Integration: the integral of each of the task's splines over nlim intervals
+ * [llim[k], rlim[k]]. Each cell's part is integrated in closed form from the stored
+ * coefficients (the knot-form quadratic piece by piece between its knots, the step
+ * functions as their constant values); beyond the ends the end cell's polynomial
+ * continues unless that side has a callback. Whole cells between the limits are summed
+ * pairwise in a fixed order, so an interval's integral does not depend on the batch
+ * it comes in, nor on threads. With rlim[k] < llim[k] the result is exactly minus the
+ * integral over [rlim[k], llim[k]]. The look-up type has no integral. A user searcher
+ * sees extra 2.
+ * @param task the task
+ * @param method passed on
+ * @param nlim number of intervals
+ * @param llim the lower limits (the two ends with FIT_SITES_UNIFORM)
+ * @param llimHint FIT_SITES_UNIFORM, FIT_SITES_SORTED or 0, for llim
+ * @param rlim the upper limits (the two ends with FIT_SITES_UNIFORM)
+ * @param rlimHint FIT_SITES_UNIFORM, FIT_SITES_SORTED or 0, for rlim
+ * @param ldataHint null, or the data hint of the search of llim
+ * @param rdataHint null, or the data hint of the search of rlim
+ * @param result where the integrals go: [function][interval] for 16 (or 0), or
+ *        [interval][function] for 32
+ * @param resultHint FIT_RESULT_FUNCTIONS_SITES_DERIVATIVES (16, or 0) or
+ *        FIT_RESULT_SITES_FUNCTIONS_DERIVATIVES (32)
+ * @param leftCallback the integral left of x[0], or null
+ * @param leftParams its parameters
+ * @param rightCallback the integral right of the last point, or null
+ * @param rightParams its parameters
+ * @param interpCallback the integral inside the partition instead of the spline's, or
+ *        null; order 0 without a step type needs all three callbacks
+ * @param interpParams its parameters
+ * @param searchCallback the caller's searcher, or null
+ * @param searchParams its parameters
+ * @param threader the threading record, or null for the calling thread
+ * @return FIT_STATUS_OK; FIT_STATUS_NULL_TASK; FIT_STATUS_BAD_SPLINE_TYPE (look-up
+ *         included); FIT_STATUS_BAD_DATA_HINT; FIT_STATUS_BAD_RESULT_HINT;
+ *         FIT_STATUS_BAD_Y or FIT_STATUS_BAD_COEFF_PTR for a missing function;
+ *         FIT_STATUS_NO_MEMORY; a negative status of a callback. */
+int32_t brenn_df_kernel_dDFIntegrate1D(FitTaskHandle task, int64_t method, int64_t nlim,
+                                       const double* llim, int64_t llimHint, const double* rlim,
+                                       int64_t rlimHint, const double* ldataHint,
+                                       const double* rdataHint, double* result, int64_t resultHint,
+                                       FitdIntegCallback leftCallback, void* leftParams,
+                                       FitdIntegCallback rightCallback, void* rightParams,
+                                       FitdIntegCallback interpCallback, void* interpParams,
+                                       FitdSearchCallback searchCallback, void* searchParams,
+                                       const struct threader* threader);
+/** The single-precision form of brenn_df_kernel_dDFIntegrate1D().
+ * @copydetails brenn_df_kernel_dDFIntegrate1D */
+int32_t brenn_df_kernel_sDFIntegrate1D(FitTaskHandle task, int64_t method, int64_t nlim,
+                                       const float* llim, int64_t llimHint, const float* rlim,
+                                       int64_t rlimHint, const float* ldataHint,
+                                       const float* rdataHint, float* result, int64_t resultHint,
+                                       FitsIntegCallback leftCallback, void* leftParams,
+                                       FitsIntegCallback rightCallback, void* rightParams,
+                                       FitsIntegCallback interpCallback, void* interpParams,
+                                       FitsSearchCallback searchCallback, void* searchParams,
+                                       const struct threader* threader);
 
 #ifdef __cplusplus
 }
