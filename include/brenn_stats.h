@@ -899,6 +899,72 @@ int32_t _qessSSMahDistance(void* task, uint64_t estimates, uint64_t method, floa
                            const struct threader* thr);
 /** @} */
 
+/** Missing values (BRENN_SS_MISSING_VALS). A NaN (quiet or signalling) in x marks a
+ * missing entry; only the variables that `indices` keeps take part, and entries of the
+ * others are ignored. Both precisions compute in double.
+ *
+ * EM for the multivariate normal gives the maximum-likelihood mean and covariance
+ * (divisor n) of the active variables, starting from each variable's observed mean and
+ * variance (divisor its count) with covariances 0. The mean goes to missingMeans[j]
+ * (`missingMeanCount`, id 54, at least p), the covariance to missingCovs[j * p + l] in
+ * the full form (`missingCovCount`, id 56, at least p * p); places of variables left
+ * out keep what they held. EM stops when no mean moves by more than tol sqrt(c_jj) and
+ * no covariance by more than tol sqrt(c_jj c_ll) in one iteration (c the new
+ * covariance); with nothing missing that is the second iteration, and the result is
+ * the covariance of the data with divisor n.
+ *
+ * Then `missingSimCount` (id 58) imputations by data augmentation (Schafer 1997, normal
+ * model, Jeffreys prior |Sigma|^-(q+1)/2) on one chain that starts at the EM estimate.
+ * A step draws each missing entry from its normal distribution given the row's
+ * observed entries (the I-step), then Sigma ~ W^-1(n - 1, (nS)^-1) by Bartlett's
+ * decomposition (ChiSquare and Gaussian variates) and mu ~ N(ybar, Sigma / n), ybar and
+ * S the completed data's means and covariance with divisor n (the P-step). Imputation k
+ * (from 0) is the completed data after (k + 1) * steps steps: its K missing entries
+ * (K the number of missing entries of the active variables) go to
+ * missingPatterns[k * K + e], e counting the missing entries in the order they lie in
+ * x's memory (for BRENN_SS_MATRIX_STORAGE_ROWS variable by variable, each by
+ * observation; for BRENN_SS_MATRIX_STORAGE_COLS observation by observation, each by
+ * variable); its means to missingSimMeans[k * p + j]. `missingPatternCount` (id 52)
+ * must be at least M K. The draws come from an MT19937 stream of the given seed
+ * (Gaussian method 1 of _qesdRngGaussian(), _qesdRngChiSquare()), so a seed gives the
+ * same imputations on any threader; observed entries are never changed.
+ *
+ * `missingParams` (id 51), `missingParamCount` (id 50, 0 to 4; null counts as 0) of
+ * them, in order, each absent one taking its default: the EM iteration limit (a whole
+ * number from 1, default 1000); the tolerance (above 0 and finite, default 1e-6); the
+ * augmentation steps between two imputations (a whole number from 1, default 10); the
+ * seed (a whole number, 0 to 2^32 - 1, default 1).
+ * @param task the task
+ * @param estimates BRENN_SS_MISSING_VALS (without it nothing is done)
+ * @param method BRENN_SS_METHOD_FAST
+ * @param thr the threading record (fixed chunks of rows and of missing-value patterns,
+ *        so the results do not depend on it), or null
+ * @return BRENN_SS_OK (also with no active variable); BRENN_SS_ERROR_TASK_NULL; in this
+ *         order: BRENN_SS_ERROR_OBSERVATIONS_MISSING, BRENN_SS_ERROR_OBSERVATION_COUNT,
+ *         BRENN_SS_ERROR_DIMENSION, BRENN_SS_ERROR_STORAGE_WORD_MISSING,
+ *         BRENN_SS_ERROR_STORAGE, BRENN_SS_ERROR_MISSING_PARAM_COUNT (below 0 or above
+ *         4), BRENN_SS_ERROR_MISSING_PARAMS_MISSING (null with a count above 0, or a
+ *         parameter outside its range), BRENN_SS_ERROR_MISSING_MEANS_MISSING,
+ *         BRENN_SS_ERROR_MISSING_MEAN_COUNT, BRENN_SS_ERROR_MISSING_COVS_MISSING,
+ *         BRENN_SS_ERROR_MISSING_COV_COUNT, BRENN_SS_ERROR_MISSING_SIM_COUNT (below 0;
+ *         null counts as 0), with imputations BRENN_SS_ERROR_MISSING_SIM_MEANS_MISSING,
+ *         BRENN_SS_ERROR_MISSING_PATTERNS_MISSING and BRENN_SS_ERROR_MISSING_PATTERN_COUNT
+ *         (null or below M K), BRENN_SS_ERROR_METHOD; then BRENN_SS_ERROR_ALLOC;
+ *         BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE when n is at most the number of active
+ *         variables, a variable has fewer than two distinct observed values (or an
+ *         infinite one), or a covariance to factor is not positive definite: nothing is
+ *         written if it happens in EM; if the EM covariance itself is not, the EM
+ *         estimates are written and no imputation; in augmentation the imputations
+ *         before the failing one are written; BRENN_SS_ERROR_NO_CONVERGENCE when EM
+ *         reaches its limit: its last iterate is written and no imputation. */
+int32_t _qesdSSMissingValues(void* task, uint64_t estimates, uint64_t method,
+                             const struct threader* thr);
+/** The single-precision form of _qesdSSMissingValues(); parameters, results and
+ * imputed entries are floats, the computation runs in double.
+ * @copydetails _qesdSSMissingValues */
+int32_t _qessSSMissingValues(void* task, uint64_t estimates, uint64_t method,
+                             const struct threader* thr);
+
 #ifdef __cplusplus
 }
 #endif
