@@ -1,30 +1,19 @@
 """The transforming Poisson methods as the library computes them (float32 where it
-works in single), as exact distributions of the count over the normal or uniform
-input: what the row fit and the approximation report measure against the pmf."""
+works in single), as distributions of the count over the normal or uniform input:
+what the approximation report measures against the pmf. The Cornish-Fisher rows are
+measured exactly through their quartics' roots (row_model.py), range C over a
+partition of the normal into cells."""
 import numpy as np
 from scipy.special import ndtr
 from scipy.stats import poisson
+
+import row_model
 
 f32 = np.float32
 # Midpoints and masses of a fine partition of the normal's range.
 _EDGES = np.linspace(-6.0, 6.0, 240001)
 Z = f32((_EDGES[:-1] + _EDGES[1:]) / 2)
 MASS = np.diff(ndtr(_EDGES))
-
-
-def row_coefficients(T, lam):
-    lam = f32(lam)
-    m, e = np.frexp(np.float64(lam))
-    t = 2.0 * m - 1.0
-    c0 = f32(1.0 + T[0] + t * (T[1] + t * T[2]))
-    cs = [f32(T[j] + t * (T[j + 1] + t * (T[j + 2] + t * T[j + 3]))) for j in (3, 7, 11, 15, 19)]
-    return [c0] + cs, int(e) - 1
-
-
-def cf_counts(c, z):
-    c0, c1, c2, c3, c4, c5 = c
-    v = c0 + (z * c1) * (c2 + z * (c3 + z * (c4 + z * c5)))
-    return np.maximum(v, f32(0)).astype(np.int64)
 
 
 def large_params(lam):
@@ -84,17 +73,17 @@ def tv_small_v(lam):
 
 
 def tv_row(T, lam):
-    """One row's own distance at lambda, whichever way the methods take there."""
-    c, e = row_coefficients(T, lam)
-    return tv_of(cf_counts(c, Z), MASS, lam)
+    """One row's own distance at lambda (taken as a float), whichever way the methods
+    take there."""
+    m, e = np.frexp(np.float64(f32(lam)))
+    return row_model.RowGrid(int(e) - 1, [2.0 * m - 1.0]).tv(T, rounded=True)[0]
 
 
 def tv_method1(rows, lam):
     if lam < 1:
         return tv_range_a(lam)
     if lam < 100:
-        c, e = row_coefficients(rows[_index(lam)], lam)
-        return tv_of(cf_counts(c, Z), MASS, lam)
+        return tv_row(rows[_index(lam)], lam)
     mean, sigma = large_params(lam)[:2]
     return tv_of(large_counts(lam, Z * sigma + mean, True), MASS, lam)
 
@@ -103,8 +92,7 @@ def tv_poisson_v(rows, lam):
     if lam < 0.0625:
         return tv_small_v(lam)
     if lam < 100:
-        c, e = row_coefficients(rows[_index(lam)], lam)
-        return tv_of(cf_counts(c, Z), MASS, lam)
+        return tv_row(rows[_index(lam)], lam)
     return tv_of(large_counts(lam, Z, False), MASS, lam)
 
 
