@@ -2,6 +2,7 @@
 // uniforms, one uniform a variate, cuts and lost chunks that change nothing; BTPE's
 // whole batches, its range and moments at the switch and at extreme trial counts;
 // the flip at p = 0.5, p at 0 and 1, ntrial 0; failures with the frame undone.
+#include <algorithm>
 #include <climits>
 #include <cmath>
 #include <vector>
@@ -135,6 +136,33 @@ TEST(RngBinomial, BtpeTakesWholeBatchesOfSinglePairs) {
     ASSERT_EQ(_qesiRngBinomial(0, s, 7, r.data(), 0, 0.4), 0);
     EXPECT_EQ(__qesGetNumChunks(s), 0);
     __qesDeleteStream(&s);
+}
+
+// BTPE keeps the accepted values of the pairs in their order and a batch is never
+// larger than the count still owed, so any shorter call gives a prefix of a longer
+// one: batch lengths around the four-candidate groups and the 1024-pair batch must
+// neither leak a rejected candidate's value nor reorder the accepted ones.
+TEST(RngBinomial, BtpeCallsArePrefixesOfLongerOnes) {
+    const struct {
+        int32_t ntrial;
+        double p;
+    } kCases[] = {{30, 0.5},    {61, 0.49},      {1000, 0.3},
+                  {1000, 0.97}, {1 << 20, 1e-4}, {INT_MAX, 0.5}};
+    for (const auto& c : kCases) {
+        void* s = NewSeeded(QES_BRNG_MCG59, 17);
+        std::vector<int32_t> whole(3000);
+        ASSERT_EQ(_qesiRngBinomial(0, s, 3000, whole.data(), c.ntrial, c.p), 0);
+        __qesDeleteStream(&s);
+        for (int32_t n : {1, 2, 3, 4, 5, 6, 7, 8, 9, 1023, 1025, 2049}) {
+            s = NewSeeded(QES_BRNG_MCG59, 17);
+            std::vector<int32_t> r(n + 1, -1);
+            ASSERT_EQ(_qesiRngBinomial(0, s, n, r.data(), c.ntrial, c.p), 0);
+            EXPECT_TRUE(std::equal(r.begin(), r.begin() + n, whole.begin()))
+                << c.ntrial << " " << c.p << " n " << n;
+            EXPECT_EQ(r[n], -1);
+            __qesDeleteStream(&s);
+        }
+    }
 }
 
 TEST(RngBinomial, ExtremeProbabilitiesAndTheFlip) {
