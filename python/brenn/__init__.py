@@ -6,7 +6,8 @@ Submodules:
   (``accuracy="ha"``, ``"la"``, ``"ep"``), one function a row family;
 - :mod:`brenn.rng`: the library's generators as numpy bit generators
   (``numpy.random.Generator(brenn.rng.MT19937(7))``) and bulk draws of its streams;
-- :mod:`brenn.stats`: summary statistics in one call (:func:`brenn.stats.summary`);
+- :mod:`brenn.stats`: summary statistics in one call (:func:`brenn.stats.summary`),
+  quantiles, sort, median absolute deviation, weighted median, streaming quantiles;
 - :mod:`brenn.fit`: splines (:class:`brenn.fit.Spline`).
 
 Element statuses of :mod:`brenn.vm` calls are handled as :class:`errstate` says,

@@ -113,6 +113,7 @@ void InitStats(py::module_& m) {
     for (const auto& slot : kSlots<brenn_ss_results_f64>)
         names.append(slot.name);
     s.attr("ESTIMATES") = py::tuple(names);
+    InitStatsOrder(s);
 }
 
 } // namespace brenn_py
