@@ -1,14 +1,14 @@
 // Integration: the preamble (integrand kind, the searchers of the two limit arrays,
 // layout), the table of searchers and integrators, the intervals in blocks of 64 and
-// chunks of 320 on the threader, and the whole-piece sums, from trees built for a batch
-// or summed on the spot. Every interval's integral depends on its own limits alone:
-// the same bits whichever batch, chunk or thread computes it.
+// chunks of 320 on the threader, and the trees of whole-piece sums, built when a batch
+// is long enough to pay for them (otherwise the sums are made on the spot). Every interval's
+// integral depends on its own limits alone: the same bits whichever batch, chunk or thread computes
+// it.
 #include <cstring>
 
 #include "fitting/first_failure.h"
-#include "fitting/integral_pieces.h"
-#include "fitting/integral_sums.h"
-#include "fitting/search_rules.h"
+#include "fitting/integrate_block.h"
+#include "fitting/integrate_callbacks.h"
 #include "frame/export.h"
 #include "platform/bytes.h"
 #include "platform/serv.h"
@@ -16,7 +16,7 @@
 namespace brenn::fit {
 namespace {
 
-constexpr int64_t kBlock = 64;
+constexpr int64_t kBlock = kIntegrationBlock;
 constexpr int64_t kChunkIntervals = 320;
 constexpr int64_t kThreadedIntervals = 512;
 // Intervals searched ahead to judge whether trees pay for themselves.
@@ -27,28 +27,8 @@ constexpr int64_t kTreeBudget = int64_t(1) << 22;
 constexpr int64_t kSearchFromIntegration = 2;
 
 template <typename T>
-using IntegCallback = int32_t (*)(const int64_t* count, T* result, const T* llim, const T* rlim,
-                                  void* params, int64_t function);
-
-// One array of limits: the caller's, or the ends of evenly spread ones.
-template <typename T>
-struct Limits {
-    const T* v;
-    bool uniform;
-    double start, step;
-    SearchSetup<T> search;
-    int row;
-};
-
-template <typename T>
-struct Integ;
-
-template <typename T>
 using BlockSearcher = int32_t (*)(const SearchSetup<T>& st, int64_t n, const T* site, int32_t* cell,
                                   int64_t* position);
-template <typename T>
-using BlockIntegrator = int32_t (*)(const Integ<T>& in, int64_t begin, int64_t n, const T* a,
-                                    const T* b, const int32_t* ca, const int32_t* cb);
 
 // A row of the integration table: a searcher and the integrators that go with its
 // partition form, without and with callbacks.
@@ -58,249 +38,6 @@ struct IntegrationRow {
     BlockIntegrator<T> plain;
     BlockIntegrator<T> callback;
 };
-
-template <typename T>
-struct Integ {
-    const FittingTask* task;
-    Pieces<T> pieces;
-    int64_t nf, nlim;
-    Limits<T> lower, upper;
-    BlockIntegrator<T> integrator;
-    T* result;
-    int64_t layout;
-    IntegCallback<T> side[3]; // left, interior, right
-    void* sideParams[3];
-    // The functions of this turn, and their trees (null: sums on the spot).
-    int64_t fBegin, fEnd;
-    PairwiseShape shape;
-    const double* trees;
-};
-
-template <typename T>
-inline void Store(const Integ<T>& in, int64_t f, int64_t k, double v) {
-    int64_t at =
-        in.layout == FIT_RESULT_FUNCTIONS_SITES_DERIVATIVES ? f * in.nlim + k : k * in.nf + f;
-    in.result[at] = static_cast<T>(v);
-}
-
-// Whole pieces [i, j) of function f.
-template <typename T, bool Uniform, int Form>
-[[gnu::always_inline]] inline double Middle(const Integ<T>& in, int64_t f, const Integrand<T>& g,
-                                            int64_t i, int64_t j) {
-    if (i >= j) return 0.0;
-    if (in.trees != nullptr)
-        return RangeSum(TreeNodes{&in.shape, in.trees + (f - in.fBegin) * in.shape.total}, i, j);
-    const Pieces<T>& p = in.pieces;
-    auto leaf = [&p, &g](int64_t k) { return WholePiece<T, Uniform, Form>(p, g, k); };
-    return RangeSum(SummedNodes<decltype(leaf)>{&in.shape, leaf}, i, j);
-}
-
-// The integral of function f's spline over one span.
-template <typename T, bool Uniform, int Form>
-[[gnu::always_inline]] inline double SpanIntegral(const Integ<T>& in, int64_t f,
-                                                  const Integrand<T>& g, const Span& s) {
-    const Pieces<T>& p = in.pieces;
-    double v = s.wA * PartMean<T, Form>(p, g, s.first, s.qA, s.uA, s.vA);
-    if (s.first == s.last) return v;
-    double mid = Middle<T, Uniform, Form>(in, f, g, s.first + 1, s.last);
-    return (v + mid) + s.vB * PartMean<T, Form>(p, g, s.last, s.qB, 0.0, s.vB);
-}
-
-template <typename T, bool Uniform>
-double SpanIntegralOfKind(const Integ<T>& in, int64_t f, const Integrand<T>& g, const Span& s) {
-    switch (in.pieces.kind) {
-    case kEvalLinear:
-        return SpanIntegral<T, Uniform, kEvalLinear>(in, f, g, s);
-    case kEvalQuadratic:
-        return SpanIntegral<T, Uniform, kEvalQuadratic>(in, f, g, s);
-    case kEvalCubic:
-        return SpanIntegral<T, Uniform, kEvalCubic>(in, f, g, s);
-    case kEvalKnotQuadratic:
-        return SpanIntegral<T, Uniform, kEvalKnotQuadratic>(in, f, g, s);
-    case kEvalStepLeftContinuous:
-        return SpanIntegral<T, Uniform, kEvalStepLeftContinuous>(in, f, g, s);
-    case kEvalStepRightContinuous:
-        return SpanIntegral<T, Uniform, kEvalStepRightContinuous>(in, f, g, s);
-    default:
-        return SpanIntegral<T, Uniform, kEvalGeneric>(in, f, g, s);
-    }
-}
-
-// Limits in ascending order; an interval given the other way round is negated at
-// the end, so that it is exactly minus the ascending one.
-template <typename T>
-inline bool Ascending(const T* a, const T* b, const int32_t* ca, const int32_t* cb, int64_t j,
-                      double* lo, double* hi, int64_t* cl, int64_t* ch) {
-    bool swap = b[j] < a[j];
-    *lo = swap ? b[j] : a[j];
-    *hi = swap ? a[j] : b[j];
-    *cl = swap ? cb[j] : ca[j];
-    *ch = swap ? ca[j] : cb[j];
-    return swap;
-}
-
-template <typename T, bool Uniform, int Form>
-void PlainForm(const Integ<T>& in, int64_t begin, int64_t n, const Span* spans,
-               const bool* negate) {
-    for (int64_t f = in.fBegin; f < in.fEnd; ++f) {
-        Integrand<T> g = IntegrandOf(in.task, in.pieces, f);
-        for (int64_t j = 0; j < n; ++j) {
-            double v = SpanIntegral<T, Uniform, Form>(in, f, g, spans[j]);
-            Store(in, f, begin + j, negate[j] ? -v : v);
-        }
-    }
-}
-
-template <typename T, bool Uniform>
-int32_t PlainBlock(const Integ<T>& in, int64_t begin, int64_t n, const T* a, const T* b,
-                   const int32_t* ca, const int32_t* cb) {
-    Span spans[kBlock];
-    bool negate[kBlock];
-    for (int64_t j = 0; j < n; ++j) {
-        double lo, hi;
-        int64_t cl, ch;
-        negate[j] = Ascending(a, b, ca, cb, j, &lo, &hi, &cl, &ch);
-        MakeSpan<T, Uniform>(in.pieces, lo, hi, cl, ch, &spans[j]);
-    }
-    switch (in.pieces.kind) {
-    case kEvalLinear:
-        PlainForm<T, Uniform, kEvalLinear>(in, begin, n, spans, negate);
-        break;
-    case kEvalQuadratic:
-        PlainForm<T, Uniform, kEvalQuadratic>(in, begin, n, spans, negate);
-        break;
-    case kEvalCubic:
-        PlainForm<T, Uniform, kEvalCubic>(in, begin, n, spans, negate);
-        break;
-    case kEvalKnotQuadratic:
-        PlainForm<T, Uniform, kEvalKnotQuadratic>(in, begin, n, spans, negate);
-        break;
-    case kEvalStepLeftContinuous:
-        PlainForm<T, Uniform, kEvalStepLeftContinuous>(in, begin, n, spans, negate);
-        break;
-    case kEvalStepRightContinuous:
-        PlainForm<T, Uniform, kEvalStepRightContinuous>(in, begin, n, spans, negate);
-        break;
-    default:
-        PlainForm<T, Uniform, kEvalGeneric>(in, begin, n, spans, negate);
-        break;
-    }
-    return FIT_STATUS_OK;
-}
-
-// With callbacks an interval is cut at the two ends of the partition into at most
-// three parts, left of x[0], inside, right of x[nx-1]. A part whose side has a
-// callback is the callback's; neighbouring parts that have none are one span of the
-// spline, so that an interval that meets no callback's side gets the plain
-// integrator's bits.
-constexpr int kPoly = 3;
-
-struct Part {
-    int source; // 0 left, 1 interior, 2 right: that side's callback; kPoly: the spline
-    double lo, hi;
-    int64_t cellLo, cellHi;
-    Span span;
-};
-
-inline Part MakePart(int source, double lo, double hi, int64_t cellLo, int64_t cellHi) {
-    Part p{};
-    p.source = source;
-    p.lo = lo;
-    p.hi = hi;
-    p.cellLo = cellLo;
-    p.cellHi = cellHi;
-    return p;
-}
-
-template <typename T, bool Uniform>
-int32_t CallbackBlock(const Integ<T>& in, int64_t begin, int64_t n, const T* a, const T* b,
-                      const int32_t* ca, const int32_t* cb) {
-    const Pieces<T>& p = in.pieces;
-    int64_t nx = p.nx;
-    double x0 = p.x.x[0], xr = Uniform ? p.x.x[1] : p.x.x[nx - 1];
-    Part parts[kBlock][3];
-    int count[kBlock];
-    bool negate[kBlock];
-    double nan[kBlock];
-    // Each side's parts for its callback: the limits and where the answers go.
-    T sideLo[3][kBlock], sideHi[3][kBlock], sideValue[kBlock];
-    int64_t sideCount[3] = {0, 0, 0};
-    int sideOwner[3][kBlock]; // interval * 3 + part
-    for (int64_t j = 0; j < n; ++j) {
-        double lo, hi;
-        int64_t cl, ch;
-        negate[j] = Ascending(a, b, ca, cb, j, &lo, &hi, &cl, &ch);
-        count[j] = 0;
-        nan[j] = 0;
-        if (lo != lo || hi != hi) {
-            nan[j] = lo + hi;
-            continue;
-        }
-        Part cut[3];
-        int m = 0;
-        bool left = lo<x0, right = hi> xr;
-        if (left) cut[m++] = MakePart(0, lo, hi < x0 ? hi : x0, cl, hi < x0 ? ch : 1);
-        double mlo = lo < x0 ? x0 : lo, mhi = hi > xr ? xr : hi;
-        if (mlo < mhi || (!left && !right))
-            cut[m++] = MakePart(1, mlo, mhi, lo < x0 ? 1 : cl, hi > xr ? nx - 1 : ch);
-        if (right) cut[m++] = MakePart(2, lo > xr ? lo : xr, hi, lo > xr ? cl : nx - 1, ch);
-        Part* out = parts[j];
-        int k = 0;
-        for (int i = 0; i < m; ++i) {
-            Part c = cut[i];
-            if (in.side[c.source] != nullptr) {
-                out[k++] = c;
-                continue;
-            }
-            c.source = kPoly;
-            if (k > 0 && out[k - 1].source == kPoly) {
-                out[k - 1].hi = c.hi;
-                out[k - 1].cellHi = c.cellHi;
-            } else {
-                out[k++] = c;
-            }
-        }
-        for (int i = 0; i < k; ++i) {
-            Part& c = out[i];
-            if (c.source == kPoly) {
-                MakeSpan<T, Uniform>(p, c.lo, c.hi, c.cellLo, c.cellHi, &c.span);
-            } else {
-                int64_t& s = sideCount[c.source];
-                sideLo[c.source][s] = static_cast<T>(c.lo);
-                sideHi[c.source][s] = static_cast<T>(c.hi);
-                sideOwner[c.source][s++] = static_cast<int>(j * 3 + i);
-            }
-        }
-        count[j] = k;
-    }
-    double values[kBlock][3];
-    for (int64_t f = in.fBegin; f < in.fEnd; ++f) {
-        for (int side = 0; side < 3; ++side) {
-            if (sideCount[side] == 0) continue;
-            int32_t status = in.side[side](&sideCount[side], sideValue, sideLo[side], sideHi[side],
-                                           in.sideParams[side], f);
-            if (status < 0) return status;
-            for (int64_t s = 0; s < sideCount[side]; ++s) {
-                int owner = sideOwner[side][s];
-                values[owner / 3][owner % 3] = static_cast<double>(sideValue[s]);
-            }
-        }
-        Integrand<T> g{};
-        bool spline = in.pieces.order > 0 || in.pieces.kind != kEvalGeneric;
-        if (spline) g = IntegrandOf(in.task, p, f);
-        for (int64_t j = 0; j < n; ++j) {
-            double v = nan[j];
-            for (int i = 0; i < count[j]; ++i) {
-                const Part& c = parts[j][i];
-                double part = c.source == kPoly ? SpanIntegralOfKind<T, Uniform>(in, f, g, c.span)
-                                                : values[j][i];
-                v = i == 0 ? part : v + part;
-            }
-            Store(in, f, begin + j, negate[j] ? -v : v);
-        }
-    }
-    return FIT_STATUS_OK;
-}
 
 template <typename T, int Index>
 int32_t SearchBlock(const SearchSetup<T>& st, int64_t n, const T* site, int32_t* cell,
@@ -397,26 +134,6 @@ void BuildTrees(const Integ<T>& in, double* trees, int64_t f) {
         trees + (f - in.fBegin) * in.shape.total);
 }
 
-template <typename T, bool Uniform>
-void BuildTreesOfKind(const Integ<T>& in, double* trees, int64_t f) {
-    switch (in.pieces.kind) {
-    case kEvalLinear:
-        return BuildTrees<T, Uniform, kEvalLinear>(in, trees, f);
-    case kEvalQuadratic:
-        return BuildTrees<T, Uniform, kEvalQuadratic>(in, trees, f);
-    case kEvalCubic:
-        return BuildTrees<T, Uniform, kEvalCubic>(in, trees, f);
-    case kEvalKnotQuadratic:
-        return BuildTrees<T, Uniform, kEvalKnotQuadratic>(in, trees, f);
-    case kEvalStepLeftContinuous:
-        return BuildTrees<T, Uniform, kEvalStepLeftContinuous>(in, trees, f);
-    case kEvalStepRightContinuous:
-        return BuildTrees<T, Uniform, kEvalStepRightContinuous>(in, trees, f);
-    default:
-        return BuildTrees<T, Uniform, kEvalGeneric>(in, trees, f);
-    }
-}
-
 template <typename T>
 struct TreeRun {
     const Integ<T>* in;
@@ -427,10 +144,13 @@ template <typename T>
 void TreeChunk(int64_t k, int, int64_t, void* context) {
     auto* run = static_cast<TreeRun<T>*>(context);
     int64_t f = run->in->fBegin + k;
-    if (run->in->pieces.x.uniform)
-        BuildTreesOfKind<T, true>(*run->in, run->trees, f);
-    else
-        BuildTreesOfKind<T, false>(*run->in, run->trees, f);
+    const Integ<T>& in = *run->in;
+    ByForm(in.pieces.kind, [&](auto form) {
+        if (in.pieces.x.uniform)
+            BuildTrees<T, true, decltype(form)::value>(in, run->trees, f);
+        else
+            BuildTrees<T, false, decltype(form)::value>(in, run->trees, f);
+    });
 }
 
 // Whether trees pay: the whole pieces that the first intervals would sum on the spot,
