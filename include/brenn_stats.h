@@ -329,6 +329,15 @@ enum {
 #define BRENN_SS_METHOD_STREAM_READ 0x40ULL /**< feed the block, then read the quantiles */
 #define BRENN_SS_METHOD_STREAM_FEED 0x80ULL /**< feed the block only */
 /** @} */
+/** @name Robust covariance and outlier detection: method words and parameters
+ * @{ */
+#define BRENN_SS_METHOD_FASTMCD 0x1ULL /**< robust covariance by FAST-MCD */
+#define BRENN_SS_METHOD_BACON 0x1ULL   /**< outlier detection by BACON */
+#define BRENN_SS_RCOV_PARAMS_N 4       /**< robust covariance parameters, at most */
+#define BRENN_SS_BACON_PARAMS_N 3      /**< outlier detection parameters, at most */
+#define BRENN_SS_BACON_INIT_MAHALANOBIS 1 /**< BACON start: Mahalanobis distances */
+#define BRENN_SS_BACON_INIT_MEDIAN 2      /**< BACON start: distances from the medians */
+/** @} */
 
 /** @name Estimate bits
  * What a compute entry is asked for; bits combine.
@@ -779,6 +788,106 @@ int32_t _qessSSStreamQuantiles(void* task, uint64_t estimates, uint64_t method,
 /** Frees the streaming summary of a task and sets its state to null; the task's
  * clean-up hook, called by _qesSSDeleteTask(). */
 void __qesSQuantilesFreeBuffers(void* task);
+
+/** Robust covariance (BRENN_SS_ROBUST_COV): the minimum covariance determinant estimate
+ * of the variables that the indices keep (q of them), by FAST-MCD (Rousseeuw and Van
+ * Driessen, 1999). Among the h-subsets of the observations it looks for the one whose
+ * covariance has the least determinant: random (q + 1)-subsets, each grown by random
+ * observations while its covariance is singular, start concentration steps (the h
+ * observations nearest the current mean and covariance, then their mean and
+ * covariance); two steps a start, then the ten best continue until their subset repeats
+ * or the step limit is reached. Above 600 observations the starts run in up to five
+ * disjoint random subsets of about 300 observations, sharing the starts, the ten best of
+ * each are stepped twice in the union of the subsets, and the ten best of those on all
+ * observations. The raw covariance of the best subset is scaled by med(d^2) /
+ * chi2_q(0.5), d the Mahalanobis distances of all observations from it; then the
+ * observations with d^2 at or below chi2_q(0.975) give the result: their mean into
+ * robustMean and their covariance, divisor count - 1, into robustCov in the form of its
+ * storage word (variables left out keep theirs). Draws come from an MT19937 stream of
+ * the library seeded with the seed parameter: a seed gives the same result on any
+ * threader. Observations with a value that is not finite (NaN, signalling or quiet, or
+ * infinity) in a kept variable are left out, and n below is the count of the others.
+ * The task's weights are not read. Both precisions compute in double.
+ *
+ * robustParams (count `robustParamCount`, 0 to 4; absent ones take their default):
+ *   [0] h / n: h = floor(value n), in (0, 1] with h at least q + 1; default
+ *       (n + q + 1) / 2n, that is h = floor((n + q + 1) / 2)
+ *   [1] number of random starts, a whole number from 1 to 2^31; default 500
+ *   [2] limit of concentration steps of the last stage, 1 to 2^31; default 100
+ *   [3] seed of the MT19937 stream, a whole number from 0 to 2^32 - 1; default 1
+ *
+ * Exact fit: when h observations or more lie on a hyperplane (a subset whose variable
+ * has a variance given the others at or below 2^-40 of its own, the others within
+ * 2^-18 of its spread of it), their covariance is singular and no determinant is
+ * smaller: the search ends, the mean and covariance (divisor count - 1) of all the
+ * observations on the hyperplane are stored and BRENN_SS_ERROR_EXACT_FIT is returned.
+ * @param task the task
+ * @param estimates BRENN_SS_ROBUST_COV (without it nothing is done)
+ * @param method BRENN_SS_METHOD_FASTMCD
+ * @param thr the threading record (starts run through its loop), or null for the
+ *        calling thread
+ * @return BRENN_SS_OK; BRENN_SS_ERROR_TASK_NULL; in this order:
+ *         BRENN_SS_ERROR_OBSERVATIONS_MISSING, BRENN_SS_ERROR_OBSERVATION_COUNT,
+ *         BRENN_SS_ERROR_DIMENSION, BRENN_SS_ERROR_STORAGE_WORD_MISSING (the
+ *         observations' or robustCovStorage), BRENN_SS_ERROR_STORAGE (either word),
+ *         BRENN_SS_ERROR_ROBUST_COV_MISSING, BRENN_SS_ERROR_ROBUST_MEAN_MISSING,
+ *         BRENN_SS_ERROR_ROBUST_PARAM_COUNT (count below 0 or above 4),
+ *         BRENN_SS_ERROR_ROBUST_PARAMS_MISSING (no array for a count above 0),
+ *         BRENN_SS_ERROR_METHOD (also in a build without the random-number service),
+ *         BRENN_SS_ERROR_ALLOC, BRENN_SS_ERROR_OBSERVATION_COUNT (fewer than q + 1
+ *         finite observations), BRENN_SS_ERROR_ROBUST_PARAMS_MISSING (a parameter out
+ *         of its range); after the search BRENN_SS_ERROR_EXACT_FIT (results stored),
+ *         BRENN_SS_ERROR_NO_CONVERGENCE (the best subset still changed at the step
+ *         limit; results stored) or BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE (every
+ *         candidate became singular without h observations on its hyperplane; nothing
+ *         stored). */
+int32_t _qesdSSRobustCovariance(void* task, uint64_t estimates, uint64_t method,
+                                const struct threader* thr);
+/** The single-precision form of _qesdSSRobustCovariance().
+ * @copydetails _qesdSSRobustCovariance */
+int32_t _qessSSRobustCovariance(void* task, uint64_t estimates, uint64_t method,
+                                const struct threader* thr);
+
+/** Outlier detection (BRENN_SS_OUTLIERS) by BACON (Billor, Hadi and Velleman, 2000) on
+ * the variables that the indices keep (q of them). A basic subset of r = ceil(c q)
+ * observations (at least q + 1, at most n) nearest the centre, grown one at a time while
+ * its covariance is singular; then, until the subset's size repeats, the subset becomes
+ * the observations whose Mahalanobis distance from its mean and covariance (divisor
+ * r - 1) is below (c_np + c_hr) chi, with c_np = 1 + (q + 1) / (n - q) +
+ * 2 / (n - 1 - 3q), c_hr = max(0, (h - r) / (h + r)), h = floor((n + q + 1) / 2) and
+ * chi^2 the chi-square quantile of q degrees of freedom with upper tail alpha / n.
+ * outlierWeights[i] is 1 for an observation of the last subset and 0 for an outlier.
+ * Observations with a value that is not finite in a kept variable get weight 0 and take
+ * no other part (n counts the others). The task's weights are not read. Both precisions
+ * compute in double; the distances of each round run through the threader in fixed
+ * blocks, so the weights are the same on any threader.
+ *
+ * outlierParams (count `outlierParamCount`, 0 to 3; absent ones take their default):
+ *   [0] alpha, in (0, 1); default 0.05
+ *   [1] start: BRENN_SS_BACON_INIT_MAHALANOBIS (distances from the mean and covariance
+ *       of all observations) or BRENN_SS_BACON_INIT_MEDIAN (Euclidean distances from
+ *       the coordinate-wise medians); default BRENN_SS_BACON_INIT_MAHALANOBIS
+ *   [2] c, the basic subset's size over q, in (0, 2^31]; default 4
+ * @param task the task
+ * @param estimates BRENN_SS_OUTLIERS (without it nothing is done)
+ * @param method BRENN_SS_METHOD_BACON
+ * @param thr the threading record, or null for the calling thread
+ * @return BRENN_SS_OK; BRENN_SS_ERROR_TASK_NULL; in this order: the observation statuses
+ *         of _qesdSSQuantiles(), BRENN_SS_ERROR_OUTLIER_WEIGHTS_MISSING,
+ *         BRENN_SS_ERROR_OUTLIER_PARAM_COUNT (count below 0 or above 3),
+ *         BRENN_SS_ERROR_OUTLIER_PARAMS_MISSING (no array for a count above 0, or a
+ *         parameter out of its range), BRENN_SS_ERROR_METHOD, BRENN_SS_ERROR_ALLOC,
+ *         BRENN_SS_ERROR_OBSERVATION_COUNT (n at or below 3q + 1, where c_np has no
+ *         meaning); BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE when all observations, or a
+ *         later subset, have a singular covariance (weights not written);
+ *         BRENN_SS_ERROR_NO_CONVERGENCE when the size still changed after n rounds
+ *         (weights of the last subset written). */
+int32_t _qesdSSOutliersDetection(void* task, uint64_t estimates, uint64_t method,
+                                 const struct threader* thr);
+/** The single-precision form of _qesdSSOutliersDetection().
+ * @copydetails _qesdSSOutliersDetection */
+int32_t _qessSSOutliersDetection(void* task, uint64_t estimates, uint64_t method,
+                                 const struct threader* thr);
 
 /** @name Partial, pooled and parametrized covariance, Mahalanobis distances
  * Method BRENN_SS_METHOD_FAST (else BRENN_SS_ERROR_METHOD). Without their estimate bits

@@ -90,52 +90,61 @@ inline void RunOneVariable(int64_t c, int thread, int64_t, void* context) {
     if (own != nullptr) brenn_serv_deallocate(own);
 }
 
+// Runs `work` over items[0, count) (over 0 .. count - 1 with null items), with
+// `scratchBytes` of scratch a thread, through the threader's loop when there is more
+// than one item and thread. Returns 0 or the status of a failure (-4000 when the
+// scratch can't be made).
+inline int32_t ForEachItem(const int64_t* items, int64_t count, size_t scratchBytes,
+                           const threader* thr, int32_t (*work)(VariableLoop*, int64_t, void*),
+                           void* detail) {
+    const bool threaded = thr != nullptr && thr->parallelFor != nullptr;
+    int slots = threaded && thr->maxThreads != nullptr ? thr->maxThreads() : 1;
+    if (slots < 1) slots = 1;
+    // Scratch slots are rounded up to the allocator's alignment, so each starts aligned.
+    scratchBytes = (scratchBytes + 127) & ~size_t(127);
+    // The slots are only as many as the items.
+    int64_t used = slots;
+    if (used > count) used = count;
+    if (used < 1) used = 1;
+    size_t bytes = 0;
+    if (!AddBytesFor(&bytes, used, scratchBytes)) return BRENN_SS_ERROR_ALLOC;
+    char* block = static_cast<char*>(brenn_serv_allocate(bytes > 0 ? bytes : 1, 128));
+    if (block == nullptr) return BRENN_SS_ERROR_ALLOC;
+    VariableLoop loop;
+    loop.act = items;
+    loop.q = count;
+    loop.scratchBytes = scratchBytes;
+    loop.slots = static_cast<int>(used);
+    loop.scratch = block;
+    loop.work = work;
+    loop.detail = detail;
+    loop.status.store(0, std::memory_order_relaxed);
+    if (count > 0) {
+        if (threaded && count > 1 && used > 1)
+            thr->parallelFor(count, 0, &loop, RunOneVariable);
+        else
+            for (int64_t c = 0; c < count; ++c)
+                RunOneVariable(c, 0, count, &loop);
+    }
+    brenn_serv_deallocate(block);
+    return loop.status.load(std::memory_order_relaxed);
+}
+
 // Runs `work` over the variables that `indices` keeps, with `scratchBytes` of scratch a
 // thread; with a null task, over every index below p. Returns 0 or the status of a
 // failure (-4000 when the scratch can't be made).
 inline int32_t ForEachVariable(const SSTask* task, int64_t p, size_t scratchBytes,
                                const threader* thr, int32_t (*work)(VariableLoop*, int64_t, void*),
                                void* detail) {
-    const bool threaded = thr != nullptr && thr->parallelFor != nullptr;
-    int slots = threaded && thr->maxThreads != nullptr ? thr->maxThreads() : 1;
-    if (slots < 1) slots = 1;
-    // Scratch slots are rounded up to the allocator's alignment, so each starts aligned.
-    scratchBytes = (scratchBytes + 127) & ~size_t(127);
+    if (task == nullptr) return ForEachItem(nullptr, p, scratchBytes, thr, work, detail);
     size_t bytes = 0;
     if (!AddBytesFor(&bytes, p, sizeof(int64_t))) return BRENN_SS_ERROR_ALLOC;
-    bytes = (bytes + 127) & ~size_t(127);
-    const size_t head = bytes;
-    int64_t q = 0;
-    // The slots are only as many as the variables.
-    int64_t used = slots;
-    if (used > p) used = p;
-    if (!AddBytesFor(&bytes, used, scratchBytes)) return BRENN_SS_ERROR_ALLOC;
-    char* block = static_cast<char*>(brenn_serv_allocate(bytes, 128));
-    if (block == nullptr) return BRENN_SS_ERROR_ALLOC;
-    int64_t* act = nullptr;
-    q = p;
-    if (task != nullptr) {
-        act = reinterpret_cast<int64_t*>(block);
-        q = ActiveVariables(task, p, act);
-    }
-    VariableLoop loop;
-    loop.act = act;
-    loop.q = q;
-    loop.scratchBytes = scratchBytes;
-    loop.slots = static_cast<int>(used);
-    loop.scratch = block + head;
-    loop.work = work;
-    loop.detail = detail;
-    loop.status.store(0, std::memory_order_relaxed);
-    if (q > 0) {
-        if (threaded && q > 1 && used > 1)
-            thr->parallelFor(q, 0, &loop, RunOneVariable);
-        else
-            for (int64_t c = 0; c < q; ++c)
-                RunOneVariable(c, 0, q, &loop);
-    }
-    brenn_serv_deallocate(block);
-    return loop.status.load(std::memory_order_relaxed);
+    int64_t* act = static_cast<int64_t*>(brenn_serv_allocate(bytes, 128));
+    if (act == nullptr) return BRENN_SS_ERROR_ALLOC;
+    const int64_t q = ActiveVariables(task, p, act);
+    const int32_t status = ForEachItem(act, q, scratchBytes, thr, work, detail);
+    brenn_serv_deallocate(act);
+    return status;
 }
 
 } // namespace brenn::stats
