@@ -22,7 +22,7 @@ int32_t MadWorker(VariableLoop* loop, int64_t j, void* scratch) {
     const MadJob<T>& job = *static_cast<const MadJob<T>*>(loop->detail);
     const int64_t n = job.o.n;
     int64_t* fence = static_cast<int64_t*>(scratch);
-    T* s = reinterpret_cast<T*>(fence + 1);
+    T* s = reinterpret_cast<T*>(fence + FenceCapacity(1));
     GatherVariable(job.o, j, s);
     const T half = T(0.5);
     T median;
@@ -46,8 +46,8 @@ int32_t Mad(void* handle, uint64_t estimates, uint64_t method, T* result, const 
     if (result == nullptr) return BRENN_SS_ERROR_MAD_MISSING;
     if (method != BRENN_SS_METHOD_FAST) return BRENN_SS_ERROR_METHOD;
     job.result = result;
-    // A slot: one fence, then the variable.
-    size_t bytes = sizeof(int64_t);
+    // A slot: the fences of one order, then the variable.
+    size_t bytes = FenceCapacity(1) * sizeof(int64_t);
     if (!AddBytesFor(&bytes, job.o.n, sizeof(T))) return BRENN_SS_ERROR_ALLOC;
     return ForEachVariable(task, job.o.p, bytes, thr, MadWorker<T>, &job);
 }

@@ -1,11 +1,12 @@
 // Exact quantiles of one variable held in a compact scratch. For an order b and n
 // values: h = b (n - 1), j = trunc(h), f = h - j; the quantile is a (1 - f) + f b' with
 // a the j-th smallest value and b' the (j + 1)-th (the j-th again at the top), 1 - f
-// formed first. The j-th comes from a select; every value after it is then at or
-// above it, so the (j + 1)-th is the least of them, found in one pass. The places
-// already selected stay in order (`fences`), and a later order selects only between
-// the two fences around it: the scratch, partly ordered by the earlier orders, is
-// reused and never copied again.
+// formed first. The j-th comes from a select; every value after it up to the nearest
+// pivot above is then at or above it, and everything past that pivot at or above the
+// pivot, so the (j + 1)-th is the least of that short stretch, found in one pass. The
+// places already selected and the pivots placed on the way stay in order (`fences`),
+// and a later order selects only between the two fences around it: the scratch, partly
+// ordered by the earlier orders, is reused and never copied again.
 #ifndef BRENN_STATS_QUANTILE_CORE_H
 #define BRENN_STATS_QUANTILE_CORE_H
 
@@ -33,11 +34,27 @@ T LeastOf(const T* s, int64_t n) {
 }
 
 // The places already selected in a scratch, ascending: everything before a fence is at
-// or below it and everything after at or above it.
+// or below it and everything after at or above it. `reserved` places are kept free for
+// the orders still to come; pivots fill what room is left.
 struct Fences {
     int64_t* at;
-    int64_t count;
+    int64_t count, capacity, reserved;
 };
+
+// Pivot places kept for later orders, besides the orders' own places.
+constexpr int64_t kPivotFences = 64;
+
+// Room for the fences of m orders.
+inline int64_t FenceCapacity(int64_t m) {
+    return m + kPivotFences;
+}
+
+// Inserts place k before the fence at index i.
+inline void AddFence(Fences& f, int64_t i, int64_t k) {
+    memmove(f.at + i + 1, f.at + i, (f.count - i) * sizeof(int64_t));
+    f.at[i] = k;
+    ++f.count;
+}
 
 // The index in f of the first fence at or above k.
 inline int64_t FirstFenceFrom(const Fences& f, int64_t k) {
@@ -53,26 +70,31 @@ inline int64_t FirstFenceFrom(const Fences& f, int64_t k) {
 }
 
 // Puts the k-th smallest of s[0, n) at s[k], selecting only between the fences around
-// k, and records k as a fence; returns the first fence above k (n if none).
+// k, and records k (one of the reserved places) and the pivots as fences; returns the
+// nearest fence or pivot above k (n if none).
 template <typename T>
 int64_t SelectFenced(T* s, int64_t n, int64_t k, Fences& f) {
+    --f.reserved;
     const int64_t i = FirstFenceFrom(f, k);
     if (i < f.count && f.at[i] == k) return i + 1 < f.count ? f.at[i + 1] : n;
     const int64_t below = i > 0 ? f.at[i - 1] : -1;
     const int64_t above = i < f.count ? f.at[i] : n;
-    SelectRange(Contiguous<T>{s}, below + 1, above - 1, k);
-    memmove(f.at + i + 1, f.at + i, (f.count - i) * sizeof(int64_t));
-    f.at[i] = k;
-    ++f.count;
-    return above;
+    // k's own place comes out of the room the pivots may take.
+    const int64_t room = f.capacity - f.reserved - 1;
+    const int64_t next = SelectRange(Contiguous<T>{s}, below + 1, above - 1, k, [&](int64_t j) {
+        if (j != k && f.count < room) AddFence(f, FirstFenceFrom(f, j), j);
+    });
+    AddFence(f, FirstFenceFrom(f, k), k);
+    return next;
 }
 
 // The quantiles of `m` orders of s[0, n) into out[0, m); the orders are in [0, 1].
-// `fences` has room for m places. With `sorted` the scratch is already in order.
+// `fenceMemory` has room for FenceCapacity(m) places. With `sorted` the scratch is
+// already in order.
 template <typename T>
 void QuantilesOf(T* s, int64_t n, const T* orders, int64_t m, T* out, int64_t* fenceMemory,
                  bool sorted) {
-    Fences f{fenceMemory, 0};
+    Fences f{fenceMemory, 0, FenceCapacity(m), m};
     for (int64_t k = 0; k < m; ++k) {
         // The place is found in double whatever T, so that a single-precision order
         // over many observations still names the right element.

@@ -27,7 +27,7 @@ int32_t QuantileWorker(VariableLoop* loop, int64_t j, void* scratch) {
     const QuantileJob<T>& q = *static_cast<const QuantileJob<T>*>(loop->detail);
     const int64_t n = q.o.n;
     int64_t* fences = static_cast<int64_t*>(scratch);
-    T* s = reinterpret_cast<T*>(fences + q.m);
+    T* s = reinterpret_cast<T*>(fences + FenceCapacity(q.m));
     GatherVariable(q.o, j, s);
     if (q.orderStatistics != nullptr) {
         QuickSort(Contiguous<T>{s}, n);
@@ -82,7 +82,8 @@ int32_t Quantiles(void* handle, uint64_t estimates, uint64_t method, const threa
     if (!wantStatistics && (!wantQuantiles || job.m == 0)) return BRENN_SS_OK;
     // A slot holds the fences of the m orders, then the variable.
     size_t bytes = 0;
-    if (!AddBytesFor(&bytes, job.m, sizeof(int64_t)) || !AddBytesFor(&bytes, job.o.n, sizeof(T)))
+    if (!AddBytesFor(&bytes, FenceCapacity(job.m), sizeof(int64_t)) ||
+        !AddBytesFor(&bytes, job.o.n, sizeof(T)))
         return BRENN_SS_ERROR_ALLOC;
     return ForEachVariable(task, job.o.p, bytes, thr, QuantileWorker<T>, &job);
 }
