@@ -12,6 +12,7 @@
 #include "rng/dist/framed.h"
 #include "rng/dist/gamma.h"
 #include "rng/dist/pair_chunk.h"
+#include "rng/dist/setup_ln_lanes.h"
 
 namespace brenn::rng {
 
@@ -75,12 +76,29 @@ struct Squeeze {
     // The test uniform of trial i in its round's words.
     static T Test(const T* words, int32_t i) { return words[2 * i + 2 - (i & 1)]; }
     // The logarithmic test of a trial whose t is positive and which the squeeze left
-    // open: d v or -1.
+    // open, given ln v and ln u: d v or -1.
+    T Decide(T x, T lnv, T lnu) const {
+        T t = c * x + T(1), v = t * t * t, x2 = x * x;
+        T w = T(0.5) * x2 + d * (T(1) - v + lnv);
+        return w > lnu ? d * v : T(-1);
+    }
     T Slow(T x, T u) const {
         using G = GammaOf<T>;
-        T t = c * x + T(1), v = t * t * t, x2 = x * x;
-        T w = T(0.5) * x2 + d * (T(1) - v + G::ScalarLn(v));
-        return w > G::ScalarLn(u) ? d * v : T(-1);
+        T t = c * x + T(1), v = t * t * t;
+        return Decide(x, G::ScalarLn(v), G::ScalarLn(u));
+    }
+    // The tests of the open trials, their v and u side by side in `logs` (in double,
+    // in which the single logarithm is taken too), the logarithms two lanes at a time.
+    void Decided(int32_t opened, const int32_t* open, const T* normal, const T* words, double* logs,
+                 T* value) const {
+        for (int32_t j = 0; j < opened; ++j) {
+            T t = c * normal[open[j]] + T(1);
+            logs[2 * j] = t * t * t;
+            logs[2 * j + 1] = Test(words, open[j]);
+        }
+        SetupLnLanes(2 * opened, logs);
+        for (int32_t j = 0; j < opened; ++j)
+            value[open[j]] = Decide(normal[open[j]], T(logs[2 * j]), T(logs[2 * j + 1]));
     }
     T Trial(T x, T u) const {
         T t = c * x + T(1);
@@ -118,6 +136,7 @@ int32_t SqueezeWay(void* stream, int32_t n, T* r, T alpha) {
     // Trial 2j is the sine normal of pair j with its test uniform, 2j + 1 the cosine's.
     T normal[kTrials], value[kTrials];
     int32_t open[kTrials];
+    double logs[2 * kTrials];
     const T twoPi = C::TwoPi();
     while (written < n) {
         int32_t k = Min(n - written, kTrials);
@@ -137,8 +156,7 @@ int32_t SqueezeWay(void* stream, int32_t n, T* r, T alpha) {
         // The squeeze of every trial at once, branch-free; then the logarithmic tests of
         // the trials it left open, in a row of their own.
         const int32_t opened = q.Squeezed(pairs, radius, sine, cosine, words, normal, value, open);
-        for (int32_t j = 0; j < opened; ++j)
-            value[open[j]] = q.Slow(normal[open[j]], q.Test(words, open[j]));
+        q.Decided(opened, open, normal, words, logs, value);
         if (k <= n - written) {
             // All k may be taken: the accepted ones go out without a branch.
             for (int32_t i = 0; i < k; ++i) {

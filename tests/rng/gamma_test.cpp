@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <limits>
 #include <random>
 #include <vector>
 
@@ -12,6 +13,7 @@
 
 #include "brenn_rng.h"
 #include "platform/serv.h"
+#include "rng/dist/setup_ln_lanes.h"
 #include "tests/rng/caller_settings.h"
 #include "tests/rng/continuous_ref.h"
 #include "tests/rng/toy_brng.h"
@@ -219,6 +221,48 @@ void ExpectTranscriptions() {
 TEST(RngGamma, EachWayIsItsTranscription) {
     ExpectTranscriptions<double>();
     ExpectTranscriptions<float>();
+}
+
+// The squeeze's slow tests take the scalar logarithm two lanes at a time: the same bits
+// as __qesdLn on every argument, whichever lane it sits in and whatever its partner
+// (subnormals, zeros, negatives, NaNs and infinities send the pair to __qesdLn).
+TEST(RngGamma, SlowTestLogarithmsAreTheScalarOnes) {
+    std::vector<double> x = {0x1p-1022,
+                             0x1.fffffffffffffp-1023,
+                             0x1p-1074,
+                             0.0,
+                             -0.0,
+                             -1.0,
+                             std::numeric_limits<double>::quiet_NaN(),
+                             std::numeric_limits<double>::signaling_NaN(),
+                             std::numeric_limits<double>::infinity(),
+                             std::numeric_limits<double>::max(),
+                             1.0,
+                             1.0 + 0x1p-7,
+                             1.0 - 0x1p-7,
+                             std::nextafter(1.0 + 0x1p-7, 2.0),
+                             std::nextafter(1.0 - 0x1p-7, 0.0),
+                             std::nextafter(1.0, 0.0),
+                             2.0,
+                             std::nextafter(2.0, 0.0),
+                             0.5,
+                             1e-300,
+                             1e300};
+    std::mt19937_64 bits(5);
+    for (int i = 0; i < 2000; ++i) {
+        const double u = std::ldexp(double(bits() >> 11), -53);
+        x.push_back(i % 2 ? u : std::pow(u, 3.0) * 40.0);
+    }
+    for (size_t shift = 0; shift < 3; ++shift) {
+        std::vector<double> y(x.begin() + shift, x.end());
+        std::vector<double> want(y.size());
+        for (size_t i = 0; i < y.size(); ++i)
+            want[i] = __qesdLn(y[i]);
+        brenn::rng::SetupLnLanes(int32_t(y.size()), y.data());
+        for (size_t i = 0; i < y.size(); ++i)
+            ASSERT_EQ(std::bit_cast<uint64_t>(y[i]), std::bit_cast<uint64_t>(want[i]))
+                << "x " << x[i + shift] << " shift " << shift;
+    }
 }
 
 // Alpha 1 and above, and ChiSquare over Gamma: the leftover trial waits in the chunk,
