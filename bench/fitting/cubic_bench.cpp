@@ -10,6 +10,7 @@
 #include <random>
 #include <vector>
 
+#include "bench/fitting/knots.h"
 #include "brenn_fitting.h"
 #include "platform/threader.h"
 
@@ -23,14 +24,7 @@ struct Data {
     Data() {
         std::mt19937_64 rng(3);
         std::uniform_real_distribution<double> u(0, 1);
-        x.resize(kKnots);
-        double acc = 0;
-        for (auto& v : x) {
-            v = acc;
-            acc += 0.5 + u(rng);
-        }
-        for (auto& v : x)
-            v /= x.back();
+        x = JitteredKnots(kKnots, rng);
         y.resize(kKnots);
         slopes.resize(kKnots);
         for (auto& v : y)

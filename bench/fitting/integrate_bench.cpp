@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "bench/fitting/knots.h"
 #include "brenn_fitting.h"
 #include "platform/threader.h"
 
@@ -32,14 +33,7 @@ struct Data {
     Data() {
         std::mt19937_64 rng(3);
         std::uniform_real_distribution<double> u(0, 1);
-        x.resize(kKnots);
-        double acc = 0;
-        for (auto& v : x) {
-            v = acc;
-            acc += 0.5 + u(rng);
-        }
-        for (auto& v : x)
-            v /= x.back();
+        x = JitteredKnots(kKnots, rng);
         y.resize(kKnots);
         for (auto& v : y)
             v = u(rng);
@@ -109,8 +103,8 @@ BENCHMARK(BM_GslEvalInteg)->Arg(0)->Arg(1)->Iterations(1)->Unit(benchmark::kMill
 void BM_ScipyAntiderivative(benchmark::State& state) {
     int which = static_cast<int>(state.range(0));
     state.SetLabel(which ? "short" : "random");
-    std::string command = std::string("/usr/bin/python3 ") + BRENN_SCIPY_TIMING +
-                          (which ? " short" : " random");
+    std::string command =
+        std::string("/usr/bin/python3 ") + BRENN_SCIPY_TIMING + (which ? " short" : " random");
     for (auto _ : state) {
         double seconds = -1;
         if (FILE* p = popen(command.c_str(), "r")) {
