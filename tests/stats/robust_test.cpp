@@ -380,5 +380,146 @@ TYPED_TEST(RobustTest, StatusesInTheirOrder) {
     EXPECT_EQ(t.weights[0], Task::kUntouched);
 }
 
+TYPED_TEST(RobustTest, SameBitsForLayoutsThreadersAndDefaults) {
+    using T = TypeParam;
+    // 300 observations take the one-stage search, 2500 the nested subsets.
+    for (int64_t n : {300, 2500}) {
+        const int64_t q = 4;
+        std::vector<double> x = Normal(q, n, n / 5, 6, n);
+        std::vector<uint64_t> first;
+        const threader* thrs[] = {nullptr, brenn_serv_serial_threader(),
+                                  brenn_serv_pool_threader()};
+        for (int64_t layout : {kRows, kCols})
+            for (const threader* thr : thrs)
+                for (bool spelled : {false, true}) {
+                    RobustTask<T> t(q, n, layout, Laid<T>(x, q, n, layout));
+                    // The defaults spelled out give what absent parameters give.
+                    if (spelled) t.Params({T((n + q + 1) / 2 + 0.5) / T(n), T(500), T(100), T(1)});
+                    ASSERT_EQ(t.Mcd(thr), 0);
+                    if (spelled) t.Params({T(0.05), T(BRENN_SS_BACON_INIT_MAHALANOBIS), T(4)});
+                    ASSERT_EQ(t.Bacon(thr), 0);
+                    std::vector<T> all = t.mean;
+                    all.insert(all.end(), t.cov.begin(), t.cov.end());
+                    all.insert(all.end(), t.weights.begin(), t.weights.end());
+                    std::vector<uint64_t> bits = Bits(all);
+                    if (first.empty())
+                        first = bits;
+                    else
+                        EXPECT_EQ(bits, first) << "n " << n << " layout " << layout;
+                }
+    }
+}
+
+TYPED_TEST(RobustTest, IndicesPackedFormsAndNonFiniteObservations) {
+    using T = TypeParam;
+    const int64_t q = 3, n = 120;
+    std::vector<double> x = Normal(q, n, 20, 5, 9);
+    RobustTask<T> plain(q, n, kCols, Laid<T>(x, q, n, kCols));
+    ASSERT_EQ(plain.Mcd(), 0);
+    ASSERT_EQ(plain.Bacon(), 0);
+    // Two extra variables (0 and 3 of 5) left out by the indices, holding NaNs that
+    // must not be read; then a row of non-finite values in kept variables, left out.
+    const T nan = std::numeric_limits<T>::quiet_NaN();
+    const T snan = std::numeric_limits<T>::signaling_NaN();
+    const T inf = std::numeric_limits<T>::infinity();
+    const int64_t p = 5, m = n + 3;
+    std::vector<T> wide(p * m);
+    for (int64_t i = 0; i < m; ++i)
+        for (int64_t j = 0; j < p; ++j) {
+            const int64_t a = j == 1 ? 0 : j == 2 ? 1 : 2, src = i < 2 ? 0 : i == 2 ? 0 : i - 3;
+            wide[j * m + i] = j == 0 || j == 3 ? nan : T(x[src * q + a]);
+        }
+    // Rows 0, 1 and 2 carry a signalling NaN, an infinity and a quiet NaN.
+    wide[1 * m + 0] = snan, wide[2 * m + 1] = -inf, wide[4 * m + 2] = nan;
+    for (int64_t form : {BRENN_SS_MATRIX_STORAGE_FULL, BRENN_SS_MATRIX_STORAGE_U_PACKED,
+                         BRENN_SS_MATRIX_STORAGE_L_PACKED}) {
+        RobustTask<T> t(p, m, kRows, wide, {0, 1, 1, 0, 1});
+        t.covStorage = form;
+        ASSERT_EQ(t.Mcd(), 0);
+        ASSERT_EQ(t.Bacon(), 0);
+        const int64_t map[3] = {1, 2, 4};
+        for (int64_t a = 0; a < q; ++a) {
+            EXPECT_EQ(t.mean[map[a]], plain.mean[a]);
+            for (int64_t b = 0; b < q; ++b) {
+                const int64_t j = map[a], l = map[b];
+                int64_t at = j * p + l;
+                if (form == BRENN_SS_MATRIX_STORAGE_U_PACKED)
+                    at = std::min(j, l) * (2 * p - std::min(j, l) + 1) / 2 +
+                         (std::max(j, l) - std::min(j, l));
+                if (form == BRENN_SS_MATRIX_STORAGE_L_PACKED)
+                    at = std::max(j, l) * (std::max(j, l) + 1) / 2 + std::min(j, l);
+                EXPECT_EQ(t.cov[at], plain.cov[a * q + b]) << "form " << form;
+            }
+        }
+        EXPECT_EQ(t.mean[0], RobustTask<T>::kUntouched);
+        EXPECT_EQ(t.mean[3], RobustTask<T>::kUntouched);
+        if (form == BRENN_SS_MATRIX_STORAGE_FULL) EXPECT_EQ(t.cov[0], RobustTask<T>::kUntouched);
+        for (int64_t i = 0; i < m; ++i)
+            EXPECT_EQ(t.weights[i], i < 3 ? T(0) : plain.weights[i - 3]) << i;
+    }
+}
+
+TYPED_TEST(RobustTest, PowersOfTwoScaleExactlyToTheEndsOfTheRange) {
+    using T = TypeParam;
+    const int64_t q = 3, n = 200;
+    std::vector<double> x = Normal(q, n, 30, 5, 11);
+    // 2^k x: every sum and square scales by a power of two, so the results do exactly,
+    // up to squares near the largest and smallest normal numbers of the type.
+    const int big = sizeof(T) == 8 ? 480 : 56;
+    RobustTask<T> one(q, n, kCols, Laid<T>(x, q, n, kCols));
+    ASSERT_EQ(one.Mcd(), 0);
+    ASSERT_EQ(one.Bacon(), 0);
+    for (int k : {big, -big}) {
+        std::vector<double> y = x;
+        for (double& v : y)
+            v = std::ldexp(v, k);
+        RobustTask<T> t(q, n, kCols, Laid<T>(y, q, n, kCols));
+        ASSERT_EQ(t.Mcd(), 0);
+        ASSERT_EQ(t.Bacon(), 0);
+        for (int64_t a = 0; a < q; ++a) {
+            EXPECT_EQ(t.mean[a], std::ldexp(one.mean[a], k)) << k;
+            for (int64_t b = 0; b < q; ++b)
+                EXPECT_EQ(t.cov[a * q + b], std::ldexp(one.cov[a * q + b], 2 * k)) << k;
+        }
+        EXPECT_EQ(t.weights, one.weights);
+    }
+}
+
+TYPED_TEST(RobustTest, StepLimitReportsNoConvergenceWithResults) {
+    using T = TypeParam;
+    // Heavy overlap: the best subset keeps changing for more than one step.
+    int64_t unsettled = 0;
+    for (uint64_t seed = 0; seed < 10; ++seed) {
+        std::vector<double> x = Normal(5, 400, 150, 1.5, seed);
+        RobustTask<T> t(5, 400, kCols, Laid<T>(x, 5, 400, kCols));
+        t.Params({T(0.5), T(4), T(1)});
+        const int32_t s = t.Mcd();
+        ASSERT_TRUE(s == 0 || s == BRENN_SS_ERROR_NO_CONVERGENCE) << s;
+        if (s == BRENN_SS_ERROR_NO_CONVERGENCE) {
+            ++unsettled;
+            EXPECT_NE(t.mean[0], RobustTask<T>::kUntouched);
+            EXPECT_NE(t.cov[24], RobustTask<T>::kUntouched);
+        }
+    }
+    EXPECT_GT(unsettled, 0);
+}
+
+TYPED_TEST(RobustTest, EachAllocationFailingInTurn) {
+    using T = TypeParam;
+    for (int64_t n : {50, 700}) {
+        std::vector<double> x = Normal(3, n, n / 10, 5, 2);
+        for (int entry = 0; entry < 2; ++entry) {
+            RobustTask<T> t(3, n, kCols, Laid<T>(x, 3, n, kCols));
+            t.Params(entry == 0 ? std::vector<T>{T(0.6), T(20)} : std::vector<T>{T(0.05)});
+            SweepAllocationFailures([&] {
+                const threader* pool = brenn_serv_pool_threader();
+                const int32_t s = entry == 0 ? t.Mcd(pool) : t.Bacon(pool);
+                EXPECT_TRUE(s == 0 || s == BRENN_SS_ERROR_ALLOC) << s;
+                return s == 0;
+            });
+        }
+    }
+}
+
 } // namespace
 } // namespace brenn::test
