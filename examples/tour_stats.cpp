@@ -51,6 +51,27 @@ static void TourOrderStatistics(std::vector<double>& x, int64_t p, int64_t n) {
     _qesSSDeleteTask(&task);
 }
 
+// Outliers: the first two variables with every thousandth observation moved 10 standard
+// deviations up in the second, nominated by BACON (weight 0) with its defaults.
+static void TourOutliers(const std::vector<double>& x, int64_t p, int64_t n) {
+    int64_t two = 2, layout = BRENN_SS_MATRIX_STORAGE_COLS, none = 0, flagged = 0, planted = 0;
+    std::vector<double> y(2 * n), weights(n);
+    for (int64_t i = 0; i < n; ++i)
+        y[2 * i] = x[i * p], y[2 * i + 1] = x[i * p + 1] + (i % 1000 == 0 ? 10 : 0);
+    void* task = nullptr;
+    if (_qesdSSNewTask(&task, &two, &n, &layout, y.data(), nullptr, nullptr, 1) != 0) return;
+    __qesdSSEditOutDetect(task, &none, nullptr, weights.data());
+    int s = _qesdSSOutliersDetection(task, BRENN_SS_OUTLIERS, BRENN_SS_METHOD_BACON, nullptr);
+    _qesSSDeleteTask(&task);
+    for (int64_t i = 0; i < n; ++i) {
+        flagged += weights[i] == 0;
+        planted += weights[i] == 0 && i % 1000 == 0;
+    }
+    std::printf("  outliers (BACON): status %d, %lld nominated, %lld of the %lld planted\n", s,
+                static_cast<long long>(flagged), static_cast<long long>(planted),
+                static_cast<long long>((n + 999) / 1000));
+}
+
 void TourStatistics() {
     // Three variables over 20000 observations, one observation contiguous: a noise
     // source, a variable that follows it, and one that is skewed (exponential).
@@ -87,4 +108,5 @@ void TourStatistics() {
     // The exponential variable has skewness 2 and excess kurtosis 6; the first two
     // correlate at 0.8.
     TourOrderStatistics(x, p, n);
+    TourOutliers(x, p, n);
 }
