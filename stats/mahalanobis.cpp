@@ -110,7 +110,7 @@ int32_t MahDistance(void* handle, uint64_t estimates, uint64_t method, T* result
             for (int64_t i = 0; i < job.o.n; ++i)
                 result[i] = T(0);
         else
-            status = ForEachVariable(nullptr, blocks, scratch, thr, MahBlock<T>, &job);
+            status = ForEachItem(nullptr, blocks, scratch, thr, MahBlock<T>, &job);
     }
     brenn_serv_deallocate(block);
     return status;

@@ -110,12 +110,12 @@ int32_t Partial(void* handle, uint64_t estimates, uint64_t method, const threade
         if (wantCov)
             StoreMatrix(static_cast<T*>(task->partialCov), covForm, ny, order, ny, syy, T(1));
         if (wantCor) {
-            // r_ab = s_ab / sqrt(s_aa s_bb), the diagonal's roots kept in szz.
+            // r_ab = s_ab / sqrt(s_aa s_bb), the diagonal's roots kept in szz; r_aa = 1.
             for (int64_t a = 0; a < ny; ++a)
                 szz[a] = sqrt(syy[a + a * ny]);
             for (int64_t b = 0; b < ny; ++b)
                 for (int64_t a = b; a < ny; ++a)
-                    syy[a + b * ny] = syy[a + b * ny] / (szz[a] * szz[b]);
+                    syy[a + b * ny] = a == b ? T(1) : syy[a + b * ny] / (szz[a] * szz[b]);
             StoreMatrix(static_cast<T*>(task->partialCor), corForm, ny, order, ny, syy, T(1));
         }
     }

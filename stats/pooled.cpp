@@ -144,7 +144,7 @@ int32_t Pooled(void* handle, uint64_t estimates, uint64_t method, const threader
         if (!AddBytesFor(&scratch, q * (kBlock + 1), sizeof(T)))
             status = BRENN_SS_ERROR_ALLOC;
         else
-            status = ForEachVariable(nullptr, g, scratch, thr, GroupWork<T>, &job);
+            status = ForEachItem(nullptr, g, scratch, thr, GroupWork<T>, &job);
     }
     if (status == BRENN_SS_OK && q > 0) {
         if (wantGroups) {
