@@ -12,6 +12,7 @@
 #include "rng/dist/framed.h"
 #include "rng/dist/gamma.h"
 #include "rng/dist/pair_chunk.h"
+#include "rng/dist/pair_passes.h"
 #include "rng/dist/setup_ln_lanes.h"
 
 namespace brenn::rng {
@@ -150,8 +151,7 @@ int32_t SqueezeWay(void* stream, int32_t n, T* r, T alpha) {
         }
         C::SinCos(pairs, angle, sine, cosine);
         C::Ln(pairs, radius);
-        for (int32_t j = 0; j < pairs; ++j)
-            radius[j] = -(radius[j] + radius[j]);
+        MinusTwice(pairs, radius);
         C::Sqrt(pairs, radius);
         // The squeeze of every trial at once, branch-free; then the logarithmic tests of
         // the trials it left open, in a row of their own.
