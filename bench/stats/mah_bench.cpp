@@ -1,0 +1,74 @@
+// Mahalanobis distances of 10^6 observations of 32 variables (observation-major) from
+// their mean, beside scipy's cdist(..., 'mahalanobis', VI=...) timed by
+// mah_scipy_timing.py in the same run (process CPU time on both sides, best run). The
+// library runs on the calling thread (null threader) for the ratio, and on the pool
+// for the record. Prints ours / scipy after the table.
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+#include <cstdio>
+#include <vector>
+
+#include "bench/stats/peer_timing.h"
+#include "brenn_stats.h"
+#include "platform/threader.h"
+
+namespace {
+
+constexpr int64_t kN = 1000000, kP = 32;
+
+struct Problem {
+    std::vector<double> x, mean, cov, d;
+    void* task = nullptr;
+    int64_t p = kP, n = kN, layout = BRENN_SS_MATRIX_STORAGE_COLS, full = 0;
+    Problem() : x(kN * kP), mean(kP), cov(kP * kP), d(kN) {
+        for (int64_t i = 0; i < kN; ++i)
+            for (int64_t j = 0; j < kP; ++j)
+                x[i * kP + j] =
+                    std::sin(i * 0.7 + j * 1.3) + 0.25 * std::cos(i * (0.11 + 0.01 * j));
+        _qesdSSNewTask(&task, &p, &n, &layout, x.data(), nullptr, nullptr, 1);
+        _qesdSSEditTask(task, BRENN_SS_ED_MEAN, mean.data());
+        _qesdSSEditTask(task, BRENN_SS_ED_COV, cov.data());
+        _qesiSSEditTask(task, BRENN_SS_ED_COV_STORAGE, &full);
+        _qesdSSBasic(task, BRENN_SS_MEAN | BRENN_SS_COV, BRENN_SS_METHOD_ONE_PASS_B, nullptr);
+    }
+    ~Problem() { _qesSSDeleteTask(&task); }
+};
+
+Problem& Shared() {
+    static Problem problem;
+    return problem;
+}
+
+void Ours(benchmark::State& state, const threader* thr) {
+    Problem& p = Shared();
+    for (auto _ : state) {
+        int32_t s =
+            _qesdSSMahDistance(p.task, BRENN_SS_MAH_DIST, BRENN_SS_METHOD_FAST, p.d.data(), thr);
+        if (s != 0) state.SkipWithError("status");
+        benchmark::DoNotOptimize(p.d.data());
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    benchmark::Initialize(&argc, argv);
+    brenn::bench::RegisterPeerTimes(BRENN_MAH_SCIPY_TIMING);
+    Shared();
+    benchmark::RegisterBenchmark("brenn_mahalanobis_1e6x32", Ours, nullptr)
+        ->Unit(benchmark::kMillisecond)
+        ->MeasureProcessCPUTime()
+        ->Repetitions(5);
+    benchmark::RegisterBenchmark("brenn_mahalanobis_1e6x32_pool", Ours, brenn_serv_pool_threader())
+        ->Unit(benchmark::kMillisecond)
+        ->MeasureProcessCPUTime()
+        ->Repetitions(3);
+    brenn::bench::Recorder recorder;
+    recorder.cpuTime = true;
+    benchmark::RunSpecifiedBenchmarks(&recorder);
+    std::printf("\n");
+    recorder.Ratio("brenn_mahalanobis_1e6x32", "scipy_cdist_mahalanobis_1e6x32");
+    benchmark::Shutdown();
+    return 0;
+}
