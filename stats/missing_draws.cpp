@@ -7,7 +7,6 @@
 
 #include "brenn_rng.h"
 #include "brenn_stats.h"
-#include "platform/blas.h"
 #include "platform/lapack.h"
 
 // The random-number entries by weak reference, so that a build without the random-number
@@ -109,9 +108,14 @@ int32_t DrawParameters(Model* m, void* stream, double* completedMean, double* wo
     for (int64_t col = 0; col < q; ++col)
         for (int64_t row = 0; row <= col; ++row)
             x[row + col * q] = c[col + row * q];
-    brenn_lapack_xdtrtrs("L", "N", "N", &qi, &qi, a, &qi, x, &qi, &info);
-    const double one = 1.0, zero = 0.0;
-    brenn_blas_xdsyrk("L", "T", &qi, &qi, &one, x, &qi, &zero, m->cov, &qi);
+    SolveLower(a, q, x, q, false);
+    for (int64_t col = 0; col < q; ++col)
+        for (int64_t row = col; row < q; ++row) {
+            double t = 0.0;
+            for (int64_t k = 0; k < q; ++k)
+                t += x[k + row * q] * x[k + col * q];
+            m->cov[row + col * q] = t;
+        }
     MirrorLower(m->cov, q);
     if ((status = Gaussians(stream, q, z)) != 0) return status;
     const double root = 1.0 / sqrt(static_cast<double>(n));

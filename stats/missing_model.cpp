@@ -8,7 +8,6 @@
 #include <string.h>
 
 #include "brenn_stats.h"
-#include "platform/blas.h"
 #include "platform/lapack.h"
 
 namespace brenn::stats::missing {
@@ -18,18 +17,17 @@ size_t Align(size_t b) {
     return (b + 127) & ~size_t(127);
 }
 
-// Chunks of `count` items: the chunk's first item is c * count / chunks.
-int64_t ChunkCount(int64_t count) {
-    return count < kChunks ? count : kChunks;
-}
+// The chunk's first item is c * count / chunks.
 int64_t ChunkBegin(int64_t c, int64_t count, int64_t chunks) {
     return static_cast<int64_t>((static_cast<unsigned __int128>(c) * count) / chunks);
 }
 
-// Rows of the completed-sum passes: chunks of at least kSubRows rows.
-int64_t RowChunks(int64_t n) {
-    int64_t c = (n + kSubRows - 1) / kSubRows;
-    return c < kChunks ? c : kChunks;
+// Chunks of work: at most kChunks, each of at least kChunkRows rows, so that small
+// data sets stay on the calling thread.
+int64_t Chunks(int64_t rows, int64_t most) {
+    int64_t c = (rows + kChunkRows - 1) / kChunkRows;
+    if (c > most) c = most;
+    return c < 1 ? 1 : c;
 }
 
 struct FillJob {
@@ -81,10 +79,15 @@ int32_t FillPatterns(void* context, int64_t chunk, void* scratch) {
                     b[a + c * qo] = m.cov[obs[a] + mis[c] * q];
             brenn_lapack_xdpotrf("L", &qo, soo, &qo, &info);
             if (info != 0) return BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE;
-            brenn_lapack_xdtrtrs("L", "N", "N", &qo, &qm, soo, &qo, b, &qo, &info);
-            const double minusOne = -1.0, one = 1.0;
-            brenn_blas_xdsyrk("L", "T", &qm, &qo, &minusOne, b, &qo, &one, cc, &qm);
-            brenn_lapack_xdtrtrs("L", "T", "N", &qo, &qm, soo, &qo, b, &qo, &info);
+            SolveLower(soo, qo, b, qm, false);
+            for (int c = 0; c < qm; ++c)
+                for (int a = c; a < qm; ++a) {
+                    double t = 0.0;
+                    for (int k = 0; k < qo; ++k)
+                        t += b[k + a * qo] * b[k + c * qo];
+                    cc[a + c * qm] -= t;
+                }
+            SolveLower(soo, qo, b, qm, true);
         }
         const int64_t first = m.patternStart[pt], rows = m.patternStart[pt + 1] - first;
         if (acc != nullptr) {
@@ -140,17 +143,33 @@ int32_t SumRows(void* context, int64_t chunk, void* scratch) {
     double* cp = out + q;
     memset(cp, 0, q * q * sizeof(double));
     double* d = static_cast<double*>(scratch);
-    const int qi = static_cast<int>(q);
-    const double one = 1.0;
+    // The products by plain loops in a fixed order: a call of the BLAS this small costs
+    // more in its own threads' wake-ups than in arithmetic.
     for (int64_t s = i0; s < i1; s += kSubRows) {
-        const int rows = static_cast<int>(std::min(kSubRows, i1 - s));
+        const int64_t rows = std::min(kSubRows, i1 - s);
         for (int64_t c = 0; c < q; ++c) {
             const double* v = m.y + c * n + s;
             const double mu = job.mean[c];
-            for (int k = 0; k < rows; ++k)
+            for (int64_t k = 0; k < rows; ++k)
                 d[k + c * rows] = v[k] - mu;
         }
-        brenn_blas_xdsyrk("L", "T", &qi, &rows, &one, d, &rows, &one, cp, &qi);
+        for (int64_t b = 0; b < q; ++b) {
+            const double* db = d + b * rows;
+            for (int64_t a = b; a < q; ++a) {
+                const double* da = d + a * rows;
+                double t0 = 0.0, t1 = 0.0, t2 = 0.0, t3 = 0.0;
+                int64_t k = 0;
+                for (; k + 4 <= rows; k += 4) {
+                    t0 += da[k] * db[k];
+                    t1 += da[k + 1] * db[k + 1];
+                    t2 += da[k + 2] * db[k + 2];
+                    t3 += da[k + 3] * db[k + 3];
+                }
+                for (; k < rows; ++k)
+                    t0 += da[k] * db[k];
+                cp[a + b * q] += (t0 + t1) + (t2 + t3);
+            }
+        }
     }
     return 0;
 }
@@ -255,7 +274,12 @@ void GroupPatterns(Model* m) {
 
 int32_t FillMissing(Model* m, const double* z) {
     const int64_t q = m->q;
-    FillJob job{m, z, ChunkCount(m->patterns)};
+    if (m->patterns == 0) {
+        memset(m->condSum, 0, q * q * sizeof(double));
+        return 0;
+    }
+    const int64_t most = m->patterns < kChunks ? m->patterns : kChunks;
+    FillJob job{m, z, Chunks(m->patternStart[m->patterns], most)};
     int32_t status = ForEachChunk(&m->scratch, job.chunks, FillPatterns, &job);
     if (status != 0 || z != nullptr) return status;
     memset(m->condSum, 0, q * q * sizeof(double));
@@ -269,7 +293,7 @@ int32_t FillMissing(Model* m, const double* z) {
 
 int32_t CompletedSums(Model* m, double* mean, double* scatter) {
     const int64_t q = m->q;
-    SumJob job{m, nullptr, RowChunks(m->n)};
+    SumJob job{m, nullptr, Chunks(m->n, kChunks)};
     int32_t status = ForEachChunk(&m->scratch, job.chunks, SumRows, &job);
     if (status != 0) return status;
     for (int64_t c = 0; c < q; ++c) {
@@ -336,6 +360,27 @@ int32_t RunEm(Model* m, int64_t limit, double tol, double* oldMean, double* oldC
         if (Converged(*m, oldMean, oldCov, tol)) return 0;
     }
     return BRENN_SS_ERROR_NO_CONVERGENCE;
+}
+
+void SolveLower(const double* l, int64_t q, double* b, int64_t columns, bool transposed) {
+    for (int64_t c = 0; c < columns; ++c) {
+        double* x = b + c * q;
+        if (!transposed) {
+            for (int64_t i = 0; i < q; ++i) {
+                double t = x[i];
+                for (int64_t k = 0; k < i; ++k)
+                    t -= l[i + k * q] * x[k];
+                x[i] = t / l[i + i * q];
+            }
+        } else {
+            for (int64_t i = q - 1; i >= 0; --i) {
+                double t = x[i];
+                for (int64_t k = i + 1; k < q; ++k)
+                    t -= l[k + i * q] * x[k];
+                x[i] = t / l[i + i * q];
+            }
+        }
+    }
 }
 
 void MirrorLower(double* a, int64_t q) {

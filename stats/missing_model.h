@@ -15,6 +15,8 @@ namespace brenn::stats::missing {
 
 // Rows and patterns are cut into at most this many chunks, by their counts alone.
 constexpr int64_t kChunks = 16;
+// Rows a chunk takes at least.
+constexpr int64_t kChunkRows = 2048;
 // Rows a cross-product update takes at a time.
 constexpr int64_t kSubRows = 256;
 
@@ -70,6 +72,11 @@ int32_t StartingValues(Model* m);
 // last iterate stays in mean and cov. Returns 0, BRENN_SS_ERROR_NO_CONVERGENCE or
 // BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE.
 int32_t RunEm(Model* m, int64_t limit, double tol, double* oldMean, double* oldCov);
+
+// Solves L X = B (or L' X = B when transposed) in place of the q x columns matrix B,
+// L lower triangular q x q. Plain loops: the BLAS runs solves this small on its own
+// threads, whose wake-ups cost far more than the arithmetic.
+void SolveLower(const double* l, int64_t q, double* b, int64_t columns, bool transposed);
 
 // Mirrors the lower triangle of a q x q column-major matrix into the upper.
 void MirrorLower(double* a, int64_t q);
