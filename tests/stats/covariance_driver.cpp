@@ -20,6 +20,7 @@
 
 #include "brenn_stats.h"
 #include "platform/threader.h"
+#include "tests/stats/covariance_api.h"
 
 namespace {
 
@@ -29,54 +30,8 @@ bool Read(FILE* in, std::vector<V>* v, size_t n) {
     return n == 0 || std::fread(v->data(), sizeof(V), n, in) == n;
 }
 
-template <typename T>
-struct Api;
-template <>
-struct Api<double> {
-    static int32_t New(void** t, const int64_t* p, const int64_t* n, const int64_t* s,
-                       const double* x, const int64_t* idx) {
-        return _qesdSSNewTask(t, p, n, s, x, nullptr, idx, 1);
-    }
-    static void Edit(void* t, int64_t id, void* a) {
-        _qesdSSEditTask(t, id, static_cast<double*>(a));
-    }
-    static int32_t Partial(void* t, uint64_t e) {
-        return _qesdSSPartialCovariance(t, e, BRENN_SS_METHOD_FAST, brenn_serv_pool_threader());
-    }
-    static int32_t Pooled(void* t, uint64_t e) {
-        return _qesdSSPooledCovariance(t, e, BRENN_SS_METHOD_FAST, brenn_serv_pool_threader());
-    }
-    static int32_t Param(void* t) {
-        return _qesdSSCorParametrization(t, BRENN_SS_PARAMTR_COR, BRENN_SS_METHOD_FAST, nullptr);
-    }
-    static int32_t Mah(void* t, double* r) {
-        return _qesdSSMahDistance(t, BRENN_SS_MAH_DIST, BRENN_SS_METHOD_FAST, r,
-                                  brenn_serv_pool_threader());
-    }
-};
-template <>
-struct Api<float> {
-    static int32_t New(void** t, const int64_t* p, const int64_t* n, const int64_t* s,
-                       const float* x, const int64_t* idx) {
-        return _qessSSNewTask(t, p, n, s, x, nullptr, idx, 1);
-    }
-    static void Edit(void* t, int64_t id, void* a) {
-        _qessSSEditTask(t, id, static_cast<float*>(a));
-    }
-    static int32_t Partial(void* t, uint64_t e) {
-        return _qessSSPartialCovariance(t, e, BRENN_SS_METHOD_FAST, brenn_serv_pool_threader());
-    }
-    static int32_t Pooled(void* t, uint64_t e) {
-        return _qessSSPooledCovariance(t, e, BRENN_SS_METHOD_FAST, brenn_serv_pool_threader());
-    }
-    static int32_t Param(void* t) {
-        return _qessSSCorParametrization(t, BRENN_SS_PARAMTR_COR, BRENN_SS_METHOD_FAST, nullptr);
-    }
-    static int32_t Mah(void* t, float* r) {
-        return _qessSSMahDistance(t, BRENN_SS_MAH_DIST, BRENN_SS_METHOD_FAST, r,
-                                  brenn_serv_pool_threader());
-    }
-};
+using brenn::test::covariance::Api;
+constexpr uint64_t kFast = BRENN_SS_METHOD_FAST;
 
 int64_t FormSize(int64_t form, int64_t p) {
     return form == 0 ? p * p : p * (p + 1) / 2;
@@ -129,8 +84,9 @@ int64_t Run(FILE* in, const int64_t* h, std::vector<double>* out) {
         _qesiSSEditTask(task, BRENN_SS_ED_PARTIAL_COR_STORAGE, &form);
         int64_t s = 0;
         _qesiSSEditTask(task, BRENN_SS_ED_COV_STORAGE, &s); // the covariance made full
-        status = Api<T>::Partial(task, BRENN_SS_MEAN | BRENN_SS_COV | BRENN_SS_PARTIAL_COV |
-                                           BRENN_SS_PARTIAL_COR);
+        status = Api<T>::Partial(
+            task, BRENN_SS_MEAN | BRENN_SS_COV | BRENN_SS_PARTIAL_COV | BRENN_SS_PARTIAL_COR, kFast,
+            brenn_serv_pool_threader());
         pc.pop_back();
         pr.pop_back();
         Put(out, cov);
@@ -146,7 +102,8 @@ int64_t Run(FILE* in, const int64_t* h, std::vector<double>* out) {
         Api<T>::Edit(task, BRENN_SS_ED_GROUP_COV, gc.data());
         Api<T>::Edit(task, BRENN_SS_ED_POOLED_MEAN, pm.data());
         Api<T>::Edit(task, BRENN_SS_ED_POOLED_COV, pcov.data());
-        status = Api<T>::Pooled(task, BRENN_SS_POOLED_COV | BRENN_SS_GROUP_COV);
+        status = Api<T>::Pooled(task, BRENN_SS_POOLED_COV | BRENN_SS_GROUP_COV, kFast,
+                                brenn_serv_pool_threader());
         Put(out, gm);
         Put(out, gc);
         Put(out, pm);
@@ -163,7 +120,7 @@ int64_t Run(FILE* in, const int64_t* h, std::vector<double>* out) {
         _qesiSSEditTask(task, BRENN_SS_ED_PARAMTR_COR_STORAGE, &form);
         if (g != 0) Api<T>::Edit(task, BRENN_SS_ED_MULTIPLIER_A, w.data());
         Api<T>::Edit(task, BRENN_SS_ED_MULTIPLIER_B, e.data());
-        status = Api<T>::Param(task);
+        status = Api<T>::Param(task, BRENN_SS_PARAMTR_COR, kFast);
         Put(out, r);
     } else {
         std::vector<T> d(n);
@@ -171,7 +128,7 @@ int64_t Run(FILE* in, const int64_t* h, std::vector<double>* out) {
         _qesiSSEditTask(task, BRENN_SS_ED_COV_STORAGE, &s);
         Api<T>::Edit(task, BRENN_SS_ED_MEAN, e.data());
         Api<T>::Edit(task, BRENN_SS_ED_COV, e.data() + p);
-        status = Api<T>::Mah(task, d.data());
+        status = Api<T>::Mah(task, BRENN_SS_MAH_DIST, kFast, d.data(), brenn_serv_pool_threader());
         Put(out, d);
     }
     _qesSSDeleteTask(&task);
