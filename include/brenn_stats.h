@@ -796,8 +796,9 @@ void __qesSQuantilesFreeBuffers(void* task);
  * observations while its covariance is singular, start concentration steps (the h
  * observations nearest the current mean and covariance, then their mean and
  * covariance); two steps a start, then the ten best continue until their subset repeats
- * or the step limit is reached. Above 600 observations the starts run in up to five
- * disjoint random subsets of about 300 observations, sharing the starts, the ten best of
+ * or the step limit is reached. Above 600 observations (with q below 150) the starts run
+ * in up to five disjoint random subsets of about 300 observations, sharing the starts, the
+ * ten best of
  * each are stepped twice in the union of the subsets, and the ten best of those on all
  * observations. The raw covariance of the best subset is scaled by med(d^2) /
  * chi2_q(0.5), d the Mahalanobis distances of all observations from it; then the

@@ -1,15 +1,15 @@
 // Robust covariance: the minimum covariance determinant by FAST-MCD (Rousseeuw and Van
 // Driessen, 1999). Random (q + 1)-subsets, each grown by random observations while its
 // covariance is singular, start concentration steps (mcd_stage.h); two steps a start,
-// then the ten best go on until their subset repeats or the step limit is reached.
-// Above 600 observations the starts run in up to five disjoint random subsets of about
-// 300 (their share of the starts each), the ten best of each are stepped twice in the
-// merged 1500 (or all), and the ten best of those on the whole data. The raw estimate
-// is the mean and covariance of the best h-subset scaled by med(d^2) / chi2_q(0.5);
-// one reweighting keeps the observations with d^2 at or below chi2_q(0.975) and gives
-// their mean and covariance (divisor count - 1). An h-subset on a hyperplane ends the
-// search: every observation on it is gathered and their mean and covariance stored,
-// with BRENN_SS_ERROR_EXACT_FIT.
+// then the ten best go on until their subset repeats or the step limit is reached. Above
+// 600 observations (and q below 150) the starts run in up to five disjoint random subsets
+// of about 300 (their share of the starts each), the ten best of each are stepped twice
+// in the merged 1500 (or all), and the ten best of those on the whole data. The raw
+// estimate is the mean and covariance of the best h-subset scaled by med(d^2) /
+// chi2_q(0.5); one reweighting keeps the observations with d^2 at or below chi2_q(0.975)
+// and gives their mean and covariance (divisor count - 1). An h-subset on a hyperplane
+// ends the search: every observation on it is gathered and their mean and covariance
+// stored, with BRENN_SS_ERROR_EXACT_FIT.
 #include <math.h>
 #include <string.h>
 
@@ -32,6 +32,12 @@ constexpr int64_t kSubsetSize = 300;  // observations of a subset
 constexpr int64_t kMostSubsets = 5;
 constexpr int64_t kStartSteps = 3; // the first subset's fit, then two concentration steps
 constexpr int64_t kMergedSteps = 2;
+
+// Whether the starts run in subsets: many observations, and subsets of 300 that hold
+// twice the q + 1 observations a start needs.
+inline bool Nested(int64_t m, int64_t q) {
+    return m > kNestedAbove && kSubsetSize >= 2 * (q + 1);
+}
 
 struct McdSettings {
     int64_t h, starts, limit;
@@ -206,7 +212,7 @@ int32_t Search(McdWork* w, SearchEnd* end, bool* settled) {
     bool exact = false;
     w->merged.count = 0;
     w->last.count = 0;
-    if (m > kNestedAbove) {
+    if (Nested(m, q)) {
         const int64_t total = m < kMostSubsets * kSubsetSize ? m : kMostSubsets * kSubsetSize;
         const int64_t parts =
             total / kSubsetSize < kMostSubsets ? total / kSubsetSize : kMostSubsets;
@@ -302,8 +308,8 @@ int32_t RobustCovariance(void* handle, uint64_t estimates, uint64_t method, cons
         return status;
     }
     const int64_t nestedTotal =
-        d.m > kNestedAbove ? (d.m < kMostSubsets * kSubsetSize ? d.m : kMostSubsets * kSubsetSize)
-                           : 0;
+        Nested(d.m, d.q) ? (d.m < kMostSubsets * kSubsetSize ? d.m : kMostSubsets * kSubsetSize)
+                         : 0;
     Carve sizes;
     LayOut(&sizes, &w, nestedTotal);
     void* block = sizes.ok ? brenn_serv_allocate(sizes.used, 128) : nullptr;
