@@ -109,13 +109,8 @@ int32_t DrawParameters(Model* m, void* stream, double* completedMean, double* wo
         for (int64_t row = 0; row <= col; ++row)
             x[row + col * q] = c[col + row * q];
     SolveLower(a, q, x, q, false);
-    for (int64_t col = 0; col < q; ++col)
-        for (int64_t row = col; row < q; ++row) {
-            double t = 0.0;
-            for (int64_t k = 0; k < q; ++k)
-                t += x[k + row * q] * x[k + col * q];
-            m->cov[row + col * q] = t;
-        }
+    memset(m->cov, 0, q * q * sizeof(double));
+    AddGram(x, q, q, 1.0, m->cov);
     MirrorLower(m->cov, q);
     if ((status = Gaussians(stream, q, z)) != 0) return status;
     const double root = 1.0 / sqrt(static_cast<double>(n));

@@ -80,13 +80,7 @@ int32_t FillPatterns(void* context, int64_t chunk, void* scratch) {
             brenn_lapack_xdpotrf("L", &qo, soo, &qo, &info);
             if (info != 0) return BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE;
             SolveLower(soo, qo, b, qm, false);
-            for (int c = 0; c < qm; ++c)
-                for (int a = c; a < qm; ++a) {
-                    double t = 0.0;
-                    for (int k = 0; k < qo; ++k)
-                        t += b[k + a * qo] * b[k + c * qo];
-                    cc[a + c * qm] -= t;
-                }
+            AddGram(b, qo, qm, -1.0, cc);
             SolveLower(soo, qo, b, qm, true);
         }
         const int64_t first = m.patternStart[pt], rows = m.patternStart[pt + 1] - first;
@@ -143,8 +137,6 @@ int32_t SumRows(void* context, int64_t chunk, void* scratch) {
     double* cp = out + q;
     memset(cp, 0, q * q * sizeof(double));
     double* d = static_cast<double*>(scratch);
-    // The products by plain loops in a fixed order: a call of the BLAS this small costs
-    // more in its own threads' wake-ups than in arithmetic.
     for (int64_t s = i0; s < i1; s += kSubRows) {
         const int64_t rows = std::min(kSubRows, i1 - s);
         for (int64_t c = 0; c < q; ++c) {
@@ -153,23 +145,7 @@ int32_t SumRows(void* context, int64_t chunk, void* scratch) {
             for (int64_t k = 0; k < rows; ++k)
                 d[k + c * rows] = v[k] - mu;
         }
-        for (int64_t b = 0; b < q; ++b) {
-            const double* db = d + b * rows;
-            for (int64_t a = b; a < q; ++a) {
-                const double* da = d + a * rows;
-                double t0 = 0.0, t1 = 0.0, t2 = 0.0, t3 = 0.0;
-                int64_t k = 0;
-                for (; k + 4 <= rows; k += 4) {
-                    t0 += da[k] * db[k];
-                    t1 += da[k + 1] * db[k + 1];
-                    t2 += da[k + 2] * db[k + 2];
-                    t3 += da[k + 3] * db[k + 3];
-                }
-                for (; k < rows; ++k)
-                    t0 += da[k] * db[k];
-                cp[a + b * q] += (t0 + t1) + (t2 + t3);
-            }
-        }
+        AddGram(d, rows, q, 1.0, cp);
     }
     return 0;
 }
@@ -360,6 +336,26 @@ int32_t RunEm(Model* m, int64_t limit, double tol, double* oldMean, double* oldC
         if (Converged(*m, oldMean, oldCov, tol)) return 0;
     }
     return BRENN_SS_ERROR_NO_CONVERGENCE;
+}
+
+void AddGram(const double* x, int64_t rows, int64_t columns, double alpha, double* out) {
+    for (int64_t b = 0; b < columns; ++b) {
+        const double* xb = x + b * rows;
+        for (int64_t a = b; a < columns; ++a) {
+            const double* xa = x + a * rows;
+            double t0 = 0.0, t1 = 0.0, t2 = 0.0, t3 = 0.0;
+            int64_t k = 0;
+            for (; k + 4 <= rows; k += 4) {
+                t0 += xa[k] * xb[k];
+                t1 += xa[k + 1] * xb[k + 1];
+                t2 += xa[k + 2] * xb[k + 2];
+                t3 += xa[k + 3] * xb[k + 3];
+            }
+            for (; k < rows; ++k)
+                t0 += xa[k] * xb[k];
+            out[a + b * columns] += alpha * ((t0 + t1) + (t2 + t3));
+        }
+    }
 }
 
 void SolveLower(const double* l, int64_t q, double* b, int64_t columns, bool transposed) {

@@ -73,6 +73,10 @@ int32_t StartingValues(Model* m);
 // BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE.
 int32_t RunEm(Model* m, int64_t limit, double tol, double* oldMean, double* oldCov);
 
+// out += alpha X'X on the lower triangle of the columns x columns matrix out, X of
+// `rows` rows, column-major. Plain loops in a fixed order, as SolveLower.
+void AddGram(const double* x, int64_t rows, int64_t columns, double alpha, double* out);
+
 // Solves L X = B (or L' X = B when transposed) in place of the q x columns matrix B,
 // L lower triangular q x q. Plain loops: the BLAS runs solves this small on its own
 // threads, whose wake-ups cost far more than the arithmetic.
