@@ -48,6 +48,7 @@ int32_t Build(FitTaskHandle t, int64_t kind, int64_t order, std::vector<T>& extr
             return brenn_df_kernel_sEditPPSpline1D(t, o, type, bcType, bc, icType, ic, coeff.data(),
                                                    0);
     };
+    static const T slopes[2] = {T(0.5), T(-0.25)};
     int32_t s;
     switch (kind) {
     case kLinear:
@@ -59,13 +60,10 @@ int32_t Build(FitTaskHandle t, int64_t kind, int64_t order, std::vector<T>& extr
         return d ? brenn_df_kernel_dDFQuadraticSpline1D(t, 0, 0, nullptr)
                  : brenn_df_kernel_sDFQuadraticSpline1D(t, 0, 0, nullptr);
     case kKnotQuadratic:
-        // extra holds the knots; the end slopes follow in bc.
-        {
-            T bc[2] = {T(0.5), T(-0.25)};
-            if ((s = edit(3, 1, FIT_BC_FIRST_LEFT | FIT_BC_FIRST_RIGHT, bc, FIT_IC_KNOTS,
-                          extra.data())))
-                return s;
-        }
+        // extra holds the knots; the end slopes are in bc, which the task keeps.
+        if ((s = edit(3, 1, FIT_BC_FIRST_LEFT | FIT_BC_FIRST_RIGHT, slopes, FIT_IC_KNOTS,
+                      extra.data())))
+            return s;
         return d ? brenn_df_kernel_dDFQuadraticSpline1D(t, 0, 0, nullptr)
                  : brenn_df_kernel_sDFQuadraticSpline1D(t, 0, 0, nullptr);
     case kNaturalFree:
