@@ -1,11 +1,12 @@
 // What every statistics entry of the front-end shares: the statistics service's
 // entries of each precision, the checks of a matrix view, and a task made over the
-// view and ended with its owner.
+// view and ended with its owner. The service's tests take the entries and the task
+// from here too.
 #pragma once
 
 #include <cmath>
 
-#include "brenn_ss.h"
+#include "brenn/brenn_ss.h"
 
 namespace brenn::fe {
 
@@ -25,6 +26,9 @@ struct SsEntries<double> {
     static constexpr auto weightedMedian = _qesdSSWMedian;
     static constexpr auto editStream = __qesdSSEditStreamQuantiles;
     static constexpr auto stream = _qesdSSStreamQuantiles;
+    static constexpr auto qsort = __qesdQSort;
+    static constexpr auto qsortStep = __qesdQSortStep;
+    static constexpr auto select = __qesdQSortSelect;
 };
 template <>
 struct SsEntries<float> {
@@ -39,6 +43,9 @@ struct SsEntries<float> {
     static constexpr auto weightedMedian = _qessSSWMedian;
     static constexpr auto editStream = __qessSSEditStreamQuantiles;
     static constexpr auto stream = _qessSSStreamQuantiles;
+    static constexpr auto qsort = __qessQSort;
+    static constexpr auto qsortStep = __qessQSortStep;
+    static constexpr auto select = __qessQSortSelect;
 };
 
 // A null view, counts below 1, a layout other than the two, no observations.

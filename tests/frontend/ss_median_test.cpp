@@ -17,7 +17,7 @@ namespace {
 template <class T>
 struct Api;
 template <>
-struct Api<double> : brenn::test::OrderApi<double> {
+struct Api<double> : brenn::fe::SsEntries<double> {
     using Matrix = brenn_ss_matrix_f64;
     static constexpr auto sort = brenn_ss_sort_f64;
     static constexpr auto mad = brenn_ss_mad_f64;
@@ -25,7 +25,7 @@ struct Api<double> : brenn::test::OrderApi<double> {
     static constexpr auto WMedian = _qesdSSWMedian;
 };
 template <>
-struct Api<float> : brenn::test::OrderApi<float> {
+struct Api<float> : brenn::fe::SsEntries<float> {
     using Matrix = brenn_ss_matrix_f32;
     static constexpr auto sort = brenn_ss_sort_f32;
     static constexpr auto mad = brenn_ss_mad_f32;
@@ -117,13 +117,16 @@ TYPED_TEST(FrontendSsMedian, ResultsAreTheServices) {
                 std::vector<T> sorted2(p * n, T(-7)), mad2(p, T(-7)), med2(p, T(-7));
                 int64_t pp = p, nn = n, storage = layout;
                 void* task = nullptr;
-                ASSERT_EQ(A::NewTask(&task, &pp, &nn, &storage, x.data(), w.data(), indices, 1), 0);
-                ASSERT_EQ(A::Edit(task, BRENN_SS_ED_SORTED_OBSERV, sorted2.data()), 0);
+                ASSERT_EQ(A::newTask(&task, &pp, &nn, &storage, x.data(), w.data(), indices, 1), 0);
+                ASSERT_EQ(A::edit(task, BRENN_SS_ED_SORTED_OBSERV, sorted2.data()), 0);
                 ASSERT_EQ(_qesiSSEditTask(task, BRENN_SS_ED_SORTED_OBSERV_STORAGE, &storage), 0);
-                ASSERT_EQ(A::Sort(task, BRENN_SS_SORTED_OBSERV, BRENN_SS_METHOD_FAST, nullptr), 0);
-                ASSERT_EQ(A::Mad(task, BRENN_SS_MDAD, BRENN_SS_METHOD_FAST, mad2.data(), nullptr),
+                ASSERT_EQ(brenn::fe::SsEntries<T>::sort(task, BRENN_SS_SORTED_OBSERV,
+                                                        BRENN_SS_METHOD_FAST, nullptr),
                           0);
-                ASSERT_EQ(A::EditQuantiles(task, nullptr, nullptr, med2.data(), nullptr, nullptr),
+                ASSERT_EQ(brenn::fe::SsEntries<T>::mad(task, BRENN_SS_MDAD, BRENN_SS_METHOD_FAST,
+                                                       mad2.data(), nullptr),
+                          0);
+                ASSERT_EQ(A::editQuantiles(task, nullptr, nullptr, med2.data(), nullptr, nullptr),
                           0);
                 ASSERT_EQ(A::WMedian(task), 0);
                 _qesSSDeleteTask(&task);

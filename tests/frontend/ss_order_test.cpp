@@ -14,17 +14,17 @@
 namespace {
 
 // The front-end's pair of each precision; the service's own entries are the
-// statistics tests' (OrderApi).
+// statistics tests' (SsEntries).
 template <class T>
 struct Api;
 template <>
-struct Api<double> : brenn::test::OrderApi<double> {
+struct Api<double> : brenn::fe::SsEntries<double> {
     using Matrix = brenn_ss_matrix_f64;
     static constexpr auto quantiles = brenn_ss_quantiles_f64;
     static constexpr auto order = brenn_ss_order_statistics_f64;
 };
 template <>
-struct Api<float> : brenn::test::OrderApi<float> {
+struct Api<float> : brenn::fe::SsEntries<float> {
     using Matrix = brenn_ss_matrix_f32;
     static constexpr auto quantiles = brenn_ss_quantiles_f32;
     static constexpr auto order = brenn_ss_order_statistics_f32;
@@ -112,12 +112,13 @@ TYPED_TEST(FrontendSsOrder, ResultsAreTheServicesAndTheEndsAreTheExtremes) {
 
             void* task = nullptr;
             int64_t count = m, storage = layout;
-            ASSERT_EQ(A::NewTask(&task, &p, &n, &storage, x.data(), nullptr, indices, 1), 0);
-            ASSERT_EQ(A::EditQuantiles(task, &count, const_cast<T*>(orders.data()), theirs.data(),
+            ASSERT_EQ(A::newTask(&task, &p, &n, &storage, x.data(), nullptr, indices, 1), 0);
+            ASSERT_EQ(A::editQuantiles(task, &count, const_cast<T*>(orders.data()), theirs.data(),
                                        sortedTheirs.data(), &storage),
                       0);
-            ASSERT_EQ(A::Quantiles(task, BRENN_SS_QUANTS | BRENN_SS_ORDER_STATS,
-                                   BRENN_SS_METHOD_FAST, nullptr),
+            ASSERT_EQ(brenn::fe::SsEntries<T>::quantiles(task,
+                                                         BRENN_SS_QUANTS | BRENN_SS_ORDER_STATS,
+                                                         BRENN_SS_METHOD_FAST, nullptr),
                       0);
             _qesSSDeleteTask(&task);
             EXPECT_EQ(std::memcmp(mine.data(), theirs.data(), sizeof(T) * mine.size()), 0);

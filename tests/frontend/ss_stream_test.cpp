@@ -16,7 +16,7 @@ namespace {
 template <class T>
 struct Api;
 template <>
-struct Api<double> : brenn::test::OrderApi<double> {
+struct Api<double> : brenn::fe::SsEntries<double> {
     using Stream = brenn_ss_stream_f64;
     static constexpr auto make = brenn_ss_stream_new_f64;
     static constexpr auto feed = brenn_ss_stream_feed_f64;
@@ -26,7 +26,7 @@ struct Api<double> : brenn::test::OrderApi<double> {
     static constexpr auto Stream_ = _qesdSSStreamQuantiles;
 };
 template <>
-struct Api<float> : brenn::test::OrderApi<float> {
+struct Api<float> : brenn::fe::SsEntries<float> {
     using Stream = brenn_ss_stream_f32;
     static constexpr auto make = brenn_ss_stream_new_f32;
     static constexpr auto feed = brenn_ss_stream_feed_f32;
@@ -60,8 +60,8 @@ std::vector<T> OneCall(int64_t p, int64_t n, const std::vector<T>& x, T eps,
             params = 1;
     std::vector<T> q(p * orders.size());
     void* task = nullptr;
-    EXPECT_EQ(A::NewTask(&task, &pp, &nn, &storage, x.data(), nullptr, nullptr, 1), 0);
-    EXPECT_EQ(A::EditStream(task, &m, const_cast<T*>(orders.data()), q.data(), &params, &eps), 0);
+    EXPECT_EQ(A::newTask(&task, &pp, &nn, &storage, x.data(), nullptr, nullptr, 1), 0);
+    EXPECT_EQ(A::editStream(task, &m, const_cast<T*>(orders.data()), q.data(), &params, &eps), 0);
     EXPECT_EQ(A::Stream_(task, BRENN_SS_STREAM_QUANTS, BRENN_SS_METHOD_STREAM_READ, nullptr), 0);
     _qesSSDeleteTask(&task);
     return q;

@@ -53,19 +53,19 @@ struct SmallTask {
     T aw[2] = {T(4), T(4)};
     void* task = nullptr;
     SmallTask() {
-        EXPECT_EQ(Api<T>::NewTask(&task, &p, &n, &layout, x.data(), nullptr, nullptr,
-                                  sizeof(I) == 8 ? 1 : 0),
+        EXPECT_EQ(SsEntries<T>::newTask(&task, &p, &n, &layout, x.data(), nullptr, nullptr,
+                                        sizeof(I) == 8 ? 1 : 0),
                   0);
         for (int k = 0; k < 17; ++k) {
             arrays[k].assign(2, kMark);
-            Api<T>::Edit(task, kVectorIds[k], arrays[k].data());
+            SsEntries<T>::edit(task, kVectorIds[k], arrays[k].data());
         }
-        Api<T>::Edit(task, BRENN_SS_ED_COV, cov.data());
-        Api<T>::Edit(task, BRENN_SS_ED_COR, cor.data());
-        Api<T>::Edit(task, BRENN_SS_ED_CP, cp.data());
-        Api<T>::Edit(task, BRENN_SS_ED_MIN, lo.data());
-        Api<T>::Edit(task, BRENN_SS_ED_MAX, hi.data());
-        Api<T>::Edit(task, BRENN_SS_ED_ACCUM_WEIGHT, aw);
+        SsEntries<T>::edit(task, BRENN_SS_ED_COV, cov.data());
+        SsEntries<T>::edit(task, BRENN_SS_ED_COR, cor.data());
+        SsEntries<T>::edit(task, BRENN_SS_ED_CP, cp.data());
+        SsEntries<T>::edit(task, BRENN_SS_ED_MIN, lo.data());
+        SsEntries<T>::edit(task, BRENN_SS_ED_MAX, hi.data());
+        SsEntries<T>::edit(task, BRENN_SS_ED_ACCUM_WEIGHT, aw);
         _qesiSSEditTask(task, BRENN_SS_ED_COV_STORAGE, &full);
         _qesiSSEditTask(task, BRENN_SS_ED_COR_STORAGE, &full);
         _qesiSSEditTask(task, BRENN_SS_ED_CP_STORAGE, &full);
@@ -105,7 +105,7 @@ void ExpectAccumulatingRefused(SmallTask<I, T>& t, const uint64_t (&groups)[N], 
     for (uint64_t method : kAccumulating)
         for (uint64_t est : groups)
             ExpectRefused(
-                t, status, [&] { return Api<T>::Basic(t.task, est, method, nullptr); },
+                t, status, [&] { return SsEntries<T>::basic(t.task, est, method, nullptr); },
                 what + " method " + std::to_string(method) + " estimates " + std::to_string(est));
 }
 
@@ -119,7 +119,9 @@ void HugeDimensionsGiveTheAllocationStatus() {
         for (uint64_t est : {BRENN_SS_MEAN | BRENN_SS_KURTOSIS, BRENN_SS_COV | BRENN_SS_COR})
             ExpectRefused(
                 t, -4000,
-                [&] { return Api<T>::Basic(t.task, est, BRENN_SS_METHOD_FROM_SUMS, nullptr); },
+                [&] {
+                    return SsEntries<T>::basic(t.task, est, BRENN_SS_METHOD_FROM_SUMS, nullptr);
+                },
                 at + " from sums");
         ExpectRefused(
             t, -4000,
@@ -129,7 +131,10 @@ void HugeDimensionsGiveTheAllocationStatus() {
         t.n = kI64Max;
         ExpectRefused(
             t, -4000,
-            [&] { return Api<T>::Basic(t.task, BRENN_SS_MEAN, BRENN_SS_METHOD_ONE_PASS, nullptr); },
+            [&] {
+                return SsEntries<T>::basic(t.task, BRENN_SS_MEAN, BRENN_SS_METHOD_ONE_PASS,
+                                           nullptr);
+            },
             at + " n at its top");
         ExpectRefused(
             t, -4000, [&] { return Minmax<T>(t.task, BRENN_SS_MAX, BRENN_SS_METHOD_FAST); },
@@ -178,7 +183,8 @@ void CountsAtOrBelowZero() {
         ExpectRefused(
             t, -4001,
             [&] {
-                return Api<T>::Basic(t.task, BRENN_SS_MEAN, BRENN_SS_METHOD_FROM_SUMS, nullptr);
+                return SsEntries<T>::basic(t.task, BRENN_SS_MEAN, BRENN_SS_METHOD_FROM_SUMS,
+                                           nullptr);
             },
             at + " from sums");
         ExpectRefused(

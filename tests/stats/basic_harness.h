@@ -11,25 +11,13 @@
 #include <vector>
 
 #include "brenn_stats.h"
+#include "frontend/ss_task.h"
 #include "platform/threader.h"
 #include "tests/stats/reference_cases.h"
 
 namespace brenn::test {
 
-template <typename T>
-struct Api;
-template <>
-struct Api<double> {
-    static constexpr auto NewTask = _qesdSSNewTask;
-    static constexpr auto Edit = _qesdSSEditTask;
-    static constexpr auto Basic = _qesdSSBasic;
-};
-template <>
-struct Api<float> {
-    static constexpr auto NewTask = _qessSSNewTask;
-    static constexpr auto Edit = _qessSSEditTask;
-    static constexpr auto Basic = _qessSSBasic;
-};
+using fe::SsEntries; // the service's entries of each precision
 
 constexpr uint64_t kAllBasic =
     BRENN_SS_MEAN | BRENN_SS_2R_MOM | BRENN_SS_3R_MOM | BRENN_SS_4R_MOM | BRENN_SS_2C_MOM |
@@ -78,16 +66,16 @@ int32_t RunCase(const ReferenceCase& c, uint64_t method, const threader* thr, in
     r.accumWeight[0] = r.accumWeight[1] = 0;
     int64_t nBlock = 0, layout = c.layout;
     void* task = nullptr;
-    int32_t s = Api<T>::NewTask(&task, &p, &nBlock, &layout, nullptr, nullptr,
-                                c.hasIndices ? c.indices.data() : nullptr, 1);
+    int32_t s = SsEntries<T>::newTask(&task, &p, &nBlock, &layout, nullptr, nullptr,
+                                      c.hasIndices ? c.indices.data() : nullptr, 1);
     if (s != 0) return s;
     for (int k = 0; k < 17; ++k)
         if (InSet(r.present, kVectorPositions[k]))
-            Api<T>::Edit(task, kVectorIds[k], r.vectors[k].data());
-    if (InSet(r.present, kCovPosition)) Api<T>::Edit(task, BRENN_SS_ED_COV, r.cov.data());
-    if (InSet(r.present, kCorPosition)) Api<T>::Edit(task, BRENN_SS_ED_COR, r.cor.data());
-    if (InSet(r.present, kCpPosition)) Api<T>::Edit(task, BRENN_SS_ED_CP, r.cp.data());
-    Api<T>::Edit(task, BRENN_SS_ED_ACCUM_WEIGHT, r.accumWeight);
+            SsEntries<T>::edit(task, kVectorIds[k], r.vectors[k].data());
+    if (InSet(r.present, kCovPosition)) SsEntries<T>::edit(task, BRENN_SS_ED_COV, r.cov.data());
+    if (InSet(r.present, kCorPosition)) SsEntries<T>::edit(task, BRENN_SS_ED_COR, r.cor.data());
+    if (InSet(r.present, kCpPosition)) SsEntries<T>::edit(task, BRENN_SS_ED_CP, r.cp.data());
+    SsEntries<T>::edit(task, BRENN_SS_ED_ACCUM_WEIGHT, r.accumWeight);
     _qesiSSEditTask(task, BRENN_SS_ED_COV_STORAGE, &r.covStorage);
     _qesiSSEditTask(task, BRENN_SS_ED_COR_STORAGE, &r.corStorage);
     _qesiSSEditTask(task, BRENN_SS_ED_CP_STORAGE, &r.cpStorage);
@@ -104,9 +92,9 @@ int32_t RunCase(const ReferenceCase& c, uint64_t method, const threader* thr, in
                     copy[j * nBlock + i - i0] = x[j * c.n + i];
             data = copy.data();
         }
-        Api<T>::Edit(task, BRENN_SS_ED_OBSERV, data);
-        if (c.weighted) Api<T>::Edit(task, BRENN_SS_ED_WEIGHTS, w.data() + i0);
-        s = Api<T>::Basic(task, estimates, method, thr);
+        SsEntries<T>::edit(task, BRENN_SS_ED_OBSERV, data);
+        if (c.weighted) SsEntries<T>::edit(task, BRENN_SS_ED_WEIGHTS, w.data() + i0);
+        s = SsEntries<T>::basic(task, estimates, method, thr);
     }
     _qesSSDeleteTask(&task);
     return s;

@@ -148,20 +148,20 @@ int32_t RunFromSums(const ReferenceCase& c, uint64_t method, int pos, uint32_t p
     r.accumWeight[0] = T(W);
     r.accumWeight[1] = T(W2);
     void* task = nullptr;
-    int32_t s = Api<T>::NewTask(&task, &p, &n, nullptr, nullptr, nullptr,
-                                c.hasIndices ? c.indices.data() : nullptr, 1);
+    int32_t s = SsEntries<T>::newTask(&task, &p, &n, nullptr, nullptr, nullptr,
+                                      c.hasIndices ? c.indices.data() : nullptr, 1);
     if (s != 0) return s;
     for (int k = 0; k < 17; ++k)
         if (InSet(present, kVectorPositions[k]))
-            Api<T>::Edit(task, kVectorIds[k], r.vectors[k].data());
-    if (InSet(present, kCovPosition)) Api<T>::Edit(task, BRENN_SS_ED_COV, r.cov.data());
-    if (InSet(present, kCorPosition)) Api<T>::Edit(task, BRENN_SS_ED_COR, r.cor.data());
-    if (InSet(present, kCpPosition)) Api<T>::Edit(task, BRENN_SS_ED_CP, r.cp.data());
-    Api<T>::Edit(task, BRENN_SS_ED_ACCUM_WEIGHT, r.accumWeight);
+            SsEntries<T>::edit(task, kVectorIds[k], r.vectors[k].data());
+    if (InSet(present, kCovPosition)) SsEntries<T>::edit(task, BRENN_SS_ED_COV, r.cov.data());
+    if (InSet(present, kCorPosition)) SsEntries<T>::edit(task, BRENN_SS_ED_COR, r.cor.data());
+    if (InSet(present, kCpPosition)) SsEntries<T>::edit(task, BRENN_SS_ED_CP, r.cp.data());
+    SsEntries<T>::edit(task, BRENN_SS_ED_ACCUM_WEIGHT, r.accumWeight);
     _qesiSSEditTask(task, BRENN_SS_ED_COV_STORAGE, &r.covStorage);
     _qesiSSEditTask(task, BRENN_SS_ED_COR_STORAGE, &r.corStorage);
     _qesiSSEditTask(task, BRENN_SS_ED_CP_STORAGE, &r.cpStorage);
-    s = Api<T>::Basic(task, kEstimateBit[pos], method, nullptr);
+    s = SsEntries<T>::basic(task, kEstimateBit[pos], method, nullptr);
     _qesSSDeleteTask(&task);
     return s;
 }
@@ -264,17 +264,17 @@ struct CorrelationOnly {
         : p(c.p), half(c.n / 2), x(c.x.begin(), c.x.end()), mean(c.p), cor(c.p * c.p) {}
     void* Task(int block) {
         void* task = nullptr;
-        EXPECT_EQ(Api<T>::NewTask(&task, &p, &half, &layout, x.data() + block * half * p, nullptr,
-                                  nullptr, 1),
+        EXPECT_EQ(SsEntries<T>::newTask(&task, &p, &half, &layout, x.data() + block * half * p,
+                                        nullptr, nullptr, 1),
                   0);
-        Api<T>::Edit(task, BRENN_SS_ED_MEAN, mean.data());
-        Api<T>::Edit(task, BRENN_SS_ED_COR, cor.data());
-        Api<T>::Edit(task, BRENN_SS_ED_ACCUM_WEIGHT, aw);
+        SsEntries<T>::edit(task, BRENN_SS_ED_MEAN, mean.data());
+        SsEntries<T>::edit(task, BRENN_SS_ED_COR, cor.data());
+        SsEntries<T>::edit(task, BRENN_SS_ED_ACCUM_WEIGHT, aw);
         _qesiSSEditTask(task, BRENN_SS_ED_COR_STORAGE, &full);
         return task;
     }
     void Feed(void* task, int block) {
-        Api<T>::Edit(task, BRENN_SS_ED_OBSERV, x.data() + block * half * p);
+        SsEntries<T>::edit(task, BRENN_SS_ED_OBSERV, x.data() + block * half * p);
     }
 };
 
@@ -291,18 +291,18 @@ void CorrelationOfAnotherTaskIsNotJoined() {
     for (const Method& m : kAccumulating) {
         CorrelationOnly<T> s(c);
         void* first = s.Task(0);
-        ASSERT_EQ(Api<T>::Basic(first, BRENN_SS_COR, m.word, nullptr), 0);
+        ASSERT_EQ(SsEntries<T>::basic(first, BRENN_SS_COR, m.word, nullptr), 0);
         const std::vector<T> mean = s.mean, cor = s.cor;
         const T w = s.aw[0];
         void* other = s.Task(1);
-        EXPECT_EQ(Api<T>::Basic(other, BRENN_SS_COR, m.word, nullptr), -4029) << m.word;
+        EXPECT_EQ(SsEntries<T>::basic(other, BRENN_SS_COR, m.word, nullptr), -4029) << m.word;
         EXPECT_EQ(s.mean, mean);
         EXPECT_EQ(s.cor, cor);
         EXPECT_EQ(s.aw[0], w);
         _qesSSDeleteTask(&other);
 
         s.Feed(first, 1);
-        ASSERT_EQ(Api<T>::Basic(first, BRENN_SS_COR, m.word, nullptr), 0) << m.word;
+        ASSERT_EQ(SsEntries<T>::basic(first, BRENN_SS_COR, m.word, nullptr), 0) << m.word;
         Results<T> r;
         r.cor = s.cor;
         r.accumWeight[0] = s.aw[0];
@@ -312,7 +312,7 @@ void CorrelationOfAnotherTaskIsNotJoined() {
         // Zero in accumWeight starts a new data set, which any task can do.
         s.aw[0] = s.aw[1] = 0;
         void* fresh = s.Task(1);
-        EXPECT_EQ(Api<T>::Basic(fresh, BRENN_SS_COR, m.word, nullptr), 0) << m.word;
+        EXPECT_EQ(SsEntries<T>::basic(fresh, BRENN_SS_COR, m.word, nullptr), 0) << m.word;
         EXPECT_EQ(s.aw[0], T(500));
         _qesSSDeleteTask(&fresh);
     }

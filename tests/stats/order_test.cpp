@@ -39,20 +39,20 @@ TYPED_TEST(OrderTest, SortAndSelectAgreeWithStdSort) {
             std::vector<T> v = Random<T>(n, range, n * 7 + range), want = v;
             std::sort(want.begin(), want.end());
             std::vector<T> s = v;
-            OrderApi<T>::QSort(n, s.data());
+            SsEntries<T>::qsort(n, s.data());
             EXPECT_EQ(Bits(s), Bits(want)) << "n " << n << " range " << range;
             // Strided: every third element, the others untouched.
             std::vector<T> wide(3 * n, T(-7));
             for (int64_t i = 0; i < n; ++i)
                 wide[3 * i] = v[i];
-            OrderApi<T>::QSortStep(n, wide.data(), 3);
+            SsEntries<T>::qsortStep(n, wide.data(), 3);
             for (int64_t i = 0; i < n; ++i) {
                 ASSERT_EQ(wide[3 * i], want[i]);
                 ASSERT_EQ(wide[3 * i + 1], T(-7));
             }
             for (int64_t k : {int64_t(0), n / 3, n / 2, n - 1}) {
                 std::vector<T> a = v;
-                ASSERT_EQ(OrderApi<T>::Select(n, a.data(), k), want[k]) << n << " " << k;
+                ASSERT_EQ(SsEntries<T>::select(n, a.data(), k), want[k]) << n << " " << k;
                 for (int64_t i = 0; i < n; ++i)
                     ASSERT_TRUE(i < k ? a[i] <= a[k] : a[i] >= a[k]);
             }
@@ -72,14 +72,14 @@ TYPED_TEST(OrderTest, NaNsAnywhereStayInBounds) {
                     (pattern == 2 && i == n / 2) || pattern == 3 || (pattern == 4 && i % 2))
                     v[i] = nan;
             std::vector<T> s = v;
-            OrderApi<T>::QSort(n, s.data());
+            SsEntries<T>::qsort(n, s.data());
             std::vector<T> step(2 * n);
             for (int64_t i = 0; i < n; ++i)
                 step[2 * i] = v[i];
-            OrderApi<T>::QSortStep(n, step.data(), 2);
+            SsEntries<T>::qsortStep(n, step.data(), 2);
             for (int64_t k : {int64_t(0), n / 2, n - 1}) {
                 std::vector<T> a = v;
-                OrderApi<T>::Select(n, a.data(), k);
+                SsEntries<T>::select(n, a.data(), k);
             }
             auto nans = [](const std::vector<T>& a) {
                 return std::count_if(a.begin(), a.end(), [](T e) { return std::isnan(e); });
@@ -89,11 +89,11 @@ TYPED_TEST(OrderTest, NaNsAnywhereStayInBounds) {
             OrderTask<T> t(1, n, BRENN_SS_MATRIX_STORAGE_ROWS, v);
             int64_t m = 3;
             T orders[3] = {0, T(0.5), 1}, q[3];
-            OrderApi<T>::EditQuantiles(t.task, &m, orders, q, nullptr, nullptr);
+            SsEntries<T>::editQuantiles(t.task, &m, orders, q, nullptr, nullptr);
             EXPECT_EQ(
-                OrderApi<T>::Quantiles(t.task, BRENN_SS_QUANTS, BRENN_SS_METHOD_FAST, nullptr), 0);
+                SsEntries<T>::quantiles(t.task, BRENN_SS_QUANTS, BRENN_SS_METHOD_FAST, nullptr), 0);
             T mad;
-            EXPECT_EQ(OrderApi<T>::Mad(t.task, BRENN_SS_MDAD, BRENN_SS_METHOD_FAST, &mad, nullptr),
+            EXPECT_EQ(SsEntries<T>::mad(t.task, BRENN_SS_MDAD, BRENN_SS_METHOD_FAST, &mad, nullptr),
                       0);
         }
 }
@@ -105,8 +105,8 @@ TYPED_TEST(OrderTest, QuantileRuleEdges) {
         OrderTask<T> t(2, 1, BRENN_SS_MATRIX_STORAGE_COLS, {T(4.5), T(-2)});
         int64_t m = 4;
         T orders[4] = {0, T(0.3), T(0.999), 1}, q[8];
-        OrderApi<T>::EditQuantiles(t.task, &m, orders, q, nullptr, nullptr);
-        ASSERT_EQ(OrderApi<T>::Quantiles(t.task, BRENN_SS_QUANTS, BRENN_SS_METHOD_FAST, nullptr),
+        SsEntries<T>::editQuantiles(t.task, &m, orders, q, nullptr, nullptr);
+        ASSERT_EQ(SsEntries<T>::quantiles(t.task, BRENN_SS_QUANTS, BRENN_SS_METHOD_FAST, nullptr),
                   0);
         for (int k = 0; k < 4; ++k) {
             EXPECT_EQ(q[k], T(4.5));
@@ -121,9 +121,9 @@ TYPED_TEST(OrderTest, QuantileRuleEdges) {
     T orders[7] = {1, 0, T(0.5), T(0.5), T(0.25), T(0.75), T(0.125)};
     T q[7], os[9];
     int64_t osLayout = BRENN_SS_MATRIX_STORAGE_ROWS;
-    OrderApi<T>::EditQuantiles(t.task, &m, orders, q, os, &osLayout);
+    SsEntries<T>::editQuantiles(t.task, &m, orders, q, os, &osLayout);
     for (uint64_t e : {BRENN_SS_QUANTS, BRENN_SS_QUANTS | BRENN_SS_ORDER_STATS}) {
-        ASSERT_EQ(OrderApi<T>::Quantiles(t.task, e, BRENN_SS_METHOD_FAST, nullptr), 0);
+        ASSERT_EQ(SsEntries<T>::quantiles(t.task, e, BRENN_SS_METHOD_FAST, nullptr), 0);
         const T want[7] = {T(INFINITY), -T(INFINITY), 3, 3, 0, 5, T(-1)};
         for (int k = 0; k < 7; ++k)
             EXPECT_EQ(q[k], want[k]) << "order " << orders[k];
@@ -171,8 +171,8 @@ TYPED_TEST(OrderTest, QuantileStatusesInOrder) {
         std::vector<T> x = Random<T>(10, 0, 3);
         T orders[2] = {T(0.5), T(0.2)}, q[4] = {9, 9, 9, 9}, os[10];
         void* task = nullptr;
-        ASSERT_EQ(OrderApi<T>::NewTask(&task, &p, &n, &layout, x.data(), nullptr, nullptr, 1), 0);
-        OrderApi<T>::EditQuantiles(task, &m, orders, q, os, &osLayout);
+        ASSERT_EQ(SsEntries<T>::newTask(&task, &p, &n, &layout, x.data(), nullptr, nullptr, 1), 0);
+        SsEntries<T>::editQuantiles(task, &m, orders, q, os, &osLayout);
         // The editors refuse a null address, so missing fields are cleared in the record.
         auto* r = static_cast<brenn::stats::SSTask*>(task);
         if (c.what == NoX) r->observations = nullptr;
@@ -194,7 +194,7 @@ TYPED_TEST(OrderTest, QuantileStatusesInOrder) {
         const uint64_t method = c.what == BadMethod ? 0x2 : BRENN_SS_METHOD_FAST;
         const int64_t live = brenn_serv_live_allocations();
         EXPECT_EQ(
-            OrderApi<T>::Quantiles(task, BRENN_SS_QUANTS | BRENN_SS_ORDER_STATS, method, nullptr),
+            SsEntries<T>::quantiles(task, BRENN_SS_QUANTS | BRENN_SS_ORDER_STATS, method, nullptr),
             c.status)
             << "case " << c.what;
         EXPECT_EQ(brenn_serv_live_allocations(), live);
@@ -202,7 +202,7 @@ TYPED_TEST(OrderTest, QuantileStatusesInOrder) {
             EXPECT_EQ(e, T(9));
         _qesSSDeleteTask(&task);
     }
-    EXPECT_EQ(OrderApi<T>::Quantiles(nullptr, BRENN_SS_QUANTS, 1, nullptr), -4031);
+    EXPECT_EQ(SsEntries<T>::quantiles(nullptr, BRENN_SS_QUANTS, 1, nullptr), -4031);
 }
 
 TYPED_TEST(OrderTest, SortStatusesAndLayouts) {
@@ -227,9 +227,9 @@ TYPED_TEST(OrderTest, SortStatusesAndLayouts) {
         OrderTask<T> t(2, 3, cols, x, c.indices ? keep : nullptr);
         std::vector<T> out(6, T(-1));
         T* target = c.inPlace ? t.x.data() : out.data();
-        OrderApi<T>::Edit(t.task, BRENN_SS_ED_SORTED_OBSERV, target);
+        SsEntries<T>::edit(t.task, BRENN_SS_ED_SORTED_OBSERV, target);
         if (c.storage) _qesiSSEditTask(t.task, BRENN_SS_ED_SORTED_OBSERV_STORAGE, c.storage);
-        EXPECT_EQ(OrderApi<T>::Sort(t.task, BRENN_SS_SORTED_OBSERV, c.method, nullptr), c.status);
+        EXPECT_EQ(SsEntries<T>::sort(t.task, BRENN_SS_SORTED_OBSERV, c.method, nullptr), c.status);
         if (c.status != 0) continue;
         const std::vector<T> want =
             c.inPlace ? std::vector<T>{3, 0, 4, 1, 5, 2} : std::vector<T>{-1, -1, -1, 0, 1, 2};
@@ -237,17 +237,17 @@ TYPED_TEST(OrderTest, SortStatusesAndLayouts) {
     }
     // No result array at all.
     OrderTask<T> t(2, 3, cols, x);
-    EXPECT_EQ(OrderApi<T>::Sort(t.task, BRENN_SS_SORTED_OBSERV, 1, nullptr), -4084);
+    EXPECT_EQ(SsEntries<T>::sort(t.task, BRENN_SS_SORTED_OBSERV, 1, nullptr), -4084);
 }
 
 TYPED_TEST(OrderTest, MadStatusesAndConstant) {
     using T = TypeParam;
     OrderTask<T> t(2, 4, BRENN_SS_MATRIX_STORAGE_ROWS, {2, 2, 2, 2, 1, 9, 3, 4});
     T r[2] = {-1, -1};
-    EXPECT_EQ(OrderApi<T>::Mad(t.task, BRENN_SS_MDAD, 1, nullptr, nullptr), -4082);
-    EXPECT_EQ(OrderApi<T>::Mad(t.task, BRENN_SS_MDAD, 3, r, nullptr), -4029);
-    EXPECT_EQ(OrderApi<T>::Mad(nullptr, BRENN_SS_MDAD, 1, r, nullptr), -4031);
-    ASSERT_EQ(OrderApi<T>::Mad(t.task, BRENN_SS_MDAD, 1, r, nullptr), 0);
+    EXPECT_EQ(SsEntries<T>::mad(t.task, BRENN_SS_MDAD, 1, nullptr, nullptr), -4082);
+    EXPECT_EQ(SsEntries<T>::mad(t.task, BRENN_SS_MDAD, 3, r, nullptr), -4029);
+    EXPECT_EQ(SsEntries<T>::mad(nullptr, BRENN_SS_MDAD, 1, r, nullptr), -4031);
+    ASSERT_EQ(SsEntries<T>::mad(t.task, BRENN_SS_MDAD, 1, r, nullptr), 0);
     EXPECT_EQ(r[0], T(0));
     // median 3.5; deviations 2.5 5.5 0.5 0.5: median 1.5.
     EXPECT_EQ(r[1], T(1.5));
@@ -266,14 +266,14 @@ TYPED_TEST(OrderTest, ThreadersGiveTheSameBits) {
         int64_t m = 3, rows = BRENN_SS_MATRIX_STORAGE_ROWS;
         T orders[3] = {T(0.1), T(0.5), T(0.9)};
         std::vector<T> q(p * m, T(7)), os(p * n, T(7)), mad(p, T(7)), sorted(p * n, T(7));
-        OrderApi<T>::EditQuantiles(t.task, &m, orders, q.data(), os.data(), &rows);
-        OrderApi<T>::Edit(t.task, BRENN_SS_ED_SORTED_OBSERV, sorted.data());
+        SsEntries<T>::editQuantiles(t.task, &m, orders, q.data(), os.data(), &rows);
+        SsEntries<T>::edit(t.task, BRENN_SS_ED_SORTED_OBSERV, sorted.data());
         _qesiSSEditTask(t.task, BRENN_SS_ED_SORTED_OBSERV_STORAGE, &rows);
         const threader* thr = threaders[which];
-        ASSERT_EQ(OrderApi<T>::Quantiles(t.task, BRENN_SS_QUANTS | BRENN_SS_ORDER_STATS, 1, thr),
+        ASSERT_EQ(SsEntries<T>::quantiles(t.task, BRENN_SS_QUANTS | BRENN_SS_ORDER_STATS, 1, thr),
                   0);
-        ASSERT_EQ(OrderApi<T>::Mad(t.task, BRENN_SS_MDAD, 1, mad.data(), thr), 0);
-        ASSERT_EQ(OrderApi<T>::Sort(t.task, BRENN_SS_SORTED_OBSERV, 1, thr), 0);
+        ASSERT_EQ(SsEntries<T>::mad(t.task, BRENN_SS_MDAD, 1, mad.data(), thr), 0);
+        ASSERT_EQ(SsEntries<T>::sort(t.task, BRENN_SS_SORTED_OBSERV, 1, thr), 0);
         EXPECT_EQ(q[2 * m], T(7));
         EXPECT_EQ(mad[7], T(7));
         EXPECT_EQ(os, sorted);
@@ -294,15 +294,15 @@ TYPED_TEST(OrderTest, EachAllocationFailingInTurn) {
             int64_t m = 2, rows = BRENN_SS_MATRIX_STORAGE_ROWS;
             T orders[2] = {T(0.5), T(0.9)}, q[6], mad[3];
             std::vector<T> os(x.size());
-            OrderApi<T>::EditQuantiles(t.task, &m, orders, q, os.data(), &rows);
-            OrderApi<T>::Edit(t.task, BRENN_SS_ED_SORTED_OBSERV, os.data());
+            SsEntries<T>::editQuantiles(t.task, &m, orders, q, os.data(), &rows);
+            SsEntries<T>::edit(t.task, BRENN_SS_ED_SORTED_OBSERV, os.data());
             _qesiSSEditTask(t.task, BRENN_SS_ED_SORTED_OBSERV_STORAGE, &rows);
             const int64_t live = brenn_serv_live_allocations();
             brenn_serv_fail_allocation(fail);
             const threader* pool = brenn_serv_pool_threader();
-            int32_t s = entry == 0   ? OrderApi<T>::Quantiles(t.task, BRENN_SS_QUANTS, 1, pool)
-                        : entry == 1 ? OrderApi<T>::Mad(t.task, BRENN_SS_MDAD, 1, mad, pool)
-                                     : OrderApi<T>::Sort(t.task, BRENN_SS_SORTED_OBSERV, 1, pool);
+            int32_t s = entry == 0   ? SsEntries<T>::quantiles(t.task, BRENN_SS_QUANTS, 1, pool)
+                        : entry == 1 ? SsEntries<T>::mad(t.task, BRENN_SS_MDAD, 1, mad, pool)
+                                     : SsEntries<T>::sort(t.task, BRENN_SS_SORTED_OBSERV, 1, pool);
             const bool never = brenn_serv_fail_allocation(0) > 0;
             EXPECT_EQ(brenn_serv_live_allocations(), live);
             if (never) {

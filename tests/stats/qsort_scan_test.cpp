@@ -142,20 +142,20 @@ TYPED_TEST(QSortScanTest, SortAndSelectLeaveThePlainArrangement) {
             const std::vector<T> v = Kind<T>(kind, n, n * 13 + kind);
             std::vector<T> want = v, got = v;
             PlainSort<T>{want.data(), 1}.Sort(n);
-            OrderApi<T>::QSort(n, got.data());
+            SsEntries<T>::qsort(n, got.data());
             ASSERT_EQ(Bits(got), Bits(want)) << "n " << n << " kind " << kind;
             // The strided sort, every other element.
             std::vector<T> wide(2 * n, T(5)), plain(2 * n, T(5));
             for (int64_t i = 0; i < n; ++i)
                 wide[2 * i] = plain[2 * i] = v[i];
             PlainSort<T>{plain.data(), 2}.Sort(n);
-            OrderApi<T>::QSortStep(n, wide.data(), 2);
+            SsEntries<T>::qsortStep(n, wide.data(), 2);
             ASSERT_EQ(Bits(wide), Bits(plain)) << "n " << n << " kind " << kind;
             // The selected element's bits, a zero's sign included.
             for (int64_t k : {int64_t(0), n / 3, n / 2, n - 1}) {
                 std::vector<T> a = v, b = v;
                 const T x = PlainSort<T>{a.data(), 1}.Select(n, k);
-                const T y = OrderApi<T>::Select(n, b.data(), k);
+                const T y = SsEntries<T>::select(n, b.data(), k);
                 ASSERT_EQ(Bits(std::vector<T>{y}), Bits(std::vector<T>{x}))
                     << "n " << n << " kind " << kind << " k " << k;
             }
@@ -193,8 +193,8 @@ TYPED_TEST(QSortScanTest, ManyOrdersInAnyOrderNameTheSortedElements) {
                 }
                 OrderTask<T> t(2, n, BRENN_SS_MATRIX_STORAGE_COLS, x);
                 std::vector<T> q(2 * m);
-                OrderApi<T>::EditQuantiles(t.task, &m, orders.data(), q.data(), nullptr, nullptr);
-                ASSERT_EQ(OrderApi<T>::Quantiles(t.task, BRENN_SS_QUANTS, 1, nullptr), 0);
+                SsEntries<T>::editQuantiles(t.task, &m, orders.data(), q.data(), nullptr, nullptr);
+                ASSERT_EQ(SsEntries<T>::quantiles(t.task, BRENN_SS_QUANTS, 1, nullptr), 0);
                 for (int64_t v = 0; v < 2; ++v) {
                     std::vector<T> s(n);
                     for (int64_t i = 0; i < n; ++i)

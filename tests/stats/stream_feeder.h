@@ -35,8 +35,8 @@ struct Feeder {
         for (int k = 0; k < kOrders; ++k)
             orders[k] = T(kOrderValues[k]);
         block.resize(1);
-        OrderApi<T>::NewTask(&task, &p, &n, &layout, block.data(), nullptr, nullptr, 1);
-        OrderApi<T>::EditStream(task, &m, orders, out.data(), &one, &eps);
+        SsEntries<T>::newTask(&task, &p, &n, &layout, block.data(), nullptr, nullptr, 1);
+        SsEntries<T>::editStream(task, &m, orders, out.data(), &one, &eps);
     }
     ~Feeder() { _qesSSDeleteTask(&task); }
     // Feeds x[from, to) (every variable the same values) and reads when asked.
@@ -47,7 +47,7 @@ struct Feeder {
         for (int64_t i = 0; i < n; ++i)
             for (int64_t j = 0; j < p; ++j)
                 block[layout == BRENN_SS_MATRIX_STORAGE_ROWS ? j * n + i : i * p + j] = x[from + i];
-        OrderApi<T>::Edit(task, BRENN_SS_ED_OBSERV, block.data());
+        SsEntries<T>::edit(task, BRENN_SS_ED_OBSERV, block.data());
         return Stream<T>(task, read ? BRENN_SS_METHOD_STREAM_READ : BRENN_SS_METHOD_STREAM_FEED,
                          thr);
     }

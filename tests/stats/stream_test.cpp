@@ -89,7 +89,7 @@ TEST(StreamQuantiles, StatusesInOrderAndEdges) {
         Feeder<T> f(0.01);
         std::vector<T> x = {1, 2, 3, 4};
         f.n = 4;
-        OrderApi<T>::Edit(f.task, BRENN_SS_ED_OBSERV, x.data());
+        SsEntries<T>::edit(f.task, BRENN_SS_ED_OBSERV, x.data());
         auto* r = static_cast<stats::SSTask*>(f.task);
         int64_t two = 2, bad = 9, negative = -1;
         if (b == NoN) r->observationCount = nullptr;

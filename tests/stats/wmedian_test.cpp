@@ -66,8 +66,8 @@ TYPED_TEST(WMedianTest, HandWorkedBranches) {
             for (int round = 0; round < 2; ++round) {
                 OrderTask<T> t(2, n, layout, x, round ? keep : nullptr);
                 T result[2] = {-99, -99};
-                OrderApi<T>::Edit(t.task, BRENN_SS_ED_WEIGHTS, w.data());
-                OrderApi<T>::Edit(t.task, BRENN_SS_ED_QUANT_QUANTILES, result);
+                SsEntries<T>::edit(t.task, BRENN_SS_ED_WEIGHTS, w.data());
+                SsEntries<T>::edit(t.task, BRENN_SS_ED_QUANT_QUANTILES, result);
                 ASSERT_EQ(WMedian<T>(t.task), 0);
                 EXPECT_EQ(result[0], T(c.want)) << c.what << " layout " << layout;
                 EXPECT_EQ(result[1], round ? T(-99) : T(2 * c.want)) << c.what;
@@ -80,9 +80,9 @@ TYPED_TEST(WMedianTest, Statuses) {
     OrderTask<T> t(1, 3, BRENN_SS_MATRIX_STORAGE_ROWS, {1, 2, 3});
     T w[3] = {1, 1, 1}, r = -1;
     EXPECT_EQ(WMedian<T>(nullptr), BRENN_SS_ERROR_TASK_NULL);
-    OrderApi<T>::Edit(t.task, BRENN_SS_ED_QUANT_QUANTILES, &r);
+    SsEntries<T>::edit(t.task, BRENN_SS_ED_QUANT_QUANTILES, &r);
     EXPECT_EQ(WMedian<T>(t.task), BRENN_SS_ERROR_WEIGHTS_MISSING);
-    OrderApi<T>::Edit(t.task, BRENN_SS_ED_WEIGHTS, w);
+    SsEntries<T>::edit(t.task, BRENN_SS_ED_WEIGHTS, w);
     brenn_serv_fail_allocation(1);
     EXPECT_EQ(WMedian<T>(t.task), BRENN_SS_ERROR_ALLOC);
     brenn_serv_fail_allocation(0);
@@ -93,7 +93,7 @@ TYPED_TEST(WMedianTest, Statuses) {
     _qesiSSEditTask(t.task, BRENN_SS_ED_OBSERV_STORAGE, &bad);
     EXPECT_EQ(WMedian<T>(t.task), BRENN_SS_ERROR_STORAGE);
     OrderTask<T> noResult(1, 3, BRENN_SS_MATRIX_STORAGE_ROWS, {1, 2, 3});
-    OrderApi<T>::Edit(noResult.task, BRENN_SS_ED_WEIGHTS, w);
+    SsEntries<T>::edit(noResult.task, BRENN_SS_ED_WEIGHTS, w);
     EXPECT_EQ(WMedian<T>(noResult.task), BRENN_SS_ERROR_QUANTILES_MISSING);
 }
 
