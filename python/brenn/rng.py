@@ -152,6 +152,25 @@ class Stream:
         self._s = _handle if _handle is not None else _brenn.rng.Stream(
             _brng(family, member), _seed_words(seed))
 
+    @classmethod
+    def abstract(cls, refill, size=1024, dtype=np.float64, low=0.0, high=1.0) -> "Stream":
+        """A stream whose numbers come from a buffer of ``size`` elements that
+        ``refill`` fills: ``refill(out)`` gets a writable array, a part of the buffer,
+        and fills all of it (a part that wraps round the buffer's end comes as two
+        calls). ``dtype``: float64 or float32, numbers of [low, high) mapped onto each
+        draw's own range; a float64 stream serves the float64 draws, a float32 one the
+        float32 draws. (The library's 32-bit word streams serve only its raw-bits
+        draw, which this class leaves out.) The stream has no seed, jumps nor image.
+        An exception raised by ``refill`` ends the draw and is raised by it."""
+        dtype = np.dtype(dtype)
+        kinds = {np.dtype(np.float64): "f64", np.dtype(np.float32): "f32"}
+        if dtype not in kinds:
+            raise TypeError(f"an abstract stream holds float64 or float32, not {dtype}")
+        if not callable(refill):
+            raise TypeError("refill must be callable")
+        return cls(_handle=_brenn.rng.abstract_stream(refill, int(size), kinds[dtype],
+                                                      float(low), float(high)))
+
     @property
     def brng(self) -> int:
         """The generator id."""

@@ -1,6 +1,6 @@
 """Stub of brenn.rng (the family classes are made for the generators built)."""
 import threading
-from typing import Any, Optional, Sequence, Union
+from typing import Any, Callable, Optional, Sequence, Union
 
 import numpy as np
 from numpy.typing import DTypeLike, NDArray
@@ -45,6 +45,10 @@ FAMILIES: dict[str, type[BitGenerator]]
 class Stream:
     """A stream of the library with its bulk draws."""
     def __init__(self, family: Union[str, int] = ..., seed: Seed = ..., member: int = ...) -> None: ...
+    @classmethod
+    def abstract(cls, refill: Callable[[NDArray[np.floating]], None], size: int = ...,
+                 dtype: DTypeLike = ..., low: float = ..., high: float = ...) -> "Stream":
+        """A stream whose numbers come from a buffer that refill(out) fills."""
     @property
     def brng(self) -> int:
         """The generator id."""

@@ -63,20 +63,28 @@ StreamHandle Load(const py::bytes& image) {
     return s;
 }
 
-constexpr size_t kBlock = 1024;
+// Words drawn a block at a time: large enough that the refill's cost is spread thin,
+// small enough to stay in the first-level cache.
+constexpr size_t kBlock = 4096;
 
 class BitSource {
   public:
     BitSource(StreamHandle s, std::vector<uint32_t> unread) : s_(std::move(s)) {
-        words_ = std::move(unread);
-        words_.reserve(kBlock);
-        at_ = 0;
+        words_.resize(std::max(kBlock, unread.size()));
+        std::copy(unread.begin(), unread.end(), words_.begin());
+        at_ = words_.data();
+        end_ = at_ + unread.size();
         bitgen_ = {this, &Next64, &Next32, &NextDouble, &NextRaw};
         // The stream must give 32-bit words: refuse now rather than inside numpy.
         uint32_t probe;
         StreamHandle trial = CopyStream(s_);
         Check(brenn_rng_bits_u32(trial.get(), 1, &probe), "32-bit words of this generator");
     }
+    BitSource(BitSource&& o) noexcept
+        : s_(std::move(o.s_)), words_(std::move(o.words_)), at_(o.at_),
+          end_(o.end_), bitgen_{this, &Next64, &Next32, &NextDouble, &NextRaw} {}
+    BitSource(const BitSource&) = delete;
+    BitSource& operator=(const BitSource&) = delete;
     // The record carries this object's address, fixed once it lies in its Python
     // object; numpy copies the record when a Generator is made.
     py::capsule Capsule() {
@@ -89,10 +97,7 @@ class BitSource {
         return id;
     }
     // The words drawn from the stream and not read yet.
-    std::vector<uint32_t> Unread() const {
-        return std::vector<uint32_t>(words_.begin() + static_cast<std::ptrdiff_t>(at_),
-                                     words_.end());
-    }
+    std::vector<uint32_t> Unread() const { return std::vector<uint32_t>(at_, end_); }
     py::bytes Image() const { return brenn_py::Image(s_); }
     // A new source nskip words further on.
     BitSource Jumped(uint64_t nskip) const {
@@ -107,7 +112,7 @@ class BitSource {
         return BitSource(std::move(s), std::move(unread));
     }
     void Leapfrog(int k, int nstreams) {
-        if (at_ != words_.size())
+        if (at_ != end_)
             throw py::value_error("leapfrog is only taken before the first word is read");
         Check(brenn_rng_leapfrog(s_.get(), k, nstreams), "leapfrog");
     }
@@ -122,33 +127,44 @@ class BitSource {
     }
 
   private:
+    // The next word, from the block; the refill is kept out of line so that the
+    // common path is a compare, a load and an increment.
     uint32_t Word() {
-        if (at_ == words_.size()) {
-            words_.resize(kBlock);
-            // The generator was checked to give 32-bit words; a draw cannot fail later.
-            brenn_rng_bits_u32(s_.get(), static_cast<int>(kBlock), words_.data());
-            at_ = 0;
-        }
-        return words_[at_++];
+        if (__builtin_expect(at_ == end_, 0)) Refill();
+        return *at_++;
+    }
+    __attribute__((noinline)) void Refill() {
+        words_.resize(kBlock);
+        // The generator was checked to give 32-bit words; a draw cannot fail later.
+        brenn_rng_bits_u32(s_.get(), static_cast<int>(kBlock), words_.data());
+        at_ = words_.data();
+        end_ = at_ + kBlock;
     }
     static uint32_t Next32(void* st) { return static_cast<BitSource*>(st)->Word(); }
     static uint64_t NextRaw(void* st) { return static_cast<BitSource*>(st)->Word(); }
     // Two words, the first the high half (numpy's MT19937 forms them the same way).
     static uint64_t Next64(void* st) {
         auto* b = static_cast<BitSource*>(st);
+        if (__builtin_expect(b->end_ - b->at_ >= 2, 1)) {
+            const uint64_t hi = b->at_[0], lo = b->at_[1];
+            b->at_ += 2;
+            return hi << 32 | lo;
+        }
         uint64_t hi = b->Word();
         return hi << 32 | b->Word();
     }
     // 27 and 26 bits of two words: a double on [0, 1) with 53 random bits.
     static double NextDouble(void* st) {
-        auto* b = static_cast<BitSource*>(st);
-        int32_t a = static_cast<int32_t>(b->Word() >> 5), c = static_cast<int32_t>(b->Word() >> 6);
-        return (a * 67108864.0 + c) / 9007199254740992.0;
+        const uint64_t w = Next64(st);
+        const int64_t a = static_cast<int64_t>(w >> 37),
+                      c = static_cast<int64_t>((w >> 6) & 0x3FFFFFF);
+        return static_cast<double>(a * 67108864 + c) * (1.0 / 9007199254740992.0);
     }
 
     StreamHandle s_;
     std::vector<uint32_t> words_;
-    size_t at_ = 0;
+    const uint32_t* at_ = nullptr;
+    const uint32_t* end_ = nullptr;
     bitgen_t bitgen_;
 };
 
@@ -216,6 +232,7 @@ void InitRng(py::module_& m) {
                 n, [&](int c, int32_t* r) { return brenn_rng_geometric_i32(s.get(), c, r, p); });
         });
     AddContinuous(stream);
+    AddAbstract(r);
 
     py::class_<BitSource>(r, "BitSource")
         .def(py::init([](int brng, const std::vector<uint32_t>& seed) {

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <climits>
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 #include "python/src/bindings.h"
@@ -23,12 +24,19 @@ class Stream {
   public:
     Stream(int brng, const std::vector<uint32_t>& seed) : s_(NewStream(brng, seed)) {}
     explicit Stream(StreamHandle s) : s_(std::move(s)) {}
+    // A stream that needs `keep` (an abstract stream's buffer) while it lives.
+    Stream(StreamHandle s, std::shared_ptr<void> keep) : keep_(std::move(keep)), s_(std::move(s)) {}
     const StreamHandle& handle() const { return s_; }
     brenn_stream* get() const { return s_.get(); }
 
   private:
+    std::shared_ptr<void> keep_; // declared first: it goes after the stream
     StreamHandle s_;
 };
+
+// Raises again the exception an abstract stream's refill raised in the last draw of
+// this thread, if any (rng_abstract.cpp).
+void RaiseRefillFailure();
 
 // Fills n elements by calls of at most INT_MAX elements, without the GIL.
 template <class T, class F>
@@ -42,11 +50,15 @@ pybind11::array_t<T> Fill(int64_t n, F draw) {
         for (int64_t at = 0; at < n && status >= 0; at += INT_MAX)
             status = draw(static_cast<int>(std::min<int64_t>(n - at, INT_MAX)), p + at);
     }
+    RaiseRefillFailure();
     Check(status, "draw");
     return r;
 }
 
 // Adds the continuous distributions' draws to the Stream class.
 void AddContinuous(pybind11::class_<Stream>& stream);
+
+// Adds abstract_stream(refill, size, kind, low, high): a Stream fed by a callable.
+void AddAbstract(pybind11::module_& rng);
 
 } // namespace brenn_py
