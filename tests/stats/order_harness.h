@@ -18,6 +18,9 @@ namespace brenn::test {
 // and the task over a matrix view are the front-end's.
 using fe::SsEntries;
 
+// The precisions of the typed tests.
+using Precisions = ::testing::Types<double, float>;
+
 // The bits of a value, so that results compare exactly, NaNs and signed zeros too.
 template <typename T>
 std::vector<uint64_t> Bits(const std::vector<T>& v) {

@@ -20,7 +20,6 @@ namespace {
 
 template <typename T>
 class OrderTest : public ::testing::Test {};
-using Precisions = ::testing::Types<double, float>;
 TYPED_TEST_SUITE(OrderTest, Precisions);
 
 template <typename T>

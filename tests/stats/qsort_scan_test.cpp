@@ -17,11 +17,6 @@
 namespace brenn::test {
 namespace {
 
-template <typename T>
-class QSortScanTest : public ::testing::Test {};
-using Precisions = ::testing::Types<double, float>;
-TYPED_TEST_SUITE(QSortScanTest, Precisions);
-
 // The quicksort element by element: median of three moved to the second place, scans
 // from both ends that stop at keys not below and not above the pivot's, the larger part
 // pushed, straight insertion below 7. a[i * step] is element i.
@@ -133,6 +128,10 @@ std::vector<T> Kind(int kind, int64_t n, uint64_t seed) {
     }
     return v;
 }
+
+template <typename T>
+class QSortScanTest : public ::testing::Test {};
+TYPED_TEST_SUITE(QSortScanTest, Precisions);
 
 TYPED_TEST(QSortScanTest, SortAndSelectLeaveThePlainArrangement) {
     using T = TypeParam;

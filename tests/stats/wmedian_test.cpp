@@ -47,7 +47,6 @@ const HandCase kCases[] = {
 
 template <typename T>
 class WMedianTest : public ::testing::Test {};
-using Precisions = ::testing::Types<double, float>;
 TYPED_TEST_SUITE(WMedianTest, Precisions);
 
 TYPED_TEST(WMedianTest, HandWorkedBranches) {
