@@ -800,7 +800,8 @@ void __qesSQuantilesFreeBuffers(void* task);
  * in up to five disjoint random subsets of about 300 observations, sharing the starts, the
  * ten best of
  * each are stepped twice in the union of the subsets, and the ten best of those on all
- * observations. The raw covariance of the best subset is scaled by med(d^2) /
+ * observations. With one variable the search is exact: the best of the windows of h
+ * consecutive sorted values. The raw covariance of the best subset is scaled by med(d^2) /
  * chi2_q(0.5), d the Mahalanobis distances of all observations from it; then the
  * observations with d^2 at or below chi2_q(0.975) give the result: their mean into
  * robustMean and their covariance, divisor count - 1, into robustCov in the form of its

@@ -9,7 +9,8 @@
 // chi2_q(0.5); one reweighting keeps the observations with d^2 at or below chi2_q(0.975)
 // and gives their mean and covariance (divisor count - 1). An h-subset on a hyperplane
 // ends the search: every observation on it is gathered and their mean and covariance
-// stored, with BRENN_SS_ERROR_EXACT_FIT.
+// stored, with BRENN_SS_ERROR_EXACT_FIT. With one variable the search is exact: the
+// best of the windows of h consecutive sorted values.
 #include <math.h>
 #include <string.h>
 
@@ -74,15 +75,16 @@ struct McdWork {
     const threader* thr;
     UniformDraws draws;
     McdCandidates first, merged, last;
-    int64_t* order;   // 0, 1, 2, ...
-    uint8_t* marks;   // m
-    int64_t* members; // m
-    int64_t* perm;    // m, the nested draw
-    double* xs;       // the merged subsets' data
-    double* d2;       // m
-    double* tmp;      // m
-    double* fit;      // FitDoubles(q)
-    double* z;        // 2 q
+    int64_t* order;               // 0, 1, 2, ...
+    uint8_t* marks;               // m
+    int64_t* members;             // m
+    int64_t* perm;                // m, the nested draw
+    double* xs;                   // the merged subsets' data
+    double* d2;                   // m
+    double* tmp;                  // m
+    WeightedValue<double>* pairs; // m with one variable: values and observation numbers
+    double* fit;                  // FitDoubles(q)
+    double* z;                    // 2 q
 };
 
 void PlaceCandidates(Carve* c, McdCandidates* k, int64_t count, int64_t q) {
@@ -107,6 +109,7 @@ void LayOut(Carve* c, McdWork* w, int64_t nestedTotal) {
     w->xs = c->Take<double>(nestedTotal * q);
     w->d2 = c->Take<double>(m);
     w->tmp = c->Take<double>(m);
+    w->pairs = c->Take<WeightedValue<double>>(q == 1 ? m : 0);
     w->fit = c->Take<double>(int64_t(FitDoubles(q)));
     w->z = c->Take<double>(2 * q);
 }
@@ -189,6 +192,46 @@ bool AnyExactFit(McdWork* w, const McdCandidates& c) {
 }
 
 enum SearchEnd { kFound, kExact, kNoneLeft };
+
+// One variable: the MCD exactly (Rousseeuw and Leroy, 1987). The h-subset of least
+// variance is h consecutive values in sorted order; windows are compared by their sums
+// of squares, slid along the values centred at the median. The winner's fit is in
+// w->fit; h equal values are an exact fit with every observation of that value.
+SearchEnd UnivariateMcd(McdWork* w) {
+    const RobustData& d = *w->d;
+    const int64_t m = d.m, h = w->set.h;
+    WeightedValue<double>* v = w->pairs;
+    for (int64_t i = 0; i < m; ++i)
+        v[i] = {d.x[i], double(i)};
+    QuickSort(Contiguous<WeightedValue<double>>{v}, m);
+    const double centre = v[(m - 1) / 2].x;
+    double s1 = 0, s2 = 0;
+    for (int64_t i = 0; i < h; ++i) {
+        const double t = v[i].x - centre;
+        s1 += t;
+        s2 += t * t;
+    }
+    double least = s2 - s1 * s1 / double(h);
+    int64_t at = 0;
+    for (int64_t j = 1; j + h <= m; ++j) {
+        const double out = v[j - 1].x - centre, in = v[j + h - 1].x - centre;
+        s1 += in - out;
+        s2 += in * in - out * out;
+        const double ss = s2 - s1 * s1 / double(h);
+        if (ss < least) least = ss, at = j;
+    }
+    for (int64_t k = 0; k < h; ++k)
+        w->members[k] = static_cast<int64_t>(v[at + k].w);
+    SubsetFit f;
+    PlaceFit(&f, w->fit, 1);
+    FitSubset(d.x, 1, w->members, h, &f, w->z);
+    if (f.singular == 1) return kFound;
+    int64_t count = 0;
+    for (int64_t i = 0; i < m; ++i)
+        if (d.x[i] == v[at].x) w->members[count++] = i;
+    FitSubset(d.x, 1, w->members, count, &f, w->z);
+    return kExact;
+}
 
 // Random starts in data x (ms observations, subsets of hs), two steps each; the best
 // go to `to`.
@@ -335,6 +378,8 @@ int32_t RobustCovariance(void* handle, uint64_t estimates, uint64_t method, cons
             w.members[i] = i;
         FitSubset(d.x, q, w.members, m, &f, w.z);
         if (f.singular < q) end = kExact;
+    } else if (q == 1) {
+        end = UnivariateMcd(&w);
     } else if ((status = OpenDraws(&w.draws, w.set.seed)) == 0) {
         status = Search(&w, &end, &settled);
         CloseDraws(&w.draws);

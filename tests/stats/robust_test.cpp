@@ -210,6 +210,14 @@ TYPED_TEST(RobustTest, ExactFitStoresTheHyperplanesEstimate) {
         for (int64_t b = 0; b < q; ++b)
             EXPECT_NEAR(double(t.cov[a * q + b]), double(want.cov[a * q + b]), 1e-4);
     }
+    // One variable: 12 of 20 values equal (h = 11) are the exact fit, all 12 of them.
+    std::vector<double> y(20);
+    for (int64_t i = 0; i < 20; ++i)
+        y[i] = i % 5 < 3 ? 3.0 : double(i) - 7.5;
+    RobustTask<T> u(1, 20, kRows, Laid<T>(y, 1, 20, kRows));
+    EXPECT_EQ(u.Mcd(), BRENN_SS_ERROR_EXACT_FIT);
+    EXPECT_EQ(u.mean[0], T(3));
+    EXPECT_EQ(u.cov[0], T(0));
 }
 
 TYPED_TEST(RobustTest, PlantedFarOutliersAreAllFlagged) {
