@@ -11,13 +11,11 @@
 
 #include "brenn_stats.h"
 #include "platform/threader.h"
+#include "tests/stats/driver_files.h"
 
 namespace {
 
-template <typename V>
-bool Read(FILE* in, V* p, size_t n) {
-    return n == 0 || std::fread(p, sizeof(V), n, in) == n;
-}
+using brenn::test::ReadArray;
 
 template <typename T>
 int64_t Run(const int64_t* h, const std::vector<double>& ps, const std::vector<double>& xs,
@@ -57,24 +55,21 @@ int64_t Run(const int64_t* h, const std::vector<double>& ps, const std::vector<d
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) return 2;
-    FILE* in = std::fopen(argv[1], "rb");
-    FILE* out = std::fopen(argv[2], "wb");
-    if (in == nullptr || out == nullptr) return 2;
+    brenn::test::DriverFiles files(argc, argv);
+    if (!files.ok()) return 2;
     int64_t h[7];
-    while (std::fread(h, 8, 7, in) == 7) {
+    while (std::fread(h, 8, 7, files.in) == 7) {
         const int64_t p = h[2], n = h[3];
         std::vector<double> params(h[6]), x(p * n), result;
         std::vector<int64_t> ind(h[5] ? p : 0);
-        if (!Read(in, params.data(), params.size()) || !Read(in, x.data(), x.size()) ||
-            !Read(in, ind.data(), ind.size()))
+        if (!ReadArray(files.in, params.data(), params.size()) ||
+            !ReadArray(files.in, x.data(), x.size()) ||
+            !ReadArray(files.in, ind.data(), ind.size()))
             return 3;
         const int64_t status =
             h[1] ? Run<float>(h, params, x, ind, &result) : Run<double>(h, params, x, ind, &result);
-        std::fwrite(&status, 8, 1, out);
-        std::fwrite(result.data(), 8, result.size(), out);
+        std::fwrite(&status, 8, 1, files.out);
+        std::fwrite(result.data(), 8, result.size(), files.out);
     }
-    std::fclose(in);
-    std::fclose(out);
     return 0;
 }
