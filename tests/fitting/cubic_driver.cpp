@@ -11,15 +11,11 @@
 
 #include "brenn_fitting.h"
 #include "cubic_families.h"
+#include "driver_files.h"
 
 using namespace brenn::fittest;
 
 namespace {
-
-template <typename V>
-bool Read(FILE* in, V* p, size_t n) {
-    return std::fread(p, sizeof(V), n, in) == n;
-}
 
 template <typename T>
 int64_t Run(const int64_t* h, const std::vector<double>& bc, const std::vector<double>& xs,
@@ -75,13 +71,8 @@ int64_t Run(const int64_t* h, const std::vector<double>& bc, const std::vector<d
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::fprintf(stderr, "usage: %s cases answers\n", argv[0]);
-        return 2;
-    }
-    FILE* in = std::fopen(argv[1], "rb");
-    FILE* out = std::fopen(argv[2], "wb");
-    if (in == nullptr || out == nullptr) return 2;
+    FILE *in, *out;
+    if (!OpenDriverFiles(argc, argv, &in, &out)) return 2;
     int64_t h[9];
     while (Read(in, h, 9)) {
         int64_t nx = h[2], ny = h[3], ns = h[7];

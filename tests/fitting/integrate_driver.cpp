@@ -13,6 +13,7 @@
 
 #include "brenn_fitting.h"
 #include "cubic_families.h"
+#include "driver_files.h"
 
 using namespace brenn::fittest;
 
@@ -29,11 +30,6 @@ enum Kind {
     kStepLeft,
     kGenericOrder
 };
-
-template <typename V>
-bool Read(FILE* in, V* p, size_t n) {
-    return std::fread(p, sizeof(V), n, in) == n;
-}
 
 template <typename T>
 int32_t Build(FitTaskHandle t, int64_t kind, int64_t order, std::vector<T>& extra,
@@ -123,13 +119,8 @@ int64_t Run(const int64_t* h, const std::vector<double>& xs, const std::vector<d
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::fprintf(stderr, "usage: %s cases answers\n", argv[0]);
-        return 2;
-    }
-    FILE* in = std::fopen(argv[1], "rb");
-    FILE* out = std::fopen(argv[2], "wb");
-    if (in == nullptr || out == nullptr) return 2;
+    FILE *in, *out;
+    if (!OpenDriverFiles(argc, argv, &in, &out)) return 2;
     int64_t h[6];
     while (Read(in, h, 6)) {
         int64_t nx = h[2], n = h[4], order = h[5];
