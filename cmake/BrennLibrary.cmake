@@ -7,6 +7,11 @@
 # BRENN_SUBSYSTEMS narrows a developer's build to some subsystems (the frame is
 # always in): -DBRENN_SUBSYSTEMS=rng builds the frame and rng only, with their tests.
 set(BRENN_SUBSYSTEMS "vecmath;rng;stats;fitting" CACHE STRING "Subsystems to build besides the frame")
+# The statistics estimates draw their random subsets and imputations from the library's
+# own generators: a build with stats brings rng along.
+if("stats" IN_LIST BRENN_SUBSYSTEMS AND NOT "rng" IN_LIST BRENN_SUBSYSTEMS)
+  list(APPEND BRENN_SUBSYSTEMS rng)
+endif()
 # The front-end, the tour and examples, installation and packages need every service:
 # a narrowed build leaves them out.
 set(BRENN_FULL_BUILD ON)

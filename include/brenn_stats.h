@@ -835,7 +835,7 @@ void __qesSQuantilesFreeBuffers(void* task);
  *         BRENN_SS_ERROR_ROBUST_COV_MISSING, BRENN_SS_ERROR_ROBUST_MEAN_MISSING,
  *         BRENN_SS_ERROR_ROBUST_PARAM_COUNT (count below 0 or above 4),
  *         BRENN_SS_ERROR_ROBUST_PARAMS_MISSING (no array for a count above 0),
- *         BRENN_SS_ERROR_METHOD (also in a build without the random-number service),
+ *         BRENN_SS_ERROR_METHOD,
  *         BRENN_SS_ERROR_ALLOC, BRENN_SS_ERROR_OBSERVATION_COUNT (fewer than q + 1
  *         finite observations), BRENN_SS_ERROR_ROBUST_PARAMS_MISSING (a parameter out
  *         of its range); after the search BRENN_SS_ERROR_EXACT_FIT (results stored),
@@ -1060,8 +1060,7 @@ int32_t _qessSSMahDistance(void* task, uint64_t estimates, uint64_t method, floa
  *         BRENN_SS_ERROR_MISSING_COV_COUNT, BRENN_SS_ERROR_MISSING_SIM_COUNT (below 0;
  *         null counts as 0), with imputations BRENN_SS_ERROR_MISSING_SIM_MEANS_MISSING,
  *         BRENN_SS_ERROR_MISSING_PATTERNS_MISSING and BRENN_SS_ERROR_MISSING_PATTERN_COUNT
- *         (null or below M K), BRENN_SS_ERROR_METHOD (also for imputations in a build
- *         without the random-number service); then BRENN_SS_ERROR_ALLOC;
+ *         (null or below M K), BRENN_SS_ERROR_METHOD; then BRENN_SS_ERROR_ALLOC;
  *         BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE when n is at most the number of active
  *         variables, a variable has fewer than two distinct observed values (or an
  *         infinite one), or a covariance to factor is not positive definite: nothing is

@@ -9,18 +9,6 @@
 #include "brenn_stats.h"
 #include "platform/lapack.h"
 
-// The random-number entries by weak reference, so that a build without the random-number
-// service links; imputations are then refused (DrawsPresent).
-extern "C" {
-__attribute__((weak)) int32_t __qesNewStreamEx(void** stream, int32_t brng, int32_t n,
-                                               const uint32_t* params);
-__attribute__((weak)) int32_t __qesDeleteStream(void** stream);
-__attribute__((weak)) int32_t _qesdRngGaussian(int32_t method, void* stream, int32_t n, double* r,
-                                               double a, double sigma);
-__attribute__((weak)) int32_t _qesdRngChiSquare(int32_t method, void* stream, int32_t n, double* r,
-                                                int32_t v);
-}
-
 namespace brenn::stats::missing {
 namespace {
 
@@ -50,11 +38,6 @@ int32_t ChiSquare(void* stream, int64_t dof, double* r) {
 }
 
 } // namespace
-
-bool DrawsPresent() {
-    return __qesNewStreamEx != nullptr && __qesDeleteStream != nullptr &&
-           _qesdRngGaussian != nullptr && _qesdRngChiSquare != nullptr;
-}
 
 int32_t OpenStream(uint32_t seed, void** stream) {
     *stream = nullptr;

@@ -11,9 +11,6 @@
 
 namespace brenn::stats::missing {
 
-// Whether the build has the random-number entries that imputations draw from.
-bool DrawsPresent();
-
 // An MT19937 stream seeded with `seed`; 0 or BRENN_SS_ERROR_ALLOC.
 int32_t OpenStream(uint32_t seed, void** stream);
 void CloseStream(void** stream);

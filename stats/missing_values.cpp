@@ -244,8 +244,7 @@ int32_t MissingValues(void* handle, uint64_t estimates, uint64_t method, const t
             ReadIndexWord(task, task->missingPatternCount) < words)
             return BRENN_SS_ERROR_MISSING_PATTERN_COUNT;
     }
-    if (method != BRENN_SS_METHOD_FAST || (sims > 0 && !missing::DrawsPresent()))
-        return BRENN_SS_ERROR_METHOD;
+    if (method != BRENN_SS_METHOD_FAST) return BRENN_SS_ERROR_METHOD;
     Owned w;
     int32_t status = Run<T>(task, o, st, sims, thr, &w);
     Release(&w);

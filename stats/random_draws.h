@@ -1,30 +1,16 @@
 // Random draws of the statistics estimates, from the library's own MT19937 stream: the
-// random subsets of the robust covariance. The random-number entries are named by weak
-// reference, so a build without the random-number service links, and the estimates
-// that need draws report that they can't be made (RandomDrawsPresent).
+// random subsets of the robust covariance.
 #ifndef BRENN_STATS_RANDOM_DRAWS_H
 #define BRENN_STATS_RANDOM_DRAWS_H
 
 #include <stdint.h>
 
+#include "brenn_rng.h"
 #include "brenn_stats.h"
-
-extern "C" {
-__attribute__((weak)) int32_t __qesNewStreamEx(void** stream, int32_t brng, int32_t n,
-                                               const uint32_t* params);
-__attribute__((weak)) int32_t __qesDeleteStream(void** stream);
-__attribute__((weak)) int32_t _qesdRngUniform(int32_t method, void* stream, int32_t n, double* r,
-                                              double a, double b);
-}
 
 namespace brenn::stats {
 
 constexpr int32_t kMT19937 = 0x800000;
-
-inline bool RandomDrawsPresent() {
-    return __qesNewStreamEx != nullptr && __qesDeleteStream != nullptr &&
-           _qesdRngUniform != nullptr;
-}
 
 // Uniforms on [0, 1) taken a block at a time from one stream, in order.
 struct UniformDraws {

@@ -330,7 +330,7 @@ int32_t RobustCovariance(void* handle, uint64_t estimates, uint64_t method, cons
             ReadParams<T>(task, task->robustParamCount, task->robustParams, 4, probe,
                           BRENN_SS_ERROR_ROBUST_PARAM_COUNT, BRENN_SS_ERROR_ROBUST_PARAMS_MISSING))
         return s;
-    if (method != BRENN_SS_METHOD_FASTMCD || !RandomDrawsPresent()) return BRENN_SS_ERROR_METHOD;
+    if (method != BRENN_SS_METHOD_FASTMCD) return BRENN_SS_ERROR_METHOD;
 
     RobustData d{};
     if (int32_t s = GatherRobustData(task, o, &d)) return s;
