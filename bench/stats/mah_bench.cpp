@@ -54,7 +54,7 @@ void Ours(benchmark::State& state, const threader* thr) {
 
 int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
-    brenn::bench::RegisterPeerTimes(BRENN_MAH_SCIPY_TIMING);
+    brenn::bench::RegisterPeerTimes(BRENN_PEER_TIMING);
     Shared();
     benchmark::RegisterBenchmark("brenn_mahalanobis_1e6x32", Ours, nullptr)
         ->Unit(benchmark::kMillisecond)

@@ -114,7 +114,7 @@ void StreamQuantiles(benchmark::State& state) {
 
 int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
-    brenn::bench::RegisterPeerTimes(BRENN_ORDER_NUMPY_TIMING);
+    brenn::bench::RegisterPeerTimes(BRENN_PEER_TIMING);
     const int64_t rows = BRENN_SS_MATRIX_STORAGE_ROWS, cols = BRENN_SS_MATRIX_STORAGE_COLS;
     const threader* pool = brenn_serv_pool_threader();
     struct Q {

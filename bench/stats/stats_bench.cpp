@@ -105,7 +105,7 @@ void MeanVariance(benchmark::State& state, uint64_t method) {
 
 int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
-    brenn::bench::RegisterPeerTimes(BRENN_NUMPY_TIMING);
+    brenn::bench::RegisterPeerTimes(BRENN_PEER_TIMING);
     benchmark::RegisterBenchmark("bare_dsyrk_1e6x32", BareDsyrk)->Unit(benchmark::kMillisecond);
     benchmark::RegisterBenchmark("cov_1e6x32_blocked", Covariance, BRENN_SS_METHOD_ONE_PASS_B,
                                  nullptr)
