@@ -4,6 +4,7 @@
 // Exactness against the stored coefficients is integrate_check.py's.
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -230,12 +231,13 @@ TYPED_TEST(FittingIntegrate, StepsAndLinesGiveTheirAreas) {
     brenn_df_kernel_DeleteTask(&t);
 }
 
-// Callbacks: what each side is asked, and how the parts add up.
+// Callbacks: what each side is asked, and how the parts add up. The pool calls them
+// from several threads at once.
 template <typename T>
 struct Seen {
-    int64_t calls[3] = {0, 0, 0};
+    std::atomic<int64_t> calls[3]{};
     T x0, xr;
-    bool ok = true;
+    std::atomic<bool> ok{true};
 };
 
 template <typename T, int Side>
@@ -277,9 +279,9 @@ TYPED_TEST(FittingIntegrate, CallbacksTakeTheirSidesAndTheSplineTheRest) {
     c.right = reinterpret_cast<void*>(Constant<T, 2>);
     c.thr = brenn_serv_pool_threader();
     ASSERT_EQ(Integrate<T>(fit.t, n, a.data(), b.data(), r.data(), c), 0);
-    EXPECT_TRUE(seen.ok);
-    EXPECT_GT(seen.calls[0], 0);
-    EXPECT_GT(seen.calls[2], 0);
+    EXPECT_TRUE(seen.ok.load());
+    EXPECT_GT(seen.calls[0].load(), 0);
+    EXPECT_GT(seen.calls[2].load(), 0);
     EXPECT_TRUE(std::isnan(r[0]) && std::isnan(r[n]));
     // An interval that meets neither side gets the plain bits; one that does gets the
     // callback's part and the spline's inside, each against the plain integral.
@@ -322,7 +324,7 @@ TYPED_TEST(FittingIntegrate, CallbacksTakeTheirSidesAndTheSplineTheRest) {
                 ASSERT_NEAR(r[f * n + k], b[k] < a[k] ? -e : e, 32 * kEps<T> * (1 + e));
             }
     }
-    EXPECT_TRUE(seen.ok);
+    EXPECT_TRUE(seen.ok.load());
     c.right = reinterpret_cast<void*>(Refuse<T>);
     EXPECT_EQ(Integrate<T>(fit.t, n, a.data(), b.data(), r.data(), c), -77);
 }
