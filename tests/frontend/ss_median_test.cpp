@@ -22,7 +22,6 @@ struct Api<double> : brenn::fe::SsEntries<double> {
     static constexpr auto sort = brenn_ss_sort_f64;
     static constexpr auto mad = brenn_ss_mad_f64;
     static constexpr auto wmedian = brenn_ss_weighted_median_f64;
-    static constexpr auto WMedian = _qesdSSWMedian;
 };
 template <>
 struct Api<float> : brenn::fe::SsEntries<float> {
@@ -30,7 +29,6 @@ struct Api<float> : brenn::fe::SsEntries<float> {
     static constexpr auto sort = brenn_ss_sort_f32;
     static constexpr auto mad = brenn_ss_mad_f32;
     static constexpr auto wmedian = brenn_ss_weighted_median_f32;
-    static constexpr auto WMedian = _qessSSWMedian;
 };
 
 template <class T>
@@ -128,7 +126,7 @@ TYPED_TEST(FrontendSsMedian, ResultsAreTheServices) {
                           0);
                 ASSERT_EQ(A::editQuantiles(task, nullptr, nullptr, med2.data(), nullptr, nullptr),
                           0);
-                ASSERT_EQ(A::WMedian(task), 0);
+                ASSERT_EQ(A::weightedMedian(task), 0);
                 _qesSSDeleteTask(&task);
                 EXPECT_EQ(Bits(sorted), Bits(sorted2));
                 EXPECT_EQ(Bits(mad), Bits(mad2));

@@ -23,7 +23,6 @@ struct Api<double> : brenn::fe::SsEntries<double> {
     static constexpr auto read = brenn_ss_stream_read_f64;
     static constexpr auto count = brenn_ss_stream_count_f64;
     static constexpr auto drop = brenn_ss_stream_delete_f64;
-    static constexpr auto Stream_ = _qesdSSStreamQuantiles;
 };
 template <>
 struct Api<float> : brenn::fe::SsEntries<float> {
@@ -33,7 +32,6 @@ struct Api<float> : brenn::fe::SsEntries<float> {
     static constexpr auto read = brenn_ss_stream_read_f32;
     static constexpr auto count = brenn_ss_stream_count_f32;
     static constexpr auto drop = brenn_ss_stream_delete_f32;
-    static constexpr auto Stream_ = _qessSSStreamQuantiles;
 };
 
 template <class T>
@@ -62,7 +60,7 @@ std::vector<T> OneCall(int64_t p, int64_t n, const std::vector<T>& x, T eps,
     void* task = nullptr;
     EXPECT_EQ(A::newTask(&task, &pp, &nn, &storage, x.data(), nullptr, nullptr, 1), 0);
     EXPECT_EQ(A::editStream(task, &m, const_cast<T*>(orders.data()), q.data(), &params, &eps), 0);
-    EXPECT_EQ(A::Stream_(task, BRENN_SS_STREAM_QUANTS, BRENN_SS_METHOD_STREAM_READ, nullptr), 0);
+    EXPECT_EQ(A::stream(task, BRENN_SS_STREAM_QUANTS, BRENN_SS_METHOD_STREAM_READ, nullptr), 0);
     _qesSSDeleteTask(&task);
     return q;
 }
