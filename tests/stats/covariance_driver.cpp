@@ -21,6 +21,7 @@
 #include "brenn_stats.h"
 #include "platform/threader.h"
 #include "tests/stats/covariance_api.h"
+#include "tests/stats/driver_files.h"
 
 namespace {
 
@@ -138,10 +139,10 @@ int64_t Run(FILE* in, const int64_t* h, std::vector<double>* out) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) return 2;
-    FILE* in = std::fopen(argv[1], "rb");
-    FILE* out = std::fopen(argv[2], "wb");
-    if (in == nullptr || out == nullptr) return 2;
+    brenn::test::DriverFiles files(argc, argv);
+    if (!files.ok()) return 2;
+    FILE* in = files.in;
+    FILE* out = files.out;
     int64_t h[8];
     while (std::fread(h, 8, 8, in) == 8) {
         std::vector<double> res;
@@ -150,7 +151,5 @@ int main(int argc, char** argv) {
         std::fwrite(&status, 8, 1, out);
         if (!res.empty()) std::fwrite(res.data(), 8, res.size(), out);
     }
-    std::fclose(in);
-    std::fclose(out);
     return 0;
 }

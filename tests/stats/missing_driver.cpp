@@ -11,6 +11,7 @@
 
 #include "brenn_stats.h"
 #include "platform/threader.h"
+#include "tests/stats/driver_files.h"
 
 namespace {
 
@@ -52,10 +53,10 @@ int64_t Run(const int64_t* h, const std::vector<double>& xs, const std::vector<d
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) return 2;
-    FILE* in = std::fopen(argv[1], "rb");
-    FILE* out = std::fopen(argv[2], "wb");
-    if (in == nullptr || out == nullptr) return 2;
+    brenn::test::DriverFiles files(argc, argv);
+    if (!files.ok()) return 2;
+    FILE* in = files.in;
+    FILE* out = files.out;
     int64_t h[6];
     while (std::fread(h, 8, 6, in) == 6) {
         std::vector<double> x(h[1] * h[2]), params(h[5]);
@@ -70,7 +71,5 @@ int main(int argc, char** argv) {
         std::fwrite(&k, 8, 1, out);
         std::fwrite(r.data(), 8, r.size(), out);
     }
-    std::fclose(in);
-    std::fclose(out);
     return 0;
 }
