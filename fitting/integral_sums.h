@@ -108,6 +108,55 @@ template <typename Nodes>
     return left + right;
 }
 
+// The walk of RangeSum, kept. A walk over [i, j) runs K(i, j) levels, and after K
+// levels its left sum depends on i alone and its right sum on j alone; the tables hold
+// them for every i, j in [0, count] and every K in [0, levels]. The range sum is then
+// two reads and the walk's last addition: the same bits as the walk.
+inline int64_t WalkTableSize(const PairwiseShape& s) {
+    return (static_cast<int64_t>(s.levels) + 1) * (s.size[0] + 1);
+}
+
+// The levels that a walk over [i, j), i < j, runs: one more than the height of the
+// largest aligned block of nodes inside the range. With h the height of the largest
+// power of two not above j - i, that block is of height h or h - 1.
+inline int WalkLevels(int64_t i, int64_t j) {
+    int h = 63 - __builtin_clzll(static_cast<uint64_t>(j - i));
+    int64_t block = int64_t(1) << h;
+    int64_t start = ((i + block - 1) >> h) << h;
+    return h + (start + block <= j ? 1 : 0);
+}
+
+// left and right of WalkTableSize(s) doubles each, from a built tree.
+inline void BuildWalks(const PairwiseShape& s, const double* tree, double* left, double* right) {
+    int64_t n = s.size[0] + 1;
+    for (int64_t i = 0; i < n; ++i)
+        left[i] = right[i] = 0.0;
+    for (int L = 0; L < s.levels; ++L) {
+        const double* level = tree + s.offset[L];
+        const double *l0 = left + L * n, *r0 = right + L * n;
+        double *l1 = left + (L + 1) * n, *r1 = right + (L + 1) * n;
+        int64_t below = (int64_t(1) << L) - 1;
+        for (int64_t i = 0; i < n; ++i) {
+            // Where a walk from i, and one to i, stand at level L.
+            int64_t up = (i >> L) + ((i & below) != 0 ? 1 : 0), down = i >> L;
+            l1[i] = (up & 1) != 0 && up < s.size[L] ? l0[i] + level[up] : l0[i];
+            r1[i] = (down & 1) != 0 ? level[down - 1] + r0[i] : r0[i];
+        }
+    }
+}
+
+// Tables of a function: left, then right.
+struct WalkNodes {
+    const double* left;
+    const double* right;
+    int64_t stride; // count + 1
+};
+
+[[gnu::always_inline]] inline double RangeSum(const WalkNodes& w, int64_t i, int64_t j) {
+    int64_t at = static_cast<int64_t>(WalkLevels(i, j)) * w.stride;
+    return w.left[at + i] + w.right[at + j];
+}
+
 } // namespace brenn::fit
 
 #endif

@@ -129,9 +129,13 @@ template <typename T, bool Uniform, int Form>
 void BuildTrees(const Integ<T>& in, double* trees, int64_t f) {
     Integrand<T> g = IntegrandOf(in.task, in.pieces, f);
     const Pieces<T>& p = in.pieces;
+    double* tree = trees + (f - in.fBegin) * in.perFunction;
     BuildTree(
-        in.shape, [&p, &g](int64_t k) { return WholePiece<T, Uniform, Form>(p, g, k); },
-        trees + (f - in.fBegin) * in.shape.total);
+        in.shape, [&p, &g](int64_t k) { return WholePiece<T, Uniform, Form>(p, g, k); }, tree);
+    if (in.walks) {
+        double* left = tree + in.shape.total;
+        BuildWalks(in.shape, tree, left, left + WalkTableSize(in.shape));
+    }
 }
 
 template <typename T>
@@ -255,12 +259,18 @@ int32_t Integrate(FitTaskHandle handle, int64_t nlim, const T* llim, int64_t lli
         in.fEnd = in.nf;
         return RunIntervals(in, thr, threads);
     }
-    // Trees, as many functions' at a time as the budget holds (one at least).
-    int64_t perTurn = kTreeBudget / in.shape.total;
+    // Trees, as many functions' at a time as the budget holds (one at least). With
+    // twice as many intervals as pieces, and a function's walk tables inside the
+    // budget, the walks are kept too: a range sum is then two reads, not a walk of
+    // every level.
+    int64_t walkSize = 2 * WalkTableSize(in.shape);
+    in.walks = in.nlim >= 2 * p.count && walkSize <= kTreeBudget - in.shape.total;
+    in.perFunction = in.shape.total + (in.walks ? walkSize : 0);
+    int64_t perTurn = kTreeBudget / in.perFunction;
     if (perTurn < 1) perTurn = 1;
     if (perTurn > in.nf) perTurn = in.nf;
     size_t bytes, treeBytes;
-    if (!BytesFor(in.shape.total, sizeof(double), &treeBytes) ||
+    if (!BytesFor(in.perFunction, sizeof(double), &treeBytes) ||
         !BytesFor(perTurn, treeBytes, &bytes))
         return FIT_STATUS_NO_MEMORY;
     auto* trees = static_cast<double*>(brenn_serv_allocate(bytes, 128));

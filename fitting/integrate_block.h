@@ -47,10 +47,13 @@ struct Integ {
     int64_t layout;
     IntegCallback<T> side[3]; // left, interior, right
     void* sideParams[3];
-    // The functions of this turn, and their trees (null: sums on the spot).
+    // The functions of this turn, and their trees (null: sums on the spot), each
+    // perFunction doubles: the tree, then when walks is set its walk tables.
     int64_t fBegin, fEnd;
     PairwiseShape shape;
     const double* trees;
+    int64_t perFunction;
+    bool walks;
 };
 
 template <typename T>
@@ -65,8 +68,15 @@ template <typename T, bool Uniform, int Form>
 [[gnu::always_inline]] inline double Middle(const Integ<T>& in, int64_t f, const Integrand<T>& g,
                                             int64_t i, int64_t j) {
     if (i >= j) return 0.0;
-    if (in.trees != nullptr)
-        return RangeSum(TreeNodes{&in.shape, in.trees + (f - in.fBegin) * in.shape.total}, i, j);
+    if (in.trees != nullptr) {
+        const double* tree = in.trees + (f - in.fBegin) * in.perFunction;
+        if (in.walks) {
+            const double* left = tree + in.shape.total;
+            return RangeSum(WalkNodes{left, left + WalkTableSize(in.shape), in.shape.size[0] + 1},
+                            i, j);
+        }
+        return RangeSum(TreeNodes{&in.shape, tree}, i, j);
+    }
     const Pieces<T>& p = in.pieces;
     auto leaf = [&p, &g](int64_t k) { return WholePiece<T, Uniform, Form>(p, g, k); };
     return RangeSum(SummedNodes<decltype(leaf)>{&in.shape, leaf}, i, j);
