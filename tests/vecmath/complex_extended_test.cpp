@@ -1,7 +1,8 @@
 // The complex rows computed element by element in extended precision (Cos, Sin, Tan,
 // Cosh, Sinh, Tanh, the inverse functions, Log10): one kernel whatever the accuracy,
 // results that do not depend on the caller's x87 precision and leave its control word as
-// it was, and overflow and pole reports with the row's name at their index.
+// it was, overflow and pole reports with the row's name at their index, and the
+// tangents near their poles.
 #include <gtest/gtest.h>
 #include <limits>
 #include <vector>
@@ -13,11 +14,12 @@ namespace brenn::test {
 namespace {
 
 const RowIndex kExtendedRows[] = {
-    frame::Row_zCos,   frame::Row_zSin,  frame::Row_zCosh,  frame::Row_zSinh,  frame::Row_zAcos,
-    frame::Row_zAsin,  frame::Row_zAtan, frame::Row_zAcosh, frame::Row_zAsinh, frame::Row_zAtanh,
-    frame::Row_zLog10, frame::Row_cCos,  frame::Row_cSin,   frame::Row_cCosh,  frame::Row_cSinh,
-    frame::Row_cAcos,  frame::Row_cAsin, frame::Row_cAtan,  frame::Row_cAcosh, frame::Row_cAsinh,
-    frame::Row_cAtanh, frame::Row_cLog10};
+    frame::Row_zCos,  frame::Row_zSin,   frame::Row_zTan,   frame::Row_zTanh,  frame::Row_cTan,
+    frame::Row_cTanh, frame::Row_zCosh,  frame::Row_zSinh,  frame::Row_zAcos,  frame::Row_zAsin,
+    frame::Row_zAtan, frame::Row_zAcosh, frame::Row_zAsinh, frame::Row_zAtanh, frame::Row_zLog10,
+    frame::Row_cCos,  frame::Row_cSin,   frame::Row_cCosh,  frame::Row_cSinh,  frame::Row_cAcos,
+    frame::Row_cAsin, frame::Row_cAtan,  frame::Row_cAcosh, frame::Row_cAsinh, frame::Row_cAtanh,
+    frame::Row_cLog10};
 
 // One kernel in the three slots; with the caller's x87 unit at double precision
 // the results are those of extended precision, and the caller's word comes
@@ -75,6 +77,38 @@ TEST(ComplexExtended, OverflowsAreReportedAtTheirIndex) {
     EXPECT_EQ(gCxReport.calls, 3);
     EXPECT_EQ(gCxReport.name, "vcCosh");
     brenn_zar_kernel_SetErrorCallBack(saved);
+}
+
+// Tanh beside its poles at i pi/2 (nearest double), where tan of the imaginary part is
+// 1.6e16, beyond the switch to +-1 at |x| = 23 with imaginary parts that underflow, and
+// with a huge imaginary part; Tan at the same points turned, tan(y - ix) = v - iu for
+// tanh(x + iy) = u + iv. Values from 300-bit arithmetic, each part within an ulp.
+TEST(ComplexExtended, TangentsNearThePolesAndFarOut) {
+    struct Case {
+        Z a, want;
+    } cases[] = {
+        {{0.0, 1.5707963267948966}, {0.0, 1.633123935319537e+16}},
+        {{1e-10, 1.5707963267948966}, {9999999999.99625, 6123.233995734469}},
+        {{-1e-300, -1.5707963267948966}, {-2.6670937881135714e-268, -1.633123935319537e+16}},
+        {{3.0, 4.71238898038469}, {1.0049698233136892, 1.8304206231350115e-18}},
+        {{22.9, 1.5707963267948966}, {1.0, 3.1503120632737575e-36}},
+        {{23.5, 1.0}, {1.0, 7.045232150588104e-21}},
+        {{-400.0, 2.0}, {-1.0, -0.0}},
+        {{1e300, 0.5}, {1.0, 0.0}},
+        {{-0.5, 1e22}, {-1.0775848725701984, -0.8176947865908228}},
+        {{1e-05, 355.0}, {1.0000000008753488e-05, 3.014435337016983e-05}}};
+    auto near = [](double got, double want) {
+        return want == 0 ? Bits(got) == Bits(want)
+                         : std::fabs(got - want) <= 0x1p-52 * std::fabs(want);
+    };
+    for (const Case& c : cases) {
+        Z h = CxCall(frame::Row_zTanh, frame::SlotHA, c.a);
+        EXPECT_TRUE(near(h.re, c.want.re) && near(h.im, c.want.im))
+            << "tanh(" << c.a.re << ", " << c.a.im << ") = (" << h.re << ", " << h.im << ")";
+        Z t = CxCall(frame::Row_zTan, frame::SlotLA, Z{c.a.im, -c.a.re});
+        EXPECT_TRUE(near(t.re, c.want.im) && near(t.im, -c.want.re))
+            << "tan(" << c.a.im << ", " << -c.a.re << ") = (" << t.re << ", " << t.im << ")";
+    }
 }
 
 } // namespace

@@ -1,5 +1,6 @@
-// The special values of the complex rows (Exp, Ln, Sqrt, Abs, Arg; Cos, Sin,
-// Cosh, Sinh, the inverse trigonometric and hyperbolic functions, Log10), cell by cell on every pair of +-0, +-1, +-inf, NaN and finite parts, in
+// The special values of the complex rows (Exp, Ln, Sqrt, Abs, Arg; Cos, Sin, Tan,
+// Cosh, Sinh, Tanh, the inverse trigonometric and hyperbolic functions, Log10), cell by
+// cell on every pair of +-0, +-1, +-inf, NaN and finite parts, in
 // every slot and both precisions, against the C library's functions of the same
 // names; the statuses of those cells; and the branch cuts, whose sides the sign
 // of a zero part picks.
@@ -65,6 +66,8 @@ const Fn kFns[] = {
     {"Sin", frame::Row_zSin, frame::Row_cSin, csin, csinf},
     {"Cosh", frame::Row_zCosh, frame::Row_cCosh, ccosh, ccoshf},
     {"Sinh", frame::Row_zSinh, frame::Row_cSinh, csinh, csinhf},
+    {"Tan", frame::Row_zTan, frame::Row_cTan, ctan, ctanf},
+    {"Tanh", frame::Row_zTanh, frame::Row_cTanh, ctanh, ctanhf},
     {"Log10", frame::Row_zLog10, frame::Row_cLog10, clog10, clog10f},
     {"Acos", frame::Row_zAcos, frame::Row_cAcos, cacos, cacosf},
     {"Asin", frame::Row_zAsin, frame::Row_cAsin, casin, casinf},

@@ -362,6 +362,51 @@ void RefBinary(Ref ref, mpfr_ptr r, mpfr_srcptr a, mpfr_srcptr b) {
     }
 }
 
+namespace {
+
+// tanh(x + iy) into r, in MPFR without mpc_tanh, whose working precision grows without
+// bound for some double inputs (minutes an element). Kahan's form, with t = tan y,
+// b = 1 + t^2, s = sinh x, c = sqrt(1 + s^2) = cosh x:
+//   tanh z = (b c s + i t) / (1 + b s^2)
+// has only sums of positive terms, products and quotients, so each part is within about
+// ten roundings of the working precision, relatively, of the exact value, however near
+// z lies to a pole or a zero (tan y and sinh x are correctly rounded by MPFR, whose own
+// loops find the distance of a double y to the poles of tan). So kRefPrec + 32 bits is
+// ample and bounded. Beyond |x| = 64, tanh x is +-1 within 2^-180 and the imaginary part
+// is 4 sin y cos y e^(-2|x|) within the same relative error, without sinh's overflow of
+// MPFR's exponent range for huge x.
+void KahanTanh(mpc_ptr r, mpfr_srcptr x, mpfr_srcptr y) {
+    Tmp t, b, s, c, d;
+    if (mpfr_cmpabs_ui(x, 64) > 0) {
+        mpfr_sin_cos(t, c, y, kN);
+        mpfr_mul(t, t, c, kN);
+        mpfr_mul_2ui(t, t, 1, kN); // sin 2y
+        mpfr_mul_2ui(s, x, 1, kN);
+        mpfr_abs(s, s, kN);
+        mpfr_neg(s, s, kN);
+        mpfr_exp(s, s, kN);
+        mpfr_mul_2ui(s, s, 1, kN);
+        mpfr_mul(mpc_imagref(r), t, s, kN);
+        mpfr_set_si(mpc_realref(r), mpfr_sgn(x) < 0 ? -1 : 1, kN);
+        return;
+    }
+    mpfr_tan(t, y, kN);
+    mpfr_sqr(b, t, kN);
+    mpfr_add_ui(b, b, 1, kN);
+    mpfr_sinh(s, x, kN);
+    mpfr_sqr(c, s, kN);
+    mpfr_mul(d, c, b, kN);
+    mpfr_add_ui(d, d, 1, kN);
+    mpfr_add_ui(c, c, 1, kN);
+    mpfr_sqrt(c, c, kN);
+    mpfr_mul(c, c, b, kN);
+    mpfr_mul(c, c, s, kN);
+    mpfr_div(mpc_realref(r), c, d, kN);
+    mpfr_div(mpc_imagref(r), t, d, kN);
+}
+
+} // namespace
+
 void RefComplex(Ref ref, mpc_ptr r, mpc_srcptr a, mpc_srcptr b) {
     constexpr mpc_rnd_t kC = MPC_RNDNN;
     switch (ref) {
@@ -371,9 +416,14 @@ void RefComplex(Ref ref, mpc_ptr r, mpc_srcptr a, mpc_srcptr b) {
     case Ref::CSin:
         mpc_sin(r, a, kC);
         break;
-    case Ref::CTan:
-        mpc_tan(r, a, kC);
+    case Ref::CTan: { // tan z = -i tanh(iz): tanh(-y + ix) = u + iv gives v - iu
+        Tmp u(mpfr_get_prec(mpc_imagref(a)));
+        mpfr_neg(u, mpc_imagref(a), kN);
+        KahanTanh(r, u, mpc_realref(a));
+        mpfr_swap(mpc_realref(r), mpc_imagref(r));
+        mpfr_neg(mpc_imagref(r), mpc_imagref(r), kN);
         break;
+    }
     case Ref::CCosh:
         mpc_cosh(r, a, kC);
         break;
@@ -381,7 +431,7 @@ void RefComplex(Ref ref, mpc_ptr r, mpc_srcptr a, mpc_srcptr b) {
         mpc_sinh(r, a, kC);
         break;
     case Ref::CTanh:
-        mpc_tanh(r, a, kC);
+        KahanTanh(r, mpc_realref(a), mpc_imagref(a));
         break;
     case Ref::CAcos:
         mpc_acos(r, a, kC);
