@@ -1,7 +1,8 @@
 // Integration: the preamble (integrand kind, the searchers of the two limit arrays,
 // layout), the table of searchers and integrators, the intervals in blocks of 64 and
-// chunks of 320 on the threader, and the trees of whole-piece sums, built when a batch
-// is long enough to pay for them (otherwise the sums are made on the spot). Every interval's
+// chunks of 320 on the threader, the trees of whole-piece sums and their walks, built when
+// a batch is long enough to pay for them (otherwise the sums are made on the spot), and
+// the grid of the limits' cells for a batch large beside the partition. Every interval's
 // integral depends on its own limits alone: the same bits whichever batch, chunk or thread computes
 // it.
 #include <cstring>
@@ -9,6 +10,7 @@
 #include "fitting/first_failure.h"
 #include "fitting/integrate_block.h"
 #include "fitting/integrate_callbacks.h"
+#include "fitting/limit_cells.h"
 #include "frame/export.h"
 #include "platform/bytes.h"
 #include "platform/serv.h"
@@ -71,10 +73,20 @@ inline const T* LimitsOf(const Limits<T>& l, int64_t begin, int64_t n, T* made) 
     return made;
 }
 
+// The searchers that a grid may stand in for: those that keep no walk and run no
+// callback.
+inline bool GridServes(int row) {
+    return row == kSearchQuasiUniform || row == kSearchPeak || row == kSearchHybrid;
+}
+
 template <typename T>
 int32_t SearchLimits(const Limits<T>& l, int64_t begin, int64_t n, T* made, const T** site,
                      int32_t* cell, int64_t* position) {
     *site = LimitsOf(l, begin, n, made);
+    if (l.grid != nullptr) {
+        GridCells(*l.grid, l.search, n, *site, cell);
+        return FIT_STATUS_OK;
+    }
     return kIntegrationTable<T>[l.row].search(l.search, n, *site, cell, position);
 }
 
@@ -180,6 +192,51 @@ bool TreesPay(const Integ<T>& in) {
            static_cast<double>(in.pieces.count);
 }
 
+// The intervals of a set-up call, with trees where they pay.
+template <typename T>
+int32_t Run(Integ<T>& in, const threader* thr) {
+    const Pieces<T>& p = in.pieces;
+    int threads = thr != nullptr ? thr->maxThreads() : 1;
+    if (threads < 1) threads = 1;
+    if (!TreesPay(in)) {
+        in.fBegin = 0;
+        in.fEnd = in.nf;
+        return RunIntervals(in, thr, threads);
+    }
+    // Trees, as many functions' at a time as the budget holds (one at least). With
+    // twice as many intervals as pieces, and a function's walk tables inside the
+    // budget, the walks are kept too: a range sum is then two reads, not a walk of
+    // every level.
+    int64_t walkSize = 2 * WalkTableSize(in.shape);
+    in.walks = in.nlim >= 2 * p.count && walkSize <= kTreeBudget - in.shape.total;
+    in.perFunction = in.shape.total + (in.walks ? walkSize : 0);
+    int64_t perTurn = kTreeBudget / in.perFunction;
+    if (perTurn < 1) perTurn = 1;
+    if (perTurn > in.nf) perTurn = in.nf;
+    size_t bytes, treeBytes;
+    if (!BytesFor(in.perFunction, sizeof(double), &treeBytes) ||
+        !BytesFor(perTurn, treeBytes, &bytes))
+        return FIT_STATUS_NO_MEMORY;
+    auto* trees = static_cast<double*>(brenn_serv_allocate(bytes, 128));
+    if (trees == nullptr) return FIT_STATUS_NO_MEMORY;
+    in.trees = trees;
+    int32_t status = FIT_STATUS_OK;
+    for (int64_t f = 0; f < in.nf && status == FIT_STATUS_OK; f += perTurn) {
+        in.fBegin = f;
+        in.fEnd = f + perTurn < in.nf ? f + perTurn : in.nf;
+        TreeRun<T> run{&in, trees};
+        int64_t n = in.fEnd - in.fBegin;
+        if (n > 1 && threads > 1)
+            thr->parallelFor(n, threads, &run, TreeChunk<T>);
+        else
+            for (int64_t k = 0; k < n; ++k)
+                TreeChunk<T>(k, 0, n, &run);
+        status = RunIntervals(in, thr, threads);
+    }
+    brenn_serv_deallocate(trees);
+    return status;
+}
+
 template <typename T>
 int32_t Integrate(FitTaskHandle handle, int64_t nlim, const T* llim, int64_t llimHint,
                   const T* rlim, int64_t rlimHint, const T* ldataHint, const T* rdataHint,
@@ -252,44 +309,22 @@ int32_t Integrate(FitTaskHandle handle, int64_t nlim, const T* llim, int64_t lli
     bool callbacks = left != nullptr || right != nullptr || interior != nullptr;
     in.integrator = callbacks ? row.callback : row.plain;
 
-    int threads = thr != nullptr ? thr->maxThreads() : 1;
-    if (threads < 1) threads = 1;
-    if (!TreesPay(in)) {
-        in.fBegin = 0;
-        in.fEnd = in.nf;
-        return RunIntervals(in, thr, threads);
+    // A grid of the limits' cells, for a batch large beside the partition, standing
+    // in for the searchers that keep no walk.
+    CellGrid grid{};
+    bool gridFor[2] = {GridServes(in.lower.row), GridServes(in.upper.row)};
+    size_t gridBytes;
+    if ((gridFor[0] || gridFor[1]) && task->nx >= 4 && nlim * 4 >= task->nx &&
+        BytesFor(task->nx + 1, sizeof(int32_t), &gridBytes)) {
+        grid.buckets = task->nx;
+        grid.start = static_cast<int32_t*>(brenn_serv_allocate(gridBytes, 64));
+        if (grid.start != nullptr && BuildGrid(static_cast<const T*>(task->x), task->nx, &grid)) {
+            for (int i = 0; i < 2; ++i)
+                if (gridFor[i]) lims[i]->grid = &grid;
+        }
     }
-    // Trees, as many functions' at a time as the budget holds (one at least). With
-    // twice as many intervals as pieces, and a function's walk tables inside the
-    // budget, the walks are kept too: a range sum is then two reads, not a walk of
-    // every level.
-    int64_t walkSize = 2 * WalkTableSize(in.shape);
-    in.walks = in.nlim >= 2 * p.count && walkSize <= kTreeBudget - in.shape.total;
-    in.perFunction = in.shape.total + (in.walks ? walkSize : 0);
-    int64_t perTurn = kTreeBudget / in.perFunction;
-    if (perTurn < 1) perTurn = 1;
-    if (perTurn > in.nf) perTurn = in.nf;
-    size_t bytes, treeBytes;
-    if (!BytesFor(in.perFunction, sizeof(double), &treeBytes) ||
-        !BytesFor(perTurn, treeBytes, &bytes))
-        return FIT_STATUS_NO_MEMORY;
-    auto* trees = static_cast<double*>(brenn_serv_allocate(bytes, 128));
-    if (trees == nullptr) return FIT_STATUS_NO_MEMORY;
-    in.trees = trees;
-    int32_t status = FIT_STATUS_OK;
-    for (int64_t f = 0; f < in.nf && status == FIT_STATUS_OK; f += perTurn) {
-        in.fBegin = f;
-        in.fEnd = f + perTurn < in.nf ? f + perTurn : in.nf;
-        TreeRun<T> run{&in, trees};
-        int64_t n = in.fEnd - in.fBegin;
-        if (n > 1 && threads > 1)
-            thr->parallelFor(n, threads, &run, TreeChunk<T>);
-        else
-            for (int64_t k = 0; k < n; ++k)
-                TreeChunk<T>(k, 0, n, &run);
-        status = RunIntervals(in, thr, threads);
-    }
-    brenn_serv_deallocate(trees);
+    int32_t status = Run(in, thr);
+    if (grid.start != nullptr) brenn_serv_deallocate(grid.start);
     return status;
 }
 

@@ -15,6 +15,8 @@ namespace brenn::fit {
 
 constexpr int64_t kIntegrationBlock = 64;
 
+struct CellGrid;
+
 template <typename T>
 using IntegCallback = int32_t (*)(const int64_t* count, T* result, const T* llim, const T* rlim,
                                   void* params, int64_t function);
@@ -27,6 +29,7 @@ struct Limits {
     double start, step;
     SearchSetup<T> search;
     int row;
+    const CellGrid* grid; // null: the searcher alone
 };
 
 template <typename T>

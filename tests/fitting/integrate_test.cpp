@@ -403,17 +403,21 @@ TYPED_TEST(FittingIntegrate, EveryRefusalHasItsStatus) {
     ASSERT_EQ(EditPP<T>(bare, 0, 7, 0, nullptr, 0, nullptr, nullptr), 0);
     EXPECT_EQ(Integrate<T>(bare, 2, a, b, r), FIT_STATUS_BAD_Y);
     brenn_df_kernel_DeleteTask(&bare);
-    // No intervals: success, nothing written; the trees' block refused: -1001.
+    // No intervals: success, nothing written. A refused block: the cell grid's (the
+    // first) is done without, the same values; the trees' (the second) gives -1001.
     ASSERT_EQ(EditPP<T>(fit.t, 2, 0, 0, nullptr, 0, nullptr, fit.c.data()), 0);
     EXPECT_EQ(Integrate<T>(fit.t, 0, a, b, r), 0);
     EXPECT_EQ(r[0], T(7));
-    std::vector<T> la(600, T(-2)), lb(600, T(3)), lr(600);
+    std::vector<T> la(600, T(-2)), lb(600, T(3)), lr(600), without(600);
     int64_t live = brenn_serv_live_allocations();
-    brenn_serv_fail_allocation(1);
+    brenn_serv_fail_allocation(2);
     EXPECT_EQ(Integrate<T>(fit.t, 600, la.data(), lb.data(), lr.data()), FIT_STATUS_NO_MEMORY);
+    brenn_serv_fail_allocation(1);
+    EXPECT_EQ(Integrate<T>(fit.t, 600, la.data(), lb.data(), without.data()), 0);
     brenn_serv_fail_allocation(0);
     EXPECT_EQ(brenn_serv_live_allocations(), live);
     EXPECT_EQ(Integrate<T>(fit.t, 600, la.data(), lb.data(), lr.data()), 0);
+    EXPECT_EQ(lr, without);
 }
 
 // Values at the ends of the range: a constant near the largest finite value over a
