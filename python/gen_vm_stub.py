@@ -12,7 +12,7 @@ SIGNATURES = {
     "AbsArg": "a: ArrayLike, /",
     "Cis": "a: ArrayLike, /",
     "Binary": "a: ArrayLike, b: ArrayLike, /",
-    "Powx": "a: ArrayLike, b: complex, /",
+    "Powx": "a: ArrayLike, b: complex, /",  # b a Python number (the row's element type)
     "TwoRes": "a: ArrayLike, /",
     "LinFrac": "a: ArrayLike, b: ArrayLike, scalea: float, shifta: float, scaleb: float, "
                "shiftb: float, /",
@@ -42,7 +42,8 @@ def main(out):
             tail = "out: Optional[NDArray[np.inexact]] = ..., accuracy: Accuracy = ...) -> NDArray[np.inexact]"
         rows = ", ".join(vm.FAMILIES[name])
         lines.append(f"def {name}({args}, *, {tail}:")
-        lines.append(f'    """Element-wise {row.name} (rows {rows})."""')
+        how = " (operands broadcast as numpy's)" if len(vm._SHAPES[row.shape][0]) > 1 else ""
+        lines.append(f'    """Element-wise {row.name}{how} (rows {rows})."""')
         lines.append("")
     with open(out, "w") as f:
         f.write("\n".join(lines))

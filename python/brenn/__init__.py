@@ -11,14 +11,17 @@ Submodules:
 - :mod:`brenn.fit`: splines (:class:`brenn.fit.Spline`).
 
 Element statuses of :mod:`brenn.vm` calls are handled as :class:`errstate` says,
-as numpy's floating-point errors are by ``numpy.errstate``.
+as numpy's floating-point errors are by ``numpy.errstate``; the warning
+(:class:`ElementWarning`), the exception (:class:`ElementError`) and the call
+handler get an :class:`ElementReport` of where the elements are.
 """
 from . import _brenn
-from ._errstate import errstate, geterr, seterr, seterrcall
+from ._errstate import (ElementError, ElementReport, ElementWarning, errstate, geterr, seterr,
+                        seterrcall)
 from . import vm, rng, stats, fit
 
 __all__ = ["vm", "rng", "stats", "fit", "errstate", "geterr", "seterr", "seterrcall",
-           "set_num_threads", "status_name"]
+           "ElementError", "ElementReport", "ElementWarning", "set_num_threads", "status_name"]
 
 
 def set_num_threads(limit: int) -> int:

@@ -3,12 +3,20 @@
 ``brenn.vm.exp(a, out=None, accuracy="ha")`` runs the row of ``a``'s dtype: float32
 the single row (vsExp), float64 the double one (vdExp), complex64 and complex128
 the complex rows where the family has them. Other dtypes are a TypeError, never a
-silent cast; operands of two float dtypes take the wider one, as numpy's ufuncs do,
-and a Python number in an array's place takes the other operand's dtype. Arrays have
-any shape; operands have one shape; results are C-contiguous, or go into ``out``
-(an array, or a tuple of arrays for two results, of the result's dtype, shape and
-contiguity). The kernel runs without the GIL, long arrays split over the library's
-threads. The call's element status is handled as :class:`brenn.errstate` says.
+silent cast. The operands' dtype is resolved as numpy's ufuncs resolve it
+(``numpy.result_type``): arrays of two float dtypes take the wider one, and a Python
+number or a 0-d array takes an array's dtype when its value fits (numpy 1.x's
+value-based casting: ``add(float32_array, 2.0)`` stays float32).
+
+Operands broadcast as numpy's do (scalars, 0-d arrays, ``(n, 1)`` with ``(1, m)``);
+the result has the broadcast shape and is C-contiguous, or goes into ``out`` (an
+array, or a tuple of arrays for two results, of the result's dtype and shape, any
+strides). Operands of the result's shape, dtype and C order are read in place;
+others (broadcast, strided, reversed, Fortran-ordered) are walked in blocks through
+buffers, never copied whole. An ``out`` that overlaps an input other than as the
+same view gets the input copied first. The kernel runs without the GIL, long arrays
+split over the library's threads. The elements the call reports are handled as
+:class:`brenn.errstate` says, with their positions.
 
 The functions are made from the library's row list when the package is imported:
 every row family with kernels in this build, named by the row's name in lower case
@@ -69,30 +77,24 @@ def _is_number(x):
 
 
 def _operands(fname, rows, args):
-    """The row and the C-contiguous operand arrays of a call."""
-    arrays = [x if _is_number(x) else np.asarray(x) for x in args]
-    typed = [a for a in arrays if not _is_number(a)]
-    if not typed:
-        raise TypeError(f"{fname}: at least one operand must be an array")
-    for a in typed:
-        if a.dtype not in _FLOATS:
+    """The row, the operands (arrays of the row's dtype, or Python numbers), and the
+    broadcast shape of a call."""
+    ops = [x if _is_number(x) else np.asarray(x) for x in args]
+    for a in ops:
+        if not _is_number(a) and a.dtype not in _FLOATS:
             raise TypeError(f"{fname}: no row for dtype {a.dtype} (float32, float64, "
                             f"complex64 or complex128)")
-    dtype = np.result_type(*[a.dtype for a in typed])
+    dtype = np.result_type(*ops)
     row = rows.get(dtype)
     if row is None:
         have = ", ".join(str(d) for d in rows)
         raise TypeError(f"{fname}: no row for dtype {dtype} in this build (rows for {have})")
-    shape = typed[0].shape
-    out = []
-    for a in arrays:
-        if _is_number(a):
-            out.append(np.full(shape, a, dtype=dtype))
-            continue
-        if a.shape != shape:
-            raise ValueError(f"{fname}: operands of shapes {shape} and {a.shape}")
-        out.append(np.ascontiguousarray(a, dtype=dtype))
-    return row, out, shape
+    try:
+        shape = np.broadcast_shapes(*[np.shape(a) for a in ops])
+    except ValueError:
+        raise ValueError(f"{fname}: operands of shapes "
+                         f"{' and '.join(str(np.shape(a)) for a in ops)} do not broadcast") from None
+    return row, ops, shape
 
 
 def _results(fname, row, shape, out, count):
@@ -107,10 +109,37 @@ def _results(fname, row, shape, out, count):
         if o.dtype != row.out_dtype:
             raise TypeError(f"{fname}: out has dtype {o.dtype}, the row gives {row.out_dtype}")
         if o.shape != shape:
-            raise ValueError(f"{fname}: out has shape {o.shape}, the operands {shape}")
-        if not o.flags.c_contiguous or not o.flags.writeable:
-            raise ValueError(f"{fname}: out must be a writeable C-contiguous array")
+            raise ValueError(f"{fname}: out has shape {o.shape}, the operands broadcast to {shape}")
+        if not o.flags.writeable:
+            raise ValueError(f"{fname}: out must be writeable")
     return outs
+
+
+def _same_view(a, o):
+    return (a.shape == o.shape and a.strides == o.strides
+            and a.__array_interface__["data"][0] == o.__array_interface__["data"][0])
+
+
+def _inputs(ops, dtype, shape, outs, given):
+    """The input arrays of a call and whether they (and the results) are walked."""
+    direct = all(not _is_number(a) and a.dtype == dtype and a.shape == shape
+                 and a.flags.c_contiguous for a in ops)
+    direct = direct and all(o.flags.c_contiguous for o in outs)
+    ins = ops if direct else [np.broadcast_to(np.asarray(a, dtype=dtype), shape) for a in ops]
+    if given:
+        # An input that overlaps a result other than as the same view would be read
+        # after the kernel wrote its memory.
+        ins = [a.copy() if any(np.may_share_memory(a, o) and not _same_view(a, o) for o in outs)
+               else a for a in ins]
+    return ins, not direct
+
+
+def _scalars(fname, row, values):
+    kind = complex if row.letter in "cz" else float
+    try:
+        return [kind(v) for v in values]
+    except TypeError:
+        raise TypeError(f"{fname}: the scalar arguments must be {kind.__name__} numbers") from None
 
 
 def _make(fname, shape, rows):
@@ -121,13 +150,16 @@ def _make(fname, shape, rows):
             raise TypeError(f"{fname}() takes {len(arrays) + len(scalars)} positional "
                             f"arguments ({', '.join(arrays + scalars)})")
         acc = _accuracy(accuracy)
-        row, ins, sh = _operands(fname, rows, args[:len(arrays)])
+        row, ops, sh = _operands(fname, rows, args[:len(arrays)])
         outs = _results(fname, row, sh, out, count)
-        status = _brenn.vm.call(row.index, acc, ins, list(args[len(arrays):]), list(outs),
-                                int(ins[0].size))
+        ins, walked = _inputs(ops, row.in_dtype, sh, outs, out is not None)
+        status, elements = _brenn.vm.call(row.index, acc, ins,
+                                          _scalars(fname, row, args[len(arrays):]),
+                                          list(outs), list(sh), walked)
         if status < 0:
             raise RuntimeError(f"{fname}: {_brenn.status_name(status)} ({status})")
-        report(status, fname)
+        if status or elements is not None:
+            report(status, fname, sh, elements)
         return outs if count > 1 else outs[0]
 
     names = ", ".join(arrays + scalars)
@@ -137,9 +169,12 @@ def _make(fname, shape, rows):
     function.__doc__ = (
         f"{fname}({names}, out=None, accuracy='ha')\n\n"
         f"Element-wise {next(iter(rows.values())).name} by the rows {kinds}, chosen by "
-        f"the operands' dtype.\nReturns {result}; ``out`` takes the result array(s). "
+        f"the operands' dtype as numpy's ufuncs resolve it.\n"
+        f"Array operands broadcast; returns {result} of the broadcast shape; ``out`` "
+        f"takes the result array(s) (that dtype and shape, any strides). "
         f"``accuracy``: 'ha', 'la' or 'ep'.\nScalars ({', '.join(scalars) or 'none'}) "
-        f"take the row's element type. Element statuses: brenn.errstate.")
+        f"are Python numbers taken in the row's element type. Reported elements: "
+        f"brenn.errstate.")
     return function
 
 
