@@ -3,8 +3,9 @@
 // (cross-products of the deviations over n_k - 1). Pooled: the overall mean and the
 // sum of the groups' cross-products over n - g. The observations are ordered by group
 // (a stable counting sort of the labels); one group is one unit of work for the
-// threader, its cross-products formed in fixed blocks of deviations by rank-k updates,
-// so the results do not depend on the thread count. The pooled sums run over the
+// threader, its cross-products formed in fixed blocks of deviations by the library's
+// own rank-k update (no BLAS inside the workers), so the results do not depend on the
+// thread count. The pooled sums run over the
 // groups in label order on the calling thread.
 #include <math.h>
 #include <string.h>
@@ -13,6 +14,7 @@
 #include "frame/export.h"
 #include "platform/threader.h"
 #include "stats/dense.h"
+#include "stats/rank_update.h"
 #include "stats/variable_loop.h"
 
 namespace brenn::stats {
@@ -57,8 +59,7 @@ int32_t GroupWork(VariableLoop* loop, int64_t k, void* scratch) {
         for (int64_t i = 0; i < m; ++i)
             for (int64_t a = 0; a < q; ++a)
                 d[a + i * q] = Value(job.o, job.order[r0 + i], job.act[a]) - mean[a];
-        RankUpdate<T>("N", static_cast<int>(q), static_cast<int>(m), T(1), d, static_cast<int>(q),
-                      c);
+        LowerCrossUpdate(q, m, d, d, c);
     }
     return 0;
 }

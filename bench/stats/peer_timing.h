@@ -37,6 +37,7 @@ inline void RegisterPeerTimes(const char* script) {
 class Recorder : public benchmark::ConsoleReporter {
   public:
     std::map<std::string, double> seconds;
+    std::map<std::string, double> wall; // the best wall-clock times, whatever cpuTime says
     // CPU time instead of the wall clock for the benchmarks of this process (the peers'
     // manual times are kept as they came): on a loaded machine the wall clock mostly
     // measures the wait for a core.
@@ -46,23 +47,32 @@ class Recorder : public benchmark::ConsoleReporter {
         for (const Run& r : runs) {
             if (r.run_type != Run::RT_Iteration) continue;
             const bool manual = r.run_name.str().find("manual_time") != std::string::npos;
-            double t = (cpuTime && !manual ? r.GetAdjustedCPUTime() : r.GetAdjustedRealTime()) /
-                       benchmark::GetTimeUnitMultiplier(r.time_unit);
+            const double unit = benchmark::GetTimeUnitMultiplier(r.time_unit);
+            const double real = r.GetAdjustedRealTime() / unit;
+            const double t = cpuTime && !manual ? r.GetAdjustedCPUTime() / unit : real;
             // Found by the full name and by the registered name alone.
             for (const std::string& name : {r.benchmark_name(), r.run_name.function_name}) {
-                auto [at, fresh] = seconds.emplace(name, t);
-                if (!fresh && t < at->second) at->second = t;
+                Keep(seconds, name, t);
+                Keep(wall, name, real);
             }
         }
         ConsoleReporter::ReportRuns(runs);
     }
-    // Prints a / b when both ran; returns the ratio, or 0.
-    double Ratio(const std::string& a, const std::string& b) const {
-        auto x = seconds.find(a), y = seconds.find(b);
-        if (x == seconds.end() || y == seconds.end()) return 0;
+    // Prints a / b when both ran (from `times`: seconds, or wall); returns the ratio, or 0.
+    double Ratio(const std::string& a, const std::string& b) const { return Ratio(seconds, a, b); }
+    double Ratio(const std::map<std::string, double>& times, const std::string& a,
+                 const std::string& b) const {
+        auto x = times.find(a), y = times.find(b);
+        if (x == times.end() || y == times.end()) return 0;
         double r = x->second / y->second;
         std::printf("%-36s / %-44s = %.2f\n", a.c_str(), b.c_str(), r);
         return r;
+    }
+
+  private:
+    static void Keep(std::map<std::string, double>& times, const std::string& name, double t) {
+        auto [at, fresh] = times.emplace(name, t);
+        if (!fresh && t < at->second) at->second = t;
     }
 };
 

@@ -104,7 +104,7 @@ TYPED_TEST(CovarianceTest, MahalanobisStatusesInOrder) {
 // Distances of a data set, its copy in the other layout, and with a variable left out.
 TYPED_TEST(CovarianceTest, MahalanobisLayoutsIndicesThreadersAndScaling) {
     using T = TypeParam;
-    const int64_t p = 5, n = 1000; // four full blocks and a part
+    const int64_t p = 5, n = 1001; // two full blocks and a part that ends in a part tile
     // Covariances up to 2^1000 (single 2^120) and down to 2^-1000 (single 2^-80: below,
     // its small entries would be subnormal and lose bits).
     const int upExp = sizeof(T) == 8 ? 500 : 60, downExp = sizeof(T) == 8 ? 500 : 40;
