@@ -81,6 +81,9 @@ using CoordinateFn = void (*)(const void* source, int32_t j, uint32_t* out);
 void FillState(void* stream, QrngShape shape, int32_t dimension, int32_t stateDimension,
                CoordinateFn coordinate, const void* source);
 
+// XOR of the direction numbers of the rows in the bit mask `rows` into the point.
+void XorRows(const QrngView& v, uint32_t rows);
+
 // Whether a head read from an image is one that seeding and the entries could have
 // left: 1 to `dims` coordinates, a leap coordinate among them, fewer coordinates
 // still to deliver than a point has. The entries index by these fields unchecked.

@@ -210,11 +210,8 @@ void RunPoints(const QrngView& v, uint32_t q, int64_t off, const Form& f) {
 
 // XOR of direction number c of each coordinate, c by the lowest zero bit.
 void Advance(const QrngView& v) {
-    QrngHead* h = v.head;
-    const int c = LowZero(h->counter);
-    for (int32_t j = 0; j < h->dimension; ++j)
-        v.Point(j) ^= v.Dir(j, c);
-    ++h->counter;
+    XorRows(v, 1u << LowZero(v.head->counter));
+    ++v.head->counter;
 }
 
 template <typename Form>

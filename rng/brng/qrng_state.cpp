@@ -1,7 +1,8 @@
 // State set-up and the two jumps of the quasi-random generators: filling the
-// state from direction numbers, leapfrog by coordinate (a stream that serves one
-// coordinate of every point) and skip-ahead by coordinates, which forms a point
-// directly from the Gray code of its number.
+// state from direction numbers, advancing the point by a set of rows, leapfrog by coordinate (a
+// stream that serves one coordinate of every point) and skip-ahead by coordinates, which forms a
+// point directly from the Gray code of its number.
+#include <emmintrin.h>
 #include <string.h>
 
 #include "rng/brng/qrng_core.h"
@@ -38,6 +39,27 @@ void FillState(void* stream, QrngShape shape, int32_t dimension, int32_t stateDi
         s.point[j] = v[0];
     }
     *s.head = {1, dimension, kNoLeap, 0};
+}
+
+void XorRows(const QrngView& v, uint32_t rows) {
+    const int32_t d = v.head->dimension;
+    int32_t j = 0;
+    if (v.pointStride == 1 && v.colStride == 1) {
+        for (; j + 4 <= d; j += 4) {
+            __m128i* at = reinterpret_cast<__m128i*>(v.point + j);
+            __m128i x = _mm_loadu_si128(at);
+            for (uint32_t u = rows; u != 0; u &= u - 1)
+                x = _mm_xor_si128(x, _mm_loadu_si128(reinterpret_cast<const __m128i*>(
+                                         v.dirs + __builtin_ctz(u) * v.rowStride + j)));
+            _mm_storeu_si128(at, x);
+        }
+    }
+    for (; j < d; ++j) {
+        uint32_t x = v.Point(j);
+        for (uint32_t u = rows; u != 0; u &= u - 1)
+            x ^= v.Dir(j, __builtin_ctz(u));
+        v.Point(j) = x;
+    }
 }
 
 bool QrngHeadSane(const QrngHead& h, int64_t dims) {
