@@ -96,7 +96,7 @@ void Fill(R* p, long count, double lo, double hi, std::mt19937_64& rng) {
         p[i] = static_cast<R>(u(rng));
 }
 
-// Speed is measured where results are ordinary: for the exponentials the part of the
+// Speed is measured where results are ordinary: for the exponentials (and E1) the part of the
 // interesting range whose results are denormal (each such element is reported, which
 // is the error path) is left out, so that the figure is the kernel's own cost.
 struct SpeedRange {
@@ -106,6 +106,7 @@ struct SpeedRange {
 constexpr SpeedRange kSpeedRanges[] = {
     {"sExp", -87.33, 88.72},     {"dExp", -708.39, 709.78},    {"sExp2", -126.0, 127.99},
     {"dExp2", -1022.0, 1023.99}, {"sExp10", -37.92, 38.53},    {"dExp10", -307.65, 308.25},
+    {"sExpInt1", 0.0, 82.0},     {"dExpInt1", 0.0, 701.0},
 };
 
 // The radian trigonometric rows (Sin, Cos, Tan, SinCos) take arguments of any size; past

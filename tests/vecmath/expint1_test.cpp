@@ -1,8 +1,9 @@
-// ExpInt1, single and double, LA and HA (one kernel): the special values with their
-// statuses (domain 1 below 0, pole 2 at 0, underflow 4 in the tail) and quieted NaNs,
-// values on both sides of the routine's switch at 1 and of its cell edges against a
-// reference of its own (series and continued fraction in long double), the caller's x87
-// control word and MXCSR, and every length and alignment against one element at a time.
+// ExpInt1, single and double, every slot (LA and HA one kernel, EP its own): the special
+// values with their statuses (domain 1 below 0, pole 2 at 0, underflow 4 in the tail) and
+// quieted NaNs, values on both sides of the switch at 1, of the cell edges and of the
+// vector lanes' limits against a reference of its own (series and continued fraction in
+// long double), the caller's x87 control word and MXCSR, and every length and alignment
+// against one element at a time.
 #include <cfloat>
 #include <cmath>
 #include <gtest/gtest.h>
@@ -15,7 +16,8 @@
 namespace brenn::test {
 namespace {
 
-constexpr int kSlots[] = {0, 1};
+constexpr int kSlots[] = {0, 1, 2};
+constexpr int kSlotEP = 2;
 
 template <class T>
 const char* Row() {
@@ -92,9 +94,10 @@ TEST(ExpInt1, SpecialValuesAndStatuses) {
     ExpectSpecialValues<double>();
 }
 
-// Within an ulp of the reference, reporting nothing while the result is normal and 4
-// once it is not: tiny and denormal arguments (where ln x rules), the switch at 1, the
-// edges of t = 1/x's cells and binades, and the tail down through the underflow.
+// Within an ulp of the reference (EP: 11 or 26 correct bits), reporting nothing while the
+// result is normal and 4 once it is not: tiny and denormal arguments (where ln x rules),
+// the switch at 1, the edges of t = 1/x's cells and binades, the vector lanes' limits
+// (82 single, 701 double) and the tail down through the underflow.
 template <class T>
 void ExpectValues() {
     const bool single = sizeof(T) == 4;
@@ -106,7 +109,8 @@ void ExpectValues() {
                          T(0.5),
                          T(0.96875),
                          T(1.0625)};
-    for (T edge : {T(1), T(2), T(4), T(1.0L / 0.53125L), T(16), T(64), T(100), T(512)})
+    for (T edge :
+         {T(1), T(2), T(4), T(1.0L / 0.53125L), T(16), T(64), T(82), T(100), T(512), T(701)})
         for (T x : {std::nextafter(edge, T(0)), edge, std::nextafter(edge, T(1e4))})
             xs.push_back(x);
     for (T x = single ? T(80) : T(690); x < (single ? T(104) : T(745)); x += T(0.375))
@@ -118,7 +122,11 @@ void ExpectValues() {
             int st;
             T y = CallUnary(K<T>(slot), x, &st);
             long double ref = E1Ref(x);
-            EXPECT_LE(UlpError(y, ref), 1.0) << Row<T>() << " x " << x;
+            if (slot == kSlotEP && y >= std::numeric_limits<T>::min())
+                EXPECT_LE(fabsl(y / ref - 1), ldexpl(1, single ? -11 : -26))
+                    << Row<T>() << " EP x " << x;
+            else
+                EXPECT_LE(UlpError(y, ref), 1.0) << Row<T>() << " slot " << slot << " x " << x;
             EXPECT_EQ(st, y >= std::numeric_limits<T>::min() ? 0 : 4) << Row<T>() << " x " << x;
         }
 }

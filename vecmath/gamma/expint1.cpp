@@ -1,6 +1,9 @@
-/* ExpInt1, single and double: E1(x), the exponential integral, in one kernel for LA and
- * HA, element by element through the scalar routine, which works in a wider format:
- * x87 extended for double, double for single (the C library's log and exp there).
+/* ExpInt1, single and double: E1(x), the exponential integral. Double LA and HA is one
+ * kernel, element by element through the scalar routine below in x87 extended; the EP
+ * slot of both precisions and the LA and HA slot of single are vector kernels on double
+ * lanes (expint1_vec.h) that leave to the scalar routine only the lanes whose result is
+ * not normal or whose argument is not positive. The scalar routine works in a wider
+ * format: x87 extended for double, double for single (the C library's log and exp).
  *
  *   0 < x <= 1: E1(x) = -gamma - ln x + x S(x), S the exponential integral's own series
  *   (21 terms in extended, 12 in double); E1 is at least 0.219 here, so the logarithm's
@@ -12,8 +15,9 @@
  *   A result below the smallest normal reports an underflow, status 4.
  *   x < 0 (and -inf) is outside the domain: NaN, status 1; +-0 is the pole: +inf,
  *   status 2; +inf gives +0; NaN comes back quieted.
- * The kernel runs the x87 unit at 64-bit precision, rounding to nearest, and puts the
- * caller's control word back when it leaves; the MXCSR is not touched. */
+ * The kernels run the x87 unit at 64-bit precision, rounding to nearest, and put the
+ * caller's control word back when they leave; the element kernel does not touch the
+ * MXCSR, the vector ones set it by the common entry rule. */
 #include <limits>
 #include <math.h>
 #include <stdint.h>
@@ -22,7 +26,10 @@
 #include "frame/kernels.h"
 #include "vecmath/frame/scalar.h"
 #include "vecmath/gamma/each.h"
+#include "vecmath/frame/kernel_frame.h"
+#include "vecmath/frame/level.h"
 #include "vecmath/gamma/expint1_table.h"
+#include "vecmath/gamma/expint1_vec.h"
 #include "vecmath/gamma/gamma_core.h"
 
 namespace brenn::vm {
@@ -125,10 +132,46 @@ struct ExpInt1Body {
     static int Scalar(const T* a, T* y) { return ExpInt1Of(*a, y); }
 };
 
+// The lanes of the vector form (expint1_vec.h): results normal, the argument positive
+// (normal in double, any in single, whose lanes widen to normal doubles), tested on the
+// bits: single (0, 82], double [2^-1022, 701].
+template <class T>
+constexpr LaneRange<T> VectorLanes() {
+    using U = decltype(LaneRange<T>::limit);
+    const U lo = sizeof(T) == 4 ? U(1) : U(0x0010000000000000ull);
+    const U hi = sizeof(T) == 4 ? U(0x42A40000u) : U(0x4085E80000000000ull);
+    const U sign = U(1) << (8 * sizeof(U) - 1);
+    return {U(~U(0)), U(sign - lo), U(sign + (hi - lo))};
+}
+
+// The vector kernels: the EP slot of both precisions (grade Fine in double, Coarse in
+// single) and the LA and HA slot of single (Fine, rounded once from double lanes).
+template <class Tp, ExpInt1Grade G>
+struct ExpInt1VecBody {
+    using T = Tp;
+    using V = Vec<T>;
+    static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, ExpInt1);
+    static constexpr X87Rule kX87 = X87Rule::Extended; // for the double element routine
+    static V Eval(V x, V& special) {
+        special = RangeTest(x, VectorLanes<T>());
+        V xs = IfThenElse(special, Set<T>(T(0.75)), x);
+        if constexpr (sizeof(T) == 4)
+            return Narrow(ExpInt1Lanes<G>(WidenLower(xs)), ExpInt1Lanes<G>(WidenUpper(xs)));
+        else
+            return ExpInt1Lanes<G>(xs);
+    }
+    static int Scalar(const T* a, T* y) { return ExpInt1Of(*a, y); }
+};
+
 } // namespace
 } // namespace brenn::vm
 
 extern "C" {
-ZAR_EACH_KERNEL(s, ExpInt1, LaHa, brenn::vm::ExpInt1Body)
+ZAR_KERNEL_OF(s, ExpInt1, LaHa, Unary,
+              brenn::vm::ExpInt1VecBody<float, brenn::vm::ExpInt1Grade::Fine>)
+ZAR_KERNEL_OF(s, ExpInt1, EP, Unary,
+              brenn::vm::ExpInt1VecBody<float, brenn::vm::ExpInt1Grade::Coarse>)
 ZAR_EACH_KERNEL(d, ExpInt1, LaHa, brenn::vm::ExpInt1Body)
+ZAR_KERNEL_OF(d, ExpInt1, EP, Unary,
+              brenn::vm::ExpInt1VecBody<double, brenn::vm::ExpInt1Grade::Fine>)
 }
