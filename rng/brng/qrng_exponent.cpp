@@ -10,10 +10,13 @@
 // the groups are cut at line boundaries, so no line is written by two passes: the
 // output is then taken from its first line boundary on, as points rotated by the
 // coordinates before it, whose tail lanes run one point ahead (see RunRotated).
-// The point is advanced at the end by the rows used an odd number of times.
+// Each output line is fetched about 1 KiB before it is written: the stores then find
+// their lines in the first-level cache instead of waiting on the fetch. The point is
+// advanced at the end by the rows used an odd number of times.
 #include "rng/brng/qrng_exponent.h"
 
 #include <emmintrin.h>
+#include <xmmintrin.h>
 #include <string.h>
 
 #include <algorithm>
@@ -29,6 +32,8 @@ constexpr int kLine = 8;   // coordinates a cache line
 // Lanes of the run's rows and its point (16 KiB): with all 32 rows a span of
 // coordinates still holds two groups.
 constexpr int kSpanLanes = 2048;
+// How far ahead of the stores the output lines are fetched.
+constexpr int64_t kAheadBytes = 1024;
 
 // w words `stride` apart, shifted right by `shift`, each in the low half of a lane
 // whose high half is `high`; an odd w gets a last lane of `high`, which the
@@ -58,7 +63,7 @@ void Widen(const uint32_t* from, ptrdiff_t stride, int w, int shift, uint64_t hi
 // the q points.
 template <int W, bool kMul, bool kAdd, bool kPaired>
 void RunGroup(const uint64_t* const* even, const uint64_t* const* odd, uint64_t* lanes, uint32_t c,
-              uint32_t q, double* r, int64_t stride, double biasValue, double sValue,
+              uint32_t q, double* r, int64_t stride, int64_t ahead, double biasValue, double sValue,
               double aValue) {
     constexpr int kVectors = (W + 1) / 2;
     const __m128d bias = _mm_set1_pd(biasValue), s = _mm_set1_pd(sValue), a = _mm_set1_pd(aValue);
@@ -78,6 +83,9 @@ void RunGroup(const uint64_t* const* even, const uint64_t* const* odd, uint64_t*
                 _mm_store_sd(r + 2 * v, y);
             x[v] = _mm_xor_si128(x[v], _mm_load_si128(row + v));
         }
+        // The lines of a point `ahead` elements on, fetched before they are written.
+        for (int l = 0; l < W; l += kLine)
+            _mm_prefetch(reinterpret_cast<const char*>(r + ahead + l), _MM_HINT_T0);
         r += stride;
     };
     uint32_t t = 0;
@@ -105,7 +113,7 @@ void RunGroup(const uint64_t* const* even, const uint64_t* const* odd, uint64_t*
 }
 
 using GroupRun = void (*)(const uint64_t* const*, const uint64_t* const*, uint64_t*, uint32_t,
-                          uint32_t, double*, int64_t, double, double, double);
+                          uint32_t, double*, int64_t, int64_t, double, double, double);
 
 // Kernels of widths unit, 2 unit, ...
 template <bool kMul, bool kAdd, bool kPaired, int kUnit, size_t... I>
@@ -144,6 +152,7 @@ void RunGroups(const RunForm& f, const uint64_t* const* even, const uint64_t* co
                int64_t stride) {
     const int units = (w + unit - 1) / unit;
     const int n = (units * unit + kGroup - 1) / kGroup;
+    const int64_t ahead = std::max<int64_t>(1, kAheadBytes / (8 * stride)) * stride;
     for (int i = 0; i < n; ++i) {
         const int g = i * units / n * unit, e = std::min(w, (i + 1) * units / n * unit);
         const uint64_t* evenAt[kQrngBits];
@@ -151,7 +160,7 @@ void RunGroups(const RunForm& f, const uint64_t* const* even, const uint64_t* co
         for (int k = 0; k < kQrngBits; ++k)
             evenAt[k] = even[k] + g, oddAt[k] = odd[k] + g;
         const GroupRun run = paired ? f.pairs[(e - g) / kLine - 1] : f.whole[e - g - 1];
-        run(evenAt, oddAt, point + g, c, q, r + g, stride, f.bias, f.s, f.a);
+        run(evenAt, oddAt, point + g, c, q, r + g, stride, ahead, f.bias, f.s, f.a);
     }
 }
 
