@@ -121,6 +121,44 @@ TEST(QrngForms, RealsAreTheFormsOfTheWordsInEveryBand) {
     }
 }
 
+// Runs of whole points written from every place in a cache line, from an odd and
+// an even counter: points of whole lines go in groups cut at line boundaries, the
+// output taken as rotated points when it starts inside a line, with its first and
+// last coordinates formed one by one. Nothing outside the request is written.
+TEST(QrngForms, RunsFromEveryPlaceInALine) {
+    const FormCase cases[] = {{kSobol, {40}, false},
+                              {kSobol, {32}, false},
+                              {kNiederr, {64}, false},
+                              {kSobol, UserTable(64, 9), true}};
+    constexpr int32_t kPoints = 69; // the second run starts at counter 70
+    const double guard = -7.0;
+    for (const FormCase& k : cases) {
+        const int32_t dim = static_cast<int32_t>(k.params[0]), n = kPoints * dim;
+        const QWords w = FirstQ(k.id, k.params, 2 * n);
+        std::vector<double> buffer(2 * n + 24);
+        double* line =
+            buffer.data() + 8 + (64 - reinterpret_cast<uintptr_t>(buffer.data()) % 64) % 64 / 8;
+        for (const auto& ab : {kBounds[0], kBounds[2]})
+            for (int at = 0; at < 8; ++at) {
+                std::fill(buffer.begin(), buffer.end(), guard);
+                double* r = line + at;
+                void* s = NewQrng(k.id, k.params);
+                ASSERT_EQ(Reals(k.id, s, n, r, ab[0], ab[1]), 0);
+                ASSERT_EQ(Reals(k.id, s, n, r + n, ab[0], ab[1]), 0);
+                __qesDeleteStream(&s);
+                EXPECT_EQ(r[-1], guard);
+                EXPECT_EQ(r[2 * n], guard);
+                for (int32_t i = 0; i < 2 * n; ++i)
+                    if (!SameBits(r[i], Want(w[i], k.chunk, ab[0], ab[1]))) {
+                        ADD_FAILURE()
+                            << "dimension " << dim << " from " << at << " past a line on [" << ab[0]
+                            << ", " << ab[1] << ") element " << i;
+                        break;
+                    }
+            }
+    }
+}
+
 // A zero coordinate (direction numbers 0 and 1 equal, so the second point is 0)
 // must give +0 on [0, 1) and [0, 0.3) whatever the rounding: rounding down turns
 // the zero difference of an exponent trick into -0.
