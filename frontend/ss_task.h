@@ -29,6 +29,20 @@ struct SsEntries<double> {
     static constexpr auto qsort = __qesdQSort;
     static constexpr auto qsortStep = __qesdQSortStep;
     static constexpr auto select = __qesdQSortSelect;
+    static constexpr auto robust = _qesdSSRobustCovariance;
+    static constexpr auto outliers = _qesdSSOutliersDetection;
+    static constexpr auto missing = _qesdSSMissingValues;
+    static constexpr auto partial = _qesdSSPartialCovariance;
+    static constexpr auto pooled = _qesdSSPooledCovariance;
+    static constexpr auto corParam = _qesdSSCorParametrization;
+    static constexpr auto mahalanobis = _qesdSSMahDistance;
+    static constexpr auto editCovCor = __qesdSSEditCovCor;
+    static constexpr auto editRobust = __qesdSSEditRCov;
+    static constexpr auto editOutliers = __qesdSSEditOutDetect;
+    static constexpr auto editMissing = __qesdSSEditMissingVals;
+    static constexpr auto editPartial = __qesdSSEditPartialCovCor;
+    static constexpr auto editPooled = __qesdSSEditPooledCovariance;
+    static constexpr auto editParametrz = __qesdSSEditMtxParametrz;
 };
 template <>
 struct SsEntries<float> {
@@ -46,6 +60,20 @@ struct SsEntries<float> {
     static constexpr auto qsort = __qessQSort;
     static constexpr auto qsortStep = __qessQSortStep;
     static constexpr auto select = __qessQSortSelect;
+    static constexpr auto robust = _qessSSRobustCovariance;
+    static constexpr auto outliers = _qessSSOutliersDetection;
+    static constexpr auto missing = _qessSSMissingValues;
+    static constexpr auto partial = _qessSSPartialCovariance;
+    static constexpr auto pooled = _qessSSPooledCovariance;
+    static constexpr auto corParam = _qessSSCorParametrization;
+    static constexpr auto mahalanobis = _qessSSMahDistance;
+    static constexpr auto editCovCor = __qessSSEditCovCor;
+    static constexpr auto editRobust = __qessSSEditRCov;
+    static constexpr auto editOutliers = __qessSSEditOutDetect;
+    static constexpr auto editMissing = __qessSSEditMissingVals;
+    static constexpr auto editPartial = __qessSSEditPartialCovCor;
+    static constexpr auto editPooled = __qessSSEditPooledCovariance;
+    static constexpr auto editParametrz = __qessSSEditMtxParametrz;
 };
 
 // A null view, counts below 1, a layout other than the two, no observations.
@@ -77,6 +105,10 @@ class SsTask {
     explicit SsTask(const Matrix* m) : storage_(m->layout) {
         status_ =
             SsEntries<T>::newTask(&task_, &m->p, &m->n, &storage_, m->x, m->weights, m->indices, 1);
+    }
+    // A task of p variables without observations, for the entries that read matrices only.
+    explicit SsTask(const int64_t* p) : storage_(BRENN_SS_VARIABLES_IN_ROWS) {
+        status_ = SsEntries<T>::newTask(&task_, p, nullptr, nullptr, nullptr, nullptr, nullptr, 1);
     }
     ~SsTask() {
         if (task_ != nullptr) _qesSSDeleteTask(&task_);

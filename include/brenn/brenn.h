@@ -36,6 +36,7 @@
 #include "brenn_ss.h"
 #include "brenn_ss_order.h"
 #include "brenn_ss_stream.h"
+#include "brenn_ss_robust.h"
 #include "brenn_fit.h"
 
 #ifdef __cplusplus

@@ -18,6 +18,7 @@
 #include "brenn_rand.hpp"
 #include "brenn_ss.hpp"
 #include "brenn_ss_order.hpp"
+#include "brenn_ss_robust.hpp"
 #include "brenn_fit.hpp"
 
 #endif

@@ -1,7 +1,10 @@
 """Statistics of a matrix of observations in one call of the library: summary
 estimates (:func:`summary`), quantiles (:func:`quantile`), sorting (:func:`sort`),
 the median absolute deviation (:func:`median_abs_deviation`), the weighted median
-(:func:`weighted_median`) and streaming quantiles (:class:`StreamingQuantiles`).
+(:func:`weighted_median`), streaming quantiles (:class:`StreamingQuantiles`), and
+robust and derived covariance estimates (:func:`robust_covariance`,
+:func:`outliers`, :func:`missing_values`, :func:`partial_covariance`,
+:func:`pooled_covariance`, :func:`nearest_correlation`, :func:`mahalanobis`).
 Arrays are float32 or float64 (other dtypes are a TypeError, never a silent cast),
 1-D or 2-D; the library's call runs without the GIL."""
 import numbers
@@ -269,3 +272,9 @@ class StreamingQuantiles:
             r = r.reshape(flat.shape)
         r = np.array(r)
         return r[0] if orders.ndim == 0 else r
+
+
+from ._stats_robust import (MissingValues, PartialCovariance, PooledCovariance,  # noqa: E402
+                            RobustCovariance, mahalanobis, missing_values,
+                            nearest_correlation, outliers, partial_covariance,
+                            pooled_covariance, robust_covariance)

@@ -1,5 +1,5 @@
 """Stub of brenn.stats."""
-from typing import Iterator, Literal, Optional, Sequence, Union
+from typing import Iterator, Literal, NamedTuple, Optional, Sequence, Union
 
 import numpy as np
 from numpy.typing import ArrayLike, NDArray
@@ -58,3 +58,53 @@ class StreamingQuantiles:
         """Feeds n observations: 1-D (p = 1) or (n, p)."""
     def quantile(self, q: Union[float, ArrayLike]) -> NDArray[np.floating]:
         """The quantiles of order q of all that was fed."""
+
+class RobustCovariance(NamedTuple):
+    location: NDArray[np.floating]
+    covariance: NDArray[np.floating]
+
+class MissingValues(NamedTuple):
+    mean: NDArray[np.floating]
+    covariance: NDArray[np.floating]
+    imputed: NDArray[np.floating]
+    imputed_means: NDArray[np.floating]
+    completed: NDArray[np.floating]
+
+class PartialCovariance(NamedTuple):
+    covariance: NDArray[np.floating]
+    correlation: NDArray[np.floating]
+
+class PooledCovariance(NamedTuple):
+    mean: NDArray[np.floating]
+    covariance: NDArray[np.floating]
+    group_means: NDArray[np.floating]
+    group_covariances: NDArray[np.floating]
+
+def robust_covariance(x: ArrayLike, support_fraction: Optional[float] = ..., starts: int = ...,
+                      max_steps: int = ..., seed: int = ..., axis: int = ...) -> RobustCovariance:
+    """The minimum covariance determinant estimate (FAST-MCD), reweighted."""
+
+def outliers(x: ArrayLike, alpha: float = ..., start: Literal["mahalanobis", "median"] = ...,
+             c: float = ..., axis: int = ...) -> NDArray[np.bool_]:
+    """BACON's outliers: True for an outlier."""
+
+def missing_values(x: ArrayLike, imputations: int = ..., max_iter: int = ..., tol: float = ...,
+                   steps: int = ..., seed: int = ..., axis: int = ...) -> MissingValues:
+    """EM's mean and covariance with NaNs missing, and imputations by data augmentation."""
+
+def partial_covariance(x: ArrayLike, given: Union[int, Sequence[int]],
+                       of: Optional[Union[int, Sequence[int]]] = ...,
+                       weights: Optional[ArrayLike] = ..., axis: int = ...) -> PartialCovariance:
+    """The covariance and correlation of the variables `of` given the variables `given`."""
+
+def pooled_covariance(x: ArrayLike, labels: ArrayLike, groups: Optional[int] = ...,
+                      axis: int = ...) -> PooledCovariance:
+    """Group covariances and their pooled covariance (divisor n - groups)."""
+
+def nearest_correlation(a: ArrayLike, weights: Optional[ArrayLike] = ...,
+                        tol: Optional[float] = ..., max_iter: int = ...) -> NDArray[np.floating]:
+    """The nearest correlation matrix in the weighted Frobenius norm (Higham 2002)."""
+
+def mahalanobis(x: ArrayLike, mean: ArrayLike, cov: ArrayLike,
+                axis: int = ...) -> NDArray[np.floating]:
+    """The Mahalanobis distance of each observation from mean under cov."""

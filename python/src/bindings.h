@@ -15,6 +15,7 @@ void InitVm(pybind11::module_& m);
 void InitRng(pybind11::module_& m);
 void InitStats(pybind11::module_& m);
 void InitStatsOrder(pybind11::module_& stats);
+void InitStatsRobust(pybind11::module_& m);
 void InitFit(pybind11::module_& m);
 
 // Raises the Python exception of a failed status (negative); other statuses pass.

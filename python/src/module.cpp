@@ -44,5 +44,6 @@ PYBIND11_MODULE(_brenn, m) {
     brenn_py::InitVm(m);
     brenn_py::InitRng(m);
     brenn_py::InitStats(m);
+    brenn_py::InitStatsRobust(m);
     brenn_py::InitFit(m);
 }
