@@ -16,7 +16,6 @@
 #include "rng/brng/qrng_exponent.h"
 
 #include <emmintrin.h>
-#include <xmmintrin.h>
 #include <string.h>
 
 #include <algorithm>
@@ -119,7 +118,7 @@ using GroupRun = void (*)(const uint64_t* const*, const uint64_t* const*, uint64
 template <bool kMul, bool kAdd, bool kPaired, int kUnit, size_t... I>
 constexpr auto GroupTable(std::index_sequence<I...>) {
     return std::array<GroupRun, sizeof...(I)>{
-        &RunGroup<kUnit* static_cast<int>(I + 1), kMul, kAdd, kPaired>...};
+        &RunGroup<static_cast<int>(I + 1) * kUnit, kMul, kAdd, kPaired>...};
 }
 template <bool kMul, bool kAdd>
 constexpr auto kWhole = GroupTable<kMul, kAdd, false, 1>(std::make_index_sequence<kGroup>());
@@ -182,9 +181,9 @@ void RunSpan(const QrngView& v, const RunForm& f, uint32_t used, int shift, uint
     RunGroups(f, even, odd, slot, w, unit, false, v.head->counter, q, r, v.head->dimension);
 }
 
-// q points of d coordinates, d a multiple of 8, from r, whose first line boundary
-// is m = d - u coordinates into the point: the output from r + u on is taken as
-// points of d coordinates rotated by u, lanes 0 to m - 1 holding coordinates u to
+// q points of d coordinates, d a multiple of 8, from r, with r + u the first line
+// boundary (0 < u < 8): the output from r + u on is taken as points of d
+// coordinates rotated by u, with m = d - u, lanes 0 to m - 1 holding coordinates u to
 // d - 1 of point t and lanes m to d - 1 coordinates 0 to u - 1 of point t + 1, so
 // that the groups, cut at multiples of 8 lanes, each write whole lines. Point t's
 // step XORs row LowZero(c) into the first lanes and row LowZero(c + 1) into the
