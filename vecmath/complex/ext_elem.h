@@ -44,6 +44,18 @@ inline int CExpX(long double a, long double b, long double& re, long double& im)
 // larger magnitude x and the smaller w, so that it keeps its relative accuracy; elsewhere
 // ln(x^2 + w^2)/2. An infinite part gives +inf, the phase by the quadrant rules of
 // atan2; zero gives -inf by a division, with status 2.
+// ln|z| of finite parts, not both zero (the real part of CLogX below).
+inline long double LogAbsX(long double a, long double b) {
+    long double x = fabsl(a), w = fabsl(b);
+    if (x < w) {
+        long double t = x;
+        x = w;
+        w = t;
+    }
+    if (x >= 0.5L && x <= 2.0L) return 0.5L * log1pl((x - 1) * (x + 1) + w * w);
+    return 0.5L * logl(x * x + w * w);
+}
+
 inline int CLogX(long double a, long double b, long double& re, long double& im) {
     if (__builtin_isinf(a) || __builtin_isinf(b)) {
         re = __builtin_infl();
@@ -55,16 +67,7 @@ inline int CLogX(long double a, long double b, long double& re, long double& im)
         im = atan2l(b, a);
         return status::kSingularity;
     } else {
-        long double x = fabsl(a), w = fabsl(b);
-        if (x < w) {
-            long double t = x;
-            x = w;
-            w = t;
-        }
-        if (x >= 0.5L && x <= 2.0L)
-            re = 0.5L * log1pl((x - 1) * (x + 1) + w * w);
-        else
-            re = 0.5L * logl(x * x + w * w);
+        re = LogAbsX(a, b);
         im = atan2l(b, a);
     }
     return status::kNone;

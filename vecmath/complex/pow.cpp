@@ -77,16 +77,9 @@ int QuarterTurns(LD a, LD b, LD& ra, LD& rb) {
     return b > 0 ? 1 : -1;
 }
 
-// The result from exp(wr + wrLo) and the phase pi j/2 + v, v = vHi + vLo: the sine and
-// cosine of v turned by j quarter turns, exactly.
-void Finish(LD wr, LD wrLo, int j, LD vHi, LD vLo, LD& re, LD& im) {
-    LD s, c;
-    sincosl(vHi, &s, &c);
-    if (vLo != 0) {
-        const LD s1 = s + c * vLo;
-        c -= s * vLo;
-        s = s1;
-    }
+// The result from exp(wr + wrLo) and the phase pi j/2 + v, from v's sine s and cosine c:
+// those turned by j quarter turns, exactly.
+void Finish(LD wr, LD wrLo, int j, LD s, LD c, LD& re, LD& im) {
     LD e = expl(wr);
     if (wrLo != 0 && __builtin_isfinite(e)) e += e * wrLo;
     // an exact zero of the turned sine or cosine stays zero beside an infinite modulus
@@ -144,8 +137,15 @@ void WidePow(LD a, LD b, LD c, LD d, const Phase& p, LD& re, LD& im) {
     Q v = kPiQ * Q(p.t1) + qc * delta + qd * l;
     const Q turns = rintq(v / (2 * kPiQ));
     v -= 2 * kPiQ * turns;
-    const LD wrHi = LD(wr), vHi = LD(v);
-    Finish(wrHi, LD(wr - Q(wrHi)), p.j, vHi, LD(v - Q(vHi)), re, im);
+    const LD wrHi = LD(wr), vHi = LD(v), vLo = LD(v - Q(vHi));
+    LD s, co;
+    sincosl(vHi, &s, &co);
+    if (vLo != 0) { // sin and cos of vHi + vLo, |vLo| below an ulp of vHi
+        const LD s1 = s + co * vLo;
+        co -= s * vLo;
+        s = s1;
+    }
+    Finish(wrHi, LD(wr - Q(wrHi)), p.j, s, co, re, im);
 }
 
 // x^y for one element. kTolExp: the fast route's bound on the relative error of a part,
@@ -156,18 +156,18 @@ int PowOf(LD a, LD b, LD c, LD d, LD& re, LD& im) {
                         __builtin_isfinite(d);
     if (!finite || (a == 0 && b == 0)) return PlainPow(a, b, c, d, re, im);
     const Phase p = PhaseOf(a, b, c);
-    LD lr, th;
-    CLogX(a, b, lr, th);
-    const LD delta = atan2l(p.rb, p.ra);
+    const LD lr = LogAbsX(a, b), delta = atan2l(p.rb, p.ra);
+    const LD th = p.eighths * (kPi / 4) + delta; // arg x
     const LD cd = c * delta, dl = d * lr, cl = c * lr, dth = d * th;
     const LD v = kPi * p.t1 + cd + dl;
     // error bounds of the phase v and of wr, a few roundings each of the extended terms
     const LD ev = 0x1p-61L * (fabsl(p.t1) * 4 + fabsl(cd) + fabsl(dl));
     const LD er = 0x1p-61L * (fabsl(cl) + fabsl(dth) + 1);
     const LD tol = ldexpl(1, kTolExp);
-    const LD sv = fabsl(sinl(v)), cv = fabsl(cosl(v));
-    if (er <= tol && ev <= tol * (sv < cv ? sv : cv)) {
-        Finish(cl - dth, 0, p.j, v, 0, re, im);
+    LD s, co;
+    sincosl(v, &s, &co);
+    if (er <= tol && ev <= tol * fminl(fabsl(s), fabsl(co))) {
+        Finish(cl - dth, 0, p.j, s, co, re, im);
         return status::kNone;
     }
     WidePow(a, b, c, d, p, re, im);
