@@ -1,6 +1,7 @@
 // Spline objects of the front-end: checked construction of one function's spline of
 // any construction family (the family's entry found in the kernel library by its
-// name, so families built later need no change here), and evaluation at sites.
+// name, so families built later need no change here), evaluation at sites, and
+// integrals over intervals.
 #include <cmath>
 #include <dlfcn.h>
 #include <new>
@@ -61,6 +62,7 @@ struct Precision<double> {
     static constexpr auto newTask = brenn_df_kernel_dNewTask1D;
     static constexpr auto edit = brenn_df_kernel_dEditPPSpline1D;
     static constexpr auto interpolate = brenn_df_kernel_dDFInterpolate1D;
+    static constexpr auto integrate = brenn_df_kernel_dDFIntegrate1D;
 };
 template <>
 struct Precision<float> {
@@ -68,6 +70,7 @@ struct Precision<float> {
     static constexpr auto newTask = brenn_df_kernel_sNewTask1D;
     static constexpr auto edit = brenn_df_kernel_sEditPPSpline1D;
     static constexpr auto interpolate = brenn_df_kernel_sDFInterpolate1D;
+    static constexpr auto integrate = brenn_df_kernel_sDFIntegrate1D;
 };
 
 } // namespace
@@ -148,6 +151,27 @@ int Eval(const S* s, int64_t nsite, const T* site, int nderiv, T* result) {
                                      nullptr, nullptr, brenn_serv_pool_threader());
 }
 
+// Integrals from a[i] to b[i]. Without extrapolation an interval with a limit outside
+// the partition is NaN, as the end cells' polynomials would otherwise be taken.
+template <class S, class T>
+int Integrate(const S* s, int64_t n, const T* a, const T* b, int extrapolate, T* result) {
+    if (n < 0) return BRENN_ERR_BAD_SIZE;
+    if (s == nullptr) return BRENN_ERR_NULL_POINTER;
+    if (n > 0 && (a == nullptr || b == nullptr || result == nullptr)) return BRENN_ERR_NULL_POINTER;
+    for (int64_t i = 0; i < n; ++i)
+        if (std::isnan(a[i]) || std::isnan(b[i])) return BRENN_ERR_BAD_ARGUMENT;
+    if (n == 0) return BRENN_OK;
+    int status = Precision<T>::integrate(s->task, 0, n, a, 0, b, 0, nullptr, nullptr, result,
+                                         FIT_RESULT_FUNCTIONS_SITES_DERIVATIVES, nullptr, nullptr,
+                                         nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                                         brenn_serv_pool_threader());
+    if (status < 0 || extrapolate) return status;
+    T lo = s->x.front(), hi = s->x.back();
+    for (int64_t i = 0; i < n; ++i)
+        if (a[i] < lo || a[i] > hi || b[i] < lo || b[i] > hi) result[i] = std::nan("");
+    return status;
+}
+
 template <class S>
 int Delete(S** s) {
     if (s == nullptr) return BRENN_ERR_NULL_POINTER;
@@ -176,6 +200,11 @@ BRENN_FE_EXPORT int brenn_fit_spline_eval_f64(const brenn_fit_spline_f64* spline
                                               const double* site, int nderiv, double* result) {
     return Eval(spline, nsite, site, nderiv, result);
 }
+BRENN_FE_EXPORT int brenn_fit_spline_integrate_f64(const brenn_fit_spline_f64* spline, int64_t n,
+                                                   const double* a, const double* b,
+                                                   int extrapolate, double* result) {
+    return Integrate(spline, n, a, b, extrapolate, result);
+}
 BRENN_FE_EXPORT int brenn_fit_spline_delete_f64(brenn_fit_spline_f64** spline) {
     return Delete(spline);
 }
@@ -187,6 +216,11 @@ BRENN_FE_EXPORT int brenn_fit_spline_new_f32(brenn_fit_spline_f32** spline, int 
 BRENN_FE_EXPORT int brenn_fit_spline_eval_f32(const brenn_fit_spline_f32* spline, int64_t nsite,
                                               const float* site, int nderiv, float* result) {
     return Eval(spline, nsite, site, nderiv, result);
+}
+BRENN_FE_EXPORT int brenn_fit_spline_integrate_f32(const brenn_fit_spline_f32* spline, int64_t n,
+                                                   const float* a, const float* b, int extrapolate,
+                                                   float* result) {
+    return Integrate(spline, n, a, b, extrapolate, result);
 }
 BRENN_FE_EXPORT int brenn_fit_spline_delete_f32(brenn_fit_spline_f32** spline) {
     return Delete(spline);

@@ -1,8 +1,9 @@
 /** @file brenn_fit.h
  * Data fitting through the front-end: a spline object built from its partition,
- * function values and conditions in one checked call, and evaluated (values and
- * derivatives) at sites. The object owns copies of everything it needs; the caller's
- * arrays may go once brenn_fit_spline_new_f64() returns.
+ * function values and conditions in one checked call, evaluated (values and
+ * derivatives) at sites and integrated over intervals. The object owns copies of
+ * everything it needs; the caller's arrays may go once brenn_fit_spline_new_f64()
+ * returns.
  *
  * Kinds are the construction families of the fitting service. Each kind's
  * construction entry is looked up in the kernel library when a spline is made, so a
@@ -77,6 +78,20 @@ int brenn_fit_spline_new_f64(brenn_fit_spline_f64** spline, int kind, int64_t nx
  * @return BRENN_OK, a refusal, or a FIT_STATUS_* of the interpolation. */
 int brenn_fit_spline_eval_f64(const brenn_fit_spline_f64* spline, int64_t nsite, const double* site,
                               int nderiv, double* result);
+/** Integrals over intervals: result[i] is the integral from a[i] to b[i], exactly minus
+ * that from b[i] to a[i] when b[i] < a[i]. Each cell's polynomial is integrated in
+ * closed form and whole cells are summed pairwise, so the error does not grow with the
+ * limits' distance from x[0]; an interval's result does not depend on the others.
+ * @param spline the spline
+ * @param n number of intervals
+ * @param a the lower limits (NaN refused)
+ * @param b the upper limits (NaN refused)
+ * @param extrapolate nonzero: beyond the partition the end cells' polynomials; zero:
+ *        NaN for an interval with a limit outside [x[0], x[nx-1]]
+ * @param result n integrals
+ * @return BRENN_OK, a refusal, or a FIT_STATUS_* of the integration. */
+int brenn_fit_spline_integrate_f64(const brenn_fit_spline_f64* spline, int64_t n, const double* a,
+                                   const double* b, int extrapolate, double* result);
 /** Ends a spline and sets *spline to null; a null *spline is accepted.
  * @param spline the spline's address
  * @return BRENN_OK, or BRENN_ERR_NULL_POINTER for a null address. */
@@ -88,6 +103,10 @@ int brenn_fit_spline_new_f32(brenn_fit_spline_f32** spline, int kind, int64_t nx
 /** The float form of brenn_fit_spline_eval_f64(). @copydetails brenn_fit_spline_eval_f64 */
 int brenn_fit_spline_eval_f32(const brenn_fit_spline_f32* spline, int64_t nsite, const float* site,
                               int nderiv, float* result);
+/** The float form of brenn_fit_spline_integrate_f64(). The sums are made in double
+ * precision and rounded once. @copydetails brenn_fit_spline_integrate_f64 */
+int brenn_fit_spline_integrate_f32(const brenn_fit_spline_f32* spline, int64_t n, const float* a,
+                                   const float* b, int extrapolate, float* result);
 /** The float form of brenn_fit_spline_delete_f64(). @copydetails brenn_fit_spline_delete_f64 */
 int brenn_fit_spline_delete_f32(brenn_fit_spline_f32** spline);
 

@@ -1,7 +1,7 @@
 /** @file brenn_fit.hpp
  * Data fitting in C++: brenn::fit::spline (double) and brenn::fit::sspline (float)
  * own a spline built from knots, values and a boundary condition (movable, not
- * copyable), and give values and derivatives at sites. */
+ * copyable), and give values and derivatives at sites and integrals over intervals. */
 #ifndef BRENN_FIT_HPP
 #define BRENN_FIT_HPP
 
@@ -99,6 +99,29 @@ class basic_spline {
         result<std::vector<T>> r;
         r.value.resize(nderiv > 0 ? sites.size() * static_cast<std::size_t>(nderiv) : 0);
         r.stat = eval(sites, nderiv, std::span<T>(r.value));
+        if (r.stat.code < 0) r.value.clear();
+        return r;
+    }
+
+    /** Integrals from a[i] to b[i] into out; extrapolate: beyond the partition the end
+     * cells' polynomials, else NaN for an interval with a limit outside it. */
+    status integrate(std::span<const T> a, std::span<const T> b, std::span<T> out,
+                     bool extrapolate = true) const {
+        if (b.size() != a.size() || out.size() != a.size()) return {BRENN_ERR_SIZE_MISMATCH};
+        const auto n = static_cast<std::int64_t>(a.size());
+        if constexpr (std::is_same_v<T, double>)
+            return {
+                brenn_fit_spline_integrate_f64(h_, n, a.data(), b.data(), extrapolate, out.data())};
+        else
+            return {
+                brenn_fit_spline_integrate_f32(h_, n, a.data(), b.data(), extrapolate, out.data())};
+    }
+    /** Integrals from a[i] to b[i], returned. */
+    result<std::vector<T>> integrate(std::span<const T> a, std::span<const T> b,
+                                     bool extrapolate = true) const {
+        result<std::vector<T>> r;
+        r.value.resize(a.size());
+        r.stat = integrate(a, b, std::span<T>(r.value), extrapolate);
         if (r.stat.code < 0) r.value.clear();
         return r;
     }

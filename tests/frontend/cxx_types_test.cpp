@@ -125,6 +125,11 @@ TEST(FrontendCxx, StatisticsAndSplinesReturnValues) {
     auto v = s.value.eval(std::vector<double>{3.0}, 2);
     ASSERT_TRUE(v.stat.ok());
     EXPECT_EQ(v.value, (std::vector<double>{7.0, 2.0}));
+    auto area =
+        s.value.integrate(std::vector<double>{0.0, 4.0}, std::vector<double>{4.0, 5.0}, false);
+    ASSERT_TRUE(area.stat.ok());
+    EXPECT_EQ(area.value[0], 20.0);
+    EXPECT_TRUE(std::isnan(area.value[1]));
     brenn::fit::spline moved = std::move(s.value);
     EXPECT_FALSE(s.value);
     EXPECT_TRUE(moved);
@@ -134,6 +139,8 @@ TEST(FrontendCxx, StatisticsAndSplinesReturnValues) {
     EXPECT_FALSE(bad.value);
     std::vector<double> out(3);
     EXPECT_EQ(moved.eval(std::vector<double>{1.0}, 2, out).code, BRENN_ERR_SIZE_MISMATCH);
+    EXPECT_EQ(moved.integrate(std::vector<double>{1.0}, std::vector<double>{2.0}, out).code,
+              BRENN_ERR_SIZE_MISMATCH);
 }
 
 TEST(FrontendCxx, ExceptionsOnlyWhenAsked) {

@@ -118,6 +118,18 @@ TEST(FrontendFit, RefusalsLeaveNoSpline) {
     EXPECT_EQ(brenn_fit_spline_eval_f64(s, -1, site, 1, out), BRENN_ERR_BAD_SIZE);
     EXPECT_EQ(brenn_fit_spline_eval_f64(s, 1, site, 1, nullptr), BRENN_ERR_NULL_POINTER);
     EXPECT_EQ(out[0], -1.0);
+    // Integrals: the same checks, and a NaN limit on either side.
+    double lo[2] = {0.5, 1}, hi[2] = {2, NAN};
+    const brenn_fit_spline_f64* none = nullptr;
+    EXPECT_EQ(brenn_fit_spline_integrate_f64(s, -1, lo, hi, 1, out), BRENN_ERR_BAD_SIZE);
+    EXPECT_EQ(brenn_fit_spline_integrate_f64(none, 1, lo, hi, 1, out), BRENN_ERR_NULL_POINTER);
+    EXPECT_EQ(brenn_fit_spline_integrate_f64(s, 1, nullptr, hi, 1, out), BRENN_ERR_NULL_POINTER);
+    EXPECT_EQ(brenn_fit_spline_integrate_f64(s, 1, lo, nullptr, 1, out), BRENN_ERR_NULL_POINTER);
+    EXPECT_EQ(brenn_fit_spline_integrate_f64(s, 1, lo, hi, 1, nullptr), BRENN_ERR_NULL_POINTER);
+    EXPECT_EQ(brenn_fit_spline_integrate_f64(s, 2, lo, hi, 1, out), BRENN_ERR_BAD_ARGUMENT);
+    EXPECT_EQ(brenn_fit_spline_integrate_f64(s, 2, hi, lo, 0, out), BRENN_ERR_BAD_ARGUMENT);
+    EXPECT_EQ(brenn_fit_spline_integrate_f64(s, 0, nullptr, nullptr, 1, nullptr), BRENN_OK);
+    EXPECT_EQ(out[0], -1.0);
     brenn_fit_spline_delete_f64(&s);
     EXPECT_EQ(s, nullptr);
 }
@@ -162,6 +174,23 @@ TEST(FrontendFit, EveryBuiltKindReproducesItsPolynomials) {
             EXPECT_NEAR(out[2 * i], 3 * sites[i] - 1, 1e-13) << kind;
             EXPECT_NEAR(out[2 * i + 1], 3.0, 1e-12) << kind;
         }
+        // Integrals of the line: inside, beyond both ends (the end cells extended, or NaN
+        // without extrapolation), the other way round exactly minus.
+        const double lo[4] = {0.1, -1, 1.3, 2.9}, hi[4] = {2.9, 4, 0.2, 2.9};
+        double area[4], flat[4];
+        ASSERT_EQ(brenn_fit_spline_integrate_f64(s, 4, lo, hi, 1, area), BRENN_OK);
+        ASSERT_EQ(brenn_fit_spline_integrate_f64(s, 4, lo, hi, 0, flat), BRENN_OK);
+        for (int i = 0; i < 4; ++i) {
+            double exact = 1.5 * (hi[i] * hi[i] - lo[i] * lo[i]) - (hi[i] - lo[i]);
+            EXPECT_NEAR(area[i], exact, 1e-12) << kind << " " << i;
+            EXPECT_EQ(std::isnan(flat[i]), i == 1) << kind << " " << i;
+            if (i != 1) {
+                EXPECT_EQ(flat[i], area[i]);
+            }
+        }
+        double back;
+        ASSERT_EQ(brenn_fit_spline_integrate_f64(s, 1, hi, lo, 1, &back), BRENN_OK);
+        EXPECT_EQ(back, -area[0]);
         brenn_fit_spline_delete_f64(&s);
     }
     EXPECT_GE(built, 2);
@@ -174,6 +203,12 @@ TEST(FrontendFit, EveryBuiltKindReproducesItsPolynomials) {
     float site = 1.3f, value;
     ASSERT_EQ(brenn_fit_spline_eval_f32(f, 1, &site, 1, &value), BRENN_OK);
     EXPECT_NEAR(value, 2.9f, 1e-5f);
+    float lo[2] = {0.25f, 3}, hi[2] = {2.5f, 4}, area[2];
+    ASSERT_EQ(brenn_fit_spline_integrate_f32(f, 2, lo, hi, 0, area), BRENN_OK);
+    EXPECT_NEAR(area[0], 1.5f * (2.5f * 2.5f - 0.0625f) - 2.25f, 1e-5f);
+    EXPECT_TRUE(std::isnan(area[1]));
+    hi[0] = NAN;
+    EXPECT_EQ(brenn_fit_spline_integrate_f32(f, 1, lo, hi, 1, area), BRENN_ERR_BAD_ARGUMENT);
     brenn_fit_spline_delete_f32(&f);
 }
 
