@@ -20,3 +20,6 @@ class Spline:
                  midpoints: Optional[ArrayLike] = ...) -> None: ...
     def __call__(self, sites: ArrayLike, nu: int = ...) -> NDArray[np.floating]:
         """Derivative nu (0 the value) at the sites."""
+    def integrate(self, a: ArrayLike, b: ArrayLike,
+                  extrapolate: bool = ...) -> NDArray[np.floating]:
+        """The integral from a to b (arrays of limits broadcast together)."""

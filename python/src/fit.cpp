@@ -1,6 +1,6 @@
 // Data fitting for Python: a front-end spline of float32 or float64 data, built once
 // from its partition, values and conditions, and evaluated at sites (values and
-// derivatives) without the GIL.
+// derivatives) and integrated over intervals without the GIL.
 #include <pybind11/numpy.h>
 #include <pybind11/pybind11.h>
 
@@ -22,6 +22,7 @@ struct Api<double> {
     using Handle = brenn_fit_spline_f64;
     static constexpr auto New = &brenn_fit_spline_new_f64;
     static constexpr auto Eval = &brenn_fit_spline_eval_f64;
+    static constexpr auto Integrate = &brenn_fit_spline_integrate_f64;
     static constexpr auto Delete = &brenn_fit_spline_delete_f64;
 };
 template <>
@@ -29,6 +30,7 @@ struct Api<float> {
     using Handle = brenn_fit_spline_f32;
     static constexpr auto New = &brenn_fit_spline_new_f32;
     static constexpr auto Eval = &brenn_fit_spline_eval_f32;
+    static constexpr auto Integrate = &brenn_fit_spline_integrate_f32;
     static constexpr auto Delete = &brenn_fit_spline_delete_f32;
 };
 
@@ -83,6 +85,22 @@ class Spline {
         Check(status, "spline evaluation");
         return r;
     }
+    // Integrals from a[i] to b[i], a and b of one length.
+    py::array_t<T> Integrate(const Array<T>& a, const Array<T>& b, bool extrapolate) const {
+        if (a.ndim() != 1 || b.ndim() != 1 || a.shape(0) != b.shape(0))
+            throw py::value_error("the limits must be 1-D arrays of one length");
+        py::array_t<T> r(a.shape(0));
+        const T *lo = a.data(), *hi = b.data();
+        T* out = r.mutable_data();
+        int64_t n = a.shape(0);
+        int status;
+        {
+            py::gil_scoped_release release;
+            status = Api<T>::Integrate(s_, n, lo, hi, extrapolate ? 1 : 0, out);
+        }
+        Check(status, "spline integration");
+        return r;
+    }
     int Order() const { return order_; }
 
   private:
@@ -98,6 +116,7 @@ void Bind(py::module_& f, const char* name) {
              py::arg("kind"), py::arg("x"), py::arg("y"), py::arg("bc_type"), py::arg("bc"),
              py::arg("ic"))
         .def("eval", &Spline<T>::Eval, py::arg("sites"), py::arg("nderiv"))
+        .def("integrate", &Spline<T>::Integrate, py::arg("a"), py::arg("b"), py::arg("extrapolate"))
         .def_property_readonly("order", &Spline<T>::Order);
 }
 

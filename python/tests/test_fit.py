@@ -1,6 +1,7 @@
 """brenn.fit.Spline against scipy: linear against numpy.interp, the C2 cubic with
 each of scipy's bc_type forms against CubicSpline (values and derivatives, outside
-the partition too), the Hermite cubic, single precision, and the refusals."""
+the partition too), the Hermite cubic, integrals against CubicSpline.integrate,
+single precision, and the refusals."""
 import numpy as np
 import pytest
 from scipy.interpolate import CubicHermiteSpline, CubicSpline
@@ -58,6 +59,26 @@ def test_local_cubics_interpolate(kind):
     # C1: the derivative is continuous across the nodes.
     h = 1e-7
     np.testing.assert_allclose(s(X[1:-1] - h, nu=1), s(X[1:-1] + h, nu=1), rtol=1e-5, atol=1e-5)
+
+
+def test_integrate_equals_scipy():
+    ours, theirs = fit.Spline(X, Y, bc="natural"), CubicSpline(X, Y, bc_type="natural")
+    rng = np.random.default_rng(5)
+    a, b = rng.uniform(-1, 11, 300), rng.uniform(-1, 11, 300)
+    a[:40] = b[:40] + rng.uniform(0, 1e-3, 40)  # short ones, the other way round
+    for extrapolate in (True, False):
+        want = np.array([theirs.integrate(p, q, extrapolate) for p, q in zip(a, b)])
+        np.testing.assert_allclose(ours.integrate(a, b, extrapolate), want, rtol=1e-12,
+                                   atol=1e-12, equal_nan=True)
+    assert ours.integrate(b[7], a[7]) == -ours.integrate(a[7], b[7])
+    assert ours.integrate(2.0, X.reshape(4, 10)).shape == (4, 10)
+    s32 = fit.Spline(X.astype(np.float32), Y.astype(np.float32), bc="natural")
+    r = s32.integrate(a, b)
+    assert r.dtype == np.float32
+    np.testing.assert_allclose(r, ours.integrate(a, b), rtol=1e-4, atol=1e-4)
+    for bad in ((np.nan, 1.0, True), (0.0, [1.0, np.nan], True), (0.0, 1.0, "periodic")):
+        with pytest.raises(ValueError):
+            ours.integrate(*bad)
 
 
 def test_single_precision_and_shapes():
