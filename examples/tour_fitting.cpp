@@ -1,6 +1,7 @@
 // Tour step of data fitting through the front-end: spline objects of a function given
 // by its values (linear, quadratic, natural and Akima cubic), each evaluated with its
-// first derivative at a few sites, one of them outside the partition.
+// first derivative at a few sites, one of them outside the partition, and integrated
+// over an interval beside the exact integral.
 #include <cmath>
 #include <cstdio>
 #include <vector>
@@ -37,5 +38,10 @@ void TourFitting() {
         for (size_t i = 0; i < sites.size(); ++i)
             std::printf("  s = %.2f  value %+.5f  slope %+.5f  (sin %+.5f, cos %+.5f)\n", sites[i],
                         v.value[2 * i], v.value[2 * i + 1], std::sin(sites[i]), std::cos(sites[i]));
+        // The integral over [0.3, 4], beside that of sin.
+        auto area = made.value.integrate(std::vector<double>{0.3}, std::vector<double>{4.0});
+        if (area)
+            std::printf("  integral over [0.30, 4.00] %+.5f  (exact %+.5f)\n", area.value[0],
+                        std::cos(0.3) - std::cos(4.0));
     }
 }
