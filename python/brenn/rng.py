@@ -7,14 +7,32 @@ Each generator family built into the library is a class here (``MT19937``,
     g.standard_normal(10)
 
 through numpy's documented interface: a ``capsule`` named "BitGenerator" holding
-the ``bitgen_t`` record, and a ``lock``. The 32-bit words are the stream's own
-(``random_raw`` gives them); 64-bit draws join two words, the first the high half,
-and doubles take 27 and 26 bits of two words, as numpy's MT19937 does, so
-``MT19937(s)`` gives the sequence of numpy's ``MT19937`` seeded through the same
-words (``numpy.random.MT19937()._legacy_seeding([s])``, the reference
-initialisation by an array).
-``jumped(n)`` skips n words, ``leapfrog(k, m)`` takes every m-th word from the k-th;
-pickling saves the stream's image.
+the ``bitgen_t`` record, and a ``lock``. The stream is drawn a block at a time; how
+numpy's 32-bit words, 64-bit words and doubles come from its outputs depends on the
+family:
+
+- MT19937, MT2203, SFMT19937, ARS5, PHILOX4X32X10 and MCG59 give 32-bit words (MCG59's
+  are bits 27 to 58 of its 59-bit outputs); ``random_raw`` gives them. A 64-bit word
+  joins two, the first the high half, and a double takes 27 and 26 bits of two words,
+  as numpy's MT19937 does, so ``MT19937(s)`` gives the sequence of numpy's
+  ``MT19937`` seeded through the same words
+  (``numpy.random.MT19937()._legacy_seeding([s])``, the reference initialisation by
+  an array).
+- MCG31M1, R250, MRG32K3A and WH, whose outputs have fewer than 32 random bits or are
+  not full 32-bit words, serve the stream's double uniforms u on [0, 1)
+  (``Stream(family, seed).uniform``) as numpy's doubles. Each uniform is also a field
+  of ``bits`` bits, floor(u 2**bits), with ``bits`` 31 for MCG31M1 and 32 for the
+  others; for MCG31M1 and R250 the field is the generator's own word. A 32-bit or
+  64-bit word is the top 32 or 64 bits of the fields of successive uniforms written
+  one after another, the first highest (MCG31M1: two fields a 32-bit word, three a
+  64-bit word; the others: one and two); ``random_raw`` gives the fields. Each bit
+  position of R250's words is a shift register of its own, and one seed word leaves
+  the low positions nearly empty (bit 1 of its words is set in 17 % of the first 10**5
+  words for seed 9, 46 % by 2 * 10**6): seed it with 250 words for numpy's draws.
+
+``jumped(n)`` skips n outputs (words, or uniforms), ``leapfrog(k, m)`` takes every
+m-th output from the k-th; pickling saves the stream's image and the outputs drawn
+but not read yet.
 
 :class:`Stream` gives the library's bulk draws (uniform, integers, raw bits,
 Bernoulli, geometric, and the continuous distributions: Gaussian, lognormal,
@@ -101,26 +119,27 @@ class BitGenerator:
         return self._source.brng
 
     def random_raw(self, size=None):
-        """The next 32-bit words of the stream, as uint64 (numpy's random_raw)."""
+        """The next raw outputs, as uint64 (numpy's random_raw): the stream's 32-bit
+        words, or the fields of its uniforms (see the module's description)."""
         n = 1 if size is None else int(np.prod(size))
         with self.lock:
             words = self._source.random_raw(n)
         return int(words[0]) if size is None else words.reshape(size)
 
     def jumped(self, nskip=1):
-        """A new bit generator ``nskip`` words further on; this one is unchanged."""
+        """A new bit generator ``nskip`` outputs further on; this one is unchanged."""
         with self.lock:
             return type(self)._from(self._source.jumped(int(nskip)))
 
     def leapfrog(self, k, nstreams):
-        """Makes this generator give words k, k + nstreams, k + 2 nstreams, ... of its
-        sequence; only before its first word is read."""
+        """Makes this generator give outputs k, k + nstreams, k + 2 nstreams, ... of its
+        sequence; only before its first output is read."""
         with self.lock:
             self._source.leapfrog(int(k), int(nstreams))
 
     @property
     def state(self) -> dict:
-        """The stream's saved image and the words drawn but not read yet."""
+        """The stream's saved image and the outputs drawn but not read yet."""
         with self.lock:
             return {"bit_generator": type(self).__name__, "image": self._source.image(),
                     "unread": self._source.unread()}
@@ -130,13 +149,13 @@ class BitGenerator:
         if value.get("bit_generator") != type(self).__name__:
             raise ValueError(f"the state is not one of {type(self).__name__}")
         with self.lock:
-            self._adopt(_brenn.rng.BitSource.load(value["image"], list(value["unread"])))
+            self._adopt(_brenn.rng.BitSource.load(value["image"], value["unread"]))
 
     def __getstate__(self):
         return self.state
 
     def __setstate__(self, state):
-        self._adopt(_brenn.rng.BitSource.load(state["image"], list(state["unread"])))
+        self._adopt(_brenn.rng.BitSource.load(state["image"], state["unread"]))
 
     def __repr__(self):
         return f"{type(self).__name__}(brng={self.brng:#x})"
@@ -298,7 +317,7 @@ def _method(method, names):
 
 
 def _families():
-    """The family classes of the generators built that give 32-bit words."""
+    """The family classes of the generators built."""
     made = {}
     for name, family in _FAMILY_IDS.items():
         if _brenn.rng.check_brng(family) != 0:

@@ -16,14 +16,14 @@ class BitGenerator:
     def brng(self) -> int:
         """The generator id of the stream."""
     def random_raw(self, size: Optional[Union[int, tuple[int, ...]]] = ...) -> Union[int, NDArray[np.uint64]]:
-        """The next 32-bit words of the stream."""
+        """The next raw outputs: 32-bit words, or the fields of the uniforms."""
     def jumped(self, nskip: int = ...) -> "BitGenerator":
-        """A new bit generator nskip words further on."""
+        """A new bit generator nskip outputs further on."""
     def leapfrog(self, k: int, nstreams: int) -> None:
-        """Takes words k, k + nstreams, ... of the sequence."""
+        """Takes outputs k, k + nstreams, ... of the sequence."""
     @property
     def state(self) -> dict[str, Any]:
-        """The stream's image and the words drawn but not read."""
+        """The stream's image and the outputs drawn but not read."""
     @state.setter
     def state(self, value: dict[str, Any]) -> None: ...
 
@@ -39,6 +39,14 @@ class PHILOX4X32X10(BitGenerator):
     """The Philox4x32-10 generator of the library."""
 class ARS5(BitGenerator):
     """The ARS-5 generator of the library."""
+class MCG31M1(BitGenerator):
+    """The MCG31M1 generator of the library (through its uniforms, 31-bit fields)."""
+class R250(BitGenerator):
+    """The R250 generator of the library (through its uniforms, 32-bit fields)."""
+class MRG32K3A(BitGenerator):
+    """The MRG32K3A generator of the library (through its uniforms, 32-bit fields)."""
+class WH(BitGenerator):
+    """The WH generators of the library (members 0 ..; through their uniforms)."""
 
 FAMILIES: dict[str, type[BitGenerator]]
 

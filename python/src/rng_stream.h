@@ -1,7 +1,7 @@
 // The Python Stream of the bindings: one front-end stream with its bulk draws, and
-// Fill, which runs a draw of any length into a new numpy array without the GIL. Shared
-// by the stream's uniform and discrete draws (rng.cpp) and its continuous ones
-// (rng_continuous.cpp).
+// Fill, which runs a draw of any length into a new numpy array without the GIL; the
+// stream helpers (rng.cpp). Shared by the stream's uniform and discrete draws (rng.cpp),
+// its continuous ones (rng_continuous.cpp) and numpy's bit generators (rng_bits.cpp).
 #pragma once
 
 #include <pybind11/numpy.h>
@@ -19,6 +19,13 @@ namespace brenn_py {
 
 // A new stream of a generator id seeded by the words given.
 StreamHandle NewStream(int brng, const std::vector<uint32_t>& seed);
+// A new stream with the state of another.
+StreamHandle CopyStream(const StreamHandle& from);
+// The saved image of a stream, and a stream loaded from one.
+pybind11::bytes Image(const StreamHandle& s);
+StreamHandle Load(const pybind11::bytes& image);
+// The generator id of a stream.
+int BrngOf(const StreamHandle& s);
 
 class Stream {
   public:
@@ -60,5 +67,8 @@ void AddContinuous(pybind11::class_<Stream>& stream);
 
 // Adds abstract_stream(refill, size, kind, low, high): a Stream fed by a callable.
 void AddAbstract(pybind11::module_& rng);
+
+// Adds BitSource: a stream served to numpy through its bit-generator record.
+void AddBitSources(pybind11::module_& rng);
 
 } // namespace brenn_py
