@@ -138,7 +138,7 @@ TEST(ComplexPow, PowxIsPowWithOneExponent) {
 }
 
 // Zero to a power with a negative real part is a pole, reported with status 2 at its
-// index under the row's name; other zeros and overflows are silent.
+// index under the row's name; other zeros, overflows and NaNs are silent.
 TEST(ComplexPow, ZeroToANegativePowerIsAPole) {
     ModeScope mode(BRENN_MODE_ERRMODE_CALLBACK);
     ErrorCallback saved = brenn_zar_kernel_SetErrorCallBack(RecordCxReport);
@@ -160,6 +160,13 @@ TEST(ComplexPow, ZeroToANegativePowerIsAPole) {
     EXPECT_EQ(gCxReport.calls, 1);
     EXPECT_EQ(gCxReport.name, "vcPowx");
     EXPECT_EQ(c[1].re, 0.5f);
+    // a signalling NaN in either operand gives NaN parts, silently
+    const double snan = std::numeric_limits<double>::signaling_NaN();
+    gCxReport = {};
+    Z n1 = CxCall(frame::Row_zPow, frame::SlotLA, Z{snan, 1}, Z{2, 0});
+    Z n2 = CxCall(frame::Row_zPow, frame::SlotLA, Z{2, 1}, Z{0.5, snan});
+    EXPECT_TRUE(std::isnan(n1.re) && std::isnan(n1.im) && std::isnan(n2.re) && std::isnan(n2.im));
+    EXPECT_EQ(gCxReport.calls, 0);
     brenn_zar_kernel_SetErrorCallBack(saved);
 }
 
