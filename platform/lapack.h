@@ -3,7 +3,18 @@
  * Arguments are passed by reference as the Fortran LAPACK takes them; integers are 32-bit;
  * matrices are column-major with leading dimensions. `info` follows LAPACK: 0 success, -i
  * the i-th argument was illegal, positive a numerical failure (for potrf: the order of the
- * leading minor that is not positive definite). */
+ * leading minor that is not positive definite).
+ *
+ * Threads. OpenBLAS runs a call on threads of its own, and its 0.3.21 (Debian 12)
+ * exports no per-call or per-thread setting of their count (only the process-wide
+ * openblas_set_num_threads, which is the host program's to set, not ours). A BLAS or
+ * LAPACK call made inside the workers of a threader therefore starts its threads on
+ * cores that the team already fills; under load such a call took tens of seconds of
+ * wall clock for a fraction of a second of work. So these entries and those of blas.h
+ * are called from the calling thread only, outside the threader; the work that runs
+ * inside workers (Mahalanobis solves, group and team cross-products, the Cholesky
+ * factors and solves of the missing-value model, rank-one merges) is the statistics
+ * service's own code. */
 #ifndef BRENN_PLATFORM_LAPACK_H
 #define BRENN_PLATFORM_LAPACK_H
 

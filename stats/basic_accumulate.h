@@ -16,6 +16,7 @@
 #include "platform/threader.h"
 #include "stats/basic_kernels.h"
 #include "stats/moments.h"
+#include "stats/rank_update.h"
 
 namespace brenn::stats {
 
@@ -35,6 +36,10 @@ struct Accumulation {
     bool matrix;
     bool blocked;
     bool rawSums; // raw-first method: the blocked path sums raw powers of the data
+    // The shares run on a team of the threader: the cross-products by the library's own
+    // rank-k update instead of the BLAS, which would start threads of its own inside
+    // the team's (platform/lapack.h).
+    bool team;
     // Threads: the shares and the memory each thread made for its own.
     int slots;
     MomentState<T>* shares;
@@ -236,11 +241,13 @@ void BlockStep(const Accumulation<T>& a, const T* x, int64_t ld, bool varRows, i
         if (!fused)
             CentredCopyIn<T, false>(varRows, x, ld, i0, i1, q, w, centre, copy, copyW, nullptr);
         int rows = static_cast<int>(i1 - i0);
-        if (weighted)
+        if (a.team)
+            LowerCrossUpdate(q, rows, copy, weighted ? copyW : copy, s.cross);
+        else if (weighted)
             Gemm(static_cast<int>(q), rows, copy, copyW, s.cross);
         else
             Syrk(static_cast<int>(q), rows, copy, s.cross);
-        Syr(static_cast<int>(q), -wb, delta, s.cross);
+        Syr(q, -wb, delta, s.cross);
     }
     MergeState(s, blk, a.order, q, true, delta);
 }
@@ -363,7 +370,8 @@ int32_t Accumulate(Accumulation<T>& a, const threader* thr, MomentState<T>& tota
     for (int t = 0; t < slots; ++t)
         a.memory[t] = nullptr;
     a.status.store(0, std::memory_order_relaxed);
-    if (thr != nullptr && thr->runTeam != nullptr && ShareCount(a, slots) > 1)
+    a.team = thr != nullptr && thr->runTeam != nullptr && ShareCount(a, slots) > 1;
+    if (a.team)
         thr->runTeam(&a, ShareWorker<T>);
     else
         ShareWorker<T>(0, 1, &a);

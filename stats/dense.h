@@ -1,11 +1,14 @@
 // Dense linear algebra of the covariance estimates in one type-generic form: the
-// service library's BLAS and LAPACK forwards chosen by precision (Cholesky factor,
-// triangular solve, rank-k update, matrix product, symmetric eigenproblem), and the
+// Cholesky factor (the library's own loop), the service library's BLAS and LAPACK
+// forwards chosen by precision (triangular solve, rank-k update, matrix product,
+// symmetric eigenproblem: for the calling thread only, never inside the threader's
+// workers), and the
 // read of a covariance-like matrix of the task (its array, its storage word, the
 // active variables' compact lower triangle).
 #ifndef BRENN_STATS_DENSE_H
 #define BRENN_STATS_DENSE_H
 
+#include <math.h>
 #include <stdint.h>
 
 #include "brenn_stats.h"
@@ -17,15 +20,28 @@
 namespace brenn::stats {
 
 // Lower Cholesky factor of the n x n matrix a (leading dimension n) in place; false
-// when a is not positive definite.
+// when a is not positive definite (a pivot not above 0, or NaN). The library's own
+// loop, column by column (each column scaled, then taken from the columns right of
+// it), not LAPACK's: it runs inside the threader's workers as well, where the BLAS
+// must not start threads of its own (platform/lapack.h), and its bits do not depend on
+// the machine the BLAS was tuned for. The upper triangle is left as it was.
 template <typename T>
 bool CholeskyLower(int n, T* a) {
-    int info = 0;
-    if constexpr (sizeof(T) == 8)
-        brenn_lapack_xdpotrf("L", &n, a, &n, &info);
-    else
-        brenn_lapack_xspotrf("L", &n, a, &n, &info);
-    return info == 0;
+    for (int64_t j = 0; j < n; ++j) {
+        T* col = a + j * n;
+        if (!(col[j] > T(0))) return false;
+        const T d = sqrt(col[j]);
+        col[j] = d;
+        for (int64_t i = j + 1; i < n; ++i)
+            col[i] /= d;
+        for (int64_t k = j + 1; k < n; ++k) {
+            T* ck = a + k * n;
+            const T t = col[k];
+            for (int64_t i = k; i < n; ++i)
+                ck[i] -= col[i] * t;
+        }
+    }
+    return true;
 }
 
 // b (n x k, leading dimension ldb) becomes L^-1 b, L the lower factor of CholeskyLower.

@@ -7,7 +7,6 @@
 
 #include "brenn_rng.h"
 #include "brenn_stats.h"
-#include "platform/lapack.h"
 
 namespace brenn::stats::missing {
 namespace {
@@ -71,9 +70,7 @@ int32_t DrawParameters(Model* m, void* stream, double* completedMean, double* wo
     double* z = x + q * q; // q Gaussians for the mean
     int32_t status = CompletedSums(m, completedMean, c);
     if (status != 0) return status;
-    int info = 0;
-    brenn_lapack_xdpotrf("L", &qi, c, &qi, &info);
-    if (info != 0) return BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE;
+    if (!CholeskyLower(qi, c)) return BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE;
     memset(a, 0, q * q * sizeof(double));
     for (int64_t i = 0; i < q; ++i) {
         double v;
@@ -94,7 +91,7 @@ int32_t DrawParameters(Model* m, void* stream, double* completedMean, double* wo
     SolveLower(a, q, x, q, false);
     memset(m->cov, 0, q * q * sizeof(double));
     AddGram(x, q, q, 1.0, m->cov);
-    MirrorLower(m->cov, q);
+    MirrorLower(q, m->cov);
     if ((status = Gaussians(stream, q, z)) != 0) return status;
     const double root = 1.0 / sqrt(static_cast<double>(n));
     for (int64_t col = 0; col < q; ++col) {

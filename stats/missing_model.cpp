@@ -8,7 +8,6 @@
 #include <string.h>
 
 #include "brenn_stats.h"
-#include "platform/lapack.h"
 
 namespace brenn::stats::missing {
 namespace {
@@ -66,7 +65,6 @@ int32_t FillPatterns(void* context, int64_t chunk, void* scratch) {
             else
                 obs[qo++] = c;
         }
-        int info = 0;
         for (int a = 0; a < qm; ++a)
             for (int c = 0; c < qm; ++c)
                 cc[a + c * qm] = m.cov[mis[a] + mis[c] * q];
@@ -77,8 +75,7 @@ int32_t FillPatterns(void* context, int64_t chunk, void* scratch) {
             for (int a = 0; a < qo; ++a)
                 for (int c = 0; c < qm; ++c)
                     b[a + c * qo] = m.cov[obs[a] + mis[c] * q];
-            brenn_lapack_xdpotrf("L", &qo, soo, &qo, &info);
-            if (info != 0) return BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE;
+            if (!CholeskyLower(qo, soo)) return BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE;
             SolveLower(soo, qo, b, qm, false);
             AddGram(b, qo, qm, -1.0, cc);
             SolveLower(soo, qo, b, qm, true);
@@ -90,8 +87,7 @@ int32_t FillPatterns(void* context, int64_t chunk, void* scratch) {
                 for (int a = c; a < qm; ++a)
                     acc[mis[a] + mis[c] * q] += weight * cc[a + c * qm];
         } else {
-            brenn_lapack_xdpotrf("L", &qm, cc, &qm, &info);
-            if (info != 0) return BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE;
+            if (!CholeskyLower(qm, cc)) return BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE;
         }
         for (int64_t k = 0; k < rows; ++k) {
             const int64_t i = m.order[first + k];
@@ -288,7 +284,7 @@ int32_t CompletedSums(Model* m, double* mean, double* scatter) {
             for (int64_t a = b; a < q; ++a)
                 scatter[a + b * q] += cp[a + b * q];
     }
-    MirrorLower(scatter, q);
+    MirrorLower(q, scatter);
     return 0;
 }
 
@@ -328,7 +324,7 @@ int32_t RunEm(Model* m, int64_t limit, double tol, double* oldMean, double* oldC
         if (status != 0) return status;
         for (int64_t k = 0; k < q * q; ++k)
             m->cov[k] = (m->cov[k] + m->condSum[k]) * invN;
-        MirrorLower(m->cov, q);
+        MirrorLower(q, m->cov);
         for (int64_t c = 0; c < q; ++c) {
             const double v = m->cov[c + c * q];
             if (!(v > 0.0) || !(v < INFINITY)) return BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE;
@@ -377,12 +373,6 @@ void SolveLower(const double* l, int64_t q, double* b, int64_t columns, bool tra
             }
         }
     }
-}
-
-void MirrorLower(double* a, int64_t q) {
-    for (int64_t b = 0; b < q; ++b)
-        for (int64_t c = b + 1; c < q; ++c)
-            a[b + c * q] = a[c + b * q];
 }
 
 } // namespace brenn::stats::missing

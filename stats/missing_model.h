@@ -10,6 +10,7 @@
 #include <stdint.h>
 
 #include "stats/chunk_loop.h"
+#include "stats/dense.h"
 
 namespace brenn::stats::missing {
 
@@ -81,9 +82,6 @@ void AddGram(const double* x, int64_t rows, int64_t columns, double alpha, doubl
 // L lower triangular q x q. Plain loops: the BLAS runs solves this small on its own
 // threads, whose wake-ups cost far more than the arithmetic.
 void SolveLower(const double* l, int64_t q, double* b, int64_t columns, bool transposed);
-
-// Mirrors the lower triangle of a q x q column-major matrix into the upper.
-void MirrorLower(double* a, int64_t q);
 
 } // namespace brenn::stats::missing
 

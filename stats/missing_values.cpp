@@ -9,7 +9,6 @@
 
 #include "brenn_stats.h"
 #include "frame/export.h"
-#include "platform/lapack.h"
 #include "platform/threader.h"
 #include "stats/missing_draws.h"
 #include "stats/missing_model.h"
@@ -198,9 +197,7 @@ int32_t Run(const SSTask* task, const Observations<T>& o, const Settings& st, in
     if (status != 0 || sims == 0) return status;
     // A covariance that EM reached without factoring it (nothing missing) is checked here.
     memcpy(oldCov, m.cov, q * q * sizeof(double));
-    int info = 0, qi = static_cast<int>(q);
-    brenn_lapack_xdpotrf("L", &qi, oldCov, &qi, &info);
-    if (info != 0) return BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE;
+    if (!CholeskyLower(static_cast<int>(q), oldCov)) return BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE;
     if ((status = missing::OpenStream(st.seed, &w->stream)) != 0) return status;
     for (int64_t k = 0; k < sims; ++k) {
         for (int64_t s = 0; s < st.steps; ++s) {

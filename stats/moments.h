@@ -8,7 +8,6 @@
 
 #include <stdint.h>
 
-#include "platform/blas.h"
 #include "platform/bytes.h"
 #include "stats/four.h"
 
@@ -52,13 +51,15 @@ inline bool AddStateBytes(size_t* total, int64_t q, bool matrix, bool padded, si
     return AddBytesFor(total, stride, 7 * width) && AddBytesFor(total, squareElements, width);
 }
 
-inline void Syr(int n, double alpha, const double* x, double* a) {
-    const int one = 1;
-    brenn_blas_xdsyr("L", &n, &alpha, x, &one, a, &n);
-}
-inline void Syr(int n, float alpha, const float* x, float* a) {
-    const int one = 1;
-    brenn_blas_xssyr("L", &n, &alpha, x, &one, a, &n);
+// Lower triangle of a (n x n) += alpha x x'. A plain loop, not the BLAS: merges run
+// inside the threader's workers, where the BLAS must not start threads of its own.
+template <typename T>
+void Syr(int64_t n, T alpha, const T* x, T* a) {
+    for (int64_t l = 0; l < n; ++l) {
+        const T t = alpha * x[l];
+        for (int64_t j = l; j < n; ++j)
+            a[j + l * n] += x[j] * t;
+    }
 }
 
 // One variable's part of a state: the mean, the raw moments of orders 2 to 4 and the
@@ -131,7 +132,7 @@ void MergeState(MomentState<T>& a, const MomentState<T>& b, int order, int64_t q
             for (int64_t l = 0; l < q; ++l)
                 for (int64_t j = l; j < q; ++j)
                     a.cross[j + l * q] += b.cross[j + l * q];
-        if (aw != 0) Syr(static_cast<int>(q), nab, delta, a.cross);
+        if (aw != 0) Syr(q, nab, delta, a.cross);
     }
     a.weight[0] = n;
     a.weight[1] += b.weight[1];

@@ -12,10 +12,27 @@
 
 namespace brenn::stats {
 
-// Lower triangle of c (q x q, column-major) += a b', a and b q x k with leading
-// dimension q (observation i's values at a + i * q).
+// acc[j] += sum over i of a[0..3 + i * q] * b[j + i * q], j < kCols.
+template <typename T, int kCols>
+inline void TileSums(const T* a, const T* b, int64_t q, int64_t k, typename Four<T>::V* acc) {
+    using F = Four<T>;
+    using V = typename F::V;
+    V s[kCols];
+    for (int j = 0; j < kCols; ++j)
+        s[j] = acc[j];
+    for (int64_t i = 0; i < k; ++i) {
+        const V x = F::template Load<false>(a + i * q);
+        for (int j = 0; j < kCols; ++j)
+            s[j] = s[j] + x * F::Splat(b[j + i * q]);
+    }
+    for (int j = 0; j < kCols; ++j)
+        acc[j] = s[j];
+}
+
+// Lower triangle of c (q x q, column-major) += a b' over observations [0, k): one
+// chunk of observations, small enough to stay in the first-level cache, at a time.
 template <typename T>
-void LowerCrossUpdate(int64_t q, int64_t k, const T* a, const T* b, T* c) {
+void LowerCrossChunk(int64_t q, int64_t k, const T* a, const T* b, T* c) {
     using F = Four<T>;
     using V = typename F::V;
     for (int64_t c0 = 0; c0 < q; c0 += 4) {
@@ -23,12 +40,11 @@ void LowerCrossUpdate(int64_t q, int64_t k, const T* a, const T* b, T* c) {
         int64_t r0 = c0;
         for (; r0 + 4 <= q; r0 += 4) {
             V acc[4] = {F::Splat(T(0)), F::Splat(T(0)), F::Splat(T(0)), F::Splat(T(0))};
-            for (int64_t i = 0; i < k; ++i) {
-                const V x = F::template Load<false>(a + r0 + i * q);
-                const T* y = b + c0 + i * q;
+            if (nc == 4)
+                TileSums<T, 4>(a + r0, b + c0, q, k, acc);
+            else
                 for (int j = 0; j < nc; ++j)
-                    acc[j] = acc[j] + x * F::Splat(y[j]);
-            }
+                    TileSums<T, 1>(a + r0, b + c0 + j, q, k, acc + j);
             T lanes[4];
             for (int j = 0; j < nc; ++j) {
                 F::template Store<false>(lanes, acc[j]);
@@ -44,6 +60,17 @@ void LowerCrossUpdate(int64_t q, int64_t k, const T* a, const T* b, T* c) {
                 c[r0 + (c0 + j) * q] += s;
             }
     }
+}
+
+// Lower triangle of c (q x q, column-major) += a b', a and b q x k with leading
+// dimension q (observation i's values at a + i * q). Each entry gets the sums of fixed
+// chunks of observations in their order.
+template <typename T>
+void LowerCrossUpdate(int64_t q, int64_t k, const T* a, const T* b, T* c) {
+    int64_t chunk = 2048 / (q > 0 ? q : 1);
+    if (chunk < 8) chunk = 8;
+    for (int64_t i0 = 0; i0 < k; i0 += chunk)
+        LowerCrossChunk(q, k - i0 < chunk ? k - i0 : chunk, a + i0 * q, b + i0 * q, c);
 }
 
 } // namespace brenn::stats
