@@ -10,7 +10,6 @@
 
 #include <cstdint>
 #include <span>
-#include <type_traits>
 #include <vector>
 
 #include "brenn_result.hpp"
@@ -51,6 +50,34 @@ struct pooled_estimates {
     std::vector<T> covariance;        /**< p * p values */
 };
 
+/** The C entries of each precision by the element type, for generic code. */
+template <class T>
+struct robust_entries;
+/** The double entries. */
+template <>
+struct robust_entries<double> {
+    static constexpr auto robust_covariance = brenn_ss_robust_covariance_f64;
+    static constexpr auto outliers = brenn_ss_outliers_f64;
+    static constexpr auto missing_count = brenn_ss_missing_count_f64;
+    static constexpr auto missing_values = brenn_ss_missing_values_f64;
+    static constexpr auto partial_covariance = brenn_ss_partial_covariance_f64;
+    static constexpr auto pooled_covariance = brenn_ss_pooled_covariance_f64;
+    static constexpr auto nearest_correlation = brenn_ss_nearest_correlation_f64;
+    static constexpr auto mahalanobis = brenn_ss_mahalanobis_f64;
+};
+/** The float entries. */
+template <>
+struct robust_entries<float> {
+    static constexpr auto robust_covariance = brenn_ss_robust_covariance_f32;
+    static constexpr auto outliers = brenn_ss_outliers_f32;
+    static constexpr auto missing_count = brenn_ss_missing_count_f32;
+    static constexpr auto missing_values = brenn_ss_missing_values_f32;
+    static constexpr auto partial_covariance = brenn_ss_partial_covariance_f32;
+    static constexpr auto pooled_covariance = brenn_ss_pooled_covariance_f32;
+    static constexpr auto nearest_correlation = brenn_ss_nearest_correlation_f32;
+    static constexpr auto mahalanobis = brenn_ss_mahalanobis_f32;
+};
+
 namespace detail {
 
 // Whether a status leaves the results written.
@@ -75,12 +102,8 @@ result<location_scatter<T>> robust_covariance(const matrix_view<T>& m,
     if (!r.stat.ok()) return r;
     r.value = {detail::sized<T>(m.p), detail::sized<T>(m.p * m.p)};
     const auto k = static_cast<std::int64_t>(params.size());
-    if constexpr (std::is_same_v<T, double>)
-        r.stat.code = brenn_ss_robust_covariance_f64(&view, k, params.data(), r.value.mean.data(),
-                                                     r.value.covariance.data());
-    else
-        r.stat.code = brenn_ss_robust_covariance_f32(&view, k, params.data(), r.value.mean.data(),
-                                                     r.value.covariance.data());
+    r.stat.code = robust_entries<T>::robust_covariance(&view, k, params.data(), r.value.mean.data(),
+                                                       r.value.covariance.data());
     if (!detail::results_written(r.stat.code)) r.value = {};
     return r;
 }
@@ -94,10 +117,7 @@ result<std::vector<T>> outliers(const matrix_view<T>& m, std::span<const T> para
     if (!r.stat.ok()) return r;
     r.value = detail::sized<T>(m.n);
     const auto k = static_cast<std::int64_t>(params.size());
-    if constexpr (std::is_same_v<T, double>)
-        r.stat.code = brenn_ss_outliers_f64(&view, k, params.data(), r.value.data());
-    else
-        r.stat.code = brenn_ss_outliers_f32(&view, k, params.data(), r.value.data());
+    r.stat.code = robust_entries<T>::outliers(&view, k, params.data(), r.value.data());
     if (!detail::results_written(r.stat.code)) r.value.clear();
     return r;
 }
@@ -112,10 +132,7 @@ result<missing_estimates<T>> missing_values(const matrix_view<T>& m, std::int64_
     r.stat = detail::c_view(m, &view);
     if (!r.stat.ok()) return r;
     std::int64_t missing = 0;
-    if constexpr (std::is_same_v<T, double>)
-        r.stat.code = brenn_ss_missing_count_f64(&view, &missing);
-    else
-        r.stat.code = brenn_ss_missing_count_f32(&view, &missing);
+    r.stat.code = robust_entries<T>::missing_count(&view, &missing);
     if (!r.stat.ok()) return r;
     missing_estimates<T>& e = r.value;
     e = {detail::sized<T>(m.p), detail::sized<T>(m.p * m.p),
@@ -126,14 +143,9 @@ result<missing_estimates<T>> missing_values(const matrix_view<T>& m, std::int64_
     T none[1];
     T* imputed = imputations > 0 ? (size > 0 ? e.imputed.data() : none) : nullptr;
     T* means = imputations > 0 ? e.imputed_means.data() : nullptr;
-    if constexpr (std::is_same_v<T, double>)
-        r.stat.code =
-            brenn_ss_missing_values_f64(&view, k, params.data(), e.mean.data(), e.covariance.data(),
-                                        imputations, size, imputed, means);
-    else
-        r.stat.code =
-            brenn_ss_missing_values_f32(&view, k, params.data(), e.mean.data(), e.covariance.data(),
-                                        imputations, size, imputed, means);
+    r.stat.code =
+        robust_entries<T>::missing_values(&view, k, params.data(), e.mean.data(),
+                                          e.covariance.data(), imputations, size, imputed, means);
     if (!detail::results_written(r.stat.code)) e = {};
     return r;
 }
@@ -154,12 +166,8 @@ result<partial_estimates<T>> partial_covariance(const matrix_view<T>& m,
     // Places for the empty result too: the entry refuses null arrays.
     r.value = {std::vector<T>(static_cast<std::size_t>(ny * ny) + (ny == 0)),
                std::vector<T>(static_cast<std::size_t>(ny * ny) + (ny == 0))};
-    if constexpr (std::is_same_v<T, double>)
-        r.stat.code = brenn_ss_partial_covariance_f64(
-            &view, roles.data(), r.value.covariance.data(), r.value.correlation.data());
-    else
-        r.stat.code = brenn_ss_partial_covariance_f32(
-            &view, roles.data(), r.value.covariance.data(), r.value.correlation.data());
+    r.stat.code = robust_entries<T>::partial_covariance(
+        &view, roles.data(), r.value.covariance.data(), r.value.correlation.data());
     if (r.stat.code < 0 || ny == 0) r.value = {};
     return r;
 }
@@ -178,14 +186,9 @@ result<pooled_estimates<T>> pooled_covariance(const matrix_view<T>& m, std::int6
     pooled_estimates<T>& e = r.value;
     e = {detail::sized<T>(g * m.p), detail::sized<T>(g * m.p * m.p), detail::sized<T>(m.p),
          detail::sized<T>(m.p * m.p)};
-    if constexpr (std::is_same_v<T, double>)
-        r.stat.code = brenn_ss_pooled_covariance_f64(
-            &view, groups, labels.data(), e.group_means.data(), e.group_covariances.data(),
-            e.mean.data(), e.covariance.data());
-    else
-        r.stat.code = brenn_ss_pooled_covariance_f32(
-            &view, groups, labels.data(), e.group_means.data(), e.group_covariances.data(),
-            e.mean.data(), e.covariance.data());
+    r.stat.code = robust_entries<T>::pooled_covariance(
+        &view, groups, labels.data(), e.group_means.data(), e.group_covariances.data(),
+        e.mean.data(), e.covariance.data());
     if (r.stat.code < 0) e = {};
     return r;
 }
@@ -204,12 +207,8 @@ result<std::vector<T>> nearest_correlation(std::span<const T> a, std::int64_t p,
     r.value.resize(size * size);
     const T* w = weights.empty() ? nullptr : weights.data();
     const auto k = static_cast<std::int64_t>(params.size());
-    if constexpr (std::is_same_v<T, double>)
-        r.stat.code =
-            brenn_ss_nearest_correlation_f64(p, a.data(), w, k, params.data(), r.value.data());
-    else
-        r.stat.code =
-            brenn_ss_nearest_correlation_f32(p, a.data(), w, k, params.data(), r.value.data());
+    r.stat.code =
+        robust_entries<T>::nearest_correlation(p, a.data(), w, k, params.data(), r.value.data());
     if (!detail::results_written(r.stat.code)) r.value.clear();
     return r;
 }
@@ -226,10 +225,7 @@ result<std::vector<T>> mahalanobis(const matrix_view<T>& m, std::span<const T> m
     const auto p = static_cast<std::size_t>(m.p);
     if (mean.size() != p || cov.size() != p * p) return {{BRENN_ERR_SIZE_MISMATCH}, {}};
     r.value = detail::sized<T>(m.n);
-    if constexpr (std::is_same_v<T, double>)
-        r.stat.code = brenn_ss_mahalanobis_f64(&view, mean.data(), cov.data(), r.value.data());
-    else
-        r.stat.code = brenn_ss_mahalanobis_f32(&view, mean.data(), cov.data(), r.value.data());
+    r.stat.code = robust_entries<T>::mahalanobis(&view, mean.data(), cov.data(), r.value.data());
     if (r.stat.code < 0) r.value.clear();
     return r;
 }

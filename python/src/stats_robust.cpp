@@ -7,6 +7,7 @@
 
 #include <string>
 
+#include "brenn_ss_robust.hpp"
 #include "python/src/bindings.h"
 
 namespace py = pybind11;
@@ -19,34 +20,12 @@ using Array = py::array_t<T, py::array::c_style>;
 using Words = py::array_t<int64_t, py::array::c_style>;
 
 template <class T>
-struct Api;
-template <>
-struct Api<double> {
-    using Matrix = brenn_ss_matrix_f64;
-    static constexpr auto robust = brenn_ss_robust_covariance_f64;
-    static constexpr auto outliers = brenn_ss_outliers_f64;
-    static constexpr auto missingCount = brenn_ss_missing_count_f64;
-    static constexpr auto missing = brenn_ss_missing_values_f64;
-    static constexpr auto partial = brenn_ss_partial_covariance_f64;
-    static constexpr auto pooled = brenn_ss_pooled_covariance_f64;
-    static constexpr auto nearest = brenn_ss_nearest_correlation_f64;
-    static constexpr auto mahalanobis = brenn_ss_mahalanobis_f64;
-};
-template <>
-struct Api<float> {
-    using Matrix = brenn_ss_matrix_f32;
-    static constexpr auto robust = brenn_ss_robust_covariance_f32;
-    static constexpr auto outliers = brenn_ss_outliers_f32;
-    static constexpr auto missingCount = brenn_ss_missing_count_f32;
-    static constexpr auto missing = brenn_ss_missing_values_f32;
-    static constexpr auto partial = brenn_ss_partial_covariance_f32;
-    static constexpr auto pooled = brenn_ss_pooled_covariance_f32;
-    static constexpr auto nearest = brenn_ss_nearest_correlation_f32;
-    static constexpr auto mahalanobis = brenn_ss_mahalanobis_f32;
-};
+using Api = brenn::ss::robust_entries<T>;
+template <class T>
+using Matrix = brenn::ss::detail::c_matrix<T>;
 
 template <class T>
-typename Api<T>::Matrix View(const Array<T>& x, int64_t p, int64_t n, bool inRows) {
+Matrix<T> View(const Array<T>& x, int64_t p, int64_t n, bool inRows) {
     if (x.size() != p * n) throw py::value_error("x must hold p * n values");
     return {p,        n,       inRows ? BRENN_SS_OBSERVATIONS_IN_ROWS : BRENN_SS_VARIABLES_IN_ROWS,
             x.data(), nullptr, nullptr};
@@ -88,7 +67,7 @@ py::tuple Robust(const Array<T>& x, int64_t p, int64_t n, bool inRows, const Arr
     Array<T> mean(p), cov({p, p});
     T *m = mean.mutable_data(), *c = cov.mutable_data();
     Run("robust covariance",
-        [&] { return Api<T>::robust(&view, params.size(), params.data(), m, c); });
+        [&] { return Api<T>::robust_covariance(&view, params.size(), params.data(), m, c); });
     return py::make_tuple(mean, cov);
 }
 
@@ -108,7 +87,7 @@ py::tuple Missing(const Array<T>& x, int64_t p, int64_t n, bool inRows, const Ar
                   int64_t imputations) {
     const auto view = View(x, p, n, inRows);
     int64_t k = 0;
-    Check(Api<T>::missingCount(&view, &k), "missing values");
+    Check(Api<T>::missing_count(&view, &k), "missing values");
     if (imputations < 0) throw py::value_error("imputations must be 0 or more");
     Array<T> mean(p), cov({p, p}), imputed({imputations, k}), means({imputations, p});
     T *m = mean.mutable_data(), *c = cov.mutable_data();
@@ -116,8 +95,8 @@ py::tuple Missing(const Array<T>& x, int64_t p, int64_t n, bool inRows, const Ar
     T* e = imputations == 0 ? nullptr : k == 0 ? none : imputed.mutable_data();
     T* em = imputations == 0 ? nullptr : means.mutable_data();
     Run("missing values", [&] {
-        return Api<T>::missing(&view, params.size(), params.data(), m, c, imputations,
-                               imputations * k, e, em);
+        return Api<T>::missing_values(&view, params.size(), params.data(), m, c, imputations,
+                                      imputations * k, e, em);
     });
     return py::make_tuple(mean, cov, imputed, means);
 }
@@ -139,7 +118,8 @@ py::tuple Partial(const Array<T>& x, int64_t p, int64_t n, bool inRows, const Wo
         ny += roles.data()[j] == 1;
     Array<T> cov({ny, ny}), cor({ny, ny});
     T *c = cov.mutable_data(), *r = cor.mutable_data();
-    Run("partial covariance", [&] { return Api<T>::partial(&view, roles.data(), c, r); });
+    Run("partial covariance",
+        [&] { return Api<T>::partial_covariance(&view, roles.data(), c, r); });
     return py::make_tuple(cov, cor);
 }
 
@@ -153,7 +133,7 @@ py::tuple Pooled(const Array<T>& x, int64_t p, int64_t n, bool inRows, int64_t g
     T *gm = groupMeans.mutable_data(), *gc = groupCovs.mutable_data();
     T *m = mean.mutable_data(), *c = cov.mutable_data();
     Run("pooled covariance",
-        [&] { return Api<T>::pooled(&view, groups, labels.data(), gm, gc, m, c); });
+        [&] { return Api<T>::pooled_covariance(&view, groups, labels.data(), gm, gc, m, c); });
     return py::make_tuple(groupMeans, groupCovs, mean, cov);
 }
 
@@ -169,8 +149,9 @@ Array<T> Nearest(const Array<T>& a, int64_t p, const py::object& weights, const 
     }
     Array<T> out({p, p});
     T* o = out.mutable_data();
-    Run("nearest correlation",
-        [&] { return Api<T>::nearest(p, a.data(), wp, params.size(), params.data(), o); });
+    Run("nearest correlation", [&] {
+        return Api<T>::nearest_correlation(p, a.data(), wp, params.size(), params.data(), o);
+    });
     return out;
 }
 

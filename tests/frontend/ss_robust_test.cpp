@@ -18,31 +18,19 @@ using brenn::fe::SsEntries;
 using brenn::fe::SsTask;
 using brenn::test::Bits;
 
+// The front-end's entries of each precision, under the test's short names.
 template <class T>
-struct Api;
-template <>
-struct Api<double> {
-    using Matrix = brenn_ss_matrix_f64;
-    static constexpr auto robust = brenn_ss_robust_covariance_f64;
-    static constexpr auto outliers = brenn_ss_outliers_f64;
-    static constexpr auto missing = brenn_ss_missing_values_f64;
-    static constexpr auto missingCount = brenn_ss_missing_count_f64;
-    static constexpr auto partial = brenn_ss_partial_covariance_f64;
-    static constexpr auto pooled = brenn_ss_pooled_covariance_f64;
-    static constexpr auto nearest = brenn_ss_nearest_correlation_f64;
-    static constexpr auto mahalanobis = brenn_ss_mahalanobis_f64;
-};
-template <>
-struct Api<float> {
-    using Matrix = brenn_ss_matrix_f32;
-    static constexpr auto robust = brenn_ss_robust_covariance_f32;
-    static constexpr auto outliers = brenn_ss_outliers_f32;
-    static constexpr auto missing = brenn_ss_missing_values_f32;
-    static constexpr auto missingCount = brenn_ss_missing_count_f32;
-    static constexpr auto partial = brenn_ss_partial_covariance_f32;
-    static constexpr auto pooled = brenn_ss_pooled_covariance_f32;
-    static constexpr auto nearest = brenn_ss_nearest_correlation_f32;
-    static constexpr auto mahalanobis = brenn_ss_mahalanobis_f32;
+struct Api {
+    using E = brenn::ss::robust_entries<T>;
+    using Matrix = brenn::ss::detail::c_matrix<T>;
+    static constexpr auto robust = E::robust_covariance;
+    static constexpr auto outliers = E::outliers;
+    static constexpr auto missing = E::missing_values;
+    static constexpr auto missingCount = E::missing_count;
+    static constexpr auto partial = E::partial_covariance;
+    static constexpr auto pooled = E::pooled_covariance;
+    static constexpr auto nearest = E::nearest_correlation;
+    static constexpr auto mahalanobis = E::mahalanobis;
 };
 
 // A parameter count meaning "as many as given".
