@@ -14,17 +14,13 @@
 
 #include "brenn_stats.h"
 #include "platform/threader.h"
+#include "tests/stats/driver_files.h"
 
 namespace {
 
 constexpr double kUntouched = 12345.0;
 
 // Empty vectors may have no address: nothing is passed to the C library then.
-template <typename V>
-bool Read(FILE* in, V* p, size_t n) {
-    return n == 0 || std::fread(p, sizeof(V), n, in) == n;
-}
-
 void Write(FILE* out, const std::vector<double>& v) {
     if (!v.empty()) std::fwrite(v.data(), 8, v.size(), out);
 }
@@ -104,17 +100,18 @@ int64_t Run(const int64_t* h, const std::vector<double>& xs, const std::vector<d
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) return 2;
-    FILE* in = std::fopen(argv[1], "rb");
-    FILE* out = std::fopen(argv[2], "wb");
-    if (in == nullptr || out == nullptr) return 2;
+    brenn::test::DriverFiles files(argc, argv);
+    if (!files.ok()) return 2;
+    FILE* in = files.in;
+    FILE* out = files.out;
     int64_t h[8];
-    while (Read(in, h, 8)) {
+    while (brenn::test::ReadArray(in, h, 8)) {
         const int64_t p = h[2], n = h[3], m = h[6];
         std::vector<double> x(p * n), orders(m), quant, res;
         std::vector<int64_t> indices(p);
-        if (!Read(in, x.data(), x.size()) || !Read(in, orders.data(), orders.size()) ||
-            (h[7] && !Read(in, indices.data(), indices.size())))
+        if (!brenn::test::ReadArray(in, x.data(), x.size()) ||
+            !brenn::test::ReadArray(in, orders.data(), orders.size()) ||
+            (h[7] && !brenn::test::ReadArray(in, indices.data(), indices.size())))
             return 3;
         int64_t status = h[1] ? Run<float>(h, x, orders, indices, &quant, &res)
                               : Run<double>(h, x, orders, indices, &quant, &res);
@@ -122,7 +119,5 @@ int main(int argc, char** argv) {
         Write(out, quant);
         Write(out, res);
     }
-    std::fclose(out);
-    std::fclose(in);
     return 0;
 }
