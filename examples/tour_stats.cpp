@@ -52,23 +52,20 @@ static void TourOrderStatistics(std::vector<double>& x, int64_t p, int64_t n) {
 }
 
 // Outliers: the first two variables with every thousandth observation moved 10 standard
-// deviations up in the second, nominated by BACON (weight 0) with its defaults.
+// deviations up in the second, nominated by BACON (weight 0) with its defaults, through
+// the front-end's C++ call.
 static void TourOutliers(const std::vector<double>& x, int64_t p, int64_t n) {
-    int64_t two = 2, layout = BRENN_SS_MATRIX_STORAGE_COLS, none = 0, flagged = 0, planted = 0;
-    std::vector<double> y(2 * n), weights(n);
+    int64_t flagged = 0, planted = 0;
+    std::vector<double> y(2 * n);
     for (int64_t i = 0; i < n; ++i)
         y[2 * i] = x[i * p], y[2 * i + 1] = x[i * p + 1] + (i % 1000 == 0 ? 10 : 0);
-    void* task = nullptr;
-    if (_qesdSSNewTask(&task, &two, &n, &layout, y.data(), nullptr, nullptr, 1) != 0) return;
-    __qesdSSEditOutDetect(task, &none, nullptr, weights.data());
-    int s = _qesdSSOutliersDetection(task, BRENN_SS_OUTLIERS, BRENN_SS_METHOD_BACON, nullptr);
-    _qesSSDeleteTask(&task);
-    for (int64_t i = 0; i < n; ++i) {
-        flagged += weights[i] == 0;
-        planted += weights[i] == 0 && i % 1000 == 0;
+    const auto weights = brenn::ss::outliers(brenn::ss::matrix_view<double>{y, 2, n});
+    for (int64_t i = 0; i < static_cast<int64_t>(weights.value.size()); ++i) {
+        flagged += weights.value[i] == 0;
+        planted += weights.value[i] == 0 && i % 1000 == 0;
     }
-    std::printf("  outliers (BACON): status %d, %lld nominated, %lld of the %lld planted\n", s,
-                static_cast<long long>(flagged), static_cast<long long>(planted),
+    std::printf("  outliers (BACON): status %d, %lld nominated, %lld of the %lld planted\n",
+                weights.stat.code, static_cast<long long>(flagged), static_cast<long long>(planted),
                 static_cast<long long>((n + 999) / 1000));
 }
 
