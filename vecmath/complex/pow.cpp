@@ -3,25 +3,26 @@
  *
  * The error of the result is the absolute error of w = y ln x: its real part scales the
  * modulus, its imaginary part turns the phase, and a part of the result near zero (phase
- * near an axis) takes the phase error relative to itself. So w is formed in one of two
- * ways:
- *   - in 80-bit extended precision (ln x from ext_elem.h), when its error bound
- *     2^-61 (|L| + |arg x| + 1/4)(|Re y| + |Im y|) + 2^-61 is below 2^-57 (double) or
- *     2^-30 (single) times the smaller of |cos Im w|, |sin Im w|: both parts of the result
- *     are then within a sixteenth of an ulp of the rounding of the exact value;
- *   - otherwise in binary128: ln|x| (by log1p of x^2 + w^2 - 1, exact squares, near
- *     |x| = 1) and arg x to 113 bits, w in that precision and its imaginary part reduced
- *     by 2 pi, the rest carried into extended precision as two words each. The phase is
- *     then good to 2^-100 or so while |w| stays below 2^10, and the parts of the result
- *     to half an ulp and a little.
- * On an axis arg x is 0, +-pi/2 or +-pi exactly: Re y times it is reduced in half-turns
- * exactly (remainder by 2), so that (-1)^1e300 is 1 and (-4)^0.5 is 2i, with the exact
- * zero part when y is real and the phase a multiple of pi/2.
+ * near an axis) takes the phase error relative to itself. arg x is split as k pi/4 (the
+ * eighth turns of x, exact on the axes and diagonals) plus delta = atan2 of x turned back
+ * by those turns, so that Re y k/4 is reduced by 2 exactly and the phase is pi j/2 (an
+ * exact turn of the result) plus a rest v = pi t' + Re y delta + Im y ln|x|. Then:
+ *   - in 80-bit extended precision, when the bounds of the errors of Re w and of v (a few
+ *     extended roundings of each term) are below 2^-57 (double) or 2^-30 (single), the
+ *     latter times the smaller of |cos v|, |sin v|: both parts of the result are then
+ *     within a sixteenth of an ulp of the rounding of the exact value;
+ *   - otherwise ln|x| (by log1p of x^2 + w^2 - 1 near |x| = 1, with exact squares) or
+ *     delta, whichever takes more than half of a bound, again in binary128, w in that
+ *     precision and v reduced by 2 pi there, the rest carried into extended precision as
+ *     two words each. The phase is then good to about 2^-112 |Im w|: the parts of the
+ *     result to half an ulp and a little while |Im w| stays below 2^45 or so (beyond
+ *     2^53 one ulp of y turns the result by a radian).
+ * So (-1)^1e300 is 1, (-4)^0.5 is 2i and (1 + i)^2 is 2i, with exact zero parts.
  *
- * A zero or a non-finite part anywhere takes the C library's way, exp of y ln x with
- * Annex G's product (G.5.1) and the special values of exp and ln, so that those cells
- * are the C library's cpow's. A zero x with Re y < 0 is a pole (status 2), as the real
- * Pow's; nothing else is reported. */
+ * A zero x gives 1 for y = 0 and +0 for Re y > 0, as the real Pow, and is a pole for
+ * Re y < 0 (status 2, the only one reported). The other zero x and non-finite parts take
+ * the C library's way, exp of y ln x with Annex G's product (G.5.1) and the special values
+ * of exp and ln, so that those cells are the C library's cpow's. */
 #include <math.h>
 #include <quadmath.h>
 
@@ -36,6 +37,21 @@ using Q = __float128;
 constexpr LD kPi = 3.14159265358979323846264338327950288L;
 // pi to 128 bits as the sum of kPi and the extended rounding of pi - kPi.
 const Q kPiQ = Q(kPi) + Q(-5.016557612668332023451758e-20L);
+// pi/2 in three parts, the first two of 32 bits, so that their products with a count of
+// quarter turns below 2^30 are exact (Cody and Waite).
+constexpr LD kPio2A = 1.570796326734125614166259765625L;
+constexpr LD kPio2B = 6.077100506303965976595549136618501506746e-11L;
+constexpr LD kPio2C = 2.022266248795950732376519042844277273704e-21L;
+
+// v brought to [-pi/4, pi/4] by whole quarter turns, added to j; the rest keeps v's
+// relative accuracy (the first difference is exact, the others round relative to the
+// result). Beyond 2^30 v stays as it is, for sincosl's own reduction.
+LD QuarterReduced(LD v, int& j) {
+    if (!(fabsl(v) > kPi / 4 && fabsl(v) < 0x1p30L)) return v;
+    const LD q = rintl(v * (2 / kPi));
+    j += int(q);
+    return ((v - q * kPio2A) - q * kPio2B) - q * kPio2C;
+}
 
 // x^y where a part is zero or not finite. A zero x gives 1 for y = 0 and +0 for Re y > 0
 // (the limits along the reals, as the real Pow); elsewhere exp of y ln x with Annex G's
@@ -124,19 +140,25 @@ Phase PhaseOf(LD a, LD b, LD c) {
 }
 
 // The binary128 route, for finite x != 0 and finite y.
-void WidePow(LD a, LD b, LD c, LD d, const Phase& p, LD& re, LD& im) {
+// ln|x| and delta are taken again in binary128 where wideL and wideD say so, and otherwise
+// from the extended route (lr, dx).
+void WidePow(LD a, LD b, LD c, LD d, const Phase& p, LD lr, LD dx, bool wideL, bool wideD, LD& re,
+             LD& im) {
     const Q qa = Q(a), qb = Q(b), qc = Q(c), qd = Q(d);
-    const Q aa = qa * qa, bb = qb * qb, h = aa + bb; // squares exact
-    Q l;
-    if (h >= Q(0.5) && h <= Q(2))
-        l = Q(0.5) * log1pq(aa >= bb ? (aa - 1) + bb : (bb - 1) + aa); // the difference exact
-    else
-        l = Q(0.5) * logq(h); // no overflow or underflow in binary128
-    const Q delta = atan2q(Q(p.rb), Q(p.ra));
+    Q l = Q(lr);
+    if (wideL) {
+        const Q aa = qa * qa, bb = qb * qb, h = aa + bb; // squares exact
+        if (h >= Q(0.5) && h <= Q(2))
+            l = Q(0.5) * log1pq(aa >= bb ? (aa - 1) + bb : (bb - 1) + aa); // difference exact
+        else
+            l = Q(0.5) * logq(h); // no overflow or underflow in binary128
+    }
+    const Q delta = wideD ? atan2q(Q(p.rb), Q(p.ra)) : Q(dx);
     const Q wr = qc * l - qd * (kPiQ * Q(0.25) * Q(p.eighths) + delta);
     Q v = kPiQ * Q(p.t1) + qc * delta + qd * l;
-    const Q turns = rintq(v / (2 * kPiQ));
-    v -= 2 * kPiQ * turns;
+    const Q turns = rintq(v / (kPiQ / 2)); // whole quarter turns
+    v -= kPiQ / 2 * turns;
+    const int j = p.j + int(fmodq(turns, 4));
     const LD wrHi = LD(wr), vHi = LD(v), vLo = LD(v - Q(vHi));
     LD s, co;
     sincosl(vHi, &s, &co);
@@ -145,7 +167,7 @@ void WidePow(LD a, LD b, LD c, LD d, const Phase& p, LD& re, LD& im) {
         co -= s * vLo;
         s = s1;
     }
-    Finish(wrHi, LD(wr - Q(wrHi)), p.j, s, co, re, im);
+    Finish(wrHi, LD(wr - Q(wrHi)), j, s, co, re, im);
 }
 
 // x^y for one element. kTolExp: the fast route's bound on the relative error of a part,
@@ -160,17 +182,23 @@ int PowOf(LD a, LD b, LD c, LD d, LD& re, LD& im) {
     const LD th = p.eighths * (kPi / 4) + delta; // arg x
     const LD cd = c * delta, dl = d * lr, cl = c * lr, dth = d * th;
     const LD v = kPi * p.t1 + cd + dl;
-    // error bounds of the phase v and of wr, a few roundings each of the extended terms
-    const LD ev = 0x1p-61L * (fabsl(p.t1) * 4 + fabsl(cd) + fabsl(dl));
-    const LD er = 0x1p-61L * (fabsl(cl) + fabsl(dth) + 1);
-    const LD tol = ldexpl(1, kTolExp);
+    // error bounds of the phase v and of wr, a few roundings each of the extended terms,
+    // from ln|x| (L) and from delta and the rest (D)
+    // (ln|x| has an absolute error of a few 2^-64 near |x| = 1, where it is small)
+    const LD lb = 0x1p-61L * (fabsl(lr) + 0.25L);
+    const LD evL = fabsl(d) * lb, evD = 0x1p-61L * (fabsl(p.t1) * 4 + fabsl(cd));
+    const LD erL = fabsl(c) * lb, erD = 0x1p-61L * (fabsl(dth) + 1);
+    int j = p.j;
     LD s, co;
-    sincosl(v, &s, &co);
-    if (er <= tol && ev <= tol * fminl(fabsl(s), fabsl(co))) {
-        Finish(cl - dth, 0, p.j, s, co, re, im);
+    sincosl(QuarterReduced(v, j), &s, &co);
+    const LD tol = ldexpl(1, kTolExp), tm = tol * fminl(fabsl(s), fabsl(co));
+    if (erL + erD <= tol && evL + evD <= tm) {
+        Finish(cl - dth, 0, j, s, co, re, im);
         return status::kNone;
     }
-    WidePow(a, b, c, d, p, re, im);
+    // the part whose share of the bounds is within half of them stays as it is
+    WidePow(a, b, c, d, p, lr, delta, erL > tol / 2 || evL > tm / 2, erD > tol / 2 || evD > tm / 2,
+            re, im);
     return status::kNone;
 }
 
