@@ -2,7 +2,8 @@
  * with the special values of C99 Annex G (cexp G.6.3.1, clog G.6.3.2): the scalar
  * routines of Exp and Ln, and the steps of Log10, Pow and Powx, are made from them.
  * Double parts never overflow or underflow in the extended range, so the finite case
- * needs no scaling; the caller rounds the parts once to its type. */
+ * needs no scaling; the caller rounds the parts once to its type. The quarter-turn
+ * reduction of the trigonometric functions' arguments serves the rows of extended.h too. */
 #ifndef BRENN_VECMATH_COMPLEX_EXT_ELEM_H
 #define BRENN_VECMATH_COMPLEX_EXT_ELEM_H
 
@@ -12,6 +13,51 @@
 #include "vecmath/frame/status.h"
 
 namespace brenn::vm::cx {
+
+// pi/2 in three parts, the first two of 32 bits, so that their products with a count of
+// quarter turns below 2^30 are exact (Cody and Waite).
+constexpr long double kPio2A = 1.570796326734125614166259765625L;
+constexpr long double kPio2B = 6.077100506303965976595549136618501506746e-11L;
+constexpr long double kPio2C = 2.022266248795950732376519042844277273704e-21L;
+
+// v brought to [-pi/4, pi/4] by whole quarter turns, added to j; the rest keeps v's
+// relative accuracy (the first difference is exact, the others round relative to the
+// result). Beyond 2^30 v stays as it is, for sincosl's own reduction.
+inline long double QuarterReduced(long double v, int& j) {
+    if (!(fabsl(v) > 0.785398163397448309615660845819875721L && fabsl(v) < 0x1p30L)) return v;
+    const long double q = rintl(v * 0.636619772367581343075535053490057448L);
+    j += int(q);
+    return ((v - q * kPio2A) - q * kPio2B) - q * kPio2C;
+}
+
+// sin and cos of a finite y, from the quarter-turn reduction: glibc's sincosl reduces
+// anything beyond pi/4 by its slow general method.
+inline void SinCosX(long double y, long double& s, long double& c) {
+    int j = 0;
+    long double sr, cr;
+    sincosl(QuarterReduced(y, j), &sr, &cr);
+    switch (j & 3) {
+    case 0:
+        s = sr, c = cr;
+        break;
+    case 1:
+        s = cr, c = -sr;
+        break;
+    case 2:
+        s = -sr, c = -cr;
+        break;
+    default:
+        s = -cr, c = sr;
+        break;
+    }
+}
+
+// tan of a finite y likewise: -cot of the rest after an odd count of quarter turns.
+inline long double TanX(long double y) {
+    int j = 0;
+    const long double t = tanl(QuarterReduced(y, j));
+    return j & 1 ? -1 / t : t;
+}
 
 // exp(a) (cos b + i sin b). Status: an infinite b beside a finite or +inf a is a domain
 // error (NaN with the invalid flag); otherwise none.

@@ -14,6 +14,7 @@
  * finite parts give an infinite result. */
 #include <math.h>
 
+#include "vecmath/complex/ext_elem.h"
 #include "vecmath/complex/extended.h"
 
 namespace brenn::vm::cx {
@@ -48,7 +49,7 @@ int CoshOf(LD x, LD y, LD& re, LD& im) {
     } else {
         LD ch, sh, c, sn;
         CoshSinh(x, ch, sh);
-        sincosl(y, &sn, &c);
+        SinCosX(y, sn, c);
         re = ch * c;
         im = sh * sn;
     }
@@ -68,7 +69,7 @@ int SinhOf(LD x, LD y, LD& re, LD& im) {
     } else {
         LD ch, sh, c, sn;
         CoshSinh(x, ch, sh);
-        sincosl(y, &sn, &c);
+        SinCosX(y, sn, c);
         re = sh * c;
         im = ch * sn;
     }

@@ -37,22 +37,6 @@ using Q = __float128;
 constexpr LD kPi = 3.14159265358979323846264338327950288L;
 // pi to 128 bits as the sum of kPi and the extended rounding of pi - kPi.
 const Q kPiQ = Q(kPi) + Q(-5.016557612668332023451758e-20L);
-// pi/2 in three parts, the first two of 32 bits, so that their products with a count of
-// quarter turns below 2^30 are exact (Cody and Waite).
-constexpr LD kPio2A = 1.570796326734125614166259765625L;
-constexpr LD kPio2B = 6.077100506303965976595549136618501506746e-11L;
-constexpr LD kPio2C = 2.022266248795950732376519042844277273704e-21L;
-
-// v brought to [-pi/4, pi/4] by whole quarter turns, added to j; the rest keeps v's
-// relative accuracy (the first difference is exact, the others round relative to the
-// result). Beyond 2^30 v stays as it is, for sincosl's own reduction.
-LD QuarterReduced(LD v, int& j) {
-    if (!(fabsl(v) > kPi / 4 && fabsl(v) < 0x1p30L)) return v;
-    const LD q = rintl(v * (2 / kPi));
-    j += int(q);
-    return ((v - q * kPio2A) - q * kPio2B) - q * kPio2C;
-}
-
 // x^y where a part is zero or not finite. A zero x gives 1 for y = 0 and +0 for Re y > 0
 // (the limits along the reals, as the real Pow); elsewhere exp of y ln x with Annex G's
 // product (G.5.1) and the special values of exp and ln, as the C library's cpow. A zero

@@ -20,6 +20,7 @@
  * gives. Nothing is reported: tanh is bounded near its poles in floating point. */
 #include <math.h>
 
+#include "vecmath/complex/ext_elem.h"
 #include "vecmath/complex/extended.h"
 
 namespace brenn::vm::cx {
@@ -38,9 +39,11 @@ int TanhOf(LD x, LD y, LD& re, LD& im) {
         im = y - y;
     } else if (fabsl(x) >= 23) {
         re = __builtin_copysignl(1, x);
-        im = 4 * sinl(y) * cosl(y) * expl(-2 * fabsl(x));
+        LD sn, cs;
+        SinCosX(y, sn, cs);
+        im = 4 * sn * cs * expl(-2 * fabsl(x));
     } else {
-        LD t = tanl(y), b = 1 + t * t, s = sinhl(x), r = sqrtl(1 + s * s);
+        LD t = TanX(y), b = 1 + t * t, s = sinhl(x), r = sqrtl(1 + s * s);
         LD d = 1 + b * s * s;
         re = b * r * s / d;
         im = t / d;
