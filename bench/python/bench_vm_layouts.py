@@ -7,21 +7,11 @@ path against numpy on contiguous operands.
 Run:  PYTHONPATH=build/default/python /usr/bin/python3 bench/python/bench_vm_layouts.py [--quick]
 Ratios are the other's time over the walk's: above 1, the walk is faster."""
 import sys
-import time
 
 import numpy as np
 
-import brenn
+from bench_python import best  # beside this script
 from brenn import vm
-
-
-def best(f, rounds):
-    times = []
-    for _ in range(rounds):
-        t = time.perf_counter()
-        f()
-        times.append(time.perf_counter() - t)
-    return min(times)
 
 
 def expanded(*ops):

@@ -22,8 +22,8 @@ class ElementReport:
     def first(self) -> Optional[int | tuple[int, ...]]:
         """The position of the first element reported."""
 
-class ElementWarning(RuntimeWarning):
-    """The warning of reported elements."""
+class _Reported:
+    """What the warning and the exception of a report carry."""
     report: ElementReport
     category: Category
     count: Optional[int]
@@ -32,15 +32,11 @@ class ElementWarning(RuntimeWarning):
     statuses: NDArray[np.int32]
     def __init__(self, message: str, report: ElementReport) -> None: ...
 
-class ElementError(FloatingPointError):
+class ElementWarning(_Reported, RuntimeWarning):
+    """The warning of reported elements."""
+
+class ElementError(_Reported, FloatingPointError):
     """The exception of reported elements."""
-    report: ElementReport
-    category: Category
-    count: Optional[int]
-    indices: NDArray[np.int64]
-    positions: tuple[NDArray[np.intp], ...]
-    statuses: NDArray[np.int32]
-    def __init__(self, message: str, report: ElementReport) -> None: ...
 
 ErrCall = Callable[[str, int, ElementReport], object]
 
