@@ -147,10 +147,8 @@ void HugeDimensionsGiveTheAllocationStatus() {
     }
 }
 
-TEST(StatsBadInput, HugeDimensionsGiveTheAllocationStatusDouble) {
+TEST(StatsBadInput, HugeDimensionsGiveTheAllocationStatus) {
     HugeDimensionsGiveTheAllocationStatus<double>();
-}
-TEST(StatsBadInput, HugeDimensionsGiveTheAllocationStatusSingle) {
     HugeDimensionsGiveTheAllocationStatus<float>();
 }
 
@@ -163,10 +161,8 @@ void LargestThirtyTwoBitDimension() {
     ExpectAccumulatingRefused(t, kMatrixGroups, -4000, "32-bit p");
 }
 
-TEST(StatsBadInput, LargestThirtyTwoBitDimensionDouble) {
+TEST(StatsBadInput, LargestThirtyTwoBitDimension) {
     LargestThirtyTwoBitDimension<double>();
-}
-TEST(StatsBadInput, LargestThirtyTwoBitDimensionSingle) {
     LargestThirtyTwoBitDimension<float>();
 }
 
@@ -200,11 +196,9 @@ void CountsAtOrBelowZero() {
     }
 }
 
-TEST(StatsBadInput, CountsAtOrBelowZeroDouble) {
+TEST(StatsBadInput, CountsAtOrBelowZero) {
     CountsAtOrBelowZero<int64_t, double>();
     CountsAtOrBelowZero<int32_t, double>();
-}
-TEST(StatsBadInput, CountsAtOrBelowZeroSingle) {
     CountsAtOrBelowZero<int64_t, float>();
     CountsAtOrBelowZero<int32_t, float>();
 }

@@ -114,10 +114,8 @@ void EachEstimateAloneWithItsArrays() {
             }
 }
 
-TEST(StatsBasicRequirements, EachEstimateAloneWithItsArraysDouble) {
+TEST(StatsBasicRequirements, EachEstimateAloneWithItsArrays) {
     EachEstimateAloneWithItsArrays<double>();
-}
-TEST(StatsBasicRequirements, EachEstimateAloneWithItsArraysSingle) {
     EachEstimateAloneWithItsArrays<float>();
 }
 
@@ -182,10 +180,8 @@ void EachEstimateFromItsSums() {
             }
 }
 
-TEST(StatsBasicRequirements, EachEstimateFromItsSumsDouble) {
+TEST(StatsBasicRequirements, EachEstimateFromItsSums) {
     EachEstimateFromItsSums<double>();
-}
-TEST(StatsBasicRequirements, EachEstimateFromItsSumsSingle) {
     EachEstimateFromItsSums<float>();
 }
 
@@ -220,10 +216,8 @@ void OneArrayMissingNamesItsPosition() {
         }
 }
 
-TEST(StatsBasicRequirements, OneArrayMissingNamesItsPositionDouble) {
+TEST(StatsBasicRequirements, OneArrayMissingNamesItsPosition) {
     OneArrayMissingNamesItsPosition<double>();
-}
-TEST(StatsBasicRequirements, OneArrayMissingNamesItsPositionSingle) {
     OneArrayMissingNamesItsPosition<float>();
 }
 
@@ -247,10 +241,8 @@ void CorrelationJoinsBlocksBesideOtherEstimates() {
             }
 }
 
-TEST(StatsBasicRequirements, CorrelationJoinsBlocksBesideOtherEstimatesDouble) {
+TEST(StatsBasicRequirements, CorrelationJoinsBlocksBesideOtherEstimates) {
     CorrelationJoinsBlocksBesideOtherEstimates<double>();
-}
-TEST(StatsBasicRequirements, CorrelationJoinsBlocksBesideOtherEstimatesSingle) {
     CorrelationJoinsBlocksBesideOtherEstimates<float>();
 }
 
@@ -318,10 +310,8 @@ void CorrelationOfAnotherTaskIsNotJoined() {
     }
 }
 
-TEST(StatsBasicRequirements, CorrelationOfAnotherTaskIsNotJoinedDouble) {
+TEST(StatsBasicRequirements, CorrelationOfAnotherTaskIsNotJoined) {
     CorrelationOfAnotherTaskIsNotJoined<double>();
-}
-TEST(StatsBasicRequirements, CorrelationOfAnotherTaskIsNotJoinedSingle) {
     CorrelationOfAnotherTaskIsNotJoined<float>();
 }
 

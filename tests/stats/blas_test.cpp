@@ -55,11 +55,8 @@ void CheckForwards(void (*syrk)(const char*, const char*, const int*, const int*
             EXPECT_EQ(e[i + j * n], i <= j ? 2 * x[2 * i] * x[2 * j] : T(0));
 }
 
-TEST(ServiceBlas, DoubleForwards) {
+TEST(ServiceBlas, Forwards) {
     CheckForwards<double>(brenn_blas_xdsyrk, brenn_blas_xdgemm, brenn_blas_xdsyr);
-}
-
-TEST(ServiceBlas, SingleForwards) {
     CheckForwards<float>(brenn_blas_xssyrk, brenn_blas_xsgemm, brenn_blas_xssyr);
 }
 
