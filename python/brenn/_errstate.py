@@ -17,6 +17,8 @@ import warnings
 
 import numpy as np
 
+from . import _brenn
+
 _CATEGORIES = ("divide", "over", "under", "invalid")
 _ACTIONS = ("ignore", "warn", "raise", "call", "print")
 # Front-end element statuses (brenn_types.h) and their categories.
@@ -102,7 +104,7 @@ class ElementReport:
     codes (1 domain, 2 singularity, 3 overflow, 4 underflow); ``positions``: the
     indices as ``numpy.unravel_index`` gives them for the result's ``shape``."""
 
-    KEPT = 32
+    KEPT = _brenn.vm.REPORTS_KEPT
     __slots__ = ("function", "category", "shape", "count", "indices", "statuses")
 
     def __init__(self, function, category, shape, count, indices, statuses):

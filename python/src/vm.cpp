@@ -352,6 +352,7 @@ bool Built(int i) {
 
 void InitVm(py::module_& m) {
     py::module_ vm = m.def_submodule("vm", "Vector-math rows of the front-end");
+    vm.attr("REPORTS_KEPT") = Reports::kKept;
     vm.def(
         "rows",
         [] {
