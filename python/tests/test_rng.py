@@ -131,10 +131,21 @@ def test_leapfrog_takes_every_nth_word(name):
 
 
 def test_members_and_seeds():
-    if "MT2203" in rng.FAMILIES:
-        a, b = rng.MT2203(1, member=0), rng.MT2203(1, member=5)
-        assert b.brng == a.brng + 5
-        assert not np.array_equal(a.random_raw(20), b.random_raw(20))
+    for name, member in (("MT2203", 5), ("WH", 272)):
+        if name in rng.FAMILIES:
+            a, b = rng.FAMILIES[name](1), rng.FAMILIES[name](1, member=member)
+            assert b.brng == a.brng + member
+            assert not np.array_equal(a.random_raw(20), b.random_raw(20))
+    # A legacy id is served in the form of its family, and pickled state given as a
+    # list serves as well as the array.
+    for legacy, name, member in ((0, "MCG31M1", 0), (3, "MCG59", 0), (11, "WH", 7)):
+        if name in rng.FAMILIES:
+            b = rng.FAMILIES[name](5, member=member)
+            b.random_raw(3)
+            source = brenn._brenn.rng.BitSource(legacy, [5])
+            source.random_raw(3)
+            source = brenn._brenn.rng.BitSource.load(source.image(), list(source.unread()))
+            np.testing.assert_array_equal(source.random_raw(5000), b.random_raw(5000))
     # A seed beyond 32 bits is its words, low first.
     np.testing.assert_array_equal(rng.MT19937(2**32 + 3).random_raw(5), rng.MT19937([3, 1]).random_raw(5))
     for bad in (-1, [2**32], []):
