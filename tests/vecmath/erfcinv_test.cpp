@@ -1,6 +1,7 @@
 // The inverse complementary error function and the inverse normal distribution function
 // (ErfcInv, CdfNormInv): values against a long double inversion where the rows change,
-// where the factor 1 - x (2p - 1) stops being exact, in the tail's cells down to the
+// where the factor 1 - x (2p - 1) stops being exact, at the ends of CdfNormInv's central
+// rational (p = 0.075, 0.925), in the tail's cells down to the
 // least denormal and next to the ends; the ends and the outside with their statuses;
 // NaNs; vectors with special lanes against single elements; the caller's MXCSR and x87
 // control word.
@@ -90,6 +91,11 @@ std::vector<T> Joins(Fn f) {
          {std::numeric_limits<T>::min(), std::numeric_limits<T>::denorm_min(),
           T(3) * std::numeric_limits<T>::denorm_min(), T(0.25), T(0.5), T(0.75), T(0.3), T(1e-3)})
         xs.push_back(x);
+    // CdfNormInv's centre ends at |p - 1/2| = 0.425, where its rational meets the rows.
+    if (f == Fn::CdfNormInv)
+        for (T edge : {T(0.075), T(0.925)})
+            for (T x : {std::nextafter(edge, T(0)), edge, std::nextafter(edge, T(1))})
+                xs.push_back(x);
     // The upper half of the domain, mirrored: 2 - t for ErfcInv, 1 - t/2 for CdfNormInv.
     size_t n = xs.size();
     for (size_t i = 0; i < n; ++i) {

@@ -10,14 +10,19 @@
  * The factor w is exact from x = 1/2 and p = 1/4 on; below, HA keeps its rounding error
  * (and sqrt(2)'s) as a second part, and LA and EP round it once. Single runs in double
  * on the widened lanes, as ErfInv does.
+ * CdfNormInv's centre, |p - 1/2| <= 0.425, takes a rational in (p - 1/2)^2 instead in
+ * the double LA and the single HA (cdfnorminv_central.h), on double lanes; a register
+ * reads the rows only for lanes outside the centre.
  * Lanes with t below 2^-53 (x below 2^-53, p below 2^-54), the ends, arguments outside
  * the domain and NaNs go to the scalar routine. Its tail, in the x87 extended format:
  * erfcinv(t) = s G(1/s), s = sqrt(-ln t), G by cells of 1/s (erfcinv_tail.h); ErfcInv
  * gives +infinity at 0 and -infinity at 2, CdfNormInv -infinity at 0 and +infinity at
  * 1, with status 2; outside the domain NaN with status 1; a NaN comes back quieted. */
 #include <limits>
+#include <type_traits>
 
 #include "frame/kernels.h"
+#include "vecmath/erf/cdfnorminv_central.h"
 #include "vecmath/erf/erfcinv_tail.h"
 #include "vecmath/erf/erfinv_rows.h"
 #include "vecmath/frame/kernel_frame.h"
@@ -74,6 +79,28 @@ inline __m128d InverseDouble(__m128d x) {
     }
 }
 
+// The form of CdfNormInv's centre by level (cdfnorminv_central.h); the double HA keeps
+// the rows everywhere.
+template <class T, Level L>
+struct CentralPick {
+    using type = std::conditional_t<
+        sizeof(T) == 8, std::conditional_t<L == Level::LA, CentralD8, CentralD4>,
+        std::conditional_t<L == Level::HA, CentralD4,
+                           std::conditional_t<L == Level::LA, CentralS4, CentralS3>>>;
+};
+template <class T, Level L>
+using CentralOf = typename CentralPick<T, L>::type;
+// The slots that take the centre's rational.
+template <class T, Level L>
+constexpr bool kCentralAt = (sizeof(T) == 8 && L == Level::LA) ||
+                            (sizeof(T) == 4 && L == Level::HA);
+
+// Single lanes through a double form, two at a time, rounded once.
+template <class Form>
+inline __m128 OnDoubleLanes(__m128 x, Form form) {
+    return Narrow(form(WidenLower(x)), form(WidenUpper(x)));
+}
+
 // The lanes of the vector body: x in [2^-53, 2) for ErfcInv, p in [2^-54, 1) for
 // CdfNormInv, tested on the bits (of a double's high word).
 template <Inverse F, class T>
@@ -102,11 +129,31 @@ struct InverseBody {
         special = RangeTest(x, MainRange<F, T>());
         // Special lanes run at 3/4 here, inside the rows, whatever they hold.
         V xs = IfThenElse(special, Set<T>(T(0.75)), x);
-        if constexpr (sizeof(T) == 4)
-            return Narrow(InverseDouble<F, T, L>(WidenLower(xs)),
-                          InverseDouble<F, T, L>(WidenUpper(xs)));
-        else
-            return InverseDouble<F, T, L>(xs);
+        auto rows = [](__m128d d) { return InverseDouble<F, T, L>(d); };
+        if constexpr (F == Inverse::CdfNorm && kCentralAt<T, L>) {
+            using K = CentralOf<T, L>;
+            if constexpr (sizeof(typename K::T) == 4) {
+                // The centre on the single lanes, the rows on widened ones, only on the
+                // halves with a lane outside the centre (a central half takes 1/2).
+                return CentralOrTails<K>(xs, [&](__m128 v) {
+                    int outside = ~MaskBits(CentralLanes(v));
+                    const __m128d half = Set<double>(0.5);
+                    __m128d lo = outside & 3 ? rows(WidenLower(v)) : half;
+                    __m128d hi = outside & 12 ? rows(WidenUpper(v)) : half;
+                    return Narrow(lo, hi);
+                });
+            } else {
+                auto half = [&](__m128d d) { return CentralOrTails<K>(d, rows); };
+                if constexpr (sizeof(T) == 4)
+                    return OnDoubleLanes(xs, half);
+                else
+                    return half(xs);
+            }
+        } else if constexpr (sizeof(T) == 4) {
+            return OnDoubleLanes(xs, rows);
+        } else {
+            return rows(xs);
+        }
     }
     static int Scalar(const T* a, T* y) {
         constexpr T inf = std::numeric_limits<T>::infinity();
