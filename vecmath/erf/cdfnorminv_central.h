@@ -4,9 +4,7 @@
  * add terms of one sign). P and Q are fitted for each level by
  * tools/erf/cdfnorminv_central.sollya (relative error of the linearised fit):
  *   CentralD8  degree 8 over 8, double, 2^-55.9 (double LA);
- *   CentralD4  degree 4 over 4, double, 2^-29.9 (double EP, single HA on double lanes);
- *   CentralS4  degree 4 over 4, single, 2^-25.8 (single LA in single arithmetic);
- *   CentralS3  degree 3 over 3, single, 2^-23.0 (single EP in single arithmetic).
+ *   CentralD4  degree 4 over 4, double, 2^-29.9 (single HA on double lanes).
  * The rows of the tails are erfinv_rows.h's; the kernels blend the two by lane. */
 #ifndef BRENN_VECMATH_ERF_CDFNORMINV_CENTRAL_H
 #define BRENN_VECMATH_ERF_CDFNORMINV_CENTRAL_H
@@ -41,23 +39,6 @@ struct CentralD4 {
                                     0x1.51afe446c283fp+7, 0x1.80bac833c70abp+8,
                                     0x1.7a3f01d5d2c0bp+7};
 };
-struct CentralS4 {
-    using T = float;
-    static constexpr float kC = 0x1.71eb86p-3f;
-    static constexpr float kA0 = 0x1.b18d92p+1f;
-    static constexpr float kS[] = {-0x1.45bbdap+3f, -0x1.400f6ep+7f, -0x1.2c711cp+9f,
-                                   -0x1.b07234p+8f};
-    static constexpr float kQ[] = {0x1p+0f, 0x1.70f8ep+4f, 0x1.3e01b8p+7f, 0x1.59e5d4p+8f,
-                                   0x1.40eb72p+7f};
-};
-struct CentralS3 {
-    using T = float;
-    static constexpr float kC = 0x1.71eb86p-3f;
-    static constexpr float kA0 = 0x1.b18d9p+1f;
-    static constexpr float kS[] = {-0x1.45b9ap+3f, -0x1.a30266p+6f, -0x1.3baa6cp+7f};
-    static constexpr float kQ[] = {0x1p+0f, 0x1.1a066ep+4f, 0x1.2f37ecp+6f, 0x1.f4bd08p+5f};
-};
-
 // The lanes of the centre: |p - 1/2| <= 0.425.
 template <class V>
 inline V CentralLanes(V p) {

@@ -79,21 +79,12 @@ inline __m128d InverseDouble(__m128d x) {
     }
 }
 
-// The form of CdfNormInv's centre by level (cdfnorminv_central.h); the double HA keeps
-// the rows everywhere.
-template <class T, Level L>
-struct CentralPick {
-    using type = std::conditional_t<
-        sizeof(T) == 8, std::conditional_t<L == Level::LA, CentralD8, CentralD4>,
-        std::conditional_t<L == Level::HA, CentralD4,
-                           std::conditional_t<L == Level::LA, CentralS4, CentralS3>>>;
-};
-template <class T, Level L>
-using CentralOf = typename CentralPick<T, L>::type;
-// The slots that take the centre's rational.
+// The slots that take the centre's rational (cdfnorminv_central.h), and its form there.
 template <class T, Level L>
 constexpr bool kCentralAt = (sizeof(T) == 8 && L == Level::LA) ||
                             (sizeof(T) == 4 && L == Level::HA);
+template <class T>
+using CentralOf = std::conditional_t<sizeof(T) == 8, CentralD8, CentralD4>;
 
 // Single lanes through a double form, two at a time, rounded once.
 template <class Form>
@@ -131,24 +122,11 @@ struct InverseBody {
         V xs = IfThenElse(special, Set<T>(T(0.75)), x);
         auto rows = [](__m128d d) { return InverseDouble<F, T, L>(d); };
         if constexpr (F == Inverse::CdfNorm && kCentralAt<T, L>) {
-            using K = CentralOf<T, L>;
-            if constexpr (sizeof(typename K::T) == 4) {
-                // The centre on the single lanes, the rows on widened ones, only on the
-                // halves with a lane outside the centre (a central half takes 1/2).
-                return CentralOrTails<K>(xs, [&](__m128 v) {
-                    int outside = ~MaskBits(CentralLanes(v));
-                    const __m128d half = Set<double>(0.5);
-                    __m128d lo = outside & 3 ? rows(WidenLower(v)) : half;
-                    __m128d hi = outside & 12 ? rows(WidenUpper(v)) : half;
-                    return Narrow(lo, hi);
-                });
-            } else {
-                auto half = [&](__m128d d) { return CentralOrTails<K>(d, rows); };
-                if constexpr (sizeof(T) == 4)
-                    return OnDoubleLanes(xs, half);
-                else
-                    return half(xs);
-            }
+            auto half = [&](__m128d d) { return CentralOrTails<CentralOf<T>>(d, rows); };
+            if constexpr (sizeof(T) == 4)
+                return OnDoubleLanes(xs, half);
+            else
+                return half(xs);
         } else if constexpr (sizeof(T) == 4) {
             return OnDoubleLanes(xs, rows);
         } else {
