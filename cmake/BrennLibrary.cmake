@@ -67,7 +67,7 @@ function(brenn_add_kernel_library)
   target_link_options(brenn_sse42 PRIVATE -Wl,--version-script=${gen}/brenn_sse42.map
                       -Wl,-z,noexecstack -Wl,--no-undefined)
   set_target_properties(brenn_sse42 PROPERTIES LINK_DEPENDS ${gen}/brenn_sse42.map)
-  target_link_libraries(brenn_sse42 PRIVATE brenn_core Threads::Threads ${CMAKE_DL_LIBS} m quadmath
+  target_link_libraries(brenn_sse42 PRIVATE brenn_core Threads::Threads ${CMAKE_DL_LIBS} m
                         ${LAPACK_LIBRARIES} ${BLAS_LIBRARIES})
 
   # The same objects linked straight into a program, for tests and tools that reach
@@ -78,6 +78,6 @@ function(brenn_add_kernel_library)
   add_dependencies(brenn_sse42_static brenn_sse42_objects)
   target_include_directories(brenn_sse42_static INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include
                              ${BRENN_GENERATED_INCLUDE})
-  target_link_libraries(brenn_sse42_static INTERFACE brenn_core Threads::Threads ${CMAKE_DL_LIBS} m quadmath
+  target_link_libraries(brenn_sse42_static INTERFACE brenn_core Threads::Threads ${CMAKE_DL_LIBS} m
                         ${LAPACK_LIBRARIES} ${BLAS_LIBRARIES})
 endfunction()
