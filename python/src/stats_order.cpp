@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "python/src/bindings.h"
+#include "python/src/stats_views.h"
 
 namespace py = pybind11;
 
@@ -54,8 +55,7 @@ int64_t Layout(bool observationsInRows) {
 
 template <class T>
 typename Api<T>::Matrix View(const Array<T>& x, int64_t p, int64_t n, bool inRows) {
-    if (x.size() != p * n) throw py::value_error("x must hold p * n values");
-    return {p, n, Layout(inRows), x.data(), nullptr, nullptr};
+    return MatrixView<T>(x, p, n, inRows);
 }
 
 // Runs call(view, results) with the GIL released and checks its status.
@@ -97,12 +97,7 @@ Array<T> WeightedMedian(const Array<T>& x, int64_t p, int64_t n, bool inRows,
                         const py::object& weights) {
     auto view = View(x, p, n, inRows);
     Array<T> w;
-    if (!weights.is_none()) {
-        w = weights.cast<Array<T>>();
-        if (w.ndim() != 1 || w.shape(0) != n)
-            throw py::value_error("weights must be one value an observation");
-        view.weights = w.data();
-    }
+    AttachWeights<T>(view, weights, n, w);
     return Run<T>(view, p, "weighted median",
                   [](const auto* v, T* out) { return Api<T>::wmedian(v, out); });
 }

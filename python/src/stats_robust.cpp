@@ -9,6 +9,7 @@
 
 #include "brenn_ss_robust.hpp"
 #include "python/src/bindings.h"
+#include "python/src/stats_views.h"
 
 namespace py = pybind11;
 
@@ -26,9 +27,7 @@ using Matrix = brenn::ss::detail::c_matrix<T>;
 
 template <class T>
 Matrix<T> View(const Array<T>& x, int64_t p, int64_t n, bool inRows) {
-    if (x.size() != p * n) throw py::value_error("x must hold p * n values");
-    return {p,        n,       inRows ? BRENN_SS_OBSERVATIONS_IN_ROWS : BRENN_SS_VARIABLES_IN_ROWS,
-            x.data(), nullptr, nullptr};
+    return MatrixView<T>(x, p, n, inRows);
 }
 
 // The compute statuses a caller can meet, in words.
@@ -107,12 +106,7 @@ py::tuple Partial(const Array<T>& x, int64_t p, int64_t n, bool inRows, const Wo
     auto view = View(x, p, n, inRows);
     if (roles.size() != p) throw py::value_error("roles must be one word a variable");
     Array<T> w;
-    if (!weights.is_none()) {
-        w = weights.cast<Array<T>>();
-        if (w.ndim() != 1 || w.shape(0) != n)
-            throw py::value_error("weights must be one value an observation");
-        view.weights = w.data();
-    }
+    AttachWeights<T>(view, weights, n, w);
     int64_t ny = 0;
     for (int64_t j = 0; j < p; ++j)
         ny += roles.data()[j] == 1;
