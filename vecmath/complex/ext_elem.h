@@ -1,6 +1,6 @@
 /* The complex exponential and logarithm of one element in 80-bit extended precision,
  * with the special values of C99 Annex G (cexp G.6.3.1, clog G.6.3.2): the scalar
- * routines of Exp and Ln, and the steps of Log10, Pow and Powx, are made from them.
+ * routines of Exp and Ln, and the steps of Log10, are made from them.
  * Double parts never overflow or underflow in the extended range, so the finite case
  * needs no scaling; the caller rounds the parts once to its type. The quarter-turn
  * reduction of the trigonometric functions' arguments serves the rows of extended.h too. */
@@ -86,10 +86,6 @@ inline int CExpX(long double a, long double b, long double& re, long double& im)
     return status::kNone;
 }
 
-// ln|z| + i arg z. Near |z| = 1 the real part is log1p((x - 1)(x + 1) + w^2)/2 of the
-// larger magnitude x and the smaller w, so that it keeps its relative accuracy; elsewhere
-// ln(x^2 + w^2)/2. An infinite part gives +inf, the phase by the quadrant rules of
-// atan2; zero gives -inf by a division, with status 2.
 // ln|z| of finite parts, not both zero (the real part of CLogX below).
 inline long double LogAbsX(long double a, long double b) {
     long double x = fabsl(a), w = fabsl(b);
@@ -102,6 +98,10 @@ inline long double LogAbsX(long double a, long double b) {
     return 0.5L * logl(x * x + w * w);
 }
 
+// ln|z| + i arg z. Near |z| = 1 the real part is log1p((x - 1)(x + 1) + w^2)/2 of the
+// larger magnitude x and the smaller w, so that it keeps its relative accuracy; elsewhere
+// ln(x^2 + w^2)/2. An infinite part gives +inf, the phase by the quadrant rules of
+// atan2; zero gives -inf by a division, with status 2.
 inline int CLogX(long double a, long double b, long double& re, long double& im) {
     if (__builtin_isinf(a) || __builtin_isinf(b)) {
         re = __builtin_infl();

@@ -1,10 +1,9 @@
 /* The frame of the complex functions computed element by element in 80-bit
- * extended precision (trigonometric, hyperbolic, Log10, Pow, Powx): one kernel
+ * extended precision (trigonometric, hyperbolic, Log10): one kernel
  * serves every accuracy level, since the extended routine is as exact as it
  * gets whatever the mode.
  *
- * A routine takes the element's two parts (and those of the second operand: Pow's
- * element, Powx's one value for all), widened to long double, and gives
+ * A routine takes the element's two parts, widened to long double, and gives
  * the result's parts and a status; the frame runs it with the x87 unit at
  * extended precision (the caller's control word saved and restored by the
  * kernel frame's entry rule), rounds the parts once to the element's type, and
@@ -24,8 +23,7 @@ namespace brenn::vm::cx {
 using LD = long double;
 
 // A body: the element type E, the routine, its public error name and kOverflow.
-//   unary:  static int Eval(LD re, LD im, LD& yr, LD& yi);
-//   binary: static int Eval(LD ar, LD ai, LD br, LD bi, LD& yr, LD& yi);
+//   static int Eval(LD re, LD im, LD& yr, LD& yi);
 template <class B, class E>
 struct ExtendedRun {
     using R = decltype(E{}.re);
@@ -53,36 +51,11 @@ struct ExtendedRun {
         }
         Leave(env);
     }
-
-    // Two inputs: b a vector (step 1) or one element for all (step 0, Powx, which reports
-    // its input vector as both operands, as the real Powx does).
-    static void Run(int n, const E* a, const E* b, int step, E* y) {
-        Env<ExtendedRun> env = Enter<ExtendedRun>();
-        for (int i = 0; i < n; ++i) {
-            const R ar = a[i].re, ai = a[i].im, br = b[i * step].re, bi = b[i * step].im;
-            LD yr, yi;
-            int st = B::Eval(LD(ar), LD(ai), LD(br), LD(bi), yr, yi);
-            st = Put(y[i], yr, yi, st,
-                     __builtin_isfinite(ar) && __builtin_isfinite(ai) && __builtin_isfinite(br) &&
-                         __builtin_isfinite(bi));
-            if (__builtin_expect(st != status::kNone, 0))
-                frame::ReportError(st, i, a, step ? b : a, y, y, B::kName);
-        }
-        Leave(env);
-    }
 };
 
 template <class B, class E>
 inline void RunExtended(int n, const E* a, E* y) {
     ExtendedRun<B, E>::Run(n, a, y);
-}
-template <class B, class E>
-inline void RunExtended(int n, const E* a, const E* b, E* y) {
-    ExtendedRun<B, E>::Run(n, a, b, 1, y);
-}
-template <class B, class E>
-inline void RunExtendedScalar(int n, const E* a, E b, E* y) {
-    ExtendedRun<B, E>::Run(n, a, &b, 0, y);
 }
 
 // -y, but a NaN keeps its sign: the turn of the trigonometric functions into the
