@@ -123,21 +123,54 @@ bool Wanted(const std::vector<std::string>& only, const char* name) {
     return false;
 }
 
-// The ceilings of a run's measured rows, with the kept ones of the other rows, in
-// row and slot order. Reports each change.
+// The ceilings the file at path holds now, by row and slot; false when it cannot be
+// read. Other rows' lines are taken from here rather than from the ceilings compiled
+// into this build, which may be older than the file (someone else's rows rewritten
+// since) or lack rows a narrowed build leaves out.
+bool ReadCeilingsFile(const char* path, const RowDesc* rows, int count,
+                      std::vector<CeilingLine>* lines) {
+    FILE* f = fopen(path, "r");
+    if (!f) return false;
+    char line[256];
+    while (fgets(line, sizeof line, f)) {
+        char name[64], slot[4];
+        double value = 0;
+        if (sscanf(line, "CEILING(%63[^,], %3[^,], %lf)", name, slot, &value) != 3) continue;
+        int s = -1;
+        for (int k = 0; k < 3; ++k)
+            if (strcmp(slot, kSlotName[k]) == 0) s = k;
+        for (int i = 0; i < count && s >= 0; ++i)
+            if (strcmp(name, rows[i].name) == 0) lines->push_back({rows[i].index, s, value});
+    }
+    fclose(f);
+    return true;
+}
+
+// The ceilings of a run's measured rows, with the other rows' lines as the file holds
+// them (or as this build kept them, when there is no file yet), in row and slot order.
+// Reports each change.
 std::vector<CeilingLine> NewCeilings(const RowDesc* rows, int count,
                                      const std::vector<std::string>& only,
-                                     const std::vector<std::vector<SlotResult>>& results) {
+                                     const std::vector<std::vector<SlotResult>>& results,
+                                     const char* path) {
+    std::vector<CeilingLine> onDisk;
+    bool haveFile = ReadCeilingsFile(path, rows, count, &onDisk);
+    auto other = [&](int row, int slot) -> const CeilingLine* {
+        if (!haveFile) return FindCeiling(row, slot);
+        for (const CeilingLine& c : onDisk)
+            if (c.row == row && c.slot == slot) return &c;
+        return nullptr;
+    };
     std::vector<CeilingLine> lines;
     for (int i = 0; i < count; ++i) {
         const RowDesc& r = rows[i];
         bool measured = Wanted(only, r.name);
         for (int s = 0; s < 3; ++s) {
-            const CeilingLine* kept = FindCeiling(r.index, s);
             if (!measured) {
-                if (kept) lines.push_back(*kept);
+                if (const CeilingLine* c = other(r.index, s)) lines.push_back(*c);
                 continue;
             }
+            const CeilingLine* kept = other(r.index, s);
             const SlotResult& x = results[i][s];
             if (!x.present || IsExact(*r.facts)) continue;
             CeilingLine c{r.index, s, CeilingFor(*r.facts, s, Figure(s, x))};
@@ -281,7 +314,7 @@ int main(int argc, char** argv) {
     if (list) return 0;
 
     if (ceilingsPath) {
-        std::string text = CeilingsFileText(NewCeilings(rows, count, only, results));
+        std::string text = CeilingsFileText(NewCeilings(rows, count, only, results, ceilingsPath));
         FILE* f = fopen(ceilingsPath, "w");
         if (!f || fputs(text.c_str(), f) < 0 || fclose(f) != 0) {
             fprintf(stderr, "brenn_accuracy: cannot write %s\n", ceilingsPath);
