@@ -27,7 +27,9 @@ template <class T, int N>
 int CheckParams(int64_t count, const T* params, const ParamRange (&ranges)[N]) {
     if (count < 0 || count > N) return BRENN_ERR_BAD_SIZE;
     if (count > 0 && params == nullptr) return BRENN_ERR_NULL_POINTER;
-    for (int64_t k = 0; k < count; ++k)
+    // k < N again, though count <= N already holds: the compiler's bounds warning
+    // cannot see through the early return
+    for (int k = 0; k < N && k < count; ++k)
         if (!InRange(static_cast<double>(params[k]), ranges[k])) return BRENN_ERR_BAD_ARGUMENT;
     return BRENN_OK;
 }
