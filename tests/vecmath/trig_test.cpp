@@ -346,71 +346,82 @@ TEST(Trig, DegreesAndPiUnits) {
     brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);
 }
 
-// The single sine, cosine and tangent rows run their main stage sixteen elements a
-// round, all four registers at once when no lane is above the short path's limit and
-// quad by quad otherwise. Whatever the length, the start's alignment and where huge,
+// The sine, cosine and single tangent rows run their main stage sixteen elements a
+// round, all registers at once when no lane is above the short path's limit and
+// register by register otherwise. Whatever the length, the start's alignment and where huge,
 // tiny, infinite or NaN lanes fall, each element must come out as it does alone (a call
 // of one element takes the partial-block path, one register, clamped); special lanes
 // are reported in order, also in place.
 
-// Runs a row (unary, or the two-result sSinCos) on n elements; z stays empty for unary.
-void RunRow(const char* row, int slot, int n, const float* a, float* y, float* z) {
+// Runs a row (unary, or the two-result SinCos) on n elements; z stays empty for unary.
+template <class T>
+void RunRow(const char* row, int slot, int n, const T* a, T* y, T* z) {
     if (z)
-        As<TwoRes<float>>(Slot(row, slot))(n, a, y, z);
+        As<TwoRes<T>>(Slot(row, slot))(n, a, y, z);
     else
-        As<Unary<float>>(Slot(row, slot))(n, a, y);
+        As<Unary<T>>(Slot(row, slot))(n, a, y);
 }
 
 // Inputs for one pattern: small arguments, and special values placed so that a round
 // of sixteen sees them in one quad, in every quad, or not at all.
-std::vector<float> Pattern(int kind, int n, std::mt19937& gen) {
-    std::uniform_real_distribution<float> small(-9.5f, 9.5f);
-    std::vector<float> x(n);
-    for (float& v : x)
+// The limits in double: 2^24 for Sin and Cos.
+template <class T>
+std::vector<T> Pattern(int kind, int n, std::mt19937& gen) {
+    const bool single = sizeof(T) == 4;
+    std::uniform_real_distribution<T> small(-9.5, 9.5);
+    std::vector<T> x(n);
+    for (T& v : x)
         v = small(gen);
     for (int i = 0; i < n; ++i) {
         switch (kind) {
         case 1: // one huge lane in the second quad of each round
-            if (i % 16 == 5) x[i] = -3.3e27f;
+            if (i % 16 == 5) x[i] = T(-3.3e27);
             break;
         case 2: // infinity or NaN in every quad
-            if (i % 4 == (i / 4) % 4) x[i] = i % 8 < 4 ? INFINITY : -NAN;
+            if (i % 4 == (i / 4) % 4) x[i] = i % 8 < 4 ? T(INFINITY) : T(-NAN);
             break;
         case 3: // tiny arguments (cosine's constant 1), zeros, and the limit's two sides
-            if (i % 3 == 0) x[i] = std::ldexp(x[i], -14);
-            if (i % 7 == 1) x[i] = i % 2 ? -0.0f : 0.0f;
-            if (i % 11 == 2) x[i] = i % 2 ? 10000.0f : std::nextafter(10000.0f, 2e4f);
-            if (i % 13 == 3) x[i] = i % 2 ? -8256.0f : std::nextafter(8256.0f, 1e4f);
+            if (i % 3 == 0) x[i] = std::ldexp(x[i], single ? -14 : -29);
+            if (i % 7 == 1) x[i] = i % 2 ? T(-0.0) : T(0.0);
+            const T limit = single ? T(10000) : T(0x1p24), tan = single ? T(8256) : T(0x1p24);
+            if (i % 11 == 2) x[i] = i % 2 ? limit : std::nextafter(limit, 2 * limit);
+            if (i % 13 == 3) x[i] = i % 2 ? -tan : std::nextafter(tan, 2 * tan);
             break;
         }
     }
     return x;
 }
 
+template <class T>
+void EveryElementAsAlone(const char* row, std::mt19937& gen) {
+    const bool two = std::string(row).ends_with("SinCos");
+    for (int slot = 0; slot < kSlots; ++slot)
+        for (int kind = 0; kind < 4; ++kind)
+            for (int n : {15, 16, 17, 24, 31, 40, 53, 69})
+                for (int off = 0; off < 4; ++off) {
+                    std::vector<T> x = Pattern<T>(kind, n, gen);
+                    std::vector<T> buf(n + 4), y(n + 4), z(n + 4);
+                    std::copy(x.begin(), x.end(), buf.begin() + off);
+                    RunRow<T>(row, slot, n, buf.data() + off, y.data() + off,
+                              two ? z.data() + off : nullptr);
+                    for (int i = 0; i < n; ++i) {
+                        T y1, z1;
+                        RunRow<T>(row, slot, 1, &x[i], &y1, two ? &z1 : nullptr);
+                        ASSERT_TRUE(SameValue(y[off + i], y1))
+                            << row << " slot " << slot << " kind " << kind << " n " << n
+                            << " offset " << off << " element " << i << " x " << x[i];
+                        if (two) ASSERT_TRUE(SameValue(z[off + i], z1)) << row << " cos " << i;
+                    }
+                }
+}
+
 TEST(TrigRounds, EveryElementAsAlone) {
     brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_IGNORE);
     std::mt19937 gen(5);
-    for (const char* row : {"sSin", "sCos", "sSinCos", "sTan"}) {
-        const bool two = std::string(row) == "sSinCos";
-        for (int slot = 0; slot < kSlots; ++slot)
-            for (int kind = 0; kind < 4; ++kind)
-                for (int n : {15, 16, 17, 24, 31, 40, 53, 69})
-                    for (int off = 0; off < 4; ++off) {
-                        std::vector<float> x = Pattern(kind, n, gen);
-                        std::vector<float> buf(n + 4), y(n + 4), z(n + 4);
-                        std::copy(x.begin(), x.end(), buf.begin() + off);
-                        RunRow(row, slot, n, buf.data() + off, y.data() + off,
-                               two ? z.data() + off : nullptr);
-                        for (int i = 0; i < n; ++i) {
-                            float y1, z1;
-                            RunRow(row, slot, 1, &x[i], &y1, two ? &z1 : nullptr);
-                            ASSERT_TRUE(SameValue(y[off + i], y1))
-                                << row << " slot " << slot << " kind " << kind << " n " << n
-                                << " offset " << off << " element " << i << " x " << x[i];
-                            if (two) ASSERT_TRUE(SameValue(z[off + i], z1)) << row << " cos " << i;
-                        }
-                    }
-    }
+    for (const char* row : {"sSin", "sCos", "sSinCos", "sTan"})
+        EveryElementAsAlone<float>(row, gen);
+    for (const char* row : {"dSin", "dCos", "dSinCos"})
+        EveryElementAsAlone<double>(row, gen);
     brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);
 }
 
@@ -425,38 +436,44 @@ int Patch(ErrorRecord* r) {
 // Infinities in three quads of the first round and in the round of eight after it,
 // the operation in place: reports come element by element, in order, each patched
 // value lands where its element was, and the other elements are the out-of-place ones.
-TEST(TrigRounds, SpecialLanesReportedInOrderInPlace) {
+template <class T>
+void ReportedInOrderInPlace(const char* row) {
     const std::vector<int> infs = {2, 7, 13, 20, 26};
-    std::vector<float> x(29);
+    std::vector<T> x(29);
     for (int i = 0; i < 29; ++i)
-        x[i] = 0.37f * float(i) - 4.0f;
+        x[i] = T(0.37) * T(i) - 4;
     for (int i : infs)
-        x[i] = i % 2 ? -INFINITY : INFINITY;
-    x[9] = NAN; // special, but not an error
-    for (const char* row : {"sSin", "sCos", "sSinCos", "sTan"}) {
-        const bool two = std::string(row) == "sSinCos";
-        for (int slot = 0; slot < kSlots; ++slot) {
-            brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_IGNORE);
-            std::vector<float> ref(29), refz(29);
-            RunRow(row, slot, 29, x.data(), ref.data(), two ? refz.data() : nullptr);
-            brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_CALLBACK);
-            brenn_zar_kernel_SetErrorCallBack(Patch);
-            brenn_zar_kernel_SetInterfInputVectorPointer(nullptr);
-            brenn_zar_kernel_ClearErrStatus();
-            reported.clear();
-            std::vector<float> v = x, z(29);
-            RunRow(row, slot, 29, v.data(), v.data(), two ? z.data() : nullptr);
-            EXPECT_EQ(reported, infs) << row << " slot " << slot;
-            EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 1);
-            for (int i = 0; i < 29; ++i) {
-                bool inf = std::find(infs.begin(), infs.end(), i) != infs.end();
-                EXPECT_TRUE(SameValue(v[i], inf ? 42.0f : ref[i])) << row << " element " << i;
-                if (two) EXPECT_TRUE(SameValue(z[i], refz[i])) << row << " cos " << i;
-            }
-            brenn_zar_kernel_ClearErrorCallBack();
+        x[i] = i % 2 ? -T(INFINITY) : T(INFINITY);
+    x[9] = T(NAN); // special, but not an error
+    const bool two = std::string(row).ends_with("SinCos");
+    for (int slot = 0; slot < kSlots; ++slot) {
+        brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_IGNORE);
+        std::vector<T> ref(29), refz(29);
+        RunRow<T>(row, slot, 29, x.data(), ref.data(), two ? refz.data() : nullptr);
+        brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_CALLBACK);
+        brenn_zar_kernel_SetErrorCallBack(Patch);
+        brenn_zar_kernel_SetInterfInputVectorPointer(nullptr);
+        brenn_zar_kernel_ClearErrStatus();
+        reported.clear();
+        std::vector<T> v = x, z(29);
+        RunRow<T>(row, slot, 29, v.data(), v.data(), two ? z.data() : nullptr);
+        EXPECT_EQ(reported, infs) << row << " slot " << slot;
+        EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 1);
+        for (int i = 0; i < 29; ++i) {
+            bool inf = std::find(infs.begin(), infs.end(), i) != infs.end();
+            EXPECT_TRUE(SameValue(v[i], inf ? T(42) : ref[i])) << row << " element " << i;
+            if (two) EXPECT_TRUE(SameValue(z[i], refz[i])) << row << " cos " << i;
         }
+        brenn_zar_kernel_ClearErrorCallBack();
     }
     brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);
+}
+
+TEST(TrigRounds, SpecialLanesReportedInOrderInPlace) {
+    for (const char* row : {"sSin", "sCos", "sSinCos", "sTan"})
+        ReportedInOrderInPlace<float>(row);
+    for (const char* row : {"dSin", "dCos", "dSinCos"})
+        ReportedInOrderInPlace<double>(row);
 }
 
 } // namespace

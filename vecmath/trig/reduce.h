@@ -382,17 +382,43 @@ inline bool AnyAboveS(const __m128* x, __m128* a, uint32_t limitBits) {
     return MaskBits(Gt(m, Set<uint32_t>(limitBits))) != 0;
 }
 
-// A round of sixteen quad by quad, when a lane is above the short path's limit: each
-// register through the body's Eval, their special bits packed for the frame.
-template <class Body>
-inline int EvalQuadsS(const __m128* x, __m128* y) {
+// Magnitudes of a round's N double registers, and whether any lane is above the limit
+// (infinity and NaN are, as bits): one compare a register, the masks joined.
+template <int N>
+BRENN_TRIG_HOT bool AnyAboveD(const __m128d* x, __m128d* a, uint64_t limitBits) {
+    BRENN_EACH(k, N) a[k] = Abs(x[k]);
+    const I64x2 limit = Set<uint64_t>(limitBits);
+    I64x2 m = Gt(AsInt(a[0]), limit);
+    BRENN_EACH(k, N - 1) m = Or(m, Gt(AsInt(a[k + 1]), limit));
+    return MaskBits(m) != 0;
+}
+
+// Whether any lane of N registers of finite magnitudes is below a bound: one compare on
+// the least of them.
+template <int N>
+BRENN_TRIG_HOT bool AnyBelowD(const __m128d* a, double bound) {
+    __m128d least = a[0];
+    BRENN_EACH(k, N - 1) least = Min(least, a[k + 1]);
+    return MaskBits(Lt(least, Set<double>(bound))) != 0;
+}
+
+// A round register by register through the body's Eval, when a lane is off the short
+// path: their special bits packed for the frame (bit j for element j of the round).
+template <class Body, int N, class V>
+inline int EvalEach(const V* x, V* y) {
     int bits = 0;
-    BRENN_EACH(k, 4) {
-        __m128 special;
+    BRENN_EACH(k, N) {
+        V special;
         y[k] = Body::Eval(x[k], special);
-        bits |= MaskBits(special) << (4 * k);
+        bits |= MaskBits(special) << (kLanes<ElemOf<V>> * k);
     }
     return bits;
+}
+
+// A single round of sixteen quad by quad, when a lane is above the limit.
+template <class Body>
+inline int EvalQuadsS(const __m128* x, __m128* y) {
+    return EvalEach<Body, 4>(x, y);
 }
 
 } // namespace brenn::vm::trig

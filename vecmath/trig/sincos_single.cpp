@@ -20,6 +20,7 @@
  * scalar routine (NaN with status::kDomain for an infinity). */
 #include "frame/kernels.h"
 #include "vecmath/frame/kernel_frame.h"
+#include "vecmath/explog/flat.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/trig/reduce.h"
 
@@ -190,7 +191,7 @@ struct SinCosBody {
     // path on the four registers together, unclamped; otherwise quad by quad.
     static int EvalWide(const __m128* x, __m128* y) {
         __m128 a[4];
-        if (__builtin_expect(AnyAboveS(x, a, kLimitS), 0)) return EvalQuadsS<SinCosBody>(x, y);
+        if (__builtin_expect(AnyAboveS(x, a, kLimitS), 0)) return EvalEach<SinCosBody, 4>(x, y);
         ShortN<L, 4, false>(a, kCos, y, kCos ? nullptr : x);
         return 0;
     }
@@ -246,10 +247,6 @@ struct BothBody {
 using brenn::vm::Level;
 using brenn::vm::trig::BothBody;
 using brenn::vm::trig::SinCosBody;
-
-// The whole frame inlined into each kernel: GCC at -O2 leaves the round (and the two-result
-// body) out of line, a call every sixteen elements with the constants reloaded each time.
-#define BRENN_FLAT __attribute__((flatten))
 
 extern "C" {
 BRENN_FLAT ZAR_KERNEL_OF(s, Sin, EP, Unary, SinCosBody<Level::EP, false>) BRENN_FLAT
