@@ -94,12 +94,16 @@ struct DoublePoly<Base::Ten> {
 template <Base B>
 inline __m128d CoreOf(__m128d x) {
     using C = BaseConst<B>;
-    const __m128d shifter = Set<double>(Format<double>::kShifter);
     __m128d t, d;
     if constexpr (B == Base::Two) {
-        t = Add(Mul(x, Set<double>(64.0)), shifter);
-        d = Sub(x, Mul(Sub(t, shifter), Set<double>(0x1p-6)));
+        // The shifter scaled by 2^-6: its last place is 2^-6, so x + shifter leaves
+        // round(64x) in the low bits, the same bits as 64x + kShifter, with no product,
+        // and d = x - (t - shifter) exactly.
+        const __m128d shifter = Set<double>(Format<double>::kShifter * 0x1p-6);
+        t = Add(x, shifter);
+        d = Sub(x, Sub(t, shifter));
     } else {
+        const __m128d shifter = Set<double>(Format<double>::kShifter);
         t = Add(Mul(x, Set<double>(C::kInvStep)), shifter);
         __m128d n = Sub(t, shifter);
         d = Sub(Sub(x, Mul(n, Set<double>(C::kStepHi))), Mul(n, Set<double>(C::kStepLo)));
