@@ -13,6 +13,7 @@
  *
  * Measured (brenn_accuracy): see the rows' lines in docs/accuracy.md. */
 #include "frame/kernels.h"
+#include "vecmath/explog/wide.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/hyper/hyper_core.h"
@@ -113,7 +114,7 @@ template <Fn F, class Tp, Level L>
 struct HyperBody {
     using T = Tp;
     using V = Vec<T>;
-    static V Eval(V x, V& special) {
+    static BRENN_VEC V Eval(V x, V& special) {
         constexpr bool denormals = F == Fn::Sinh && L == Level::HA && sizeof(T) == 4;
         if constexpr (denormals)
             special = RangeTest(x, CoshWindow<float>::kWithDenormals);
@@ -124,17 +125,21 @@ struct HyperBody {
         if constexpr (F == Fn::Sinh) y = Or(y, SignBit(x));
         return y;
     }
+    // Double rounds of sixteen: the compiler interleaves the round's eight chains.
+    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
 };
 
 template <class Tp, Level L>
 struct CoshBody : HyperBody<Fn::Cosh, Tp, L> {
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(Tp, Cosh);
     static int Scalar(const Tp* a, Tp* y) { return CoshScalar(a, y); }
+    static int EvalWide(const Vec<Tp>* x, Vec<Tp>* y) { return EvalByRegister<CoshBody>(x, y); }
 };
 template <class Tp, Level L>
 struct SinhBody : HyperBody<Fn::Sinh, Tp, L> {
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(Tp, Sinh);
     static int Scalar(const Tp* a, Tp* y) { return SinhScalar(a, y); }
+    static int EvalWide(const Vec<Tp>* x, Vec<Tp>* y) { return EvalByRegister<SinhBody>(x, y); }
 };
 
 } // namespace

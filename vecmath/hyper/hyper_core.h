@@ -49,6 +49,28 @@ inline __m128d HalfPower(I32x4 m) {
     return AsFloat(ShiftLeft<Format<double>::kMantBits>(BitCast<I64x2>(e)));
 }
 
+// c[I] + s*(c[I+2] + s*(...)): the coefficients of one parity of the exponential's tail.
+template <int I, size_t N>
+inline __m128d HornerEveryOther(__m128d s, const double (&c)[N]) {
+    if constexpr (I + 2 >= int(N))
+        return Set<double>(c[I]);
+    else
+        return MulAdd(s, HornerEveryOther<I + 2>(s, c), Set<double>(c[I]));
+}
+
+// The exponential's polynomial at r and at -r at once: p(r) = r + r^2 (c2 + c3 r + ...)
+// is the even part E = r^2 (c2 + c4 r^2 + ...) and the odd part O = r + r^3 (c3 + c5 r^2
+// + ...), so p(r) = E + O and p(-r) = E - O, each part evaluated once.
+template <ExpDegree D>
+inline void ExpPolyBoth(__m128d r, __m128d& pa, __m128d& pb) {
+    const auto& c = ExpTail<D>::kC;
+    __m128d s = Mul(r, r);
+    __m128d e = Mul(s, HornerEveryOther<0>(s, c));
+    __m128d o = MulAdd(Mul(r, s), HornerEveryOther<1>(s, c), r);
+    pa = Add(e, o);
+    pb = Sub(e, o);
+}
+
 // A and B of a in [0, 708]. B's power is held at 2^-1001 and up: below that B is far
 // under A's last bit, and the clamp keeps its exponent field in range.
 template <ExpDegree D>
@@ -64,8 +86,8 @@ inline ExpHalves HalvesOf(__m128d a) {
     ExpRows64(tn, uh, ul);
     __m128d sa = HalfPower(ExpPower64(t));
     __m128d sb = HalfPower(Max(ExpPower64(tn), Set<int32_t>(-1000)));
-    __m128d pa = ExpPolyD<D>(r);
-    __m128d pb = ExpPolyD<D>(Neg(r));
+    __m128d pa, pb;
+    ExpPolyBoth<D>(r, pa, pb);
     ExpHalves h;
     h.ah = Mul(th, sa);
     h.al = Mul(Add(Mul(th, pa), tl), sa);

@@ -6,21 +6,22 @@
 
 #include <cmath>
 
+#include "vecmath/explog/wide.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/invtrig/common.h"
 #include "vecmath/invtrig/series.h"
 
 namespace brenn::vm::invtrig {
 
-// min(v, 2^510) for v >= 0 or NaN, by the bits: minpd would raise invalid for a NaN.
-BRENN_VEC __m128d AtMost2p510(__m128d v) {
-    const __m128d c = Set<double>(0x1p510);
+// min(v, c) for v >= 0 or NaN, by the bits: minpd would raise invalid for a NaN.
+BRENN_VEC __m128d AtMost(__m128d v, double limit) {
+    const __m128d c = Set<double>(limit);
     return IfThenElse(AsFloat(Gt(AsInt(v), AsInt(c))), c, v);
 }
 
 // The double steps: the angle of (b, a) with the series S, compensated or not. Lanes
-// of Atan2 hold magnitudes in [2^-500, 2^500), lanes of Atan have b = 1 and any a.
-template <Unit U, class S, bool Comp>
+// of Atan2 hold magnitudes in [2^-500, 2^500), lanes of Atan have b = 1 (UnitB) and any a.
+template <Unit U, class S, bool Comp, bool UnitB = false>
 BRENN_VEC __m128d AngleOf(__m128d a, __m128d b) {
     const __m128d one = Set<double>(1.0);
     __m128d ay = Abs(a), ax = Abs(b);
@@ -36,7 +37,7 @@ BRENN_VEC __m128d AngleOf(__m128d a, __m128d b) {
     __m128d nh, nl, dh, dl;
     if constexpr (Comp) {
         // Folded lanes have d below 2^500; the others must not make inf - inf here.
-        __m128d dc = AtMost2p510(d);
+        __m128d dc = AtMost(d, 0x1p510);
         TwoSum(n, Neg(dc), nh, nl);
         TwoSum(n, dc, dh, dl);
         nh = IfThenElse(fold, nh, n);
@@ -54,9 +55,17 @@ BRENN_VEC __m128d AngleOf(__m128d a, __m128d b) {
         // about 2^995: Atan's larger d (above 2^510) only happen with q below 2^-510, next
         // to pi/2, where the correction is far below the result's last bit whatever it is.
         __m128d ph, pl;
-        TwoProduct(q, AtMost2p510(dh), ph, pl);
+        TwoProduct(q, AtMost(dh, 0x1p510), ph, pl);
         __m128d r = Sub(Add(Sub(Sub(nh, ph), pl), nl), Mul(q, dl));
-        l = Add(l, Div(r, dh));
+        if constexpr (UnitB) {
+            // r/dh is about 2^-53 of q, so the single reciprocal estimate of dh (12 bits)
+            // is plenty and spares a second division. Atan's dh is at least 1; above 2^100
+            // (q below 2^-100, beside pi/2) the correction is nothing to the result.
+            __m128d dn = AtMost(dh, 0x1p100);
+            l = Add(l, Mul(r, WidenLower(ApproxRecip(Narrow(dn, dn)))));
+        } else {
+            l = Add(l, Div(r, dh));
+        }
     }
     k = Add(k, IfThenElseZero(fold, Or(one, And(flip, SignMask<double>()))));
     __m128d y = Finish<U, Comp>(k, Xor(q, flip), Xor(l, flip));
@@ -135,7 +144,7 @@ BRENN_VEC __m128 AtanOf(__m128 x) {
 }
 template <Unit U, Level L>
 BRENN_VEC __m128d AtanOf(__m128d x) {
-    return AngleOf<U, DoubleSeriesOf<L>, L != Level::EP>(x, Set<double>(1.0));
+    return AngleOf<U, DoubleSeriesOf<L>, L != Level::EP, true>(x, Set<double>(1.0));
 }
 template <Unit U, Level L>
 BRENN_VEC __m128 Atan2Of(__m128 a, __m128 b) {
@@ -215,7 +224,13 @@ template <class Tp, Level L, Unit U>
 struct AtanBody {
     using T = Tp;
     using V = Vec<T>;
-    static V Eval(V x, V&) { return AtanOf<U, L>(x); }
+    static BRENN_VEC V Eval(V x, V& special) {
+        special = Zero<T>(); // no lane leaves the vector path
+        return AtanOf<U, L>(x);
+    }
+    // Double rounds of sixteen: the compiler interleaves the round's eight chains.
+    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
+    static int EvalWide(const V* x, V* y) { return EvalByRegister<AtanBody>(x, y); }
 };
 
 template <class Tp, Level L, Unit U>
