@@ -150,9 +150,10 @@ def test_each_category_is_handled_in_numpys_order():
     with state:
         vm.ln(x)
         vm.exp(np.array([1.0, 2.0]))  # nothing reported: no call
-        vm.pow(np.array([[10.0], [-1.0]]), np.array([400.0, 0.5]))  # broadcast
+        vm.pow(np.array([[10.0], [-1.0]]), np.array([400.0, 0.5, -400.0]))  # broadcast
     assert [(c, s, r.count, r.indices.tolist()) for c, s, r in seen] == [
-        ("divide", 2, 1, [2]), ("invalid", 1, 2, [1, 3]), ("invalid", 1, 1, [3])]
+        ("divide", 2, 1, [2]), ("invalid", 1, 2, [1, 3]),
+        ("over", 3, 1, [0]), ("under", 4, 1, [2]), ("invalid", 1, 1, [4])]
     with brenn.errstate(divide="ignore", invalid="raise"):
         with pytest.raises(FloatingPointError, match="invalid .* 2 element"):
             vm.ln(x)

@@ -13,12 +13,15 @@
  *   5. other infinities: 0 or infinity by the sign of y and whether |x| is above 1
  *      (with the sign factor for x = -inf);
  *   6. the value, with the sign factor for negative x. A result beyond the range
- *      overflows to infinity, one below it is zero or denormal, both with status 0:
- *      only the hardware's flags show them.
+ *      overflows to infinity, one below it is zero or denormal. The double rows report
+ *      them (overflow 3, underflow 4 for a zero or denormal result); the single rows
+ *      return status 0, and only the hardware's flags show them.
  * Powr has the domain x >= 0: after the NaN cases of step 1 any negative x gives NaN
  * with the domain status (x^0 too), and no integer class is taken, so -0 is +0. */
 #ifndef BRENN_VECMATH_POWER_POW_SCALAR_H
 #define BRENN_VECMATH_POWER_POW_SCALAR_H
+
+#include <limits>
 
 #include "vecmath/frame/scalar.h"
 #include "vecmath/power/pow_core.h"
@@ -100,6 +103,11 @@ inline int PowScalar(T x, T y, T* r) {
         return status::kNone;
     }
     *r = sign * PowValue(ax, y);
+    if constexpr (sizeof(T) == sizeof(double)) {
+        const T m = __builtin_fabs(*r);
+        if (m > std::numeric_limits<T>::max()) return status::kOverflow;
+        if (m < std::numeric_limits<T>::min()) return status::kUnderflow;
+    }
     return status::kNone;
 }
 
