@@ -14,7 +14,7 @@
  * and HA it evaluates both results from one reduction by the table, and at HA that
  * reduction runs in x87 extended precision.
  *
- * Sin and Cos run sixteen elements a round: one range test for the round, and with every
+ * The kernels run sixteen elements a round: one range test for the round, and with every
  * lane finite and below 2^24 the short path alone, without the large path's lane tests.
  *
  * Measured (brenn_accuracy, 250000 inputs a row): EP 27.3 bits in dSin, dCos and
@@ -194,27 +194,28 @@ struct Both {
     using T = double;
     static constexpr const char* kName = ZAR_ERROR_NAME(dSinCos);
     static constexpr X87Rule kX87 = L == Level::HA ? X87Rule::Extended : X87Rule::Masked;
-    static void Eval(__m128d x, __m128d& s, __m128d& c, __m128d& special) {
-        __m128d a = Abs(x);
+    // Both results for the lanes of x (a = |x|). With kLarge = false the caller has seen
+    // that every lane is finite and below 2^24: the large path's tests are left out.
+    template <bool kLarge>
+    static void Pair(__m128d x, __m128d a, __m128d& s, __m128d& c) {
         if constexpr (L == Level::EP) {
             // The two pi reductions and series of Sin and Cos at EP; lanes above 2^24 go
             // to the scalar routine, as in those rows.
-            special = RangeTest(a, Range64{~0ull, 0, kLimitD});
-            s = Xor(ShortPi<L>(a, false), SignBit(x));
-            c = ShortPi<L>(a, true);
+            s = Xor(ShortPiRaw<L, kLarge>(a, false), SignBit(x));
+            c = CosOne(a, ShortPiRaw<L, kLarge>(a, true));
             return;
         }
-        special = InfNan(a);
         alignas(16) int32_t J[2], K[2];
         __m128d rh, rl;
+        const __m128d as = kLarge ? Min(a, Set<double>(kLimit)) : a;
         if constexpr (L == Level::HA) {
             // j as in ShortD, by the double shifter; the rest in x87 arithmetic.
             const __m128d shifter = Set<double>(Format<double>::kShifter);
-            __m128d t = Add(Mul(Min(a, Set<double>(kLimit)), Set<double>(k64OverPi)), shifter);
+            __m128d t = Add(Mul(as, Set<double>(k64OverPi)), shifter);
             J[0] = LowWord<0>(AsInt(t)) & 127;
             J[1] = LowWord<1>(AsInt(t)) & 127;
             alignas(16) double av[2], jv[2], hv[2], lv[2];
-            StoreAligned(av, Min(a, Set<double>(kLimit)));
+            StoreAligned(av, as);
             StoreAligned(jv, Sub(t, shifter));
 #pragma GCC unroll 8
             for (int k = 0; k < 2; ++k) {
@@ -230,9 +231,9 @@ struct Both {
             rh = LoadAligned(hv);
             rl = LoadAligned(lv);
         } else {
-            ShortD(Min(a, Set<double>(kLimit)), J, rh, rl, 0);
+            ShortD(as, J, rh, rl, 0);
         }
-        int big = LargeLanes(a, kLimitD);
+        int big = kLarge ? LargeLanes(a, kLimitD) : 0;
         if (__builtin_expect(big != 0, 0)) {
             __m128d bh, bl;
             LargeD(a, K, bh, bl);
@@ -240,6 +241,30 @@ struct Both {
         }
         TableSinCos(J, rh, rl, L == Level::HA, s, c);
         s = Xor(s, SignBit(x));
+    }
+    static void Eval(__m128d x, __m128d& s, __m128d& c, __m128d& special) {
+        __m128d a = Abs(x);
+        special = L == Level::EP ? RangeTest(a, Range64{~0ull, 0, kLimitD}) : InfNan(a);
+        Pair<true>(x, a, s, c);
+    }
+    // A round of sixteen: one range test for the round; register by register through
+    // Eval when a lane is off the short path.
+    static constexpr int kRound = 16;
+    static int EvalWide(const __m128d* x, __m128d* s, __m128d* c) {
+        __m128d a[8];
+        if (__builtin_expect(AnyAboveD<8>(x, a, kLimitD), 0)) {
+            int bits = 0;
+            BRENN_EACH(k, 8) {
+                __m128d special;
+                Eval(x[k], s[k], c[k], special);
+                bits |= MaskBits(special) << (2 * k);
+            }
+            return bits;
+        }
+#pragma GCC unroll 2
+        for (int k = 0; k < 8; ++k)
+            Pair<false>(x[k], a[k], s[k], c[k]);
+        return 0;
     }
     static int Scalar(const double* a, double* y, double* z) {
         double x = *a;
