@@ -613,11 +613,22 @@ TEST(ExpLog, SingleLogarithmsNearOneAndAtTheirRows) {
             auto [err, at] = WorstOver<float>(r.row, slot, r.ref, x);
             EXPECT_LE(err, LevelBound<float>(slot)) << r.row << " " << slot << " " << at;
         }
-    std::vector<float> t = Around<float>(
-        {0x1p-29L, -0x1p-29L, 0x1p-30L, -0x1p-28L, 0x1p24L, 0x1p53L, -0.5L, 1.0L}, 30);
+    // Log1p's rounding of 1 + x joins the reduction scaled by 2^-k: where k is 0 or -1
+    // near x = 0, where 1 + x steps a binade (x near 1, 3, -1/2), just above -1 (2^-k
+    // large) and at the top of the range (2^-k taken as 0 or clamped).
+    std::vector<long double> t1p = {0x1p-29L, -0x1p-29L,        0x1p-30L, -0x1p-28L,
+                                    0x1p24L,  0x1p53L,          -0.5L,    1.0L,
+                                    3.0L,     -1.0L + 0x1p-16L, 0x1p126L};
+    std::vector<float> t = Around<float>(t1p, 30);
+    t.push_back(FLT_MAX);
+    std::vector<double> td = Around<double>(t1p, 30);
+    for (double v : {-1.0 + 0x1p-40, 0x1p1022, 0x1.8p1023, DBL_MAX})
+        td.push_back(v);
     for (int slot : kSlots) {
         auto [err, at] = WorstOver<float>(frame::Row_sLog1p, slot, log1pl, t);
         EXPECT_LE(err, LevelBound<float>(slot)) << slot << " " << at;
+        auto [errd, atd] = WorstOver<double>(frame::Row_dLog1p, slot, log1pl, td);
+        EXPECT_LE(errd, LevelBound<double>(slot)) << slot << " " << atd;
     }
 }
 

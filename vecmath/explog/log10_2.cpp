@@ -61,11 +61,11 @@ struct LogBase<2> {
 
 // Single EP and LA: r*P(r) + k times the base's log of 2; HA in double on the EP core.
 template <int Base, Level L>
-inline __m128 LogOf(__m128 x, __m128 special) {
+inline __m128 LogOf(__m128 x) {
     using K = LogBase<Base>;
     if constexpr (L == Level::HA) {
-        __m128 xx = IfThenElse(special, Set<float>(1.0f), x);
-        return LnOfSingleLanes(xx, [](__m128d lo, __m128d hi) {
+        // Special lanes need no blend: any bits give an m in [1, 2), a row and a finite k.
+        return LnOfSingleLanes(x, [](__m128d lo, __m128d hi) {
             const __m128d c = Set<double>(K::kPerLn);
             return Narrow(Mul(lo, c), Mul(hi, c));
         });
@@ -82,13 +82,14 @@ inline __m128 LogOf(__m128 x, __m128 special) {
     }
 }
 
-// Double: the core (the cubic at EP, degree 5 otherwise) on x, special lanes on 1, and
-// the product with the base's constant, carried exactly at HA.
+// Double: the core (the cubic at EP, degree 5 otherwise) on x, and the product with the
+// base's constant, carried exactly at HA. Special lanes run as they are: the core's m
+// and k are finite for any bits.
 template <int Base, Level L>
-inline __m128d LogOf(__m128d x, __m128d special) {
+inline __m128d LogOf(__m128d x) {
     using K = LogBase<Base>;
     __m128d h, r, t;
-    LnCore3<L>(IfThenElse(special, Set<double>(1.0), x), h, r, t);
+    LnCore3<L>(x, h, r, t);
     if constexpr (L == Level::HA) {
         return ScaleLog(h, r, t, K::kPerLnHi, K::kPerLnLo);
     } else {
@@ -118,7 +119,7 @@ struct LogBody {
     static int EvalWide(const V* x, V* y) { return EvalByRegister<LogBody>(x, y); }
     static V Eval(V x, V& special) {
         special = LogSpecial(x);
-        return LogOf<Base, L>(x, special);
+        return LogOf<Base, L>(x);
     }
     static int Scalar(const T* a, T* y) {
         return LogScalar<T>(*a, y, [](T v) { return LogValue<Base>(v); });

@@ -1,17 +1,19 @@
 /* Log1p, single and double, three levels each.
  *
  * On u = 1 + x with the rounding of that sum recovered: c = x - (u - 1) when |x| <= 1,
- * else 1 - (u - x); then ln(1 + x) = ln u + c/u. The range test is the logarithm's, on
+ * else 1 - (u - x); then ln(1 + x) = ln u + c/u, where c/u = d/(1 + r) with d = c*2^-k
+ * from u's split: no division. The range test is the logarithm's, on
  * u: it fires for x at or below -1, infinite or NaN. For |x| below 2^-25 (single) u is
  * 1, k and r are 0, and the result is c = x exactly: tiny and denormal x come through the
  * body as themselves.
  * Single EP and LA: the split around 2/3 on u with the polynomial of sLn EP and a fitted
- * one of eight coefficients (LA); HA in double on the EP logarithm core, where 1 + x is
- * exact and needs no correction.
- * Double: the logarithm core on u (EP core at EP, degree 5 at LA and HA); HA carries
- * h + r exactly before the small terms are added.
- * Measured (brenn_accuracy, worst of its inputs): sLog1p EP 12.8 bits, LA 1.68 ulp,
- * HA 0.50 ulp; dLog1p EP 32.6 bits, LA 0.90 ulp, HA 0.74 ulp.
+ * one of eight coefficients (LA); HA in double on the EP logarithm core of the single
+ * split (LnOfSingleLanesPlus), where u + c is exact.
+ * Double: the logarithm core on u + c, c*2^-k added to the reduction's low part (EP core
+ * at EP, degree 5 at LA and HA); HA carries h + r exactly before the small terms are
+ * added.
+ * Measured (brenn_accuracy, worst of its inputs): sLog1p EP 12.8 bits, LA 1.76 ulp,
+ * HA 0.50 ulp; dLog1p EP 32.6 bits, LA 0.84 ulp, HA 0.66 ulp.
  * Scalar routine: x = -1 gives -inf with the singularity status, x below -1 (and -inf)
  * NaN with the domain status, NaN and +inf themselves. */
 #include "frame/kernels.h"
@@ -96,23 +98,29 @@ inline __m128 Log1pOf(__m128 x, __m128& special) {
         // bits from 2^0 down to x's last place), and beyond 2^53 its rounding is far
         // below the result's last place: no correction term, no division. Below 2^-29,
         // log1p(x) is within 2^-30 of x, relatively, and x is the rounded result.
+        // So u + c, with u = 1 + x and c its rounding error in single, is exact in double:
+        // c*2^-k joins u's significand there (LnOfSingleLanesPlus), with no division.
         __m128 xx = IfThenZeroElse(special, x); // special lanes take 0
-        __m128 y = WidenToDouble(xx, [](__m128d v) {
-            __m128d h, l;
-            LnCore<Level::EP>(Add(Set<double>(1.0), v), h, l);
-            return Add(h, l);
-        });
+        __m128 u, c;
+        OnePlus(xx, u, c);
+        __m128 y =
+            LnOfSingleLanesPlus<true>(u, c, [](__m128d lo, __m128d hi) { return Narrow(lo, hi); });
         return IfThenElse(Lt(Abs(x), Set<float>(0x1p-29f)), x, y);
     } else {
         // Special lanes run on 0, so that inf - inf and 1/0 raise no flag of their own.
         x = IfThenZeroElse(special, x);
         __m128 u, c;
         OnePlus(x, u, c);
+        // c/u = d/(1 + r) with d = c*2^-k (exact): at LA d*(1 - r), within d*r^2; at EP d
+        // joins r, which is then x itself where k is 0 and otherwise rounds well below
+        // the level's bound.
         __m128 r, k;
-        LogSplit(u, r, k);
+        __m128 d = Mul(c, PowTwoNeg(LogSplitInt(u, r, k)));
+        if constexpr (L == Level::EP) r = Add(r, d);
         __m128 q = L == Level::LA ? Horner(r, Log1pConst<float>::kLA) : Horner(r, K::kLnEP);
         __m128 p = Add(r, Mul(Mul(r, r), q));
-        __m128 corr = Add(Div(c, u), Mul(k, Set<float>(K::kLn2Lo)));
+        __m128 corr = Mul(k, Set<float>(K::kLn2Lo));
+        if constexpr (L == Level::LA) corr = Add(Sub(d, Mul(d, r)), corr);
         return KeepTiny(x, Add(Add(p, corr), Mul(k, Set<float>(K::kLn2Hi))));
     }
 }
@@ -126,9 +134,17 @@ inline __m128d Log1pOf(__m128d x, __m128d& special) {
     x = IfThenZeroElse(special, x);
     __m128d u, c;
     OnePlus(x, u, c);
-    __m128d h, r, t;
-    LnCore3<L>(u, h, r, t);
-    __m128d small = Add(t, Div(c, u));
+    // u + c = 2^k*(mh + ml + c*2^-k): the rounding error joins the reduction's low part
+    // (exact where k is 0 or -1 near x = 0, and below 2^-62 of m elsewhere), so that r is
+    // the reduced 1 + x itself and no c/u is needed. 2^-k from u's exponent field: 0 for
+    // u at or above 2^1023, where c is far below the result's last place.
+    LnReduction red = LnReduce(u);
+    using F = Format<double>;
+    __m128d scale = AsFloat(
+        Sub(Set<uint64_t>(0x7FE0000000000000ull), And(AsInt(u), Set<uint64_t>(F::kExpField))));
+    red.ml = Add(red.ml, Mul(c, scale));
+    __m128d h, r, small;
+    LnCore3From<L>(red, h, r, small);
     if constexpr (L == Level::HA) {
         __m128d s, err;
         TwoSum(h, r, s, err);

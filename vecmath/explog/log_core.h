@@ -61,14 +61,27 @@ inline V LogSpecial(V x) {
     return AsFloat(Gt(Add(AsInt(x), Set<UInt<T>>(w.offset)), Opaque(Set<UInt<T>>(w.limit))));
 }
 
-// Single: x = 2^k * (1 + r), m = 1 + r in [2/3, 4/3).
-inline void LogSplit(__m128 x, __m128& r, __m128& k) {
+// Single: x = 2^k * (1 + r), m = 1 + r in [2/3, 4/3); k also as integers, returned.
+inline I32x4 LogSplitInt(__m128 x, __m128& r, __m128& k) {
     using F = Format<float>;
     const I32x4 c = Set<uint32_t>(0x3F2AAAABu);
     I32x4 d = Sub(AsInt(x), c);
-    k = ToFloat(ShiftRightSigned<F::kMantBits>(d));
+    I32x4 ki = ShiftRightSigned<F::kMantBits>(d);
+    k = ToFloat(ki);
     I32x4 m = Add(And(d, Set<uint32_t>(F::kMant)), c);
     r = Sub(AsFloat(m), Set<float>(1.0f));
+    return ki;
+}
+inline void LogSplit(__m128 x, __m128& r, __m128& k) {
+    LogSplitInt(x, r, k);
+}
+
+// 2^-k for the integer k of a positive normal split (-127 to 128), with k above 126 taken
+// as 126: the callers scale a term below 2^-24 of m by it, which then stays below m's
+// last place.
+inline __m128 PowTwoNeg(I32x4 k) {
+    using F = Format<float>;
+    return AsFloat(ShiftLeft<F::kMantBits>(Sub(Set<int32_t>(F::kBias), Min(k, Set<int32_t>(126)))));
 }
 
 // The reduction of the double core for positive normal x, two lanes: x = 2^k * m,
@@ -173,8 +186,10 @@ inline __m128 WidenToDouble(__m128 x, Core core) {
 // rows 0 and 512 (rcp 1 and 1/2), where x is near 1 and ln x small; there the heads
 // k*ln2hi + Thi cancel exactly (both on the 2^-42 grid). `half(lo, hi)` receives ln of
 // lanes 0-1 and 2-3.
-template <class Half>
-inline __m128 LnOfSingleLanes(__m128 x, Half half) {
+// With kLow, the logarithm is that of x + c for a single c below half an ulp of x: c
+// scaled by 2^-k joins m in double, where m + c*2^-k is exact whenever x + c is a double.
+template <bool kLow, class Half>
+inline __m128 LnOfSingleLanesPlus(__m128 x, __m128 c, Half half) {
     using F = Format<float>;
     using K = LogConst<double>;
     const I32x4 b = AsInt(x);
@@ -183,9 +198,15 @@ inline __m128 LnOfSingleLanes(__m128 x, Half half) {
     I32x4 k = Sub(ShiftRight<F::kMantBits>(b), Set<int32_t>(F::kBias));
     I32x4 j = ShiftRight<F::kMantBits - 9>(Add(mant, Set<int32_t>(1 << (F::kMantBits - 10))));
     Indices at = IndicesOf(j);
+    // 2^-k by the exponent field alone; 0 for x at or above 2^127, where c is far below
+    // the result's last place.
+    __m128 cs;
+    if constexpr (kLow)
+        cs = Mul(c, AsFloat(Sub(Set<uint32_t>(0x7F000000u), And(b, Set<uint32_t>(F::kExpField)))));
     __m128d lnv[2];
     for (int h = 0; h < 2; ++h) {
         __m128d md = h == 0 ? WidenLower(m) : WidenUpper(m);
+        if constexpr (kLow) md = Add(md, h == 0 ? WidenLower(cs) : WidenUpper(cs));
         __m128d kd = h == 0 ? ToDoubleLower(k) : ToDoubleUpper(k);
         __m128d rcp, th;
         LoadTransposed(lnRows[at.at[2 * h]], lnRows[at.at[2 * h + 1]], rcp, th);
@@ -194,6 +215,10 @@ inline __m128 LnOfSingleLanes(__m128 x, Half half) {
         lnv[h] = Add(Add(Mul(kd, Set<double>(K::kLn2Hi)), th), p);
     }
     return half(lnv[0], lnv[1]);
+}
+template <class Half>
+inline __m128 LnOfSingleLanes(__m128 x, Half half) {
+    return LnOfSingleLanesPlus<false>(x, x, half);
 }
 
 // Scalar ln in double for any input: NaN quieted, +inf, -inf for zero, NaN for negatives;
