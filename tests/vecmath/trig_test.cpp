@@ -154,6 +154,26 @@ TEST(Trig, SingleNearMultiplesOfHalfPi) {
             ExpectAccurate(rc, slot, x);
 }
 
+// The doubles nearest to multiples of pi/4: at even multiples of pi/2 the zeros of tan,
+// at odd ones its poles (huge finite results), between them the seams of the double
+// tangent's table (j = -16 and 15 meet there). Small multiples and some near the short
+// path's limit of 2^24.
+TEST(Trig, DoubleNearMultiplesOfQuarterPi) {
+    std::vector<double> x;
+    auto add = [&x](long k) {
+        double m = double(k * 0.785398163397448309615660845819875721L);
+        for (double v : {std::nextafter(m, 0.0), m, std::nextafter(m, 1e300)})
+            x.push_back(k % 3 ? v : -v);
+    };
+    for (long k = 1; k < 400; ++k)
+        add(k);
+    for (long k = 21361414; k < 21361414 + 40; ++k) // 2^24 is about 21361414.6 pi/4
+        add(k);
+    for (const RowCase& rc : kDouble)
+        for (int slot = 0; slot < kSlots; ++slot)
+            ExpectAccurate(rc, slot, x);
+}
+
 // A block mixing one huge lane among small ones gives, lane for lane, the results that
 // each element gets alone: the masks keep each path's lanes apart.
 template <class T>

@@ -1,5 +1,5 @@
-# Runs the table generator and fails when its output differs from the committed file.
-execute_process(COMMAND ${GEN} OUTPUT_FILE ${OUT} RESULT_VARIABLE rc)
+# Runs the table generator (with the argument ARG, if given) and fails when its output differs from the committed file.
+execute_process(COMMAND ${GEN} ${ARG} OUTPUT_FILE ${OUT} RESULT_VARIABLE rc)
 if(NOT rc EQUAL 0)
   message(FATAL_ERROR "generator failed: ${rc}")
 endif()

@@ -12,21 +12,23 @@
  * longer set (tools/trig/tan_quotient.sollya). The single short path holds to 8256, the
  * double one to 2^24.
  *
- * Double HA: the table reduction gives sin and cos each as two doubles from one table
- * row and one series, and the quotient is corrected once by its residual, with the
- * product of the quotient and the cosine carried exactly and the table products exact
- * too. Near a pole the cosine is small but accurate, so the result is a large finite
- * number. Lanes above the short path's limit take the vector large reduction of reduce.h
- * in the same block and finish by the table.
+ * Double HA: the reduction of the table method by pi/64 (x = n pi/2 + j pi/64 + r,
+ * |j| <= 16), tan(j pi/64) from a table of 32 rows (tan_table.cpp) and tan r by its
+ * series, joined by the addition formula with both sides and the quotient carried in two
+ * doubles (see TanSum). Near a pole the denominator is small but accurate, so the
+ * result is a large finite number. Lanes above the short path's limit take the vector
+ * large reduction of reduce.h in the same block, which gives the same J and r, and every
+ * kernel finishes those by TanSum.
  *
  * Measured (brenn_accuracy, 250000 inputs a row): sTan EP 20.7 bits, LA 2.96 ulp,
- * HA 0.522 ulp; dTan EP 29.3 bits, LA 2.87 ulp, HA 0.514 ulp. */
+ * HA 0.522 ulp; dTan EP 29.3 bits, LA 2.87 ulp, HA 0.526 ulp. */
 #include <bit>
 
 #include "frame/kernels.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/trig/reduce.h"
+#include "vecmath/trig/tan_table.h"
 
 namespace brenn::vm::trig {
 namespace {
@@ -171,27 +173,44 @@ inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
     }
 }
 
-// tan(J pi/64 + r) from the table: sin over cos, each as two doubles.
-template <Level L>
-inline __m128d TanTable(const int32_t* J, __m128d rh, __m128d rl) {
-    __m128d sh, sl, ch, cl;
-    TableSinCos(J, rh, rl, L == Level::HA, sh, sl, ch, cl);
-    if constexpr (L == Level::EP) return Div(Add(sh, sl), Add(ch, cl));
-    // The low parts hold the series terms and are not small beside an ulp of the high
-    // parts: renormalise both before dividing.
-    FastTwoSum(sh, sl, sh, sl);
-    FastTwoSum(ch, cl, ch, cl);
-    __m128d q = Div(sh, ch);
-    __m128d res;
-    if constexpr (L == Level::HA) {
-        __m128d p, pe;
-        TwoProd(q, ch, p, pe);
-        res = Sub(Sub(sh, p), pe);
-    } else {
-        res = Sub(sh, Mul(q, ch));
-    }
-    res = Sub(Add(res, sl), Mul(q, cl));
-    return Add(q, Div(res, ch));
+// Double HA: x = n pi/2 + j pi/64 + r with |j| <= 16 and |r| <= pi/128 (the reduction of
+// the table method: J = 32 n + j), and with A = j pi/64 and t = tan r
+//   tan x = (tan A + t) / (1 - t tan A),  or -(1 - t tan A) / (tan A + t) for n odd.
+// tan A comes from tanPi64 in two parts; t = r + r^3 T(r^2) by its Taylor series, whose
+// cube term is below 2^-11 of r, so that t is rh + (rl + r^3 T) with no further care.
+// t tan A is at most tan(pi/128): its rounding stays below 2^-58 of the denominator,
+// which is carried as 1 - t tan A exactly. The numerator's head sum is exact too, and
+// near the zeros and the poles of tan (j = 0) it is t itself, so the result keeps the
+// remainder's full precision there. The quotient is the product by the rounded
+// reciprocal of the bottom's head, corrected once by its residual (the product of the
+// quotient and that head carried exactly).
+// tan r - r over r^3, in u = r^2: the terms after the last are below 2^-60 of r.
+constexpr double kTanTaylor[] = {1.0 / 3, 2.0 / 15, 17.0 / 315, 62.0 / 2835};
+constexpr uint64_t kHead26 = 0xFFFFFFFFF8000000ull; // keeps 26 significant bits
+
+BRENN_TRIG_HOT __m128d TanSum(const int32_t* J, __m128d rh, __m128d rl) {
+    const int i0 = J[0] + 16, i1 = J[1] + 16;
+    __m128d odd = MaskFromBits<double>(((i0 >> 5) & 1) | ((i1 >> 4) & 2));
+    __m128d a0 = Load(tanPi64[i0 & 31]), a1 = Load(tanPi64[i1 & 31]);
+    __m128d ah = InterleaveLower(a0, a1), al = InterleaveUpper(a0, a1);
+    __m128d u = Mul(rh, rh);
+    __m128d tt = Add(rl, Mul(Mul(rh, u), Horner(u, kTanTaylor)));
+    __m128d dh, dl, nh, nl;
+    FastTwoSum(Set<double>(1), Neg(Mul(ah, Add(rh, tt))), dh, dl);
+    TwoSum(ah, rh, nh, nl);
+    FastTwoSum(nh, Add(nl, Add(al, tt)), nh, nl);
+    __m128d th = IfThenElse(odd, dh, nh), tl = IfThenElse(odd, dl, nl);
+    __m128d bh = IfThenElse(odd, nh, dh), bl = IfThenElse(odd, nl, dl);
+    __m128d rb = Div(Set<double>(1), bh);
+    __m128d q = Mul(th, rb);
+    // q bh = p + pe exactly, from the 26-bit heads of both factors.
+    const __m128d head = SplatBits<double>(kHead26);
+    __m128d qh = And(q, head), bhh = And(bh, head);
+    __m128d ql = Sub(q, qh), bhl = Sub(bh, bhh);
+    __m128d p = Mul(q, bh);
+    __m128d pe = Add(Add(Sub(Mul(qh, bhh), p), Add(Mul(qh, bhl), Mul(ql, bhh))), Mul(ql, bhl));
+    __m128d e = Add(Sub(Sub(th, p), pe), Sub(tl, Mul(q, bl)));
+    return Xor(Add(q, Mul(e, rb)), And(odd, SignMask<double>()));
 }
 
 // tan of N single registers of magnitudes by the short path, without the sign of x.
@@ -221,7 +240,7 @@ inline __m128 LargeTanS(__m128 a) {
     alignas(16) int32_t J[4];
     __m128d r0, r1, z = Zero<double>();
     LargeS(a, J, r0, r1);
-    return Narrow(TanTable<Level::LA>(J, r0, z), TanTable<Level::LA>(J + 2, r1, z));
+    return Narrow(TanSum(J, r0, z), TanSum(J + 2, r1, z));
 }
 
 template <class T, Level L>
@@ -273,7 +292,7 @@ struct TanBody<double, L> {
                 QuadrantTan<1, TanFitLA>(&as, TanShort<double>::kPiHalfLA, &p);
             if (__builtin_expect(big != 0, 0)) {
                 LargeD(a, J, rh, rl);
-                p = IfThenElse(MaskFromBits<double>(big), TanTable<L>(J, rh, rl), p);
+                p = IfThenElse(MaskFromBits<double>(big), TanSum(J, rh, rl), p);
             }
             return Xor(p, SignBit(x));
         }
@@ -283,7 +302,7 @@ struct TanBody<double, L> {
             LargeD(a, K, bh, bl);
             PickD(big, K, bh, bl, J, rh, rl);
         }
-        return Xor(TanTable<L>(J, rh, rl), SignBit(x));
+        return Xor(TanSum(J, rh, rl), SignBit(x));
     }
     static int Scalar(const double* a, double* y) { return InfNanScalar(a, y); }
 };
