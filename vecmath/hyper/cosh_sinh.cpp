@@ -79,13 +79,12 @@ inline __m128 BothExps(__m128 a) {
         return Add(m, Add(Mul(c, m), Mul(p, s)));
 }
 
-// The double path on a = |x| in [0, 708]: HA exact sums and the degree-6 tail, LA the
-// degree 5, EP the degree 4 (Sinh's EP is its LA kernel).
+// The double path on a = |x| in [0, 708]: HA exact sums, HA and LA the degree-5 tail
+// (its 2^-51.25 relative to e^r - 1 is below 2^-58 of e^r), EP the degree 4 (Sinh's EP
+// is its LA kernel).
 template <Fn F, Level L>
 inline __m128d HalvesPath(__m128d a) {
-    constexpr ExpDegree D = L == Level::HA   ? ExpDegree::Six
-                            : L == Level::LA ? ExpDegree::Five
-                                             : ExpDegree::Four;
+    constexpr ExpDegree D = L == Level::EP ? ExpDegree::Four : ExpDegree::Five;
     ExpHalves h = HalvesOf<D>(a);
     if constexpr (F == Fn::Cosh)
         return Sum(CoshOf<L == Level::HA>(h));

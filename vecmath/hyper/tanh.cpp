@@ -93,7 +93,7 @@ inline __m128 TanhOf<Level::HA>(__m128 x) {
 template <Level L>
 inline __m128d TanhOf(__m128d x) {
     if constexpr (L == Level::HA)
-        return TanhPath<ExpDegree::Six, true, SinhSeriesHA>(x);
+        return TanhPath<ExpDegree::Five, true, SinhSeriesHA>(x);
     else
         return TanhPath<ExpDegree::Five, false, SinhSeriesLA>(x);
 }

@@ -37,9 +37,10 @@ BRENN_VEC __m128d AngleOf(__m128d a, __m128d b) {
     __m128d nh, nl, dh, dl;
     if constexpr (Comp) {
         // Folded lanes have d below 2^500; the others must not make inf - inf here.
+        // n is at most d (and at most 1 where d is clamped), so the fast exact sums.
         __m128d dc = AtMost(d, 0x1p510);
-        TwoSum(n, Neg(dc), nh, nl);
-        TwoSum(n, dc, dh, dl);
+        FastTwoSum(Neg(dc), n, nh, nl);
+        FastTwoSum(dc, n, dh, dl);
         nh = IfThenElse(fold, nh, n);
         nl = IfThenElseZero(fold, nl);
         dh = IfThenElse(fold, dh, d);
@@ -81,12 +82,10 @@ BRENN_VEC __m128 AtanSingle(__m128 x) {
     if constexpr (L == Level::EP) {
         r = Or(ApproxRecip(a), SignMask<float>());
     } else {
-        // -1/a by one Newton step; infinite lanes are kept apart (0 * inf in the step
-        // would raise invalid) and get t = 0, so pi/2.
-        __m128 inf = AsFloat(Eq(AsInt(a), Set<uint32_t>(Format<float>::kExpField)));
-        __m128 ar = IfThenElse(inf, Set<float>(1.0f), a);
-        r = ApproxRecip(ar);
-        r = IfThenZeroElse(inf, Mul(r, Sub(Mul(r, ar), Set<float>(2.0f))));
+        // -1/a by a division, fewer instructions than an estimate and its Newton step;
+        // the other lanes divide by 1 (a zero must not raise divide-by-zero). Infinity
+        // gives t = -0, so pi/2.
+        r = Div(Set<float>(-1.0f), IfThenElse(big, a, Set<float>(1.0f)));
     }
     __m128 t = IfThenElse(big, r, a);
     __m128 z = Mul(t, t);
