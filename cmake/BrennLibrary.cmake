@@ -8,9 +8,14 @@
 # always in): -DBRENN_SUBSYSTEMS=rng builds the frame and rng only, with their tests.
 set(BRENN_SUBSYSTEMS "vecmath;rng;stats;fitting" CACHE STRING "Subsystems to build besides the frame")
 # The statistics estimates draw their random subsets and imputations from the library's
-# own generators: a build with stats brings rng along.
-if("stats" IN_LIST BRENN_SUBSYSTEMS AND NOT "rng" IN_LIST BRENN_SUBSYSTEMS)
-  list(APPEND BRENN_SUBSYSTEMS rng)
+# own generators, and their compute calls the vector square root, reciprocal and the
+# Gaussian's kernels: a build with stats brings rng and vecmath along.
+if("stats" IN_LIST BRENN_SUBSYSTEMS)
+  foreach(dep vecmath rng)
+    if(NOT dep IN_LIST BRENN_SUBSYSTEMS)
+      list(APPEND BRENN_SUBSYSTEMS ${dep})
+    endif()
+  endforeach()
 endif()
 # The front-end, the tour and examples, installation and packages need every service:
 # a narrowed build leaves them out.
