@@ -50,7 +50,11 @@ BRENN_VEC V RootFinish(V z, V bigM) {
     const V z2 = Mul(z, z);
     const V lead = R == Root::InvCbrt ? z : Mul(bigM, R == Root::Cbrt ? z2 : z);
     if constexpr (Terms == 0) return lead; // the seed's 14 bits
-    const V e = Sub(Mul(bigM, Mul(z2, z)), Set<T>(T(1)));
+    // M*z^3 from the lead where it holds M: one product fewer.
+    const V mz3 = R == Root::Cbrt     ? Mul(lead, z)
+                  : R == Root::Pow2o3 ? Mul(lead, z2)
+                                      : Mul(bigM, Mul(z2, z));
+    const V e = Sub(mz3, Set<T>(T(1)));
     const double* c = R == Root::Cbrt ? kTwoThirdsSeries : kThirdSeries;
     V sr = Set<T>(T(c[Terms - 1]));
     for (int k = Terms - 2; k >= 0; --k)
@@ -103,38 +107,48 @@ inline __m128d RootOf(__m128d ax) {
     return AsFloat(Add(AsInt(v), ShiftLeft<F::kMantBits>(q)));
 }
 
-// The single-lane form, positive normal |x|: the biased exponent plus 2 is 3q' + j with
-// q' = q + 43, taken by the product with 1/3 rounded up and a floor (exact below 2^8);
-// M = m * 2^j and the seed's scale by blends on j; then the series in single (LA, within
+// The single-lane form, positive normal |x|, all in integer lanes up to the seed: the
+// biased exponent plus 2 (3 to 256) is 3q' + j with q' = q + 43, q' = (k*171) >> 9
+// (exact over that range, the product within each lane's low 16 bits, so one 16-bit
+// multiply serves); M = m * 2^j by j put into m's exponent field, and the seed's scale
+// 2^(-j/3) by a byte shuffle of a four-entry table. Then the series in single (LA, within
 // about 2 ulp; EP takes the seed's products alone, 13 bits) or, `Wide`, on widened lanes
 // rounded once to single (HA).
 constexpr float kRootSeedS[] = {0x1.ab85acp0f, -0x1.2c4234p0f, 0x1.641702p-1f, -0x1.c519b2p-3f,
                                 0x1.d47154p-6f};
+alignas(16) constexpr float kRootScaleS[4] = {1.0f, float(kRootScale[1]), float(kRootScale[2]),
+                                              1.0f};
+
+// 2^(-j/3) for j = 0, 1, 2 in each lane: the bytes 4j to 4j + 3 of the table.
+inline __m128 RootScaleS(I32x4 j) {
+    const __m128i bcast = _mm_setr_epi8(0, 0, 0, 0, 4, 4, 4, 4, 8, 8, 8, 8, 12, 12, 12, 12);
+    const __m128i bytes = _mm_set1_epi32(0x03020100);
+    __m128i idx = _mm_add_epi8(_mm_shuffle_epi8(_mm_slli_epi32(j.v, 2), bcast), bytes);
+    return _mm_castsi128_ps(
+        _mm_shuffle_epi8(_mm_load_si128(reinterpret_cast<const __m128i*>(kRootScaleS)), idx));
+}
 
 template <Root R, int Terms, bool Wide>
 inline __m128 RootOf(__m128 ax) {
     using F = Format<float>;
     const I32x4 xi = AsInt(ax);
-    const __m128 kd = ToFloat(Add(ShiftRight<F::kMantBits>(xi), Set<int32_t>(2)));
-    const __m128 qd = Floor(Mul(kd, Set<float>(0x1.555556p-2f)));
-    const __m128 j = Sub(kd, Mul(qd, Set<float>(3.0f)));
-    const __m128 j1 = Eq(j, Set<float>(1.0f)), j2 = Eq(j, Set<float>(2.0f));
-    const __m128 m = AsFloat(Or(And(xi, Set<uint32_t>(F::kMant)), Set<uint32_t>(F::kOne)));
-    const __m128 bigM = Mul(
-        m, IfThenElse(j1, Set<float>(2.0f), IfThenElse(j2, Set<float>(4.0f), Set<float>(1.0f))));
-    const __m128 scale =
-        IfThenElse(j1, Set<float>(float(kRootScale[1])),
-                   IfThenElse(j2, Set<float>(float(kRootScale[2])), Set<float>(1.0f)));
-    const __m128 z = Mul(Horner(m, kRootSeedS), scale);
+    const I32x4 kd = Add(ShiftRight<F::kMantBits>(xi), Set<int32_t>(2));
+    const I32x4 qd = ShiftRight<9>(I32x4{_mm_mullo_epi16(kd.v, _mm_set1_epi32(171))});
+    const I32x4 j = Sub(kd, Add(qd, Add(qd, qd)));
+    const I32x4 mant = And(xi, Set<uint32_t>(F::kMant));
+    const __m128 m = AsFloat(Or(mant, Set<uint32_t>(F::kOne)));
+    const __m128 bigM = AsFloat(Or(mant, ShiftLeft<F::kMantBits>(Add(j, Set<int32_t>(F::kBias)))));
+    const __m128 z = Mul(Horner(m, kRootSeedS), RootScaleS(j));
     __m128 v;
     if constexpr (Wide)
         v = Narrow(RootFinish<R, Terms>(WidenLower(z), WidenLower(bigM)),
                    RootFinish<R, Terms>(WidenUpper(z), WidenUpper(bigM)));
     else
         v = RootFinish<R, Terms>(z, bigM);
-    // The exponent q = q' - 43, times -1 or 2 for InvCbrt and Pow2o3.
-    constexpr float a = R == Root::InvCbrt ? -1.0f : R == Root::Pow2o3 ? 2.0f : 1.0f;
-    const I32x4 q = TruncToInt(Mul(Sub(qd, Set<float>(43.0f)), Set<float>(a)));
+    // The exponent q = q' - 43, negated for InvCbrt and doubled for Pow2o3.
+    I32x4 q = Sub(qd, Set<int32_t>(43));
+    if constexpr (R == Root::InvCbrt) q = Sub(Set<int32_t>(0), q);
+    if constexpr (R == Root::Pow2o3) q = Add(q, q);
     return AsFloat(Add(AsInt(v), ShiftLeft<F::kMantBits>(q)));
 }
 
