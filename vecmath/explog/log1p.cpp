@@ -1,8 +1,8 @@
 /* Log1p, single and double, three levels each.
  *
  * On u = 1 + x with the rounding of that sum recovered: c = x - (u - 1) when |x| <= 1,
- * else 1 - (u - x); then ln(1 + x) = ln u + c/u, where c/u = d/(1 + r) with d = c*2^-k
- * from u's split: no division. The range test is the logarithm's, on
+ * else 1 - (u - x); then ln(1 + x) = ln u + c/u (single LA and EP), or with c*2^-k joining
+ * the reduction of u (double, single HA): no division. The range test is the logarithm's, on
  * u: it fires for x at or below -1, infinite or NaN. For |x| below 2^-25 (single) u is
  * 1, k and r are 0, and the result is c = x exactly: tiny and denormal x come through the
  * body as themselves.
@@ -111,16 +111,12 @@ inline __m128 Log1pOf(__m128 x, __m128& special) {
         x = IfThenZeroElse(special, x);
         __m128 u, c;
         OnePlus(x, u, c);
-        // c/u = d/(1 + r) with d = c*2^-k (exact): at LA d*(1 - r), within d*r^2; at EP d
-        // joins r, which is then x itself where k is 0 and otherwise rounds well below
-        // the level's bound.
         __m128 r, k;
-        __m128 d = Mul(c, PowTwoNeg(LogSplitInt(u, r, k)));
-        if constexpr (L == Level::EP) r = Add(r, d);
-        __m128 q = L == Level::LA ? Horner(r, Log1pConst<float>::kLA) : Horner(r, K::kLnEP);
+        LogSplit(u, r, k);
+        __m128 q = L == Level::LA ? Estrin(r, Log1pConst<float>::kLA) : Horner(r, K::kLnEP);
         __m128 p = Add(r, Mul(Mul(r, r), q));
-        __m128 corr = Mul(k, Set<float>(K::kLn2Lo));
-        if constexpr (L == Level::LA) corr = Add(Sub(d, Mul(d, r)), corr);
+        // The division measured faster than c*2^-k*(1 - r) from the split's k.
+        __m128 corr = Add(Div(c, u), Mul(k, Set<float>(K::kLn2Lo)));
         return KeepTiny(x, Add(Add(p, corr), Mul(k, Set<float>(K::kLn2Hi))));
     }
 }

@@ -61,27 +61,14 @@ inline V LogSpecial(V x) {
     return AsFloat(Gt(Add(AsInt(x), Set<UInt<T>>(w.offset)), Opaque(Set<UInt<T>>(w.limit))));
 }
 
-// Single: x = 2^k * (1 + r), m = 1 + r in [2/3, 4/3); k also as integers, returned.
-inline I32x4 LogSplitInt(__m128 x, __m128& r, __m128& k) {
+// Single: x = 2^k * (1 + r), m = 1 + r in [2/3, 4/3).
+inline void LogSplit(__m128 x, __m128& r, __m128& k) {
     using F = Format<float>;
     const I32x4 c = Set<uint32_t>(0x3F2AAAABu);
     I32x4 d = Sub(AsInt(x), c);
-    I32x4 ki = ShiftRightSigned<F::kMantBits>(d);
-    k = ToFloat(ki);
+    k = ToFloat(ShiftRightSigned<F::kMantBits>(d));
     I32x4 m = Add(And(d, Set<uint32_t>(F::kMant)), c);
     r = Sub(AsFloat(m), Set<float>(1.0f));
-    return ki;
-}
-inline void LogSplit(__m128 x, __m128& r, __m128& k) {
-    LogSplitInt(x, r, k);
-}
-
-// 2^-k for the integer k of a positive normal split (-127 to 128), with k above 126 taken
-// as 126: the callers scale a term below 2^-24 of m by it, which then stays below m's
-// last place.
-inline __m128 PowTwoNeg(I32x4 k) {
-    using F = Format<float>;
-    return AsFloat(ShiftLeft<F::kMantBits>(Sub(Set<int32_t>(F::kBias), Min(k, Set<int32_t>(126)))));
 }
 
 // The reduction of the double core for positive normal x, two lanes: x = 2^k * m,
