@@ -10,7 +10,8 @@
  * with a true division. Single HA widens the argument to double (pi/2 in two parts) and
  * takes the double EP set, double EP pi/2 in three parts, double LA in four with a
  * longer set (tools/trig/tan_quotient.sollya). The single short path holds to 8256, the
- * double one to 2^24.
+ * double one to 2^24. Every kernel but double HA runs rounds of sixteen elements with one
+ * range test, its registers' chains interleaved.
  *
  * Double HA: the reduction of the table method by pi/64 (x = n pi/2 + j pi/64 + r,
  * |j| <= 16), tan(j pi/64) from a table of 32 rows (tan_table.cpp) and tan r by its
@@ -243,6 +244,15 @@ inline __m128 LargeTanS(__m128 a) {
     return Narrow(TanSum(J, r0, z), TanSum(J + 2, r1, z));
 }
 
+// Whether any of eight double magnitudes is above the limit (infinity and NaN are, as
+// bits): one test for the round.
+constexpr uint64_t kLimitBitsD = std::bit_cast<uint64_t>(kLimitD);
+inline bool AnyAboveD(const __m128d* a, uint64_t limitBits) {
+    __m128d m = AsFloat(Gt(AsInt(a[0]), Set<uint64_t>(limitBits)));
+    BRENN_EACH(k, 7) m = Or(m, AsFloat(Gt(AsInt(a[k + 1]), Set<uint64_t>(limitBits))));
+    return MaskBits(m) != 0;
+}
+
 template <class T, Level L>
 struct TanBody;
 
@@ -303,6 +313,31 @@ struct TanBody<double, L> {
             PickD(big, K, bh, bl, J, rh, rl);
         }
         return Xor(TanSum(J, rh, rl), SignBit(x));
+    }
+    // LA and EP take rounds of sixteen: with no lane above the limit, the quadrant path
+    // on four registers at a time, whose long chains then interleave; otherwise, and at
+    // HA, register by register.
+    static constexpr int kRound = 16;
+    static int EvalWide(const __m128d* x, __m128d* y) {
+        __m128d a[8];
+        BRENN_EACH(k, 8) a[k] = Abs(x[k]);
+        if (L == Level::HA || __builtin_expect(AnyAboveD(a, kLimitBitsD), 0)) {
+            int bits = 0;
+            BRENN_EACH(k, 8) {
+                __m128d special;
+                y[k] = Eval(x[k], special);
+                bits |= MaskBits(special) << (2 * k);
+            }
+            return bits;
+        }
+        BRENN_EACH(h, 2) {
+            if constexpr (L == Level::EP)
+                QuadrantTan<4, TanFitEP>(a + 4 * h, TanShort<double>::kPiHalf, y + 4 * h);
+            else
+                QuadrantTan<4, TanFitLA>(a + 4 * h, TanShort<double>::kPiHalfLA, y + 4 * h);
+        }
+        BRENN_EACH(k, 8) y[k] = Xor(y[k], SignBit(x[k]));
+        return 0;
     }
     static int Scalar(const double* a, double* y) { return InfNanScalar(a, y); }
 };
