@@ -1,12 +1,11 @@
 // The Mahalanobis distances of one tile of observations: their deviations from the mean
 // put in lanes (four observations a register group, kMahGroups groups a tile), then the
-// forward substitution L z = x - m with the Cholesky factor streamed from a packed copy
-// two rows at a time (each z_a scaled by the stored 1 / L_aa), and z'z. Every lane runs
-// the same operations in the same order as any other lane, so an observation's distance
-// has the same bits wherever it falls in a tile, a block or a thread's share. The
-// library's own loop instead of a triangular solve of the BLAS: it is quicker at these
-// sizes (many short right-hand sides) and it starts no threads of its own inside the
-// pool's workers.
+// forward substitution L z = x - m with the rows of the Cholesky factor streamed from a
+// packed copy (each z_a scaled by the stored 1 / L_aa), then z'z. Every lane runs the same
+// operations in the same order as any other lane, so an observation's distance has the same bits
+// wherever it falls in a tile, a block or a thread's share. The library's own loop
+// instead of a triangular solve of the BLAS: it is quicker at these sizes (many short
+// right-hand sides) and it starts no threads of its own inside the pool's workers.
 #ifndef BRENN_STATS_MAH_KERNEL_H
 #define BRENN_STATS_MAH_KERNEL_H
 
@@ -26,7 +25,7 @@ template <typename T>
 constexpr int64_t kMahTile = 4 * kMahGroups<T>;
 
 // What a tile reads: the data, the active variables, their means and the factor's
-// off-diagonal entries packed by PackFactorPairs.
+// rows packed (row a at a(a+1)/2, its diagonal last).
 template <typename T>
 struct MahTileInput {
     const T* x;
@@ -35,7 +34,7 @@ struct MahTileInput {
     const int64_t* act;
     int64_t q;
     const T* mean;
-    const T* pairs;
+    const T* rows;
     const T* recip; // 1 / L_aa
 };
 
@@ -68,66 +67,40 @@ void MahDeviations(const MahTileInput<T>& in, int64_t i0, int64_t m, T* dev) {
     }
 }
 
-// Solves L z = dev in place for every lane and leaves the lanes' z'z in sum. Rows go two
-// at a time: both rows' sums over the earlier z_b run together, each loaded z_b feeding
-// both, which gives twice the independent chains of one row and half the loads; then
-// z_a, and z_{a+1} takes its last term L_{a+1,a} z_a. Each row still subtracts its
-// terms b = 0, 1, ... in order, so a distance has the bits of the row-by-row solve.
+// Solves L z = dev in place for every lane and leaves the lanes' z'z in sum.
 template <typename T>
-void MahSubstitute(const T* pairs, const T* recip, int64_t q, T* dev, T* sum) {
+void MahSubstitute(const T* rows, const T* recip, int64_t q, T* dev, T* sum) {
     using F = Four<T>;
     using V = typename F::V;
     constexpr int kG = kMahGroups<T>;
     constexpr int64_t tile = kMahTile<T>;
-    V s[kG];
-    for (int k = 0; k < kG; ++k)
-        s[k] = F::Splat(T(0));
-    const T* l = pairs;
-    int64_t a = 0;
-    for (; a + 1 < q; a += 2) {
-        V u[kG], v[kG];
-        T* za = dev + a * tile;
-        for (int k = 0; k < kG; ++k) {
-            u[k] = F::template Load<true>(za + 4 * k);
-            v[k] = F::template Load<true>(za + tile + 4 * k);
-        }
-        for (int64_t b = 0; b < a; ++b, l += 2) {
-            const V la = F::Splat(l[0]), lb = F::Splat(l[1]);
-            const T* zb = dev + b * tile;
-            for (int k = 0; k < kG; ++k) {
-                const V z = F::template Load<true>(zb + 4 * k);
-                u[k] = u[k] - la * z;
-                v[k] = v[k] - lb * z;
-            }
-        }
-        const V ra = F::Splat(recip[a]), rb = F::Splat(recip[a + 1]), last = F::Splat(*l++);
-        for (int k = 0; k < kG; ++k) {
-            u[k] = u[k] * ra;
-            v[k] = (v[k] - last * u[k]) * rb;
-            F::template Store<true>(za + 4 * k, u[k]);
-            F::template Store<true>(za + tile + 4 * k, v[k]);
-            s[k] = s[k] + u[k] * u[k];
-            s[k] = s[k] + v[k] * v[k];
-        }
-    }
-    if (a < q) { // the last row of an odd count
-        V u[kG];
+    const T* row = rows;
+    for (int64_t a = 0; a < q; ++a, row += a) {
+        V acc[kG];
         T* za = dev + a * tile;
         for (int k = 0; k < kG; ++k)
-            u[k] = F::template Load<true>(za + 4 * k);
+            acc[k] = F::template Load<true>(za + 4 * k);
         for (int64_t b = 0; b < a; ++b) {
-            const V la = F::Splat(l[b]);
+            const V l = F::Splat(row[b]);
+            const T* zb = dev + b * tile;
             for (int k = 0; k < kG; ++k)
-                u[k] = u[k] - la * F::template Load<true>(dev + b * tile + 4 * k);
+                acc[k] = acc[k] - l * F::template Load<true>(zb + 4 * k);
         }
-        const V ra = F::Splat(recip[a]);
+        const V r = F::Splat(recip[a]);
         for (int k = 0; k < kG; ++k) {
-            u[k] = u[k] * ra;
-            s[k] = s[k] + u[k] * u[k];
+            acc[k] = acc[k] * r;
+            F::template Store<true>(za + 4 * k, acc[k]);
         }
     }
-    for (int k = 0; k < kG; ++k)
-        F::template Store<true>(sum + 4 * k, s[k]);
+    // z'z, a = 0 .. q - 1 in order.
+    for (int k = 0; k < kG; ++k) {
+        V s = F::Splat(T(0));
+        for (int64_t a = 0; a < q; ++a) {
+            const V z = F::template Load<true>(dev + a * tile + 4 * k);
+            s = s + z * z;
+        }
+        F::template Store<true>(sum + 4 * k, s);
+    }
 }
 
 // Distances of observations [i0, i0 + m) into result[i0, i0 + m). Scratch: dev of
@@ -135,27 +108,17 @@ void MahSubstitute(const T* pairs, const T* recip, int64_t q, T* dev, T* sum) {
 template <typename T>
 void MahTile(const MahTileInput<T>& in, int64_t i0, int64_t m, T* dev, T* sum, T* result) {
     MahDeviations(in, i0, m, dev);
-    MahSubstitute(in.pairs, in.recip, in.q, dev, sum);
+    MahSubstitute(in.rows, in.recip, in.q, dev, sum);
     for (int64_t i = 0; i < m; ++i)
         result[i0 + i] = sqrt(sum[i]);
 }
 
-// Packs the strict lower triangle of the factor l (q x q, column-major) for
-// MahSubstitute: for each pair of rows a, a + 1 (a even) the entries L_{a,b}, L_{a+1,b}
-// interleaved for b < a, then L_{a+1,a}; an odd count's last row follows alone.
-// q (q - 1) / 2 elements in all.
+// Packs the lower factor l (q x q, column-major) by rows.
 template <typename T>
-void PackFactorPairs(const T* l, int64_t q, T* pairs) {
-    int64_t a = 0;
-    for (; a + 1 < q; a += 2) {
-        for (int64_t b = 0; b < a; ++b) {
-            *pairs++ = l[a + b * q];
-            *pairs++ = l[a + 1 + b * q];
-        }
-        *pairs++ = l[a + 1 + a * q];
-    }
-    for (int64_t b = 0; a < q && b < a; ++b)
-        *pairs++ = l[a + b * q];
+void PackFactorRows(const T* l, int64_t q, T* rows) {
+    for (int64_t a = 0; a < q; ++a)
+        for (int64_t b = 0; b <= a; ++b)
+            *rows++ = l[a + b * q];
 }
 
 } // namespace brenn::stats

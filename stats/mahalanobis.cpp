@@ -66,7 +66,7 @@ int32_t MahDistance(void* handle, uint64_t estimates, uint64_t method, T* result
     int64_t* act = reinterpret_cast<int64_t*>(block);
     T* mean = reinterpret_cast<T*>(act + p);
     T* l = mean + p;
-    T* pairs = l + p * p;
+    T* rows = l + p * p;
     const int64_t q = ActiveVariables(task, p, act);
     const T* m = static_cast<const T*>(task->mean);
     for (int64_t a = 0; a < q; ++a)
@@ -76,11 +76,11 @@ int32_t MahDistance(void* handle, uint64_t estimates, uint64_t method, T* result
     if (q > 0 && !CholeskyLower<T>(static_cast<int>(q), l))
         status = BRENN_SS_ERROR_NOT_POSITIVE_DEFINITE;
     if (status == BRENN_SS_OK) {
-        T* recip = pairs + q * (q + 1) / 2;
-        PackFactorPairs(l, q, pairs);
+        T* recip = rows + q * (q + 1) / 2;
+        PackFactorRows(l, q, rows);
         for (int64_t a = 0; a < q; ++a)
             recip[a] = T(1) / l[a + a * q];
-        MahJob<T> job{{o.x, o.n, p, o.variableRows, act, q, mean, pairs, recip}, result};
+        MahJob<T> job{{o.x, o.n, p, o.variableRows, act, q, mean, rows, recip}, result};
         const int64_t blocks = (o.n + kBlock - 1) / kBlock;
         size_t scratch = 0;
         if (!AddBytesFor(&scratch, (q + 1) * kMahTile<T>, sizeof(T)))

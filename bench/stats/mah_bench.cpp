@@ -1,10 +1,12 @@
 // Mahalanobis distances of 10^6 observations of 32 variables (observation-major) from
 // their mean, beside scipy's cdist(..., 'mahalanobis', VI=...) timed by
 // mah_scipy_timing.py in the same run (best runs). The library runs on the calling
-// thread (null threader) and on the pool. Prints ours / scipy after the table: in
+// thread (null threader) and on the pool, beside a plain read of the data (the memory
+// floor). Prints ours / scipy (and read / ours) after the table: in
 // process CPU time (the work done, whatever the load) and in wall-clock time (what a
 // caller waits, which on a loaded machine includes the wait for a core).
 #include <benchmark/benchmark.h>
+#include <emmintrin.h>
 
 #include <cmath>
 #include <cstdio>
@@ -52,6 +54,21 @@ void Ours(benchmark::State& state, const threader* thr) {
     }
 }
 
+// A plain read of the 256 MB of data (two running sums of SSE pairs): the memory floor
+// that the distances cannot go below.
+void PlainRead(benchmark::State& state) {
+    const std::vector<double>& x = Shared().x;
+    for (auto _ : state) {
+        __m128d s0 = _mm_setzero_pd(), s1 = _mm_setzero_pd();
+        for (size_t i = 0; i + 4 <= x.size(); i += 4) {
+            s0 = _mm_add_pd(s0, _mm_loadu_pd(&x[i]));
+            s1 = _mm_add_pd(s1, _mm_loadu_pd(&x[i + 2]));
+        }
+        benchmark::DoNotOptimize(s0);
+        benchmark::DoNotOptimize(s1);
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -66,6 +83,10 @@ int main(int argc, char** argv) {
         ->Unit(benchmark::kMillisecond)
         ->MeasureProcessCPUTime()
         ->Repetitions(3);
+    benchmark::RegisterBenchmark("plain_read_1e6x32", PlainRead)
+        ->Unit(benchmark::kMillisecond)
+        ->MeasureProcessCPUTime()
+        ->Repetitions(5);
     brenn::bench::Recorder recorder;
     recorder.cpuTime = true;
     benchmark::RunSpecifiedBenchmarks(&recorder);
@@ -74,6 +95,7 @@ int main(int argc, char** argv) {
     std::printf("process CPU time:\n");
     recorder.Ratio("brenn_mahalanobis_1e6x32", scipy);
     recorder.Ratio("brenn_mahalanobis_1e6x32_pool", scipy);
+    recorder.Ratio("plain_read_1e6x32", "brenn_mahalanobis_1e6x32");
     std::printf("wall-clock time:\n");
     recorder.Ratio(recorder.wall, "brenn_mahalanobis_1e6x32", scipy + "_wall");
     recorder.Ratio(recorder.wall, "brenn_mahalanobis_1e6x32_pool", scipy + "_wall");
