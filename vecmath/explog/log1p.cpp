@@ -143,7 +143,7 @@ inline __m128d Log1pOf(__m128d x, __m128d& special) {
     LnCore3From<L>(red, h, r, small);
     if constexpr (L == Level::HA) {
         __m128d s, err;
-        TwoSum(h, r, s, err);
+        FastTwoSum(h, r, s, err); // exact: h is 0 or above |r| (see ScaleLog)
         return KeepTiny(x, Add(s, Add(err, small)));
     } else {
         return KeepTiny(x, Add(h, Add(r, small)));

@@ -143,9 +143,11 @@ inline void LnCore(__m128d x, __m128d& h, __m128d& l) {
 
 // (h + r + t) * (ch + cl) rounded once in effect: s*ch exactly (Dekker; ch has 26 bits,
 // so both partial products are exact), the rest as a small correction.
+// h + r is exact by Fast2Sum: h is 0 (row 0 at k = 0, or the last row at k = -1, whose
+// heads cancel) or at least about 2^-10, and |r| <= 2^-10/mh.
 inline __m128d ScaleLog(__m128d h, __m128d r, __m128d t, double ch, double cl) {
     __m128d s, err;
-    TwoSum(h, r, s, err);
+    FastTwoSum(h, r, s, err);
     __m128d e = Add(err, t);
     __m128d sh, sl;
     Split(s, sh, sl);
