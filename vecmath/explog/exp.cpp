@@ -127,14 +127,6 @@ constexpr double kExpLaC[] = {0x1.00000021f6929p-1, 0x1.55555559fd862p-3};
 constexpr double kExpHaC[] = {0x1.fffffffffdbd9p-2, 0x1.5555555557677p-3, 0x1.555573c3149fdp-5,
                               0x1.111108f30ec0dp-7};
 
-// 2^m for the integer in the low 32 bits of each double lane of t - shifter, after the
-// index bits (log2 N of them) are dropped: the exponent field is added to y's bits.
-template <int Log2N>
-inline __m128d ScaleByLowWord(__m128d y, __m128d t) {
-    I32x4 m = ShiftRightSigned<Log2N>(BitCast<I32x4>(t));
-    return AsFloat(Add(AsInt(y), ShiftLeft<Format<double>::kMantBits>(BitCast<I64x2>(m))));
-}
-
 template <Level L>
 inline __m128d ExpOf(__m128d x) {
     const __m128d shifter = Set<double>(Format<double>::kShifter);

@@ -112,7 +112,9 @@ inline __m128d CoreOf(__m128d x) {
     __m128d th, tl;
     ExpRows64(t, th, tl);
     __m128d y = Add(th, Add(Mul(th, p), tl));
-    return Mul(y, ExpScale64(t));
+    // Inside the windows (|x| to 1022 and 307) y*2^m is normal: m goes into the
+    // exponent field by an integer addition.
+    return ScaleByLowWord<6>(y, t);
 }
 // The single forms run in single: n = round(128*x/log_B(2)) by a shifter whose bits end
 // in sixteen zeros, T = 2^((n & 127)/128) from the table (a single high part and the rest

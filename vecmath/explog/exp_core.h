@@ -83,6 +83,15 @@ inline __m128d ExpInvScale64(__m128d t) {
     return AsFloat(ShiftLeft<Format<double>::kMantBits>(BitCast<I64x2>(e)));
 }
 
+// y*2^m for the integer in the low 32 bits of each double lane of t - shifter, after
+// the index bits (log2 N of them) are dropped: m added to y's exponent field, which is
+// the product when y*2^m is normal (the range windows of the kernels that use it).
+template <int Log2N>
+inline __m128d ScaleByLowWord(__m128d y, __m128d t) {
+    I32x4 m = ShiftRightSigned<Log2N>(BitCast<I32x4>(t));
+    return AsFloat(Add(AsInt(y), ShiftLeft<Format<double>::kMantBits>(BitCast<I64x2>(m))));
+}
+
 // e^x from the shifted t and the reduced r: 2^m*(Thi + (Thi*p + Tlo)), |m| <= 1022.
 template <ExpDegree D>
 inline __m128d ExpAssemble64(__m128d t, __m128d r) {
