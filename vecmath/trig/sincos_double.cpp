@@ -278,21 +278,23 @@ struct Both {
     }
 };
 
+// The bodies by element type and level, as the kernel macros name them.
+template <class, Level L>
+using SinOf = Body<L, false>;
+template <class, Level L>
+using CosOf = Body<L, true>;
+template <class, Level L>
+using SinCosOf = Both<L>;
+
 } // namespace
 } // namespace brenn::vm::trig
 
-using brenn::vm::Level;
-using brenn::vm::trig::Body;
-using brenn::vm::trig::Both;
+using brenn::vm::trig::CosOf;
+using brenn::vm::trig::SinCosOf;
+using brenn::vm::trig::SinOf;
 
 extern "C" {
-BRENN_FLAT ZAR_KERNEL_OF(d, Sin, EP, Unary, Body<Level::EP, false>) BRENN_FLAT
-    ZAR_KERNEL_OF(d, Sin, LA, Unary, Body<Level::LA, false>) BRENN_FLAT
-    ZAR_KERNEL_OF(d, Sin, HA, Unary, Body<Level::HA, false>) BRENN_FLAT
-    ZAR_KERNEL_OF(d, Cos, EP, Unary, Body<Level::EP, true>) BRENN_FLAT
-    ZAR_KERNEL_OF(d, Cos, LA, Unary, Body<Level::LA, true>) BRENN_FLAT
-    ZAR_KERNEL_OF(d, Cos, HA, Unary, Body<Level::HA, true>) BRENN_FLAT
-    ZAR_KERNEL_OF(d, SinCos, EP, TwoRes, Both<Level::EP>) BRENN_FLAT
-    ZAR_KERNEL_OF(d, SinCos, LA, TwoRes, Both<Level::LA>) BRENN_FLAT
-    ZAR_KERNEL_OF(d, SinCos, HA, TwoRes, Both<Level::HA>)
+BRENN_FLAT_LEVEL_KERNELS(d, Sin, Unary, SinOf)
+BRENN_FLAT_LEVEL_KERNELS(d, Cos, Unary, CosOf)
+BRENN_FLAT_LEVEL_KERNELS(d, SinCos, TwoRes, SinCosOf)
 }

@@ -241,21 +241,23 @@ struct BothBody {
     static int Scalar(const float* a, float* y, float* z) { return InfNanScalar(a, y, z); }
 };
 
+// The bodies by element type and level, as the kernel macros name them.
+template <class, Level L>
+using SinOf = SinCosBody<L, false>;
+template <class, Level L>
+using CosOf = SinCosBody<L, true>;
+template <class, Level L>
+using SinCosOf = BothBody<L>;
+
 } // namespace
 } // namespace brenn::vm::trig
 
-using brenn::vm::Level;
-using brenn::vm::trig::BothBody;
-using brenn::vm::trig::SinCosBody;
+using brenn::vm::trig::CosOf;
+using brenn::vm::trig::SinCosOf;
+using brenn::vm::trig::SinOf;
 
 extern "C" {
-BRENN_FLAT ZAR_KERNEL_OF(s, Sin, EP, Unary, SinCosBody<Level::EP, false>) BRENN_FLAT
-    ZAR_KERNEL_OF(s, Sin, LA, Unary, SinCosBody<Level::LA, false>) BRENN_FLAT
-    ZAR_KERNEL_OF(s, Sin, HA, Unary, SinCosBody<Level::HA, false>) BRENN_FLAT
-    ZAR_KERNEL_OF(s, Cos, EP, Unary, SinCosBody<Level::EP, true>) BRENN_FLAT
-    ZAR_KERNEL_OF(s, Cos, LA, Unary, SinCosBody<Level::LA, true>) BRENN_FLAT
-    ZAR_KERNEL_OF(s, Cos, HA, Unary, SinCosBody<Level::HA, true>) BRENN_FLAT
-    ZAR_KERNEL_OF(s, SinCos, EP, TwoRes, BothBody<Level::EP>) BRENN_FLAT
-    ZAR_KERNEL_OF(s, SinCos, LA, TwoRes, BothBody<Level::LA>) BRENN_FLAT
-    ZAR_KERNEL_OF(s, SinCos, HA, TwoRes, BothBody<Level::HA>)
+BRENN_FLAT_LEVEL_KERNELS(s, Sin, Unary, SinOf)
+BRENN_FLAT_LEVEL_KERNELS(s, Cos, Unary, CosOf)
+BRENN_FLAT_LEVEL_KERNELS(s, SinCos, TwoRes, SinCosOf)
 }
