@@ -415,6 +415,18 @@ inline int EvalEach(const V* x, V* y) {
     return bits;
 }
 
+// The same for a body with two results (SinCos).
+template <class Body, int N, class V>
+inline int EvalEach(const V* x, V* s, V* c) {
+    int bits = 0;
+    BRENN_EACH(k, N) {
+        V special;
+        Body::Eval(x[k], s[k], c[k], special);
+        bits |= MaskBits(special) << (kLanes<ElemOf<V>> * k);
+    }
+    return bits;
+}
+
 // A single round of sixteen quad by quad, when a lane is above the limit.
 template <class Body>
 inline int EvalQuadsS(const __m128* x, __m128* y) {

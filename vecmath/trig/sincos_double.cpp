@@ -252,15 +252,7 @@ struct Both {
     static constexpr int kRound = 16;
     static int EvalWide(const __m128d* x, __m128d* s, __m128d* c) {
         __m128d a[8];
-        if (__builtin_expect(AnyAboveD<8>(x, a, kLimitD), 0)) {
-            int bits = 0;
-            BRENN_EACH(k, 8) {
-                __m128d special;
-                Eval(x[k], s[k], c[k], special);
-                bits |= MaskBits(special) << (2 * k);
-            }
-            return bits;
-        }
+        if (__builtin_expect(AnyAboveD<8>(x, a, kLimitD), 0)) return EvalEach<Both, 8>(x, s, c);
 #pragma GCC unroll 2
         for (int k = 0; k < 8; ++k)
             Pair<false>(x[k], a[k], s[k], c[k]);

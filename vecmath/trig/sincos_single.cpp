@@ -225,15 +225,7 @@ struct BothBody {
     }
     static int EvalWide(const __m128* x, __m128* s, __m128* c) {
         __m128 a[4];
-        if (__builtin_expect(AnyAboveS(x, a, kLimitS), 0)) {
-            int bits = 0;
-            BRENN_EACH(k, 4) {
-                __m128 special;
-                Eval(x[k], s[k], c[k], special);
-                bits |= MaskBits(special) << (4 * k);
-            }
-            return bits;
-        }
+        if (__builtin_expect(AnyAboveS(x, a, kLimitS), 0)) return EvalEach<BothBody, 4>(x, s, c);
         ShortN<L, 4, false>(a, false, s, x);
         ShortN<L, 4, false>(a, true, c);
         return 0;
