@@ -427,12 +427,6 @@ inline int EvalEach(const V* x, V* s, V* c) {
     return bits;
 }
 
-// A single round of sixteen quad by quad, when a lane is above the limit.
-template <class Body>
-inline int EvalQuadsS(const __m128* x, __m128* y) {
-    return EvalEach<Body, 4>(x, y);
-}
-
 } // namespace brenn::vm::trig
 
 #endif

@@ -276,7 +276,7 @@ struct TanBody<float, L> {
     // registers together, unclamped; otherwise quad by quad.
     static int EvalWide(const __m128* x, __m128* y) {
         __m128 a[4];
-        if (__builtin_expect(AnyAboveS(x, a, kLimitBits), 0)) return EvalQuadsS<TanBody>(x, y);
+        if (__builtin_expect(AnyAboveS(x, a, kLimitBits), 0)) return EvalEach<TanBody, 4>(x, y);
         ShortTan<L, 4, false>(a, y);
         BRENN_EACH(k, 4) y[k] = Xor(y[k], SignBit(x[k]));
         return 0;
