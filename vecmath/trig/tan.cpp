@@ -244,14 +244,7 @@ inline __m128 LargeTanS(__m128 a) {
     return Narrow(TanSum(J, r0, z), TanSum(J + 2, r1, z));
 }
 
-// Whether any of eight double magnitudes is above the limit (infinity and NaN are, as
-// bits): one test for the round.
 constexpr uint64_t kLimitBitsD = std::bit_cast<uint64_t>(kLimitD);
-inline bool AnyAboveD(const __m128d* a, uint64_t limitBits) {
-    __m128d m = AsFloat(Gt(AsInt(a[0]), Set<uint64_t>(limitBits)));
-    BRENN_EACH(k, 7) m = Or(m, AsFloat(Gt(AsInt(a[k + 1]), Set<uint64_t>(limitBits))));
-    return MaskBits(m) != 0;
-}
 
 template <class T, Level L>
 struct TanBody;
@@ -319,17 +312,9 @@ struct TanBody<double, L> {
     // HA, register by register.
     static constexpr int kRound = 16;
     static int EvalWide(const __m128d* x, __m128d* y) {
+        if constexpr (L == Level::HA) return EvalEach<TanBody, 8>(x, y);
         __m128d a[8];
-        BRENN_EACH(k, 8) a[k] = Abs(x[k]);
-        if (L == Level::HA || __builtin_expect(AnyAboveD(a, kLimitBitsD), 0)) {
-            int bits = 0;
-            BRENN_EACH(k, 8) {
-                __m128d special;
-                y[k] = Eval(x[k], special);
-                bits |= MaskBits(special) << (2 * k);
-            }
-            return bits;
-        }
+        if (__builtin_expect(AnyAboveD<8>(x, a, kLimitBitsD), 0)) return EvalEach<TanBody, 8>(x, y);
         BRENN_EACH(h, 2) {
             if constexpr (L == Level::EP)
                 QuadrantTan<4, TanFitEP>(a + 4 * h, TanShort<double>::kPiHalf, y + 4 * h);
