@@ -1,7 +1,8 @@
 /* Operations on the integer views I32x4 and I64x2: wrapping arithmetic, logic, signed
- * compares, shifts by constants, the unsigned 32 by 32-bit products, lane extraction,
- * lane shuffles, and the blends and mask bits of integer masks. SSE4.2 has no 64-bit
- * arithmetic right shift, minimum or maximum; those are left out rather than emulated. */
+ * compares, shifts by constants, the unsigned 32 by 32-bit and 16 by 16-bit products,
+ * lane extraction, lane shuffles and a four-entry table lookup, and the blends and mask bits of
+ * integer masks. SSE4.2 has no 64-bit arithmetic right shift, minimum or maximum; those are left
+ * out rather than emulated. */
 #ifndef BRENN_VECMATH_FRAME_VEC_INT_H
 #define BRENN_VECMATH_FRAME_VEC_INT_H
 
@@ -75,6 +76,20 @@ BRENN_VEC I32x4 ShiftRightSigned(I32x4 a) {
 // words of a and b are ignored.
 BRENN_VEC I64x2 MulLowWords(I64x2 a, I64x2 b) {
     return {_mm_mul_epu32(a.v, b.v)};
+}
+
+// The low 16 bits of the products of the 16-bit halves (pmullw): for 32-bit lanes whose
+// values and products lie in 0 to 2^16 - 1, the 32-bit products, in one multiply.
+BRENN_VEC I32x4 MulLow16(I32x4 a, I32x4 b) {
+    return {_mm_mullo_epi16(a.v, b.v)};
+}
+
+// Lane j of a four-entry table in each 32-bit lane, for j in 0 to 3: a byte shuffle of
+// the table by the lane's bytes 4j to 4j + 3.
+BRENN_VEC I32x4 LookupFour(I32x4 table, I32x4 j) {
+    const __m128i first = _mm_setr_epi8(0, 0, 0, 0, 4, 4, 4, 4, 8, 8, 8, 8, 12, 12, 12, 12);
+    __m128i at = _mm_shuffle_epi8(_mm_slli_epi32(j.v, 2), first);
+    return {_mm_shuffle_epi8(table.v, _mm_add_epi8(at, _mm_set1_epi32(0x03020100)))};
 }
 
 // One 32-bit lane as a scalar (lane 0 by movd, the others by pextrd).

@@ -116,29 +116,21 @@ inline __m128d RootOf(__m128d ax) {
 // rounded once to single (HA).
 constexpr float kRootSeedS[] = {0x1.ab85acp0f, -0x1.2c4234p0f, 0x1.641702p-1f, -0x1.c519b2p-3f,
                                 0x1.d47154p-6f};
+// 2^(-j/3) for j = 0, 1, 2 (the fourth entry unused).
 alignas(16) constexpr float kRootScaleS[4] = {1.0f, float(kRootScale[1]), float(kRootScale[2]),
                                               1.0f};
-
-// 2^(-j/3) for j = 0, 1, 2 in each lane: the bytes 4j to 4j + 3 of the table.
-inline __m128 RootScaleS(I32x4 j) {
-    const __m128i bcast = _mm_setr_epi8(0, 0, 0, 0, 4, 4, 4, 4, 8, 8, 8, 8, 12, 12, 12, 12);
-    const __m128i bytes = _mm_set1_epi32(0x03020100);
-    __m128i idx = _mm_add_epi8(_mm_shuffle_epi8(_mm_slli_epi32(j.v, 2), bcast), bytes);
-    return _mm_castsi128_ps(
-        _mm_shuffle_epi8(_mm_load_si128(reinterpret_cast<const __m128i*>(kRootScaleS)), idx));
-}
 
 template <Root R, int Terms, bool Wide>
 inline __m128 RootOf(__m128 ax) {
     using F = Format<float>;
     const I32x4 xi = AsInt(ax);
     const I32x4 kd = Add(ShiftRight<F::kMantBits>(xi), Set<int32_t>(2));
-    const I32x4 qd = ShiftRight<9>(I32x4{_mm_mullo_epi16(kd.v, _mm_set1_epi32(171))});
+    const I32x4 qd = ShiftRight<9>(MulLow16(kd, Set<int32_t>(171)));
     const I32x4 j = Sub(kd, Add(qd, Add(qd, qd)));
     const I32x4 mant = And(xi, Set<uint32_t>(F::kMant));
     const __m128 m = AsFloat(Or(mant, Set<uint32_t>(F::kOne)));
     const __m128 bigM = AsFloat(Or(mant, ShiftLeft<F::kMantBits>(Add(j, Set<int32_t>(F::kBias)))));
-    const __m128 z = Mul(Horner(m, kRootSeedS), RootScaleS(j));
+    const __m128 z = Mul(Horner(m, kRootSeedS), AsFloat(LookupFour(AsInt(Load(kRootScaleS)), j)));
     __m128 v;
     if constexpr (Wide)
         v = Narrow(RootFinish<R, Terms>(WidenLower(z), WidenLower(bigM)),
