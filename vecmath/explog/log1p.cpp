@@ -135,10 +135,7 @@ inline __m128d Log1pOf(__m128d x, __m128d& special) {
     // the reduced 1 + x itself and no c/u is needed. 2^-k from u's exponent field: 0 for
     // u at or above 2^1023, where c is far below the result's last place.
     LnReduction red = LnReduce(u);
-    using F = Format<double>;
-    __m128d scale = AsFloat(
-        Sub(Set<uint64_t>(0x7FE0000000000000ull), And(AsInt(u), Set<uint64_t>(F::kExpField))));
-    red.ml = Add(red.ml, Mul(c, scale));
+    red.ml = Add(red.ml, Mul(c, InverseBinade(u)));
     __m128d h, r, small;
     LnCore3From<L>(red, h, r, small);
     if constexpr (L == Level::HA) {

@@ -61,6 +61,17 @@ inline V LogSpecial(V x) {
     return AsFloat(Gt(Add(AsInt(x), Set<UInt<T>>(w.offset)), Opaque(Set<UInt<T>>(w.limit))));
 }
 
+// 2^-e for x in the binade [2^e, 2^(e+1)), e from 1 - bias to bias - 1, by the exponent
+// field alone (x's sign ignored); +0 for the top binade, where the terms it scales (a
+// rounding error of x) are far below a logarithm's last place.
+template <class V>
+inline V InverseBinade(V x) {
+    using T = ElemOf<V>;
+    using F = Format<T>;
+    constexpr UInt<T> kTwiceBias = UInt<T>(2 * F::kBias) << F::kMantBits;
+    return AsFloat(Sub(Set<UInt<T>>(kTwiceBias), And(AsInt(x), Set<UInt<T>>(F::kExpField))));
+}
+
 // Single: x = 2^k * (1 + r), m = 1 + r in [2/3, 4/3).
 inline void LogSplit(__m128 x, __m128& r, __m128& k) {
     using F = Format<float>;
@@ -187,11 +198,8 @@ inline __m128 LnOfSingleLanesPlus(__m128 x, __m128 c, Half half) {
     I32x4 k = Sub(ShiftRight<F::kMantBits>(b), Set<int32_t>(F::kBias));
     I32x4 j = ShiftRight<F::kMantBits - 9>(Add(mant, Set<int32_t>(1 << (F::kMantBits - 10))));
     Indices at = IndicesOf(j);
-    // 2^-k by the exponent field alone; 0 for x at or above 2^127, where c is far below
-    // the result's last place.
     __m128 cs;
-    if constexpr (kLow)
-        cs = Mul(c, AsFloat(Sub(Set<uint32_t>(0x7F000000u), And(b, Set<uint32_t>(F::kExpField)))));
+    if constexpr (kLow) cs = Mul(c, InverseBinade(x)); // c*2^-k
     __m128d lnv[2];
     for (int h = 0; h < 2; ++h) {
         __m128d md = h == 0 ? WidenLower(m) : WidenUpper(m);
