@@ -39,18 +39,42 @@ struct X87Env {
     uint32_t rest[4];
 };
 
-// Sets the code's flag in the x87 status word; with the matching trap bit in the
-// mode, the flag is unmasked first, so that the second environment load delivers
-// the floating-point fault here, synchronously.
-void RaiseX87(uint32_t mode, uint16_t flag) {
-    X87Env env, copy;
-    __asm__ volatile("fnstenv %0" : "=m"(env) : : "memory");
-    copy = env;
+// The unmask set of the mode's trap nibble, as control-word bits.
+uint16_t UnmaskOf(uint32_t mode) {
     uint16_t unmask = 0;
     if (mode & kTrapInvalid) unmask |= 0x01;
     if (mode & kTrapDivByZero) unmask |= 0x04;
     if (mode & kTrapOverflow) unmask |= 0x08;
     if (mode & kTrapUnderflow) unmask |= 0x10;
+    return unmask;
+}
+
+// Sets the code's flag in the x87 status word; with the matching trap bit in the
+// mode, the flag is unmasked first, so that the second environment load delivers
+// the floating-point fault here, synchronously.
+//
+// What the two loads leave, when no trap is asked for the code's own flag and the
+// control word already masks all six exceptions (as it does inside every kernel), is
+// the state before them with the flag added: the first load has nothing pending and
+// is replaced at once. So there the environment is stored and loaded only while the
+// flag is still clear, which in a vector of reported elements is at the first one.
+void RaiseX87(uint32_t mode, uint16_t flag) {
+    const uint16_t unmask = UnmaskOf(mode);
+    X87Env env, copy;
+    if ((flag & unmask) == 0) {
+        uint16_t cw, sw;
+        __asm__ volatile("fnstcw %0" : "=m"(cw));
+        if ((cw & 0x3F) == 0x3F) {
+            __asm__ volatile("fnstsw %0" : "=m"(sw));
+            if ((sw & flag) == flag) return;
+            __asm__ volatile("fnstenv %0" : "=m"(env) : : "memory");
+            env.statusWord |= flag;
+            __asm__ volatile("fldenv %0" : : "m"(env) : "memory");
+            return;
+        }
+    }
+    __asm__ volatile("fnstenv %0" : "=m"(env) : : "memory");
+    copy = env;
     copy.controlWord = static_cast<uint16_t>(copy.controlWord & ~unmask);
     copy.statusWord = static_cast<uint16_t>((copy.statusWord & ~0x80FF) | flag);
     if (flag & unmask) copy.statusWord |= 0x8080; // error summary and busy: pending
@@ -87,20 +111,22 @@ void PrintValueLines(const ErrorRecord& r) {
     }
 }
 
-void ActOnError(const ErrorRecord& r, uint32_t mode) {
-    Code c = Lookup(r.code);
+// The actions of the error mode after the callback: errno, standard error (which
+// needs the record; without it the mode has no standard-error bit) and the exception.
+void ActOnError(int code, const ErrorRecord* r, uint32_t mode) {
+    Code c = Lookup(code);
     if (mode & kErrErrno) {
         BindCRuntimeErrno();
         SetCRuntimeErrno(c.errnoValue);
     }
-    if (mode & kErrStderr) {
-        if (r.code == -1) {
-            brenn_serv_print(1, 735, 2, r.functionName, r.index);
-        } else if (r.code == -2) {
-            brenn_serv_print(1, 736, 1, r.functionName);
-        } else if (r.code != 0) {
-            brenn_serv_print(1, c.message, 1, r.functionName);
-            PrintValueLines(r);
+    if ((mode & kErrStderr) && r != nullptr) {
+        if (code == -1) {
+            brenn_serv_print(1, 735, 2, r->functionName, r->index);
+        } else if (code == -2) {
+            brenn_serv_print(1, 736, 1, r->functionName);
+        } else if (code != 0) {
+            brenn_serv_print(1, c.message, 1, r->functionName);
+            PrintValueLines(*r);
         }
     }
     if (mode & kErrExcept) RaiseX87(ThreadMode(), c.x87Flag);
@@ -154,6 +180,29 @@ struct Element<BrennComplex16> {
     static constexpr bool kComplex = true;
 };
 
+// A report that no callback and no message reads: the record is not built. The
+// values still make their round trip through double, as the write-back of an unread
+// record does (a conversion's flags, a denormal flushed under DAZ), and errno and the
+// exception need only the code.
+template <class E>
+void QuietReport(int code, int index, const E* a1, const E* a2, E* r1, E* r2, uint32_t mode,
+                 bool values) {
+    using T = Element<E>;
+    double a1r = 0, a2r = 0, r1r = 0, r2r = 0, a1i = 0, a2i = 0, r1i = 0, r2i = 0;
+    if (values) {
+        T::Load(a1[index], a1r, a1i);
+        T::Load(a2[index], a2r, a2i);
+        T::Load(r1[index], r1r, r1i);
+        T::Load(r2[index], r2r, r2i);
+        __asm__ volatile("" : : "x"(a1r), "x"(a2r), "x"(a1i), "x"(a2i));
+    }
+    if (mode & 0x2F00) ActOnError(code, nullptr, mode);
+    if (values) {
+        T::Store(r2[index], r2r, r2i);
+        T::Store(r1[index], r1r, r1i);
+    }
+}
+
 template <class E>
 void Report(int code, int index, const E* a1, const E* a2, E* r1, E* r2, const char* name) {
     using T = Element<E>;
@@ -164,6 +213,13 @@ void Report(int code, int index, const E* a1, const E* a2, E* r1, E* r2, const c
     context->status = code;
     if (e == kErrIgnore) return;
 
+    const bool values = code != -1 && code != -2;
+    ErrorCallback callback = (mode & kErrCallback) ? context->errorCallback : nullptr;
+    if (callback == nullptr && !(mode & kErrStderr)) {
+        QuietReport(code, index, a1, a2, r1, r2, mode, values);
+        return;
+    }
+
     ErrorRecord record = {}; // fields a report does not fill read as zero
     record.code = code;
     record.index = index;
@@ -173,17 +229,14 @@ void Report(int code, int index, const E* a1, const E* a2, E* r1, E* r2, const c
         record.index += static_cast<int32_t>(bytes >> T::kShift);
     }
     record.functionNameLength = CopyFunctionName(name, record.functionName);
-    const bool values = code != -1 && code != -2;
     if (values) {
         T::Load(a1[index], record.a1, record.a1Imag);
         T::Load(a2[index], record.a2, record.a2Imag);
         T::Load(r1[index], record.r1, record.r1Imag);
         T::Load(r2[index], record.r2, record.r2Imag);
     }
-    if ((mode & kErrCallback) && context->errorCallback != nullptr) {
-        if (context->errorCallback(&record) != 0) return;
-    }
-    if (mode & 0x2F00) ActOnError(record, mode);
+    if (callback != nullptr && callback(&record) != 0) return;
+    if (mode & 0x2F00) ActOnError(code, &record, mode);
     if (values) {
         T::Store(r2[index], record.r2, record.r2Imag);
         T::Store(r1[index], record.r1, record.r1Imag);
