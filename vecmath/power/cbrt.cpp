@@ -4,15 +4,17 @@
  * The single rows split the exponent and take the seed in single lanes; HA runs one
  * term of the series on widened lanes and rounds once (0.6 ulp), LA (two terms) and EP
  * (the seed alone) stay in single. Single denormals go to the scalar routine, which runs
- * the double form. The double rows take four terms (HA five, its seed rounded so that
- * its powers and products are exact; LA and EP round them). dCbrt's LA and EP slots
- * share a kernel; dInvCbrt has one kernel, at HA, for the three slots.
+ * the double form. The double rows take four terms (at HA with the seed rounded so
+ * that its powers and products are exact; LA and EP round them), in rounds of sixteen
+ * (wide.h). dCbrt's LA and EP slots share a kernel; dInvCbrt has one kernel, at HA,
+ * for the three slots.
  *
  * Special lanes: zeros, infinities, NaN, and denormals. Cbrt gives +-0 and +-inf
  * themselves; InvCbrt the signed infinity for a zero (singularity status in double, no
  * report in single) and the signed zero for an infinity; Pow2o3 +0 and +inf. Double
  * denormals are scaled by 2^54 and the result by 2^-18, 2^18 or 2^-36. */
 #include "frame/kernels.h"
+#include "vecmath/explog/wide.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/frame/scalar.h"
@@ -38,11 +40,10 @@ struct RootRanges<double> {
 };
 
 // The root of positive normal double lanes with x's sign put back where the root is odd:
-// four terms of the series, and at HA five with the exact cube and products.
+// four terms of the series, at HA with the exact cube and products.
 template <Root R, Level L>
 inline __m128d SignedRoot(__m128d x) {
-    constexpr bool exact = L == Level::HA;
-    __m128d v = RootOf < R, exact ? 5 : 4, exact > (Abs(x));
+    __m128d v = RootOf<R, 4, L == Level::HA>(Abs(x));
     return R == Root::Pow2o3 ? v : Or(v, SignBit(x));
 }
 
@@ -99,6 +100,8 @@ struct RootBody {
         return RootLanes<R, L>(IfThenElse(special, Set<T>(T(1)), x));
     }
     static int Scalar(const T* a, T* y) { return RootScalar<R>(a, y); }
+    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
+    static int EvalWide(const V* x, V* y) { return EvalByRegister<RootBody>(x, y); }
 };
 
 template <class T, Level L>

@@ -8,9 +8,11 @@
  *   M^(-1/3) = z * (1 + e)^(-1/3),  M^(1/3) = M*z^2 * (1 + e)^(-2/3),
  *   M^(2/3) = M*z * (1 + e)^(-1/3),
  * and the result's exponent is q, -q or 2q added to the field. For double HA z is first
- * rounded to 12 bits, so that its powers and their products with M's halves are exact:
- * e is exact to 2^-70 and the leading product in two parts, so only the last addition
- * rounds, within about 0.51 ulp. */
+ * cut to 15 bits, so that its square and cube are exact, and M into its leading 8 bits
+ * mh, whose products with them are exact, and the rest ml (below 2^-7 of M): e to about
+ * 2^-61 and the leading product in two parts, so that in effect only the last addition
+ * rounds, within about 0.51 ulp. The double seed and the HA series run by Estrin's
+ * scheme: the bodies are bound by the length of their chains, not by their operations. */
 #ifndef BRENN_VECMATH_POWER_ROOT_CORE_H
 #define BRENN_VECMATH_POWER_ROOT_CORE_H
 
@@ -27,21 +29,13 @@ constexpr double kRootSeed[] = {0x1.ab85acp0, -0x1.2c4234p0, 0x1.641702p-1, -0x1
 // 2^(-j/3) for the remainder j (the fourth row pads the index mask).
 alignas(16) constexpr double kRootScale[4] = {1.0, 0x1.965fea53d6e3dp-1, 0x1.428a2f98d728bp-1, 1.0};
 // The binomial series of (1 + e)^(-1/3) - 1 and (1 + e)^(-2/3) - 1, from e upward.
-constexpr double kThirdSeries[] = {-1.0 / 3, 2.0 / 9, -14.0 / 81, 35.0 / 243, -91.0 / 729};
-constexpr double kTwoThirdsSeries[] = {-2.0 / 3, 5.0 / 9, -40.0 / 81, 110.0 / 243, -308.0 / 729};
+constexpr double kThirdSeries[] = {-1.0 / 3, 2.0 / 9, -14.0 / 81, 35.0 / 243};
+constexpr double kTwoThirdsSeries[] = {-2.0 / 3, 5.0 / 9, -40.0 / 81, 110.0 / 243};
 
 // The terms of the series a level needs: with e near 2^-12.6 the first term left out is
 // below 2^-28 for one term (single HA, in double), 2^-40 for two (single LA) and 2^-66
-// for four (double LA and EP);
-// double HA, whose seed is rounded to 12 bits (e near 2^-10.2), takes five (2^-61).
-template <int N>
-BRENN_VEC __m128d RootSeries(__m128d e, const double (&c)[5]) {
-    __m128d p = Set<double>(c[N - 1]);
-    for (int k = N - 2; k >= 0; --k)
-        p = Add(Set<double>(c[k]), Mul(e, p));
-    return Mul(e, p);
-}
-
+// for four (double LA and EP); double HA, whose seed is cut to 15 bits (e near 2^-11.3),
+// takes four too (2^-57.7 for Cbrt's series, 2^-59.5 for the others).
 // The root of M from its seed z, with e = M*z^3 - 1 and the products rounded, in either
 // precision: M*z^2, z or M*z times 1 + the series.
 template <Root R, int Terms, class V>
@@ -55,7 +49,9 @@ BRENN_VEC V RootFinish(V z, V bigM) {
                   : R == Root::Pow2o3 ? Mul(lead, z2)
                                       : Mul(bigM, Mul(z2, z));
     const V e = Sub(mz3, Set<T>(T(1)));
-    const double* c = R == Root::Cbrt ? kTwoThirdsSeries : kThirdSeries;
+    const auto& c = R == Root::Cbrt ? kTwoThirdsSeries : kThirdSeries;
+    // Four terms (double): Q by Estrin's scheme beside lead*e, a shorter chain.
+    if constexpr (Terms == 4) return Add(lead, Mul(Mul(lead, e), Estrin(e, c)));
     V sr = Set<T>(T(c[Terms - 1]));
     for (int k = Terms - 2; k >= 0; --k)
         sr = Add(Set<T>(T(c[k])), Mul(e, sr));
@@ -74,28 +70,25 @@ inline __m128d RootOf(__m128d ax) {
     const I64x2 mant = And(xi, Set<uint64_t>(F::kMant));
     const __m128d m = AsFloat(Or(mant, Set<uint64_t>(F::kOne)));
     const __m128d bigM = AsFloat(Or(mant, ShiftLeft<F::kMantBits>(Add(j, Set<int64_t>(F::kBias)))));
-    __m128d z = Mul(Horner(m, kRootSeed), Gather(kRootScale, j, 3));
+    __m128d z = Mul(Estrin(m, kRootSeed), Gather(kRootScale, j, 3));
     __m128d v;
     if constexpr (Exact) {
-        // z rounded to 12 bits: z^2 (24 bits) and z^3 (36) are exact, and so are the
-        // products of M's halves (26 and 27 bits) with z, z^2 and the halves of z^3
-        // (18 bits each); e = M*z^3 - 1 to 2^-70 and the lead in two exact parts.
-        const __m128d sh = Set<double>(0x1p41); // rounds z in (1/2, 1] to 2^-11
-        z = Sub(Add(z, sh), sh);
-        const __m128d z2 = Mul(z, z), t = Mul(z2, z);
-        __m128d mh, ml;
-        Split(bigM, mh, ml);
-        const __m128d th = And(t, AsFloat(Set<uint64_t>(0xFFFFFFF800000000ull)));
-        const __m128d tl = Sub(t, th);
-        __m128d e = Sub(Mul(mh, th), Set<double>(1.0));
-        e = Add(Add(e, Add(Mul(mh, tl), Mul(ml, th))), Mul(ml, tl));
-        __m128d s = RootSeries<Terms>(e, R == Root::Cbrt ? kTwoThirdsSeries : kThirdSeries);
+        // z cut to 15 bits: z^2 and z^3 are exact, and so are their products with mh (8
+        // bits); mh*z^3 - 1 is exact and ml*z^3 adds its rounding at 2^-61; the lead is
+        // mh*f exactly plus ml*f. The root is lead + (lead*e)*Q(e), lead*e beside Q.
+        static_assert(Terms == 4, "the HA series has four terms");
+        z = And(z, AsFloat(Set<uint64_t>(0xFFFFFFC000000000ull)));
+        const __m128d z2 = Mul(z, z), z3 = Mul(z2, z);
+        const __m128d mh = And(bigM, AsFloat(Set<uint64_t>(0xFFFFE00000000000ull)));
+        const __m128d ml = Sub(bigM, mh);
+        const __m128d e = Add(Sub(Mul(mh, z3), Set<double>(1.0)), Mul(ml, z3));
+        const __m128d q = Estrin(e, R == Root::Cbrt ? kTwoThirdsSeries : kThirdSeries);
         if constexpr (R == Root::InvCbrt) {
-            v = Add(z, Mul(z, s));
+            v = Add(z, Mul(Mul(z, e), q));
         } else {
             const __m128d f = R == Root::Cbrt ? z2 : z;
             const __m128d hi = Mul(mh, f), lo = Mul(ml, f);
-            v = Add(hi, Add(lo, Mul(Add(hi, lo), s)));
+            v = Add(hi, Add(lo, Mul(Mul(Add(hi, lo), e), q)));
         }
     } else {
         v = RootFinish<R, Terms>(z, bigM);
