@@ -12,8 +12,9 @@
  *   EP: the same series to degree 2.
  *   LA and EP send s outside [2^-67, 2^66), where the single estimate does not reach,
  *   to the scalar routine.
- * Single Abs: the squares are exact in double; their sum's root in double, rounded once
- *   more to single. Only infinite and NaN parts go to the scalar routine.
+ * Single Abs, HA: the squares are exact in double; their sum's root in double, rounded
+ *   once more to single. Only infinite and NaN parts go to the scalar routine.
+ *   LA and EP: the same in single, with a window on the larger part.
  * The scalar routine: an infinite part gives +inf even beside a NaN; a NaN beside a
  * finite part gives NaN; both zero give +0; otherwise the larger part is brought near 1
  * by a power of two, the root taken as HA takes it, and the power restored at the end,
@@ -125,6 +126,27 @@ struct AbsC {
     static int Scalar(const In* x, const In* w, Out* y) { return AbsScalar(x, w, y); }
 };
 
+// Single LA and EP: the squares and their sum in single, and its root (about an ulp). Lanes
+// whose larger part lies outside [2^-50, 2^60] (zeros, denormals, huge parts, infinities,
+// NaNs) go to the scalar routine; inside, neither square overflows and the smaller one's
+// underflow is far below the sum's rounding.
+struct AbsCLight {
+    using T = float;
+    using In = BrennComplex8;
+    using Out = float;
+    static constexpr uint32_t kLo = 0x26800000, kHi = 0x5D800000; // 2^-50, 2^60
+    static int Eval(const Cx<float>* x, const Cx<float>*, Cx<float>& y) {
+        const __m128 mag = AbsMask<float>();
+        __m128 larger = AsFloat(Max(AsInt(And(x->re, mag)), AsInt(And(x->im, mag))));
+        __m128 special =
+            RangeTest(larger, Range32{0xFFFFFFFFu, 0x80000000u - kLo, 0x80000000u + (kHi - kLo)});
+        __m128 re = NaNWhere(special, x->re), im = NaNWhere(special, x->im);
+        y.re = Sqrt(Add(Mul(re, re), Mul(im, im)));
+        return MaskBits(special);
+    }
+    static int Scalar(const In* x, const In* w, Out* y) { return AbsScalar(x, w, y); }
+};
+
 // The phase: Atan2 of (im, re) at the level.
 template <class Tp, Level L>
 struct ArgBody {
@@ -150,9 +172,9 @@ extern "C" {
 ZAR_COMPLEX_KERNEL(z, Abs, LA, AbsArg, AbsZ<Level::LA>)
 ZAR_COMPLEX_KERNEL(z, Abs, HA, AbsArg, AbsZ<Level::HA>)
 ZAR_COMPLEX_KERNEL(z, Abs, EP, AbsArg, AbsZ<Level::EP>)
-ZAR_COMPLEX_KERNEL(c, Abs, LA, AbsArg, AbsC)
+ZAR_COMPLEX_KERNEL(c, Abs, LA, AbsArg, AbsCLight)
 ZAR_COMPLEX_KERNEL(c, Abs, HA, AbsArg, AbsC)
-ZAR_COMPLEX_KERNEL(c, Abs, EP, AbsArg, AbsC)
+ZAR_COMPLEX_KERNEL(c, Abs, EP, AbsArg, AbsCLight)
 
 ZAR_COMPLEX_KERNEL(z, Arg, LA, AbsArg, ArgBody<double, Level::LA>)
 ZAR_COMPLEX_KERNEL(z, Arg, HA, AbsArg, ArgBody<double, Level::HA>)

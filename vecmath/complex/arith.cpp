@@ -32,13 +32,29 @@ inline int NonFiniteBits(__m128 re, __m128 im) {
     return MaskBits(Or(r, i));
 }
 
-// a (double, two lanes) below 2^-20 * q (or non-finite): |re| <= 2^-20 |q| in the
-// not-less sense, by integer compares of magnitudes so that NaNs raise no flag.
-inline I64x2 Cancelled(__m128d re, __m128d q) {
+// Lanes whose part re kept its bits: |re| above 2^-20 |q| (double) or 2^-10 |q| (single),
+// q the product it was made from, and finite; by integer compares of magnitudes, so that
+// NaNs raise no flag. The others cancelled by 20 (10) bits or more, or are not finite.
+inline I64x2 Kept(__m128d re, __m128d q) {
     const I64x2 inf = Set<int64_t>(0x7FF0000000000000);
     I64x2 r = AsInt(Abs(re)), t = AsInt(Mul(Abs(q), Set<double>(0x1p-20)));
-    I64x2 ok = And(Gt(r, t), Gt(inf, r));
-    return Not(ok);
+    return And(Gt(r, t), Gt(inf, r));
+}
+inline I32x4 Kept(__m128 re, __m128 q) {
+    const I32x4 inf = Set<int32_t>(0x7F800000);
+    I32x4 r = AsInt(Abs(re)), t = AsInt(Mul(Abs(q), Set<float>(0x1p-10f)));
+    return And(Gt(r, t), Gt(inf, r));
+}
+
+// EP: the plain products, (a + bi)(c + di) or, with Conj, (a + bi)(c - di) with the sign
+// taken by the operations; the lanes that did not keep their bits go to the scalar routine
+// (exact). Single EP keeps at least 13 of its 24 bits.
+template <bool Conj, class V>
+BRENN_VEC int PlainProducts(V a, V b, V c, V d, V& re, V& im) {
+    V p = Mul(a, c), q = Mul(b, d), s = Mul(a, d), t = Mul(b, c);
+    re = Conj ? Add(p, q) : Sub(p, q);
+    im = Conj ? Sub(t, s) : Add(s, t);
+    return MaskBits(Not(And(Kept(re, q), Kept(im, s))));
 }
 
 template <bool Conj>
@@ -58,34 +74,23 @@ struct MulZ {
     using V = __m128d;
     static constexpr const char* kName = MulName<Conj>();
     static int Eval(const Cx<double>* x, const Cx<double>* w, Cx<double>& y) {
-        V a = x->re, b = x->im, c = w->re, d = Conj ? Neg(w->im) : w->im;
-        if constexpr (L == Level::EP) {
-            V p = Mul(a, c), q = Mul(b, d), s = Mul(a, d), t = Mul(b, c);
-            y.re = Sub(p, q);
-            y.im = Add(s, t);
-            return MaskBits(Or(Cancelled(y.re, q), Cancelled(y.im, s)));
-        } else {
-            // each factor split once for its two products
+        if constexpr (L != Level::EP) {
+            // each factor split once for its two products; MulByConj's sign of d is taken
+            // by the operations: ac + bd, bc - ad
+            V a = x->re, b = x->im, c = w->re, d = w->im;
             Halves<V> ha = SplitOnce(a), hb = SplitOnce(b), hc = SplitOnce(c), hd = SplitOnce(d);
-            V lo;
-            SumOfProducts(ha, hc, Negated(hb), hd, y.re, lo);
-            SumOfProducts(ha, hd, hb, hc, y.im, lo);
-            return MaskBits(OutsideWindow<kMulWindowTop>(a, b, c, d));
+            y.re = RoundedSumOfProducts<!Conj>(ha, hc, hb, hd);
+            y.im = Conj ? RoundedSumOfProducts<true>(hb, hc, ha, hd)
+                        : RoundedSumOfProducts<false>(ha, hd, hb, hc);
+            return OutsideWindowBits<kMulWindowTop>(a, b, c, d);
+        } else {
+            return PlainProducts<Conj>(x->re, x->im, w->re, w->im, y.re, y.im);
         }
     }
     static int Scalar(const In* x, const In* w, Out* y) { return MulScalar(x, w, y, Conj); }
 };
 
-// The same test on single lanes, at 2^-10: a part cancelled by 10 bits or more, or not
-// finite (EP keeps at least 13 of its 24 bits).
-inline I32x4 Cancelled(__m128 re, __m128 q) {
-    const I32x4 inf = Set<int32_t>(0x7F800000);
-    I32x4 r = AsInt(Abs(re)), t = AsInt(Mul(Abs(q), Set<float>(0x1p-10f)));
-    return Not(And(Gt(r, t), Gt(inf, r)));
-}
-
-// Single EP: the plain products in single, the cancelled and non-finite lanes to the
-// scalar routine (exact in double).
+// Single EP: the plain products in single.
 template <bool Conj>
 struct MulCLight {
     using T = float;
@@ -93,11 +98,7 @@ struct MulCLight {
     using Out = BrennComplex8;
     static constexpr const char* kName = MulNameC<Conj>();
     static int Eval(const Cx<float>* x, const Cx<float>* w, Cx<float>& y) {
-        __m128 a = x->re, b = x->im, c = w->re, d = Conj ? Neg(w->im) : w->im;
-        __m128 p = Mul(a, c), q = Mul(b, d), s = Mul(a, d), t = Mul(b, c);
-        y.re = Sub(p, q);
-        y.im = Add(s, t);
-        return MaskBits(Or(Cancelled(y.re, q), Cancelled(y.im, s)));
+        return PlainProducts<Conj>(x->re, x->im, w->re, w->im, y.re, y.im);
     }
     static int Scalar(const In* x, const In* w, Out* y) { return MulScalar(x, w, y, Conj); }
 };
@@ -146,7 +147,7 @@ struct DivZ {
     static constexpr const char* kName = "vzDiv";
     static int Eval(const Cx<double>* x, const Cx<double>* w, Cx<double>& y) {
         V a = x->re, b = x->im, c = w->re, d = w->im;
-        int bits = MaskBits(OutsideWindow<kDivWindowTop>(a, b, c, d));
+        int bits = OutsideWindowBits<kDivWindowTop>(a, b, c, d);
         if constexpr (L == Level::EP) {
             V r = Div(Set<double>(1), Add(Mul(c, c), Mul(d, d)));
             y.re = Mul(Add(Mul(a, c), Mul(b, d)), r);
@@ -160,7 +161,7 @@ struct DivZ {
             V inv = Div(Set<double>(1), dh);
             SumOfProducts(ha, hc, hb, hd, nh, nl);
             y.re = QuotientOf(nh, nl, hdh, dl, inv);
-            SumOfProducts(hb, hc, Negated(ha), hd, nh, nl);
+            SumOfProducts<true>(hb, hc, ha, hd, nh, nl);
             y.im = QuotientOf(nh, nl, hdh, dl, inv);
         }
         return bits;

@@ -51,21 +51,37 @@ BRENN_VEC void ExactProduct(const Halves<V>& a, const Halves<V>& b, V& hi, V& lo
     hi = Mul(a.v, b.v);
     lo = Add(Add(Add(Sub(Mul(a.hi, b.hi), hi), Mul(a.hi, b.lo)), Mul(a.lo, b.hi)), Mul(a.lo, b.lo));
 }
-// hi + lo = a*c + b*d from split factors, hi the rounded value (as SumOfProducts).
+// s + e = a - b exactly: TwoSum of a and -b, without the negation.
 template <class V>
+BRENN_VEC void TwoDiff(V a, V b, V& s, V& e) {
+    s = Sub(a, b);
+    V bb = Sub(s, a);
+    e = Sub(Sub(a, Sub(s, bb)), Add(b, bb));
+}
+// hi + lo = a*c + b*d (Minus: a*c - b*d) from split factors, hi the rounded value (as
+// SumOfProducts below); the sign of the second product is taken by the operations.
+template <bool Minus = false, class V>
 BRENN_VEC void SumOfProducts(const Halves<V>& a, const Halves<V>& c, const Halves<V>& b,
                              const Halves<V>& d, V& hi, V& lo) {
     V p, pl, q, ql, e;
     ExactProduct(a, c, p, pl);
     ExactProduct(b, d, q, ql);
-    TwoSum(p, q, hi, e);
-    lo = Add(e, Add(pl, ql));
+    if constexpr (Minus) {
+        TwoDiff(p, q, hi, e);
+        lo = Add(e, Sub(pl, ql));
+    } else {
+        TwoSum(p, q, hi, e);
+        lo = Add(e, Add(pl, ql));
+    }
     FastTwoSum(hi, lo, hi, lo);
 }
-// The negation of a split factor (exact).
-template <class V>
-BRENN_VEC Halves<V> Negated(const Halves<V>& a) {
-    return {Neg(a.v), Neg(a.hi), Neg(a.lo)};
+// Its head alone.
+template <bool Minus, class V>
+BRENN_VEC V RoundedSumOfProducts(const Halves<V>& a, const Halves<V>& c, const Halves<V>& b,
+                                 const Halves<V>& d) {
+    V hi, lo;
+    SumOfProducts<Minus>(a, c, b, d, hi, lo);
+    return hi;
 }
 
 // hi + lo = a*c + s*b*d (s = +1 or -1 by Neg), hi the rounded value.
@@ -105,14 +121,18 @@ BRENN_VEC __m128d HighWordsToLanes(I32x4 o) {
     return AsFloat(BitCast<I64x2>(I32x4{_mm_shuffle_epi32(o.v, _MM_SHUFFLE(3, 3, 1, 1))}));
 }
 
-// Each lane all ones where one of the four parts lies outside the window.
+// The high words of two registers' lanes in one: a0, a1, b0, b1.
+BRENN_VEC __m128d HighWordsOf(__m128d a, __m128d b) {
+    return _mm_castps_pd(
+        _mm_shuffle_ps(_mm_castpd_ps(a), _mm_castpd_ps(b), _MM_SHUFFLE(3, 1, 3, 1)));
+}
+// Bit k set where one of the four parts of element k lies outside the window, the high
+// words tested four at a time.
 template <int32_t Top>
-BRENN_VEC __m128d OutsideWindow(__m128d a, __m128d b, __m128d c, __m128d d) {
-    I32x4 o = HighWordOutside<kWindowBottom, Top>(a);
-    o = Or(o, HighWordOutside<kWindowBottom, Top>(b));
-    o = Or(o, HighWordOutside<kWindowBottom, Top>(c));
-    o = Or(o, HighWordOutside<kWindowBottom, Top>(d));
-    return HighWordsToLanes(o);
+BRENN_VEC int OutsideWindowBits(__m128d a, __m128d b, __m128d c, __m128d d) {
+    int m = MaskBits(Or(HighWordOutside<kWindowBottom, Top>(HighWordsOf(a, b)),
+                        HighWordOutside<kWindowBottom, Top>(HighWordsOf(c, d))));
+    return (m | (m >> 2)) & 3;
 }
 
 // The larger magnitude of two parts, chosen by the bits (maxpd would raise invalid for

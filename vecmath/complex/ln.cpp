@@ -8,8 +8,8 @@
  * Lanes whose larger part lies outside [2^-450, 2^500], and the lanes Atan2 sends to
  * its own scalar routine (zeros, infinities, NaNs, parts outside [2^-500, 2^500)), go to
  * the scalar routine.
- * Single: s in double from the exact squares, the same core and Atan2 in double on
- * widened lanes, rounded once to single.
+ * Single: s in double from the exact squares (their sum in two parts), the same core and
+ * Atan2 in double on widened lanes, rounded once to single (ln_body.h).
  *
  * The scalar routine works in extended precision: near |z| = 1 the real part is
  * log1p((x - 1)(x + 1) + y^2)/2 of the larger magnitude x and the smaller y, elsewhere
@@ -22,9 +22,7 @@
 #include "vecmath/complex/cframe.h"
 #include "vecmath/complex/exact.h"
 #include "vecmath/complex/ext_elem.h"
-#include "vecmath/explog/log_core.h"
-#include "vecmath/frame/level.h"
-#include "vecmath/invtrig/atan_body.h"
+#include "vecmath/complex/ln_body.h"
 
 namespace brenn::vm::cx {
 namespace {
@@ -38,14 +36,6 @@ int LnScalar(const E* z, const E*, E* y) {
     y->re = R(re);
     y->im = R(im);
     return st;
-}
-
-// ln|z| from s = sh + sl, at the level.
-template <Level L>
-BRENN_VEC __m128d HalfLog(__m128d sh, __m128d sl) {
-    __m128d h, r, t;
-    LnCore3<L>(sh, h, r, t);
-    return Mul(Add(h, Add(r, Add(t, Div(sl, sh)))), Set<double>(0.5));
 }
 
 template <Level L>
@@ -70,18 +60,11 @@ struct LnZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, LnScalar
 
 template <Level L>
 struct LnC : ExtendedScalarBody<float, BrennComplex8, BrennComplex8, LnScalar> {
-    using Atan2 = invtrig::Atan2Body<double, L, invtrig::Unit::Radian>;
     static constexpr const char* kName = "vcLn";
-    static void Half(__m128d a, __m128d b, __m128d& re, __m128d& im, __m128d& special) {
-        im = Atan2::Eval(b, a, special);
-        a = IfThenElse(special, Set<double>(1), a);
-        b = IfThenZeroElse(special, b);
-        re = HalfLog<L>(Add(Mul(a, a), Mul(b, b)), Zero<double>());
-    }
     static int Eval(const Cx<float>* x, const Cx<float>*, Cx<float>& y) {
         __m128d r0, i0, s0, r1, i1, s1;
-        Half(WidenLower(x->re), WidenLower(x->im), r0, i0, s0);
-        Half(WidenUpper(x->re), WidenUpper(x->im), r1, i1, s1);
+        LnOfWidened<L>(WidenLower(x->re), WidenLower(x->im), r0, i0, s0);
+        LnOfWidened<L>(WidenUpper(x->re), WidenUpper(x->im), r1, i1, s1);
         y.re = Narrow(r0, r1);
         y.im = Narrow(i0, i1);
         return MaskBits(s0) | (MaskBits(s1) << 2);
