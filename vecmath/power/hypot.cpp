@@ -5,10 +5,15 @@
  * 0.5 ulp. Single LA and EP: the sum of squares in single and the root from the
  * reciprocal root estimate, refined once at LA, as Sqrt does at those levels; lanes
  * whose sum overflows, underflows or is zero go to the scalar routine.
- * Double: both scaled by 2^-e for the exponent e of the larger, so that it lies in
- * [1, 2). HA: the larger square exactly in two parts, the sum of squares in two parts,
- * a 26-bit root and its correction: within about 0.6 ulp. LA and EP: the rounded
- * squares and root, within about 1 ulp.
+ * Double: where the larger of a register's operands all lie in [2^-400, 2^400), the
+ * squares and their tails need no scaling and are taken as they stand; a register with
+ * a lane outside (or an infinity or NaN) scales both by 2^-e for the exponent e of the
+ * larger, so that it lies in [1, 2). HA: the larger square exactly in two parts, the sum
+ * of squares in two parts, its rounded root r and the correction (sum - r^2)/(2r), with
+ * r^2 exact and 1/(2r) from an estimate and one Newton step (it need only be good to a
+ * few per cent): within about 0.55 ulp. LA and EP: the rounded squares and root,
+ * within about 1 ulp (the first test spares them the scaling: as fast as the sum of
+ * squares and its root).
  * Special lanes: an infinite or NaN operand; in double also a larger operand that is
  * denormal (or both zero) or at least 2^1023. The scalar routine widens both (single to
  * double, double to extended), adds the squares and takes the root: an infinity gives
@@ -34,6 +39,8 @@ struct HypotRanges<float> {
 };
 template <>
 struct HypotRanges<double> {
+    // |x| outside [2^-400, 2^400), infinite or NaN (the high word).
+    static constexpr Range32 kPlain{0x7FFFFFFFu, 0x59100000u, 0xB1FFFFFFu};
     // |x| at least 2^1023, infinite or NaN.
     static constexpr Range64 kTop{0x7FFFFFFFFFFFFFFFull, 0ull, 0x7FDFFFFFFFFFFFFFull};
     // |x| below the smallest normal (zero or denormal).
@@ -91,36 +98,53 @@ inline __m128 HypotOf(__m128 a, __m128 b, __m128& special) {
     return Narrow(HypotWide(WidenLower(a), WidenLower(b)), HypotWide(WidenUpper(a), WidenUpper(b)));
 }
 
+// The root of x^2 + z^2 for x >= z >= 0 with x in [2^-400, 2^400) (or scaled into
+// [1, 2)). HA: x^2 = xx + SquareTail exactly, z^2 rounded (at most a quarter ulp of the
+// sum away), the sum as a head s and a tail; r = sqrt(s) rounded, r^2 = rr + its tail
+// exactly, and r + d/(2r) with d = s - r^2 + tail, |d/(2r)| within about 1.5 ulp of r,
+// so that 1/(2r) to 2^-6 adds at most 0.03 ulp: within about 0.55 ulp in all.
+template <Level L>
+inline __m128d HypotScaled(__m128d x, __m128d z) {
+    if constexpr (L != Level::HA) return HypotWide(x, z);
+    __m128d xx = Mul(x, x), zz = Mul(z, z);
+    __m128d s, e;
+    FastTwoSum(xx, zz, s, e);
+    __m128d tail = Add(e, SquareTail(x, xx));
+    __m128d r = Sqrt(s);
+    __m128d rr = Mul(r, r);
+    __m128d d = Add(Sub(Sub(s, rr), SquareTail(r, rr)), tail);
+    // 1/(2r) from the bits (within 12 %) and one Newton step (1.5 %).
+    __m128d r2 = Add(r, r);
+    __m128d h = AsFloat(Sub(Set<int64_t>(0x7FDE623822FC16E6ll), AsInt(r2)));
+    h = Mul(h, Sub(Set<double>(2.0), Mul(r2, h)));
+    return Add(r, Mul(d, h));
+}
+
 template <Level L>
 inline __m128d HypotOf(__m128d a, __m128d b, __m128d& special) {
     using F = Format<double>;
     using R = HypotRanges<double>;
     const __m128d one = Set<double>(1.0);
     __m128d ax = Abs(a), bx = Abs(b);
+    // The larger both ways round, so that a NaN in either shows (maxpd returns its
+    // second operand when one is NaN).
+    __m128d big = Max(ax, bx), small = Min(ax, bx);
+    __m128d wide = Or(RangeTest(big, R::kPlain), RangeTest(Max(bx, ax), R::kPlain));
+    if (__builtin_expect(MaskBits(wide) == 0, 1)) {
+        special = Zero<double>();
+        return HypotScaled<L>(big, small);
+    }
     special = Or(Or(RangeTest(ax, R::kTop), RangeTest(bx, R::kTop)),
                  AndNot(Or(RangeTest(ax, R::kNotSmall), RangeTest(bx, R::kNotSmall)),
                         AsFloat(Set<int64_t>(-1))));
     ax = IfThenElse(special, one, ax);
     bx = IfThenElse(special, one, bx);
     // 2^-e and 2^e for the exponent e of the larger, e from -1022 to 1022.
-    __m128d big = Max(ax, bx), small = Min(ax, bx);
+    big = Max(ax, bx), small = Min(ax, bx);
     const I64x2 field = And(AsInt(big), Set<uint64_t>(F::kExpField));
     const __m128d down = AsFloat(Sub(Set<int64_t>(int64_t(2 * F::kBias) << F::kMantBits), field));
     const __m128d up = AsFloat(field);
-    __m128d x = Mul(big, down), z = Mul(small, down);
-    if constexpr (L != Level::HA) return Mul(HypotWide(x, z), up);
-    // x^2 exactly, from the halves of x (x^2 = xx + SquareTail), z^2 rounded (at most a
-    // quarter ulp of the sum away), the sum as a head s and a tail; r0, the root of s cut
-    // to 26 bits, has an exact square, and with q = (sum - r0^2)/(2 r0), about 2^-26 of
-    // r0, sqrt(sum) = r0 + q - q^2/(2 r0) to 2^-78: within about 0.6 ulp.
-    __m128d xx = Mul(x, x), zz = Mul(z, z);
-    __m128d s, e;
-    FastTwoSum(xx, zz, s, e);
-    __m128d tail = Add(e, SquareTail(x, xx));
-    __m128d r0 = And(Sqrt(s), AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull)));
-    __m128d d = Add(Sub(s, Mul(r0, r0)), tail);
-    __m128d q = Div(d, Add(r0, r0));
-    return Mul(Add(r0, Sub(q, Div(Mul(q, q), Add(r0, r0)))), up);
+    return Mul(HypotScaled<L>(Mul(big, down), Mul(small, down)), up);
 }
 
 template <class Tp, Level L>
