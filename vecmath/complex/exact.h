@@ -45,6 +45,16 @@ BRENN_VEC Halves<V> SplitOnce(V a) {
     V hi = Sub(t, Sub(t, a));
     return {a, hi, Sub(a, hi)};
 }
+// A cheaper split, the low 27 bits masked off: halves of 26 and 27 bits, so that the
+// product of the two low halves may round (by 2^-104 of the product). Enough for the
+// squares of Abs, whose sum does not cancel and whose root's correction needs the
+// residual to far fewer bits; not for Mul or Div, which must stay exact where products
+// cancel.
+template <class V>
+BRENN_VEC Halves<V> SplitByMask(V a) {
+    V hi = And(a, AsFloat(Set<int64_t>(int64_t(0xFFFFFFFFF8000000ull))));
+    return {a, hi, Sub(a, hi)};
+}
 // The exact product of two split factors (as ExactProduct).
 template <class V>
 BRENN_VEC void ExactProduct(const Halves<V>& a, const Halves<V>& b, V& hi, V& lo) {
