@@ -100,11 +100,18 @@ inline __m128d PowOf(__m128d x, __m128d y, __m128d& special) {
     __m128d sxy = Or(RangeTest(x, R::kX), RangeTest(y, R::kY));
     x = IfThenElse(sxy, Set<double>(1.0), x);
     y = IfThenZeroElse(sxy, y);
-    __m128d wh, wl, sw;
-    PowW<L, false>(y, LnReduce(x), wh, wl);
-    __m128d v = PowExp<kPowExpDegree<L, false>>(wh, wl, sw);
-    special = Or(sxy, sw);
-    return v;
+    if constexpr (L == Level::EP) {
+        __m128d w = PowWEP(y, LnReduce(x));
+        __m128d sw = RangeTest(w, kPowW);
+        special = Or(sxy, sw);
+        return PowExpEP(IfThenZeroElse(sw, w));
+    } else {
+        __m128d wh, wl, sw;
+        PowW<L, false>(y, LnReduce(x), wh, wl);
+        __m128d v = PowExp<kPowExpDegree<L, false>>(wh, wl, sw);
+        special = Or(sxy, sw);
+        return v;
+    }
 }
 
 } // namespace brenn::vm

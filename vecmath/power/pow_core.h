@@ -8,8 +8,9 @@
  * about 2^-60 of |w| even for |y| up to 2^900 and results near the overflow and
  * underflow thresholds. e^w uses the reduction of the table of 64 (exp_core.h) on the
  * head, the tail added to the reduced argument.
- * The single rows and double EP need less: w = y * ln x in one double, with the
- * logarithm of the double core at the level's degree. */
+ * The single rows need less: w = y * ln x in one double, with the logarithm of the
+ * double core at the level's degree; double EP has a short form of its own (PowWEP,
+ * PowExpEP: about 33 bits). */
 #ifndef BRENN_VECMATH_POWER_POW_CORE_H
 #define BRENN_VECMATH_POWER_POW_CORE_H
 
@@ -91,15 +92,46 @@ inline __m128d ExpHiLoWide(__m128d wh, __m128d wl) {
     return Mul(Mul(v, PowerOfTwo(m1)), PowerOfTwo(Sub(m, m1)));
 }
 
+// Double EP: w = y * ln x in one double, within about 2^-33 of |w| for every |w| that
+// passes. r = m*rcp - 1 rounded once (2^-53, within 2^-43 of ln x where a row's head
+// is not 0, exact where it is) and ln(1 + r) by its Taylor quartic (r^5/5 left out,
+// 2^-42 of r on |r| <= 2^-10); the low parts of k*ln2 and of the row stay, since the
+// heads cancel for x just below 1.
+constexpr double kPowLnTaylor[] = {-0.5, 1.0 / 3, -0.25};
+inline __m128d PowWEP(__m128d y, const LnReduction& red) {
+    using K = LogConst<double>;
+    __m128d r = Sub(Mul(Add(red.mh, red.ml), red.rcp), Set<double>(1.0));
+    __m128d h = Add(Mul(red.k, Set<double>(K::kLn2Hi)), red.th);
+    __m128d tail = Add(Mul(red.k, Set<double>(K::kLn2Lo)), red.tl);
+    __m128d t = Add(Mul(Mul(r, r), Horner(r, kPowLnTaylor)), tail);
+    return Mul(y, Add(h, Add(r, t)));
+}
+
+// e^w for double EP, |w| <= 708.39: the table of 64 with the Taylor cubic (r^4/24 left
+// out, 2^-34.6 on |r| <= ln2/128), ln2/64 in one double and the rows' low parts left
+// out (each below 2^-43).
+constexpr double kPowExpTaylor[] = {0.5, 1.0 / 6};
+inline __m128d PowExpEP(__m128d w) {
+    using S = ExpStep64;
+    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    __m128d t = Add(Mul(w, Set<double>(S::kInvStep)), shifter);
+    __m128d r = Sub(w, Mul(Sub(t, shifter), Set<double>(S::kStepHi + S::kStepLo)));
+    __m128d th, tl;
+    ExpRows64(t, th, tl);
+    __m128d p = Add(r, Mul(Mul(r, r), Horner(r, kPowExpTaylor)));
+    return Mul(Add(th, Mul(th, p)), ExpScale64(t));
+}
+
 // w = y * ln x, positive normal x, |y| below 2^900: wh + wl for double at LA and HA,
-// one double (wl zero) for double EP and for the single rows, whose lanes were widened
-// (`single`). `red` is the logarithm core's reduction of x.
+// one double (wl zero) for the single rows, whose lanes were widened (`single`).
+// `red` is the logarithm core's reduction of x.
 template <Level L, bool Single>
 inline void PowW(__m128d y, const LnReduction& red, __m128d& wh, __m128d& wl) {
-    if constexpr (Single || L == Level::EP) {
+    static_assert(Single || L != Level::EP, "double EP has PowWEP");
+    if constexpr (Single) {
         // Single LA and EP: the cubic core (2^-33 of ln x; w within 2^-26 of 1 for
-        // |w| up to 104); single HA and double EP: degree 5.
-        constexpr Level core = Single && L != Level::HA ? Level::EP : Level::LA;
+        // |w| up to 104); single HA: degree 5.
+        constexpr Level core = L != Level::HA ? Level::EP : Level::LA;
         __m128d h, l;
         LnCoreFrom<core>(red, h, l);
         wh = Mul(y, Add(h, l));
@@ -117,7 +149,7 @@ inline void PowW(__m128d y, const LnReduction& red, __m128d& wh, __m128d& wl) {
 template <Level L, bool Single>
 constexpr ExpDegree kPowExpDegree = L == Level::HA   ? (Single ? ExpDegree::Five : ExpDegree::Six)
                                     : L == Level::LA ? (Single ? ExpDegree::Four : ExpDegree::Five)
-                                                     : ExpDegree::Four;
+                                                     : ExpDegree::Four; // single EP
 
 // |x|^y in double for the scalar routines: x positive and finite (denormals included),
 // y finite and not zero; the value rounded once, overflow to +inf and underflow to zero
