@@ -66,6 +66,7 @@ struct Job {
     Kind kind;
     void* fn;
     long n;
+    double powxB = NAN; // Powx beside the row its exponent dispatches to: b fixed
 };
 
 struct V4x2 {
@@ -152,7 +153,8 @@ void MakeBuffers(const Job& j, Buffers& b) {
     // Powx's exponent, one value for the whole call: VECMATH_BENCH_POWX_B=0.5 times the
     // path the kernel takes for that b (a random one otherwise).
     const char* powxB = getenv("VECMATH_BENCH_POWX_B");
-    const bool fixedB = shape == "Powx" && powxB && !complex;
+    const bool fixedB = shape == "Powx" && (powxB || !std::isnan(j.powxB)) && !complex;
+    const double bValue = std::isnan(j.powxB) ? (powxB ? atof(powxB) : 0.0) : j.powxB;
     if (single) {
         Fill(static_cast<float*>(b.a), reals, lo, hi, rng);
         Fill(static_cast<float*>(b.b), reals, blo == bhi ? lo : blo, blo == bhi ? hi : bhi, rng);
@@ -164,9 +166,9 @@ void MakeBuffers(const Job& j, Buffers& b) {
     }
     if (fixedB) {
         if (single)
-            static_cast<float*>(b.b)[0] = float(atof(powxB));
+            static_cast<float*>(b.b)[0] = float(bValue);
         else
-            static_cast<double*>(b.b)[0] = atof(powxB);
+            static_cast<double*>(b.b)[0] = bValue;
     }
 }
 
@@ -528,6 +530,27 @@ int main(int argc, char** argv) {
                          Job{&r, f, Kind::Kernel, reinterpret_cast<void*>(slots[s]), n}, costs[s]);
             }
             RegisterPeers(r, *f, n, libs);
+            // Real Powx with b = 2, 0.5 and -1, which dispatch to Sqr, Sqrt and Inv (at LA
+            // and EP; at HA -1 and 0.5), on those rows' inputs: "dPowx/b2_LA/1000".
+            if (std::string(r.shape) == "Powx" && (r.type == 's' || r.type == 'd')) {
+                static const struct {
+                    double b;
+                    const char* label;
+                    const char* row;
+                } kBeside[] = {{2.0, "b2", "Sqr"}, {0.5, "b0.5", "Sqrt"}, {-1.0, "b-1", "Inv"}};
+                for (const auto& k : kBeside) {
+                    const RowFacts* kf = FindRowFacts((std::string(1, r.type) + k.row).c_str());
+                    for (int s = 0; s < 3 && kf; ++s) {
+                        if (!slots[s]) continue;
+                        static const char* const kSlot[3] = {"LA", "HA", "EP"};
+                        std::string name = std::string(r.name) + "/" + k.label + "_" + kSlot[s] +
+                                           "/" + std::to_string(n);
+                        Register(name.c_str(),
+                                 Job{&r, kf, Kind::Kernel, reinterpret_cast<void*>(slots[s]), n, k.b},
+                                 0);
+                    }
+                }
+            }
         }
     }
     for (long width : {4L, 8L}) {
