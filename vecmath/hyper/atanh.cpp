@@ -5,7 +5,8 @@
  * Double HA: 1 + a and 1 - a as exact pairs, their quotient corrected once into a pair.
  * Double LA and EP: w = 1 + u, u = 2a/(1 - a), the
  * rounding of 1 + u recovered, so that small arguments keep their relative accuracy.
- * Single HA on widened lanes, w from a single division corrected once in double.
+ * Single HA: w from a single division corrected once in double, its logarithm by the
+ * single lanes' split with the double core.
  * Single LA and EP in single arithmetic: the odd series for x^2 below 1/4, else w by
  * division (LA) or rcpps (EP) and ln(w)/2 by the split of the explog family (LA) or by
  * exponent and significand (EP).
@@ -97,32 +98,37 @@ inline __m128 AtanhSingleLA(__m128 x) {
     return Or(y, SignBit(x));
 }
 
-// Single HA on widened lanes: for a single a, n = 1 + a and d = 1 - a are exact in
-// double. The quotient is taken in single (4 lanes a division) and corrected once in
-// double, w = ws + (n - ws*d)*rcpps(d), where ws*d is exact: w within about 2^-36 of n/d.
-// ln(w)/2 by the EP core (2^-33) is then far below a single ulp from 2^-7 on; below, the
-// series to a^9.
-inline __m128d AtanhWide(__m128d a, __m128d ws, __m128d rd) {
+// Single HA: w = n/d, n = 1 + a and d = 1 - a, exact in double for a single a. The
+// quotient is taken in single (four lanes a division) as ws, and ln w = ln ws + ln(1 + e)
+// with e = (n - ws*d)/(ws*d), under 2^-23: n - ws*d is exact in double (ws*d has 48 bits
+// and is within a few ulps of n), and e is taken as that remainder times the single
+// reciprocal estimate of n, within about 2^-35 of it. ln ws by the split of the single lanes
+// with the EP core in double (2^-33, log_core.h), so that ln(w)/2 is far below a single ulp
+// from 2^-7 on; below, a + a^3/3 + a^5/5 in single, whose tail is under 2^-15 of a. The
+// correction joins in double, off the logarithm's chain.
+constexpr float kAtanhSeriesHA[] = {1.0f / 3, 1.0f / 5};
+
+inline __m128d AtanhCorrection(__m128d a, __m128d ws, __m128d rn) {
     const __m128d one = Set<double>(1.0);
-    __m128d n = Add(one, a), d = Sub(one, a);
-    __m128d w = Add(ws, Mul(Sub(n, Mul(ws, d)), rd));
-    __m128d h, l;
-    LnCore<Level::EP>(w, h, l);
-    __m128d y = Mul(Set<double>(0.5), Add(h, l));
-    __m128d z = Mul(a, a);
-    __m128d series = Add(a, Mul(Mul(a, z), Horner(z, kAtanhSeries)));
-    return IfThenElse(Lt(a, Set<double>(kSeriesEnd)), series, y);
+    return Mul(Sub(Add(one, a), Mul(ws, Sub(one, a))), rn);
 }
 
 inline __m128 AtanhWide(__m128 x) {
     const __m128 one = Set<float>(1.0f);
     __m128 a = Abs(x);
-    __m128 d = Sub(one, a);
-    __m128 ws = Div(Add(one, a), d);
-    __m128 rd = ApproxRecip(d);
-    __m128d lo = AtanhWide(WidenLower(a), WidenLower(ws), WidenLower(rd));
-    __m128d hi = AtanhWide(WidenUpper(a), WidenUpper(ws), WidenUpper(rd));
-    return Or(Narrow(lo, hi), SignBit(x));
+    __m128 n = Add(one, a);
+    __m128 ws = Div(n, Sub(one, a));
+    __m128 rn = ApproxRecip(n);
+    __m128d elo = AtanhCorrection(WidenLower(a), WidenLower(ws), WidenLower(rn));
+    __m128d ehi = AtanhCorrection(WidenUpper(a), WidenUpper(ws), WidenUpper(rn));
+    const __m128d half = Set<double>(0.5);
+    __m128 y = LnOfSingleLanes(ws, [&](__m128d lo, __m128d hi) {
+        return Narrow(Mul(half, Add(lo, elo)), Mul(half, Add(hi, ehi)));
+    });
+    __m128 z = Mul(a, a);
+    __m128 series = Add(a, Mul(Mul(a, z), Horner(z, kAtanhSeriesHA)));
+    y = IfThenElse(Lt(a, Set<float>(float(kSeriesEnd))), series, y);
+    return Or(y, SignBit(x));
 }
 
 template <Level L>

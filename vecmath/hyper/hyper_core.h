@@ -139,29 +139,6 @@ inline __m128d Sum(const Pair& p) {
     return Add(p.hi, p.lo);
 }
 
-// n/d for pairs whose heads are the larger parts. With `exact`, the pairs are first
-// renormalised (a tail below half an ulp of its head), then the quotient of the heads is
-// corrected once by the remainder nh - q*dh (the product split exactly), so that the
-// quotient is rounded about once; else the quotient of the sums.
-template <bool exact>
-inline __m128d Quotient(const Pair& n, const Pair& d) {
-    if constexpr (exact) {
-        __m128d nh, nl, dh, dl;
-        FastTwoSum(n.hi, n.lo, nh, nl);
-        FastTwoSum(d.hi, d.lo, dh, dl);
-        __m128d q = Div(nh, dh);
-        __m128d ph, pl;
-        TwoProduct(q, dh, ph, pl);
-        __m128d rem = Sub(Add(Sub(Sub(nh, ph), pl), nl), Mul(q, dl));
-        // rem/dh is about 2^-53 of q: the single reciprocal estimate of dh (12 bits) is
-        // plenty, and spares a second division.
-        __m128d inv = WidenLower(ApproxRecip(Narrow(dh, dh)));
-        return Add(q, Mul(rem, inv));
-    } else {
-        return Div(Sum(n), Sum(d));
-    }
-}
-
 // The single HA rows' path: the both-exponentials body of the single LA rows run in double
 // on widened lanes, a in [0, 88], without a table: n = rint(a*log2e), r = a - n*ln2 (ln 2
 // in the logarithm's two parts), the scales 2^(n-1) and 2^(-n-1) from n's word, and

@@ -9,9 +9,10 @@
  * line c1*a + c0. x's sign is OR-ed back after the narrowing. HA, which the cubics' 0.94
  * ulp would not meet, divides sinh by cosh of the both-exponentials body run in double on
  * the widened lanes (hyper_core.h).
- * Double: sinh/cosh from the halves of e^a (hyper_core.h), a held at 22, where tanh is 1
- * to the last bit; the sums of the heads split exactly; HA corrects the quotient once,
- * LA and EP divide the sums.
+ * Double, a held at 22, where tanh is 1 to the last bit: LA and EP divide sinh by cosh
+ * from the halves of e^a (hyper_core.h), the sums of the heads split exactly; HA takes
+ * (E - 1)/(E + 1) from the one exponential E = e^(2a), the quotient corrected once, and
+ * the Taylor series below 1/16.
  * Only exponents of all ones go to the scalar routine (1 with x's sign, or the NaN);
  * nothing is reported. */
 #include "frame/kernels.h"
@@ -65,14 +66,59 @@ inline __m128 TanhOf(__m128 x) {
 // Above this tanh is 1 in double.
 constexpr double kTanhOne = 22.0;
 
-// tanh in double as sinh/cosh from the halves of e^a with the tail of degree D; the
-// heads' sums split exactly (the error of A - B is what the quotient would amplify),
-// and with `exact` the quotient corrected once.
-template <ExpDegree D, bool exact, class Series>
+// LA and EP: sinh/cosh from the halves of e^a with the tail of degree D, the heads' sums
+// split exactly (the error of A - B is what the quotient would amplify).
+template <ExpDegree D, class Series>
 inline __m128d TanhPath(__m128d x) {
     __m128d a = Min(Abs(x), Set<double>(kTanhOne));
     ExpHalves h = HalvesOf<D>(a);
-    __m128d y = Quotient<exact>(SinhOf<true, Series>(a, h), CoshOf<true>(h));
+    __m128d y = Div(Sum(SinhOf<true, Series>(a, h)), Sum(CoshOf<true>(h)));
+    return Or(y, SignBit(x));
+}
+
+// HA: one exponential, E = e^(2a) = 2^m*T[j]*(1 + p(r)) by the table of 64 (exp_core.h,
+// degree six), and tanh a = (E - 1)/(E + 1). E's head 2^m*Thi is exact and at least 1,
+// so its sums with -1 and +1 split exactly; the numerator is renormalised, since for
+// small m and j its head Thi - 1 and its tail are of one size. The quotient q of the
+// rounded sums is corrected once by the remainder N - q*D, whose product q*Dhi is taken
+// exactly from halves cut by a mask (26 and 27 bits times 26) and the rest of Dhi, and
+// rem/D by the single reciprocal estimate of Dhi (the correction is an ulp or two).
+// Below 1/16, where E - 1 would lose to cancellation what the roundings of r and of
+// Thi*p leave, the Taylor series of tanh to a^13 (the next term is 2^-65 of a).
+constexpr double kTanhSmallEnd = 0x1p-4;
+constexpr double kTanhTaylor[] = {-1.0 / 3,    2.0 / 15,         -17.0 / 315,
+                                  62.0 / 2835, -1382.0 / 155925, 21844.0 / 6081075};
+
+inline __m128d TanhHA(__m128d x) {
+    using S = ExpStep64;
+    const __m128d one = Set<double>(1.0);
+    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    __m128d a = Min(Abs(x), Set<double>(kTanhOne));
+    __m128d b = Add(a, a);
+    __m128d t = Add(Mul(b, Set<double>(S::kInvStep)), shifter);
+    __m128d n = Sub(t, shifter);
+    __m128d r = Sub(Sub(b, Mul(n, Set<double>(S::kStepHi))), Mul(n, Set<double>(S::kStepLo)));
+    __m128d th, tl;
+    ExpRows64(t, th, tl);
+    __m128d sc = ExpScale64(t);
+    // The tail by Estrin's scheme: the body is bound by its chain, not by its operations.
+    __m128d p = Add(r, Mul(Mul(r, r), Estrin(r, ExpTail<ExpDegree::Six>::kC)));
+    __m128d eh = Mul(th, sc);
+    __m128d el = Mul(Add(Mul(th, p), tl), sc);
+    __m128d nh, nl, dh, dl, e;
+    FastTwoSum(eh, Neg(one), nh, e);
+    FastTwoSum(nh, Add(e, el), nh, nl);
+    FastTwoSum(eh, one, dh, e);
+    dl = Add(e, el);
+    __m128d q = Div(nh, Add(dh, dl));
+    const __m128d cut = AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull));
+    __m128d dhh = And(dh, cut), qh = And(q, cut);
+    __m128d rem = Sub(Sub(Sub(nh, Mul(qh, dhh)), Mul(Sub(q, qh), dhh)), Mul(q, Sub(dh, dhh)));
+    rem = Add(rem, Sub(nl, Mul(q, dl)));
+    __m128d y = Add(q, Mul(rem, WidenLower(ApproxRecip(Narrow(dh, dh)))));
+    __m128d z = Mul(a, a);
+    __m128d small = Add(a, Mul(Mul(a, z), Horner(z, kTanhTaylor)));
+    y = IfThenElse(Lt(a, Set<double>(kTanhSmallEnd)), small, y);
     return Or(y, SignBit(x));
 }
 
@@ -93,9 +139,9 @@ inline __m128 TanhOf<Level::HA>(__m128 x) {
 template <Level L>
 inline __m128d TanhOf(__m128d x) {
     if constexpr (L == Level::HA)
-        return TanhPath<ExpDegree::Five, true, SinhSeriesHA>(x);
+        return TanhHA(x);
     else
-        return TanhPath<ExpDegree::Five, false, SinhSeriesLA>(x);
+        return TanhPath<ExpDegree::Five, SinhSeriesLA>(x);
 }
 
 BRENN_QUIET_BODY(Tanh)

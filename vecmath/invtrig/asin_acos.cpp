@@ -36,7 +36,7 @@ enum class Fn { Asin, Acos };
 
 // The angle of x (lanes with |x| <= 1 or a safe value) with the series S; Comp: the
 // compensated steps of the double HA and pi-scaled kernels.
-template <Fn F, Unit U, class S, bool Comp, class V>
+template <Fn F, Unit U, class S, bool Comp, class V, bool Wide = false>
 BRENN_VEC V AngleOf(V x) {
     using T = ElemOf<V>;
     const V half = Set<T>(0.5);
@@ -47,7 +47,11 @@ BRENN_VEC V AngleOf(V x) {
     V fold = Ge(w, h);
     V s = Sqrt(h);
     V u = IfThenElse(fold, Add(s, s), a);
-    V l = S::Tail(w, u);
+    V l;
+    if constexpr (Wide)
+        l = Mul(u, Mul(w, Estrin(w, S::kP))); // S a coefficient set
+    else
+        l = S::Tail(w, u);
     if constexpr (Comp) {
         // 2 sqrt(h) is 2s + (h - s^2)/s; the residual is exact from the split product.
         V sh, sl;
@@ -58,16 +62,26 @@ BRENN_VEC V AngleOf(V x) {
     }
     V sx = SignBit(x);
     V k, flip;
+    // The wide form takes the base itself, k quarter turns (exact), and no product.
+    constexpr bool kBase = Wide && U == Unit::Radian;
+    constexpr T c = kBase ? Quarter<T, U>::kHi : T(1);
     if constexpr (F == Fn::Asin) {
         // Folded: pi/2 - (u + l); the sign of x goes on at the end.
-        k = IfThenElseZero(fold, Set<T>(2));
+        k = IfThenElseZero(fold, Set<T>(2 * c));
         flip = And(fold, SignMask<T>());
     } else {
         // Folded: u + l for x >= 0, pi - (u + l) below; unfolded pi/2 -+ (u + l).
-        k = IfThenElse(fold, IfThenElse(x, Set<T>(4), Zero<T>()), Set<T>(2));
+        k = IfThenElse(fold, IfThenElse(x, Set<T>(4 * c), Zero<T>()), Set<T>(2 * c));
         flip = Xor(Xor(And(fold, SignMask<T>()), sx), SignMask<T>());
     }
-    V y = Finish<U, Comp>(k, Xor(u, flip), Xor(l, flip));
+    V y;
+    if constexpr (kBase) {
+        // Single lanes in double, where the order of the last sums is free: base + u
+        // goes alongside the tail, and the tail's product with u last, off the series.
+        y = Add(Add(k, Xor(u, flip)), Xor(l, flip));
+    } else {
+        y = Finish<U, Comp>(k, Xor(u, flip), Xor(l, flip));
+    }
     return F == Fn::Asin ? Xor(y, sx) : y;
 }
 
@@ -79,8 +93,8 @@ BRENN_VEC __m128 AnglesOf(__m128 x) {
     else if constexpr (L == Level::LA && U == Unit::Radian)
         return AngleOf<F, U, AsinSingleLA, false>(x);
     else
-        return Narrow(AngleOf<F, U, AsinDouble6, false>(WidenLower(x)),
-                      AngleOf<F, U, AsinDouble6, false>(WidenUpper(x)));
+        return Narrow(AngleOf<F, U, AsinDouble6Set, false, __m128d, true>(WidenLower(x)),
+                      AngleOf<F, U, AsinDouble6Set, false, __m128d, true>(WidenUpper(x)));
 }
 template <Fn F, Unit U, Level L>
 BRENN_VEC __m128d AnglesOf(__m128d x) {
