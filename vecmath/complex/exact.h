@@ -45,6 +45,19 @@ BRENN_VEC Halves<V> SplitOnce(V a) {
     V hi = Sub(t, Sub(t, a));
     return {a, hi, Sub(a, hi)};
 }
+// The same split with the head rounded to 26 bits in the integer view: half an ulp of
+// the head added to the magnitude and the low 27 bits masked off, one integer addition
+// and one mask instead of Veltkamp's product and two subtractions, which is what Mul and
+// Div are short of. Both halves fit 26 bits with their signs, as Veltkamp's do, so
+// every partial product stays exact (ties split the other way, the products are the
+// same). For finite parts below 2^1023: the windows of Mul and Div.
+template <class V>
+BRENN_VEC Halves<V> SplitRounded(V a) {
+    const I64x2 half = Set<int64_t>(int64_t(1) << 26);
+    const I64x2 mask = Set<int64_t>(int64_t(0xFFFFFFFFF8000000ull));
+    V hi = AsFloat(And(Add(AsInt(a), half), mask));
+    return {a, hi, Sub(a, hi)};
+}
 // A cheaper split, the low 27 bits masked off: halves of 26 and 27 bits, so that the
 // product of the two low halves may round (by 2^-104 of the product). Enough for the
 // squares of Abs, whose sum does not cancel and whose root's correction needs the
