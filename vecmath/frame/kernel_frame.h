@@ -13,13 +13,14 @@
  *               unary: int Scalar(const T* a, T* y); binary: (a, b, y); two result: (a, y, z)
  *   kName       the public error name, when Scalar can return a non-zero status
  *   kX87, kCsr  (optional) entry rules; Masked and Common when absent
- *   kLayout     (optional) Split (default), NoHead or HandTuned
+ *   kLayout     (optional) Split (default), SplitOut, NoHead or HandTuned
  *   FixNoError  (optional) vector fix-up of lanes for error mode exactly 0x2000:
  *               int FixNoError(const V* x, V* r, int bits) returns the bits left
  *   kRound      (optional) 16 for a main stage of sixteen elements a round (four quads),
  *               for bodies whose chains are long enough that more independent work a
  *               round pays; the elements left after those rounds take one round of
- *               eight if eight remain, then the tail as usual. Split and NoHead only.
+ *               eight if eight remain, then the tail as usual. Split, SplitOut and
+ *               NoHead only.
  *   EvalWide    (required with kRound = 16) the whole round at once, so that the body
  *               can interleave its registers and test its range once a round:
  *               int EvalWide(const V* x, V* y) (unary), (const V* x, V* y, V* z)
@@ -54,6 +55,7 @@ using frame::X87Rule;
 
 enum class Layout {
     Split,     // head to the input's 16-byte boundary, rounds of eight, tail
+    SplitOut,  // the same with the head to the output's boundary (stores aligned)
     NoHead,    // rounds of eight from element 0, then one element at a time
     HandTuned, // rounds of eight from element 0; a block with a special lane, and the
                // last elements, run element by element through Scalar, which covers
@@ -343,8 +345,9 @@ struct Quads {
         if (n > 0) {
             constexpr Layout layout = LayoutOf<B>();
             int i = 0;
-            if constexpr (layout == Layout::Split) {
-                uintptr_t p = reinterpret_cast<uintptr_t>(v.a);
+            constexpr bool split = layout == Layout::Split || layout == Layout::SplitOut;
+            if constexpr (split) {
+                uintptr_t p = reinterpret_cast<uintptr_t>(layout == Layout::Split ? v.a : v.y);
                 int head = int((((p + 15) & ~uintptr_t(15)) - p) / sizeof(T));
                 if (head >= n) head = n;
                 if (head > 0) Partial(body, env, v, 0, head);
@@ -373,7 +376,7 @@ struct Quads {
                     Round(body, env, v, i);
                 }
             }
-            if constexpr (layout == Layout::Split) {
+            if constexpr (split) {
                 for (; i < n; i += 4)
                     Partial(body, env, v, i, n - i < 4 ? n - i : 4);
             } else if constexpr (layout == Layout::NoHead) {

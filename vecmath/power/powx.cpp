@@ -65,12 +65,14 @@ UnaryKernel<double> SlotOf<double>(PowxCall c, int slot) {
 }
 #undef BRENN_POWX_SLOTS
 
-// The general body: Pow's, with b in every lane.
+// The general body: Pow's, with b in every lane, the head taken to the output's 16-byte
+// boundary (its input need not share the output's alignment: a is read, y written).
 template <class Tp, Level L>
 struct PowxBody {
     using T = Tp;
     using V = Vec<T>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Powx);
+    static constexpr Layout kLayout = Layout::SplitOut;
     V bv;
     T b;
     V Eval(V x, V& special) const { return PowOf<L>(x, bv, special); }
