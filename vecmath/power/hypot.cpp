@@ -39,8 +39,8 @@ struct HypotRanges<float> {
 };
 template <>
 struct HypotRanges<double> {
-    // |x| outside [2^-400, 2^400), infinite or NaN (the high word).
-    static constexpr Range32 kPlain{0x7FFFFFFFu, 0x59100000u, 0xB1FFFFFFu};
+    // |x| outside [2^-400, 2^400), infinite or NaN (the high word of |x|).
+    static constexpr Range32 kPlain{0xFFFFFFFFu, 0x59100000u, 0xB1FFFFFFu};
     // |x| at least 2^1023, infinite or NaN.
     static constexpr Range64 kTop{0x7FFFFFFFFFFFFFFFull, 0ull, 0x7FDFFFFFFFFFFFFFull};
     // |x| below the smallest normal (zero or denormal).
@@ -99,20 +99,19 @@ inline __m128 HypotOf(__m128 a, __m128 b, __m128& special) {
 }
 
 // The root of x^2 + z^2 for x >= z >= 0 with x in [2^-400, 2^400) (or scaled into
-// [1, 2)). HA: x^2 = xx + SquareTail exactly, z^2 rounded (at most a quarter ulp of the
-// sum away), the sum as a head s and a tail; r = sqrt(s) rounded, r^2 = rr + its tail
-// exactly, and r + d/(2r) with d = s - r^2 + tail, |d/(2r)| within about 1.5 ulp of r,
-// so that 1/(2r) to 2^-6 adds at most 0.03 ulp: within about 0.55 ulp in all.
+// [1, 2)). HA: x^2 = xx + SquareTail and r^2 = rr + SquareTail exactly for r = sqrt(s)
+// rounded, s = xx + zz; z^2 rounded (at most a quarter ulp of the sum away). Then
+// r + d/(2r) with d = x^2 + z^2 - r^2: xx - rr is exact (rr lies within a factor 2 of
+// xx), and adding zz cancels to a few ulps of s, exactly (Sterbenz) or with zz itself
+// that small; |d/(2r)| is within about 1.5 ulp of r, so that 1/(2r) to 2^-6 adds at most
+// 0.03 ulp: within about 0.55 ulp in all.
 template <Level L>
 inline __m128d HypotScaled(__m128d x, __m128d z) {
     if constexpr (L != Level::HA) return HypotWide(x, z);
     __m128d xx = Mul(x, x), zz = Mul(z, z);
-    __m128d s, e;
-    FastTwoSum(xx, zz, s, e);
-    __m128d tail = Add(e, SquareTail(x, xx));
-    __m128d r = Sqrt(s);
+    __m128d r = Sqrt(Add(xx, zz));
     __m128d rr = Mul(r, r);
-    __m128d d = Add(Sub(Sub(s, rr), SquareTail(r, rr)), tail);
+    __m128d d = Add(Add(Sub(xx, rr), zz), Sub(SquareTail(x, xx), SquareTail(r, rr)));
     // 1/(2r) from the bits (within 12 %) and one Newton step (1.5 %).
     __m128d r2 = Add(r, r);
     __m128d h = AsFloat(Sub(Set<int64_t>(0x7FDE623822FC16E6ll), AsInt(r2)));
