@@ -1,5 +1,5 @@
 /* The frame of the complex functions computed element by element in 80-bit
- * extended precision (trigonometric, hyperbolic, Log10): one kernel
+ * extended precision (trigonometric, hyperbolic, Log10, Pow): one kernel
  * serves every accuracy level, since the extended routine is as exact as it
  * gets whatever the mode.
  *
@@ -51,11 +51,31 @@ struct ExtendedRun {
         }
         Leave(env);
     }
+
+    // Two inputs: b advances by bStep elements a step (0: one exponent for the whole
+    // vector, as Powx has); a report names b's vector only when there is one.
+    //   static int Eval(LD re, LD im, LD bre, LD bim, LD& yr, LD& yi);
+    static void Run(int n, const E* a, const E* b, int bStep, E* y) {
+        Env<ExtendedRun> env = Enter<ExtendedRun>();
+        for (int i = 0; i < n; ++i) {
+            const E x = a[i], w = b[i * bStep];
+            LD yr, yi;
+            int st = B::Eval(LD(x.re), LD(x.im), LD(w.re), LD(w.im), yr, yi);
+            st = Put(y[i], yr, yi, st, false);
+            if (__builtin_expect(st != status::kNone, 0))
+                frame::ReportError(st, i, a, bStep ? b : a, y, y, B::kName);
+        }
+        Leave(env);
+    }
 };
 
 template <class B, class E>
 inline void RunExtended(int n, const E* a, E* y) {
     ExtendedRun<B, E>::Run(n, a, y);
+}
+template <class B, class E>
+inline void RunExtended(int n, const E* a, const E* b, int bStep, E* y) {
+    ExtendedRun<B, E>::Run(n, a, b, bStep, y);
 }
 
 // -y, but a NaN keeps its sign: the turn of the trigonometric functions into the

@@ -1,0 +1,342 @@
+/* Pow and Powx of single (c) and double (z) complex vectors, element by element in 80-bit
+ * extended precision (extended.h), one kernel for every level: a^b = exp(w) with
+ * w = b ln a = b (ln|a| + i arg a), the modulus exp(Re w) and the angle Im w.
+ *
+ * An error d in w is a relative error d in the result, and an error d in Im w an error
+ * d/|sin r| in the smaller part (r the angle's rest after whole quarter turns), so w must
+ * be known to about 2^-(p+5) absolutely, Im w to that times |sin r|. The routine first
+ * works in extended precision, with ln|a| and arg a from the extended library (relative
+ * errors about 2^-63, which b multiplies); where a bound of the errors of Re w and r
+ * says that is not enough (results near the ends of the range, large exponents, angles
+ * of many turns, a part near zero), it carries ln|a|, arg a and w as unevaluated sums
+ * of two extended numbers (hi + lo, about 2^-105 relative):
+ *   |a|^2 exactly as a sum of Dekker products (splitter 2^32 + 1 on the 64-bit
+ *     significand), brought to m in [sqrt(1/2), sqrt 2) by its exponent e;
+ *   ln m = 2^k ln m', m' = m^(2^-k) by k square roots until |m' - 1| <= 2^-10, then
+ *     the series of 2 atanh((m' - 1)/(m' + 1)), its cube term in two words;
+ *   arg a from t = min/max of the parts (< 1) as atan t = 2^k atan t' with
+ *     t' = t/(1 + sqrt(1 + t^2)) taken k times until t' <= 2^-10, then its series;
+ *   exp(Re w) = expl(hi) (1 + lo); Im w less its multiple q of pi/2 (pi/2 in three
+ *     64-bit parts, each product with q exact in two words), sincosl of the rest's hi,
+ *     corrected by its lo.
+ * In both, arg a is kept as k eighth turns (its octant's axis or diagonal) and the angle
+ * d to it, and u k eighth turns are reduced exactly (less their nearest whole turns), so
+ * that an a on or near an axis or diagonal keeps its small angle at full precision, and
+ * an a on one with a real b turns exactly: integer powers of negative reals come out
+ * real, of imaginary numbers real or imaginary, with exact zero parts. A real a to a
+ * real b gives a zero real part +0 and a zero imaginary part the sign of Im a times that
+ * of b (the side of the cut).
+ *
+ * Special values: a^0 = 1 for every a, NaNs included. A zero a gives 0 for Re b > 0,
+ * +inf with status 2 (a pole) for Re b < 0, NaN with status 1 for Re b = 0 and Im b not
+ * zero, NaN (quiet, no status) for a NaN b. Every other element with an infinite or NaN
+ * part is cexp(b clog a) as C99 Annex G defines it: the extended clog and cexp of
+ * ext_elem.h around C's complex product, which recovers infinities (cexp's domain error
+ * for an infinite imaginary part is reported, status 1). NaNs come out quiet. */
+#include <math.h>
+
+#include "vecmath/complex/ext_elem.h"
+#include "vecmath/complex/extended.h"
+
+namespace brenn::vm::cx {
+namespace {
+
+// An unevaluated sum hi + lo, |lo| at most half an extended ulp of hi.
+struct DD {
+    LD hi, lo;
+};
+
+inline DD TwoSum(LD a, LD b) {
+    const LD s = a + b, bb = s - a;
+    return {s, (a - (s - bb)) + (b - bb)};
+}
+inline DD FastTwoSum(LD a, LD b) { // |a| >= |b|
+    const LD s = a + b;
+    return {s, b - (s - a)};
+}
+// Dekker's exact product: the 64-bit significands split into 32-bit halves by 2^32 + 1.
+inline DD TwoProduct(LD a, LD b) {
+    constexpr LD kSplit = 4294967297.0L;
+    const LD ta = a * kSplit, tb = b * kSplit;
+    const LD ah = ta - (ta - a), al = a - ah, bh = tb - (tb - b), bl = b - bh;
+    const LD p = a * b;
+    return {p, ((ah * bh - p) + ah * bl + al * bh) + al * bl};
+}
+inline DD Add(DD a, DD b) {
+    const DD s = TwoSum(a.hi, b.hi);
+    return FastTwoSum(s.hi, s.lo + a.lo + b.lo);
+}
+inline DD Add(DD a, LD b) {
+    const DD s = TwoSum(a.hi, b);
+    return FastTwoSum(s.hi, s.lo + a.lo);
+}
+inline DD Mul(DD a, DD b) {
+    const DD p = TwoProduct(a.hi, b.hi);
+    return FastTwoSum(p.hi, p.lo + (a.hi * b.lo + a.lo * b.hi));
+}
+inline DD Mul(DD a, LD b) {
+    const DD p = TwoProduct(a.hi, b);
+    return FastTwoSum(p.hi, p.lo + a.lo * b);
+}
+inline DD Div(DD a, DD b) {
+    const LD q = a.hi / b.hi;
+    const DD r = Add(a, Mul(b, -q)); // a - q b, its head cancelled exactly
+    return FastTwoSum(q, (r.hi + r.lo) / b.hi);
+}
+inline DD Sqrt(DD a) {
+    const LD s = sqrtl(a.hi);
+    const DD r = Add(a, Mul(DD{s, 0}, -s));
+    return FastTwoSum(s, (r.hi + r.lo) / (2 * s));
+}
+inline DD Scaled(DD a, int e) { // exact: e stays far inside the extended range
+    const LD f = ldexpl(1, e);
+    return {a.hi * f, a.lo * f};
+}
+
+// pi/2 in three 64-bit parts (192 bits), ln 2 in two (128 bits).
+constexpr LD kPio2[3] = {0xc90fdaa22168c235p-63L, -0xece675d1fc8f8cbbp-129L,
+                         -0xb7ed8fbbacc19c60p-194L};
+constexpr DD kPio2DD = {kPio2[0], kPio2[1]};
+constexpr DD kLn2DD = {0xb17217f7d1cf79acp-64L, -0xd871319ff0342543p-130L};
+constexpr LD kSmall = 0x1p-10L;
+
+// ln m for m in [sqrt(1/2), sqrt 2).
+DD LnNearOne(DD m) {
+    int k = 0;
+    while (fabsl(m.hi - 1) > kSmall) {
+        m = Sqrt(m);
+        ++k;
+    }
+    const DD u = Div(Add(DD{m.hi - 1, 0}, m.lo), Add(m, 1.0L)); // m.hi - 1 exact
+    const DD u2 = Mul(u, u);
+    const LD v = u2.hi;
+    // 2 (u + u^3/3 + u^5 (1/5 + u^2/7 + u^4/9 + u^6/11))
+    const LD tail = u2.hi * u.hi * v * (0.2L + v * (1 / 7.0L + v * (1 / 9.0L + v * (1 / 11.0L))));
+    const DD cube = Div(Mul(u2, u), DD{3, 0});
+    return Scaled(Add(Add(u, cube), tail), k + 1);
+}
+
+// ln|a| of finite parts, not both zero.
+DD LnAbs(LD x, LD y) {
+    DD s = Add(TwoProduct(x, x), TwoProduct(y, y));
+    int e;
+    frexpl(s.hi, &e);
+    s = Scaled(s, -e); // [1/2, 1)
+    if (s.hi < 0.70710678118654752440L) s = Scaled(s, 1), --e;
+    const DD ln = Add(LnNearOne(s), Mul(kLn2DD, LD(e)));
+    return Scaled(ln, -1);
+}
+
+// atan t for 0 <= t <= 1.
+DD AtanUnit(DD t) {
+    int k = 0;
+    while (t.hi > kSmall) {
+        t = Div(t, Add(Sqrt(Add(Mul(t, t), 1.0L)), 1.0L));
+        ++k;
+    }
+    const DD t2 = Mul(t, t);
+    const LD v = t2.hi;
+    // t - t^3/3 + t^5 (1/5 - t^2/7 + t^4/9 - t^6/11)
+    const LD tail = t2.hi * t.hi * v * (0.2L - v * (1 / 7.0L - v * (1 / 9.0L - v * (1 / 11.0L))));
+    const DD cube = Div(Mul(t2, t), DD{-3, 0});
+    return Scaled(Add(Add(t, cube), tail), k);
+}
+
+// arg a of finite parts, not both zero, as k eighth turns (|k| <= 4) and sg atan(t),
+// t = num/den in [0, 1), by the octants of atan2 (the diagonals whole eighths): the
+// turns stay exact, so that an a near an axis or a diagonal keeps its small angle to it
+// at full precision.
+struct Octant {
+    int k, sg;
+    LD num, den;
+};
+Octant OctantOf(LD x, LD y) {
+    const LD ax = fabsl(x), ay = fabsl(y);
+    Octant o;
+    if (ay <= ax) {
+        o = {__builtin_signbit(x) ? 4 : 0, __builtin_signbit(x) ? -1 : 1, ay, ax};
+        if (ay == ax) o.k += o.sg, o.num = 0;
+    } else {
+        o = {2, __builtin_signbit(x) ? 1 : -1, ax, ay};
+    }
+    if (__builtin_signbit(y)) o.k = -o.k, o.sg = -o.sg;
+    return o;
+}
+// The octant's angle in two words: t = num/den to two words first.
+DD OctantAngle(const Octant& o) {
+    const LD q = o.num / o.den;
+    const DD at = AtanUnit(FastTwoSum(q, Add(TwoProduct(-q, o.den), o.num).hi / o.den));
+    return {o.sg * at.hi, o.sg * at.lo};
+}
+
+// An angle as j quarter turns and a rest r + rl, |r| about pi/4 at most.
+struct Angle {
+    long long j;
+    LD r, rl;
+};
+
+// Im w less its multiple of pi/2. Beyond 2^62 w is left to sincosl's own reduction.
+Angle Reduced(DD w) {
+    if (!(fabsl(w.hi) > 0.785398163397448309615660845819875721L && fabsl(w.hi) < 0x1p62L))
+        return {0, w.hi, w.lo};
+    const LD q = rintl(w.hi * 0.636619772367581343075535053490057448L);
+    const DD p1 = TwoProduct(q, kPio2[0]), p2 = TwoProduct(q, kPio2[1]);
+    DD r = Add(DD{w.hi - p1.hi, 0}, w.lo - p1.lo); // the heads cancel exactly
+    r = Add(r, -p2.hi);
+    r = Add(r, -(p2.lo + q * kPio2[2]));
+    return {(long long)q, r.hi, r.lo};
+}
+
+// b k eighth turns less their nearest multiple of a whole turn, exact: j0 quarter turns
+// and a rest g in [-1/2, 1/2] quarter turns.
+inline void QuarterTurns(LD b, int k, LD& j0, LD& g) {
+    const LD f0 = b * k * 0.5L, f = f0 - 4 * rintl(f0 * 0.25L);
+    j0 = rintl(f);
+    g = f - j0;
+}
+
+// sin and cos of |r| <= pi/4 (or a little beyond) by the unit's own instruction, which
+// needs no reduction there and is as exact as the library's sincosl at a fraction of its
+// time; beyond 2^62 (an angle left unreduced, never judged) sincosl.
+inline void SinCosReduced(LD r, LD& s, LD& c) {
+    if (!(fabsl(r) < 0x1p62L)) return sincosl(r, &s, &c);
+    __asm__("fsincos" : "=t"(c), "=u"(s) : "0"(r));
+}
+
+// exp(e) (cos + i sin)(angle); a zero factor stays an exact zero beside an infinite
+// modulus.
+void Compose(DD e, Angle an, LD& re, LD& im) {
+    LD m = expl(e.hi);
+    if (__builtin_isfinite(m)) m += m * e.lo;
+    LD s, c;
+    SinCosReduced(an.r, s, c);
+    if (an.rl != 0) {
+        const LD s1 = s + c * an.rl;
+        c -= s * an.rl;
+        s = s1;
+    }
+    switch (an.j & 3) {
+    case 0:
+        break;
+    case 1: {
+        const LD t = s;
+        s = c, c = -t;
+        break;
+    }
+    case 2:
+        s = -s, c = -c;
+        break;
+    default: {
+        const LD t = s;
+        s = -c, c = t;
+        break;
+    }
+    }
+    re = c == 0 ? c : m * c;
+    im = s == 0 ? s : m * s;
+}
+
+// a^b of finite a, not zero, and finite b, not zero, p the precision of the element.
+// Im w = u k pi/4 (exact quarter turns and a rest) + u d + v ln|a|, arg a = k pi/4 + d.
+template <int P>
+void PowFinite(LD x, LD y, LD u, LD v, LD& re, LD& im) {
+    const Octant o = OctantOf(x, y);
+    const LD lr = LogAbsX(x, y), d = o.sg * atan2l(o.num, o.den);
+    const LD th = o.k * 0.5L * kPio2[0] + d;
+    LD j0, g;
+    QuarterTurns(u, o.k, j0, g);
+    DD e = {u * lr - v * th, 0};
+    int j = int(j0);
+    const LD r = QuarterReduced(g * kPio2[0] + u * d + v * lr, j);
+    Angle an = {j, r, 0};
+    // bounds of the extended errors of Re w and of the rest r (a few extended ulps of the
+    // terms): Re w's within 2^-(p+5) of the result, r's within 2^-(p+2) of sin r, the
+    // smaller part after the reduction (an r left unreduced beyond 2^30 never passes);
+    // else all again in two words
+    const LD em = (fabsl(u) * (1 + fabsl(lr)) + fabsl(v * th)) * 0x1p-62L;
+    const LD ea = (fabsl(u * d) + fabsl(v) * (1 + fabsl(lr)) + fabsl(g)) * 0x1p-62L;
+    constexpr LD kTol = P == 53 ? 0x1p-58L : 0x1p-29L;
+    if (!(em <= kTol && fabsl(r) <= 1 && ea <= 8 * kTol * fabsl(r))) {
+        const DD l = LnAbs(x, y), dd = OctantAngle(o);
+        const DD t = Add(Mul(kPio2DD, o.k * 0.5L), dd);
+        e = Add(Mul(l, u), Mul(t, -v));
+        an = Reduced(Add(Add(Mul(kPio2DD, g), Mul(dd, u)), Mul(l, v)));
+        an.j += (long long)j0;
+    }
+    Compose(e, an, re, im);
+    if (y == 0 && v == 0) {  // a and b real: exact zero parts: +0 real, imaginary signed by
+        if (re == 0) re = 0; // the side of the cut and b
+        if (im == 0) im = __builtin_signbit(y) != __builtin_signbit(u) ? -0.0L : 0.0L;
+    }
+}
+
+template <int P>
+int PowOf(LD x, LD y, LD u, LD v, LD& re, LD& im) {
+    if (u == 0 && v == 0) { // a^0 = 1
+        re = 1;
+        im = 0;
+        return status::kNone;
+    }
+    if (x == 0 && y == 0) {
+        if (__builtin_isnan(u) || __builtin_isnan(v)) {
+            re = im = u + v;
+        } else if (u > 0) {
+            re = im = 0;
+        } else if (u < 0) {
+            re = __builtin_infl();
+            im = 0;
+            return status::kSingularity;
+        } else { // |a|^(i v): no limit
+            re = im = Keep(LD(0)) / Keep(LD(0));
+            return status::kDomain;
+        }
+        return status::kNone;
+    }
+    if (__builtin_isfinite(x) && __builtin_isfinite(y) && __builtin_isfinite(u) &&
+        __builtin_isfinite(v)) {
+        PowFinite<P>(x, y, u, v, re, im);
+        return status::kNone;
+    }
+    LD lr, li;
+    CLogX(x, y, lr, li);
+    __complex__ long double l, b, w;
+    __real__ l = lr, __imag__ l = li;
+    __real__ b = u, __imag__ b = v;
+    w = b * l;
+    return CExpX(__real__ w, __imag__ w, re, im);
+}
+
+template <class E>
+struct Pow {
+    static constexpr bool kOverflow = false;
+    static constexpr bool kDouble = std::is_same_v<E, BrennComplex16>;
+    static int Eval(LD x, LD y, LD u, LD v, LD& re, LD& im) {
+        return PowOf < kDouble ? 53 : 24 > (x, y, u, v, re, im);
+    }
+};
+template <class E>
+struct PowB : Pow<E> {
+    static constexpr const char* kName = Pow<E>::kDouble ? "vzPow" : "vcPow";
+};
+template <class E>
+struct PowxB : Pow<E> {
+    static constexpr const char* kName = Pow<E>::kDouble ? "vzPowx" : "vcPowx";
+};
+
+} // namespace
+} // namespace brenn::vm::cx
+
+extern "C" {
+void ZAR_KERNEL(cPow, All) BRENN_SIG(c, Binary) {
+    brenn::vm::cx::RunExtended<brenn::vm::cx::PowB<BrennComplex8>>(n, a, b, 1, y);
+}
+void ZAR_KERNEL(zPow, All) BRENN_SIG(z, Binary) {
+    brenn::vm::cx::RunExtended<brenn::vm::cx::PowB<BrennComplex16>>(n, a, b, 1, y);
+}
+void ZAR_KERNEL(cPowx, All) BRENN_SIG(c, Powx) {
+    brenn::vm::cx::RunExtended<brenn::vm::cx::PowxB<BrennComplex8>>(n, a, &b, 0, y);
+}
+void ZAR_KERNEL(zPowx, All) BRENN_SIG(z, Powx) {
+    brenn::vm::cx::RunExtended<brenn::vm::cx::PowxB<BrennComplex16>>(n, a, &b, 0, y);
+}
+}
