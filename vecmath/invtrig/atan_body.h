@@ -21,7 +21,10 @@ BRENN_VEC __m128d AtMost(__m128d v, double limit) {
 
 // The double steps: the angle of (b, a) with the series S, compensated or not. Lanes
 // of Atan2 hold magnitudes in [2^-500, 2^500), lanes of Atan have b = 1 (UnitB) and any a.
-template <Unit U, class S, bool Comp, bool UnitB = false>
+// Wide: single lanes in double, where the order of the last steps is free (S a
+// coefficient set): the tail's product with q comes last, off the series, and base + q
+// runs alongside it.
+template <Unit U, class S, bool Comp, bool UnitB = false, bool Wide = false>
 BRENN_VEC __m128d AngleOf(__m128d a, __m128d b) {
     const __m128d one = Set<double>(1.0);
     __m128d ay = Abs(a), ax = Abs(b);
@@ -50,7 +53,11 @@ BRENN_VEC __m128d AngleOf(__m128d a, __m128d b) {
         dh = IfThenElse(fold, Add(n, d), d);
     }
     __m128d q = Div(nh, dh);
-    __m128d l = S::Tail(Mul(q, q), q);
+    __m128d l;
+    if constexpr (Wide)
+        l = Mul(q, Mul(Mul(q, q), Estrin(Mul(q, q), S::kP)));
+    else
+        l = S::Tail(Mul(q, q), q);
     if constexpr (Comp) {
         // The quotient's error from the exact residual. The product's split needs d below
         // about 2^995: Atan's larger d (above 2^510) only happen with q below 2^-510, next
@@ -69,7 +76,11 @@ BRENN_VEC __m128d AngleOf(__m128d a, __m128d b) {
         }
     }
     k = Add(k, IfThenElseZero(fold, Or(one, And(flip, SignMask<double>()))));
-    __m128d y = Finish<U, Comp>(k, Xor(q, flip), Xor(l, flip));
+    __m128d y;
+    if constexpr (Wide && U == Unit::Radian)
+        y = Add(Add(Mul(k, Set<double>(Quarter<double, U>::kHi)), Xor(q, flip)), Xor(l, flip));
+    else
+        y = Finish<U, Comp>(k, Xor(q, flip), Xor(l, flip));
     return Xor(y, SignBit(a));
 }
 
@@ -130,8 +141,8 @@ using DoubleSeriesOf = std::conditional_t<L == Level::EP, AtanDouble5, AtanDoubl
 // The double steps on four single lanes, widened, with the short series.
 template <Unit U>
 BRENN_VEC __m128 InDouble(__m128 a, __m128 b) {
-    return Narrow(AngleOf<U, AtanDouble5, false>(WidenLower(a), WidenLower(b)),
-                  AngleOf<U, AtanDouble5, false>(WidenUpper(a), WidenUpper(b)));
+    return Narrow(AngleOf<U, AtanDouble5Set, false, false, true>(WidenLower(a), WidenLower(b)),
+                  AngleOf<U, AtanDouble5Set, false, false, true>(WidenUpper(a), WidenUpper(b)));
 }
 
 template <Unit U, Level L>
