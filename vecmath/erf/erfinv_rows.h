@@ -54,12 +54,13 @@ inline __m128d ErfInvRowsTimes(const double (*rows)[W], __m128d t, __m128d wh, _
     }
 }
 
-// w*P(t) at the level L for elements of type T: EP on the EP rows (degree 5), LA and the
-// single HA on the LA rows (degree 9), the double HA on the HA rows (degree 10 and the
-// constant's remainder).
+// w*P(t) at the level L for elements of type T: EP and every single level on the EP rows
+// (degree 5, 2^-37, far below a single ulp: 0.500 ulp at LA and HA), the double LA on the
+// LA rows (degree 9), the double HA on the HA rows (degree 10 and the constant's
+// remainder).
 template <class T, Level L, bool WithLow>
 inline __m128d ErfInvRowsAt(__m128d t, __m128d wh, __m128d wl) {
-    if constexpr (L == Level::EP)
+    if constexpr (L == Level::EP || sizeof(T) == 4)
         return ErfInvRowsTimes<6, 5, false, false>(erfInvRowsEP, t, wh, wl);
     if constexpr (L == Level::HA && sizeof(T) == 8)
         return ErfInvRowsTimes<12, 10, true, WithLow>(erfInvRowsHA, t, wh, wl);
