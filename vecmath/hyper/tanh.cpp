@@ -7,8 +7,8 @@
  * gives 1. LA evaluates the row's cubic, ((c3*a + c2)*a + c1)*a + c0 (row 0 has
  * c0 = 0 and c1 = 1, so small arguments keep their leading term exactly); EP the row's
  * line c1*a + c0. x's sign is OR-ed back after the narrowing. HA, which the cubics' 0.94
- * ulp would not meet, divides sinh by cosh of the both-exponentials body run in double on
- * the widened lanes (hyper_core.h).
+ * ulp would not meet, takes (E - 1)/(E + 1) from the one exponential E = e^(2a) run in
+ * double on the widened lanes.
  * Double, a held at 22, where tanh is 1 to the last bit: LA and EP divide sinh by cosh
  * from the halves of e^a (hyper_core.h), the sums of the heads split exactly; HA takes
  * (E - 1)/(E + 1) from the one exponential E = e^(2a), the quotient corrected once, and
@@ -122,12 +122,28 @@ inline __m128d TanhHA(__m128d x) {
     return Or(y, SignBit(x));
 }
 
-// Single HA: sinh/cosh of the both-exponentials body in double on the widened lanes, a
-// held at 10, where tanh is 1 in single.
+// Single HA: one exponential in double on the widened lanes, a held at 10, where tanh is
+// 1 in single. E = e^(2a) = 2^n*(1 + p(r)), r = 2a - n*ln2 without a table, p(r) = r +
+// r^2*Q(r) (tools/hyper/tanh_single_wide.sollya, 2^-30.9 relative); with h = 2^(n-1),
+// tanh a = (E - 1)/(E + 1) = ((h - 1/2) + h*p)/((h + 1/2) + h*p), h -/+ 1/2 exact, so that
+// small a keep their relative accuracy (n = 0: p/(1 + p)).
+struct TanhExpWide {
+    static constexpr double kQ[] = {0x1.0000000b7e318p-1, 0x1.55555527304d3p-3,
+                                    0x1.5554e958fdba7p-5, 0x1.11114bddd95fbp-7,
+                                    0x1.6d42ca60db561p-10, 0x1.a072c0193cbafp-13};
+};
+
 inline __m128d TanhWide(__m128d a) {
-    __m128d s, c;
-    SinhCoshWide(Min(a, Set<double>(10.0)), s, c);
-    return Div(s, c);
+    using K = BothExpsWide;
+    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    const __m128d half = Set<double>(0.5);
+    __m128d b = Min(Add(a, a), Set<double>(20.0));
+    __m128d t = Add(Mul(b, Set<double>(K::kLog2e)), shifter);
+    __m128d n = Sub(t, shifter);
+    __m128d r = Sub(Sub(b, Mul(n, Set<double>(K::kLn2Hi))), Mul(n, Set<double>(K::kLn2Lo)));
+    __m128d h = HalfPower(BitCast<I32x4>(t));
+    __m128d hp = Mul(h, Add(r, Mul(Mul(r, r), Estrin(r, TanhExpWide::kQ))));
+    return Div(Add(Sub(h, half), hp), Add(Add(h, half), hp));
 }
 
 template <>
