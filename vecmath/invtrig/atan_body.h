@@ -62,16 +62,25 @@ BRENN_VEC __m128d AngleOf(__m128d a, __m128d b) {
         // The quotient's error from the exact residual. The product's split needs d below
         // about 2^995: Atan's larger d (above 2^510) only happen with q below 2^-510, next
         // to pi/2, where the correction is far below the result's last bit whatever it is.
-        __m128d ph, pl;
-        TwoProduct(q, AtMost(dh, 0x1p510), ph, pl);
-        __m128d r = Sub(Add(Sub(Sub(nh, ph), pl), nl), Mul(q, dl));
+        __m128d dm = AtMost(dh, 0x1p510);
         if constexpr (UnitB) {
+            // Atan: nh - q*dh from halves cut by a mask, q's and dh's leading 26 bits and
+            // the rest, in place of Dekker's split: qh*dmh (26 by 26 bits) and ql*dmh (27
+            // by 26) are exact, nh less them exact or far below nh's last bit (q*dh is
+            // within an ulp of nh), and q*(dm - dmh) is rounded at 2^-79 of nh.
+            const __m128d cut = AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull));
+            __m128d qh = And(q, cut), dmh = And(dm, cut);
+            __m128d r = Sub(Sub(nh, Mul(qh, dmh)), Mul(Sub(q, qh), dmh));
+            r = Add(Sub(r, Mul(q, Sub(dm, dmh))), Sub(nl, Mul(q, dl)));
             // r/dh is about 2^-53 of q, so the single reciprocal estimate of dh (12 bits)
             // is plenty and spares a second division. Atan's dh is at least 1; above 2^100
             // (q below 2^-100, beside pi/2) the correction is nothing to the result.
             __m128d dn = AtMost(dh, 0x1p100);
             l = Add(l, Mul(r, WidenLower(ApproxRecip(Narrow(dn, dn)))));
         } else {
+            __m128d ph, pl;
+            TwoProduct(q, dm, ph, pl);
+            __m128d r = Sub(Add(Sub(Sub(nh, ph), pl), nl), Mul(q, dl));
             l = Add(l, Div(r, dh));
         }
     }
