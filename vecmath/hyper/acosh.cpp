@@ -43,10 +43,11 @@ inline __m128d AcoshOf(__m128d x) {
     __m128d d = Sub(xc, one);
     Pair w;
     if constexpr (L == Level::HA) {
+        // u^2 + v: (d, 2d) below 2, (x, -1) from 2 on, one square and one sum a lane.
         __m128d near = Lt(xc, Set<double>(2.0));
-        Pair qn = SumOf(ProductOf(d, d), Pair{Add(d, d), Zero<double>()});
-        Pair qf = SumOf(ProductOf(xc, xc), Pair{Set<double>(-1.0), Zero<double>()});
-        Pair s = SqrtOfPair(Pair{IfThenElse(near, qn.hi, qf.hi), IfThenElse(near, qn.lo, qf.lo)});
+        __m128d u = IfThenElse(near, d, xc);
+        __m128d v = IfThenElse(near, Add(d, d), Set<double>(-1.0));
+        Pair s = SqrtOfPair(SumOf(ProductOf(u, u), Pair{v, Zero<double>()}));
         __m128d e;
         FastTwoSum(xc, s.hi, w.hi, e); // x is the larger
         w.lo = Add(e, s.lo);

@@ -139,6 +139,13 @@ inline __m128d Sum(const Pair& p) {
     return Add(p.hi, p.lo);
 }
 
+// 1/v to about 12 bits, by the single estimate: for corrections of an ulp or two, where a
+// division would be wasted. v's magnitude within the single range (above it the estimate
+// is 0).
+inline __m128d RecipEstimate(__m128d v) {
+    return WidenLower(ApproxRecip(Narrow(v, v)));
+}
+
 // The single HA rows' path: the both-exponentials body of the single LA rows run in double
 // on widened lanes, a in [0, 88], without a table: n = rint(a*log2e), r = a - n*ln2 (ln 2
 // in the logarithm's two parts), the scales 2^(n-1) and 2^(-n-1) from n's word, and

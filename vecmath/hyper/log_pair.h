@@ -37,15 +37,16 @@ inline Pair OnePlus(__m128d u) {
     return w;
 }
 
-// sqrt(q.hi + q.lo) for q >= 0: the root of the head, corrected once by the remainder
-// q - s^2 (the square split exactly); 0 for q = 0.
+// sqrt(q.hi + q.lo) for q >= 0, q.hi in [2^-120, 2^120] or 0: the root of the head,
+// corrected once by the remainder q - s^2 (the square split exactly) over the estimate of
+// 2s; 0 for q = 0.
 inline Pair SqrtOfPair(const Pair& q) {
     Pair s;
     s.hi = Sqrt(q.hi);
     __m128d ph, pl;
     TwoProduct(s.hi, s.hi, ph, pl);
     __m128d rem = Add(Sub(Sub(q.hi, ph), pl), q.lo);
-    __m128d lo = Div(rem, Add(s.hi, s.hi));
+    __m128d lo = Mul(rem, RecipEstimate(Add(s.hi, s.hi)));
     s.lo = IfThenElseZero(Gt(q.hi, Zero<double>()), lo);
     return s;
 }

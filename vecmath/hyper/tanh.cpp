@@ -115,7 +115,7 @@ inline __m128d TanhHA(__m128d x) {
     __m128d dhh = And(dh, cut), qh = And(q, cut);
     __m128d rem = Sub(Sub(Sub(nh, Mul(qh, dhh)), Mul(Sub(q, qh), dhh)), Mul(q, Sub(dh, dhh)));
     rem = Add(rem, Sub(nl, Mul(q, dl)));
-    __m128d y = Add(q, Mul(rem, WidenLower(ApproxRecip(Narrow(dh, dh)))));
+    __m128d y = Add(q, Mul(rem, RecipEstimate(dh)));
     __m128d z = Mul(a, a);
     __m128d small = Add(a, Mul(Mul(a, z), Horner(z, kTanhTaylor)));
     y = IfThenElse(Lt(a, Set<double>(kTanhSmallEnd)), small, y);
