@@ -7,7 +7,8 @@
  * u = a + a^2/(1 + sqrt(a^2 + 1)), the rounding of 1 + u recovered, so that small
  * arguments keep their relative accuracy. Above 2^28 the square is left out: ln(2a) as
  * ln a plus ln 2; below 2^-28 the result is a.
- * Single HA on widened lanes, w = a + sqrt(a^2 + 1) in double and its logarithm.
+ * Single HA on widened lanes, w = a + sqrt(a^2 + 1) in double and its logarithm; the
+ * series below 2^-7 in single.
  * Single LA and EP in single arithmetic: the odd series up to 3/4 (LA) or 1.2 (EP), above
  * it the root by sqrtps (LA) or rsqrtps (EP) and the logarithm by the split of the explog
  * family (LA) or by exponent and significand (EP), with a guard above 0x5F7FFFFF.
@@ -82,22 +83,25 @@ inline __m128 AsinhSingleEP(__m128 x) {
     return Or(y, SignBit(x));
 }
 
-// Single HA on widened lanes: w = a + sqrt(a^2 + 1) in double is within 2^-52 of
-// itself, which the logarithm (the EP core, 2^-33) keeps far below a single ulp from
-// 2^-7 on; below, the series to a^5.
-constexpr double kAsinhSeriesWide[] = {-1.0 / 6, 3.0 / 40};
+// Single HA: ln(w), w = a + sqrt(a^2 + 1) in double on the widened lanes, where a^2 of
+// any single a is in range; w is within 2^-52 of itself, which the logarithm (the EP core,
+// 2^-33) keeps far below a single ulp from 2^-7 on. Below, the series a + a^3*(-1/6 +
+// 3a^2/40) in single, whose tail is under 2^-16 of a; the choice and the sign on the
+// four single lanes.
+constexpr float kAsinhSeriesHA[] = {-1.0f / 6, 3.0f / 40};
 
-inline __m128d AsinhWide(__m128d x) {
-    __m128d a = Abs(x);
-    __m128d big = Gt(a, Set<double>(kSquareEnd));
-    __m128d ac = Min(a, Set<double>(kSquareEnd));
-    __m128d w = Add(ac, Sqrt(Add(Mul(ac, ac), Set<double>(1.0))));
+inline __m128d AsinhWide(__m128d a) {
     __m128d h, l;
-    LnCore<Level::EP>(IfThenElse(big, a, w), h, l);
-    __m128d y = Add(h, Add(l, IfThenElseZero(big, Set<double>(kLn2D))));
-    __m128d z = Mul(a, a);
-    __m128d series = Add(a, Mul(Mul(a, z), Horner(z, kAsinhSeriesWide)));
-    y = IfThenElse(Lt(a, Set<double>(kSeriesEnd)), series, y);
+    LnCore<Level::EP>(Add(a, Sqrt(Add(Mul(a, a), Set<double>(1.0)))), h, l);
+    return Add(h, l);
+}
+
+inline __m128 AsinhSingleHA(__m128 x) {
+    __m128 a = Abs(x);
+    __m128 y = WidenToDouble(a, AsinhWide);
+    __m128 z = Mul(a, a);
+    __m128 series = Add(a, Mul(Mul(a, z), Horner(z, kAsinhSeriesHA)));
+    y = IfThenElse(Lt(a, Set<float>(float(kSeriesEnd))), series, y);
     return Or(y, SignBit(x));
 }
 
@@ -127,7 +131,7 @@ inline __m128 AsinhOf(__m128 x) {
     else if constexpr (L == Level::LA)
         return AsinhSingleLA(x);
     else
-        return WidenToDouble(x, AsinhWide);
+        return AsinhSingleHA(x);
 }
 
 BRENN_QUIET_BODY(Asinh)
