@@ -5,11 +5,11 @@
  * tail, then e^w by the table of 64 with a degree-5 (LA) or degree-6 (HA) polynomial;
  * double EP takes ln x in one double (r rounded once, the Taylor quartic, heads only)
  * and the Taylor cubic of the exponential (pow_core.h PowWEP, PowExpEP). Single
- * HA and LA run the double core on widened lanes: HA the degree-5 logarithm and
- * exponential, LA the cubic logarithm and the degree-4 exponential; single EP stays in
- * single (pow_body.h).
- * Measured (brenn_accuracy, full run): sPow HA and LA 0.50 ulp, EP 12.7 bits; dPow HA
- * and LA 0.55 ulp (a denormal result), EP 34.7 bits. */
+ * HA and LA split x on the single bits and run in double lanes: the cubic logarithm
+ * from lnRows (HA with the rows' low parts), w in one double, e^w by the table of 1024
+ * with 1 + u + u^2/2 (HA) or 1 + u (LA); single EP stays in single (pow_body.h).
+ * Measured (brenn_accuracy, full run): sPow HA 0.500 ulp, LA 1.41 ulp, EP 12.7 bits;
+ * dPow HA and LA 0.55 ulp (a denormal result), EP 34.7 bits. */
 #include "frame/kernels.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"

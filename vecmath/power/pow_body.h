@@ -1,12 +1,11 @@
 /* The vector body of Pow, Powr and the general case of Powx: lanes with x a positive
- * normal (single: positive and finite, denormals included, since they are normal once
- * widened) and y finite run the core of pow_core.h; zeros, negatives, infinities, NaN,
- * |y| from 2^900 (double) and |w| beyond 708.39, where the result leaves the double
- * range of the table form, go to the scalar routine. The special lanes run on x = 1 and
- * y = 0, so that they raise no flags of their own.
- * Single rows widen their lanes and narrow the double result once: a result beyond the
- * single range becomes infinity, zero or a denormal in that rounding, with the flags
- * and no status. */
+ * normal and y finite run the kernels below; zeros, denormals, negatives, infinities,
+ * NaN, and for double |y| from 2^900 and |w| beyond 708.39, where the result leaves the
+ * double range of the table form, go to the scalar routine. The special lanes run on
+ * x = 1 and y = 0, so that they raise no flags of their own.
+ * Single LA and HA work in double lanes and narrow the result once: a result beyond the
+ * single range becomes infinity, zero or a denormal in that rounding, with the flags and
+ * no status, as the scalar routine gives it. */
 #ifndef BRENN_VECMATH_POWER_POW_BODY_H
 #define BRENN_VECMATH_POWER_POW_BODY_H
 
@@ -41,13 +40,6 @@ inline __m128d PowExp(__m128d wh, __m128d wl, __m128d& special) {
     return ExpHiLo<D>(IfThenZeroElse(special, wh), IfThenZeroElse(special, wl));
 }
 
-template <Level L>
-inline __m128d PowHalf(__m128d x, __m128d y, __m128d& special) {
-    __m128d wh, wl;
-    PowW<L, true>(y, LnReduce(x), wh, wl);
-    return PowExp<kPowExpDegree<L, true>>(wh, wl, special);
-}
-
 // Single EP, all in single: ln x by the split around 2/3 and the seven-term Q of
 // ln(1 + r) = r + r^2*Q(r), k*ln2 in two parts; w = y*ln x, within 2^-16 of 1 for the
 // |w| that pass; e^w = 2^n * P(w - n*ln2) with the cubic P, 2^n put into the exponent
@@ -80,18 +72,73 @@ inline __m128 PowSingleEP(__m128 x, __m128 y, __m128& special) {
     return AsFloat(Add(ShiftLeft<Format<float>::kMantBits>(AsInt(t)), AsInt(e)));
 }
 
+// Single LA and HA in double lanes. x = 2^k * m is split on the single bits, four lanes
+// at once, m in [1, 2) and its row j of lnRows (m rounded to 9 fraction bits); then, two
+// lanes a half, r = m*rcp - 1 (m has 24 bits: rounded below 2^-53, exact at rows 0 and
+// 512, where x is near 1 and the heads k*ln2hi + Thi cancel exactly), ln x =
+// (k*ln2hi + Thi) + (r + r^2*Q(r)) with the cubic of the EP core (about 2^-35 of ln x),
+// HA adding the low parts k*ln2lo + Tlo (up to 2^-43, which y can make 2^-27 of w);
+// w = y*ln x in one double. e^w by the table of 1024: n = w*1024/ln2 rounded,
+// u = w - n*ln2/1024 (|u| <= 2^-11.47), 2^(n/1024) * (1 + u + u^2/2) at HA (2^-37),
+// (1 + u) at LA (2^-24), the power of two added to the row's exponent field.
+// w is held to [-200, 200] first: beyond about 104 the single result is infinity or zero
+// either way, and the narrowing of e^(+-200) gives it with the flags the scalar routine
+// would raise (overflow or underflow, and inexact), so no lane leaves for w.
+// x must be a positive normal here: denormal x goes to the scalar routine.
+struct PowSingleStep {
+    static constexpr double kInvStep = 0x1.71547652b82fep+10; // 1024/ln2
+    static constexpr double kStep = 0x1.62e42fefa39efp-11;    // ln2/1024
+    static constexpr double kWLimit = 200.0;
+};
+
 template <Level L>
-inline __m128 PowOf(__m128 x, __m128 y, __m128& special) {
-    if constexpr (L == Level::EP) return PowSingleEP(x, y, special);
-    using R = PowRanges<float>;
-    __m128 sxy = Or(RangeTest(x, R::kX), RangeTest(y, R::kY));
-    x = IfThenElse(sxy, Set<float>(1.0f), x);
-    y = IfThenZeroElse(sxy, y);
-    __m128d slo, shi;
-    __m128d lo = PowHalf<L>(WidenLower(x), WidenLower(y), slo);
-    __m128d hi = PowHalf<L>(WidenUpper(x), WidenUpper(y), shi);
-    special = Or(sxy, NarrowMask(slo, shi));
-    return Narrow(lo, hi);
+BRENN_VEC __m128d PowSingleHalf(__m128d m, __m128d k, __m128d y, const double* ra,
+                                const double* rb) {
+    using K = LogConst<double>;
+    using S = PowSingleStep;
+    __m128d rcp, th;
+    LoadTransposed(ra, rb, rcp, th);
+    __m128d r = Sub(Mul(m, rcp), Set<double>(1.0));
+    __m128d h = Add(Mul(k, Set<double>(K::kLn2Hi)), th);
+    __m128d t = Mul(Mul(r, r), Horner(r, K::kCoreEP));
+    if constexpr (L == Level::HA)
+        t = Add(t, Add(Mul(k, Set<double>(K::kLn2Lo)), LoadLanes(ra + 2, rb + 2)));
+    __m128d w = Mul(y, Add(h, Add(r, t)));
+    w = Max(Min(w, Set<double>(S::kWLimit)), Set<double>(-S::kWLimit));
+    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    __m128d n = Add(Mul(w, Set<double>(S::kInvStep)), shifter);
+    __m128d u = Sub(w, Mul(Sub(n, shifter), Set<double>(S::kStep)));
+    __m128d row = Gather(expTable1024, AsInt(n), 1023);
+    if constexpr (L == Level::HA) u = Add(u, Mul(Mul(u, u), Set<double>(0.5)));
+    return ScaleByLowWord<10>(Add(row, Mul(row, u)), n);
+}
+
+template <Level L>
+BRENN_VEC __m128 PowOf(__m128 x, __m128 y, __m128& special) {
+    if constexpr (L == Level::EP) {
+        return PowSingleEP(x, y, special);
+    } else {
+        using F = Format<float>;
+        __m128 sxy = Or(LogSpecial(x), RangeTest(y, PowRanges<float>::kY));
+        x = IfThenElse(sxy, Set<float>(1.0f), x);
+        y = IfThenZeroElse(sxy, y);
+        const I32x4 b = AsInt(x);
+        I32x4 mant = And(b, Set<uint32_t>(F::kMant));
+        __m128 m = AsFloat(Or(mant, Set<uint32_t>(F::kOne)));
+        I32x4 k = Sub(ShiftRight<F::kMantBits>(b), Set<int32_t>(F::kBias));
+        // The row's offset in doubles, 4j: the index shifted two places less, its low
+        // bits cleared.
+        I32x4 j4 = And(ShiftRight<F::kMantBits - 11>(Add(mant, Set<int32_t>(1 << (F::kMantBits - 10)))),
+                       Set<int32_t>(~3));
+        Indices at = IndicesOf(j4);
+        const double* rows = lnRows[0];
+        __m128d lo = PowSingleHalf<L>(WidenLower(m), ToDoubleLower(k), WidenLower(y),
+                                      rows + uint32_t(at.at[0]), rows + uint32_t(at.at[1]));
+        __m128d hi = PowSingleHalf<L>(WidenUpper(m), ToDoubleUpper(k), WidenUpper(y),
+                                      rows + uint32_t(at.at[2]), rows + uint32_t(at.at[3]));
+        special = sxy;
+        return Narrow(lo, hi);
+    }
 }
 
 template <Level L>
@@ -108,7 +155,7 @@ inline __m128d PowOf(__m128d x, __m128d y, __m128d& special) {
     } else {
         __m128d wh, wl, sw;
         PowW<L, false>(y, LnReduce(x), wh, wl);
-        __m128d v = PowExp<kPowExpDegree<L, false>>(wh, wl, sw);
+        __m128d v = PowExp<kPowExpDegree<L>>(wh, wl, sw);
         special = Or(sxy, sw);
         return v;
     }

@@ -8,9 +8,10 @@
  * about 2^-60 of |w| even for |y| up to 2^900 and results near the overflow and
  * underflow thresholds. e^w uses the reduction of the table of 64 (exp_core.h) on the
  * head, the tail added to the reduced argument.
- * The single rows need less: w = y * ln x in one double, with the logarithm of the
- * double core at the level's degree; double EP has a short form of its own (PowWEP,
- * PowExpEP: about 33 bits). */
+ * The single scalar routine needs less: w = y * ln x in one double, with the degree-5
+ * logarithm of the double core (the single vector kernels have their own, shorter form
+ * in pow_body.h); double EP has a short form of its own (PowWEP, PowExpEP: about 33
+ * bits). */
 #ifndef BRENN_VECMATH_POWER_POW_CORE_H
 #define BRENN_VECMATH_POWER_POW_CORE_H
 
@@ -123,17 +124,15 @@ inline __m128d PowExpEP(__m128d w) {
 }
 
 // w = y * ln x, positive normal x, |y| below 2^900: wh + wl for double at LA and HA,
-// one double (wl zero) for the single rows, whose lanes were widened (`single`).
+// one double (wl zero) for the single scalar routine (`Single`).
 // `red` is the logarithm core's reduction of x.
 template <Level L, bool Single>
 inline void PowW(__m128d y, const LnReduction& red, __m128d& wh, __m128d& wl) {
     static_assert(Single || L != Level::EP, "double EP has PowWEP");
     if constexpr (Single) {
-        // Single LA and EP: the cubic core (2^-33 of ln x; w within 2^-26 of 1 for
-        // |w| up to 104); single HA: degree 5.
-        constexpr Level core = L != Level::HA ? Level::EP : Level::LA;
+        // The single scalar routine: the degree-5 core (L is HA there).
         __m128d h, l;
-        LnCoreFrom<core>(red, h, l);
+        LnCoreFrom<Level::LA>(red, h, l);
         wh = Mul(y, Add(h, l));
         wl = Zero<double>();
     } else {
@@ -145,11 +144,9 @@ inline void PowW(__m128d y, const LnReduction& red, __m128d& wh, __m128d& wl) {
     }
 }
 
-// The degree of e^r beyond r that a level's w needs.
-template <Level L, bool Single>
-constexpr ExpDegree kPowExpDegree = L == Level::HA   ? (Single ? ExpDegree::Five : ExpDegree::Six)
-                                    : L == Level::LA ? (Single ? ExpDegree::Four : ExpDegree::Five)
-                                                     : ExpDegree::Four; // single EP
+// The degree of e^r beyond r that a double level's w needs.
+template <Level L>
+constexpr ExpDegree kPowExpDegree = L == Level::HA ? ExpDegree::Six : ExpDegree::Five;
 
 // |x|^y in double for the scalar routines: x positive and finite (denormals included),
 // y finite and not zero; the value rounded once, overflow to +inf and underflow to zero
