@@ -5,17 +5,18 @@
  * An error d in w is a relative error d in the result, and an error d in Im w an error
  * d/|sin r| in the smaller part (r the angle's rest after whole quarter turns), so w must
  * be known to about 2^-(p+5) absolutely, Im w to that times |sin r|. The routine first
- * works in extended precision, with ln|a| and arg a from the extended library (relative
- * errors about 2^-63, which b multiplies); where a bound of the errors of Re w and r
+ * works in extended precision, with ln|a| and arg a from tables of ln(1 + j/256) and
+ * atan(j/256) (pow_tables.h, made by tools/complex/gen_pow_tables) and short series
+ * (errors about 2^-63, which b multiplies); where a bound of the errors of Re w and r
  * says that is not enough (results near the ends of the range, large exponents, angles
  * of many turns, a part near zero), it carries ln|a|, arg a and w as unevaluated sums
- * of two extended numbers (hi + lo, about 2^-105 relative):
+ * of two extended numbers (hi + lo, about 2^-105 relative), with the same tables:
  *   |a|^2 exactly as a sum of Dekker products (splitter 2^32 + 1 on the 64-bit
  *     significand), brought to m in [sqrt(1/2), sqrt 2) by its exponent e;
- *   ln m = 2^k ln m', m' = m^(2^-k) by k square roots until |m' - 1| <= 2^-10, then
- *     the series of 2 atanh((m' - 1)/(m' + 1)), its cube term in two words;
- *   arg a from t = min/max of the parts (< 1) as atan t = 2^k atan t' with
- *     t' = t/(1 + sqrt(1 + t^2)) taken k times until t' <= 2^-10, then its series;
+ *   ln m = ln c + 2 atanh(r/(2 + r)), c = 1 + j/256 the nearest centre and m/c = 1 + r
+ *     exact in two words, the series' cube term in two words;
+ *   arg a from t = min/max of the parts (< 1) as atan t_j + atan d, t_j = j/256 the
+ *     nearest and d = (t - t_j)/(1 + t t_j) from exact products, then its series;
  *   exp(Re w) = expl(hi) (1 + lo); Im w less its multiple q of pi/2 (pi/2 in three
  *     64-bit parts, each product with q exact in two words), sincosl of the rest's hi,
  *     corrected by its lo.
@@ -37,6 +38,7 @@
 
 #include "vecmath/complex/ext_elem.h"
 #include "vecmath/complex/extended.h"
+#include "vecmath/complex/pow_tables.h"
 
 namespace brenn::vm::cx {
 namespace {
@@ -88,58 +90,109 @@ inline DD Sqrt(DD a) {
     const DD r = Add(a, Mul(DD{s, 0}, -s));
     return FastTwoSum(s, (r.hi + r.lo) / (2 * s));
 }
-inline DD Scaled(DD a, int e) { // exact: e stays far inside the extended range
-    const LD f = ldexpl(1, e);
-    return {a.hi * f, a.lo * f};
+inline LD Scaled(LD a, int e) { // exact: e stays far inside the extended range
+    const unsigned long long sig = 1ULL << 63;
+    const unsigned short se = (unsigned short)(16383 + e);
+    LD f;
+    __builtin_memcpy(&f, &sig, 8);
+    __builtin_memcpy(reinterpret_cast<char*>(&f) + 8, &se, 2);
+    return a * f;
+}
+inline DD Scaled(DD a, int e) {
+    return {Scaled(a.hi, e), Scaled(a.lo, e)};
 }
 
 // pi/2 in three 64-bit parts (192 bits), ln 2 in two (128 bits).
 constexpr LD kPio2[3] = {0xc90fdaa22168c235p-63L, -0xece675d1fc8f8cbbp-129L,
                          -0xb7ed8fbbacc19c60p-194L};
 constexpr DD kPio2DD = {kPio2[0], kPio2[1]};
+constexpr DD kThirdDD = {0xaaaaaaaaaaaaaaabp-65L, -0xaaaaaaaaaaaaaaabp-130L};
 constexpr DD kLn2DD = {0xb17217f7d1cf79acp-64L, -0xd871319ff0342543p-130L};
-constexpr LD kSmall = 0x1p-10L;
 
-// ln m for m in [sqrt(1/2), sqrt 2).
+// A positive normal s as m 2^e, m in [sqrt(1/2), sqrt 2), from its bits.
+inline LD Normalized(LD s, int& e) {
+    unsigned long long sig;
+    unsigned short se;
+    __builtin_memcpy(&sig, &s, 8);
+    __builtin_memcpy(&se, reinterpret_cast<const char*>(&s) + 8, 2);
+    const bool high = sig >= 0xb504f333f9de6485ULL; // significand >= sqrt 2
+    e = int(se) - 16383 + high;
+    se = high ? 16382 : 16383;
+    LD m;
+    __builtin_memcpy(&m, &sig, 8);
+    __builtin_memcpy(reinterpret_cast<char*>(&m) + 8, &se, 2);
+    return m;
+}
+
+// The nearest integer of |v| < 2^62, by the 64-bit significand's rounding.
+inline int Nearest(LD v) {
+    return int((v + 0x1.8p63L) - 0x1.8p63L);
+}
+
+// The rows of ln m: m = c (1 + r), c = 1 + j/256 the nearest centre, ln m = -ln(1/c) +
+// 2 atanh(r/(2 + r)), |r/(2 + r)| < 2^-9.4. In extended precision, absolute error about
+// 2^-64 (the row's reciprocal and 1/c times m rounded once); in two words about 2^-105
+// relative to ln m (the product m/c exact, the cube term in two words).
+inline const LD* LnRow(LD m) {
+    return kPowLnRows[Nearest((m - 1) * 256) - kPowLnFirst];
+}
+LD LnNearOneX(LD m) {
+    const LD* row = LnRow(m);
+    const LD r = m * row[0] - 1, u = r / (2 + r), v = u * u;
+    return row[1] + 2 * (u + u * v * (1 / 3.0L + v * (0.2L + v * (1 / 7.0L))));
+}
 DD LnNearOne(DD m) {
-    int k = 0;
-    while (fabsl(m.hi - 1) > kSmall) {
-        m = Sqrt(m);
-        ++k;
-    }
-    const DD u = Div(Add(DD{m.hi - 1, 0}, m.lo), Add(m, 1.0L)); // m.hi - 1 exact
+    const LD* row = LnRow(m.hi);
+    const DD p = TwoProduct(m.hi, row[0]);
+    const DD r = TwoSum(p.hi - 1, p.lo + m.lo * row[0]); // p.hi - 1 exact
+    const DD u = Div(r, Add(r, 2.0L));
     const DD u2 = Mul(u, u);
     const LD v = u2.hi;
     // 2 (u + u^3/3 + u^5 (1/5 + u^2/7 + u^4/9 + u^6/11))
     const LD tail = u2.hi * u.hi * v * (0.2L + v * (1 / 7.0L + v * (1 / 9.0L + v * (1 / 11.0L))));
-    const DD cube = Div(Mul(u2, u), DD{3, 0});
-    return Scaled(Add(Add(u, cube), tail), k + 1);
+    const DD cube = Mul(Mul(u2, u), kThirdDD);
+    return Add(Scaled(Add(Add(u, cube), tail), 1), DD{row[1], row[2]});
 }
 
-// ln|a| of finite parts, not both zero.
+// ln|a| of finite parts, not both zero, in extended precision: |a|^2 rounded (relative
+// error 2^-63 at most), so an absolute error of a few 2^-64 beside e ln 2.
+LD LnAbsX(LD x, LD y) {
+    int e;
+    const LD m = Normalized(x * x + y * y, e);
+    return 0.5L * (LnNearOneX(m) + e * kLn2DD.hi);
+}
+
+// ln|a| of finite parts, not both zero, in two words: |a|^2 exact.
 DD LnAbs(LD x, LD y) {
     DD s = Add(TwoProduct(x, x), TwoProduct(y, y));
     int e;
-    frexpl(s.hi, &e);
-    s = Scaled(s, -e); // [1/2, 1)
-    if (s.hi < 0.70710678118654752440L) s = Scaled(s, 1), --e;
+    const LD m = Normalized(s.hi, e);
+    s = {m, Scaled(s.lo, -e)};
     const DD ln = Add(LnNearOne(s), Mul(kLn2DD, LD(e)));
-    return Scaled(ln, -1);
+    return {0.5L * ln.hi, 0.5L * ln.lo};
 }
 
-// atan t for 0 <= t <= 1.
-DD AtanUnit(DD t) {
-    int k = 0;
-    while (t.hi > kSmall) {
-        t = Div(t, Add(Sqrt(Add(Mul(t, t), 1.0L)), 1.0L));
-        ++k;
-    }
+// atan(num/den), 0 <= num <= den, den > 0: t_j = j/256 the nearest to num/den, atan t_j
+// from its row and atan d, d = (num/den - t_j)/(1 + t_j num/den), |d| <= 2^-9, by its
+// series. In extended precision num/den is rounded once (and the difference to t_j is
+// exact), a relative error about 2^-63; in two words d's numerator and denominator are
+// exact, about 2^-105 relative.
+LD AtanRatioX(LD num, LD den) {
+    const LD q = num / den;
+    const int j = Nearest(q * 256);
+    const LD tj = j * 0x1p-8L, d = (q - tj) / (1 + q * tj), v = d * d;
+    return kPowAtanRows[j][0] + (d - d * v * (1 / 3.0L - v * (0.2L - v * (1 / 7.0L))));
+}
+DD AtanRatio(LD num, LD den) {
+    const int j = Nearest(num / den * 256);
+    const LD tj = j * 0x1p-8L;
+    const DD t = Div(Add(TwoProduct(-tj, den), num), Add(TwoProduct(tj, num), den));
     const DD t2 = Mul(t, t);
     const LD v = t2.hi;
     // t - t^3/3 + t^5 (1/5 - t^2/7 + t^4/9 - t^6/11)
     const LD tail = t2.hi * t.hi * v * (0.2L - v * (1 / 7.0L - v * (1 / 9.0L - v * (1 / 11.0L))));
-    const DD cube = Div(Mul(t2, t), DD{-3, 0});
-    return Scaled(Add(Add(t, cube), tail), k);
+    const DD cube = Mul(Mul(t2, t), kThirdDD);
+    return Add(Add(Add(t, DD{-cube.hi, -cube.lo}), tail), DD{kPowAtanRows[j][0], kPowAtanRows[j][1]});
 }
 
 // arg a of finite parts, not both zero, as k eighth turns (|k| <= 4) and sg atan(t),
@@ -162,10 +215,9 @@ Octant OctantOf(LD x, LD y) {
     if (__builtin_signbit(y)) o.k = -o.k, o.sg = -o.sg;
     return o;
 }
-// The octant's angle in two words: t = num/den to two words first.
+// The octant's angle in two words.
 DD OctantAngle(const Octant& o) {
-    const LD q = o.num / o.den;
-    const DD at = AtanUnit(FastTwoSum(q, Add(TwoProduct(-q, o.den), o.num).hi / o.den));
+    const DD at = AtanRatio(o.num, o.den);
     return {o.sg * at.hi, o.sg * at.lo};
 }
 
@@ -236,38 +288,44 @@ void Compose(DD e, Angle an, LD& re, LD& im) {
     im = s == 0 ? s : m * s;
 }
 
+// The result from Re w and the reduced Im w; a and b real give exact zero parts: +0 real,
+// imaginary signed by the side of the cut and b.
+void Finish(DD e, Angle an, LD y, LD u, LD v, LD& re, LD& im) {
+    Compose(e, an, re, im);
+    if (y == 0 && v == 0) {
+        if (re == 0) re = 0;
+        if (im == 0) im = __builtin_signbit(y) != __builtin_signbit(u) ? -0.0L : 0.0L;
+    }
+}
+
 // a^b of finite a, not zero, and finite b, not zero, p the precision of the element.
 // Im w = u k pi/4 (exact quarter turns and a rest) + u d + v ln|a|, arg a = k pi/4 + d.
 template <int P>
 void PowFinite(LD x, LD y, LD u, LD v, LD& re, LD& im) {
     const Octant o = OctantOf(x, y);
-    const LD lr = LogAbsX(x, y), d = o.sg * atan2l(o.num, o.den);
-    const LD th = o.k * 0.5L * kPio2[0] + d;
     LD j0, g;
     QuarterTurns(u, o.k, j0, g);
-    DD e = {u * lr - v * th, 0};
-    int j = int(j0);
-    const LD r = QuarterReduced(g * kPio2[0] + u * d + v * lr, j);
-    Angle an = {j, r, 0};
     // bounds of the extended errors of Re w and of the rest r (a few extended ulps of the
-    // terms): Re w's within 2^-(p+5) of the result, r's within 2^-(p+2) of sin r, the
-    // smaller part after the reduction (an r left unreduced beyond 2^30 never passes);
-    // else all again in two words
-    const LD em = (fabsl(u) * (1 + fabsl(lr)) + fabsl(v * th)) * 0x1p-62L;
-    const LD ea = (fabsl(u * d) + fabsl(v) * (1 + fabsl(lr)) + fabsl(g)) * 0x1p-62L;
+    // terms; ln|a| absolutely): Re w's within 2^-(p+5) of the result, r's within 2^-(p+2)
+    // of sin r, the smaller part after the reduction (an r left unreduced beyond 2^30
+    // never passes); else all again in two words. The bounds are at least |u| 2^-62 and
+    // |v| 2^-62, so a larger exponent goes to two words at once.
     constexpr LD kTol = P == 53 ? 0x1p-58L : 0x1p-29L;
-    if (!(em <= kTol && fabsl(r) <= 1 && ea <= 8 * kTol * fabsl(r))) {
-        const DD l = LnAbs(x, y), dd = OctantAngle(o);
-        const DD t = Add(Mul(kPio2DD, o.k * 0.5L), dd);
-        e = Add(Mul(l, u), Mul(t, -v));
-        an = Reduced(Add(Add(Mul(kPio2DD, g), Mul(dd, u)), Mul(l, v)));
-        an.j += (long long)j0;
+    if (fabsl(u) * 0x1p-62L <= kTol && fabsl(v) * 0x1p-62L <= 8 * kTol) {
+        const LD lr = LnAbsX(x, y), d = o.sg * AtanRatioX(o.num, o.den);
+        const LD th = o.k * 0.5L * kPio2[0] + d;
+        int j = int(j0);
+        const LD r = QuarterReduced(g * kPio2[0] + u * d + v * lr, j);
+        const LD em = (fabsl(u) * (1 + fabsl(lr)) + fabsl(v * th)) * 0x1p-62L;
+        const LD ea = (fabsl(u * d) + fabsl(v) * (1 + fabsl(lr)) + fabsl(g)) * 0x1p-62L;
+        if (em <= kTol && fabsl(r) <= 1 && ea <= 8 * kTol * fabsl(r))
+            return Finish(DD{u * lr - v * th, 0}, Angle{j, r, 0}, y, u, v, re, im);
     }
-    Compose(e, an, re, im);
-    if (y == 0 && v == 0) {  // a and b real: exact zero parts: +0 real, imaginary signed by
-        if (re == 0) re = 0; // the side of the cut and b
-        if (im == 0) im = __builtin_signbit(y) != __builtin_signbit(u) ? -0.0L : 0.0L;
-    }
+    const DD l = LnAbs(x, y), dd = OctantAngle(o);
+    const DD t = Add(Mul(kPio2DD, o.k * 0.5L), dd);
+    Angle an = Reduced(Add(Add(Mul(kPio2DD, g), Mul(dd, u)), Mul(l, v)));
+    an.j += (long long)j0;
+    Finish(Add(Mul(l, u), Mul(t, -v)), an, y, u, v, re, im);
 }
 
 template <int P>
