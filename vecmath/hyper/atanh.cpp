@@ -12,7 +12,8 @@
  * exponent and significand (EP).
  * Double: |x| at or above 1 and NaN go to the scalar routine (an infinity with the
  * singularity status at +-1, NaN with the domain status above).
- * Single: no scalar routine for values. The body runs on every lane and the lanes with
+ * Single: no scalar routine for values. A register wholly inside (-1, 1) runs the body
+ * alone; in the others the body runs on every lane and the lanes with
  * |x| at or above 1 are found by two masks after it and fixed in place: the signed
  * infinity at +-1, NaN above, a NaN input quieted. The frame's per-lane hook then only
  * makes the report, one a lane, and returns the fixed value. */
@@ -121,9 +122,9 @@ inline __m128 AtanhWide(__m128 x) {
     __m128 rn = ApproxRecip(n);
     __m128d elo = AtanhCorrection(WidenLower(a), WidenLower(ws), WidenLower(rn));
     __m128d ehi = AtanhCorrection(WidenUpper(a), WidenUpper(ws), WidenUpper(rn));
-    const __m128d half = Set<double>(0.5);
+    // Halved after the narrowing, exactly: the results here are far above the denormals.
     __m128 y = LnOfSingleLanes(ws, [&](__m128d lo, __m128d hi) {
-        return Narrow(Mul(half, Add(lo, elo)), Mul(half, Add(hi, ehi)));
+        return Mul(Set<float>(0.5f), Narrow(Add(lo, elo), Add(hi, ehi)));
     });
     __m128 z = Mul(a, a);
     __m128 series = Add(a, Mul(Mul(a, z), Horner(z, kAtanhSeriesHA)));
@@ -168,6 +169,11 @@ struct AtanhBody<float, L> {
         I32x4 ai = AsInt(Abs(x));
         const I32x4 one = Set<uint32_t>(Format<float>::kOne);
         const I32x4 inf = Set<uint32_t>(Format<float>::kExpField);
+        // A register wholly inside (-1, 1), the rule, skips the masks and the fix-up.
+        if (MaskBits(Gt(ai, Set<uint32_t>(Format<float>::kOne - 1))) == 0) {
+            special = Zero<T>();
+            return AtanhOf<L>(x);
+        }
         V atOne = AsFloat(Eq(ai, one));
         V above = AsFloat(AndNot(Gt(ai, inf), Gt(ai, one))); // 1 < |x| <= inf
         V nan = AsFloat(Gt(ai, inf));
