@@ -275,6 +275,8 @@ TEST(Power, PowHardCasesWithinAnUlpAtHA) {
         {0x1p-149f, 0.5f},
         {3.0f, -85.0f},
         {-3.0f, 80.0f},
+        {0x1.002136p+0f, 0x1.534056p+17f}, // x near 1, |y ln x| near 88: the log's low
+        {0x1.ff9928p-1f, -0x1.b5edfap+16f}, // parts count
     };
     for (const F& c : singles) {
         float got = Call2<float>(frame::Row_sPow, ha, c.x, c.y, &st);

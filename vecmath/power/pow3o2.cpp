@@ -1,7 +1,8 @@
 /* Pow3o2, single and double: x^(3/2) as x * sqrt(x).
  *
- * Single: in double on widened lanes, rounded once (a result beyond the single range
- * becomes infinity with the flag and no status). Double HA: s = sqrt(x) rounded, its
+ * Single HA: in double on widened lanes, rounded once (a result beyond the single range
+ * becomes infinity with the flag and no status); single LA and EP: x*sqrt(x) in single,
+ * rounded twice (within about 1 ulp), an overflow the same. Double HA: s = sqrt(x) rounded, its
  * error (x - s*s)/(2s) from the exact square and a reciprocal estimate, and
  * x*(s + that) with x*s in two parts: within about 0.5 ulp. Double LA and EP: x*sqrt(x)
  * rounded twice, within about 1 ulp.
@@ -62,7 +63,9 @@ inline __m128d Pow3o2Of(__m128d x) {
 
 template <Level L>
 inline __m128 Pow3o2Lanes(__m128 x) {
-    // The single value from the double product: s and x*s rounded in double lose
+    // LA and EP: x*sqrt(x) in single, two roundings.
+    if constexpr (L != Level::HA) return Mul(x, Sqrt(x));
+    // HA: the single value from the double product: s and x*s rounded in double lose
     // nothing a single result can see.
     __m128d lo = WidenLower(x), hi = WidenUpper(x);
     return Narrow(Mul(lo, Sqrt(lo)), Mul(hi, Sqrt(hi)));
