@@ -106,6 +106,8 @@ inline DD Scaled(DD a, int e) {
 constexpr LD kPio2[3] = {0xc90fdaa22168c235p-63L, -0xece675d1fc8f8cbbp-129L,
                          -0xb7ed8fbbacc19c60p-194L};
 constexpr DD kPio2DD = {kPio2[0], kPio2[1]};
+// ln 2 with a 48-bit head (its products with exponents below 2^12 exact) and the rest.
+constexpr LD kLn2A = 0xb17217f7d1cfp-48L, kLn2B = 0xf35793c7673007e6p-113L;
 constexpr DD kThirdDD = {0xaaaaaaaaaaaaaaabp-65L, -0xaaaaaaaaaaaaaaabp-130L};
 constexpr DD kLn2DD = {0xb17217f7d1cf79acp-64L, -0xd871319ff0342543p-130L};
 
@@ -170,6 +172,48 @@ DD LnAbs(LD x, LD y) {
     s = {m, Scaled(s.lo, -e)};
     const DD ln = Add(LnNearOne(s), Mul(kLn2DD, LD(e)));
     return {0.5L * ln.hi, 0.5L * ln.lo};
+}
+
+// ln|a| of parts of at most 53 bits, not both zero, as hi + lo, cheaper than LnAbs:
+// |a|^2 exact, m/c - 1 = r exact (m's 32-bit halves times the 32-bit reciprocal), then
+// ln(1 + r) as r + the rest of its series to r^10 in extended precision. The error is at
+// most |r| 2^-73 + 2^-80 + |e| 2^-110 (the series' rounding, then the sums), *err.
+DD LnAbsMid(LD x, LD y, LD* err) {
+    const DD s = Add(TwoProduct(x, x), TwoProduct(y, y));
+    int e;
+    const LD m = Normalized(s.hi, e), sl = s.lo * (m / s.hi); // a power of 2: exact
+    const LD* row = LnRow(m);
+    constexpr LD kSplit = 4294967297.0L;
+    const LD t = m * kSplit, mh = t - (t - m), ml = m - mh;
+    const DD r = TwoSum(mh * row[0] - 1, ml * row[0] + sl * row[0]); // both products exact
+    const LD q = r.hi;
+    const LD rest =
+        q * q *
+        (-0.5L +
+         q * (1 / 3.0L +
+              q * (-0.25L +
+                   q * (0.2L + q * (-1 / 6.0L + q * (1 / 7.0L +
+                                                      q * (-0.125L + q * (1 / 9.0L - q * 0.1L))))))));
+    const DD h = TwoSum(e * kLn2A, row[1]), g = TwoSum(h.hi, q); // e kLn2A exact
+    const DD ln = FastTwoSum(g.hi, g.lo + (h.lo + (e * kLn2B + row[2] + r.lo + rest)));
+    *err = fabsl(q) * 0x1p-73L + 0x1p-80L + fabsl(LD(e)) * 0x1p-110L;
+    return {0.5L * ln.hi, 0.5L * ln.lo};
+}
+
+// atan(num/den) for parts of at most 53 bits, 0 <= num <= den, den > 0, as hi + lo within
+// |atan| 2^-72, cheaper than AtanRatio: num - t_j den exact (t_j has 8 bits), the
+// denominator den + t_j num exact in two words, d = q + ql from the quotient's exact
+// residual, then d + the rest of the series to d^7 (|d| <= 2^-9).
+DD AtanRatioMid(LD num, LD den) {
+    const int j = Nearest(num / den * 256);
+    const LD tj = j * 0x1p-8L, n = num - tj * den;
+    const DD dn = FastTwoSum(den, tj * num);
+    const LD q = n / dn.hi;
+    const DD p = TwoProduct(q, dn.hi);
+    const LD ql = (((n - p.hi) - p.lo) - q * dn.lo) / dn.hi, v = q * q;
+    const LD rest = -q * v * (1 / 3.0L - v * (0.2L - v * (1 / 7.0L)));
+    const DD h = FastTwoSum(kPowAtanRows[j][0], q); // atan t_j > 2^-9 >= |q| unless j = 0
+    return FastTwoSum(h.hi, h.lo + (kPowAtanRows[j][1] + ql + rest));
 }
 
 // atan(num/den), 0 <= num <= den, den > 0: t_j = j/256 the nearest to num/den, atan t_j
@@ -321,11 +365,25 @@ void PowFinite(LD x, LD y, LD u, LD v, LD& re, LD& im) {
         if (em <= kTol && fabsl(r) <= 1 && ea <= 8 * kTol * fabsl(r))
             return Finish(DD{u * lr - v * th, 0}, Angle{j, r, 0}, y, u, v, re, im);
     }
-    const DD l = LnAbs(x, y), dd = OctantAngle(o);
-    const DD t = Add(Mul(kPio2DD, o.k * 0.5L), dd);
-    Angle an = Reduced(Add(Add(Mul(kPio2DD, g), Mul(dd, u)), Mul(l, v)));
-    an.j += (long long)j0;
-    Finish(Add(Mul(l, u), Mul(t, -v)), an, y, u, v, re, im);
+    // in two words: first with the cheaper ln|a| and arg a (absolute errors el and ed,
+    // the products and sums of w within 2^-100 of their terms) under the same bounds,
+    // else with the closer ones
+    LD el;
+    DD l = LnAbsMid(x, y, &el), dd = AtanRatioMid(o.num, o.den);
+    dd = {o.sg * dd.hi, o.sg * dd.lo};
+    const LD ed = fabsl(dd.hi) * 0x1p-72L;
+    for (int pass = 0;; ++pass) {
+        const DD t = Add(Mul(kPio2DD, o.k * 0.5L), dd);
+        const DD e = Add(Mul(l, u), Mul(t, -v));
+        const DD iw = Add(Add(Mul(kPio2DD, g), Mul(dd, u)), Mul(l, v));
+        Angle an = Reduced(iw);
+        an.j += (long long)j0;
+        const LD em = fabsl(u) * el + fabsl(v) * ed + (fabsl(e.hi) + fabsl(v * t.hi)) * 0x1p-100L;
+        const LD ea = fabsl(u) * ed + fabsl(v) * el + (fabsl(iw.hi) + fabsl(v * l.hi)) * 0x1p-100L;
+        if (pass || (em <= kTol && fabsl(an.r) <= 1 && ea <= 8 * kTol * fabsl(an.r)))
+            return Finish(e, an, y, u, v, re, im);
+        l = LnAbs(x, y), dd = OctantAngle(o);
+    }
 }
 
 template <int P>
