@@ -8,7 +8,7 @@
  * Double: where the larger of a register's operands all lie in [2^-400, 2^400), the
  * squares and their tails need no scaling and are taken as they stand; a register with
  * a lane outside (or an infinity or NaN) scales both by 2^-e for the exponent e of the
- * larger, so that it lies in [1, 2). HA: the larger square exactly in two parts, the sum
+ * larger, so that it lies in [1, 2). HA: the larger square in two parts, the sum
  * of squares in two parts, its rounded root r and the correction (sum - r^2)/(2r), with
  * r^2 exact and 1/(2r) from an estimate and one Newton step (it need only be good to a
  * few per cent): within about 0.55 ulp. LA and EP: the rounded squares and root,
@@ -23,6 +23,7 @@
 
 #include "frame/kernels.h"
 #include "vecmath/arith/ranges.h"
+#include "vecmath/complex/exact.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/frame/scalar.h"
@@ -69,11 +70,12 @@ inline __m128d HypotWide(__m128d a, __m128d b) {
     return Sqrt(Add(Mul(a, a), Mul(b, b)));
 }
 
-// x^2 - xx for xx = x*x rounded: from the halves of x, whose products are exact.
+// x^2 - xx for xx = x*x rounded: from x's halves with the low 27 bits masked off, whose
+// products are exact but for that of the low halves (rounded by 2^-104 of x^2, far
+// below what the root's correction needs).
 inline __m128d SquareTail(__m128d x, __m128d xx) {
-    __m128d h, l;
-    Split(x, h, l);
-    return Add(Add(Sub(Mul(h, h), xx), Mul(Add(h, h), l)), Mul(l, l));
+    const cx::Halves<__m128d> s = cx::SplitByMask(x);
+    return Add(Add(Sub(Mul(s.hi, s.hi), xx), Mul(Add(s.hi, s.hi), s.lo)), Mul(s.lo, s.lo));
 }
 
 template <Level L>
