@@ -2,8 +2,8 @@
  * core of root_core.h.
  *
  * The single rows split the exponent and take the seed in single lanes; HA runs one
- * term of the series on widened lanes and rounds once (0.6 ulp), LA (two terms) and EP
- * (the seed alone) stay in single. Single denormals go to the scalar routine, which runs
+ * term of the series on widened lanes and rounds once (0.6 ulp), LA (one term, within
+ * about 1.6 ulp) and EP (the seed alone) stay in single. Single denormals go to the scalar routine, which runs
  * the double form. The double rows take four terms (at HA with the seed rounded so
  * that its powers and products are exact; LA and EP round them), in rounds of sixteen
  * (wide.h). dCbrt's LA and EP slots share a kernel; dInvCbrt has one kernel, at HA,
@@ -49,7 +49,7 @@ inline __m128d SignedRoot(__m128d x) {
 
 template <Root R, Level L>
 inline __m128 RootLanes(__m128 x) {
-    constexpr int terms = L == Level::EP ? 0 : L == Level::HA ? 1 : 2;
+    constexpr int terms = L == Level::EP ? 0 : 1;
     constexpr bool wide = L == Level::HA;
     __m128 v = RootOf<R, terms, wide>(Abs(x));
     return R == Root::Pow2o3 ? v : Or(v, SignBit(x));
