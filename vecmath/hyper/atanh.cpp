@@ -46,7 +46,7 @@ inline __m128d AtanhOf(__m128d x) {
         __m128d ph, pl;
         TwoProduct(w.hi, d.hi, ph, pl);
         __m128d rem = Sub(Add(Sub(Sub(n.hi, ph), pl), n.lo), Mul(w.hi, d.lo));
-        w.lo = Div(rem, d.hi);
+        w.lo = Mul(rem, RecipEstimate(d.hi)); // rem/d.hi is about 2^-53 of w
     } else {
         w = OnePlus(Div(Add(a, a), Sub(one, a)));
     }
