@@ -3,7 +3,8 @@
 //   ln rows: for the centres c = 1 + j/256, j = -75..106 (m in [sqrt(1/2), sqrt 2)), the
 //   reciprocal of c rounded to 32 bits (so that its product with a 32-bit half of m is
 //   exact) and -ln of that reciprocal as a long double and the rounded rest;
-//   atan rows: atan(j/256), j = 0..256, as a long double and the rounded rest.
+//   atan rows: atan(j/256), j = 0..256, as a long double and the rounded rest;
+//   exp rows: 2^(j/64), j = 0..63, likewise.
 //   gen_pow_tables OUT
 #include <cstdio>
 #include <mpfr.h>
@@ -61,6 +62,16 @@ int main(int argc, char** argv) {
         mpfr_set_si(v, j, MPFR_RNDN);
         mpfr_div_ui(v, v, 256, MPFR_RNDN);
         mpfr_atan(v, v, MPFR_RNDN);
+        long double hi, lo;
+        Split(v, t, hi, lo);
+        std::fprintf(out, "    {%LaL, %LaL},\n", hi, lo);
+    }
+    std::fprintf(out, "};\n\n// 2^(j/64) in two parts\n"
+                      "inline constexpr long double kPowExpRows[64][2] = {\n");
+    for (int j = 0; j < 64; ++j) {
+        mpfr_set_si(v, j, MPFR_RNDN);
+        mpfr_div_ui(v, v, 64, MPFR_RNDN);
+        mpfr_exp2(v, v, MPFR_RNDN);
         long double hi, lo;
         Split(v, t, hi, lo);
         std::fprintf(out, "    {%LaL, %LaL},\n", hi, lo);

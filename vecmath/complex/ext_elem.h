@@ -25,7 +25,9 @@ constexpr long double kPio2C = 2.022266248795950732376519042844277273704e-21L;
 // result). Beyond 2^30 v stays as it is, for sincosl's own reduction.
 inline long double QuarterReduced(long double v, int& j) {
     if (!(fabsl(v) > 0.785398163397448309615660845819875721L && fabsl(v) < 0x1p30L)) return v;
-    const long double q = rintl(v * 0.636619772367581343075535053490057448L);
+    // the nearest integer by the 64-bit significand's rounding (rintl's instruction is slow)
+    const long double q =
+        (v * 0.636619772367581343075535053490057448L + 0x1.8p63L) - 0x1.8p63L;
     j += int(q);
     return ((v - q * kPio2A) - q * kPio2B) - q * kPio2C;
 }

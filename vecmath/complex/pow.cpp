@@ -126,9 +126,19 @@ inline LD Normalized(LD s, int& e) {
     return m;
 }
 
-// The nearest integer of |v| < 2^62, by the 64-bit significand's rounding.
+// The nearest integer of |v| < 2^62, by the 64-bit significand's rounding (ties to even).
+inline LD NearestX(LD v) {
+    return (v + 0x1.8p63L) - 0x1.8p63L;
+}
 inline int Nearest(LD v) {
-    return int((v + 0x1.8p63L) - 0x1.8p63L);
+    return int(NearestX(v));
+}
+// rintl(v) for finite v without the unit's slow rounding instruction: a zero keeps v's
+// sign, and beyond 2^62 v is an integer already.
+inline LD Rint(LD v) {
+    if (!(fabsl(v) < 0x1p62L)) return v;
+    const LD r = NearestX(v);
+    return r == 0 ? v * 0 : r;
 }
 
 // The rows of ln m: m = c (1 + r), c = 1 + j/256 the nearest centre, ln m = -ln(1/c) +
@@ -247,7 +257,7 @@ struct Octant {
     int k, sg;
     LD num, den;
 };
-Octant OctantOf(LD x, LD y) {
+inline Octant OctantOf(LD x, LD y) {
     const LD ax = fabsl(x), ay = fabsl(y);
     Octant o;
     if (ay <= ax) {
@@ -275,7 +285,7 @@ struct Angle {
 Angle Reduced(DD w) {
     if (!(fabsl(w.hi) > 0.785398163397448309615660845819875721L && fabsl(w.hi) < 0x1p62L))
         return {0, w.hi, w.lo};
-    const LD q = rintl(w.hi * 0.636619772367581343075535053490057448L);
+    const LD q = NearestX(w.hi * 0.636619772367581343075535053490057448L);
     const DD p1 = TwoProduct(q, kPio2[0]), p2 = TwoProduct(q, kPio2[1]);
     DD r = Add(DD{w.hi - p1.hi, 0}, w.lo - p1.lo); // the heads cancel exactly
     r = Add(r, -p2.hi);
@@ -286,8 +296,8 @@ Angle Reduced(DD w) {
 // b k eighth turns less their nearest multiple of a whole turn, exact: j0 quarter turns
 // and a rest g in [-1/2, 1/2] quarter turns.
 inline void QuarterTurns(LD b, int k, LD& j0, LD& g) {
-    const LD f0 = b * k * 0.5L, f = f0 - 4 * rintl(f0 * 0.25L);
-    j0 = rintl(f);
+    const LD f0 = b * k * 0.5L, f = f0 - 4 * Rint(f0 * 0.25L);
+    j0 = Rint(f);
     g = f - j0;
 }
 
@@ -299,10 +309,27 @@ inline void SinCosReduced(LD r, LD& s, LD& c) {
     __asm__("fsincos" : "=t"(c), "=u"(s) : "0"(r));
 }
 
+// e^w for |w| < 11000 from the rows of 2^(j/64): w = (64 k + j) ln2/64 + r, |r| <= ln2/128
+// (n ln2/64's head exact and w less it exact), e^r - 1 by its Taylor polynomial to r^7
+// (truncation below 2^-75): about an extended ulp, as expl, which takes the rest.
+LD ExpX(LD w) {
+    if (!(fabsl(w) < 11000)) return expl(w);
+    constexpr LD kInvLn2o64 = 0xb8aa3b295c17f0bcp-57L;
+    constexpr LD kLn2o64A = 0x58b90bfbe8ep-49L, kLn2o64B = 0xf79abc9e3b39803fp-114L;
+    const LD nf = NearestX(w * kInvLn2o64);
+    const int n = int(nf), j = n & 63;
+    const LD r = (w - nf * kLn2o64A) - nf * kLn2o64B;
+    const LD p =
+        r * (1 + r * (0.5L + r * (1 / 6.0L + r * (1 / 24.0L + r * (1 / 120.0L +
+                                                                  r * (1 / 720.0L + r * (1 / 5040.0L)))))));
+    const LD* row = kPowExpRows[j];
+    return Scaled(row[0] + (row[0] * p + row[1]), (n - j) / 64);
+}
+
 // exp(e) (cos + i sin)(angle); a zero factor stays an exact zero beside an infinite
 // modulus.
-void Compose(DD e, Angle an, LD& re, LD& im) {
-    LD m = expl(e.hi);
+[[gnu::always_inline]] inline void Compose(const DD& e, const Angle& an, LD& re, LD& im) {
+    LD m = ExpX(e.hi);
     if (__builtin_isfinite(m)) m += m * e.lo;
     LD s, c;
     SinCosReduced(an.r, s, c);
@@ -334,7 +361,8 @@ void Compose(DD e, Angle an, LD& re, LD& im) {
 
 // The result from Re w and the reduced Im w; a and b real give exact zero parts: +0 real,
 // imaginary signed by the side of the cut and b.
-void Finish(DD e, Angle an, LD y, LD u, LD v, LD& re, LD& im) {
+[[gnu::always_inline]] inline void Finish(const DD& e, const Angle& an, LD y, LD u, LD v, LD& re,
+                                          LD& im) {
     Compose(e, an, re, im);
     if (y == 0 && v == 0) {
         if (re == 0) re = 0;
