@@ -9,7 +9,9 @@
  * c = 1 + r^2 C(r^2), a Pade denominator of tan and a numerator fitted to it, in single,
  * with a true division. Single HA widens the argument to double (pi/2 in two parts) and
  * takes the double EP set, double EP pi/2 in three parts, double LA in four with a
- * longer set (tools/trig/tan_quotient.sollya). The single short path holds to 8256, the
+ * longer set (tools/trig/tan_quotient.sollya); double LA also keeps the remainder's low
+ * part and the roundings of s and c, and corrects the quotient by them (AccurateQuotient).
+ * The single short path holds to 8256, the
  * double one to 2^24. Every kernel but double HA runs rounds of sixteen elements with one
  * range test, its registers' chains interleaved.
  *
@@ -22,7 +24,7 @@
  * kernel finishes those by TanSum.
  *
  * Measured (brenn_accuracy, 250000 inputs a row): sTan EP 20.7 bits, LA 2.96 ulp,
- * HA 0.522 ulp; dTan EP 29.3 bits, LA 2.87 ulp, HA 0.526 ulp. */
+ * HA 0.522 ulp; dTan EP 29.3 bits, LA 1.62 ulp, HA 0.513 ulp. */
 #include <bit>
 
 #include "frame/kernels.h"
@@ -137,6 +139,51 @@ BRENN_TRIG_HOT void ReduceWide(const __m128* a, const __m128* n, __m128* r) {
     }
 }
 
+// Double LA: s/c as above, with what the plain quotient rounds away put back. The
+// remainder is r + rl (the third part's product subtracted with its error kept, then
+// renormalised), rl entering u = r^2 + 2 r rl and s = r + (rl + r u S). The roundings ds
+// and dc of the sums s = r + t and c = 1 + u C' are carried, and the quotient q0 (s/c, or
+// c/s for n odd) is corrected by its relative error ds/s - dc/c, the reciprocals taken
+// from the bits (one integer subtraction, good to 12%, on a correction of an ulp or
+// two). The plain quotient's three roundings and the remainder's add up to 2.9 ulp;
+// corrected, 1.6.
+constexpr uint64_t kRecipBits = 0x7FDE623822FC16E6ull;
+BRENN_TRIG_HOT __m128d RoughRecip(__m128d v) {
+    return AsFloat(Sub(Set<uint64_t>(kRecipBits), AsInt(v)));
+}
+template <int M>
+BRENN_TRIG_HOT void AccurateQuotient(const __m128d* a, const __m128d* n, const __m128d* odd,
+                                     const double (&piHalf)[4], __m128d* q) {
+    using S = TanFitLA;
+    __m128d r[M], rl[M], u[M], p[M], s[M], ds[M], c[M], dc[M];
+    BRENN_EACH(k, M) {
+        __m128d r1 = Sub(Sub(a[k], Mul(n[k], Set<double>(piHalf[0]))),
+                         Mul(n[k], Set<double>(piHalf[1]))); // exact
+        // |r1| >= n piHalf[2], or both are small and the difference is exact.
+        __m128d h, e;
+        FastTwoSum(r1, Neg(Mul(n[k], Set<double>(piHalf[2]))), h, e);
+        FastTwoSum(h, Sub(e, Mul(n[k], Set<double>(piHalf[3]))), r[k], rl[k]);
+    }
+    BRENN_EACH(k, M) u[k] = Add(Mul(r[k], r[k]), Mul(Add(r[k], r[k]), rl[k]));
+    HornerAll<M>(u, S::kS, p);
+    BRENN_EACH(k, M) {
+        __m128d t = Add(rl[k], Mul(Mul(r[k], u[k]), p[k]));
+        FastTwoSum(r[k], t, s[k], ds[k]);
+    }
+    // C' = (C - 1) / u, then c = 1 + u C' with its rounding.
+    BRENN_EACH(k, M) p[k] = MulAdd(u[k], Set<double>(S::kC[4]), Set<double>(S::kC[3]));
+#pragma GCC unroll 4
+    for (int i = 2; i >= 1; --i)
+        BRENN_EACH(k, M) p[k] = MulAdd(u[k], p[k], Set<double>(S::kC[i]));
+    BRENN_EACH(k, M) FastTwoSum(Set<double>(1), Mul(u[k], p[k]), c[k], dc[k]);
+    BRENN_EACH(k, M) {
+        __m128d q0 = Div(IfThenElse(odd[k], c[k], s[k]), IfThenElse(odd[k], s[k], c[k]));
+        __m128d d = Sub(Mul(ds[k], RoughRecip(s[k])), Mul(dc[k], RoughRecip(c[k])));
+        // n odd: -c/s, whose relative error is the opposite.
+        q[k] = Add(Xor(q0, And(odd[k], SignMask<double>())), Mul(q0, d));
+    }
+}
+
 // tan of M registers of magnitudes a by the quadrant reduction with pi/2 in parts. Not
 // forced inline: the single kernels are flattened anyway, and left to itself GCC takes
 // the double EP body whole into the frame's quad step.
@@ -150,6 +197,10 @@ inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
     BRENN_EACH(k, M) t[k] = Add(Mul(a[k], Set<T>(C::kTwoOverPi)), shifter);
     BRENN_EACH(k, M) odd[k] = AsFloat(Eq(And(AsInt(t[k]), Set<U>(1)), Set<U>(1)));
     BRENN_EACH(k, M) n[k] = Sub(t[k], shifter);
+    if constexpr (std::is_same_v<Sides, TanFitLA>) {
+        AccurateQuotient<M>(a, n, odd, piHalf, q);
+        return;
+    }
     BRENN_EACH(k, M) r[k] = Sub(a[k], Mul(n[k], Set<T>(piHalf[0])));
 #pragma GCC unroll 4
     for (size_t i = 1; i < P; ++i)
@@ -179,8 +230,9 @@ inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
 //   tan x = (tan A + t) / (1 - t tan A),  or -(1 - t tan A) / (tan A + t) for n odd.
 // tan A comes from tanPi64 in two parts; t = r + r^3 T(r^2) by its Taylor series, whose
 // cube term is below 2^-11 of r, so that t is rh + (rl + r^3 T) with no further care.
-// t tan A is at most tan(pi/128): its rounding stays below 2^-58 of the denominator,
-// which is carried as 1 - t tan A exactly. The numerator's head sum is exact too, and
+// t tan A is at most tan(pi/128): it is taken as ah rh + (ah tt + al t), tt the part of t
+// beyond rh, that sum's rounding kept and 1 minus its head carried exactly (the product
+// ah rh alone is rounded, below 2^-59 of the denominator). The numerator's head sum is exact too, and
 // near the zeros and the poles of tan (j = 0) it is t itself, so the result keeps the
 // remainder's full precision there. The quotient is the product by the rounded
 // reciprocal of the bottom's head, corrected once by its residual (the product of the
@@ -197,7 +249,11 @@ BRENN_TRIG_HOT __m128d TanSum(const int32_t* J, __m128d rh, __m128d rl) {
     __m128d u = Mul(rh, rh);
     __m128d tt = Add(rl, Mul(Mul(rh, u), Horner(u, kTanTaylor)));
     __m128d dh, dl, nh, nl;
-    FastTwoSum(Set<double>(1), Neg(Mul(ah, Add(rh, tt))), dh, dl);
+    __m128d pl = Add(Mul(ah, tt), Mul(al, Add(rh, tt)));
+    __m128d ph, pe0;
+    FastTwoSum(Mul(ah, rh), pl, ph, pe0);
+    FastTwoSum(Set<double>(1), Neg(ph), dh, dl);
+    dl = Sub(dl, pe0);
     TwoSum(ah, rh, nh, nl);
     FastTwoSum(nh, Add(nl, Add(al, tt)), nh, nl);
     __m128d th = IfThenElse(odd, dh, nh), tl = IfThenElse(odd, dl, nl);
