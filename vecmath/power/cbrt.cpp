@@ -3,11 +3,11 @@
  *
  * The single rows split the exponent and take the seed in single lanes; HA runs one
  * term of the series on widened lanes and rounds once (0.6 ulp), LA (one term, within
- * about 1.6 ulp) and EP (the seed alone) stay in single. Single denormals go to the scalar routine, which runs
- * the double form. The double rows take four terms (at HA with the seed rounded so
- * that its powers and products are exact; LA and EP round them), in rounds of sixteen
- * (wide.h). dCbrt's LA and EP slots share a kernel; dInvCbrt has one kernel, at HA,
- * for the three slots.
+ * about 1.6 ulp) and EP (the seed alone) stay in single. Single denormals go to the
+ * scalar routine, which runs the double form. The double rows take four terms (at HA
+ * with the seed rounded so that its powers and products are exact; LA and EP round
+ * them), in rounds of sixteen (wide.h). dCbrt's LA and EP slots share a kernel;
+ * dInvCbrt has one kernel, at HA, for the three slots.
  *
  * Special lanes: zeros, infinities, NaN, and denormals. Cbrt gives +-0 and +-inf
  * themselves; InvCbrt the signed infinity for a zero (singularity status in double, no

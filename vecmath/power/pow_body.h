@@ -12,6 +12,7 @@
 #include "vecmath/explog/log_core.h"
 #include "vecmath/frame/vec.h"
 #include "vecmath/power/pow_core.h"
+#include "vecmath/power/power_tables.h"
 
 namespace brenn::vm {
 
@@ -73,14 +74,16 @@ inline __m128 PowSingleEP(__m128 x, __m128 y, __m128& special) {
 }
 
 // Single LA and HA in double lanes. x = 2^k * m is split on the single bits, four lanes
-// at once, m in [1, 2) and its row j of lnRows (m rounded to 9 fraction bits); then, two
-// lanes a half, r = m*rcp - 1 (m has 24 bits: rounded below 2^-53, exact at rows 0 and
-// 512, where x is near 1 and the heads k*ln2hi + Thi cancel exactly), ln x =
-// (k*ln2hi + Thi) + (r + r^2*Q(r)) with the cubic of the EP core (about 2^-35 of ln x),
-// HA adding the low parts k*ln2lo + Tlo (up to 2^-43, which y can make 2^-27 of w);
-// w = y*ln x in one double. e^w by the table of 1024: n = w*1024/ln2 rounded,
-// u = w - n*ln2/1024 (|u| <= 2^-11.47), 2^(n/1024) * (1 + u + u^2/2) at HA (2^-37),
-// (1 + u) at LA (2^-24), the power of two added to the row's exponent field.
+// at once, m in [1, 2) and its row j of powLnRows (m rounded to 9 fraction bits: lnRows'
+// reciprocal and -ln of it in one double T); then, two lanes a half, r = m*rcp - 1 (m
+// has 24 bits: rounded below 2^-53, exact at rows 0 and 512, where x is near 1) and
+// ln x = (k*ln2 + T) + (r + r^2*Q(r)) with the cubic of the EP core (about 2^-35 of
+// ln x). k*ln2 + T is within 2^-53 of its size plus 2^-53 (the two roundings of ln 2 and
+// T), and exactly 0 at row 512 for k = -1 (T is ln 2 rounded): within 2^-43 of ln x
+// wherever it does not vanish. w = y*ln x in one double. e^w by the table of 1024:
+// n = w*1024/ln2 rounded, u = w - n*ln2/1024 (|u| <= 2^-11.47), 2^(n/1024) *
+// (1 + u + u^2/2) at HA (2^-37), (1 + u) at LA (2^-24), the power of two added to the
+// row's exponent field.
 // w is held to [-200, 200] first: beyond about 104 the single result is infinity or zero
 // either way, and the narrowing of e^(+-200) gives it with the flags the scalar routine
 // would raise (overflow or underflow, and inexact), so no lane leaves for w.
@@ -89,6 +92,7 @@ struct PowSingleStep {
     static constexpr double kInvStep = 0x1.71547652b82fep+10; // 1024/ln2
     static constexpr double kStep = 0x1.62e42fefa39efp-11;    // ln2/1024
     static constexpr double kWLimit = 200.0;
+    static constexpr double kLn2 = 0x1.62e42fefa39efp-1;
 };
 
 template <Level L>
@@ -96,13 +100,11 @@ BRENN_VEC __m128d PowSingleHalf(__m128d m, __m128d k, __m128d y, const double* r
                                 const double* rb) {
     using K = LogConst<double>;
     using S = PowSingleStep;
-    __m128d rcp, th;
-    LoadTransposed(ra, rb, rcp, th);
+    __m128d rcp, tv;
+    LoadTransposed(ra, rb, rcp, tv);
     __m128d r = Sub(Mul(m, rcp), Set<double>(1.0));
-    __m128d h = Add(Mul(k, Set<double>(K::kLn2Hi)), th);
+    __m128d h = Add(Mul(k, Set<double>(S::kLn2)), tv);
     __m128d t = Mul(Mul(r, r), Horner(r, K::kCoreEP));
-    if constexpr (L == Level::HA)
-        t = Add(t, Add(Mul(k, Set<double>(K::kLn2Lo)), LoadLanes(ra + 2, rb + 2)));
     __m128d w = Mul(y, Add(h, Add(r, t)));
     w = Max(Min(w, Set<double>(S::kWLimit)), Set<double>(-S::kWLimit));
     const __m128d shifter = Set<double>(Format<double>::kShifter);
@@ -126,12 +128,13 @@ BRENN_VEC __m128 PowOf(__m128 x, __m128 y, __m128& special) {
         I32x4 mant = And(b, Set<uint32_t>(F::kMant));
         __m128 m = AsFloat(Or(mant, Set<uint32_t>(F::kOne)));
         I32x4 k = Sub(ShiftRight<F::kMantBits>(b), Set<int32_t>(F::kBias));
-        // The row's offset in doubles, 4j: the index shifted two places less, its low
-        // bits cleared.
-        I32x4 j4 = And(ShiftRight<F::kMantBits - 11>(Add(mant, Set<int32_t>(1 << (F::kMantBits - 10)))),
-                       Set<int32_t>(~3));
-        Indices at = IndicesOf(j4);
-        const double* rows = lnRows[0];
+        // The row's offset in doubles, 2j: the index shifted one place less, its low bit
+        // cleared.
+        I32x4 j2 =
+            And(ShiftRight<F::kMantBits - 10>(Add(mant, Set<int32_t>(1 << (F::kMantBits - 10)))),
+                Set<int32_t>(~1));
+        Indices at = IndicesOf(j2);
+        const double* rows = powLnRows[0];
         __m128d lo = PowSingleHalf<L>(WidenLower(m), ToDoubleLower(k), WidenLower(y),
                                       rows + uint32_t(at.at[0]), rows + uint32_t(at.at[1]));
         __m128d hi = PowSingleHalf<L>(WidenUpper(m), ToDoubleUpper(k), WidenUpper(y),

@@ -34,8 +34,9 @@ constexpr double kTwoThirdsSeries[] = {-2.0 / 3, 5.0 / 9, -40.0 / 81, 110.0 / 24
 
 // The terms of the series a level needs: with e near 2^-12.6 the first term left out is
 // below 2^-28 for one term (single HA in double, and single LA, whose own roundings in
-// single are larger) and 2^-66 for four (double LA and EP); double HA, whose seed is cut to 15 bits (e near 2^-11.3),
-// takes four too (2^-57.7 for Cbrt's series, 2^-59.5 for the others).
+// single are larger) and 2^-66 for four (double LA and EP); double HA, whose seed is cut
+// to 15 bits (e near 2^-11.3), takes four too (2^-57.7 for Cbrt's series, 2^-59.5 for
+// the others).
 // The root of M from its seed z, with e = M*z^3 - 1 and the products rounded, in either
 // precision: M*z^2, z or M*z times 1 + the series.
 template <Root R, int Terms, class V>
