@@ -147,14 +147,16 @@ constexpr bool kInSingle = L == Level::EP || (L == Level::LA && U == Unit::Radia
 template <Level L>
 using DoubleSeriesOf = std::conditional_t<L == Level::EP, AtanDouble5, AtanDouble11>;
 
-// Single Atan HA in double, on a = |x| widened, the sign put back on the single lanes.
-// Between tan(pi/8) and tan(3pi/8) the angle is pi/4 + atan((a - 1)/(a + 1)), above
-// tan(3pi/8) pi/2 + atan(-1/a), below tan(pi/8) atan(a): one quotient with the sign in
-// it, the odd series on it, and a base of 0, 1 or 2 quarter turns.
+// Single Atan HA (and the pi-scaled LA and HA) in double, on a = |x| widened, the sign
+// put back on the single lanes. Between tan(pi/8) and tan(3pi/8) the angle is pi/4 +
+// atan((a - 1)/(a + 1)), above tan(3pi/8) pi/2 + atan(-1/a), below tan(pi/8) atan(a): one
+// quotient with the sign in it, the odd series on it, and a base of 0, 1 or 2 quarter
+// turns.
+template <Unit U>
 BRENN_VEC __m128d AtanWide(__m128d a) {
     using S = AtanDouble5Set;
     const __m128d one = Set<double>(1.0);
-    const __m128d quarter = Set<double>(Quarter<double, Unit::Radian>::kHi);
+    const __m128d quarter = Set<double>(Quarter<double, U>::kHi);
     __m128d above = AsFloat(Gt(AsInt(a), AsInt(Set<double>(0x1.3504f333f9de6p+1))));
     __m128d fold = AndNot(above, AsFloat(Gt(AsInt(a), AsInt(Set<double>(0x1.a827999fcef32p-2)))));
     __m128d num = IfThenElse(fold, Sub(a, one), IfThenElse(above, Neg(one), a));
@@ -162,7 +164,10 @@ BRENN_VEC __m128d AtanWide(__m128d a) {
     __m128d q = Div(num, den);
     __m128d l = Mul(q, Mul(Mul(q, q), Estrin(Mul(q, q), S::kP)));
     __m128d base = IfThenElse(fold, quarter, IfThenElseZero(above, Add(quarter, quarter)));
-    return Add(Add(base, q), l);
+    if constexpr (U == Unit::Pi)
+        return Add(base, Mul(Add(q, l), Set<double>(InvPi<double>::kHi)));
+    else
+        return Add(Add(base, q), l);
 }
 
 // The double steps on four single lanes, widened, with the short series.
@@ -176,11 +181,9 @@ template <Unit U, Level L>
 BRENN_VEC __m128 AtanOf(__m128 x) {
     if constexpr (kInSingle<U, L>) {
         return AtanSingle<U, L>(x);
-    } else if constexpr (U == Unit::Radian) {
-        __m128 a = Abs(x);
-        return Or(Narrow(AtanWide(WidenLower(a)), AtanWide(WidenUpper(a))), SignBit(x));
     } else {
-        return InDouble<U>(x, Set<float>(1.0f));
+        __m128 a = Abs(x);
+        return Or(Narrow(AtanWide<U>(WidenLower(a)), AtanWide<U>(WidenUpper(a))), SignBit(x));
     }
 }
 template <Unit U, Level L>
