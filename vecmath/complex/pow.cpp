@@ -282,10 +282,18 @@ struct Angle {
 };
 
 // Im w less its multiple of pi/2. Beyond 2^62 w is left to sincosl's own reduction.
+// Coarse: below 2^31 quarter turns by pi/2's parts of 32, 32 and 64 bits (ext_elem.h), the
+// first two products exact, an error below |q| 2^-130 (pi/2's own rest beyond them).
+template <bool Coarse = false>
 Angle Reduced(DD w) {
     if (!(fabsl(w.hi) > 0.785398163397448309615660845819875721L && fabsl(w.hi) < 0x1p62L))
         return {0, w.hi, w.lo};
     const LD q = NearestX(w.hi * 0.636619772367581343075535053490057448L);
+    if (Coarse && fabsl(q) < 0x1p31L) {
+        const DD r = TwoSum(w.hi - q * kPio2A, -(q * kPio2B)); // the heads cancel exactly
+        const DD s = FastTwoSum(r.hi, r.lo + (w.lo - q * kPio2C));
+        return {(long long)q, s.hi, s.lo};
+    }
     const DD p1 = TwoProduct(q, kPio2[0]), p2 = TwoProduct(q, kPio2[1]);
     DD r = Add(DD{w.hi - p1.hi, 0}, w.lo - p1.lo); // the heads cancel exactly
     r = Add(r, -p2.hi);
@@ -404,10 +412,10 @@ void PowFinite(LD x, LD y, LD u, LD v, LD& re, LD& im) {
         const DD t = Add(Mul(kPio2DD, o.k * 0.5L), dd);
         const DD e = Add(Mul(l, u), Mul(t, -v));
         const DD iw = Add(Add(Mul(kPio2DD, g), Mul(dd, u)), Mul(l, v));
-        Angle an = Reduced(iw);
+        Angle an = pass ? Reduced(iw) : Reduced<true>(iw);
         an.j += (long long)j0;
         const LD em = fabsl(u) * el + fabsl(v) * ed + (fabsl(e.hi) + fabsl(v * t.hi)) * 0x1p-100L;
-        const LD ea = fabsl(u) * ed + fabsl(v) * el + (fabsl(iw.hi) + fabsl(v * l.hi)) * 0x1p-100L;
+        const LD ea = fabsl(u) * ed + fabsl(v) * el + (fabsl(iw.hi) + fabsl(v * l.hi)) * 0x1p-99L;
         if (pass || (em <= kTol && fabsl(an.r) <= 1 && ea <= 8 * kTol * fabsl(an.r)))
             return Finish(e, an, y, u, v, re, im);
         l = LnAbs(x, y), dd = OctantAngle(o);
