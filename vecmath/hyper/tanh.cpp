@@ -128,8 +128,8 @@ inline __m128d TanhHA(__m128d x) {
 // tanh a = (E - 1)/(E + 1) = ((h - 1/2) + h*p)/((h + 1/2) + h*p), h -/+ 1/2 exact, so that
 // small a keep their relative accuracy (n = 0: p/(1 + p)).
 struct TanhExpWide {
-    static constexpr double kQ[] = {0x1.0000000b7e318p-1, 0x1.55555527304d3p-3,
-                                    0x1.5554e958fdba7p-5, 0x1.11114bddd95fbp-7,
+    static constexpr double kQ[] = {0x1.0000000b7e318p-1,  0x1.55555527304d3p-3,
+                                    0x1.5554e958fdba7p-5,  0x1.11114bddd95fbp-7,
                                     0x1.6d42ca60db561p-10, 0x1.a072c0193cbafp-13};
 };
 
