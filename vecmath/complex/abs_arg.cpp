@@ -33,7 +33,7 @@ namespace {
 // sqrt(sh + sl) from the rounded root of sh, corrected by the exact residual.
 BRENN_VEC __m128d CorrectedRoot(__m128d sh, __m128d sl) {
     __m128d r = Sqrt(sh), ph, pl;
-    Halves<__m128d> hr = SplitByMask(r);
+    auto hr = SplitByMask(r);
     ExactProduct(hr, hr, ph, pl);
     __m128d e = Add(Sub(Sub(sh, ph), pl), sl);
     return Add(r, Div(Mul(e, Set<double>(0.5)), r));
@@ -84,7 +84,7 @@ struct AbsZ {
     static int Eval(const Cx<double>* x, const Cx<double>*, Cx<double>& y) {
         __m128d sh, sl;
         if constexpr (L == Level::HA) {
-            Halves<__m128d> hx = SplitByMask(x->re), hy = SplitByMask(x->im);
+            auto hx = SplitByMask(x->re), hy = SplitByMask(x->im);
             SumOfProducts(hx, hx, hy, hy, sh, sl);
             y.re = CorrectedRoot(sh, sl);
             constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500

@@ -78,7 +78,7 @@ struct MulZ {
             // each factor split once for its two products; MulByConj's sign of d is taken
             // by the operations: ac + bd, bc - ad
             V a = x->re, b = x->im, c = w->re, d = w->im;
-            Halves<V> ha = SplitRounded(a), hb = SplitRounded(b), hc = SplitRounded(c),
+            auto ha = SplitRounded(a), hb = SplitRounded(b), hc = SplitRounded(c),
                       hd = SplitRounded(d);
             y.re = RoundedSumOfProducts<!Conj>(ha, hc, hb, hd);
             y.im = Conj ? RoundedSumOfProducts<true>(hb, hc, ha, hd)
@@ -131,11 +131,11 @@ struct MulC {
 
 // The quotient hi + lo over the divisor dh + dl (dh split), from its reciprocal estimate
 // inv, with one correction by the exact residual.
-inline __m128d QuotientOf(__m128d nh, __m128d nl, const Halves<__m128d>& dh, __m128d dl,
-                          __m128d inv) {
-    __m128d q = Mul(nh, inv), ph, pl;
+template <class V>
+inline V QuotientOf(V nh, V nl, const Halves<V>& dh, V dl, V inv) {
+    V q = Mul(nh, inv), ph, pl;
     ExactProduct(SplitRounded(q), dh, ph, pl);
-    __m128d r = Add(Sub(Sub(nh, ph), pl), Sub(nl, Mul(q, dl)));
+    V r = Add(Sub(Sub(nh, ph), pl), Sub(nl, Mul(q, dl)));
     return Add(q, Mul(r, inv));
 }
 
@@ -155,11 +155,11 @@ struct DivZ {
             y.im = Mul(Sub(Mul(b, c), Mul(a, d)), r);
         } else {
             // each factor split once for its three products, the divisor's head for two
-            Halves<V> ha = SplitRounded(a), hb = SplitRounded(b), hc = SplitRounded(c),
+            auto ha = SplitRounded(a), hb = SplitRounded(b), hc = SplitRounded(c),
                       hd = SplitRounded(d);
             V dh, dl, nh, nl;
             SumOfProducts(hc, hc, hd, hd, dh, dl);
-            Halves<V> hdh = SplitRounded(dh);
+            auto hdh = SplitRounded(dh);
             V inv = Div(Set<double>(1), dh);
             SumOfProducts(ha, hc, hb, hd, nh, nl);
             y.re = QuotientOf(nh, nl, hdh, dl, inv);

@@ -49,7 +49,7 @@ struct LnZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, LnScalar
         __m128d re = IfThenElse(special, Set<double>(1), x->re);
         __m128d im = IfThenZeroElse(special, x->im);
         __m128d sh, sl;
-        Halves<__m128d> hr = SplitOnce(re), hi = SplitOnce(im);
+        auto hr = SplitOnce(re), hi = SplitOnce(im);
         SumOfProducts(hr, hr, hi, hi, sh, sl);
         y.re = HalfLog<L>(sh, sl);
         __m128d angle;

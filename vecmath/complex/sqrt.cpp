@@ -73,10 +73,10 @@ struct SqrtZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, SqrtSc
         const __m128d half = Set<double>(0.5);
         // |z| = mh + ml
         __m128d sh, sl, ph, pl;
-        Halves<__m128d> hx = SplitOnce(x), hw = SplitOnce(w);
+        auto hx = SplitOnce(x), hw = SplitOnce(w);
         SumOfProducts(hx, hx, hw, hw, sh, sl);
         __m128d mh = Sqrt(sh);
-        Halves<__m128d> hm = SplitOnce(mh);
+        auto hm = SplitOnce(mh);
         ExactProduct(hm, hm, ph, pl);
         __m128d ml = Div(Mul(Add(Sub(Sub(sh, ph), pl), sl), half), mh);
         // v = (|x| + |z|)/2 = vh + vl
@@ -87,7 +87,7 @@ struct SqrtZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, SqrtSc
         // t = th + tl, and its reciprocal
         __m128d th = Sqrt(vh);
         __m128d inv = Div(Set<double>(1), th);
-        Halves<__m128d> ht = SplitOnce(th);
+        auto ht = SplitOnce(th);
         ExactProduct(ht, ht, ph, pl);
         __m128d tl = Mul(Mul(Add(Sub(Sub(vh, ph), pl), vl), half), inv);
         // q = (w/2)/t, corrected by the exact residual
