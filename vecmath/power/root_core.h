@@ -53,6 +53,7 @@ BRENN_VEC V RootFinish(V z, V bigM) {
     const auto& c = R == Root::Cbrt ? kTwoThirdsSeries : kThirdSeries;
     // Four terms (double): Q by Estrin's scheme beside lead*e, a shorter chain.
     if constexpr (Terms == 4) return Add(lead, Mul(Mul(lead, e), Estrin(e, c)));
+    if constexpr (Terms == 1) return Add(lead, Mul(Mul(lead, Set<T>(T(c[0]))), e));
     V sr = Set<T>(T(c[Terms - 1]));
     for (int k = Terms - 2; k >= 0; --k)
         sr = Add(Set<T>(T(c[k])), Mul(e, sr));
