@@ -74,7 +74,7 @@ inline __m128d HypotWide(__m128d a, __m128d b) {
 // products are exact but for that of the low halves (rounded by 2^-104 of x^2, far
 // below what the root's correction needs).
 inline __m128d SquareTail(__m128d x, __m128d xx) {
-    const cx::Halves<__m128d> s = cx::SplitByMask(x);
+    const auto s = cx::SplitByMask(x);
     return Add(Add(Sub(Mul(s.hi, s.hi), xx), Mul(Add(s.hi, s.hi), s.lo)), Mul(s.lo, s.lo));
 }
 
