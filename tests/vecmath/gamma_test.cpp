@@ -123,8 +123,9 @@ void ExpectNear(bool lgamma, T x, double ulps) {
 }
 
 // Both sides of every place the routines change path: the pieces of [1, 2] at 1.25,
-// 1.5, 1.75, the reductions at 1, 2, 3, the Stirling points (8 in single, 12 in double),
-// near the overflow limits, tiny arguments and reflection.
+// 1.5, 1.75, the reductions at 1, 2, 3, the Stirling points (8 in single; in double 8
+// for LGamma, 12 for TGamma and the reflection), near the overflow limits, tiny
+// arguments and reflection.
 TEST(Gamma, ValuesWhereThePathsMeet) {
     const double points[] = {
         0x1p-60,   1e-9,    0.1,  0.5,     0.75, 0.9999999, 1.0000001, 1.2499,    1.25,   1.251,

@@ -35,24 +35,16 @@
 namespace brenn::vm {
 namespace {
 
-// c[B] .. c[B + M - 1] in t by Estrin's scheme (poly.h), for series longer than 16.
-template <size_t B, size_t M, class W, size_t N>
-inline W PolyPart(W t, const W (&c)[N]) {
-    W p[4] = {t, t * t, 0, 0};
-    p[2] = p[1] * p[1];
-    p[3] = p[2] * p[2];
-    return gamma::detail::EstrinPart<B, M>(p, c);
-}
+// The extended constants as doubles (ext_const.h): the series' terms from x^5 on and the
+// cell polynomials' from v^3 on are below 2^-62 of E1 with their coefficients rounded to
+// double.
+constexpr auto kSeriesP = gamma::SplitPoly<5>(gamma::kExpInt1SeriesL);
+constexpr auto kTailP = gamma::SplitPolys<3>(gamma::kExpInt1TailL);
+constexpr gamma::Ext2 kEulerGamma2 = gamma::Split2(gamma::kEulerGammaL);
 
 // -gamma - ln x + x S(x) for 0 < x <= 1.
-inline long double NearZero(long double x) {
-    const auto& c = gamma::kExpInt1SeriesL;
-    long double x16 = x * x;
-    x16 *= x16;
-    x16 *= x16;
-    x16 *= x16;
-    long double s = PolyPart<0, 16>(x, c) + x16 * PolyPart<16, 5>(x, c);
-    return (x * s - gamma::kEulerGammaL) - gamma::Log(x);
+[[gnu::always_inline]] inline long double NearZero(long double x) {
+    return (x * gamma::Poly(x, kSeriesP) - gamma::Join(kEulerGamma2)) - gamma::Log(x);
 }
 inline double NearZero(double x) {
     double s = gamma::Poly(x, gamma::kExpInt1Series);
@@ -60,14 +52,6 @@ inline double NearZero(double x) {
 }
 
 // The row of t in [2^-10, 1) and that cell's centre.
-inline int CellOf(long double t, long double& centre) {
-    gamma::ext::Bits80 b = gamma::ext::BitsOf(t);
-    int e = static_cast<int>(b.signExponent & 0x7FFF) - 16383;
-    int j = static_cast<int>((b.mantissa >> 59) & 15);
-    centre = gamma::ext::FromBits(0x8000000000000000ull | (uint64_t(2 * j + 1) << 58),
-                                  static_cast<uint16_t>(16383 + e));
-    return 16 * (-1 - e) + j;
-}
 inline int CellOf(double t, double& centre) {
     uint64_t b;
     memcpy(&b, &t, sizeof b);
@@ -79,10 +63,13 @@ inline int CellOf(double t, double& centre) {
 }
 
 // e^-x t G(t) for 1 < x <= 750.
-inline long double Tail(long double x) {
-    long double t = 1 / x, c;
-    int row = CellOf(t, c);
-    return gamma::ext::Exp(-x) * (t * gamma::Poly(t - c, gamma::kExpInt1TailL[row]));
+[[gnu::always_inline]] inline long double Tail(long double x) {
+    // The cell of t rounded to double: where that crosses a cell's edge, t lies within
+    // 2^-53 of it and the neighbour's polynomial serves as well.
+    long double t = 1 / x;
+    double c;
+    int row = CellOf(static_cast<double>(t), c);
+    return gamma::ext::Exp(-x) * (t * gamma::Poly(t - c, kTailP.row[row]));
 }
 inline double Tail(double x) {
     double t = 1 / x, c;
@@ -90,12 +77,22 @@ inline double Tail(double x) {
     return exp(-x) * (t * gamma::Poly(t - c, gamma::kExpInt1Tail[row]));
 }
 
+// The two forms as functions of their own, argument and result in registers (in one
+// routine the x87 register stack is spilled at the join as 80-bit stores and reloads).
+template <class T>
+[[gnu::noinline]] T NearZeroOf(T x) {
+    return static_cast<T>(NearZero(gamma::Wide<T>(x)));
+}
+template <class T>
+[[gnu::noinline]] T TailOf(T x) {
+    return static_cast<T>(Tail(gamma::Wide<T>(x)));
+}
+
 template <class T>
 constexpr T kZeroBeyond = sizeof(T) == 8 ? T(750) : T(110);
 
 template <class T>
 int ExpInt1Of(T x, T* y) {
-    using W = gamma::Wide<T>;
     constexpr T kTiny = std::numeric_limits<T>::min();
     if (__builtin_isnan(x)) {
         *y = x + x;
@@ -117,8 +114,7 @@ int ExpInt1Of(T x, T* y) {
         *y = Keep(kTiny) * kTiny;
         return status::kUnderflow;
     }
-    W r = x <= 1 ? NearZero(W(x)) : Tail(W(x));
-    T v = static_cast<T>(r);
+    T v = x <= 1 ? NearZeroOf(x) : TailOf(x);
     *y = v;
     return v < kTiny ? status::kUnderflow : status::kNone;
 }

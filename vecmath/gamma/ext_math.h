@@ -4,7 +4,7 @@
  * and finite, positive, normal arguments; errors about 2^-63 relative (the logarithm:
  * absolute, and relative where Log1p takes its series).
  *   Log(x):   x = 2^e m, m in [1, 2); with R the 10-bit reciprocal of m's 1/128 cell,
- *             ln x = e ln2 - ln R + ln(1 + u), u = m R - 1 (exact for m of 54 bits),
+ *             ln x = e ln2 - ln R + ln(1 + u), u = m R - 1 (one rounding, 2^-64),
  *             |u| < 2^-7.4, by its Taylor series to u^10.
  *   Log1p(g): the series itself for |g| < 2^-7 (relative accuracy near 0), else Log(1 + g).
  *   Exp(y):   y = (64 k + j) ln2/64 + r, |r| <= ln2/128; e^y = 2^k 2^(j/64) e^r, e^r by
@@ -15,6 +15,7 @@
 #include <stdint.h>
 #include <string.h>
 
+#include "vecmath/gamma/ext_const.h"
 #include "vecmath/gamma/ext_tables.h"
 #include "vecmath/gamma/poly.h"
 
@@ -30,57 +31,89 @@ inline Bits80 BitsOf(long double x) {
     memcpy(&b, &x, sizeof b);
     return b;
 }
-inline long double FromBits(uint64_t mantissa, uint16_t signExponent) {
+[[gnu::always_inline]] inline long double FromBits(uint64_t mantissa, uint16_t signExponent) {
     long double x = 0;
     Bits80 b{mantissa, signExponent};
     memcpy(&x, &b, sizeof b);
     return x;
 }
 
-// ln(1 + u) - u for |u| < 2^-7: u^2 (-1/2 + u/3 - ... - u^8/10).
-inline long double Log1pTail(long double u) {
+// The tables as exact pairs of doubles (ext_const.h).
+inline constexpr auto kLogOfRecip2 = Split2(kLogOfRecip);
+inline constexpr auto kExp2Steps2 = Split2(kExp2Steps);
+
+// 2^k as a double for -1022 <= k <= 1023.
+inline double Pow2(int k) {
+    uint64_t b = static_cast<uint64_t>(k + 1023) << 52;
+    double d;
+    memcpy(&d, &b, sizeof d);
+    return d;
+}
+
+// ln(1 + u) - u for |u| < 2^-7: u^2 (-1/2 + u/3 - ... - u^8/10); the coefficients past
+// the first are doubles (their terms are below 2^-21 of the sum).
+[[gnu::always_inline]] inline long double Log1pTail(long double u) {
     static constexpr long double kC[9] = {-1.0L / 2, 1.0L / 3,  -1.0L / 4, 1.0L / 5,  -1.0L / 6,
                                           1.0L / 7,  -1.0L / 8, 1.0L / 9,  -1.0L / 10};
-    return u * u * Poly(u, kC);
+    static constexpr auto kP = SplitPoly<0>(kC);
+    return u * u * Poly(u, kP);
 }
 
-inline long double Log(long double x) {
+// The exponent e and the significand m in [1, 2) of x = 2^e m, taken from x rounded to
+// double (an 80-bit store and reload costs far more) and m = x 2^-e exact; x rounded up
+// to a power of 2 leaves m just below 1, where the reduction below still holds. Outside
+// the double's normal range the bits of x itself.
+[[gnu::always_inline]] inline long double Reduce(long double x, int& e, int& j) {
+    double xd = static_cast<double>(x);
+    uint64_t b;
+    memcpy(&b, &xd, sizeof b);
+    int be = static_cast<int>(b >> 52);
+    if (be >= 1 && be < 2046) [[likely]] {
+        e = be - 1023;
+        j = static_cast<int>((b >> 45) & 127);
+        return x * Pow2(-e);
+    }
+    Bits80 xb = BitsOf(x);
+    e = static_cast<int>(xb.signExponent & 0x7FFF) - 16383;
+    j = static_cast<int>((xb.mantissa >> 56) & 127);
+    return FromBits(xb.mantissa, 16383);
+}
+
+[[gnu::always_inline]] inline long double Log(long double x) {
     // ln 2 in two parts, the head of 44 bits so that e times it is exact
-    constexpr long double kLn2Hi = 0xb17217f7d1d00000p-64L;
+    constexpr double kLn2Hi = 0xb17217f7d1d00000p-64;
     constexpr long double kLn2Lo = -0x8654361c4c67fc0dp-112L;
-    Bits80 b = BitsOf(x);
-    int e = static_cast<int>(b.signExponent & 0x7FFF) - 16383;
-    long double m = FromBits(b.mantissa, 16383);
-    int j = static_cast<int>((b.mantissa >> 56) & 127);
+    int e, j;
+    long double m = Reduce(x, e, j);
     long double u = m * kLogRecip[j] - 1;
     long double de = e;
-    return de * kLn2Hi + (kLogOfRecip[j] + (de * kLn2Lo + (u + Log1pTail(u))));
+    return de * kLn2Hi +
+           (Join(kLogOfRecip2.v[j]) + (de * static_cast<double>(kLn2Lo) + (u + Log1pTail(u))));
 }
 
-inline long double Log1p(long double g) {
-    if (g < 0x1p-7L && g > -0x1p-7L) return g + Log1pTail(g);
+[[gnu::always_inline]] inline long double Log1p(long double g) {
+    if (g < 0x1p-7 && g > -0x1p-7) return g + Log1pTail(g);
     return Log(1 + g);
 }
 
-inline long double Exp(long double y) {
-    constexpr long double kInvStep = 0xb8aa3b295c17f0bcp-57L;  // 64 / ln 2
-    constexpr long double kStepHi = 0xb17217f7d2000000p-70L;   // ln2/64, 40 bits
-    constexpr long double kStepLo = -0xc21950d871319ff0p-112L; // the rest
-    constexpr long double kShifter = 0x1.8p63L;
+[[gnu::always_inline]] inline long double Exp(long double y) {
+    constexpr double kInvStep = 0x1.71547652b82fep+6;    // 64 / ln 2, to double
+    constexpr double kStepHi = 0xb17217f7d2000000p-70;   // ln2/64, 40 bits
+    constexpr double kStepLo = -0xc21950d871319ff0p-112; // the rest, to double
+    constexpr double kShifter = 0x1.8p63;
+    static constexpr long double kC[6] = {1.0L / 2,   1.0L / 6,   1.0L / 24,
+                                          1.0L / 120, 1.0L / 720, 1.0L / 5040};
+    static constexpr auto kP = SplitPoly<0>(kC);
     long double s = y * kInvStep + kShifter;
     long double t = s - kShifter; // y / step rounded to an integer
     int64_t n = static_cast<int64_t>(t);
     long double r = (y - t * kStepHi) - t * kStepLo;
-    long double p = 1.0L / 5040;
-    p = p * r + 1.0L / 720;
-    p = p * r + 1.0L / 120;
-    p = p * r + 1.0L / 24;
-    p = p * r + 1.0L / 6;
-    p = p * r + 1.0L / 2;
-    p = 1 + (r + r * r * p);
+    long double p = 1 + (r + r * r * Poly(r, kP));
     int k = static_cast<int>(n >> 6);
-    long double scale = FromBits(0x8000000000000000ull, static_cast<uint16_t>(16383 + k));
-    return kExp2Steps[n & 63] * p * scale;
+    long double v = Join(kExp2Steps2.v[n & 63]) * p;
+    if (k >= -1022 && k <= 1023) [[likely]]
+        return v * Pow2(k);
+    return v * FromBits(0x8000000000000000ull, static_cast<uint16_t>(16383 + k));
 }
 
 } // namespace brenn::vm::gamma::ext

@@ -19,6 +19,8 @@
 #define BRENN_VECMATH_GAMMA_GAMMA_CORE_H
 
 #include <math.h>
+#include <stdint.h>
+#include <string.h>
 
 #include "vecmath/gamma/ext_math.h"
 #include "vecmath/gamma/gamma_data.h"
@@ -28,29 +30,56 @@ namespace brenn::vm::gamma {
 
 // The working precision's elementary functions: ext_math.h's for long double, the C
 // library's for double.
-inline long double Log(long double x) {
+[[gnu::always_inline]] inline long double Log(long double x) {
     return ext::Log(x);
 }
 inline double Log(double x) {
     return log(x);
 }
-inline long double Log1p(long double x) {
+[[gnu::always_inline]] inline long double Log1p(long double x) {
     return ext::Log1p(x);
 }
 inline double Log1p(double x) {
     return log1p(x);
 }
-inline long double Exp(long double x) {
+[[gnu::always_inline]] inline long double Exp(long double x) {
     return ext::Exp(x);
 }
 inline double Exp(double x) {
     return exp(x);
 }
 
+// The constants and coefficient sets by working type: for long double as doubles
+// (ext_const.h), for double as they stand.
+[[gnu::always_inline]] inline long double Pi(long double) {
+    return Join(GammaData<long double>::kPi2);
+}
+inline double Pi(double) {
+    return GammaData<double>::kPi;
+}
+[[gnu::always_inline]] inline long double HalfLn2PiLessHalf(long double) {
+    return Join(GammaData<long double>::kHalfLn2PiLessHalf2);
+}
+inline double HalfLn2PiLessHalf(double) {
+    return GammaData<double>::kHalfLn2PiLessHalf;
+}
+[[gnu::always_inline]] inline long double Ln2Lo(long double) {
+    return Join(GammaData<long double>::kLn2Lo2);
+}
+inline double Ln2Lo(double) {
+    return GammaData<double>::kLn2Lo;
+}
+inline const auto& HPoly(long double, int i) {
+    return GammaData<long double>::kHP.row[i];
+}
+inline const auto& HPoly(double, int i) {
+    return GammaData<double>::kH[i];
+}
+
 // sin(pi r) for |r| <= 1/2: a polynomial in extended precision (the library's sinl is
 // slow), the C library's sine in double.
-inline long double SinPiReduced(long double r) {
-    return r * Poly(r * r, GammaData<long double>::kSinPi);
+[[gnu::always_inline]] inline long double SinPiReduced(long double r) {
+    return r * Poly(r * r, GammaData<long double>::kSinPiP);
 }
 inline double SinPiReduced(double r) {
     return sin(GammaData<double>::kPi * r);
@@ -58,17 +87,16 @@ inline double SinPiReduced(double r) {
 
 // H(z) for z in [0, 1]: the piece's polynomial in z less the piece's centre.
 template <class W>
-inline W H(W z) {
-    using D = GammaData<W>;
+[[gnu::always_inline]] inline W H(W z) {
     int i = static_cast<int>(z * 4);
     i = i > 3 ? 3 : i;
     W t = z - W(2 * i + 1) / 8;
-    return Poly(t, D::kH[i]);
+    return Poly(t, HPoly(W(), i));
 }
 
 // Gamma(x) - 1 for x in (0, 3], to the working precision relative to itself.
 template <class W>
-inline W GammaMinusOne(W x) {
+[[gnu::always_inline]] inline W GammaMinusOne(W x) {
     if (x < 1) return (1 - x) * (1 - x * H(x)) / x;
     if (x <= 2) {
         W z = x - 1;
@@ -78,10 +106,9 @@ inline W GammaMinusOne(W x) {
     return z * (1 + (z * z - 1) * H(z));
 }
 
-// Gamma(x) for 0 < x below the Stirling point.
+// Gamma(x) for 1 <= x below the Stirling point.
 template <class W>
-inline W GammaBelowStirling(W x) {
-    if (x < 1) return (1 + x * (x - 1) * H(x)) / x;
+[[gnu::always_inline]] inline W GammaFromOne(W x) {
     W p = 1;
     while (x > 2) {
         x -= 1;
@@ -91,19 +118,49 @@ inline W GammaBelowStirling(W x) {
     return p * (1 + z * (z - 1) * H(z));
 }
 
+// Gamma(x) for 0 < x below the Stirling point.
+template <class W>
+[[gnu::always_inline]] inline W GammaBelowStirling(W x) {
+    if (x < 1) return (1 + x * (x - 1) * H(x)) / x;
+    return GammaFromOne(x);
+}
+
 // S(x), the correction series, for x at or above the Stirling point.
 template <class W>
-inline W StirlingSeries(W x) {
+[[gnu::always_inline]] inline W StirlingSeries(W x) {
     W r = 1 / x;
     return r * Poly(r * r, GammaData<W>::kStirling);
 }
+[[gnu::always_inline]] inline long double StirlingSeries(long double x) {
+    long double r = 1 / x;
+    return r * Poly(r * r, GammaData<long double>::kStirlingP);
+}
+// S in double, by the SSE unit beside the x87 work, where an absolute error of 2^-58
+// will do (S is below 1/96 from 8 on): TGamma's exponent and LGamma's positive axis,
+// not the reflection, whose difference of logarithms can be small.
+template <class W>
+[[gnu::always_inline]] inline W StirlingSeriesDouble(W x) {
+    double r = 1 / static_cast<double>(x);
+    return r * Poly(r * r, GammaData<W>::kStirlingD);
+}
 
 // ln Gamma(x) for x at or above the Stirling point (any size: from 2^64 on S is lost in
-// the rounding and the main term alone remains).
+// the rounding and the main term alone remains), S(x) given.
 template <class W>
-inline W LnGammaStirling(W x) {
-    return (x - W(0.5)) * (Log(x) - 1) + (GammaData<W>::kHalfLn2PiLessHalf + StirlingSeries(x));
+[[gnu::always_inline]] inline W LnGammaStirling(W x, W s) {
+    return (x - W(0.5)) * (Log(x) - 1) + (HalfLn2PiLessHalf(W()) + s);
 }
+
+// The exponent of x, 2^e <= x < 2^(e + 1), for x in [1, 2^1023), from x rounded to
+// double: x rounded up to a power of 2 gives e one too large and x 2^-e just below 1.
+template <class W>
+[[gnu::always_inline]] inline int Exponent(W x) {
+    double d = static_cast<double>(x);
+    uint64_t b;
+    memcpy(&b, &d, sizeof b);
+    return static_cast<int>(b >> 52) - 1023;
+}
+using ext::Pow2;
 
 // Gamma(x) for x from the Stirling point up to the overflow limit, through
 // exp(ln Gamma(x)). The exponent reaches 709 (88 in single), so its rounding errors are
@@ -111,27 +168,20 @@ inline W LnGammaStirling(W x) {
 // where ln2hi has 8 bits, so that (x - 1/2)(e ln2hi - 1) is exact in W (x has at most
 // 53 bits below 2^8, e at most 8) and only the small parts round.
 template <class W>
-inline W GammaStirling(W x) {
+[[gnu::always_inline]] inline W GammaStirling(W x) {
     using D = GammaData<W>;
-    int e;
-    W m = frexp(x, &e) * 2;
-    e -= 1;
+    int e = Exponent(x);
+    W m = x * Pow2(-e);
     W h = x - W(0.5);
     W big = h * (W(e) * D::kLn2Hi - 1);
-    W small = h * (Log(m) + W(e) * D::kLn2Lo);
-    return Exp(big + (small + (D::kHalfLn2PiLessHalf + StirlingSeries(x))));
-}
-
-// Gamma(x) for x > 0 up to the overflow limit.
-template <class W>
-inline W GammaPositive(W x) {
-    return x < GammaData<W>::kStirlingFrom ? GammaBelowStirling(x) : GammaStirling(x);
+    W small = h * (Log(m) + W(e) * Ln2Lo(W()));
+    return Exp(big + (small + (HalfLn2PiLessHalf(W()) + StirlingSeriesDouble(x))));
 }
 
 // |sin(pi x)| and its sign for x not an integer, |x| < 2^52: the sine of pi (x - rint(x)),
 // whose argument is exact; the sign flips with the parity of rint(x).
 template <class T, class W>
-inline W SinPi(T x, bool& negative) {
+[[gnu::always_inline]] inline W SinPi(T x, bool& negative) {
     T n = __builtin_rint(x);
     T r = x - n;
     long long k = static_cast<long long>(n);

@@ -3,6 +3,8 @@
 #ifndef BRENN_VECMATH_GAMMA_GAMMA_DATA_H
 #define BRENN_VECMATH_GAMMA_GAMMA_DATA_H
 
+#include "vecmath/gamma/ext_const.h"
+
 namespace brenn::vm::gamma {
 
 // The working type of a result type.
@@ -48,6 +50,8 @@ struct GammaData<long double> {
          -0x1.e56496c0e2abd66p-11L, 0x1.03b1410ffe7619c8p-11L, -0x1.1514824b0e959af6p-12L,
          0x1.1c8db859c29816b2p-13L, -0x1.416551d0fc71a3f2p-14L, 0x1.235f281d6dec2b06p-13L},
     };
+    // LGamma's positive axis takes Stirling's form (with kStirlingD) from 8 on.
+    static constexpr long double kLnStirlingFrom = 8;
     // Stirling's form from 12 on, with eight terms B_2k / (2k (2k - 1)) of the
     // correction series (the first left out is below 2^-63 of ln Gamma there).
     static constexpr long double kStirlingFrom = 12;
@@ -66,6 +70,21 @@ struct GammaData<long double> {
     // ln 2 = kLn2Hi + kLn2Lo, the head with four significant bits
     static constexpr long double kLn2Hi = 0x1.6p-1L;
     static constexpr long double kLn2Lo = 0.00564718055994530941723212145817656808L;
+
+    // The sets as the x87 code loads them (ext_const.h): in H the terms from t^3 on and in
+    // the sine those from r^9 on are below 2^-62 of the sum with their coefficients
+    // rounded to double; S is summed in double (gamma_core.h).
+    static constexpr auto kHP = SplitPolys<3>(kH);
+    static constexpr auto kStirlingP = SplitPoly<0>(kStirling);
+    // The series in double from 8 on, eleven terms (the first left out is below 2^-60).
+    static constexpr double kStirlingD[11] = {
+        1.0 / 12,         -1.0 / 360,         1.0 / 1260,      -1.0 / 1680,
+        1.0 / 1188,       -691.0 / 360360,    1.0 / 156,       -3617.0 / 122400,
+        43867.0 / 244188, -174611.0 / 125400, 854513.0 / 63756};
+    static constexpr auto kSinPiP = SplitPoly<4>(kSinPi);
+    static constexpr Ext2 kHalfLn2PiLessHalf2 = Split2(kHalfLn2PiLessHalf);
+    static constexpr Ext2 kPi2 = Split2(kPi);
+    static constexpr Ext2 kLn2Lo2 = Split2(kLn2Lo);
 };
 
 template <>
@@ -87,7 +106,9 @@ struct GammaData<double> {
     };
     // Stirling's form from 8 on, four terms of the correction series (2^-37 there).
     static constexpr double kStirlingFrom = 8;
+    static constexpr double kLnStirlingFrom = 8;
     static constexpr double kStirling[4] = {1.0 / 12, -1.0 / 360, 1.0 / 1260, -1.0 / 1680};
+    static constexpr const double (&kStirlingD)[4] = kStirling;
     static constexpr double kHalfLn2PiLessHalf = 0.41893853320467274178;
     static constexpr double kPi = 3.14159265358979323846;
     static constexpr double kLn2Hi = 0x1.6p-1;

@@ -22,11 +22,23 @@
 namespace brenn::vm {
 namespace {
 
-template <class W>
-W LnGammaPositive(W x) {
-    if (x <= 3) return gamma::Log1p(gamma::GammaMinusOne(x));
-    if (x < gamma::GammaData<W>::kStirlingFrom) return gamma::Log(gamma::GammaBelowStirling(x));
-    return gamma::LnGammaStirling(x);
+// Each path is a function of its own, called with the argument and returning the
+// result in registers: in one routine holding them all, the x87 register stack is
+// spilled at the joins as 80-bit stores and reloads, which cost more than the calls.
+template <class T>
+[[gnu::noinline]] T LnGammaSmall(T x) {
+    using W = gamma::Wide<T>;
+    return static_cast<T>(gamma::Log1p(gamma::GammaMinusOne(W(x))));
+}
+template <class T>
+[[gnu::noinline]] T LnGammaMiddle(T x) {
+    using W = gamma::Wide<T>;
+    return static_cast<T>(gamma::Log(gamma::GammaFromOne(W(x))));
+}
+template <class T>
+[[gnu::noinline]] T LnGammaLarge(T x) {
+    using W = gamma::Wide<T>;
+    return static_cast<T>(gamma::LnGammaStirling(W(x), gamma::StirlingSeriesDouble(W(x))));
 }
 
 // Near a zero x0 of the negative axis the reflection's result is a small difference of
@@ -34,7 +46,7 @@ W LnGammaPositive(W x) {
 // terms, would swamp the result. There, with t = x - x0 carried in two parts and d0 the
 // zero's distance from its pole, ln|Gamma(x)| = t G(t) - ln(1 + t/d0), both terms of
 // t's relative accuracy. Returns false when x lies in no zero's window.
-inline bool NearZero(double x, long double& r) {
+[[gnu::noinline]] bool NearZero(double x, double& r) {
     int n = static_cast<int>(-x);
     if (n < 2 || n > 16) return false;
     for (int k = 2 * (n - 2); k < 2 * (n - 2) + 2; ++k) {
@@ -45,25 +57,35 @@ inline bool NearZero(double x, long double& r) {
         long double g = z.g[z.terms - 1];
         for (int j = z.terms - 1; j-- > 0;)
             g = g * t + z.g[j];
-        r = t * g - gamma::Log1p(t / z.d0);
+        r = static_cast<double>(t * g - gamma::Log1p(t / z.d0));
         return true;
     }
     return false;
 }
 
-template <class T, class W>
-W LnGammaNegative(T x) {
-    using D = gamma::GammaData<W>;
+// x < 0 by reflection, ln(pi / |sin(pi x) Gamma(1 - x)|): with Gamma(1 - x) by the
+// recurrence while 1 - x is below the Stirling point, above it as the difference of
+// ln(pi / |sin(pi x)|) and Stirling's form.
+template <class T>
+[[gnu::noinline]] T LnGammaReflectNear(T x) {
+    using W = gamma::Wide<T>;
+    bool negative;
+    W s = gamma::SinPi<T, W>(x, negative);
+    return static_cast<T>(gamma::Log(gamma::Pi(W()) / (s * gamma::GammaFromOne(1 - W(x)))));
+}
+template <class T>
+[[gnu::noinline]] T LnGammaReflectFar(T x) {
+    using W = gamma::Wide<T>;
     bool negative;
     W s = gamma::SinPi<T, W>(x, negative);
     W y = 1 - W(x);
-    if (y < D::kStirlingFrom) return gamma::Log(D::kPi / (s * gamma::GammaBelowStirling(y)));
-    return gamma::Log(D::kPi / s) - gamma::LnGammaStirling(y);
+    return static_cast<T>(gamma::Log(gamma::Pi(W()) / s) -
+                          gamma::LnGammaStirling(y, gamma::StirlingSeries(y)));
 }
 
 template <class T>
 int LGammaOf(T x, T* y) {
-    using W = gamma::Wide<T>;
+    using D = gamma::GammaData<gamma::Wide<T>>;
     if (__builtin_isnan(x)) {
         *y = x + x;
         return status::kNone;
@@ -80,16 +102,22 @@ int LGammaOf(T x, T* y) {
         *y = 0;
         return status::kNone;
     }
-    W r;
-    long double near;
+    T v;
+    double near;
     if (x > 0) {
-        r = LnGammaPositive(W(x));
+        if (x <= 3)
+            v = LnGammaSmall(x);
+        else if (x < D::kLnStirlingFrom)
+            v = LnGammaMiddle(x);
+        else
+            v = LnGammaLarge(x);
     } else if (NearZero(x, near)) {
-        r = static_cast<W>(near);
+        v = static_cast<T>(near);
+    } else if (1 - x < D::kStirlingFrom) { // near the point 1 - x is exact
+        v = LnGammaReflectNear(x);
     } else {
-        r = LnGammaNegative<T, W>(x);
+        v = LnGammaReflectFar(x);
     }
-    T v = static_cast<T>(r);
     *y = v;
     return __builtin_isinf(v) ? status::kOverflow : status::kNone;
 }

@@ -34,6 +34,29 @@ struct TGammaLimits<float> {
     static constexpr float kUnderflow = -50.0f;
 };
 
+// Each path is a function of its own, called with the argument and returning the
+// result in registers: in one routine holding them all, the x87 register stack is
+// spilled at the joins as 80-bit stores and reloads, which cost more than the calls.
+template <class T>
+[[gnu::noinline]] T GammaBelow(T x) {
+    return static_cast<T>(gamma::GammaBelowStirling(gamma::Wide<T>(x)));
+}
+template <class T>
+[[gnu::noinline]] T GammaAbove(T x) {
+    return static_cast<T>(gamma::GammaStirling(gamma::Wide<T>(x)));
+}
+// pi / (sin(pi x) Gamma(1 - x)) for x < 0 not an integer, Gamma(1 - x) by the recurrence
+// (Near, 1 - x below the Stirling point) or Stirling's form (Far).
+template <class T, bool kFar>
+[[gnu::noinline]] T GammaReflect(T x) {
+    using W = gamma::Wide<T>;
+    bool negative;
+    W s = gamma::SinPi<T, W>(x, negative);
+    W y = 1 - W(x);
+    W g = gamma::Pi(W()) / (s * (kFar ? gamma::GammaStirling(y) : gamma::GammaFromOne(y)));
+    return static_cast<T>(negative ? -g : g);
+}
+
 template <class T>
 int TGammaOf(T x, T* y) {
     using W = gamma::Wide<T>;
@@ -53,7 +76,7 @@ int TGammaOf(T x, T* y) {
             *y = __builtin_isinf(x) ? x : Keep(kHuge) * T(2);
             return __builtin_isinf(x) ? status::kNone : status::kOverflow;
         }
-        T r = static_cast<T>(gamma::GammaPositive(W(x)));
+        T r = x < gamma::GammaData<W>::kStirlingFrom ? GammaBelow(x) : GammaAbove(x);
         *y = r;
         return __builtin_isinf(r) ? status::kOverflow : status::kNone;
     }
@@ -68,9 +91,9 @@ int TGammaOf(T x, T* y) {
         *y = negative ? -z : z;
         return status::kUnderflow;
     }
-    W s = gamma::SinPi<T, W>(x, negative);
-    W g = gamma::GammaData<W>::kPi / (s * gamma::GammaPositive(1 - W(x)));
-    T r = static_cast<T>(negative ? -g : g);
+    // near the Stirling point 1 - x is exact
+    T r = 1 - x < gamma::GammaData<W>::kStirlingFrom ? GammaReflect<T, false>(x)
+                                                     : GammaReflect<T, true>(x);
     *y = r;
     if (__builtin_isinf(r)) return status::kOverflow; // -x denormal: 1/x beyond the range
     return (r < kTiny && r > -kTiny) ? status::kUnderflow : status::kNone;
