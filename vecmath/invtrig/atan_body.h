@@ -20,11 +20,11 @@ BRENN_VEC __m128d AtMost(__m128d v, double limit) {
 }
 
 // The double steps: the angle of (b, a) with the series S, compensated or not. Lanes
-// of Atan2 hold magnitudes in [2^-500, 2^500), lanes of Atan have b = 1 (UnitB) and any a.
+// of Atan2 hold magnitudes in [2^-500, 2^500), lanes of Atan (EP) have b = 1 and any a.
 // Wide: single lanes in double, where the order of the last steps is free (S a
 // coefficient set): the tail's product with q comes last, off the series, and base + q
 // runs alongside it.
-template <Unit U, class S, bool Comp, bool UnitB = false, bool Wide = false>
+template <Unit U, class S, bool Comp, bool Wide = false>
 BRENN_VEC __m128d AngleOf(__m128d a, __m128d b) {
     const __m128d one = Set<double>(1.0);
     __m128d ay = Abs(a), ax = Abs(b);
@@ -60,29 +60,12 @@ BRENN_VEC __m128d AngleOf(__m128d a, __m128d b) {
         l = S::Tail(Mul(q, q), q);
     if constexpr (Comp) {
         // The quotient's error from the exact residual. The product's split needs d below
-        // about 2^995: Atan's larger d (above 2^510) only happen with q below 2^-510, next
-        // to pi/2, where the correction is far below the result's last bit whatever it is.
+        // about 2^995; the clamp also keeps an infinite d out of it.
         __m128d dm = AtMost(dh, 0x1p510);
-        if constexpr (UnitB) {
-            // Atan: nh - q*dh from halves cut by a mask, q's and dh's leading 26 bits and
-            // the rest, in place of Dekker's split: qh*dmh (26 by 26 bits) and ql*dmh (27
-            // by 26) are exact, nh less them exact or far below nh's last bit (q*dh is
-            // within an ulp of nh), and q*(dm - dmh) is rounded at 2^-79 of nh.
-            const __m128d cut = AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull));
-            __m128d qh = And(q, cut), dmh = And(dm, cut);
-            __m128d r = Sub(Sub(nh, Mul(qh, dmh)), Mul(Sub(q, qh), dmh));
-            r = Add(Sub(r, Mul(q, Sub(dm, dmh))), Sub(nl, Mul(q, dl)));
-            // r/dh is about 2^-53 of q, so the single reciprocal estimate of dh (12 bits)
-            // is plenty and spares a second division. Atan's dh is at least 1; above 2^100
-            // (q below 2^-100, beside pi/2) the correction is nothing to the result.
-            __m128d dn = AtMost(dh, 0x1p100);
-            l = Add(l, Mul(r, WidenLower(ApproxRecip(Narrow(dn, dn)))));
-        } else {
-            __m128d ph, pl;
-            TwoProduct(q, dm, ph, pl);
-            __m128d r = Sub(Add(Sub(Sub(nh, ph), pl), nl), Mul(q, dl));
-            l = Add(l, Div(r, dh));
-        }
+        __m128d ph, pl;
+        TwoProduct(q, dm, ph, pl);
+        __m128d r = Sub(Add(Sub(Sub(nh, ph), pl), nl), Mul(q, dl));
+        l = Add(l, Div(r, dh));
     }
     k = Add(k, IfThenElseZero(fold, Or(one, And(flip, SignMask<double>()))));
     __m128d y;
@@ -173,8 +156,8 @@ BRENN_VEC __m128d AtanWide(__m128d a) {
 // The double steps on four single lanes, widened, with the short series.
 template <Unit U>
 BRENN_VEC __m128 InDouble(__m128 a, __m128 b) {
-    return Narrow(AngleOf<U, AtanDouble5Set, false, false, true>(WidenLower(a), WidenLower(b)),
-                  AngleOf<U, AtanDouble5Set, false, false, true>(WidenUpper(a), WidenUpper(b)));
+    return Narrow(AngleOf<U, AtanDouble5Set, false, true>(WidenLower(a), WidenLower(b)),
+                  AngleOf<U, AtanDouble5Set, false, true>(WidenUpper(a), WidenUpper(b)));
 }
 
 template <Unit U, Level L>
@@ -186,9 +169,44 @@ BRENN_VEC __m128 AtanOf(__m128 x) {
         return Or(Narrow(AtanWide<U>(WidenLower(a)), AtanWide<U>(WidenUpper(a))), SignBit(x));
     }
 }
+// Double Atan LA and HA, compensated, on a = |x| with AtanWide's one signed quotient:
+// a/1, (a - 1)/(a + 1) or -1/a, and the base of 0, 1 or 2 quarter turns; no swap, no
+// flip. The fast sums from -1 and 1 are exact across the fold (a - 1 is exact above 1/2)
+// and run on the fold's lanes only, the others on 0 (-1 and 1, no error; an infinity
+// must not make inf - inf). The residual is AngleOf's with b = 1; the sign goes back on
+// at the end.
+template <Unit U>
+BRENN_VEC __m128d AtanUnit(__m128d x) {
+    const __m128d one = Set<double>(1.0);
+    __m128d a = Abs(x);
+    __m128d over = AsFloat(Gt(AsInt(a), AsInt(Set<double>(0x1.a827999fcef32p-2))));
+    __m128d above = AsFloat(Gt(AsInt(a), AsInt(Set<double>(0x1.3504f333f9de6p+1))));
+    __m128d af = And(AndNot(above, over), a);
+    __m128d nh, nl, dh, dl;
+    FastTwoSum(Neg(one), af, nh, nl);
+    FastTwoSum(one, af, dh, dl);
+    nh = IfThenElse(over, nh, a);
+    dh = IfThenElse(above, a, dh);
+    __m128d q = Div(nh, dh);
+    __m128d l = AtanDouble11::Tail(Mul(q, q), q);
+    // nh - q*dh by halves cut at 26 bits (AngleOf); d above 2^510 only with q below
+    // 2^-510, where the correction is nothing to the result.
+    const __m128d cut = AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull));
+    __m128d dm = AtMost(dh, 0x1p510);
+    __m128d qh = And(q, cut), dmh = And(dm, cut);
+    __m128d r = Sub(Sub(nh, Mul(qh, dmh)), Mul(Sub(q, qh), dmh));
+    r = Add(Sub(r, Mul(q, Sub(dm, dmh))), Sub(nl, Mul(q, dl)));
+    __m128d dn = AtMost(dh, 0x1p100);
+    l = Add(l, Mul(r, WidenLower(ApproxRecip(Narrow(dn, dn)))));
+    __m128d k = IfThenElse(above, Set<double>(2), And(over, one));
+    return Or(Finish<U, true>(k, q, l), SignBit(x));
+}
 template <Unit U, Level L>
 BRENN_VEC __m128d AtanOf(__m128d x) {
-    return AngleOf<U, DoubleSeriesOf<L>, L != Level::EP, true>(x, Set<double>(1.0));
+    if constexpr (L == Level::EP)
+        return AngleOf<U, AtanDouble5, false>(x, Set<double>(1.0));
+    else
+        return AtanUnit<U>(x);
 }
 template <Unit U, Level L>
 BRENN_VEC __m128 Atan2Of(__m128 a, __m128 b) {
