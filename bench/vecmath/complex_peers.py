@@ -1,8 +1,9 @@
 #!/usr/bin/python3
 """Complex Mul, Div, Abs, Exp, Ln and Sqrt, and the rows computed element by element in
-extended precision (trigonometric, hyperbolic and inverse functions, Log10; Pow once it
-has kernels), beside their peers, in one run on the same arrays: this library's kernels (through their exported entry points, every level), a loop
-of the C library's scalar complex functions (complex_loops.c) and numpy's ufuncs.
+extended precision (trigonometric, hyperbolic and inverse functions, Log10, Pow), beside
+their peers, in one run on the same arrays: this library's kernels (through their
+exported entry points, every level), a loop of the C library's scalar complex functions
+(complex_loops.c) and numpy's ufuncs.
 
     complex_peers.py LIBBRENN_SSE42.so LIBCOMPLEX_LOOPS.so [n ...]
 
