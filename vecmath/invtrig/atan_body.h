@@ -19,6 +19,10 @@ BRENN_VEC __m128d AtMost(__m128d v, double limit) {
     return IfThenElse(AsFloat(Gt(AsInt(v), AsInt(c))), c, v);
 }
 
+// The fold points of the double steps, tan(pi/8) and tan(3pi/8), rounded to double.
+constexpr double kTanEighth = 0x1.a827999fcef32p-2;
+constexpr double kTanThreeEighths = 0x1.3504f333f9de6p+1;
+
 // The double steps: the angle of (b, a) with the series S, compensated or not. Lanes
 // of Atan2 hold magnitudes in [2^-500, 2^500), lanes of Atan (EP) have b = 1 and any a.
 // Wide: single lanes in double, where the order of the last steps is free (S a
@@ -36,7 +40,7 @@ BRENN_VEC __m128d AngleOf(__m128d a, __m128d b) {
     // Above tan(pi/8): atan(n/d) = pi/4 + atan((n - d)/(n + d)). Compared as integers:
     // both are magnitudes, and a NaN raises nothing (it lands in one branch or the other
     // and comes out of the quotient).
-    __m128d fold = AsFloat(Gt(AsInt(n), AsInt(Mul(d, Set<double>(0x1.a827999fcef32p-2)))));
+    __m128d fold = AsFloat(Gt(AsInt(n), AsInt(Mul(d, Set<double>(kTanEighth)))));
     __m128d nh, nl, dh, dl;
     if constexpr (Comp) {
         // Folded lanes have d below 2^500; the others must not make inf - inf here.
@@ -140,8 +144,8 @@ BRENN_VEC __m128d AtanWide(__m128d a) {
     using S = AtanDouble5Set;
     const __m128d one = Set<double>(1.0);
     const __m128d quarter = Set<double>(Quarter<double, U>::kHi);
-    __m128d above = AsFloat(Gt(AsInt(a), AsInt(Set<double>(0x1.3504f333f9de6p+1))));
-    __m128d fold = AndNot(above, AsFloat(Gt(AsInt(a), AsInt(Set<double>(0x1.a827999fcef32p-2)))));
+    __m128d above = AsFloat(Gt(AsInt(a), AsInt(Set<double>(kTanThreeEighths))));
+    __m128d fold = AndNot(above, AsFloat(Gt(AsInt(a), AsInt(Set<double>(kTanEighth)))));
     __m128d num = IfThenElse(fold, Sub(a, one), IfThenElse(above, Neg(one), a));
     __m128d den = IfThenElse(fold, Add(a, one), IfThenElse(above, a, one));
     __m128d q = Div(num, den);
@@ -179,8 +183,8 @@ template <Unit U>
 BRENN_VEC __m128d AtanUnit(__m128d x) {
     const __m128d one = Set<double>(1.0);
     __m128d a = Abs(x);
-    __m128d over = AsFloat(Gt(AsInt(a), AsInt(Set<double>(0x1.a827999fcef32p-2))));
-    __m128d above = AsFloat(Gt(AsInt(a), AsInt(Set<double>(0x1.3504f333f9de6p+1))));
+    __m128d over = AsFloat(Gt(AsInt(a), AsInt(Set<double>(kTanEighth))));
+    __m128d above = AsFloat(Gt(AsInt(a), AsInt(Set<double>(kTanThreeEighths))));
     __m128d af = And(AndNot(above, over), a);
     __m128d nh, nl, dh, dl;
     FastTwoSum(Neg(one), af, nh, nl);
