@@ -8,10 +8,12 @@
  * once; every other lane (zeros, denormals, huge parts, infinities, NaNs) goes to the
  * scaled scalar routine. EP: the plain products, and the lane goes to the scalar
  * routine when a sum or difference cancelled by 20 bits or more or came out non-finite.
- * Double Div, LA and HA: the same window, the divisor c^2 + d^2 and both numerators
- * carried in two parts, each quotient from the reciprocal with one correction by the
- * exact residual. EP: the plain formula with one shared reciprocal; its lanes outside
- * the window go to the scalar routine too, since c*c overflows or underflows there.
+ * Double Div, LA and HA: the same window; the plain quotient cut to 26 bits and
+ * corrected by the quotient of its exact residual (DivZ), or, for a group with a lane
+ * whose parts lie 2^16 apart or more, the divisor c^2 + d^2 and both numerators carried
+ * in two parts, each quotient from the reciprocal with one correction by the exact
+ * residual. EP: the plain formula with one shared reciprocal; its lanes outside the
+ * window go to the scalar routine too, since c*c overflows or underflows there.
  *
  * Single: products of singles are exact in double, so LA and HA (and Div's EP) form the
  * formulas in double and round once to single (division by the double reciprocal); a
@@ -73,7 +75,7 @@ struct MulZ {
     using Out = BrennComplex16;
     using V = __m128d;
     static constexpr const char* kName = MulName<Conj>();
-    static int Eval(const Cx<double>* x, const Cx<double>* w, Cx<double>& y) {
+    BRENN_VEC static int Eval(const Cx<double>* x, const Cx<double>* w, Cx<double>& y) {
         if constexpr (L != Level::EP) {
             // each factor split once for its two products; MulByConj's sign of d is taken
             // by the operations: ac + bd, bc - ad
@@ -129,14 +131,39 @@ struct MulC {
     static int Scalar(const In* x, const In* w, Out* y) { return MulScalar(x, w, y, Conj); }
 };
 
+using V2 = __m128d;
+
 // The quotient hi + lo over the divisor dh + dl (dh split), from its reciprocal estimate
 // inv, with one correction by the exact residual.
 template <class V>
-inline V QuotientOf(V nh, V nl, const Halves<V>& dh, V dl, V inv) {
+BRENN_VEC V QuotientOf(V nh, V nl, const Halves<V>& dh, V dl, V inv) {
     V q = Mul(nh, inv), ph, pl;
     ExactProduct(SplitRounded(q), dh, ph, pl);
     V r = Add(Sub(Sub(nh, ph), pl), Sub(nl, Mul(q, dl)));
     return Add(q, Mul(r, inv));
+}
+
+// The exact quotient of one group: each factor split once for its three products, the
+// divisor's head for two; the numerators and the divisor in two parts, each quotient from
+// the reciprocal with one correction by the exact residual. For the groups with a lane
+// the short form below does not serve.
+BRENN_VEC void ExactQuotient(V2 a, V2 b, V2 c, V2 d, Cx<double>& y) {
+    auto ha = SplitRounded(a), hb = SplitRounded(b), hc = SplitRounded(c), hd = SplitRounded(d);
+    V2 dh, dl, nh, nl;
+    SumOfProducts(hc, hc, hd, hd, dh, dl);
+    auto hdh = SplitRounded(dh);
+    V2 inv = Div(Set<double>(1), dh);
+    SumOfProducts(ha, hc, hb, hd, nh, nl);
+    y.re = QuotientOf(nh, nl, hdh, dl, inv);
+    SumOfProducts<true>(hb, hc, ha, hd, nh, nl);
+    y.im = QuotientOf(nh, nl, hdh, dl, inv);
+}
+
+// Lanes where one part of q is below 2^-16 of the other (or zero), by the bits.
+BRENN_VEC int LopsidedBits(V2 qr, V2 qi) {
+    const I64x2 k = Set<int64_t>(int64_t(16) << 52);
+    I64x2 r = AsInt(Abs(qr)), i = AsInt(Abs(qi));
+    return MaskBits(Not(And(Gt(Add(r, k), i), Gt(Add(i, k), r))));
 }
 
 template <Level L>
@@ -144,29 +171,42 @@ struct DivZ {
     using T = double;
     using In = BrennComplex16;
     using Out = BrennComplex16;
-    using V = __m128d;
     static constexpr const char* kName = "vzDiv";
-    static int Eval(const Cx<double>* x, const Cx<double>* w, Cx<double>& y) {
-        V a = x->re, b = x->im, c = w->re, d = w->im;
+    // LA and HA: the plain quotient q0 = (ac + bd, bc - ad) / (c^2 + d^2), within 6 units of
+    // the last place of |q|, its parts cut to 26 bits (h, within 2^-25 of each part), the
+    // residual x - h w formed exactly but for the last roundings of its small parts (h
+    // times a half of c or d is exact; the two large products go through TwoSum with the
+    // error kept), and its quotient added in plain arithmetic: q = h + (x - h w) / w. That
+    // quotient is at most 2^-25 |q| and within a few roundings of itself, so each part is
+    // the rounding of h + r to within 2^-76 |q|: about 2^-23 ulp of a part that is at least
+    // 2^-16 of the other. Groups with a lane whose parts are further apart (the plain
+    // formula cancelled there, or the result is lopsided) take the exact quotient.
+    BRENN_VEC static int Eval(const Cx<double>* x, const Cx<double>* w, Cx<double>& y) {
+        V2 a = x->re, b = x->im, c = w->re, d = w->im;
         int bits = OutsideWindowBits<kDivWindowTop>(a, b, c, d);
+        V2 r = Div(Set<double>(1), Add(Mul(c, c), Mul(d, d)));
+        V2 qr = Mul(Add(Mul(a, c), Mul(b, d)), r);
+        V2 qi = Mul(Sub(Mul(b, c), Mul(a, d)), r);
         if constexpr (L == Level::EP) {
-            V r = Div(Set<double>(1), Add(Mul(c, c), Mul(d, d)));
-            y.re = Mul(Add(Mul(a, c), Mul(b, d)), r);
-            y.im = Mul(Sub(Mul(b, c), Mul(a, d)), r);
+            y.re = qr, y.im = qi;
+            return bits;
         } else {
-            // each factor split once for its three products, the divisor's head for two
-            auto ha = SplitRounded(a), hb = SplitRounded(b), hc = SplitRounded(c),
-                      hd = SplitRounded(d);
-            V dh, dl, nh, nl;
-            SumOfProducts(hc, hc, hd, hd, dh, dl);
-            auto hdh = SplitRounded(dh);
-            V inv = Div(Set<double>(1), dh);
-            SumOfProducts(ha, hc, hb, hd, nh, nl);
-            y.re = QuotientOf(nh, nl, hdh, dl, inv);
-            SumOfProducts<true>(hb, hc, ha, hd, nh, nl);
-            y.im = QuotientOf(nh, nl, hdh, dl, inv);
+            if (__builtin_expect((LopsidedBits(qr, qi) & ~bits) != 0, 0)) {
+                ExactQuotient(a, b, c, d, y);
+                return bits;
+            }
+            const V2 cut = AsFloat(Set<int64_t>(int64_t(0xFFFFFFFFF8000000ull)));
+            qr = And(qr, cut), qi = And(qi, cut);
+            auto hc = SplitByMask(c), hd = SplitByMask(d);
+            V2 s, e;
+            TwoDiff(Mul(qr, hc.hi), Mul(qi, hd.hi), s, e); // a - (qr c - qi d)
+            V2 rr = Add(Sub(Sub(a, s), e), Sub(Mul(qi, hd.lo), Mul(qr, hc.lo)));
+            TwoSum(Mul(qr, hd.hi), Mul(qi, hc.hi), s, e); // b - (qr d + qi c)
+            V2 ri = Sub(Sub(Sub(b, s), e), Add(Mul(qr, hd.lo), Mul(qi, hc.lo)));
+            y.re = Add(qr, Mul(Add(Mul(rr, c), Mul(ri, d)), r));
+            y.im = Add(qi, Mul(Sub(Mul(ri, c), Mul(rr, d)), r));
+            return bits;
         }
-        return bits;
     }
     static int Scalar(const In* x, const In* w, Out* y) { return DivScalar(x, w, y); }
 };
