@@ -75,6 +75,7 @@ struct MulZ {
     using Out = BrennComplex16;
     using V = __m128d;
     static constexpr const char* kName = MulName<Conj>();
+    static constexpr bool kOneGroup = L != Level::EP;
     BRENN_VEC static int Eval(const Cx<double>* x, const Cx<double>* w, Cx<double>& y) {
         if constexpr (L != Level::EP) {
             // each factor split once for its two products; MulByConj's sign of d is taken

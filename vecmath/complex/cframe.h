@@ -101,6 +101,11 @@ struct ExtendedScalarBody {
     static int Scalar(const In* x, const In* w, Out* y) { return Routine(x, w, y); }
 };
 
+// Bodies whose chains are long enough to fill the machine alone, and which would spill
+// registers with two groups in flight, say so: static constexpr bool kOneGroup = true.
+template <class B>
+constexpr bool kOneGroupARound = requires { requires B::kOneGroup; };
+
 template <class B>
 struct ComplexFrame {
     using T = typename B::T;
@@ -150,6 +155,18 @@ struct ComplexFrame {
     // A round of two groups, 2K elements from i: both evaluated before either is stored,
     // so that their chains interleave.
     BRENN_VEC static void Round(const B& body, const In* a, const In* b, Out* y, int i) {
+        if constexpr (kOneGroupARound<B>) {
+            for (int g = 0; g < 2; ++g, i += K) {
+                Cx<T> a0 = LoadParts(a + i), b0, y0;
+                if (b) b0 = LoadParts(b + i);
+                int bits = body.Eval(&a0, b ? &b0 : nullptr, y0);
+                if (__builtin_expect(bits == 0, 1))
+                    StoreParts(y + i, y0);
+                else
+                    SpecialGroup(body, a, b, y, i, bits, y0);
+            }
+            return;
+        }
         Cx<T> a0 = LoadParts(a + i), a1 = LoadParts(a + i + K), b0, b1, y0, y1;
         if (b) b0 = LoadParts(b + i), b1 = LoadParts(b + i + K);
         int bits0 = body.Eval(&a0, b ? &b0 : nullptr, y0);
