@@ -2,7 +2,8 @@
  *
  * atanh a = ln(w)/2, w = (1 + a)/(1 - a), a = |x|, x's sign put back at the end; the
  * logarithm of the pair w by the explog core (log_pair.h).
- * Double HA: 1 + a and 1 - a as exact pairs, their quotient corrected once into a pair.
+ * Double HA: 1 + a and 1 - a as exact pairs, their quotient wh and its relative correction
+ * c (remainder over an estimate of 1 + a), ln w = ln wh + c.
  * Double LA and EP: w = 1 + u, u = 2a/(1 - a), the
  * rounding of 1 + u recovered, so that small arguments keep their relative accuracy.
  * Single HA: w from a single division corrected once in double, its logarithm by the
@@ -37,27 +38,36 @@ template <Level L>
 inline __m128d AtanhOf(__m128d x) {
     const __m128d one = Set<double>(1.0);
     __m128d a = Abs(x);
-    Pair w;
+    // Below 2^-7 (HA) the series a + a^3*(1/3 + a^2/5 + a^4/7 + a^6/9): the logarithm of
+    // a w within an ulp or two of 1 rounds its parts about as often as it keeps them.
+    // A register with no such lane skips it, one with only such lanes skips the logarithm.
+    int small = 0;
+    __m128d series = a;
     if constexpr (L == Level::HA) {
+        small = MaskBits(Lt(a, Set<double>(kSeriesEnd)));
+        if (small) {
+            __m128d z = Mul(a, a);
+            series = Add(a, Mul(Mul(a, z), Horner(z, kAtanhSeries)));
+            if (small == 3) return Or(series, SignBit(x));
+        }
+    }
+    __m128d y;
+    if constexpr (L == Level::HA) {
+        // w = wh*(1 + c): c = (n - wh*d)/(wh*d), the remainder over n's single reciprocal
+        // estimate (wh*d is n to 2^-53, and c is about 2^-53).
         Pair n, d;
         FastTwoSum(one, a, n.hi, n.lo);
         FastTwoSum(one, Neg(a), d.hi, d.lo);
-        w.hi = Div(n.hi, d.hi);
+        __m128d wh = Div(n.hi, d.hi);
         __m128d ph, pl;
-        TwoProduct(w.hi, d.hi, ph, pl);
-        __m128d rem = Sub(Add(Sub(Sub(n.hi, ph), pl), n.lo), Mul(w.hi, d.lo));
-        w.lo = Mul(rem, RecipEstimate(d.hi)); // rem/d.hi is about 2^-53 of w
+        TwoProduct(wh, d.hi, ph, pl);
+        __m128d rem = Sub(Add(Sub(Sub(n.hi, ph), pl), n.lo), Mul(wh, d.lo));
+        y = LnOfScaled<L>(wh, Mul(rem, RecipEstimate(n.hi)), Zero<double>());
     } else {
-        w = OnePlus(Div(Add(a, a), Sub(one, a)));
+        y = LnOfPair<L>(OnePlus(Div(Add(a, a), Sub(one, a))), Zero<double>());
     }
-    __m128d y = Mul(Set<double>(0.5), LnOfPair<L>(w, Zero<double>()));
-    if constexpr (L == Level::HA) {
-        // Below 2^-7 the logarithm of a w within an ulp or two of 1 rounds its parts about
-        // as often as it keeps them: the series a + a^3*(1/3 + a^2/5 + a^4/7 + a^6/9).
-        __m128d z = Mul(a, a);
-        __m128d series = Add(a, Mul(Mul(a, z), Horner(z, kAtanhSeries)));
-        y = IfThenElse(Lt(a, Set<double>(kSeriesEnd)), series, y);
-    }
+    y = Mul(Set<double>(0.5), y);
+    if (small) y = IfThenElse(Lt(a, Set<double>(kSeriesEnd)), series, y);
     return Or(y, SignBit(x));
 }
 

@@ -12,22 +12,30 @@
 
 namespace brenn::vm {
 
-// ln(w.hi + w.lo) + extra*ln2. HA adds the core's head and first-order term exactly
-// before the small terms; LA and EP add the small terms to the core's tail.
+// ln(wh*(1 + c)) + extra*ln2 for |c| a few units of 2^-53 at most:
+// ln wh by the core, plus c.
+// HA adds the core's head and first-order term exactly before the small terms; LA and EP
+// add the small terms to the core's tail. With wh >= 1 the head is 0 or at least
+// ln(1 + 2^-9) (k >= 0, the rows' -ln(rcp) >= 0), above |r| <= 2^-10: the fast sum is exact.
 template <Level L>
-inline __m128d LnOfPair(const Pair& w, __m128d extra) {
-    LnReduction red = LnReduce(w.hi);
+inline __m128d LnOfScaled(__m128d wh, __m128d c, __m128d extra) {
+    LnReduction red = LnReduce(wh);
     red.k = Add(red.k, extra);
     __m128d h, r, t;
     LnCore3From<L>(red, h, r, t);
-    __m128d c = Div(w.lo, w.hi);
     if constexpr (L == Level::HA) {
         __m128d s, e;
-        TwoSum(h, r, s, e);
+        FastTwoSum(h, r, s, e);
         return Add(s, Add(e, Add(t, c)));
     } else {
         return Add(h, Add(r, Add(t, c)));
     }
+}
+
+// ln(w.hi + w.lo) + extra*ln2.
+template <Level L>
+inline __m128d LnOfPair(const Pair& w, __m128d extra) {
+    return LnOfScaled<L>(w.hi, Div(w.lo, w.hi), extra);
 }
 
 // 1 + u as a head and its exact rounding error (u >= 0).
