@@ -1,8 +1,8 @@
 /* Cbrt, InvCbrt and Pow2o3, single and double: x^(1/3), x^(-1/3) and x^(2/3) from the
  * core of root_core.h.
  *
- * The single rows split the exponent and take the seed in single lanes; HA runs one
- * term of the series on widened lanes and rounds once (0.6 ulp), LA (one term, within
+ * The single rows split the exponent and take the seed in single lanes; HA runs a fitted
+ * line in e on widened lanes and rounds once, LA (one term of the series, within
  * about 1.6 ulp) and EP (the seed alone) stay in single. Single denormals go to the
  * scalar routine, which runs the double form. The double rows take four terms (at HA
  * with the seed rounded so that its powers and products are exact; LA and EP round

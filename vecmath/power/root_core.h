@@ -33,9 +33,9 @@ constexpr double kThirdSeries[] = {-1.0 / 3, 2.0 / 9, -14.0 / 81, 35.0 / 243};
 constexpr double kTwoThirdsSeries[] = {-2.0 / 3, 5.0 / 9, -40.0 / 81, 110.0 / 243};
 
 // The terms of the series a level needs: with e near 2^-12.6 the first term left out is
-// below 2^-28 for one term (single HA in double, and single LA, whose own roundings in
-// single are larger) and 2^-66 for four (double LA and EP); double HA, whose seed is cut
-// to 15 bits (e near 2^-11.3), takes four too (2^-57.7 for Cbrt's series, 2^-59.5 for
+// below 2^-28 for one term (single LA, whose own roundings in single are larger) and
+// 2^-66 for four (double LA and EP); double HA, whose seed is cut to 15 bits (e near
+// 2^-11.3), takes four too (2^-57.7 for Cbrt's series, 2^-59.5 for
 // the others).
 // The root of M from its seed z, with e = M*z^3 - 1 and the products rounded, in either
 // precision: M*z^2, z or M*z times 1 + the series.
@@ -107,13 +107,36 @@ inline __m128d RootOf(__m128d ax) {
 // (exact over that range, the product within each lane's low 16 bits, so one 16-bit
 // multiply serves); M = m * 2^j by j put into m's exponent field, and the seed's scale
 // 2^(-j/3) by a byte shuffle of a four-entry table. Then the series in single (LA, within
-// about 2 ulp; EP takes the seed's products alone, 13 bits) or, `Wide`, on widened lanes
-// rounded once to single (HA).
+// about 2 ulp; EP takes the seed's products alone, 13 bits) or, `Wide`, a fitted line in
+// place of its first two terms on widened lanes, rounded once to single (HA).
 constexpr float kRootSeedS[] = {0x1.ab85acp0f, -0x1.2c4234p0f, 0x1.641702p-1f, -0x1.c519b2p-3f,
                                 0x1.d47154p-6f};
 // 2^(-j/3) for j = 0, 1, 2 (the fourth entry unused).
 alignas(16) constexpr float kRootScaleS[4] = {1.0f, float(kRootScale[1]), float(kRootScale[2]),
                                               1.0f};
+
+// The single HA step on widened lanes: lead*p(e), p the line fitted to (1 + e)^(-2/3) or
+// (1 + e)^(-1/3) by tools/power/cbrt_single_wide.sollya (2^-27.9 and 2^-29.1 relative),
+// written as lead*((p0 - p1) + p1*M*z^3), so that M*z^3 is not formed apart from the lead:
+// a chain of five operations.
+template <Root R>
+inline __m128d RootFinishLine(__m128d z, __m128d bigM) {
+    constexpr double p1 = R == Root::Cbrt ? -0x1.5555557cd6e9ep-1 : -0x1.555555781948bp-2;
+    constexpr double k = R == Root::Cbrt ? 0x1.aaaaaad032916p0 : 0x1.5555556522c3fp0;
+    const __m128d z2 = Mul(z, z);
+    __m128d lead, t;
+    if constexpr (R == Root::Cbrt) {
+        lead = Mul(bigM, z2);
+        t = Mul(lead, Mul(z, Set<double>(p1)));
+    } else if constexpr (R == Root::Pow2o3) {
+        lead = Mul(bigM, z);
+        t = Mul(lead, Mul(z2, Set<double>(p1)));
+    } else {
+        lead = z;
+        t = Mul(Mul(bigM, Mul(z, Set<double>(p1))), z2);
+    }
+    return Mul(lead, Add(Set<double>(k), t));
+}
 
 template <Root R, int Terms, bool Wide>
 inline __m128 RootOf(__m128 ax) {
@@ -125,11 +148,11 @@ inline __m128 RootOf(__m128 ax) {
     const I32x4 mant = And(xi, Set<uint32_t>(F::kMant));
     const __m128 m = AsFloat(Or(mant, Set<uint32_t>(F::kOne)));
     const __m128 bigM = AsFloat(Or(mant, ShiftLeft<F::kMantBits>(Add(j, Set<int32_t>(F::kBias)))));
-    const __m128 z = Mul(Horner(m, kRootSeedS), AsFloat(LookupFour(AsInt(Load(kRootScaleS)), j)));
+    const __m128 z = Mul(Estrin(m, kRootSeedS), AsFloat(LookupFour(AsInt(Load(kRootScaleS)), j)));
     __m128 v;
     if constexpr (Wide)
-        v = Narrow(RootFinish<R, Terms>(WidenLower(z), WidenLower(bigM)),
-                   RootFinish<R, Terms>(WidenUpper(z), WidenUpper(bigM)));
+        v = Narrow(RootFinishLine<R>(WidenLower(z), WidenLower(bigM)),
+                   RootFinishLine<R>(WidenUpper(z), WidenUpper(bigM)));
     else
         v = RootFinish<R, Terms>(z, bigM);
     // The exponent q = q' - 43, negated for InvCbrt and doubled for Pow2o3.
