@@ -423,6 +423,41 @@ TEST(Power, PowxNegativePowerAtTheRangeEnds) {
     }
 }
 
+// An integer b that reaches the general body keeps negative x in the vector: |x|^b with
+// x's sign for odd b, over whole rounds and a tail; beyond the range the element still
+// leaves for the scalar routine (in double with its overflow and underflow statuses).
+template <class T>
+void CheckPowxIntegerOnNegatives() {
+    std::vector<T> a(37);
+    for (size_t i = 0; i < a.size(); ++i)
+        a[i] = T(i % 3 ? -1 : 1) * T(0.3 + 0.41 * double(i));
+    for (int slot : kSlots)
+        for (T b : {T(2), T(10), T(11), T(-7)}) {
+            std::vector<T> y(a.size());
+            Powx<T>(slot)(int(a.size()), a.data(), b, y.data());
+            for (size_t i = 0; i < a.size(); ++i) {
+                SCOPED_TRACE(std::string(SlotName(slot)) + " x=" + std::to_string(double(a[i])) +
+                             " b=" + std::to_string(double(b)));
+                EXPECT_LE(UlpError(y[i], powl((long double)a[i], (long double)b)),
+                          slot == frame::SlotEP ? (sizeof(T) == 4 ? 0x1p13 : 0x1p27) : 4.0);
+            }
+        }
+    if constexpr (sizeof(T) == 8)
+        for (int slot : kSlots) {
+            int status;
+            EXPECT_EQ(CallPow<T>(true, slot, T(-1e200), T(11), &status), -kInf);
+            EXPECT_EQ(status, 3);
+            T tiny = CallPow<T>(true, slot, T(-1e-40), T(11), &status);
+            EXPECT_TRUE(tiny == 0 && std::signbit(tiny));
+            EXPECT_EQ(status, 4);
+        }
+}
+
+TEST(Power, PowxIntegerExponentOnNegativeX) {
+    CheckPowxIntegerOnNegatives<float>();
+    CheckPowxIntegerOnNegatives<double>();
+}
+
 // The roots: exact cubes, signs, zeros and infinities, denormals, InvCbrt's pole (status
 // 2 in double only), Pow2o3 even, Pow3o2's domain.
 TEST(Power, RootsAtTheirSpecialValues) {

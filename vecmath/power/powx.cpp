@@ -10,7 +10,9 @@
  *   0.5, -0.5        the Sqrt and InvSqrt slots
  *   1/3, -1/3, 2/3   (their rounded bit patterns) the Cbrt, InvCbrt and Pow2o3 slots
  *   1.5              the Pow3o2 slot
- *   otherwise        the general body of Pow (pow_body.h) with b in every lane.
+ *   otherwise        the general body of Pow (pow_body.h) with b in every lane; for an
+ *                    integer b on |x|, x's sign put back for odd b, so that negative x
+ *                    do not leave the vector.
  * The slots are those of the kernel's own level. At HA only -1, 0.5, -0.5 and 1.5 are
  * taken apart; every other b runs the general body, which is within an ulp where the
  * chains are not. A dispatched kernel reports under its own name ("vsInv", ...), and a
@@ -67,7 +69,9 @@ UnaryKernel<double> SlotOf<double>(PowxCall c, int slot) {
 
 // The general body: Pow's, with b in every lane, the head taken to the output's 16-byte
 // boundary (its input need not share the output's alignment: a is read, y written).
-template <class Tp, Level L>
+// `Integer` for an integer b: the body runs on |x|, so that negative x stay in the
+// vector, and x's sign goes back on for odd b (oddSign the sign mask, else 0).
+template <class Tp, Level L, bool Integer = false>
 struct PowxBody {
     using T = Tp;
     using V = Vec<T>;
@@ -75,7 +79,13 @@ struct PowxBody {
     static constexpr Layout kLayout = Layout::SplitOut;
     V bv;
     T b;
-    V Eval(V x, V& special) const { return PowOf<L>(x, bv, special); }
+    V oddSign = Zero<T>();
+    V Eval(V x, V& special) const {
+        if constexpr (Integer)
+            return Or(PowOf<L>(Abs(x), bv, special), And(x, oddSign));
+        else
+            return PowOf<L>(x, bv, special);
+    }
     int Scalar(const T* a, T* y) const { return PowScalar<PowDomain::Real>(*a, b, y); }
 };
 
@@ -237,6 +247,11 @@ void PowxRun(int n, const T* a, T b, T* y) {
     }
     if (dispatched)
         if (UnaryKernel<T> k = SlotOf<T>(call, slot)) return k(n, a, y);
+    if (const int c = IntegerClass(b)) {
+        const Vec<T> oddSign = c == 1 ? SignMask<T>() : Zero<T>();
+        RunUnary(PowxBody<T, L, true>{Set<T>(b), b, oddSign}, n, a, y);
+        return;
+    }
     RunUnary(PowxBody<T, L>{Set<T>(b), b}, n, a, y);
 }
 
