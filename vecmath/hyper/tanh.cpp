@@ -94,6 +94,16 @@ inline __m128d TanhHA(__m128d x) {
     const __m128d one = Set<double>(1.0);
     const __m128d shifter = Set<double>(Format<double>::kShifter);
     __m128d a = Min(Abs(x), Set<double>(kTanhOne));
+    // The series only in a register that has a lane below 1/16; one with only such lanes
+    // skips the exponential.
+    const __m128d isSmall = Lt(a, Set<double>(kTanhSmallEnd));
+    const int small = MaskBits(isSmall);
+    __m128d series = a;
+    if (small) {
+        __m128d z = Mul(a, a);
+        series = Add(a, Mul(Mul(a, z), Horner(z, kTanhTaylor)));
+        if (small == 3) return Or(series, SignBit(x));
+    }
     __m128d b = Add(a, a);
     __m128d t = Add(Mul(b, Set<double>(S::kInvStep)), shifter);
     __m128d n = Sub(t, shifter);
@@ -116,9 +126,7 @@ inline __m128d TanhHA(__m128d x) {
     __m128d rem = Sub(Sub(Sub(nh, Mul(qh, dhh)), Mul(Sub(q, qh), dhh)), Mul(q, Sub(dh, dhh)));
     rem = Add(rem, Sub(nl, Mul(q, dl)));
     __m128d y = Add(q, Mul(rem, RecipEstimate(dh)));
-    __m128d z = Mul(a, a);
-    __m128d small = Add(a, Mul(Mul(a, z), Horner(z, kTanhTaylor)));
-    y = IfThenElse(Lt(a, Set<double>(kTanhSmallEnd)), small, y);
+    if (small) y = IfThenElse(isSmall, series, y);
     return Or(y, SignBit(x));
 }
 
