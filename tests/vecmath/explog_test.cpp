@@ -95,8 +95,10 @@ TEST(ExpLog, ExpAtTheEdgesOfTheDoubleRange) {
         EXPECT_EQ(Call(frame::Row_dExp2, slot, 1024.0, &status), INFINITY);
         EXPECT_EQ(status, 3);
         EXPECT_EQ(Call(frame::Row_sExp2, slot, -149.0f, &status), FLT_TRUE_MIN);
-        EXPECT_EQ(Call(frame::Row_sExp10, slot, 10.0f, &status), 1e10f);
-        EXPECT_EQ(Call(frame::Row_dExp10, slot, 22.0, &status), 1e22);
+        // Exp10 exact at exact powers of ten, but for EP's short polynomials.
+        if (slot == frame::SlotEP) continue;
+        EXPECT_EQ(Call(frame::Row_sExp10, slot, 10.0f, &status), 1e10f) << slot;
+        EXPECT_EQ(Call(frame::Row_dExp10, slot, 22.0, &status), 1e22) << slot;
     }
 }
 

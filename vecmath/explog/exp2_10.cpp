@@ -1,22 +1,26 @@
-/* Exp2 and Exp10, single and double, one kernel each for all levels.
+/* Exp2 and Exp10, single and double.
  *
- * Single: in single with the 128-entry table, n = round(128x/log_B(2)), T = 2^(j/128)
+ * Single HA: in single with the 128-entry table, n = round(128x/log_B(2)), T = 2^(j/128)
  * for j = n & 127, a cubic in the rest of x, 2^(n >> 7) added to the exponent field
  * (SingleCore below).
- * Double: on the table of 64 of exp_core.h, a degree-5 polynomial in the rest d of x
- * in the function's own base:
+ * Double HA and LA (one kernel): on the table of 64 of exp_core.h, a degree-5 polynomial
+ * in the rest d of x in the function's own base:
  * Exp2: n = round(64x), d = x - n/64 exactly.
  * Exp10: n = round(64x/log10(2)), d = x - n*log10(2)/64 with a 36-bit head (n*head is
  * exact).
+ * Single LA and EP, double EP: no table, B^x = 2^n*(1 + p(r)), |r| <= log_B(2)/2
+ * (NoTableOf below).
  * Range tests: |x| above 126 (Exp2) or 37.93 (Exp10) in single, 1022 or 307 in double;
  * the scalar routines take the rest with the limits of each format: overflow (reported),
  * +0 and denormal results (underflow). Error mode 0x2000 blends overflow and
- * underflow lanes. Rounds of sixteen elements (wide.h), both forms in single and double.
+ * underflow lanes. Rounds of sixteen elements in double, eight in single (wide.h).
  *
- * Measured (brenn_accuracy, full run; one kernel serves every level): sExp2 0.503 ulp,
- * sExp10 0.504 ulp, dExp2 0.71 ulp, dExp10 0.71 ulp. */
+ * Measured (brenn_accuracy, full run): sExp2 HA 0.503 ulp, LA 1.33 ulp, EP 12.7 bits;
+ * sExp10 HA 0.504 ulp, LA 1.32 ulp, EP 12.7 bits; dExp2 and dExp10 HA/LA 0.71 ulp, EP
+ * 28.5 bits. */
 #include <bit>
 #include <cstdint>
+#include <iterator>
 
 #include "frame/kernels.h"
 #include "vecmath/explog/exp_core.h"
@@ -25,6 +29,7 @@
 #include "vecmath/explog/flat.h"
 #include "vecmath/explog/wide.h"
 #include "vecmath/frame/kernel_frame.h"
+#include "vecmath/frame/level.h"
 
 namespace brenn::vm {
 namespace {
@@ -164,8 +169,78 @@ inline __m128 CoreOf(__m128 x) {
     __m128 y = Add(Mul(Add(p, tl), tv), tv);
     // (bits(t) >> 7) << 23 is floor(n/128) << 23: the shifter's bits leave the word.
     static_assert(((std::bit_cast<uint32_t>(C::kShifter) >> 7) << 23) == 0);
-    I32x4 k = ShiftLeft<Format<float>::kMantBits>(ShiftRight<7>(AsInt(t)));
-    return AsFloat(Add(AsInt(y), k));
+    return ScaleByLowWord<7>(y, t);
+}
+
+// Without a table (single LA and EP, double EP): n = round(x*log2(B)) by the format's
+// shifter, r = x - n*log_B(2) (exact for Exp2; Exp10 with log10(2) in parts, the table
+// forms' steps scaled by 128 and 64, so that the products with n stay exact), and
+// B^x = 2^n*(1 + p(r)), p ~ B^r - 1 on |r| <= log_B(2)/2 by Estrin's scheme, by
+// tools/explog/exp2_10_notable.sollya: single LA degree 6 (2^-28 absolute), single EP
+// degree 3 (2^-13), double EP degree 6 (2^-29).
+template <class T, Base B>
+struct NoTable;
+template <>
+struct NoTable<float, Base::Two> {
+    static constexpr float kLA[] = {0x1.62e43p-1f,  0x1.ebfbep-3f,   0x1.c6af72p-5f,
+                                    0x1.3b2a44p-7f, 0x1.5f0dccp-10f, 0x1.44292ap-13f};
+    static constexpr float kEP[] = {0x1.62dfa4p-1f, 0x1.f013ecp-3f, 0x1.ca909ap-5f};
+};
+template <>
+struct NoTable<float, Base::Ten> {
+    using S = SingleCore<Base::Ten>;
+    static constexpr float kInvStep = S::kInvStep * 0x1p-7f;
+    static constexpr float kStep[] = {S::kStep[0] * 0x1p7f, S::kStep[1] * 0x1p7f,
+                                      S::kStep[2] * 0x1p7f};
+    static constexpr float kLA[] = {0x1.26bb1cp1f, 0x1.53524ep1f,  0x1.046f98p1f,
+                                    0x1.2bd572p0f, 0x1.156d3ep-1f, 0x1.aac9ep-3f};
+    static constexpr float kEP[] = {0x1.26b756p1f, 0x1.562524p1f, 0x1.06a864p1f};
+};
+template <>
+struct NoTable<double, Base::Two> {
+    static constexpr double kEP[] = {0x1.62e430cc4cb2fp-1, 0x1.ebfbe0d78390fp-3,
+                                     0x1.c6aecf6e937a5p-5, 0x1.3b29aa143e95p-7,
+                                     0x1.5f47aff03065dp-10, 0x1.448fc149e51cp-13};
+};
+template <>
+struct NoTable<double, Base::Ten> {
+    using S = BaseConst<Base::Ten>;
+    static constexpr double kInvStep = S::kInvStep * 0x1p-6;
+    static constexpr double kStep[] = {S::kStepHi * 0x1p6, S::kStepLo * 0x1p6};
+    static constexpr double kEP[] = {0x1.26bb1c72967b5p1, 0x1.53524d0dd86bep1,
+                                     0x1.046f59a6be7afp1, 0x1.2bd660cbe2b6fp0,
+                                     0x1.158bb89338a41p-1, 0x1.a9ee23cf53beap-3};
+};
+
+template <Base B, class V, class T, size_t N>
+inline V NoTableOf(V x, const T (&c)[N]) {
+    using C = NoTable<T, B>;
+    const V shifter = Set<T>(Format<T>::kShifter);
+    V t, r;
+    if constexpr (B == Base::Two) {
+        t = Add(x, shifter);
+        r = Sub(x, Sub(t, shifter));
+    } else {
+        t = Add(Mul(x, Set<T>(C::kInvStep)), shifter);
+        V n = Sub(t, shifter);
+        r = Sub(x, Mul(n, Set<T>(C::kStep[0])));
+        for (size_t i = 1; i < std::size(C::kStep); ++i)
+            r = Sub(r, Mul(n, Set<T>(C::kStep[i])));
+    }
+    V y = Add(Set<T>(1), Mul(r, Estrin(r, c)));
+    return ScaleByLowWord<0>(y, t);
+}
+
+// The form of a level: the table cores at HA (and double LA), else the table-free one.
+template <Base B, Level L, class V>
+inline V ValueOf(V x) {
+    using T = ElemOf<V>;
+    if constexpr (L == Level::EP)
+        return NoTableOf<B>(x, NoTable<T, B>::kEP);
+    else if constexpr (L == Level::LA && sizeof(T) == 4)
+        return NoTableOf<B>(x, NoTable<T, B>::kLA);
+    else
+        return CoreOf<B>(x);
 }
 
 // e^(x*c) for the scalar routines, with the product x*c carried in two parts.
@@ -175,7 +250,7 @@ inline double ExpOfProduct(double x, double c, double cl) {
     return ExpScalarCore(h, l + x * cl);
 }
 
-template <class Tp, Base B>
+template <class Tp, Base B, Level L>
 struct ExpBaseBody {
     using T = Tp;
     using V = Vec<T>;
@@ -187,7 +262,7 @@ struct ExpBaseBody {
     static V Eval(V x, V& special) {
         special = RangeTest(x, K::kWindow);
         x = IfThenZeroElse(special, x); // special lanes run on 0: no flags of their own
-        return CoreOf<B>(x);
+        return ValueOf<B, L>(x);
     }
     static int Scalar(const T* a, T* y) {
         return ExpScalarFinish<T>(*a, y, K::kOver, K::kUnder, [](T v) {
@@ -202,14 +277,18 @@ struct ExpBaseBody {
 } // namespace
 } // namespace brenn::vm
 
-#define BRENN_EXP_BASE_KERNELS(t)                                                                  \
-    BRENN_FLAT ZAR_KERNEL_OF(t, Exp2, All, Unary,                                                  \
-                             brenn::vm::ExpBaseBody<BRENN_ELEM_##t, brenn::vm::Base::Two>)         \
-        BRENN_FLAT                                                                                 \
-        ZAR_KERNEL_OF(t, Exp10, All, Unary,                                                        \
-                      brenn::vm::ExpBaseBody<BRENN_ELEM_##t, brenn::vm::Base::Ten>)
+using brenn::vm::Level;
+
+template <class T, Level L>
+using Exp2Body = brenn::vm::ExpBaseBody<T, brenn::vm::Base::Two, L>;
+template <class T, Level L>
+using Exp10Body = brenn::vm::ExpBaseBody<T, brenn::vm::Base::Ten, L>;
 
 extern "C" {
-BRENN_EXP_BASE_KERNELS(s)
-BRENN_EXP_BASE_KERNELS(d)
+BRENN_FLAT_LEVEL_KERNELS(s, Exp2, Unary, Exp2Body)
+BRENN_FLAT_LEVEL_KERNELS(s, Exp10, Unary, Exp10Body)
+BRENN_FLAT ZAR_KERNEL_OF(d, Exp2, LaHa, Unary, Exp2Body<double, Level::HA>)
+BRENN_FLAT ZAR_KERNEL_OF(d, Exp2, EP, Unary, Exp2Body<double, Level::EP>)
+BRENN_FLAT ZAR_KERNEL_OF(d, Exp10, LaHa, Unary, Exp10Body<double, Level::HA>)
+BRENN_FLAT ZAR_KERNEL_OF(d, Exp10, EP, Unary, Exp10Body<double, Level::EP>)
 }

@@ -88,8 +88,17 @@ inline __m128d ExpInvScale64(__m128d t) {
 // the product when y*2^m is normal (the range windows of the kernels that use it).
 template <int Log2N>
 inline __m128d ScaleByLowWord(__m128d y, __m128d t) {
-    I32x4 m = ShiftRightSigned<Log2N>(BitCast<I32x4>(t));
+    I32x4 m = BitCast<I32x4>(t);
+    if constexpr (Log2N > 0) m = ShiftRightSigned<Log2N>(m);
     return AsFloat(Add(AsInt(y), ShiftLeft<Format<double>::kMantBits>(BitCast<I64x2>(m))));
+}
+// The same in single, for t - shifter in the word: the shifter's bits above the index
+// leave the word in the shift to the exponent field.
+template <int Log2N>
+inline __m128 ScaleByLowWord(__m128 y, __m128 t) {
+    I32x4 m = AsInt(t);
+    if constexpr (Log2N > 0) m = ShiftRight<Log2N>(m);
+    return AsFloat(Add(AsInt(y), ShiftLeft<Format<float>::kMantBits>(m)));
 }
 
 // e^x from the shifted t and the reduced r: 2^m*(Thi + (Thi*p + Tlo)), |m| <= 1022.

@@ -1,9 +1,10 @@
-/* Expm1, single (one kernel for all levels) and double (three levels).
+/* Expm1, single and double, three levels each.
  *
  * The vector kernels use no table: x = n*ln2 + r, |r| <= ln2/2, and
- * e^x - 1 = (2^n - 1) + 2^n*p(r), one rounding (Expm1NoTable): the single lanes widened
- * to double with degree 7 and rounded once, double LA degree 11, EP degree 7; double HA
- * degree 12 with 2^n - 1 and 2^n*rh summed exactly (Expm1NoTableExact).
+ * e^x - 1 = (2^n - 1) + 2^n*p(r), one rounding (Expm1NoTable): single HA widened to
+ * double with degree 7 and rounded once, single LA and EP in single with degree 6 and 4,
+ * double LA degree 11, EP degree 7; double HA degree 12 with 2^n - 1 and 2^n*rh summed
+ * exactly (Expm1NoTableExact).
  * The scalar routines run the table core of exp_core.h: e^x - 1 = 2^m*T*(1 + p) - 1 with
  * the subtraction of 1 placed by m so that nothing cancels: for -1 <= m <= 52,
  * 2^m*((Thi - 2^-m) + s), the inner difference exact; for m > 52, 2^m*(Thi + (s - 2^-m));
@@ -16,7 +17,7 @@
  * otherwise. Error mode 0x2000 blends the overflow lanes to +inf. Rounds of sixteen
  * elements (wide.h).
  *
- * Measured (brenn_accuracy, full run): sExpm1 0.503 ulp (one kernel for every level);
+ * Measured (brenn_accuracy, full run): sExpm1 HA 0.503 ulp, LA 1.36 ulp, EP 15.1 bits;
  * dExpm1 LA 1.26 ulp, HA 0.77 ulp, EP 31.7 bits. The polynomials: without a table
  * tools/explog/expm1_notable.sollya, the core's tools/explog/expm1_double.sollya. */
 #include "frame/kernels.h"
@@ -80,7 +81,10 @@ inline __m128d Expm1Core(__m128d x) {
 // 1 + 2p >= 0.42; n = -1: -1/2 + p/2 <= -0.29), so one formula serves every n, with no
 // branches to blend; n = 0 gives p itself, fitted for relative error. |x| <= 708 keeps
 // 2^n normal.
-struct Expm1Wide {
+template <class T>
+struct Expm1Wide;
+template <>
+struct Expm1Wide<double> {
     static constexpr double kInvLn2 = 0x1.71547652b82fep0;
     // ln2 rounded, and in two parts whose head (17 trailing zero bits) times n is exact.
     // The single lanes take the one part: n*ln2 rounds by 2^-46 at most (|n| <= 125),
@@ -109,24 +113,32 @@ struct Expm1Wide {
                                       0x1.af5f0e85fe0cp-26,
                                       0x1.1f1a154d0d172p-29};
 };
+// Single LA and EP in single: ln2 in two parts, the head of 16 bits (n*head exact for
+// |n| <= 125), and degree 6 (2^-26) and degree 4 (2^-15.5).
+template <>
+struct Expm1Wide<float> {
+    static constexpr float kInvLn2 = 0x1.715476p0f;
+    static constexpr float kLn2Hi = 0x1.62e4p-1f, kLn2Lo = 0x1.7f7d1cp-20f;
+    static constexpr float kC6[] = {0x1.fffffep-2f, 0x1.5554bp-3f, 0x1.555716p-5f, 0x1.12278ep-7f,
+                                    0x1.6b7338p-10f};
+    static constexpr float kC4[] = {0x1.00022ap-1f, 0x1.57084ap-3f, 0x1.54dedep-5f};
+};
 
-template <bool TwoPartLn2, size_t N>
-inline __m128d Expm1NoTable(__m128d x, const double (&c)[N]) {
-    using W = Expm1Wide;
-    using F = Format<double>;
-    const __m128d shifter = Set<double>(F::kShifter);
-    __m128d t = Add(Mul(x, Set<double>(W::kInvLn2)), shifter);
-    __m128d n = Sub(t, shifter);
-    __m128d r;
+template <bool TwoPartLn2, class V, class T, size_t N>
+inline V Expm1NoTable(V x, const T (&c)[N]) {
+    using W = Expm1Wide<T>;
+    const V shifter = Set<T>(Format<T>::kShifter);
+    V t = Add(Mul(x, Set<T>(W::kInvLn2)), shifter);
+    V n = Sub(t, shifter);
+    V r;
     if constexpr (TwoPartLn2)
-        r = Sub(Sub(x, Mul(n, Set<double>(W::kLn2Hi))), Mul(n, Set<double>(W::kLn2Lo)));
+        r = Sub(Sub(x, Mul(n, Set<T>(W::kLn2Hi))), Mul(n, Set<T>(W::kLn2Lo)));
     else
-        r = Sub(x, Mul(n, Set<double>(W::kLn2)));
-    __m128d p = Add(r, Mul(Mul(r, r), Estrin(r, c)));
-    // n in the low word of each lane of t, moved with the bias into the exponent field
-    I32x4 e = Add(BitCast<I32x4>(t), Set<int32_t>(F::kBias));
-    __m128d scale = AsFloat(ShiftLeft<F::kMantBits>(BitCast<I64x2>(e)));
-    return Add(Mul(scale, p), Sub(scale, Set<double>(1.0)));
+        r = Sub(x, Mul(n, Set<T>(W::kLn2)));
+    V p = Add(r, Mul(Mul(r, r), Estrin(r, c)));
+    // 2^n: n in the low word of each lane of t moved into the exponent field of 1
+    V scale = ScaleByLowWord<0>(Set<T>(1), t);
+    return Add(Mul(scale, p), Sub(scale, Set<T>(1)));
 }
 
 // HA: the same form with the parts that round carried exactly. rh = x - n*ln2hi is exact
@@ -135,7 +147,7 @@ inline __m128d Expm1NoTable(__m128d x, const double (&c)[N]) {
 // and the last additions round: within 0.6 ulp where the plain form's sum
 // 1 + 2p (n = 1, p near -0.29) would lose a bit.
 inline __m128d Expm1NoTableExact(__m128d x) {
-    using W = Expm1Wide;
+    using W = Expm1Wide<double>;
     using F = Format<double>;
     const __m128d shifter = Set<double>(F::kShifter);
     const __m128d one = Set<double>(1.0);
@@ -187,24 +199,33 @@ inline double Expm1Value(double x) {
     return GetLane(Expm1Core<D, Exact>(Set<double>(x)));
 }
 
-// Vector values by level: the single kernel widens its lanes to double, runs the
-// degree-7 form and rounds once; double LA and EP the degree-11 and degree-7 forms, HA
-// the exact form. e^x - 1 has the sign of x, which these forms give to every result but
-// that of -0: x's sign bit is put back.
+// Vector values by level: single HA widens its lanes to double, runs the degree-7 form
+// and rounds once, single LA and EP run the degree-6 and degree-4 forms in single;
+// double LA and EP the degree-11 and degree-7 forms, HA the exact form. e^x - 1 has the
+// sign of x, which these forms give to every result but that of -0: x's sign bit is
+// put back.
 template <Level L>
 inline __m128 Expm1Of(__m128 x) {
-    __m128d lo = Expm1NoTable<false>(WidenLower(x), Expm1Wide::kC7);
-    __m128d hi = Expm1NoTable<false>(WidenUpper(x), Expm1Wide::kC7);
-    return Or(Narrow(lo, hi), SignBit(x));
+    __m128 y;
+    if constexpr (L == Level::LA) {
+        y = Expm1NoTable<true>(x, Expm1Wide<float>::kC6);
+    } else if constexpr (L == Level::EP) {
+        y = Expm1NoTable<true>(x, Expm1Wide<float>::kC4);
+    } else {
+        __m128d lo = Expm1NoTable<false>(WidenLower(x), Expm1Wide<double>::kC7);
+        __m128d hi = Expm1NoTable<false>(WidenUpper(x), Expm1Wide<double>::kC7);
+        y = Narrow(lo, hi);
+    }
+    return Or(y, SignBit(x));
 }
 template <Level L>
 inline __m128d Expm1Of(__m128d x) {
     if constexpr (L == Level::HA)
         return Or(Expm1NoTableExact(x), SignBit(x));
     else if constexpr (L == Level::LA)
-        return Or(Expm1NoTable<true>(x, Expm1Wide::kC11), SignBit(x));
+        return Or(Expm1NoTable<true>(x, Expm1Wide<double>::kC11), SignBit(x));
     else
-        return Or(Expm1NoTable<true>(x, Expm1Wide::kC7), SignBit(x));
+        return Or(Expm1NoTable<true>(x, Expm1Wide<double>::kC7), SignBit(x));
 }
 
 template <class Tp, Level L>
@@ -248,12 +269,9 @@ struct Expm1Body {
 } // namespace
 } // namespace brenn::vm
 
+using brenn::vm::Expm1Body;
+
 extern "C" {
-BRENN_FLAT ZAR_KERNEL_OF(s, Expm1, All, Unary,
-                         brenn::vm::Expm1Body<float, brenn::vm::Level::LA>) BRENN_FLAT
-    ZAR_KERNEL_OF(d, Expm1, LA, Unary,
-                  brenn::vm::Expm1Body<double, brenn::vm::Level::LA>) BRENN_FLAT
-    ZAR_KERNEL_OF(d, Expm1, HA, Unary,
-                  brenn::vm::Expm1Body<double, brenn::vm::Level::HA>) BRENN_FLAT
-    ZAR_KERNEL_OF(d, Expm1, EP, Unary, brenn::vm::Expm1Body<double, brenn::vm::Level::EP>)
+BRENN_FLAT_LEVEL_KERNELS(s, Expm1, Unary, Expm1Body)
+BRENN_FLAT_LEVEL_KERNELS(d, Expm1, Unary, Expm1Body)
 }
