@@ -2,6 +2,7 @@
  * into hyper_tables.cpp. Row 0 holds [0, 2^-5), row k (1 to 132) the k-th sixteenth of a
  * binade from 2^-5 on, up to 10; row 133 is the constant 1.
  *   tanhRowsLA[k] = {c0, c1, c2, c3}, tanh(a) ~ ((c3*a + c2)*a + c1)*a + c0;
+ *   tanhRowsHA[k] = {c0, ..., c4, 0, 0, 0}, the quartic likewise, in rows of 64 bytes;
  *   tanhRowsEP[k] = {c0, c1},         tanh(a) ~ c1*a + c0. */
 #ifndef BRENN_VECMATH_HYPER_HYPER_TABLES_H
 #define BRENN_VECMATH_HYPER_HYPER_TABLES_H
@@ -9,6 +10,7 @@
 namespace brenn::vm {
 
 extern const double tanhRowsLA[134][4];
+extern const double tanhRowsHA[134][8];
 extern const double tanhRowsEP[134][2];
 
 } // namespace brenn::vm
