@@ -12,8 +12,8 @@
  * longer set (tools/trig/tan_quotient.sollya); double LA also keeps the remainder's low
  * part and the roundings of s and c, and corrects the quotient by them (AccurateQuotient).
  * The single short path holds to 8256, the
- * double one to 2^24. Every kernel but double HA runs rounds of sixteen elements with one
- * range test, its registers' chains interleaved.
+ * double one to 2^24. Every kernel runs rounds of sixteen elements with one range test,
+ * its registers' chains interleaved (double HA's table steps too, TanSums).
  *
  * Double HA: the reduction of the table method by pi/64 (x = n pi/2 + j pi/64 + r,
  * |j| <= 16), tan(j pi/64) from a table of 32 rows (tan_table.cpp) and tan r by its
@@ -241,33 +241,57 @@ inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
 constexpr double kTanTaylor[] = {1.0 / 3, 2.0 / 15, 17.0 / 315, 62.0 / 2835};
 constexpr uint64_t kHead26 = 0xFFFFFFFFF8000000ull; // keeps 26 significant bits
 
-BRENN_TRIG_HOT __m128d TanSum(const int32_t* J, __m128d rh, __m128d rl) {
-    const int i0 = J[0] + 16, i1 = J[1] + 16;
-    __m128d odd = MaskFromBits<double>(((i0 >> 5) & 1) | ((i1 >> 4) & 2));
-    __m128d a0 = Load(tanPi64[i0 & 31]), a1 = Load(tanPi64[i1 & 31]);
-    __m128d ah = InterleaveLower(a0, a1), al = InterleaveUpper(a0, a1);
-    __m128d u = Mul(rh, rh);
-    __m128d tt = Add(rl, Mul(Mul(rh, u), Horner(u, kTanTaylor)));
-    __m128d dh, dl, nh, nl;
-    __m128d pl = Add(Mul(ah, tt), Mul(al, Add(rh, tt)));
-    __m128d ph, pe0;
-    FastTwoSum(Mul(ah, rh), pl, ph, pe0);
-    FastTwoSum(Set<double>(1), Neg(ph), dh, dl);
-    dl = Sub(dl, pe0);
-    TwoSum(ah, rh, nh, nl);
-    FastTwoSum(nh, Add(nl, Add(al, tt)), nh, nl);
-    __m128d th = IfThenElse(odd, dh, nh), tl = IfThenElse(odd, dl, nl);
-    __m128d bh = IfThenElse(odd, nh, dh), bl = IfThenElse(odd, nl, dl);
-    __m128d rb = Div(Set<double>(1), bh);
-    __m128d q = Mul(th, rb);
+// M registers at once (J two entries a register), each step over all of them before the
+// next, so that their chains (and divisions) overlap.
+template <int M>
+BRENN_TRIG_HOT void TanSums(const int32_t* J, const __m128d* rh, const __m128d* rl, __m128d* y) {
+    __m128d odd[M], ah[M], al[M], tt[M], dh[M], dl[M], nh[M], nl[M], th[M], tl[M], bh[M],
+        bl[M], rb[M], q[M];
+    BRENN_EACH(k, M) {
+        const int i0 = J[2 * k] + 16, i1 = J[2 * k + 1] + 16;
+        odd[k] = MaskFromBits<double>(((i0 >> 5) & 1) | ((i1 >> 4) & 2));
+        __m128d a0 = Load(tanPi64[i0 & 31]), a1 = Load(tanPi64[i1 & 31]);
+        ah[k] = InterleaveLower(a0, a1);
+        al[k] = InterleaveUpper(a0, a1);
+    }
+    BRENN_EACH(k, M) {
+        __m128d u = Mul(rh[k], rh[k]);
+        tt[k] = Add(rl[k], Mul(Mul(rh[k], u), Horner(u, kTanTaylor)));
+    }
+    BRENN_EACH(k, M) {
+        __m128d pl = Add(Mul(ah[k], tt[k]), Mul(al[k], Add(rh[k], tt[k])));
+        __m128d ph, pe0;
+        FastTwoSum(Mul(ah[k], rh[k]), pl, ph, pe0);
+        FastTwoSum(Set<double>(1), Neg(ph), dh[k], dl[k]);
+        dl[k] = Sub(dl[k], pe0);
+        TwoSum(ah[k], rh[k], nh[k], nl[k]);
+        FastTwoSum(nh[k], Add(nl[k], Add(al[k], tt[k])), nh[k], nl[k]);
+    }
+    BRENN_EACH(k, M) {
+        th[k] = IfThenElse(odd[k], dh[k], nh[k]);
+        tl[k] = IfThenElse(odd[k], dl[k], nl[k]);
+        bh[k] = IfThenElse(odd[k], nh[k], dh[k]);
+        bl[k] = IfThenElse(odd[k], nl[k], dl[k]);
+    }
+    BRENN_EACH(k, M) rb[k] = Div(Set<double>(1), bh[k]);
+    BRENN_EACH(k, M) q[k] = Mul(th[k], rb[k]);
     // q bh = p + pe exactly, from the 26-bit heads of both factors.
     const __m128d head = SplatBits<double>(kHead26);
-    __m128d qh = And(q, head), bhh = And(bh, head);
-    __m128d ql = Sub(q, qh), bhl = Sub(bh, bhh);
-    __m128d p = Mul(q, bh);
-    __m128d pe = Add(Add(Sub(Mul(qh, bhh), p), Add(Mul(qh, bhl), Mul(ql, bhh))), Mul(ql, bhl));
-    __m128d e = Add(Sub(Sub(th, p), pe), Sub(tl, Mul(q, bl)));
-    return Xor(Add(q, Mul(e, rb)), And(odd, SignMask<double>()));
+    BRENN_EACH(k, M) {
+        __m128d qh = And(q[k], head), bhh = And(bh[k], head);
+        __m128d ql = Sub(q[k], qh), bhl = Sub(bh[k], bhh);
+        __m128d p = Mul(q[k], bh[k]);
+        __m128d pe =
+            Add(Add(Sub(Mul(qh, bhh), p), Add(Mul(qh, bhl), Mul(ql, bhh))), Mul(ql, bhl));
+        __m128d e = Add(Sub(Sub(th[k], p), pe), Sub(tl[k], Mul(q[k], bl[k])));
+        y[k] = Xor(Add(q[k], Mul(e, rb[k])), And(odd[k], SignMask<double>()));
+    }
+}
+
+BRENN_TRIG_HOT __m128d TanSum(const int32_t* J, __m128d rh, __m128d rl) {
+    __m128d y;
+    TanSums<1>(J, &rh, &rl, &y);
+    return y;
 }
 
 // tan of N single registers of magnitudes by the short path, without the sign of x.
@@ -363,16 +387,19 @@ struct TanBody<double, L> {
         }
         return Xor(TanSum(J, rh, rl), SignBit(x));
     }
-    // LA and EP take rounds of sixteen: with no lane above the limit, the quadrant path
-    // on four registers at a time, whose long chains then interleave; otherwise, and at
-    // HA, register by register.
+    // Rounds of sixteen: with no lane above the limit, the short path on four registers
+    // at a time, whose long chains then interleave; otherwise register by register.
     static constexpr int kRound = 16;
     static int EvalWide(const __m128d* x, __m128d* y) {
-        if constexpr (L == Level::HA) return EvalEach<TanBody, 8>(x, y);
         __m128d a[8];
         if (__builtin_expect(AnyAboveD<8>(x, a, kLimitBitsD), 0)) return EvalEach<TanBody, 8>(x, y);
         BRENN_EACH(h, 2) {
-            if constexpr (L == Level::EP)
+            if constexpr (L == Level::HA) {
+                alignas(16) int32_t J[8];
+                __m128d rh[4], rl[4];
+                BRENN_EACH(k, 4) ShortD(a[4 * h + k], J + 2 * k, rh[k], rl[k], 0);
+                TanSums<4>(J, rh, rl, y + 4 * h);
+            } else if constexpr (L == Level::EP)
                 QuadrantTan<4, TanFitEP>(a + 4 * h, TanShort<double>::kPiHalf, y + 4 * h);
             else
                 QuadrantTan<4, TanFitLA>(a + 4 * h, TanShort<double>::kPiHalfLA, y + 4 * h);
