@@ -149,12 +149,16 @@ BRENN_VEC __m128d HighWordsOf(__m128d a, __m128d b) {
     return _mm_castps_pd(
         _mm_shuffle_ps(_mm_castpd_ps(a), _mm_castpd_ps(b), _MM_SHUFFLE(3, 1, 3, 1)));
 }
-// Bit k set where one of the four parts of element k lies outside the window, the high
-// words tested four at a time.
+// Bit k set where one of the four parts of element k lies outside the window: the
+// larger and the smaller magnitude of a and c, b and d, by their high words four at a
+// time, against the window's two ends.
 template <int32_t Top>
 BRENN_VEC int OutsideWindowBits(__m128d a, __m128d b, __m128d c, __m128d d) {
-    int m = MaskBits(Or(HighWordOutside<kWindowBottom, Top>(HighWordsOf(a, b)),
-                        HighWordOutside<kWindowBottom, Top>(HighWordsOf(c, d))));
+    const I32x4 mag = Set<int32_t>(0x7FFFFFFF);
+    I32x4 ab = And(BitCast<I32x4>(HighWordsOf(a, b)), mag);
+    I32x4 cd = And(BitCast<I32x4>(HighWordsOf(c, d)), mag);
+    int m = MaskBits(Or(Gt(Max(ab, cd), Set<int32_t>(Top)),
+                        Gt(Set<int32_t>(kWindowBottom), Min(ab, cd))));
     return (m | (m >> 2)) & 3;
 }
 
