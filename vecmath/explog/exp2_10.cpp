@@ -149,20 +149,30 @@ struct SingleCore<Base::Ten> {
     static constexpr float kC[] = {0x1.26bb1cp1f, 0x1.535258p1f, 0x1.ff97a6p0f};
 };
 
+// The shifted t (x + shifter for Exp2, whose last place is then the step; x*C::kInvStep +
+// shifter for Exp10) and the rest of x in base B: exact for Exp2, for Exp10 the step
+// subtracted n times in the parts of C::kStep.
+template <Base B, class C, class V>
+inline V RestOf(V x, V shifter, V& t) {
+    using T = ElemOf<V>;
+    if constexpr (B == Base::Two) {
+        t = Add(x, shifter);
+        return Sub(x, Sub(t, shifter));
+    } else {
+        t = Add(Mul(x, Set<T>(C::kInvStep)), shifter);
+        V n = Sub(t, shifter);
+        V r = Sub(x, Mul(n, Set<T>(C::kStep[0])));
+        for (size_t i = 1; i < std::size(C::kStep); ++i)
+            r = Sub(r, Mul(n, Set<T>(C::kStep[i])));
+        return r;
+    }
+}
+
 template <Base B>
 inline __m128 CoreOf(__m128 x) {
     using C = SingleCore<B>;
-    const __m128 shifter = Set<float>(C::kShifter);
-    __m128 t, r;
-    if constexpr (B == Base::Two) {
-        t = Add(x, shifter);
-        r = Sub(x, Sub(t, shifter));
-    } else {
-        t = Add(Mul(x, Set<float>(C::kInvStep)), shifter);
-        __m128 n = Sub(t, shifter);
-        r = Sub(x, Mul(n, Set<float>(C::kStep[0])));
-        r = Sub(Sub(r, Mul(n, Set<float>(C::kStep[1]))), Mul(n, Set<float>(C::kStep[2])));
-    }
+    __m128 t;
+    __m128 r = RestOf<B, C>(x, Set<float>(C::kShifter), t);
     __m128 tv, tl;
     GatherPairs(single::expTable128, AsInt(t), 0x7F, tv, tl);
     __m128 p = Mul(r, Horner(r, C::kC));
@@ -214,19 +224,8 @@ struct NoTable<double, Base::Ten> {
 
 template <Base B, class V, class T, size_t N>
 inline V NoTableOf(V x, const T (&c)[N]) {
-    using C = NoTable<T, B>;
-    const V shifter = Set<T>(Format<T>::kShifter);
-    V t, r;
-    if constexpr (B == Base::Two) {
-        t = Add(x, shifter);
-        r = Sub(x, Sub(t, shifter));
-    } else {
-        t = Add(Mul(x, Set<T>(C::kInvStep)), shifter);
-        V n = Sub(t, shifter);
-        r = Sub(x, Mul(n, Set<T>(C::kStep[0])));
-        for (size_t i = 1; i < std::size(C::kStep); ++i)
-            r = Sub(r, Mul(n, Set<T>(C::kStep[i])));
-    }
+    V t;
+    V r = RestOf<B, NoTable<T, B>>(x, Set<T>(Format<T>::kShifter), t);
     V y = Add(Set<T>(1), Mul(r, Estrin(r, c)));
     return ScaleByLowWord<0>(y, t);
 }
