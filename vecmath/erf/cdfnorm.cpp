@@ -6,10 +6,12 @@
  * 8.5, from where it is 1 to the last bit. Lanes from |x| = 37.5 (double) or 13
  * (single), where the result may leave the normal range, and NaNs and infinities, go to
  * the scalar routine, which reports status 4 for a result below the least normal (+0
- * from -38.5 down). Double HA adds up in two parts, LA with the row's remainder, EP
- * plainly; single runs in double on the widened lanes. */
+ * from -38.5 down). Double LA and HA run tail_double.h's body (fitted series; HA adds
+ * up in two parts, LA with the row's remainder), EP adds up plainly; single runs in
+ * double on the widened lanes. */
 #include "frame/kernels.h"
 #include "vecmath/erf/tail_body.h"
+#include "vecmath/erf/tail_double.h"
 #include "vecmath/frame/kernel_frame.h"
 
 namespace brenn::vm {
@@ -37,23 +39,17 @@ struct CdfNormFn {
         else
             return LaneRange<T>{0x7FFFFFFFFFFFFFFFull, 0u, 0x4042C00000000000ull - 1}; // 37.5
     }
-    // Terms left out below 2^-57 (HA), 2^-55 (LA), 2^-29 (EP) of the result in double,
-    // 2^-30, 2^-27, 2^-15 in single.
+    // Terms left out below 2^-29 of the result in double EP, 2^-30, 2^-27, 2^-15 in single.
     template <class T, Level L>
     static constexpr SeriesCut Cut() {
-        if constexpr (sizeof(T) == 8) {
-            if constexpr (L == Level::HA) return {12, 10, 7, 3};
-            if constexpr (L == Level::LA) return {12, 10, 6, 2};
-            return {6, 4, 0, 0};
-        }
+        if constexpr (sizeof(T) == 8) return {6, 4, 0, 0};
         if constexpr (L == Level::HA) return {5, 3, 0, 0};
         if constexpr (L == Level::LA) return {4, 2, 0, 0};
         return {2, 0, 0, 0};
     }
     template <class T, Level L>
     static constexpr GridSum Sum() {
-        if constexpr (sizeof(T) == 4 || L == Level::EP) return GridSum::Plain;
-        return L == Level::HA ? GridSum::TwoPart : GridSum::WithLow;
+        return GridSum::Plain;
     }
 };
 
@@ -64,5 +60,10 @@ using CdfNormBody = TailBody<CdfNormFn, Tp, L>;
 } // namespace brenn::vm
 
 extern "C" {
-ZAR_ROW_KERNELS(CdfNorm, Unary, brenn::vm::CdfNormBody)
+ZAR_LEVEL_KERNELS(s, CdfNorm, Unary, brenn::vm::CdfNormBody)
+ZAR_KERNEL_OF(d, CdfNorm, EP, Unary, brenn::vm::CdfNormBody<double, brenn::vm::Level::EP>)
+ZAR_KERNEL_OF(d, CdfNorm, LA, Unary,
+              brenn::vm::TailDoubleBody<brenn::vm::CdfNormFn, brenn::vm::QSeriesD, false>)
+ZAR_KERNEL_OF(d, CdfNorm, HA, Unary,
+              brenn::vm::TailDoubleBody<brenn::vm::CdfNormFn, brenn::vm::QSeriesD, true>)
 }

@@ -5,9 +5,11 @@
  * is 2 to the last bit. Lanes from |x| = 26.5 (double) or 9.1875 (single), where the
  * result may leave the normal range, and NaNs and infinities, go to the scalar routine,
  * which reports status 4 for a result below the least normal (+0 from 27.2421875 on).
- * Double adds up in two parts (0.5x ulp); single in double on the widened lanes. */
+ * Double runs tail_double.h's body (fitted series, two parts, 0.5x ulp); single in
+ * double on the widened lanes. */
 #include "frame/kernels.h"
 #include "vecmath/erf/tail_body.h"
+#include "vecmath/erf/tail_double.h"
 #include "vecmath/frame/kernel_frame.h"
 
 namespace brenn::vm {
@@ -35,16 +37,15 @@ struct ErfcFn {
         else
             return LaneRange<T>{0x7FFFFFFFFFFFFFFFull, 0u, 0x403A800000000000ull - 1}; // 26.5
     }
-    // Terms left out below 2^-57 of the result (double), 2^-30, 2^-27, 2^-15 (single).
+    // Terms left out below 2^-30, 2^-27, 2^-15 of the result (single).
     template <class T, Level L>
     static constexpr SeriesCut Cut() {
-        if constexpr (sizeof(T) == 8) return {11, 9, 6, 1};
         if constexpr (L == Level::EP) return {2, 0, 0, 0};
         return {4, 2, 0, 0};
     }
     template <class T, Level L>
     static constexpr GridSum Sum() {
-        return sizeof(T) == 8 ? GridSum::TwoPart : GridSum::Plain;
+        return GridSum::Plain;
     }
 };
 
@@ -56,5 +57,6 @@ using ErfcBody = TailBody<ErfcFn, Tp, L>;
 
 extern "C" {
 ZAR_LEVEL_KERNELS(s, Erfc, Unary, brenn::vm::ErfcBody)
-ZAR_KERNEL_OF(d, Erfc, All, Unary, brenn::vm::ErfcBody<double, brenn::vm::Level::HA>)
+ZAR_KERNEL_OF(d, Erfc, All, Unary,
+              brenn::vm::TailDoubleBody<brenn::vm::ErfcFn, brenn::vm::ErfcSeriesD, true>)
 }

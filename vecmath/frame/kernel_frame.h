@@ -9,7 +9,8 @@
  *               binary:     V Eval(V a, V b, V& special)
  *               two result: void Eval(V x, V& y, V& z, V& special)
  *   Scalar(...) (optional) the routine for one special lane; returns the status
- *               (status.h names them)
+ *               (status.h names them); y holds the lane's result from Eval on entry
+ *               (every layout but HandTuned)
  *               unary: int Scalar(const T* a, T* y); binary: (a, b, y); two result: (a, y, z)
  *   kName       the public error name, when Scalar can return a non-zero status
  *   kX87, kCsr  (optional) entry rules; Masked and Common when absent
