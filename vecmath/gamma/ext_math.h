@@ -91,6 +91,16 @@ inline double Pow2(int k) {
            (Join(kLogOfRecip2.v[j]) + (de * static_cast<double>(kLn2Lo) + (u + Log1pTail(u))));
 }
 
+// ln m for a double m in [1, 2): Log without the reduction and the exponent's terms
+// (the same value as Log(m)).
+[[gnu::always_inline]] inline long double LogSignificand(double m) {
+    uint64_t b;
+    memcpy(&b, &m, sizeof b);
+    int j = static_cast<int>((b >> 45) & 127);
+    long double u = static_cast<long double>(m) * kLogRecip[j] - 1;
+    return Join(kLogOfRecip2.v[j]) + (u + Log1pTail(u));
+}
+
 [[gnu::always_inline]] inline long double Log1p(long double g) {
     if (g < 0x1p-7 && g > -0x1p-7) return g + Log1pTail(g);
     return Log(1 + g);

@@ -43,7 +43,10 @@ template <class T>
 }
 template <class T>
 [[gnu::noinline]] T GammaAbove(T x) {
-    return static_cast<T>(gamma::GammaStirling(gamma::Wide<T>(x)));
+    if constexpr (sizeof(T) == 8)
+        return static_cast<T>(gamma::GammaStirlingOfDouble(x));
+    else
+        return static_cast<T>(gamma::GammaStirling(gamma::Wide<T>(x)));
 }
 // pi / (sin(pi x) Gamma(1 - x)) for x < 0 not an integer, Gamma(1 - x) by the recurrence
 // (Near, 1 - x below the Stirling point) or Stirling's form (Far).
