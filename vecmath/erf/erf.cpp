@@ -10,7 +10,7 @@
  * runs each level in double on the widened lanes, the grid held at 3.9296875, from
  * where erf is 1 in single. */
 #include "frame/kernels.h"
-#include "vecmath/erf/grid_core.h"
+#include "vecmath/erf/grid_single.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 
@@ -38,7 +38,7 @@ struct ErfGridSingle : ErfGridLA {
 // result in double, 2^-30 and 2^-27 in single, at the worst grid point and offset
 // (one cut serves both levels where the two bounds give the same).
 constexpr SeriesCut kCutHA{5, 4, 2, 1}, kCutLA{5, 4, 2, 1};
-constexpr SeriesCut kCutSingleHA{2, 1, 0, 0}, kCutSingleLA{2, 1, 0, 0};
+constexpr SeriesCut kCutSingleHA{2, 1, 0, 0}, kCutSingleLA{2, 1, 0, 0}, kCutSingleEP{0, 0, 0, 0};
 
 // The EP expansion, with the grid held at `limit`.
 template <double Limit>
@@ -81,7 +81,12 @@ struct ErfBody {
     using T = Tp;
     using V = Vec<T>;
     static V Eval(V x, V&) {
-        if constexpr (sizeof(T) == 4)
+        if constexpr (sizeof(T) == 4 && L != Level::HA)
+            return NaNQuiet(x, [](__m128 v) {
+                constexpr SeriesCut cut = L == Level::EP ? kCutSingleEP : kCutSingleLA;
+                return Or(GridEvalSingle<ErfGridSingle, cut>(v), SignBit(v));
+            });
+        else if constexpr (sizeof(T) == 4)
             return Narrow(NaNQuiet(WidenLower(x), ErfDouble<T, L>),
                           NaNQuiet(WidenUpper(x), ErfDouble<T, L>));
         else

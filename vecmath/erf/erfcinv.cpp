@@ -8,8 +8,9 @@
  *   CdfNormInv(p) = sqrt(2) (2p - 1) P(t),     t = 2p below 1/2, 2(1 - p) from 1/2
  *                                              (exact), as -sqrt(2) erfcinv(2p).
  * The factor w is exact from x = 1/2 and p = 1/4 on; below, HA keeps its rounding error
- * (and sqrt(2)'s) as a second part, and LA and EP round it once. Single runs in double
- * on the widened lanes, as ErfInv does.
+ * (and sqrt(2)'s) as a second part, and LA and EP round it once. Single LA and EP run
+ * on single lanes and the single rows, single HA in double on the widened lanes, as
+ * ErfInv does.
  * CdfNormInv's centre, |p - 1/2| <= 0.425, takes a rational in (p - 1/2)^2 instead in
  * the double LA and the single HA (cdfnorminv_central.h), on double lanes; a register
  * reads the rows only for lanes outside the centre.
@@ -25,6 +26,7 @@
 #include "vecmath/erf/cdfnorminv_central.h"
 #include "vecmath/erf/erfcinv_tail.h"
 #include "vecmath/erf/erfinv_rows.h"
+#include "vecmath/erf/erfinv_rows_single.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/status.h"
 #include "vecmath/gamma/ext_math.h"
@@ -79,6 +81,21 @@ inline __m128d InverseDouble(__m128d x) {
     }
 }
 
+// The same on single lanes, LA and EP, on the single rows (erfinv_rows_single.h): t is
+// exact, and so is w from x = 1/2 and p = 1/4 on (rounded once below).
+template <Inverse F, Level L>
+inline __m128 InverseSingle(__m128 x) {
+    const __m128 one = Set<float>(1.0f);
+    if constexpr (F == Inverse::Erfc) {
+        __m128 t = IfThenElse(Ge(x, one), Sub(Set<float>(2.0f), x), x);
+        return ErfInvRowsSingleTimes<L>(t, Sub(one, x));
+    } else {
+        __m128 m = IfThenElse(Ge(x, Set<float>(0.5f)), Sub(one, x), x);
+        __m128 w = Mul(Sub(Add(x, x), one), Set<float>(float(kSqrt2Hi)));
+        return ErfInvRowsSingleTimes<L>(Add(m, m), w);
+    }
+}
+
 // The slots that take the centre's rational (cdfnorminv_central.h), and its form there.
 template <class T, Level L>
 constexpr bool kCentralAt = (sizeof(T) == 8 && L == Level::LA) ||
@@ -127,6 +144,8 @@ struct InverseBody {
                 return OnDoubleLanes(xs, half);
             else
                 return half(xs);
+        } else if constexpr (sizeof(T) == 4 && L != Level::HA) {
+            return InverseSingle<F, L>(xs);
         } else if constexpr (sizeof(T) == 4) {
             return OnDoubleLanes(xs, rows);
         } else {

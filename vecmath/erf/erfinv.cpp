@@ -3,13 +3,15 @@
  * erfinv(x) = x P(t) with t = 1 - |x| on the rows of erfinv_rows.h (t is exact from
  * |x| = 0.5 on; below, its rounding moves the result by a quarter of an ulp at most, P
  * being flat there): EP and LA round x*P, HA (degree 10) forms it with the exact product
- * (0.5x ulp). Single runs in double on the widened lanes, EP on the EP rows, LA and HA
- * on the LA rows. Lanes of |x| from 1, and NaNs, go to the scalar routine: +-1 give
+ * (0.5x ulp). Single LA and EP run on single lanes, on the single rows
+ * (erfinv_rows_single.h; t = 1 - |x| rounded below |x| = 1/2 moves P by a sixth of an
+ * ulp at most); single HA in double on the widened lanes, on the EP rows. Lanes of |x| from 1, and NaNs, go to the scalar routine: +-1 give
  * +-infinity with status 2, |x| above 1 NaN with status 1, a NaN comes back quieted. */
 #include <limits>
 
 #include "frame/kernels.h"
 #include "vecmath/erf/erfinv_rows.h"
+#include "vecmath/erf/erfinv_rows_single.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/status.h"
 
@@ -34,7 +36,9 @@ struct ErfInvBody {
             special = RangeTest(x, LaneRange<T>{0x7FFFFFFFFFFFFFFFull, 0u, 0x3FEFFFFFFFFFFFFFull});
         // Special lanes run at 0 here: no NaN or |x| >= 1 reaches the arithmetic.
         V xs = IfThenElse(special, Zero<T>(), x);
-        if constexpr (sizeof(T) == 4)
+        if constexpr (sizeof(T) == 4 && L != Level::HA)
+            return ErfInvRowsSingleTimes<L>(Sub(Set<float>(1.0f), Abs(xs)), xs);
+        else if constexpr (sizeof(T) == 4)
             return Narrow(ErfInvDouble<T, L>(WidenLower(xs)), ErfInvDouble<T, L>(WidenUpper(xs)));
         else
             return ErfInvDouble<T, L>(xs);

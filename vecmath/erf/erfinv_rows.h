@@ -54,8 +54,8 @@ inline __m128d ErfInvRowsTimes(const double (*rows)[W], __m128d t, __m128d wh, _
     }
 }
 
-// w*P(t) at the level L for elements of type T: EP and every single level on the EP rows
-// (degree 5, 2^-37, far below a single ulp: 0.500 ulp at LA and HA), the double LA on the
+// w*P(t) at the level L for elements of type T: EP and single HA on the EP rows
+// (degree 5, 2^-37, far below a single ulp: 0.500 ulp), the double LA on the
 // LA rows (degree 9), the double HA on the HA rows (degree 10 and the constant's
 // remainder).
 template <class T, Level L, bool WithLow>

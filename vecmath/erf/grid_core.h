@@ -55,20 +55,21 @@ requires(N > 0) struct SeriesPart<M, K0, N> {
     static constexpr const double (&c)[N] = kA.v;
 };
 
-template <int M, int N>
-BRENN_VEC __m128d SeriesRow(__m128d tau) {
+template <int M, int N, class V>
+BRENN_VEC V SeriesRow(V tau) {
     return Estrin(tau, SeriesPart<M, 0, N>::c);
 }
 
-// S - 1 at (tau, u); the long rows by Estrin (a shorter chain than Horner's: dErfc 27
-// ticks an element, was 37).
-template <SeriesCut C>
-BRENN_VEC __m128d SeriesLessOne(__m128d tau, __m128d u) {
-    __m128d s = Mul(tau, Estrin(tau, SeriesPart<0, 1, C.n0>::c));
+// S - 1 at (tau, u), on double lanes or (the coefficients rounded to single) single
+// ones; the long rows by Estrin (a shorter chain than Horner's: dErfc 27 ticks an
+// element, was 37).
+template <SeriesCut C, class V>
+BRENN_VEC V SeriesLessOne(V tau, V u) {
+    V s = Mul(tau, Estrin(tau, SeriesPart<0, 1, C.n0>::c));
     if constexpr (C.n1 > 0) {
-        __m128d q = SeriesRow<1, C.n1>(tau);
+        V q = SeriesRow<1, C.n1>(tau);
         if constexpr (C.n2 > 0) {
-            __m128d r = SeriesRow<2, C.n2>(tau);
+            V r = SeriesRow<2, C.n2>(tau);
             if constexpr (C.n3 > 0) r = MulAdd(u, SeriesRow<3, C.n3>(tau), r);
             q = MulAdd(u, r, q);
         }
@@ -146,10 +147,10 @@ inline __m128d GridEval(__m128d x) {
 
 // f on x with the NaN lanes set to 0 first, and those lanes' results x + 0, the NaN
 // quieted (an invalid flag for a signalling one only): no NaN reaches a compare or min.
-template <class F>
-BRENN_VEC __m128d NaNQuiet(__m128d x, F f) {
-    __m128d nan = Unordered(x, x);
-    return IfThenElse(nan, Add(x, Zero<double>()), f(IfThenZeroElse(nan, x)));
+template <class V, class F>
+BRENN_VEC V NaNQuiet(V x, F f) {
+    V nan = Unordered(x, x);
+    return IfThenElse(nan, Add(x, Zero<ElemOf<V>>()), f(IfThenZeroElse(nan, x)));
 }
 
 } // namespace brenn::vm

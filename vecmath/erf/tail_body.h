@@ -11,14 +11,15 @@
  *   kNameS, kNameD   the public error names.
  * The scalar routine: a NaN comes back quieted; beyond the tail limit the result is +0
  * with status 4 (exact and no status for an infinity); otherwise the grid's value on one
- * lane, rounded to T, with status 4 when it is below T's least normal. Single runs in
- * double on the widened lanes and rounds once. */
+ * lane, rounded to T, with status 4 when it is below T's least normal. Single HA runs
+ * in double on the widened lanes and rounds once, single LA and EP on single lanes
+ * (grid_single.h); their scalar routine takes the double form. */
 #ifndef BRENN_VECMATH_ERF_TAIL_BODY_H
 #define BRENN_VECMATH_ERF_TAIL_BODY_H
 
 #include <float.h>
 
-#include "vecmath/erf/grid_core.h"
+#include "vecmath/erf/grid_single.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/frame/scalar.h"
 #include "vecmath/frame/status.h"
@@ -56,7 +57,9 @@ struct TailBody {
         special = RangeTest(x, Fn::template Window<T>());
         // Special lanes run at 0 here: no NaN or infinity reaches the arithmetic.
         V xs = IfThenElse(special, Zero<T>(), x);
-        if constexpr (sizeof(T) == 4)
+        if constexpr (sizeof(T) == 4 && L != Level::HA)
+            return GridEvalSingle<typename Fn::Grid, Fn::template Cut<T, L>()>(xs);
+        else if constexpr (sizeof(T) == 4)
             return Narrow(TailEval<Fn, T, L>(WidenLower(xs)), TailEval<Fn, T, L>(WidenUpper(xs)));
         else
             return TailEval<Fn, T, L>(xs);

@@ -34,6 +34,17 @@ BRENN_VEC void LoadTransposed(const float* r0, const float* r1, const float* r2,
     first = _mm_shuffle_ps(p01, p23, _MM_SHUFFLE(2, 0, 2, 0));
     second = _mm_shuffle_ps(p01, p23, _MM_SHUFFLE(3, 1, 3, 1));
 }
+// Rows r0 to r3 of four singles each (16-byte aligned), transposed: column k of the
+// rows in ck.
+BRENN_VEC void LoadTransposed(const float* r0, const float* r1, const float* r2, const float* r3,
+                              __m128& c0, __m128& c1, __m128& c2, __m128& c3) {
+    __m128 a = _mm_load_ps(r0), b = _mm_load_ps(r1), c = _mm_load_ps(r2), d = _mm_load_ps(r3);
+    _MM_TRANSPOSE4_PS(a, b, c, d);
+    c0 = a;
+    c1 = b;
+    c2 = c;
+    c3 = d;
+}
 
 // table[i0], table[i1] for the indices in the low words of the two lanes.
 BRENN_VEC __m128d Gather(const double* table, I64x2 index, int32_t mask) {
