@@ -132,6 +132,7 @@ TEST(ErfRows, EdgeValuesAndStatuses) {
         {Fn::Erfc, -30.0f, 2.0f, 0},
         {Fn::Erfc, finf, 0.0f, 0},
         {Fn::CdfNorm, -14.0f, kDenormal, 4},
+        {Fn::CdfNorm, -12.96f, kDenormal, 4}, // just below the least normal result
         {Fn::CdfNorm, -20.0f, 0.0f, 4},
         {Fn::CdfNorm, -finf, 0.0f, 0},
         {Fn::CdfNorm, 20.0f, 1.0f, 0},

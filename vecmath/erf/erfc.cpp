@@ -5,8 +5,8 @@
  * is 2 to the last bit. Lanes from |x| = 26.5 (double) or 9.1875 (single), where the
  * result may leave the normal range, and NaNs and infinities, go to the scalar routine,
  * which reports status 4 for a result below the least normal (+0 from 27.2421875 on).
- * Double runs tail_double.h's body (fitted series, two parts, 0.5x ulp); single in
- * double on the widened lanes. */
+ * Double runs tail_double.h's body (fitted series, two parts, 0.5x ulp); single HA in
+ * double on the widened lanes, single LA and EP on single lanes (grid_single.h). */
 #include "frame/kernels.h"
 #include "vecmath/erf/tail_body.h"
 #include "vecmath/erf/tail_double.h"
