@@ -1,5 +1,5 @@
-/* The table-driven evaluation that Erf, Erfc and CdfNorm share, on double lanes (the
- * single rows widen their lanes to it).
+/* The table-driven evaluation that Erf, Erfc and CdfNorm share, on double lanes (single
+ * HA widens its lanes to it; single LA and EP run grid_single.h).
  *
  * a = min(|x|, limit) is rounded to the grid by the shifter (a + 2^45 for steps of 1/128,
  * a + 2^46 for 1/64: the row index is the low word of the sum, xj the sum less the
@@ -11,11 +11,11 @@
  * fall below the level's bound: tau*P0(tau) + u*(P1(tau) + u*(P2(tau) + u*P3(tau))).
  *
  * The other side of Erfc and CdfNorm is 2 - erfc(|x|) and 1 - Q(x): their lanes take
- * K - F with K - V split exactly (FastTwoSum, V being at most 1). Three ways to add up:
- *   TwoPart (HA double): Dh*dh exact (26 bits of each), the sum V + Dh*dh split exactly,
+ * K - F with K - V split exactly (FastTwoSum, V being at most 1). Two ways to add up:
+ *   TwoPart (HA): Dh*dh exact (26 bits of each), the sum V + Dh*dh split exactly,
  *            the remainders (of the row, Dh*dl + Dl*d, the series' part) added last;
- *   WithLow (LA double): V + (Vlo + w*(1 + S1)), w = D*d;
- *   Plain   (EP double, single): V + w*(1 + S1).
+ *   Plain   (LA, EP): V + w*(1 + S1), w = D*d.
+ * (Double Erfc and CdfNorm at LA and HA have a body of their own, tail_double.h.)
  * Rows from kScaleFrom on are times 2^128; the sum is multiplied by 2^-128 there, exactly
  * while the result is normal; lanes whose result would not be are the kernels' special
  * lanes.
@@ -29,7 +29,7 @@
 
 namespace brenn::vm {
 
-enum class GridSum { TwoPart, WithLow, Plain };
+enum class GridSum { TwoPart, Plain };
 
 // Numbers of coefficients kept of P0 .. P3 (P0 from tau^1 on).
 struct SeriesCut {
@@ -82,6 +82,21 @@ BRENN_VEC V SeriesLessOne(V tau, V u) {
  *   kRows (double[][W], W 2 or 4), kShifter, kLimit, kTauScale, kUScale;
  *   kMirror (K, 0 for none), kMirrorLimit, kMirrorPositive (Q mirrors x > 0);
  *   kScaleFrom: the first scaled grid point (0 for none). */
+// The grid point xj nearest to a (0 <= a <= the grid's limit), d = a - xj (exact), and
+// the rows of the two lanes.
+struct GridPoint {
+    __m128d xj, d;
+    const double* r0;
+    const double* r1;
+};
+template <class G>
+BRENN_VEC GridPoint NearestRow(__m128d a) {
+    __m128d s = Add(a, Set<double>(G::kShifter));
+    __m128d xj = Sub(s, Set<double>(G::kShifter));
+    I64x2 row = AsInt(s);
+    return {xj, Sub(a, xj), G::kRows[LowWord<0>(row)], G::kRows[LowWord<1>(row)]};
+}
+
 template <class G, SeriesCut C, GridSum Sum>
 inline __m128d GridEval(__m128d x) {
     constexpr size_t W = sizeof(G::kRows[0]) / sizeof(double);
@@ -92,18 +107,14 @@ inline __m128d GridEval(__m128d x) {
         lim = IfThenElse(mirror, Set<double>(G::kMirrorLimit), lim);
     }
     __m128d a = Min(ax, lim);
-    __m128d s = Add(a, Set<double>(G::kShifter));
-    __m128d xj = Sub(s, Set<double>(G::kShifter));
-    __m128d d = Sub(a, xj);
-    I64x2 row = AsInt(s);
-    const double* r0 = G::kRows[LowWord<0>(row)];
-    const double* r1 = G::kRows[LowWord<1>(row)];
+    GridPoint p = NearestRow<G>(a);
+    __m128d xj = p.xj, d = p.d;
     __m128d v, vlo = Zero<double>(), deriv, dl = Zero<double>();
     if constexpr (W == 2) {
-        LoadTransposed(r0, r1, v, deriv);
+        LoadTransposed(p.r0, p.r1, v, deriv);
     } else {
-        LoadTransposed(r0, r1, v, vlo);
-        LoadTransposed(r0 + 2, r1 + 2, deriv, dl);
+        LoadTransposed(p.r0, p.r1, v, vlo);
+        LoadTransposed(p.r0 + 2, p.r1 + 2, deriv, dl);
     }
     __m128d tau = Mul(Mul(Set<double>(G::kTauScale), xj), d);
     __m128d u = Mul(d, d);
@@ -136,7 +147,6 @@ inline __m128d GridEval(__m128d x) {
         if constexpr (W == 4) deriv = Add(deriv, dl);
         __m128d w = Mul(deriv, d);
         __m128d c = Add(w, Mul(w, s1));
-        if constexpr (Sum == GridSum::WithLow) c = Add(vlo, c);
         y = Add(Add(k, vs), Xor(c, flip));
     }
     if constexpr (G::kScaleFrom != 0)

@@ -26,6 +26,7 @@
 #include <bit>
 
 #include "vecmath/erf/erf_tables.h"
+#include "vecmath/erf/grid_core.h"
 #include "vecmath/explog/wide.h"
 #include "vecmath/frame/status.h"
 #include "vecmath/frame/vec.h"
@@ -77,15 +78,11 @@ BRENN_VEC __m128d TailGrid(__m128d x) {
     __m128d mirror = G::kMirrorPositive ? Xor(x, SignMask<double>()) : x; // by the sign bit
     __m128d lim = IfThenElse(mirror, Set<double>(G::kMirrorLimit), Set<double>(G::kLimit));
     __m128d a = Max(Min(Abs(x), lim), Set<double>(0x1p-256));
-    __m128d s = Add(a, Set<double>(G::kShifter));
-    __m128d xj = Sub(s, Set<double>(G::kShifter));
-    __m128d d = Sub(a, xj);
-    I64x2 row = AsInt(s);
-    const double* r0 = G::kRows[LowWord<0>(row)];
-    const double* r1 = G::kRows[LowWord<1>(row)];
+    GridPoint p = NearestRow<G>(a);
+    __m128d xj = p.xj, d = p.d;
     __m128d v, vlo, deriv, dl;
-    LoadTransposed(r0, r1, v, vlo);
-    LoadTransposed(r0 + 2, r1 + 2, deriv, dl);
+    LoadTransposed(p.r0, p.r1, v, vlo);
+    LoadTransposed(p.r0 + 2, p.r1 + 2, deriv, dl);
     __m128d s1 = TailSeries<S>(Mul(d, Add(xj, a)), Mul(d, d));
     __m128d flip = And(mirror, SignMask<double>());
     __m128d k = IfThenElse(mirror, Set<double>(G::kMirror), Zero<double>());
