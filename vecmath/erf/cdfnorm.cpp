@@ -47,10 +47,6 @@ struct CdfNormFn {
         if constexpr (L == Level::LA) return {4, 2, 0, 0};
         return {2, 0, 0, 0};
     }
-    template <class T, Level L>
-    static constexpr GridSum Sum() {
-        return GridSum::Plain;
-    }
 };
 
 template <class Tp, Level L>

@@ -43,10 +43,6 @@ struct ErfcFn {
         if constexpr (L == Level::EP) return {2, 0, 0, 0};
         return {4, 2, 0, 0};
     }
-    template <class T, Level L>
-    static constexpr GridSum Sum() {
-        return GridSum::Plain;
-    }
 };
 
 template <class Tp, Level L>

@@ -7,7 +7,8 @@
  *   kTailPositive    whether the tail lies at positive x (erfc) or negative (Phi);
  *   Window<T>        the range test: |x| from where the result may leave the normal range
  *                    of T (and infinities, NaNs); those lanes go to the scalar routine;
- *   Cut<T, L>, Sum<T, L>  the series cut and the way of adding up, by precision and level;
+ *   Cut<T, L>        the series cut by precision and level (the sum is plain: the
+ *                    two-part sums of double LA/HA are tail_double.h's);
  *   kNameS, kNameD   the public error names.
  * The scalar routine: a NaN comes back quieted; beyond the tail limit the result is +0
  * with status 4 (exact and no status for an infinity); otherwise the grid's value on one
@@ -28,7 +29,7 @@ namespace brenn::vm {
 
 template <class Fn, class T, Level L>
 inline __m128d TailEval(__m128d x) {
-    return GridEval<typename Fn::Grid, Fn::template Cut<T, L>(), Fn::template Sum<T, L>()>(x);
+    return GridEval<typename Fn::Grid, Fn::template Cut<T, L>(), GridSum::Plain>(x);
 }
 
 template <class Fn, class T, Level L>
