@@ -48,6 +48,19 @@ BRENN_VEC void TwoProduct(V a, V b, V& hi, V& lo) {
     lo = Add(Add(Sub(Mul(ah, bh), hi), Add(Mul(ah, bl), Mul(al, bh))), Mul(al, bl));
 }
 
+// The same with Dekker's order of the partial products, each step exact: hi + lo is a*b
+// exactly under round to nearest, for products clear of overflow and of the denormal
+// range (every partial product a multiple of the lowest bits' product, so also where
+// a and b sit on coarse grids, as an integer times a normal number does).
+template <class V>
+BRENN_VEC void TwoProductExact(V a, V b, V& hi, V& lo) {
+    V ah, al, bh, bl;
+    Split(a, ah, al);
+    Split(b, bh, bl);
+    hi = Mul(a, b);
+    lo = Add(Add(Add(Sub(Mul(ah, bh), hi), Mul(ah, bl)), Mul(al, bh)), Mul(al, bl));
+}
+
 } // namespace brenn::vm
 
 #endif

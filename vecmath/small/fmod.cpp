@@ -1,9 +1,9 @@
 /* Fmod and Remainder, single and double: one kernel for all levels, exact results.
  *
  * The single body works in double, where the remainder of a quotient below 2^24 is
- * exact (see WideRemainder). The double body covers the lanes whose result is a
- * itself: |a| below |b| for Fmod (b may be infinite), |b| above 2|a| for Remainder,
- * with neither operand a NaN. Every other lane goes to the scalar routine, which works on the
+ * exact (see WideRemainder). The double body takes quotients below 2^52 by an exact
+ * product of the quotient's integer part and b, and the lanes whose result is a itself.
+ * Every other lane goes to the scalar routine, which works on the
  * integer significands and never divides: a shift-and-subtract long division over the exponent
  * difference, keeping the last quotient bit for Remainder's round-to-even. A zero b or an infinite
  * a gives NaN with status 2 (singularity: these domain cases report as such); a NaN
@@ -65,8 +65,10 @@ inline void LongDivide(UInt<T> ax, UInt<T> ay, UInt<T>& r, int& ey, int& lastBit
     Unpack<T>(ax, mx, ex);
     Unpack<T>(ay, my, ey);
     lastBit = 0;
+    // One quotient bit a step, taken without a branch: the bits are as good as random,
+    // and a mispredicted jump a bit costs more than the step.
     for (int k = ex - ey; k > 0; --k) {
-        if (mx >= my) mx -= my;
+        mx -= my & (UInt<T>(0) - UInt<T>(mx >= my));
         mx <<= 1;
     }
     if (mx >= my) {
@@ -230,11 +232,49 @@ inline __m128 Reduce(__m128 a, __m128 b, __m128& special) {
     __m128 r = Narrow(r0, r1);
     return Xor(r, SignBit(a));
 }
-// Double: the lanes whose result is a itself; the scalar routine does the rest.
+// Double: quotients |a|/|b| below 2^52 in the vector, by the quotient's integer part.
+// With x = |a| >= y = |b| and n = floor(x/y) >= 1, the rounded quotient truncates to q = n
+// or n + 1 (n and n + 1 are doubles and rounding is monotone). q*y is carried exactly as
+// hi + lo; hi lies within a factor two of x, so x - hi is exact, and r = x - q*y, a
+// multiple of y's last place smaller than y in magnitude, comes out exact from
+// (x - hi) - lo. A negative r means q was n + 1: r + y is then exact too. Remainder
+// takes r - y past half of y, or at half when the integer part is odd, as the single
+// body does. The vector keeps y within [2^-969, 2^991] and x below 2^990, where the
+// splitter cannot overflow and every partial product and result is normal, so the
+// flush-to-zero and denormals-are-zero modes change nothing; lanes whose result is a
+// (KeepsA) take a's bits, and the rest (large quotients, tiny or huge operands, zero,
+// infinite and NaN operands) go to the scalar routine. Lanes outside the vector's part
+// compute 0 / 1, which raises nothing.
 template <bool Rem>
 inline __m128d Reduce(__m128d a, __m128d b, __m128d& special) {
-    special = KeepsA<Rem>(a, b);
-    return a;
+    using F = Format<double>;
+    constexpr int kTrunc = rounding::kTowardZero | rounding::kNoInexact;
+    constexpr uint64_t kLowY = uint64_t(F::kBias - 969) << F::kMantBits;
+    constexpr uint64_t kHighX = uint64_t(F::kBias + 990) << F::kMantBits;
+    const I64x2 abs = Set<uint64_t>(F::kAbs);
+    I64x2 ax = And(AsInt(a), abs), ay = And(AsInt(b), abs);
+    __m128d notA = KeepsA<Rem>(a, b);
+    I64x2 inRange = And(Gt(ay, Set<uint64_t>(kLowY - 1)), Gt(Set<uint64_t>(kHighX), ax));
+    __m128d vec = And(notA, AsFloat(inRange));
+    __m128d x = IfThenElseZero(vec, AsFloat(ax));
+    __m128d y = IfThenElse(vec, AsFloat(ay), Set<double>(1.0));
+    __m128d q = RoundBy<kTrunc>(Div(x, y));
+    vec = And(vec, Lt(q, Set<double>(0x1p52)));
+    __m128d hi, lo;
+    TwoProductExact(q, y, hi, lo);
+    __m128d r = Sub(Sub(x, hi), lo);
+    __m128d over = Lt(r, Zero<double>());
+    r = Add(r, IfThenElseZero(over, y));
+    if constexpr (Rem) {
+        q = Sub(q, IfThenElseZero(over, Set<double>(1.0)));
+        __m128d half = Mul(q, Set<double>(0.5));
+        __m128d odd = Ne(RoundBy<kTrunc>(half), half);
+        __m128d twice = Add(r, r);
+        __m128d up = Or(Gt(twice, y), And(Eq(twice, y), odd));
+        r = Sub(r, IfThenElseZero(up, y));
+    }
+    special = AndNot(vec, notA);
+    return IfThenElse(notA, Xor(r, SignBit(a)), a);
 }
 
 template <class Tp, bool Rem>
