@@ -15,7 +15,8 @@
  * reduction runs in x87 extended precision.
  *
  * The kernels run sixteen elements a round: one range test for the round, and with every
- * lane finite and below 2^24 the short path alone, without the large path's lane tests.
+ * lane finite and below 2^24 the short path alone, without the large path's lane tests
+ * (HA: the table steps over four registers at a time, so that their chains interleave).
  *
  * Measured (brenn_accuracy, 250000 inputs a row): EP 27.3 bits in dSin, dCos and
  * dSinCos; LA 1.63 ulp (dSin), 1.71 ulp (dCos), 0.976 ulp (dSinCos); HA 0.534 ulp
@@ -107,13 +108,11 @@ inline __m128d ShortPi(__m128d a, bool cosine) {
 }
 
 // sin (or cos) of every finite lane of a by the table, large lanes reduced in vector form.
-// With kLarge = false the caller has seen that no lane is above the limit.
-template <bool kLarge = true>
 BRENN_TRIG_HOT __m128d ByTable(__m128d a, bool cosine, bool exact) {
     alignas(16) int32_t J[2], K[2];
     __m128d rh, rl;
-    ShortD(kLarge ? Min(a, Set<double>(kLimit)) : a, J, rh, rl, cosine ? 32 : 0);
-    int big = kLarge ? LargeLanes(a, kLimitD) : 0;
+    ShortD(Min(a, Set<double>(kLimit)), J, rh, rl, cosine ? 32 : 0);
+    int big = LargeLanes(a, kLimitD);
     if (__builtin_expect(big != 0, 0)) {
         __m128d bh, bl;
         LargeD(a, K, bh, bl);
@@ -121,6 +120,21 @@ BRENN_TRIG_HOT __m128d ByTable(__m128d a, bool cosine, bool exact) {
         PickD(big, K, bh, bl, J, rh, rl);
     }
     return TableSin(J, rh, rl, exact);
+}
+// The same for M registers below the limit (the HA round), each step over all of them
+// before the next, so that their chains interleave; the same operations lane by lane.
+template <int M>
+BRENN_TRIG_HOT void ByTableShort(const __m128d* a, bool cosine, __m128d* y) {
+    alignas(16) int32_t J[M][2];
+    __m128d rh[M], rl[M];
+    BRENN_EACH(k, M) ShortD(a[k], J[k], rh[k], rl[k], cosine ? 32 : 0);
+    TableRow t[M];
+    BRENN_EACH(k, M) t[k] = LoadRows(J[k]);
+    BRENN_EACH(k, M) {
+        __m128d hi, lo;
+        Combine(t[k].sh, t[k].sl, t[k].ch, t[k].cl, rh[k], rl[k], SeriesOf(rh[k]), true, hi, lo);
+        y[k] = Add(hi, lo);
+    }
 }
 // The same out of line, for the LA kernels' rare lanes above 2^24.
 BRENN_TRIG_COLD __m128d ByTableLarge(__m128d a, bool cosine) {
@@ -131,6 +145,10 @@ BRENN_TRIG_COLD __m128d ByTableLarge(__m128d a, bool cosine) {
 inline bool Finite(double x) {
     return __builtin_fabs(x) <= 0x1.fffffffffffffp+1023;
 }
+
+// HA rounds take the table four registers at a time (two measured 10.9 ticks an
+// element for cosine, four 9.7, eight 9.7 and more for sine).
+constexpr int kTableStep = 4;
 
 template <Level L, bool kCos>
 struct Body {
@@ -163,12 +181,18 @@ struct Body {
     static int EvalWide(const __m128d* x, __m128d* y) {
         __m128d a[8];
         if (__builtin_expect(AnyAboveD<8>(x, a, kLimitD), 0)) return EvalEach<Body, 8>(x, y);
+        if constexpr (L == Level::HA) {
+#pragma GCC unroll 8
+            for (int g = 0; g < 8; g += kTableStep)
+                ByTableShort<kTableStep>(a + g, kCos, y + g);
+            if (!kCos) BRENN_EACH(k, 8) y[k] = Xor(y[k], SignBit(x[k]));
+        } else {
             // Two registers a step: all eight interleaved spill to the stack.
 #pragma GCC unroll 2
-        for (int k = 0; k < 8; ++k) {
-            __m128d p = L == Level::HA ? ByTable<false>(a[k], kCos, true)
-                                       : ShortPiRaw<L, false>(a[k], kCos);
-            y[k] = kCos ? p : Xor(p, SignBit(x[k]));
+            for (int k = 0; k < 8; ++k) {
+                __m128d p = ShortPiRaw<L, false>(a[k], kCos);
+                y[k] = kCos ? p : Xor(p, SignBit(x[k]));
+            }
         }
         if (L != Level::HA && kCos && __builtin_expect(AnyBelowD<8>(a, kCosOne), 0))
             BRENN_EACH(k, 8) y[k] = CosOne(a[k], y[k]);
