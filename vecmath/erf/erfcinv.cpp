@@ -27,6 +27,7 @@
 #include "vecmath/erf/erfcinv_tail.h"
 #include "vecmath/erf/erfinv_rows.h"
 #include "vecmath/erf/erfinv_rows_single.h"
+#include "vecmath/explog/wide.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/status.h"
 #include "vecmath/gamma/ext_math.h"
@@ -133,6 +134,11 @@ struct InverseBody {
     static constexpr X87Rule kX87 = X87Rule::Extended;
     static constexpr const char* kName =
         F == Inverse::Erfc ? ZAR_ERROR_NAME_OF(T, ErfcInv) : ZAR_ERROR_NAME_OF(T, CdfNormInv);
+    // Double in rounds of sixteen, the body inlined: the chains of eight registers overlap.
+    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
+    [[gnu::flatten]] static int EvalWide(const V* x, V* y) {
+        return EvalByRegister<InverseBody>(x, y);
+    }
     static V Eval(V x, V& special) {
         special = RangeTest(x, MainRange<F, T>());
         // Special lanes run at 3/4 here, inside the rows, whatever they hold.
