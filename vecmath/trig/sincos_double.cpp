@@ -3,7 +3,8 @@
  * EP and LA: n = round(|x|/pi) by the shifter (for cosine round(|x|/pi + 0.5) - 0.5,
  * a half-integer), the low bit of the rounded value the sign (-1)^n, r = |x| - n pi
  * with pi in three parts (EP) or four (LA), and an odd series of five (EP) or nine
- * (LA) terms on [-pi/2, pi/2] (tools/trig/sin_double_ep.sollya, sin_double_la.sollya).
+ * (LA) terms on [-pi/2, pi/2] (tools/trig/sin_double_ep.sollya, sin_double_la.sollya),
+ * its polynomial in r^2 by Estrin's scheme (LA: all but the two lowest terms).
  * HA: the table method at pi/64, j = round(|x| 64/pi), r = |x| - j pi/64 in three parts
  * kept as two doubles, and sin(A) cos(r) + cos(A) sin(r) from the table of sin and cos
  * at multiples of pi/64 (cosine at j + 32).
@@ -16,7 +17,8 @@
  *
  * The kernels run sixteen elements a round: one range test for the round, and with every
  * lane finite and below 2^24 the short path alone, without the large path's lane tests
- * (HA: the table steps over four registers at a time, so that their chains interleave).
+ * (each step over several registers at a time, so that their chains interleave: four for
+ * HA's table, all eight for the pi reduction).
  *
  * Measured (brenn_accuracy, 250000 inputs a row): EP 27.3 bits in dSin, dCos and
  * dSinCos; LA 1.63 ulp (dSin), 1.71 ulp (dCos), 0.976 ulp (dSinCos); HA 0.534 ulp
@@ -32,6 +34,9 @@
 namespace brenn::vm::trig {
 namespace {
 
+#ifndef LAFORM
+#define LAFORM 0
+#endif
 constexpr double kLimit = 0x1p24; // the table's short reduction below, the large above
 constexpr uint64_t kLimitD = std::bit_cast<uint64_t>(kLimit);
 
@@ -46,53 +51,56 @@ constexpr double kPiLA[] = {0x1.921fb4p1, 0x1.4442dp-23, 0x1.846988p-47, 0x1.8cc
 // coefficients lowest degree first. EP: tools/trig/sin_double_ep.sollya.
 constexpr double kSinEP[] = {-0x1.55554bc836622p-3, 0x1.110ed3804d202p-7, -0x1.9f6ffeea74e89p-13,
                              0x1.5dbdf0e45aa83p-19};
-// LA: tools/trig/sin_double_la.sollya.
-constexpr double kSinLA[] = {-0x1.5555555555555p-3,  0x1.11111111110c9p-7,  -0x1.a01a01a014eb7p-13,
-                             0x1.71de3a52aac68p-19,  -0x1.ae6454d968e2fp-26, 0x1.6123ce53b3e2ep-33,
-                             -0x1.ae43dd545dacp-41,  0x1.883c3146a7f29p-49};
+// LA: tools/trig/sin_double_la.sollya, in two parts: the two low coefficients by Horner
+// steps after the six high ones by Estrin's scheme (all eight by Estrin's measured 2.16
+// ulp, this 1.71, as Horner's rule alone).
+constexpr double kSinLALow[] = {-0x1.5555555555555p-3, 0x1.11111111110c9p-7};
+constexpr double kSinLAHigh[] = {-0x1.a01a01a014eb7p-13, 0x1.71de3a52aac68p-19,
+                                 -0x1.ae6454d968e2fp-26, 0x1.6123ce53b3e2ep-33,
+                                 -0x1.ae43dd545dacp-41,  0x1.883c3146a7f29p-49};
 
-// P(u) by Horner's rule as a loop the compiler unrolls late: written out (vec_poly.h)
-// the series makes the body look large enough to GCC's early inliner that the LA sine's
-// quad step goes out of line.
-template <size_t M>
-inline __m128d HornerLoop(__m128d u, const double (&c)[M]) {
-    __m128d p = Set<double>(c[M - 1]);
-#pragma GCC unroll 8
-    for (int i = int(M) - 2; i >= 0; --i)
-        p = MulAdd(u, p, Set<double>(c[i]));
-    return p;
+// sin or cos of M registers of magnitudes a below 2^24 by the pi reduction, without the
+// sign of x and without cosine's exact 1.0 for tiny arguments (CosOne); each step over
+// all of them before the next, so that their chains interleave.
+template <Level L, int M>
+BRENN_TRIG_HOT void ShortPiEach(const __m128d* a, bool cosine, __m128d* y) {
+    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    constexpr int kParts = L == Level::EP ? 3 : 4;
+    const double* pi = L == Level::EP ? kPiEP : kPiLA;
+    __m128d t[M], n[M], r[M], u[M], p[M];
+    BRENN_EACH(k, M) {
+        t[k] = Mul(a[k], Set<double>(kInvPi));
+        if (cosine) t[k] = Add(t[k], Set<double>(0.5));
+        t[k] = Add(t[k], shifter);
+        n[k] = Sub(t[k], shifter);
+        if (cosine) n[k] = Sub(n[k], Set<double>(0.5));
+    }
+    BRENN_EACH(k, M) r[k] = Sub(a[k], Mul(n[k], Set<double>(pi[0])));
+#pragma GCC unroll 4
+    for (int i = 1; i < kParts; ++i)
+        BRENN_EACH(k, M) r[k] = Sub(r[k], Mul(n[k], Set<double>(pi[i])));
+    BRENN_EACH(k, M) u[k] = Mul(r[k], r[k]);
+    if constexpr (L == Level::EP) {
+        BRENN_EACH(k, M) p[k] = Estrin(u[k], kSinEP);
+    } else {
+        BRENN_EACH(k, M) p[k] = Estrin(u[k], kSinLAHigh);
+        BRENN_EACH(k, M) p[k] = MulAdd(u[k], p[k], Set<double>(kSinLALow[1]));
+        BRENN_EACH(k, M) p[k] = MulAdd(u[k], p[k], Set<double>(kSinLALow[0]));
+    }
+    BRENN_EACH(k, M) {
+        __m128d sign = AsFloat(ShiftLeft<63>(AsInt(t[k]))); // (-1)^n
+        y[k] = Xor(Add(r[k], Mul(Mul(r[k], u[k]), p[k])), sign);
+    }
 }
 
-// sin or cos of a = |x| below 2^24 by the pi reduction, without the sign of x and
-// without cosine's exact 1.0 for tiny arguments (CosOne). With kClamp, lanes above the
-// limit (the large path's) are clamped and raise no flag; without, the caller has seen
-// that there are none (the clamp would change nothing).
+// The same for one register. With kClamp, lanes above the limit (the large path's) are
+// clamped and raise no flag; without, the caller has seen that there are none.
 template <Level L, bool kClamp = true>
 inline __m128d ShortPiRaw(__m128d a, bool cosine) {
     if (kClamp) a = Min(a, Set<double>(kLimit));
-    const __m128d shifter = Set<double>(Format<double>::kShifter);
-    __m128d t = Mul(a, Set<double>(kInvPi));
-    if (cosine) t = Add(t, Set<double>(0.5));
-    t = Add(t, shifter);
-    __m128d sign = AsFloat(ShiftLeft<63>(AsInt(t)));
-    __m128d n = Sub(t, shifter);
-    if (cosine) n = Sub(n, Set<double>(0.5));
-    __m128d r, p;
-    if constexpr (L == Level::EP) {
-        r = Sub(a, Mul(n, Set<double>(kPiEP[0])));
-        r = Sub(r, Mul(n, Set<double>(kPiEP[1])));
-        r = Sub(r, Mul(n, Set<double>(kPiEP[2])));
-        __m128d u = Mul(r, r);
-        p = Add(r, Mul(Mul(r, u), HornerLoop(u, kSinEP)));
-    } else {
-        r = Sub(a, Mul(n, Set<double>(kPiLA[0])));
-        r = Sub(r, Mul(n, Set<double>(kPiLA[1])));
-        r = Sub(r, Mul(n, Set<double>(kPiLA[2])));
-        r = Sub(r, Mul(n, Set<double>(kPiLA[3])));
-        __m128d u = Mul(r, r);
-        p = Add(r, Mul(Mul(r, u), HornerLoop(u, kSinLA)));
-    }
-    return Xor(p, sign);
+    __m128d y;
+    ShortPiEach<L, 1>(&a, cosine, &y);
+    return y;
 }
 
 // cos of arguments below 2^-27 rounds to 1.0: given exactly.
@@ -146,9 +154,11 @@ inline bool Finite(double x) {
     return __builtin_fabs(x) <= 0x1.fffffffffffffp+1023;
 }
 
-// HA rounds take the table four registers at a time (two measured 10.9 ticks an
-// element for cosine, four 9.7, eight 9.7 and more for sine).
+// Registers a step in a round: HA's table four (two measured 10.9 ticks an element for
+// cosine, four 9.7, eight 9.7 and more for sine), the pi reduction's eight (LA sine 6.8
+// with four, 5.6 with eight).
 constexpr int kTableStep = 4;
+constexpr int kPiStep = 8;
 
 template <Level L, bool kCos>
 struct Body {
@@ -185,15 +195,10 @@ struct Body {
 #pragma GCC unroll 8
             for (int g = 0; g < 8; g += kTableStep)
                 ByTableShort<kTableStep>(a + g, kCos, y + g);
-            if (!kCos) BRENN_EACH(k, 8) y[k] = Xor(y[k], SignBit(x[k]));
         } else {
-            // Two registers a step: all eight interleaved spill to the stack.
-#pragma GCC unroll 2
-            for (int k = 0; k < 8; ++k) {
-                __m128d p = ShortPiRaw<L, false>(a[k], kCos);
-                y[k] = kCos ? p : Xor(p, SignBit(x[k]));
-            }
+            ShortPiEach<L, kPiStep>(a, kCos, y);
         }
+        if (!kCos) BRENN_EACH(k, 8) y[k] = Xor(y[k], SignBit(x[k]));
         if (L != Level::HA && kCos && __builtin_expect(AnyBelowD<8>(a, kCosOne), 0))
             BRENN_EACH(k, 8) y[k] = CosOne(a[k], y[k]);
         return 0;
