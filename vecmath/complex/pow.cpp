@@ -20,6 +20,9 @@
  *   exp(Re w) = expl(hi) (1 + lo); Im w less its multiple q of pi/2 (pi/2 in three
  *     64-bit parts, each product with q exact in two words), sincosl of the rest's hi,
  *     corrected by its lo.
+ * A single element takes exp(Re w) and the sine and cosine of the rest in double (SSE)
+ * once w is known to the bounds above: a few double ulps, far inside a single ulp, and
+ * much quicker than the unit's own instructions.
  * In both, arg a is kept as k eighth turns (its octant's axis or diagonal) and the angle
  * d to it, and u k eighth turns are reduced exactly (less their nearest whole turns), so
  * that an a on or near an axis or diagonal keeps its small angle at full precision, and
@@ -35,10 +38,12 @@
  * ext_elem.h around C's complex product, which recovers infinities (cexp's domain error
  * for an infinite imaginary part is reported, status 1). NaNs come out quiet. */
 #include <math.h>
+#include <xmmintrin.h>
 
 #include "vecmath/complex/ext_elem.h"
 #include "vecmath/complex/extended.h"
 #include "vecmath/complex/pow_tables.h"
+#include "vecmath/explog/exp_scalar.h"
 
 namespace brenn::vm::cx {
 namespace {
@@ -111,8 +116,17 @@ constexpr LD kLn2A = 0xb17217f7d1cfp-48L, kLn2B = 0xf35793c7673007e6p-113L;
 constexpr DD kThirdDD = {0xaaaaaaaaaaaaaaabp-65L, -0xaaaaaaaaaaaaaaabp-130L};
 constexpr DD kLn2DD = {0xb17217f7d1cf79acp-64L, -0xd871319ff0342543p-130L};
 
-// A positive normal s as m 2^e, m in [sqrt(1/2), sqrt 2), from its bits.
+// A positive normal s as m 2^e, m in [sqrt(1/2), sqrt 2), from its bits: within double's
+// normal range those of s rounded to double (m may then lie a double ulp outside), else
+// those of s itself, through memory (an 80-bit store and load, each slow).
 inline LD Normalized(LD s, int& e) {
+    const double sd = double(s);
+    if (__builtin_expect(sd >= 0x1p-1022 && sd <= 0x1p1022, 1)) {
+        const unsigned long long b = BitsOf(sd);
+        const bool high = (b & 0xfffffffffffffULL) >= 0x6a09e667f3bcdULL; // >= sqrt 2
+        e = int(b >> 52) - 1023 + high;
+        return s * LD(Pow2D(-e));
+    }
     unsigned long long sig;
     unsigned short se;
     __builtin_memcpy(&sig, &s, 8);
@@ -148,7 +162,7 @@ inline LD Rint(LD v) {
 inline const LD* LnRow(LD m) {
     return kPowLnRows[Nearest((m - 1) * 256) - kPowLnFirst];
 }
-LD LnNearOneX(LD m) {
+[[gnu::always_inline]] inline LD LnNearOneX(LD m) {
     const LD* row = LnRow(m);
     const LD r = m * row[0] - 1, u = r / (2 + r), v = u * u;
     return row[1] + 2 * (u + u * v * (1 / 3.0L + v * (0.2L + v * (1 / 7.0L))));
@@ -168,7 +182,7 @@ DD LnNearOne(DD m) {
 
 // ln|a| of finite parts, not both zero, in extended precision: |a|^2 rounded (relative
 // error 2^-63 at most), so an absolute error of a few 2^-64 beside e ln 2.
-LD LnAbsX(LD x, LD y) {
+[[gnu::always_inline]] inline LD LnAbsX(LD x, LD y) {
     int e;
     const LD m = Normalized(x * x + y * y, e);
     return 0.5L * (LnNearOneX(m) + e * kLn2DD.hi);
@@ -188,7 +202,7 @@ DD LnAbs(LD x, LD y) {
 // |a|^2 exact, m/c - 1 = r exact (m's 32-bit halves times the 32-bit reciprocal), then
 // ln(1 + r) as r + the rest of its series to r^10 in extended precision. The error is at
 // most |r| 2^-73 + 2^-80 + |e| 2^-110 (the series' rounding, then the sums), *err.
-DD LnAbsMid(LD x, LD y, LD* err) {
+[[gnu::always_inline]] inline DD LnAbsMid(LD x, LD y, LD* err) {
     const DD s = Add(TwoProduct(x, x), TwoProduct(y, y));
     int e;
     const LD m = Normalized(s.hi, e), sl = s.lo * (m / s.hi); // a power of 2: exact
@@ -214,7 +228,7 @@ DD LnAbsMid(LD x, LD y, LD* err) {
 // |atan| 2^-72, cheaper than AtanRatio: num - t_j den exact (t_j has 8 bits), the
 // denominator den + t_j num exact in two words, d = q + ql from the quotient's exact
 // residual, then d + the rest of the series to d^7 (|d| <= 2^-9).
-DD AtanRatioMid(LD num, LD den) {
+[[gnu::always_inline]] inline DD AtanRatioMid(LD num, LD den) {
     const int j = Nearest(num / den * 256);
     const LD tj = j * 0x1p-8L, n = num - tj * den;
     const DD dn = FastTwoSum(den, tj * num);
@@ -231,7 +245,7 @@ DD AtanRatioMid(LD num, LD den) {
 // series. In extended precision num/den is rounded once (and the difference to t_j is
 // exact), a relative error about 2^-63; in two words d's numerator and denominator are
 // exact, about 2^-105 relative.
-LD AtanRatioX(LD num, LD den) {
+[[gnu::always_inline]] inline LD AtanRatioX(LD num, LD den) {
     const LD q = num / den;
     const int j = Nearest(q * 256);
     const LD tj = j * 0x1p-8L, d = (q - tj) / (1 + q * tj), v = d * d;
@@ -285,7 +299,7 @@ struct Angle {
 // Coarse: below 2^31 quarter turns by pi/2's parts of 32, 32 and 64 bits (ext_elem.h), the
 // first two products exact, an error below |q| 2^-130 (pi/2's own rest beyond them).
 template <bool Coarse = false>
-Angle Reduced(DD w) {
+[[gnu::always_inline]] inline Angle Reduced(DD w) {
     if (!(fabsl(w.hi) > 0.785398163397448309615660845819875721L && fabsl(w.hi) < 0x1p62L))
         return {0, w.hi, w.lo};
     const LD q = NearestX(w.hi * 0.636619772367581343075535053490057448L);
@@ -320,7 +334,7 @@ inline void SinCosReduced(LD r, LD& s, LD& c) {
 // e^w for |w| < 11000 from the rows of 2^(j/64): w = (64 k + j) ln2/64 + r, |r| <= ln2/128
 // (n ln2/64's head exact and w less it exact), e^r - 1 by its Taylor polynomial to r^7
 // (truncation below 2^-75): about an extended ulp, as expl, which takes the rest.
-LD ExpX(LD w) {
+[[gnu::always_inline]] inline LD ExpX(LD w) {
     if (!(fabsl(w) < 11000)) return expl(w);
     constexpr LD kInvLn2o64 = 0xb8aa3b295c17f0bcp-57L;
     constexpr LD kLn2o64A = 0x58b90bfbe8ep-49L, kLn2o64B = 0xf79abc9e3b39803fp-114L;
@@ -334,9 +348,68 @@ LD ExpX(LD w) {
     return Scaled(row[0] + (row[0] * p + row[1]), (n - j) / 64);
 }
 
+// Whether every SSE exception is masked, as the kernel leaves the caller's MXCSR as it is:
+// with one unmasked the double forms below would trap where the x87 ones do not.
+inline bool SseMasked() {
+    return (_mm_getcsr() & 0x1f80) == 0x1f80;
+}
+
+// sin and cos of |r| <= 1 in double by their Taylor series to r^13 and r^14: relative
+// truncation below 2^-40 at 1 and 2^-45 within pi/4, rounding a few double ulps.
+inline void SinCosD(double r, double& s, double& c) {
+    const double r2 = r * r;
+    s = r + r * r2 *
+                (-1 / 6.0 +
+                 r2 * (1 / 120.0 +
+                       r2 * (-1 / 5040.0 +
+                             r2 * (1 / 362880.0 + r2 * (-1 / 39916800.0 + r2 * (1 / 6227020800.0))))));
+    c = 1 + r2 * (-0.5 + r2 * (1 / 24.0 +
+                               r2 * (-1 / 720.0 +
+                                     r2 * (1 / 40320.0 +
+                                           r2 * (-1 / 3628800.0 +
+                                                 r2 * (1 / 479001600.0 - r2 * (1 / 87178291200.0)))))));
+}
+
+// (s, c) turned by j quarter turns.
+template <class T>
+inline void Turn(long long j, T& s, T& c) {
+    switch (j & 3) {
+    case 0:
+        break;
+    case 1: {
+        const T t = s;
+        s = c, c = -t;
+        break;
+    }
+    case 2:
+        s = -s, c = -c;
+        break;
+    default: {
+        const T t = s;
+        s = -c, c = t;
+        break;
+    }
+    }
+}
+
 // exp(e) (cos + i sin)(angle); a zero factor stays an exact zero beside an infinite
-// modulus.
+// modulus. For a single element whose modulus and angle double reaches (|Re w| < 700,
+// the rest at most 1), both in double: the products are within a few double ulps, and
+// the one rounding to single makes the result's error (once Re w and the angle are
+// within the bounds above); the caller's rounding mode and FTZ move them by a double ulp or
+// two at most. Else (and with an SSE exception unmasked), and for a double element, in
+// extended.
+template <int P>
 [[gnu::always_inline]] inline void Compose(const DD& e, const Angle& an, LD& re, LD& im) {
+    if (P == 24 && fabsl(e.hi) < 700 && fabsl(an.r) <= 1 && SseMasked()) {
+        const double m = ExpScalarCore(double(e.hi));
+        double s, c;
+        SinCosD(double(an.r), s, c);
+        Turn(an.j, s, c);
+        re = m * c;
+        im = m * s;
+        return;
+    }
     LD m = ExpX(e.hi);
     if (__builtin_isfinite(m)) m += m * e.lo;
     LD s, c;
@@ -346,32 +419,17 @@ LD ExpX(LD w) {
         c -= s * an.rl;
         s = s1;
     }
-    switch (an.j & 3) {
-    case 0:
-        break;
-    case 1: {
-        const LD t = s;
-        s = c, c = -t;
-        break;
-    }
-    case 2:
-        s = -s, c = -c;
-        break;
-    default: {
-        const LD t = s;
-        s = -c, c = t;
-        break;
-    }
-    }
+    Turn(an.j, s, c);
     re = c == 0 ? c : m * c;
     im = s == 0 ? s : m * s;
 }
 
 // The result from Re w and the reduced Im w; a and b real give exact zero parts: +0 real,
 // imaginary signed by the side of the cut and b.
+template <int P>
 [[gnu::always_inline]] inline void Finish(const DD& e, const Angle& an, LD y, LD u, LD v, LD& re,
                                           LD& im) {
-    Compose(e, an, re, im);
+    Compose<P>(e, an, re, im);
     if (y == 0 && v == 0) {
         if (re == 0) re = 0;
         if (im == 0) im = __builtin_signbit(y) != __builtin_signbit(u) ? -0.0L : 0.0L;
@@ -381,7 +439,7 @@ LD ExpX(LD w) {
 // a^b of finite a, not zero, and finite b, not zero, p the precision of the element.
 // Im w = u k pi/4 (exact quarter turns and a rest) + u d + v ln|a|, arg a = k pi/4 + d.
 template <int P>
-void PowFinite(LD x, LD y, LD u, LD v, LD& re, LD& im) {
+[[gnu::always_inline]] inline void PowFinite(LD x, LD y, LD u, LD v, LD& re, LD& im) {
     const Octant o = OctantOf(x, y);
     LD j0, g;
     QuarterTurns(u, o.k, j0, g);
@@ -399,7 +457,7 @@ void PowFinite(LD x, LD y, LD u, LD v, LD& re, LD& im) {
         const LD em = (fabsl(u) * (1 + fabsl(lr)) + fabsl(v * th)) * 0x1p-62L;
         const LD ea = (fabsl(u * d) + fabsl(v) * (1 + fabsl(lr)) + fabsl(g)) * 0x1p-62L;
         if (em <= kTol && fabsl(r) <= 1 && ea <= 8 * kTol * fabsl(r))
-            return Finish(DD{u * lr - v * th, 0}, Angle{j, r, 0}, y, u, v, re, im);
+            return Finish<P>(DD{u * lr - v * th, 0}, Angle{j, r, 0}, y, u, v, re, im);
     }
     // in two words: first with the cheaper ln|a| and arg a (absolute errors el and ed,
     // the products and sums of w within 2^-100 of their terms) under the same bounds,
@@ -417,13 +475,13 @@ void PowFinite(LD x, LD y, LD u, LD v, LD& re, LD& im) {
         const LD em = fabsl(u) * el + fabsl(v) * ed + (fabsl(e.hi) + fabsl(v * t.hi)) * 0x1p-100L;
         const LD ea = fabsl(u) * ed + fabsl(v) * el + (fabsl(iw.hi) + fabsl(v * l.hi)) * 0x1p-99L;
         if (pass || (em <= kTol && fabsl(an.r) <= 1 && ea <= 8 * kTol * fabsl(an.r)))
-            return Finish(e, an, y, u, v, re, im);
+            return Finish<P>(e, an, y, u, v, re, im);
         l = LnAbs(x, y), dd = OctantAngle(o);
     }
 }
 
 template <int P>
-int PowOf(LD x, LD y, LD u, LD v, LD& re, LD& im) {
+[[gnu::always_inline]] inline int PowOf(LD x, LD y, LD u, LD v, LD& re, LD& im) {
     if (u == 0 && v == 0) { // a^0 = 1
         re = 1;
         im = 0;
@@ -462,7 +520,7 @@ template <class E>
 struct Pow {
     static constexpr bool kOverflow = false;
     static constexpr bool kDouble = std::is_same_v<E, BrennComplex16>;
-    static int Eval(LD x, LD y, LD u, LD v, LD& re, LD& im) {
+    [[gnu::always_inline]] static int Eval(LD x, LD y, LD u, LD v, LD& re, LD& im) {
         return PowOf < kDouble ? 53 : 24 > (x, y, u, v, re, im);
     }
 };
