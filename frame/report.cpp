@@ -245,6 +245,15 @@ void Report(int code, int index, const E* a1, const E* a2, E* r1, E* r2, const c
 
 } // namespace
 
+bool ReportsCanWait() {
+    ThreadContext* context = GetThreadContext();
+    uint32_t mode = ThreadMode(context);
+    uint32_t e = mode & kModeErrorMask;
+    if (e == kErrNone || e == kErrIgnore) return true;
+    if ((mode & kErrCallback) && context->errorCallback != nullptr) return false;
+    return !(mode & kErrStderr) && !((mode & kErrExcept) && (mode & kModeTrapMask));
+}
+
 void ReportErrorS(int code, int index, const float* a1, const float* a2, float* r1, float* r2,
                   const char* name) {
     Report(code, index, a1, a2, r1, r2, name);

@@ -17,6 +17,12 @@ void ReportErrorC(int code, int index, const BrennComplex8* a1, const BrennCompl
 void ReportErrorZ(int code, int index, const BrennComplex16* a1, const BrennComplex16* a2,
                   BrennComplex16* r1, BrennComplex16* r2, const char* name);
 
+// Whether a report in the calling thread's present mode calls no callback, prints
+// nothing and delivers no fault: its effects are then the status, errno, an x87 flag
+// and the values' round trip through double, none of which anything reads before the
+// kernel returns, so a kernel may make its reports at its end, one a status code.
+bool ReportsCanWait();
+
 // The reporter of an element type, for kernels written as templates.
 inline void ReportError(int code, int index, const float* a1, const float* a2, float* r1,
                         float* r2, const char* name) {

@@ -299,4 +299,23 @@ TEST(Reporter, TrapIsDeliveredOnlyWithExceptionModeAndTheMatchingTrapBit) {
     EXPECT_EQ(ChildSignal(0x0F000800, -1), 0); // size errors carry no flag
 }
 
+// Reports may wait for the kernel's end exactly when nothing reads them sooner.
+TEST(Reporter, ReportsCanWaitWithoutCallbackMessageOrTrap) {
+    auto wait = [](uint32_t mode, ErrorCallback cb = nullptr) {
+        bool w = false;
+        WithMode(mode, [&] {
+            if (cb) brenn_zar_kernel_SetErrorCallBack(cb);
+            w = brenn::frame::ReportsCanWait();
+        });
+        return w;
+    };
+    EXPECT_TRUE(wait(0x1A00));              // the callback bit with no callback
+    EXPECT_FALSE(wait(0x1A00, CaptureAndPass));
+    EXPECT_TRUE(wait(0x0100));
+    EXPECT_TRUE(wait(0x2000));
+    EXPECT_FALSE(wait(0x0600));             // standard error
+    EXPECT_FALSE(wait(0x04000800));         // a trap
+    EXPECT_TRUE(wait(0x04000200));          // the trap bit without the exception mode
+}
+
 } // namespace

@@ -2,7 +2,9 @@
 // misalignment, results independent of where the split falls, in-place operation, no
 // flags from the filler of partial blocks, the caller's floating-point controls back
 // on return, and per-element reporting through the reporter.
+#include <cerrno>
 #include <cfenv>
+#include <cmath>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <vector>
@@ -300,6 +302,32 @@ TEST(KernelFrame, ReportsGoThroughTheReporterLaneByLane) {
     EXPECT_EQ(q[1], INFINITY);
     brenn_zar_kernel_ClearErrorCallBack();
     brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);
+}
+
+// Without a callback or message, a call's reports come out as element by element: the
+// status and errno of the last element reported, the x87 flags of all.
+TEST(KernelFrame, HeldReportsEndAsTheLastElementSays) {
+    brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);
+    brenn_zar_kernel_ClearErrorCallBack();
+    for (bool domainLast : {false, true}) {
+        float a[13], y[13];
+        for (int i = 0; i < 13; ++i)
+            a[i] = float(i + 1);
+        a[domainLast ? 3 : 11] = 0.0f;  // singularity
+        a[domainLast ? 11 : 3] = -1.0f; // domain
+        errno = 0;
+        __asm__ volatile("fnclex");
+        brenn_zar_kernel_ClearErrStatus();
+        _zarsLn_HA(13, a, y);
+        uint16_t sw;
+        __asm__ volatile("fnstsw %0" : "=m"(sw));
+        EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), domainLast ? 1 : 2);
+        EXPECT_EQ(errno, domainLast ? 33 : 34);
+        EXPECT_EQ(sw & 0x05, 0x05);
+        EXPECT_EQ(y[domainLast ? 3 : 11], -INFINITY);
+        EXPECT_TRUE(std::isnan(y[domainLast ? 11 : 3]));
+    }
+    __asm__ volatile("fnclex");
 }
 
 } // namespace

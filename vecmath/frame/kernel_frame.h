@@ -27,11 +27,23 @@
  *               int EvalWide(const V* x, V* y) (unary), (const V* x, V* y, V* z)
  *               (two result), sixteen elements' registers each; returns the special-
  *               lane bits (bit j for element j of the round)
+ *   kUnderflowLanes (optional, true) Eval gives every lane that is not special its
+ *               result, zeros and denormals included, and a result below the least
+ *               normal in magnitude has status 4 (underflow), reported by the frame
+ *               without a scalar routine. One-result shapes, rounds of eight, the
+ *               common MXCSR rule (under which the reporter's round trip of a value
+ *               through double changes nothing).
  * and the frame does the rest: environment entry and exit, the split at the input's
  * 16-byte boundary, the partial blocks filled with the safe value 0.75 (nothing outside
  * the vectors is read or written), eight (or sixteen) elements a round in the main
  * stage, the lane mask of the range test, the two phases of special handling with the
  * reporter call and the reload of y, and in-place operation (y may equal a or b).
+ *
+ * Reports wait for the end of the call when nothing can read them sooner (no callback,
+ * no message, no trap: frame::ReportsCanWait): a lane's status then only marks its
+ * element, and the call ends with one report a status, the statuses in the order of
+ * their last elements, so that status, errno and x87 flags come out as element by
+ * element. Otherwise each report is made at its element, in element order.
  *
  * The frame works in quads of four elements (one single register, two double ones);
  * a main-stage round is two quads (four with kRound = 16). */
@@ -123,6 +135,23 @@ template <class B>
 constexpr bool kHasFix = requires {
     &B::FixNoError;
 };
+template <class B>
+constexpr bool kUnderflowLanes = [] {
+    if constexpr (requires { B::kUnderflowLanes; })
+        return B::kUnderflowLanes;
+    else
+        return false;
+}();
+
+// Reports held back to the end of a call: the last element of each status 1 to 4.
+struct Held {
+    int8_t wait = -1; // whether reports may wait; -1 until the first one asks
+    int at[5] = {-1, -1, -1, -1, -1};
+    bool Wait() {
+        if (wait < 0) wait = frame::ReportsCanWait();
+        return wait != 0;
+    }
+};
 
 // Environment for the kernel's duration: x87 and MXCSR entry rules; the mode word is
 // read once (not at all by the mask-only and untouched rules unless the body needs
@@ -131,6 +160,7 @@ template <class B>
 struct Env {
     frame::FpState fp;
     uint32_t errorByte;
+    Held held;
 };
 
 template <class B>
@@ -141,6 +171,7 @@ inline Env<B> Enter() {
     Env<B> e;
     e.fp = frame::FpEnter<X87Of<B>(), c>(mode);
     e.errorByte = mode & frame::kModeErrorMask;
+    if constexpr (kUnderflowLanes<B>) e.held.Wait();
     return e;
 }
 
@@ -202,10 +233,40 @@ struct Quads {
         }
     }
 
-    // Phase 2 for one lane: the scalar routine on the caller's element, and if it
-    // returned a status, the result stored, reported and read back from y (a callback
-    // may have replaced it).
-    static inline void Lane(const B& body, const Args<T>& v, int i, T* ry, T* rz) {
+    static void Report(const Args<T>& v, int st, int i) {
+        if constexpr (S == Shape::TwoRes)
+            frame::ReportError(st, i, v.a, v.a, v.y, v.z, NameOf<B>());
+        else if constexpr (S == Shape::Binary)
+            frame::ReportError(st, i, v.a, v.b, v.y, v.y, NameOf<B>());
+        else
+            frame::ReportError(st, i, v.a, v.a, v.y, v.y, NameOf<B>());
+    }
+
+    // A lane's non-zero status: the result stored, reported and read back from y (a
+    // callback may have replaced it); or, when reports wait, the element marked and
+    // its values taken through double as the reporter takes them (under DAZ a denormal
+    // result becomes 0).
+    static inline void Status(Held& held, const Args<T>& v, int st, int i, T* ry, T* rz) {
+        v.y[i] = *ry;
+        if constexpr (S == Shape::TwoRes) v.z[i] = *rz;
+        if (st >= status::kDomain && st <= status::kUnderflow && held.Wait()) {
+            held.at[st] = i;
+            if constexpr (std::is_same_v<T, float>) {
+                double a1 = v.a[i], a2 = S == Shape::Binary ? v.b[i] : a1, r1 = *ry;
+                double r2 = S == Shape::TwoRes ? *rz : r1;
+                __asm__ volatile("" : "+x"(a1), "+x"(a2), "+x"(r1), "+x"(r2));
+                if constexpr (S == Shape::TwoRes) *rz = v.z[i] = float(r2);
+                *ry = v.y[i] = float(r1);
+            }
+            return;
+        }
+        Report(v, st, i);
+        if constexpr (S == Shape::TwoRes) *rz = v.z[i];
+        *ry = v.y[i];
+    }
+
+    // Phase 2 for one lane: the scalar routine on the caller's element, and its status.
+    static inline void Lane(const B& body, Held& held, const Args<T>& v, int i, T* ry, T* rz) {
         int st;
         if constexpr (S == Shape::Unary)
             st = body.Scalar(v.a + i, ry);
@@ -213,25 +274,49 @@ struct Quads {
             st = body.Scalar(v.a + i, v.b + i, ry);
         else
             st = body.Scalar(v.a + i, ry, rz);
-        if (__builtin_expect(st != status::kNone, 0)) {
-            v.y[i] = *ry;
-            if constexpr (S == Shape::TwoRes) {
-                v.z[i] = *rz;
-                frame::ReportError(st, i, v.a, v.a, v.y, v.z, NameOf<B>());
-                *rz = v.z[i];
-            } else if constexpr (S == Shape::Binary) {
-                frame::ReportError(st, i, v.a, v.b, v.y, v.y, NameOf<B>());
-            } else {
-                frame::ReportError(st, i, v.a, v.a, v.y, v.y, NameOf<B>());
-            }
-            *ry = v.y[i];
+        if (__builtin_expect(st != status::kNone, 0)) Status(held, v, st, i, ry, rz);
+    }
+
+    // The held reports at the call's end, one a status, in the order of their last
+    // elements.
+    static void Flush(Env<B>& env, const Args<T>& v) {
+        for (;;) {
+            int st = 0;
+            for (int k = status::kDomain; k <= status::kUnderflow; ++k)
+                if (env.held.at[k] >= 0 && (st == 0 || env.held.at[k] < env.held.at[st])) st = k;
+            if (st == 0) return;
+            Report(v, st, env.held.at[st]);
+            env.held.at[st] = -1;
         }
     }
 
+    // The lanes of a quad whose result is below the least normal in magnitude.
+    static inline int UnderBits(const Q& q) {
+        int bits = 0;
+        for (int k = 0; k < R; ++k) {
+            auto mag = AsInt(And(q.y[k], AbsMask<T>()));
+            auto least = AsInt(Set<T>(sizeof(T) == 4 ? T(0x1p-126) : T(0x1p-1022)));
+            bits |= MaskBits(AsFloat(Lt(mag, least))) << (k * L);
+        }
+        return bits;
+    }
+
+    // Underflow lanes u of the elements from i (bits: their special lanes): marked when
+    // reports wait (the last of them, without a branch), else handed to Special.
+    static inline int Under(Env<B>& env, int i, int bits, int& u) {
+        u &= ~bits;
+        if (env.held.wait > 0) {
+            int last = i + 31 - __builtin_clz(unsigned(u) | 1u);
+            env.held.at[status::kUnderflow] = u ? last : env.held.at[status::kUnderflow];
+            u = 0;
+        }
+        return bits | u;
+    }
+
     // Both phases for the special lanes of a quad whose results sit in ry/rz
-    // (memory), elements i .. i+3 of the call.
-    static inline void Special(const B& body, const Env<B>& env, const Args<T>& v, int i, Q& q,
-                               int bits, T* ry, T* rz) {
+    // (memory), elements i .. i+3 of the call; the lanes of `under` have status 4.
+    static inline void Special(const B& body, Env<B>& env, const Args<T>& v, int i, Q& q,
+                               int bits, T* ry, T* rz, int under = 0) {
         if constexpr (kHasFix<B>) {
             if (env.errorByte == kErrorModeNone) {
                 bits = body.FixNoError(q.x, q.y, bits);
@@ -239,13 +324,17 @@ struct Quads {
                     vm::Store(ry + k * L, q.y[k]);
             }
         }
-        for (int lane = 0; lane < 4; ++lane)
-            if (bits & (1 << lane)) Lane(body, v, i + lane, ry + lane, rz + lane);
+        for (int lane = 0; lane < 4; ++lane) {
+            if (under & (1 << lane))
+                Status(env.held, v, status::kUnderflow, i + lane, ry + lane, rz + lane);
+            else if constexpr (kHasScalar<B>)
+                if (bits & (1 << lane)) Lane(body, env.held, v, i + lane, ry + lane, rz + lane);
+        }
     }
 
     // The partial-block stage: m (1 to 4) elements from i, the other lanes holding the
     // safe value; every element is loaded and stored singly.
-    static inline void Partial(const B& body, const Env<B>& env, const Args<T>& v, int i, int m) {
+    static inline void Partial(const B& body, Env<B>& env, const Args<T>& v, int i, int m) {
         alignas(16) T ina[4] = {T(0.75), T(0.75), T(0.75), T(0.75)};
         alignas(16) T inb[4] = {T(0.75), T(0.75), T(0.75), T(0.75)};
         for (int k = 0; k < m; ++k) {
@@ -253,11 +342,15 @@ struct Quads {
             if constexpr (S == Shape::Binary) inb[k] = v.b[i + k];
         }
         Q q;
-        int bits = Eval(body, ina, inb, q) & (0xF >> (4 - m));
+        int bits = Eval(body, ina, inb, q) & (0xF >> (4 - m)), under = 0;
+        if constexpr (kUnderflowLanes<B>) {
+            under = UnderBits(q) & (0xF >> (4 - m));
+            bits = Under(env, i, bits, under);
+        }
         alignas(16) T ry[4], rz[4];
         Store(q, ry, rz);
-        if constexpr (kHasScalar<B>)
-            if (bits) Special(body, env, v, i, q, bits, ry, rz);
+        if constexpr (kHasScalar<B> || kUnderflowLanes<B>)
+            if (bits) Special(body, env, v, i, q, bits, ry, rz, under);
         for (int k = 0; k < m; ++k) {
             v.y[i + k] = ry[k];
             if constexpr (S == Shape::TwoRes) v.z[i + k] = rz[k];
@@ -265,21 +358,27 @@ struct Quads {
     }
 
     // One main-stage round: eight elements from i, loaded and stored whole.
-    static inline void Round(const B& body, const Env<B>& env, const Args<T>& v, int i) {
+    static inline void Round(const B& body, Env<B>& env, const Args<T>& v, int i) {
         Q q0, q1;
         int bits = Eval(body, v.a + i, At(v.b, i), q0);
         bits |= Eval(body, v.a + i + 4, At(v.b, i + 4), q1) << 4;
+        int under = 0;
+        if constexpr (kUnderflowLanes<B>) {
+            under = UnderBits(q0) | UnderBits(q1) << 4;
+            bits = Under(env, i, bits, under);
+        }
         if (__builtin_expect(bits == 0, 1)) {
             Store(q0, v.y + i, At(v.z, i));
             Store(q1, v.y + i + 4, At(v.z, i + 4));
             return;
         }
-        if constexpr (kHasScalar<B>) {
+        if constexpr (kHasScalar<B> || kUnderflowLanes<B>) {
             alignas(16) T ry[8], rz[8];
             Store(q0, ry, rz);
             Store(q1, ry + 4, rz + 4);
-            if (bits & 0xF) Special(body, env, v, i, q0, bits & 0xF, ry, rz);
-            if (bits >> 4) Special(body, env, v, i + 4, q1, bits >> 4, ry + 4, rz + 4);
+            if (bits & 0xF) Special(body, env, v, i, q0, bits & 0xF, ry, rz, under & 0xF);
+            if (bits >> 4)
+                Special(body, env, v, i + 4, q1, bits >> 4, ry + 4, rz + 4, under >> 4);
             for (int k = 0; k < 8; ++k) {
                 v.y[i + k] = ry[k];
                 if constexpr (S == Shape::TwoRes) v.z[i + k] = rz[k];
@@ -291,8 +390,9 @@ struct Quads {
     // quads before the one test of their special bits (four quads one after another
     // gained nothing over rounds of eight); with a special lane, the quads' results go through
     // memory and the special lanes are handled quad by quad, lane 0 up, as in a round of eight.
-    static inline void Round16(const B& body, const Env<B>& env, const Args<T>& v, int i) {
+    static inline void Round16(const B& body, Env<B>& env, const Args<T>& v, int i) {
         static_assert(kHasWide<B>, "rounds of sixteen pay only with the whole-round form");
+        static_assert(!kUnderflowLanes<B>, "underflow lanes in rounds of eight");
         static_assert(S != Shape::Binary, "no wide form for two inputs");
         Q q[4];
         constexpr int N = 16 / L;
@@ -333,15 +433,26 @@ struct Quads {
     }
 
     // Hand-tuned fall-back: one element through the scalar routine, which gives the
-    // result for any input; a non-zero status is reported on the spot.
-    static inline void One(const B& body, const Args<T>& v, int i) {
+    // result for any input, and its status.
+    static inline void One(const B& body, Held& held, const Args<T>& v, int i) {
         T ry, rz;
-        Lane(body, v, i, &ry, &rz);
+        Lane(body, held, v, i, &ry, &rz);
         v.y[i] = ry;
         if constexpr (S == Shape::TwoRes) v.z[i] = rz;
     }
 
+    // The same with the report made at once.
+    static inline void One(const B& body, const Args<T>& v, int i) {
+        Held now;
+        now.wait = 0;
+        One(body, now, v, i);
+    }
+
     static void Run(const B& body, int n, const Args<T>& v) {
+        static_assert(!kUnderflowLanes<B> || (S != Shape::TwoRes &&
+                                              LayoutOf<B>() != Layout::HandTuned &&
+                                              CsrOf<B>() == CsrRule::Common),
+                      "underflow lanes: one result, rounds of eight, the common MXCSR rule");
         Env<B> env = Enter<B>();
         if (n > 0) {
             constexpr Layout layout = LayoutOf<B>();
@@ -371,7 +482,7 @@ struct Quads {
                         Store(q1, v.y + i + 4, At(v.z, i + 4));
                     } else {
                         for (int k = 0; k < 8; ++k)
-                            One(body, v, i + k);
+                            One(body, env.held, v, i + k);
                     }
                 } else {
                     Round(body, env, v, i);
@@ -385,8 +496,9 @@ struct Quads {
                     Partial(body, env, v, i, 1);
             } else {
                 for (; i < n; ++i)
-                    One(body, v, i);
+                    One(body, env.held, v, i);
             }
+            if (env.held.wait > 0) Flush(env, v);
         }
         Leave(env);
     }
