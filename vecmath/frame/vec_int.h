@@ -91,6 +91,16 @@ BRENN_VEC I32x4 LookupFour(I32x4 table, I32x4 j) {
     __m128i at = _mm_shuffle_epi8(_mm_slli_epi32(j.v, 2), first);
     return {_mm_shuffle_epi8(table.v, _mm_add_epi8(at, _mm_set1_epi32(0x03020100)))};
 }
+// The same into the high word of each 64-bit lane, for j in 0 to 3 in the lane's low word;
+// the low word 0 (the high half of a double from a table of four, in four operations).
+BRENN_VEC I64x2 LookupFourHigh(I32x4 table, I64x2 j) {
+    const __m128i spread = _mm_setr_epi8(-128, -128, -128, -128, 0, 0, 0, 0, -128, -128, -128,
+                                         -128, 8, 8, 8, 8);
+    __m128i at = _mm_shuffle_epi8(_mm_slli_epi32(j.v, 2), spread);
+    const __m128i bytes = _mm_setr_epi8(-128, -128, -128, -128, 0, 1, 2, 3, -128, -128, -128,
+                                        -128, 0, 1, 2, 3);
+    return {_mm_shuffle_epi8(table.v, _mm_or_si128(at, bytes))};
+}
 
 // One 32-bit lane as a scalar (lane 0 by movd, the others by pextrd).
 template <int K>

@@ -96,8 +96,10 @@ struct RootBody {
                                          : R == Root::Cbrt  ? ZAR_ERROR_NAME_OF(T, Cbrt)
                                                             : ZAR_ERROR_NAME_OF(T, Pow2o3);
     static V Eval(V x, V& special) {
+        // Special lanes run as they are: the body reads x by its bits alone (the exponent
+        // field and the significand), so that they make ordinary values and no flag.
         special = RangeTest(x, RootRanges<T>::template kSpecial<L>);
-        return RootLanes<R, L>(IfThenElse(special, Set<T>(T(1)), x));
+        return RootLanes<R, L>(x);
     }
     static int Scalar(const T* a, T* y) { return RootScalar<R>(a, y); }
     static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
