@@ -85,13 +85,62 @@ BRENN_VEC V AngleOf(V x) {
     return F == Fn::Asin ? Xor(y, sx) : y;
 }
 
-// The single steps (EP, LA) as they are, and the others in double on widened lanes.
+// pi/4 less its single head Quarter<float>::kHi, the tail of the single HA base.
+constexpr float kQuarterLoS = -0x1.777a5cp-26f;
+// The six-term series of the double EP steps rounded to single: its fit (2^-31.8) keeps
+// the tail's error from the fit to about 0.01 ulp of the result, where LA's five terms
+// (2^-27.6) cost up to 0.09.
+constexpr const double (&kP6)[6] = AsinDouble6Set::kP;
+constexpr float kAsinSingleHA[] = {float(kP6[0]), float(kP6[1]), float(kP6[2]),
+                                   float(kP6[3]), float(kP6[4]), float(kP6[5])};
+
+// Single HA in single arithmetic: the steps of AngleOf with a six-term series, 2 sqrt(h) carried
+// as 2s + (h - s^2)/s and the base joined by an exact sum. s^2 from halves of 12 bits:
+// sh^2, 2 sh*sl and sl^2 are exact, h - sh^2 is exact (Sterbenz), less 2 sh*sl it is
+// exact too (both on the grid of the latter, the difference within 12 bits), so that
+// h - s^2 rounds once, far below s^2; (h - s^2)/s by the reciprocal estimate, to 2^-12 of
+// a term of 2^-23 of u. The tail u*w*P(w) is within 0.05 of u and wrong by a few of its
+// own ulps: with the last rounding, within about 0.6 ulp.
+template <Fn F>
+BRENN_VEC __m128 AngleSingleHA(__m128 x) {
+    using Q = Quarter<float, Unit::Radian>;
+    const __m128 half = Set<float>(0.5f);
+    __m128 a = Abs(x);
+    __m128 h = MulAdd(Neg(a), half, half);
+    __m128 w = Min(Mul(a, a), h);
+    __m128 fold = Ge(w, h);
+    __m128 s = Sqrt(h);
+    __m128 sh = And(s, AsFloat(Set<uint32_t>(0xFFFFF000u)));
+    __m128 sl = Sub(s, sh);
+    __m128 r = Sub(Sub(Sub(h, Mul(sh, sh)), Mul(Add(sh, sh), sl)), Mul(sl, sl));
+    __m128 ul = IfThenElseZero(fold, Mul(r, ApproxRecip(Max(s, Set<float>(0x1p-60f)))));
+    __m128 u = IfThenElse(fold, Add(s, s), a);
+    __m128 l = Add(Mul(Mul(u, w), Horner(w, kAsinSingleHA)), ul);
+    __m128 sx = SignBit(x);
+    __m128 k, flip;
+    if constexpr (F == Fn::Asin) {
+        k = IfThenElseZero(fold, Set<float>(2));
+        flip = And(fold, SignMask<float>());
+    } else {
+        k = IfThenElse(fold, IfThenElse(x, Set<float>(4), Zero<float>()), Set<float>(2));
+        flip = Xor(Xor(And(fold, SignMask<float>()), sx), SignMask<float>());
+    }
+    __m128 y, e;
+    FastTwoSum(Mul(k, Set<float>(Q::kHi)), Xor(u, flip), y, e);
+    y = Add(y, Add(e, Add(Mul(k, Set<float>(kQuarterLoS)), Xor(l, flip))));
+    return F == Fn::Asin ? Xor(y, sx) : y;
+}
+
+// The single steps (EP, LA, radian HA) as they are, and the others in double on widened
+// lanes.
 template <Fn F, Unit U, Level L>
 BRENN_VEC __m128 AnglesOf(__m128 x) {
     if constexpr (L == Level::EP)
         return AngleOf<F, U, AsinSingleEP, false>(x);
     else if constexpr (L == Level::LA && U == Unit::Radian)
         return AngleOf<F, U, AsinSingleLA, false>(x);
+    else if constexpr (L == Level::HA && U == Unit::Radian)
+        return AngleSingleHA<F>(x);
     else
         return Narrow(AngleOf<F, U, AsinDouble6Set, false, __m128d, true>(WidenLower(x)),
                       AngleOf<F, U, AsinDouble6Set, false, __m128d, true>(WidenUpper(x)));
