@@ -95,7 +95,11 @@ inline DD Sqrt(DD a) {
     const DD r = Add(a, Mul(DD{s, 0}, -s));
     return FastTwoSum(s, (r.hi + r.lo) / (2 * s));
 }
-inline LD Scaled(LD a, int e) { // exact: e stays far inside the extended range
+// a 2^e, exact: e stays far inside the extended range. A power of two that double holds
+// is loaded from its 8 bytes; others are put together in memory from the significand and
+// the exponent, whose 10-byte load waits for both stores.
+inline LD Scaled(LD a, int e) {
+    if (e >= -1022 && e <= 1023) return a * LD(Pow2D(e));
     const unsigned long long sig = 1ULL << 63;
     const unsigned short se = (unsigned short)(16383 + e);
     LD f;
@@ -205,7 +209,7 @@ DD LnAbs(LD x, LD y) {
 [[gnu::always_inline]] inline DD LnAbsMid(LD x, LD y, LD* err) {
     const DD s = Add(TwoProduct(x, x), TwoProduct(y, y));
     int e;
-    const LD m = Normalized(s.hi, e), sl = s.lo * (m / s.hi); // a power of 2: exact
+    const LD m = Normalized(s.hi, e), sl = Scaled(s.lo, -e);
     const LD* row = LnRow(m);
     constexpr LD kSplit = 4294967297.0L;
     const LD t = m * kSplit, mh = t - (t - m), ml = m - mh;
