@@ -7,6 +7,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
+#include <random>
 #include <vector>
 #include <xmmintrin.h>
 
@@ -305,6 +306,60 @@ TEST(Gamma, ReportsCarryTheElement) {
             }
     brenn_zar_kernel_SetErrorCallBack(saved);
     brenn_zar_kernel_SetInterfInputVectorPointer(nullptr);
+}
+
+// Long vectors, whose single elements the kernels take in blocks sorted by path: each
+// element as alone, in place too, and the reports (the callback's result put in) in
+// index order.
+std::vector<int> gOrder;
+int RecordOrder(ErrorRecord* r) {
+    gOrder.push_back(r->index);
+    r->r1 = 7.0;
+    return 0;
+}
+template <class T>
+void ExpectLongVectorAgrees(const char* row) {
+    std::mt19937 rng(5);
+    std::uniform_real_distribution<double> u(-40, 40);
+    std::vector<T> x(2500);
+    for (T& v : x)
+        v = T(u(rng));
+    const T marks[] = {T(-3), T(0), T(NAN), T(INFINITY), T(1e-30), T(40), T(4.1e36), T(-7.5)};
+    for (int k = 0; k < 24; ++k)
+        x[k * 101 + k % 3] = marks[k % 8];
+    for (int slot : kSlots) {
+        std::vector<T> want(x.size());
+        std::vector<int> reports;
+        {
+            ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+            for (size_t i = 0; i < x.size(); ++i) {
+                int st;
+                want[i] = Call(row, slot, x[i], &st);
+                if (st != 0) reports.push_back(int(i)), want[i] = T(7);
+            }
+        }
+        ModeScope mode(BRENN_MODE_ERRMODE_CALLBACK);
+        ErrorCallback saved = brenn_zar_kernel_SetErrorCallBack(RecordOrder);
+        for (bool inPlace : {false, true}) {
+            std::vector<T> a(x), y(x.size());
+            T* out = inPlace ? a.data() : y.data();
+            brenn_zar_kernel_SetInterfInputVectorPointer(a.data());
+            gOrder.clear();
+            K<T>(row, slot)(int(x.size()), a.data(), out);
+            EXPECT_EQ(gOrder, reports) << row << " slot " << slot;
+            for (size_t i = 0; i < x.size(); ++i)
+                ASSERT_TRUE(SameValue(out[i], want[i])) << row << " slot " << slot << " x " << x[i];
+        }
+        brenn_zar_kernel_SetErrorCallBack(saved);
+        brenn_zar_kernel_SetInterfInputVectorPointer(nullptr);
+    }
+}
+
+TEST(Gamma, LongVectorsAgreeAndReportInOrder) {
+    for (bool lg : {true, false}) {
+        ExpectLongVectorAgrees<float>(RowName<float>(lg));
+        ExpectLongVectorAgrees<double>(RowName<double>(lg));
+    }
 }
 
 // Every length and alignment, in place too: each element as the row gives it alone.

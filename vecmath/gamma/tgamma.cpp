@@ -108,6 +108,10 @@ struct TGammaBody {
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, TGamma);
     static constexpr X87Rule kX87 = X87Rule::Extended;
     static int Scalar(const T* a, T* y) { return TGammaOf(*a, y); }
+    // Single elements sorted by their path (each.h); below 32 in magnitude none but the
+    // poles and those below 2^-100 (1/x near the overflow) reports.
+    static constexpr int kBuckets = sizeof(T) == 4 ? 65 : 0;
+    static int Bucket(T x) { return FloorBucket<T, 32>(x, !(__builtin_fabs(x) >= T(0x1p-100))); }
 };
 
 } // namespace
