@@ -234,8 +234,16 @@ struct Both {
             c = CosOne(a, ShortPiRaw<L, kLarge>(a, true));
             return;
         }
-        alignas(16) int32_t J[2], K[2];
+        alignas(16) int32_t J[2];
         __m128d rh, rl;
+        Reduce<kLarge>(a, J, rh, rl);
+        TableSinCos(J, rh, rl, L == Level::HA, s, c);
+        s = Xor(s, SignBit(x));
+    }
+    // LA and HA: the reduction by the table's pi/64, J and r = rh + rl.
+    template <bool kLarge>
+    static void Reduce(__m128d a, int32_t* J, __m128d& rh, __m128d& rl) {
+        alignas(16) int32_t K[2];
         const __m128d as = kLarge ? Min(a, Set<double>(kLimit)) : a;
         if constexpr (L == Level::HA) {
             // j as in ShortD, by the double shifter; the rest in x87 arithmetic.
@@ -268,8 +276,6 @@ struct Both {
             LargeD(a, K, bh, bl);
             PickD(big, K, bh, bl, J, rh, rl);
         }
-        TableSinCos(J, rh, rl, L == Level::HA, s, c);
-        s = Xor(s, SignBit(x));
     }
     static void Eval(__m128d x, __m128d& s, __m128d& c, __m128d& special) {
         __m128d a = Abs(x);
@@ -282,9 +288,31 @@ struct Both {
     static int EvalWide(const __m128d* x, __m128d* s, __m128d* c) {
         __m128d a[8];
         if (__builtin_expect(AnyAboveD<8>(x, a, kLimitD), 0)) return EvalEach<Both, 8>(x, s, c);
+        if constexpr (L == Level::EP) {
+            ShortPiEach<L, kPiStep>(a, false, s);
+            ShortPiEach<L, kPiStep>(a, true, c);
+            BRENN_EACH(k, 8) {
+                s[k] = Xor(s[k], SignBit(x[k]));
+                c[k] = CosOne(a[k], c[k]);
+            }
+        } else if constexpr (L == Level::HA) {
+            // Register by register: four at a time measured slower (31.3 -> 33.2 ticks).
 #pragma GCC unroll 2
-        for (int k = 0; k < 8; ++k)
-            Pair<false>(x[k], a[k], s[k], c[k]);
+            for (int k = 0; k < 8; ++k)
+                Pair<false>(x[k], a[k], s[k], c[k]);
+        } else {
+            // The table steps over four registers at a time, as in Sin and Cos.
+#pragma GCC unroll 8
+            for (int g = 0; g < 8; g += kTableStep) {
+                alignas(16) int32_t J[kTableStep][2];
+                __m128d rh[kTableStep], rl[kTableStep];
+                BRENN_EACH(k, kTableStep) Reduce<false>(a[g + k], J[k], rh[k], rl[k]);
+                BRENN_EACH(k, kTableStep) {
+                    TableSinCos(J[k], rh[k], rl[k], L == Level::HA, s[g + k], c[g + k]);
+                    s[g + k] = Xor(s[g + k], SignBit(x[g + k]));
+                }
+            }
+        }
         return 0;
     }
     static int Scalar(const double* a, double* y, double* z) {
