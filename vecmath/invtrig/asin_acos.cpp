@@ -8,8 +8,9 @@
  * plus or minus u(1 + w P(w)) (common.h).
  *
  * Single EP keeps its three-term form in single (u + p(w) u); single LA runs the same
- * steps in single with a five-term series; single HA, and the pi-scaled single LA, run
- * the double steps on the widened lanes with a six-term series and narrow once. Double
+ * steps in single with a five-term series; single HA does too, with six terms, the root
+ * of h in two parts and the base joined by an exact sum; the pi-scaled single LA and HA
+ * run the double steps on the widened lanes with a six-term series and narrow once. Double
  * EP, LA and HA use 6, 12 and 13 terms; HA also corrects the square root by its exact
  * residual and joins base and main term by an exact sum. The pi-scaled rows take the
  * compensated double steps at every double level.
@@ -18,7 +19,7 @@
  * domain status, NaN itself none, |x| > 1 NaN with the domain status.
  *
  * Measured (brenn_accuracy, 250000 inputs a row), LA / HA in ulp, EP in bits: sAsin
- * 2.22 / 0.504 / 14.0, sAcos 1.21 / 0.504 / 14.9, sAsinpi 0.506 / 0.506 / 14.0, sAcospi
+ * 2.22 / 0.598 / 14.0, sAcos 1.21 / 0.607 / 14.9, sAsinpi 0.506 / 0.506 / 14.0, sAcospi
  * 0.503 / 0.503 / 14.9; dAsin 1.67 / 0.627 / 30.8, dAcos 1.16 / 0.590 / 31.8, dAsinpi
  * 0.823 / 0.740 / 30.8, dAcospi 0.661 / 0.591 / 31.8. */
 #include <cmath>
@@ -85,8 +86,6 @@ BRENN_VEC V AngleOf(V x) {
     return F == Fn::Asin ? Xor(y, sx) : y;
 }
 
-// pi/4 less its single head Quarter<float>::kHi, the tail of the single HA base.
-constexpr float kQuarterLoS = -0x1.777a5cp-26f;
 // The six-term series of the double EP steps rounded to single: its fit (2^-31.8) keeps
 // the tail's error from the fit to about 0.01 ulp of the result, where LA's five terms
 // (2^-27.6) cost up to 0.09.
@@ -127,7 +126,7 @@ BRENN_VEC __m128 AngleSingleHA(__m128 x) {
     }
     __m128 y, e;
     FastTwoSum(Mul(k, Set<float>(Q::kHi)), Xor(u, flip), y, e);
-    y = Add(y, Add(e, Add(Mul(k, Set<float>(kQuarterLoS)), Xor(l, flip))));
+    y = Add(y, Add(e, Add(Mul(k, Set<float>(kQuarterTailS)), Xor(l, flip))));
     return F == Fn::Asin ? Xor(y, sx) : y;
 }
 

@@ -157,6 +157,53 @@ BRENN_VEC __m128d AtanWide(__m128d a) {
         return Add(Add(base, q), l);
 }
 
+// Single Atan HA in single arithmetic, four lanes a register: AtanWide's folds, base and
+// signed quotient, the quotient qh by divps and its error from the exact residual, the tail
+// q*z*P(z) by the double steps' five-term series rounded to single (its fit, 2^-30.5, is
+// far below the tail's own roundings), and the base joined by the fast exact sum. Over
+// the fold's range the fast sums give a - 1 and a + 1 exactly (either the sum is exact
+// itself or 1 is the larger); the residual n - qh*d from halves of 12 bits is exact but
+// for its last rounding, and its quotient by rcpps is good to 2^-12 of a term of 2^-23 of
+// q, taken through atan's slope at q. d is held at 2^64 there: beyond, the correction is nothing to the result, and an
+// infinite d must not meet a zero.
+constexpr float kAtanSingleHA[] = {float(AtanDouble5Set::kP[0]), float(AtanDouble5Set::kP[1]),
+                                   float(AtanDouble5Set::kP[2]), float(AtanDouble5Set::kP[3]),
+                                   float(AtanDouble5Set::kP[4])};
+
+BRENN_VEC __m128 AtanSingleHA(__m128 x) {
+    using Q = Quarter<float, Unit::Radian>;
+    const __m128 one = Set<float>(1.0f);
+    const __m128 cut = AsFloat(Set<uint32_t>(0xFFFFF000u));
+    __m128 a = Abs(x);
+    __m128 over = AsFloat(Gt(AsInt(a), AsInt(Set<float>(float(kTanEighth)))));
+    __m128 above = AsFloat(Gt(AsInt(a), AsInt(Set<float>(float(kTanThreeEighths)))));
+    __m128 af = And(AndNot(above, over), a);
+    __m128 nh, nl, dh, dl;
+    FastTwoSum(Neg(one), af, nh, nl);
+    FastTwoSum(one, af, dh, dl);
+    nh = IfThenElse(over, nh, a);
+    dh = IfThenElse(above, a, dh);
+    __m128 qh = Div(nh, dh);
+    const __m128 dmax = Set<float>(0x1p64f);
+    __m128 dm = IfThenElse(AsFloat(Gt(AsInt(dh), AsInt(dmax))), dmax, dh);
+    __m128 qa = And(qh, cut), qb = Sub(qh, qa);
+    __m128 da = And(dm, cut), db = Sub(dm, da);
+    __m128 p = Mul(qh, dm);
+    __m128 pe = Add(Add(Add(Sub(Mul(qa, da), p), Mul(qa, db)), Mul(qb, da)), Mul(qb, db));
+    __m128 r = Add(Sub(Sub(nh, p), pe), Sub(nl, Mul(qh, dl)));
+    __m128 z = Mul(qh, qh);
+    // The quotient's error ql = r/d (up to an ulp or so of q) moves the angle by ql/(1 + z),
+    // taken as ql - ql*z (z^2 ql is a few hundredths of an ulp).
+    __m128 ql = Mul(r, ApproxRecip(dm));
+    ql = Sub(ql, Mul(ql, z));
+    __m128 t = Add(Mul(Mul(qh, z), Horner(z, kAtanSingleHA)), ql);
+    __m128 k = IfThenElse(above, Set<float>(2), And(over, one));
+    __m128 y, e;
+    FastTwoSum(Mul(k, Set<float>(Q::kHi)), qh, y, e);
+    y = Add(y, Add(e, Add(Mul(k, Set<float>(kQuarterTailS)), t)));
+    return Or(y, SignBit(x));
+}
+
 // The double steps on four single lanes, widened, with the short series.
 template <Unit U>
 BRENN_VEC __m128 InDouble(__m128 a, __m128 b) {
@@ -168,6 +215,8 @@ template <Unit U, Level L>
 BRENN_VEC __m128 AtanOf(__m128 x) {
     if constexpr (kInSingle<U, L>) {
         return AtanSingle<U, L>(x);
+    } else if constexpr (U == Unit::Radian) {
+        return AtanSingleHA(x);
     } else {
         __m128 a = Abs(x);
         return Or(Narrow(AtanWide<U>(WidenLower(a)), AtanWide<U>(WidenUpper(a))), SignBit(x));

@@ -39,6 +39,10 @@ struct Quarter<T, Unit::Pi> {
     static constexpr T kLo = 0;
 };
 
+// pi/4 less the single head Quarter<float, Unit::Radian>::kHi: the base's tail for the
+// single HA bodies, which join it themselves (kLo stays 0 for the other single steps).
+constexpr float kQuarterTailS = -0x1.777a5cp-26f;
+
 // 1/pi in parts, the scale of the pi-scaled rows.
 template <class T>
 struct InvPi;
