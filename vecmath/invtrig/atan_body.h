@@ -157,6 +157,30 @@ BRENN_VEC __m128d AtanWide(__m128d a) {
         return Add(Add(base, q), l);
 }
 
+// Atan's folds on a = |x|, both precisions: the lanes above tan(pi/8) and above
+// tan(3pi/8), and the signed quotient's n and d as exact pairs, a/1, (a - 1)/(a + 1) or
+// -1/a. The fast sums from -1 and 1 are exact across the fold (a - 1 is exact above 1/2)
+// and run on the fold's lanes only, the others on 0 (-1 and 1, no error; an infinity
+// must not make inf - inf).
+template <class V>
+struct AtanFold {
+    V over, above, nh, nl, dh, dl;
+};
+template <class V>
+BRENN_VEC AtanFold<V> AtanFoldOf(V a) {
+    using T = ElemOf<V>;
+    const V one = Set<T>(T(1));
+    AtanFold<V> f;
+    f.over = AsFloat(Gt(AsInt(a), AsInt(Set<T>(T(kTanEighth)))));
+    f.above = AsFloat(Gt(AsInt(a), AsInt(Set<T>(T(kTanThreeEighths)))));
+    V af = And(AndNot(f.above, f.over), a);
+    FastTwoSum(Neg(one), af, f.nh, f.nl);
+    FastTwoSum(one, af, f.dh, f.dl);
+    f.nh = IfThenElse(f.over, f.nh, a);
+    f.dh = IfThenElse(f.above, a, f.dh);
+    return f;
+}
+
 // Single Atan HA in single arithmetic, four lanes a register: AtanWide's folds, base and
 // signed quotient, the quotient qh by divps and its error from the exact residual, the tail
 // q*z*P(z) by the double steps' five-term series rounded to single (its fit, 2^-30.5, is
@@ -174,15 +198,7 @@ BRENN_VEC __m128 AtanSingleHA(__m128 x) {
     using Q = Quarter<float, Unit::Radian>;
     const __m128 one = Set<float>(1.0f);
     const __m128 cut = AsFloat(Set<uint32_t>(0xFFFFF000u));
-    __m128 a = Abs(x);
-    __m128 over = AsFloat(Gt(AsInt(a), AsInt(Set<float>(float(kTanEighth)))));
-    __m128 above = AsFloat(Gt(AsInt(a), AsInt(Set<float>(float(kTanThreeEighths)))));
-    __m128 af = And(AndNot(above, over), a);
-    __m128 nh, nl, dh, dl;
-    FastTwoSum(Neg(one), af, nh, nl);
-    FastTwoSum(one, af, dh, dl);
-    nh = IfThenElse(over, nh, a);
-    dh = IfThenElse(above, a, dh);
+    const auto [over, above, nh, nl, dh, dl] = AtanFoldOf(Abs(x));
     __m128 qh = Div(nh, dh);
     const __m128 dmax = Set<float>(0x1p64f);
     __m128 dm = IfThenElse(AsFloat(Gt(AsInt(dh), AsInt(dmax))), dmax, dh);
@@ -222,24 +238,13 @@ BRENN_VEC __m128 AtanOf(__m128 x) {
         return Or(Narrow(AtanWide<U>(WidenLower(a)), AtanWide<U>(WidenUpper(a))), SignBit(x));
     }
 }
-// Double Atan LA and HA, compensated, on a = |x| with AtanWide's one signed quotient:
-// a/1, (a - 1)/(a + 1) or -1/a, and the base of 0, 1 or 2 quarter turns; no swap, no
-// flip. The fast sums from -1 and 1 are exact across the fold (a - 1 is exact above 1/2)
-// and run on the fold's lanes only, the others on 0 (-1 and 1, no error; an infinity
-// must not make inf - inf). The residual is AngleOf's with b = 1; the sign goes back on
-// at the end.
+// Double Atan LA and HA, compensated, on a = |x| with AtanWide's one signed quotient
+// (AtanFoldOf) and the base of 0, 1 or 2 quarter turns; no swap, no flip. The residual is
+// AngleOf's with b = 1; the sign goes back on at the end.
 template <Unit U>
 BRENN_VEC __m128d AtanUnit(__m128d x) {
     const __m128d one = Set<double>(1.0);
-    __m128d a = Abs(x);
-    __m128d over = AsFloat(Gt(AsInt(a), AsInt(Set<double>(kTanEighth))));
-    __m128d above = AsFloat(Gt(AsInt(a), AsInt(Set<double>(kTanThreeEighths))));
-    __m128d af = And(AndNot(above, over), a);
-    __m128d nh, nl, dh, dl;
-    FastTwoSum(Neg(one), af, nh, nl);
-    FastTwoSum(one, af, dh, dl);
-    nh = IfThenElse(over, nh, a);
-    dh = IfThenElse(above, a, dh);
+    const auto [over, above, nh, nl, dh, dl] = AtanFoldOf(Abs(x));
     __m128d q = Div(nh, dh);
     __m128d l = AtanDouble11::Tail(Mul(q, q), q);
     // nh - q*dh by halves cut at 26 bits (AngleOf); d above 2^510 only with q below
