@@ -1,7 +1,7 @@
 // Pow and Powx of complex vectors: the special cells against the C library's cpow, the
 // cases where a^b must come out exact or on the principal branch, values whose
 // exponent needs more than extended precision, Powx as Pow with one exponent, the
-// statuses of a zero base, and the caller's x87 control word.
+// statuses of a zero base, and the caller's x87 control word and MXCSR.
 #include <gtest/gtest.h>
 #include <limits>
 #include <vector>
@@ -202,6 +202,28 @@ TEST(ComplexPow, OneKernelWhateverTheCallersPrecision) {
     frame::LoadX87ControlWord(saved);
     for (int i = 0; i < 4; ++i)
         EXPECT_TRUE(SameParts(y[i], w[i])) << "element " << i;
+}
+
+// Single elements, partly computed in SSE, do not depend on the caller's MXCSR: rounding toward
+// zero with FTZ and DAZ, or every SSE exception unmasked (which must not trap), give the
+// results of the default control within an ulp, and the control word comes back as set.
+TEST(ComplexPow, SingleResultsWhateverTheCallersMxcsr) {
+    const C a[] = {{0.5f, 0.25f}, {-3, 2}, {0.999f, 0.04f}, {3.5f, -1.25f}};
+    const C b[] = {{1.5f, -0.5f}, {-16, 10}, {7, -2}, {0.1f, 3}};
+    const auto pow = As<Binary<C>>(CxRaw(frame::Row_cPow, frame::SlotHA));
+    C y[4], w[4];
+    pow(4, a, b, y);
+    const uint32_t saved = frame::ReadCsr();
+    for (uint32_t csr : {(saved | 0x6000u | frame::kCsrFlushBits) & ~0x3Fu, 0x0000u}) {
+        frame::LoadCsr(csr);
+        pow(4, a, b, w);
+        const uint32_t after = frame::ReadCsr() & ~0x3Fu;
+        frame::LoadCsr(saved);
+        EXPECT_EQ(after, csr);
+        for (int i = 0; i < 4; ++i)
+            EXPECT_TRUE(Close(w[i].re, y[i].re, 0x1p-23) && Close(w[i].im, y[i].im, 0x1p-23))
+                << "element " << i << " csr " << std::hex << csr;
+    }
 }
 
 } // namespace

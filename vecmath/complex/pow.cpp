@@ -38,7 +38,6 @@
  * ext_elem.h around C's complex product, which recovers infinities (cexp's domain error
  * for an infinite imaginary part is reported, status 1). NaNs come out quiet. */
 #include <math.h>
-#include <xmmintrin.h>
 
 #include "vecmath/complex/ext_elem.h"
 #include "vecmath/complex/extended.h"
@@ -352,12 +351,6 @@ inline void SinCosReduced(LD r, LD& s, LD& c) {
     return Scaled(row[0] + (row[0] * p + row[1]), (n - j) / 64);
 }
 
-// Whether every SSE exception is masked, as the kernel leaves the caller's MXCSR as it is:
-// with one unmasked the double forms below would trap where the x87 ones do not.
-inline bool SseMasked() {
-    return (_mm_getcsr() & 0x1f80) == 0x1f80;
-}
-
 // sin and cos of |r| <= 1 in double by their Taylor series to r^13 and r^14: relative
 // truncation below 2^-40 at 1 and 2^-45 within pi/4, rounding a few double ulps.
 inline void SinCosD(double r, double& s, double& c) {
@@ -400,12 +393,11 @@ inline void Turn(long long j, T& s, T& c) {
 // modulus. For a single element whose modulus and angle double reaches (|Re w| < 700,
 // the rest at most 1), both in double: the products are within a few double ulps, and
 // the one rounding to single makes the result's error (once Re w and the angle are
-// within the bounds above); the caller's rounding mode and FTZ move them by a double ulp or
-// two at most. Else (and with an SSE exception unmasked), and for a double element, in
-// extended.
+// within the bounds above); the kernel's entry rule gives SSE round to nearest with every
+// exception masked. Else, and for a double element, in extended.
 template <int P>
 [[gnu::always_inline]] inline void Compose(const DD& e, const Angle& an, LD& re, LD& im) {
-    if (P == 24 && fabsl(e.hi) < 700 && fabsl(an.r) <= 1 && SseMasked()) {
+    if (P == 24 && fabsl(e.hi) < 700 && fabsl(an.r) <= 1) {
         const double m = ExpScalarCore(double(e.hi));
         double s, c;
         SinCosD(double(an.r), s, c);
