@@ -219,8 +219,8 @@ DD LnAbs(LD x, LD y) {
         (-0.5L +
          q * (1 / 3.0L +
               q * (-0.25L +
-                   q * (0.2L + q * (-1 / 6.0L + q * (1 / 7.0L +
-                                                      q * (-0.125L + q * (1 / 9.0L - q * 0.1L))))))));
+                   q * (0.2L + q * (-1 / 6.0L +
+                                    q * (1 / 7.0L + q * (-0.125L + q * (1 / 9.0L - q * 0.1L))))))));
     const DD h = TwoSum(e * kLn2A, row[1]), g = TwoSum(h.hi, q); // e kLn2A exact
     const DD ln = FastTwoSum(g.hi, g.lo + (h.lo + (e * kLn2B + row[2] + r.lo + rest)));
     *err = fabsl(q) * 0x1p-73L + 0x1p-80L + fabsl(LD(e)) * 0x1p-110L;
@@ -263,7 +263,8 @@ DD AtanRatio(LD num, LD den) {
     // t - t^3/3 + t^5 (1/5 - t^2/7 + t^4/9 - t^6/11)
     const LD tail = t2.hi * t.hi * v * (0.2L - v * (1 / 7.0L - v * (1 / 9.0L - v * (1 / 11.0L))));
     const DD cube = Mul(Mul(t2, t), kThirdDD);
-    return Add(Add(Add(t, DD{-cube.hi, -cube.lo}), tail), DD{kPowAtanRows[j][0], kPowAtanRows[j][1]});
+    return Add(Add(Add(t, DD{-cube.hi, -cube.lo}), tail),
+               DD{kPowAtanRows[j][0], kPowAtanRows[j][1]});
 }
 
 // arg a of finite parts, not both zero, as k eighth turns (|k| <= 4) and sg atan(t),
@@ -345,8 +346,9 @@ inline void SinCosReduced(LD r, LD& s, LD& c) {
     const int n = int(nf), j = n & 63;
     const LD r = (w - nf * kLn2o64A) - nf * kLn2o64B;
     const LD p =
-        r * (1 + r * (0.5L + r * (1 / 6.0L + r * (1 / 24.0L + r * (1 / 120.0L +
-                                                                  r * (1 / 720.0L + r * (1 / 5040.0L)))))));
+        r * (1 + r * (0.5L + r * (1 / 6.0L +
+                                  r * (1 / 24.0L +
+                                       r * (1 / 120.0L + r * (1 / 720.0L + r * (1 / 5040.0L)))))));
     const LD* row = kPowExpRows[j];
     return Scaled(row[0] + (row[0] * p + row[1]), (n - j) / 64);
 }
@@ -358,13 +360,13 @@ inline void SinCosD(double r, double& s, double& c) {
     s = r + r * r2 *
                 (-1 / 6.0 +
                  r2 * (1 / 120.0 +
-                       r2 * (-1 / 5040.0 +
-                             r2 * (1 / 362880.0 + r2 * (-1 / 39916800.0 + r2 * (1 / 6227020800.0))))));
+                       r2 * (-1 / 5040.0 + r2 * (1 / 362880.0 + r2 * (-1 / 39916800.0 +
+                                                                      r2 * (1 / 6227020800.0))))));
     c = 1 + r2 * (-0.5 + r2 * (1 / 24.0 +
                                r2 * (-1 / 720.0 +
-                                     r2 * (1 / 40320.0 +
-                                           r2 * (-1 / 3628800.0 +
-                                                 r2 * (1 / 479001600.0 - r2 * (1 / 87178291200.0)))))));
+                                     r2 * (1 / 40320.0 + r2 * (-1 / 3628800.0 +
+                                                               r2 * (1 / 479001600.0 -
+                                                                     r2 * (1 / 87178291200.0)))))));
 }
 
 // (s, c) turned by j quarter turns.
