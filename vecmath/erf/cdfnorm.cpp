@@ -3,12 +3,15 @@
  *
  * The grid j/64 of cdfNormRows up to 38.5 holds Q(x) = Phi(-x) (tail_body.h,
  * grid_core.h): Phi(x) = Q(|x|) for negative x, and 1 - Q(x) for positive x, held at
- * 8.5, from where it is 1 to the last bit. Lanes from |x| = 37.5 (double) or 12.9375
- * (single), where the result may leave the normal range, and NaNs and infinities, go to
- * the scalar routine, which reports status 4 for a result below the least normal (+0
- * from -38.5 down). Double LA and HA run tail_double.h's body (fitted series; HA adds
- * up in two parts, LA with the row's remainder), EP adds up plainly; single HA runs in
- * double on the widened lanes, single LA and EP on single lanes (grid_single.h). */
+ * 8.5, from where it is 1 to the last bit. Double: lanes from |x| = 37.5, where the
+ * result may leave the normal range, and NaNs and infinities, go to the scalar routine,
+ * which reports status 4 for a result below the least normal (+0 from -38.5 down); LA
+ * and HA run tail_double.h's body (fitted series; HA adds up in two parts, LA with the
+ * row's remainder), EP adds up plainly. Single: NaNs and infinities are the special
+ * lanes; results from -12.95 down (denormals, zeros from -14.1) come from the lanes and
+ * are reported with status 4 by the frame, and 1 on the positive side likewise
+ * (tail_body.h); HA in double on the widened lanes, LA and EP on single lanes
+ * (grid_single.h). */
 #include "frame/kernels.h"
 #include "vecmath/erf/tail_body.h"
 #include "vecmath/erf/tail_double.h"
@@ -32,12 +35,9 @@ struct CdfNormFn {
     static constexpr bool kTailPositive = false;
     static constexpr const char* kNameS = ZAR_ERROR_NAME(sCdfNorm);
     static constexpr const char* kNameD = ZAR_ERROR_NAME(dCdfNorm);
-    template <class T>
+    template <class T> // double
     static constexpr LaneRange<T> Window() {
-        if constexpr (sizeof(T) == 4)
-            return {0x7FFFFFFFu, 0u, 0x414F0000u - 1}; // 12.9375: Phi < 2^-126 below -12.95
-        else
-            return LaneRange<T>{0x7FFFFFFFFFFFFFFFull, 0u, 0x4042C00000000000ull - 1}; // 37.5
+        return LaneRange<T>{0x7FFFFFFFFFFFFFFFull, 0u, 0x4042C00000000000ull - 1}; // 37.5
     }
     // Terms left out below 2^-29 of the result in double EP, 2^-30, 2^-27, 2^-15 in single.
     template <class T, Level L>

@@ -2,11 +2,13 @@
  *
  * The grid j/128 of erfcRows up to 27.2421875 (tail_body.h, grid_core.h): erfc(|x|) on
  * the row and its series; for negative x, 2 - erfc(|x|), held at |x| = 6, from where it
- * is 2 to the last bit. Lanes from |x| = 26.5 (double) or 9.1875 (single), where the
- * result may leave the normal range, and NaNs and infinities, go to the scalar routine,
- * which reports status 4 for a result below the least normal (+0 from 27.2421875 on).
- * Double runs tail_double.h's body (fitted series, two parts, 0.5x ulp); single HA in
- * double on the widened lanes, single LA and EP on single lanes (grid_single.h). */
+ * is 2 to the last bit. Double: lanes from |x| = 26.5, where the result may leave the
+ * normal range, and NaNs and infinities, go to the scalar routine, which reports status
+ * 4 for a result below the least normal (+0 from 27.2421875 on); tail_double.h's body
+ * (fitted series, two parts, 0.5x ulp). Single: NaNs and infinities are the special
+ * lanes, results from 9.19 on (denormals, zeros from 10.1) come from the lanes and are
+ * reported with status 4 by the frame (tail_body.h); HA in double on the widened lanes,
+ * LA and EP on single lanes (grid_single.h). */
 #include "frame/kernels.h"
 #include "vecmath/erf/tail_body.h"
 #include "vecmath/erf/tail_double.h"
@@ -30,12 +32,9 @@ struct ErfcFn {
     static constexpr bool kTailPositive = true;
     static constexpr const char* kNameS = ZAR_ERROR_NAME(sErfc);
     static constexpr const char* kNameD = ZAR_ERROR_NAME(dErfc);
-    template <class T>
+    template <class T> // double
     static constexpr LaneRange<T> Window() {
-        if constexpr (sizeof(T) == 4)
-            return {0x7FFFFFFFu, 0u, 0x41130000u - 1}; // |x| from 9.1875
-        else
-            return LaneRange<T>{0x7FFFFFFFFFFFFFFFull, 0u, 0x403A800000000000ull - 1}; // 26.5
+        return LaneRange<T>{0x7FFFFFFFFFFFFFFFull, 0u, 0x403A800000000000ull - 1}; // 26.5
     }
     // Terms left out below 2^-30, 2^-27, 2^-15 of the result (single).
     template <class T, Level L>

@@ -10,11 +10,16 @@
  *   Cut<T, L>        the series cut by precision and level (the sum is plain: the
  *                    two-part sums of double LA/HA are tail_double.h's);
  *   kNameS, kNameD   the public error names.
- * The scalar routine: a NaN comes back quieted; beyond the tail limit the result is +0
- * with status 4 (exact and no status for an infinity); otherwise the grid's value on one
- * lane, rounded to T, with status 4 when it is below T's least normal. Single HA runs
- * in double on the widened lanes and rounds once, single LA and EP on single lanes
- * (grid_single.h); their scalar routine takes the double form. */
+ * Single: only NaNs and infinities are special lanes (their scalar routine gives the
+ * quieted NaN, or the function's limit); every finite lane runs the grid, the rows of
+ * the underflow band included (denormal and zero results, which the frame reports with
+ * status 4: kUnderflowLanes). HA runs in double on the widened lanes and rounds once;
+ * LA and EP run on single lanes (grid_single.h), where a row's value and derivative are
+ * denormals in the band and the result comes to within about 2 ulp of a denormal.
+ * Double (dCdfNorm EP): the window's lanes go to the scalar routine: a NaN comes back
+ * quieted; beyond the tail limit the result is +0 with status 4 (exact and no status
+ * for an infinity); otherwise the grid's value on one lane, with status 4 when it is
+ * below the least normal. */
 #ifndef BRENN_VECMATH_ERF_TAIL_BODY_H
 #define BRENN_VECMATH_ERF_TAIL_BODY_H
 
@@ -49,23 +54,48 @@ inline int TailScalar(const T* a, T* y) {
     return r < (sizeof(T) == 4 ? FLT_MIN : DBL_MIN) ? status::kUnderflow : status::kNone;
 }
 
+// Non-negative double lanes to single, a result below the least normal rounded once to
+// the denormal grid as an integer (a conversion with a denormal result costs an assist).
+BRENN_VEC __m128 NarrowKeepingDenormals(__m128d lo, __m128d hi) {
+    const __m128d least = Set<double>(0x1p-126), toGrid = Set<double>(0x1p149);
+    __m128 y = Narrow(Max(lo, least), Max(hi, least));
+    I64x2 dlo = BitCast<I64x2>(RoundToInt(Mul(Min(lo, least), toGrid)));
+    I64x2 dhi = BitCast<I64x2>(RoundToInt(Mul(Min(hi, least), toGrid)));
+    __m128 denormal = AsFloat(BitCast<I32x4>(InterleaveLower(dlo, dhi)));
+    return IfThenElse(Le(y, Set<float>(0x1p-126f)), denormal, y);
+}
+
 template <class Fn, class Tp, Level L>
 struct TailBody {
     using T = Tp;
     using V = Vec<T>;
     static constexpr const char* kName = sizeof(T) == 4 ? Fn::kNameS : Fn::kNameD;
+    static constexpr bool kUnderflowLanes = sizeof(T) == 4;
     static V Eval(V x, V& special) {
-        special = RangeTest(x, Fn::template Window<T>());
+        if constexpr (sizeof(T) == 4)
+            special = RangeTest(x, Range32{0x7FFFFFFFu, 0u, 0x7F7FFFFFu}); // NaN, infinity
+        else
+            special = RangeTest(x, Fn::template Window<T>());
         // Special lanes run at 0 here: no NaN or infinity reaches the arithmetic.
         V xs = IfThenElse(special, Zero<T>(), x);
         if constexpr (sizeof(T) == 4 && L != Level::HA)
-            return GridEvalSingle<typename Fn::Grid, Fn::template Cut<T, L>()>(xs);
+            return GridEvalSingle<typename Fn::Grid, Fn::template Cut<T, L>(), true>(xs);
         else if constexpr (sizeof(T) == 4)
-            return Narrow(TailEval<Fn, T, L>(WidenLower(xs)), TailEval<Fn, T, L>(WidenUpper(xs)));
+            return NarrowKeepingDenormals(TailEval<Fn, T, L>(WidenLower(xs)),
+                                          TailEval<Fn, T, L>(WidenUpper(xs)));
         else
             return TailEval<Fn, T, L>(xs);
     }
-    static int Scalar(const T* a, T* y) { return TailScalar<Fn, T, L>(a, y); }
+    static int Scalar(const T* a, T* y) {
+        if constexpr (sizeof(T) == 4) {
+            float x = *a;
+            bool tail = (x > 0) == Fn::kTailPositive;
+            *y = __builtin_isnan(x) ? x + x : tail ? 0.0f : float(Fn::Grid::kMirror);
+            return status::kNone;
+        } else {
+            return TailScalar<Fn, T, L>(a, y);
+        }
+    }
 };
 
 } // namespace brenn::vm
