@@ -250,6 +250,14 @@ TEST(ErfRows, UnderflowLanesReportedInOrder) {
     }
 }
 
+// With denormals flushed by the mode, the band's results are 0, still with status 4.
+TEST(ErfRows, FlushModeGivesZeroInTheBand) {
+    brenn_zar_kernel_SetMode(BRENN_MODE_FTZDAZ_ON);
+    ExpectEdges<float>({{Fn::Erfc, 9.5f, 0.0f, 4}, {Fn::CdfNorm, -13.5f, 0.0f, 4}});
+    brenn_zar_kernel_SetMode(BRENN_MODE_FTZDAZ_OFF);
+    ExpectEdges<float>({{Fn::Erfc, 9.5f, kDenormal, 4}, {Fn::CdfNorm, -13.5f, kDenormal, 4}});
+}
+
 // The EP body reads the table's rows as they stand: at x = 1/128 the result is row 1's
 // value, and below the first step D*x is row 0's derivative times x.
 TEST(ErfRows, FirstTableRowsAsPrinted) {

@@ -42,6 +42,12 @@ BRENN_VEC void GridRowsSingle(const double (*rows)[W], I32x4 index, __m128& v, _
     deriv = _mm_movehl_ps(r23, r01);
 }
 
+// A denormal made from its bits, as arithmetic would give it: 0 when the kernel runs
+// with denormals flushed (under DAZ the maximum reads it as 0; Max raises no assist).
+BRENN_VEC __m128 AsArithmeticDenormal(I32x4 bits) {
+    return Max(AsFloat(bits), Zero<float>());
+}
+
 // r = F * 2^100 (F >= 0) back to F: below 2^-26 (F below 2^-126), F's denormal bits are
 // r * 2^49 rounded to an integer.
 BRENN_VEC __m128 UnscaleSingle(__m128 r) {
@@ -49,7 +55,7 @@ BRENN_VEC __m128 UnscaleSingle(__m128 r) {
     const __m128 least = Set<float>(0x1p-26f);
     I32x4 denormal = RoundToInt(Mul(Min(r, least), Set<float>(0x1p49f)));
     I32x4 normal = Sub(AsInt(r), Set<int32_t>(kSingleScale << 23));
-    return IfThenElse(Lt(r, least), AsFloat(denormal), AsFloat(normal));
+    return IfThenElse(Lt(r, least), AsArithmeticDenormal(denormal), AsFloat(normal));
 }
 
 template <class G, SeriesCut C, bool kScaled = false>

@@ -61,7 +61,7 @@ BRENN_VEC __m128 NarrowKeepingDenormals(__m128d lo, __m128d hi) {
     __m128 y = Narrow(Max(lo, least), Max(hi, least));
     I64x2 dlo = BitCast<I64x2>(RoundToInt(Mul(Min(lo, least), toGrid)));
     I64x2 dhi = BitCast<I64x2>(RoundToInt(Mul(Min(hi, least), toGrid)));
-    __m128 denormal = AsFloat(BitCast<I32x4>(InterleaveLower(dlo, dhi)));
+    __m128 denormal = AsArithmeticDenormal(BitCast<I32x4>(InterleaveLower(dlo, dhi)));
     return IfThenElse(Le(y, Set<float>(0x1p-126f)), denormal, y);
 }
 
