@@ -34,9 +34,6 @@
 namespace brenn::vm::trig {
 namespace {
 
-#ifndef LAFORM
-#define LAFORM 0
-#endif
 constexpr double kLimit = 0x1p24; // the table's short reduction below, the large above
 constexpr uint64_t kLimitD = std::bit_cast<uint64_t>(kLimit);
 
