@@ -5,7 +5,8 @@
  * by integer addition on the exponent field of 0.5; S(r) ~ sinh r and C(r) ~ cosh r - 1;
  * with P = e1 + e2 and M = e1 - e2, cosh = P + (C*P + M*S) and sinh = M + (C*M + P*S),
  * x's sign OR-ed back. LA has the longer pair, EP the shorter one.
- * Single HA: the same body in double on widened lanes (hyper_core.h), with longer pairs.
+ * Single HA: one reduction by ln2/64 and a table row of 2^(j/64) and 2^(-j/64) a lane, in
+ * single arithmetic with the leading sum split exactly (HyperSingleHA below).
  * Double: the halves of e^a from the exponential's table of 64 (hyper_core.h); HA sums the
  * heads exactly.
  * Range test on |x|: from 87.3365 (single) or 708 (double) up, and infinities and NaN, to
@@ -18,6 +19,7 @@
 #include "vecmath/frame/level.h"
 #include "vecmath/hyper/hyper_core.h"
 #include "vecmath/hyper/hyper_scalar.h"
+#include "vecmath/hyper/hyper_tables.h"
 
 namespace brenn::vm {
 namespace {
@@ -27,7 +29,7 @@ struct CoshWindow;
 template <>
 struct CoshWindow<float> {
     static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x42AEAC4Du}; // |x| >= 87.3365326
-    // The same and |x| below the normals: the single HA Sinh, which runs in double, leaves
+    // The same and |x| below the normals: the single HA Sinh leaves
     // denormals to the scalar routine for their underflow flag.
     static constexpr Range32 kWithDenormals = {0x7FFFFFFFu, 0x7F800000u, 0xC22EAC4Du};
 };
@@ -94,14 +96,72 @@ inline __m128d HalvesPath(__m128d a) {
         return Sum(SinhOf<false, SinhSeriesLA>(a, h));
 }
 
+// Single HA, in single arithmetic: e^a and e^-a from one reduction by ln2/64 and one
+// table row a lane. n = rint(a*64/ln2) = 64*m + j, r = a - n*ln2/64 (|r| <= ln2/128, two
+// parts of ln2/64, the head's nine bits making n*head and a - n*head exact), and
+// A = e^a/2 = 2^(m-1)*T[j]*e^r, B = e^-a/2 = 2^(-m-1)*U[j]*e^-r with T = 2^(j/64) and
+// U = 2^(-j/64) in two singles each (hyperExpRowsS). With e^+-r = 1 + E +- O, E ~ cosh r - 1
+// and O ~ sinh r, and Ah, Bh the scaled heads (exact):
+//   cosh a = (Ah + Bh) + [(Al + Bl) + (Ah + Bh)*E + (Ah - Bh)*O],
+//   sinh a = (Ah - Bh) + [(Al - Bl) + (Ah - Bh)*E + (Ah + Bh)*O],
+// the leading sum split exactly (Ah >= Bh), so that the bracket, under 1 % of the result,
+// carries the only other roundings. Sinh takes n = 0 below 1/8, where the leading
+// difference would cancel: there the result is O alone, fitted on [0, 1/8]
+// (tools/hyper/sinh_single_ha.sollya, 2^-33.75); elsewhere E = r^2/2 and O = r + r^3/6
+// (the next terms below 2^-34). B's power is held at 2^-61 and up, which keeps B and
+// its tail normal where they no longer count.
+constexpr float kInvStepS = 0x1.715476p+6f;   // 64/ln2, 92.3324814
+constexpr float kStepHiS = 0x1.63p-7f;        // ln2/64, head: 0.0108337402
+constexpr float kStepLoS = -0x1.bd0106p-19f;  // and the rest: -3.31553815e-06
+constexpr float kSinhSmallHA[] = {0x1.555554p-3f, 0x1.112ddap-7f};
+constexpr uint32_t kSinhSmallEndHA = 0x3E000000u; // 0.125
+
+template <Fn F>
+inline __m128 HyperSingleHA(__m128 a) {
+    const __m128 shifter = Set<float>(Format<float>::kShifter);
+    __m128 an = a;
+    if constexpr (F == Fn::Sinh) // n = 0 below 1/8
+        an = IfThenZeroElse(AsFloat(Gt(Set<uint32_t>(kSinhSmallEndHA), AsInt(a))), a);
+    __m128 t = Add(Mul(an, Set<float>(kInvStepS)), shifter);
+    __m128 n = Sub(t, shifter);
+    __m128 r = Sub(Sub(a, Mul(n, Set<float>(kStepHiS))), Mul(n, Set<float>(kStepLoS)));
+    Indices i = IndicesOf(AsInt(t));
+    __m128 th, tl, uh, ul;
+    LoadTransposed(hyperExpRowsS[i.at[0] & 63], hyperExpRowsS[i.at[1] & 63],
+                   hyperExpRowsS[i.at[2] & 63], hyperExpRowsS[i.at[3] & 63], th, tl, uh, ul);
+    // m in the exponent field: the shifter's bits leave the word.
+    I32x4 mf = ShiftLeft<Format<float>::kMantBits>(ShiftRight<6>(AsInt(t)));
+    const I32x4 half = Set<uint32_t>(0x3F000000u);
+    __m128 e1 = AsFloat(Add(half, mf));
+    __m128 e2 = AsFloat(Max(Sub(half, mf), Set<int32_t>(0x21000000))); // 2^-61 and up
+    __m128 ah = Mul(e1, th), al = Mul(e1, tl);
+    __m128 bh = Mul(e2, uh), bl = Mul(e2, ul);
+    __m128 r2 = Mul(r, r);
+    __m128 e = Mul(r2, Set<float>(0.5f));
+    __m128 o;
+    if constexpr (F == Fn::Sinh)
+        o = Add(r, Mul(Mul(r, r2), Horner(r2, kSinhSmallHA)));
+    else
+        o = Add(r, Mul(Mul(r, r2), Set<float>(0x1.555556p-3f)));
+    __m128 s, err, other, tails;
+    if constexpr (F == Fn::Cosh) {
+        FastTwoSum(ah, bh, s, err);
+        other = Sub(ah, bh);
+        tails = Add(al, bl);
+    } else {
+        FastTwoSum(ah, Neg(bh), s, err);
+        other = Add(ah, bh);
+        tails = Sub(al, bl);
+    }
+    __m128 lo = Add(Add(err, tails), Add(Mul(s, e), Mul(other, o)));
+    return Add(s, lo);
+}
+
 template <Fn F, Level L>
 inline __m128 HyperOf(__m128 a) {
-    if constexpr (L == Level::HA) {
-        __m128d s0, c0, s1, c1;
-        SinhCoshWide(WidenLower(a), s0, c0);
-        SinhCoshWide(WidenUpper(a), s1, c1);
-        return F == Fn::Cosh ? Narrow(c0, c1) : Narrow(s0, s1);
-    } else
+    if constexpr (L == Level::HA)
+        return HyperSingleHA<F>(a);
+    else
         return BothExps<F, L>(a);
 }
 template <Fn F, Level L>

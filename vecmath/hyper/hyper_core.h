@@ -4,8 +4,7 @@
  * and -n = 64*m' + j' gives B = 2^(m'-1)*T[j']*(1 + p(-r)), each as a head (the scaled
  * table value, exact) and a tail. Cosh is A + B, Sinh A - B, and Tanh their quotient.
  * Below 1/2 Sinh (and the numerator of Tanh) take the odd series instead, since A - B
- * cancels there. Also the single rows' HA path, which runs the same core on widened
- * lanes. */
+ * cancels there. */
 #ifndef BRENN_VECMATH_HYPER_HYPER_CORE_H
 #define BRENN_VECMATH_HYPER_HYPER_CORE_H
 
@@ -17,7 +16,7 @@ namespace brenn::vm {
 
 // sinh(x) ~ x + x^3*P(x^2) on |x| <= 1/2, the coefficients of P from
 // tools/hyper/sinh_double.sollya: HA (2^-58 in the result) and LA (2^-53), the LA set
-// also serving EP and the single HA path.
+// also serving EP.
 struct SinhSeriesHA {
     static constexpr double kC[] = {0x1.5555555555555p-3,  0x1.11111111112c7p-7,
                                     0x1.a01a019f7adb3p-13, 0x1.71de3bd757e7p-19,
@@ -117,7 +116,8 @@ inline Pair CoshOf(const ExpHalves& h) {
     return c;
 }
 
-// sinh a for a >= 0: the series below 1/2, A - B above, as a head and a tail.
+// sinh a for a >= 0: the series below 1/2, A - B above, as a head and a tail. The series
+// runs only in a register that has a lane below 1/2.
 template <bool exact, class Series>
 inline Pair SinhOf(__m128d a, const ExpHalves& h) {
     Pair s;
@@ -130,8 +130,10 @@ inline Pair SinhOf(__m128d a, const ExpHalves& h) {
         s.lo = Sub(h.al, h.bl);
     }
     __m128d small = Lt(a, Set<double>(kSinhSeriesEnd));
-    s.hi = IfThenElse(small, a, s.hi);
-    s.lo = IfThenElse(small, SinhSeriesTail<Series>(a), s.lo);
+    if (MaskBits(small)) {
+        s.hi = IfThenElse(small, a, s.hi);
+        s.lo = IfThenElse(small, SinhSeriesTail<Series>(a), s.lo);
+    }
     return s;
 }
 
@@ -144,36 +146,6 @@ inline __m128d Sum(const Pair& p) {
 // is 0).
 inline __m128d RecipEstimate(__m128d v) {
     return WidenLower(ApproxRecip(Narrow(v, v)));
-}
-
-// The single HA rows' path: the both-exponentials body of the single LA rows run in double
-// on widened lanes, a in [0, 88], without a table: n = rint(a*log2e), r = a - n*ln2 (ln 2
-// in the logarithm's two parts), the scales 2^(n-1) and 2^(-n-1) from n's word, and
-// S ~ sinh r, C ~ cosh r - 1 fitted by tools/hyper/cosh_sinh_wide.sollya (about 2^-35
-// and 2^-30 relative, far below a single ulp).
-struct BothExpsWide {
-    static constexpr double kLog2e = 0x1.71547652b82fep+0;
-    static constexpr double kLn2Hi = 0x1.62e42fefa38p-1, kLn2Lo = 0x1.ef35793c7673p-45;
-    static constexpr double kS[] = {0x1.5555555a74e9p-3, 0x1.1110e10498f3dp-7,
-                                    0x1.a124c7f15da34p-13};
-    static constexpr double kC[] = {0.5, 0x1.55553d521536cp-5, 0x1.6cded6f00c3b6p-10};
-};
-
-// sinh a and cosh a for a in [0, 88].
-inline void SinhCoshWide(__m128d a, __m128d& sinh, __m128d& cosh) {
-    using K = BothExpsWide;
-    const __m128d shifter = Set<double>(Format<double>::kShifter);
-    __m128d t = Add(Mul(a, Set<double>(K::kLog2e)), shifter);
-    __m128d n = Sub(t, shifter);
-    __m128d r = Sub(Sub(a, Mul(n, Set<double>(K::kLn2Hi))), Mul(n, Set<double>(K::kLn2Lo)));
-    I32x4 nw = BitCast<I32x4>(t); // n in each lane's low word
-    __m128d e1 = HalfPower(nw), e2 = HalfPower(Sub(Set<int32_t>(0), nw));
-    __m128d r2 = Mul(r, r);
-    __m128d s = Add(r, Mul(Mul(r, r2), Horner(r2, K::kS)));
-    __m128d c = Mul(r2, Horner(r2, K::kC));
-    __m128d p = Add(e1, e2), m = Sub(e1, e2);
-    cosh = Add(p, Add(Mul(c, p), Mul(m, s)));
-    sinh = Add(m, Add(Mul(c, m), Mul(p, s)));
 }
 
 } // namespace brenn::vm
