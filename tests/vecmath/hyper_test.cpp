@@ -281,7 +281,8 @@ void ExpectRowLanesAgree(Fn f) {
     const T pool[] = {T(0.1),  T(-2.5), T(0.02),  T(-9.7),   T(11),       T(-0.5),
                       T(3.75), T(88.9), T(-95),   T(1e-30),  T(INFINITY), T(NAN),
                       T(-0.0), T(0.34), T(21.49), T(-709.9), T(5e-3),     T(-1.0),
-                      T(1.5),  T(0.99), T(1.0),   T(-1e30),  T(1.0001),   T(3e9)};
+                      T(1.5),  T(0.99), T(1.0),   T(-1e30),  T(1.0001),   T(3e9),
+                      T(30),   T(-25),  T(0.7)};
     constexpr int n = sizeof(pool) / sizeof(pool[0]);
     for (int slot : kSlots) {
         T one[n];

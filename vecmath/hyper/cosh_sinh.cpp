@@ -83,17 +83,25 @@ inline __m128 BothExps(__m128 a) {
 
 // The double path on a = |x| in [0, 708]: HA exact sums, HA and LA the degree-5 tail
 // (its 2^-51.25 relative to e^r - 1 is below 2^-58 of e^r), EP the degree 4 (Sinh's EP
-// is its LA kernel).
+// is its LA kernel). From 21.49 on, where e^-a is below the last bit of e^a (as in the
+// scalar routine), a lane takes A = e^a/2 alone: a register with both lanes there skips
+// B, and one with a lane on each side blends A in.
 template <Fn F, Level L>
 inline __m128d HalvesPath(__m128d a) {
     constexpr ExpDegree D = L == Level::EP ? ExpDegree::Four : ExpDegree::Five;
+    const __m128d both = Lt(a, Set<double>(kOneExpEnough));
+    const int bits = MaskBits(both);
+    if (!bits) return HalfExpOf<D>(a);
     ExpHalves h = HalvesOf<D>(a);
+    __m128d y;
     if constexpr (F == Fn::Cosh)
-        return Sum(CoshOf<L == Level::HA>(h));
+        y = Sum(CoshOf<L == Level::HA>(h));
     else if constexpr (L == Level::HA)
-        return Sum(SinhOf<true, SinhSeriesHA>(a, h));
+        y = Sum(SinhOf<true, SinhSeriesHA>(a, h));
     else
-        return Sum(SinhOf<false, SinhSeriesLA>(a, h));
+        y = Sum(SinhOf<false, SinhSeriesLA>(a, h));
+    if (bits != 3) y = IfThenElse(both, y, Add(h.ah, h.al));
+    return y;
 }
 
 // Single HA, in single arithmetic: e^a and e^-a from one reduction by ln2/64 and one

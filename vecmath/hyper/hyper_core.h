@@ -61,24 +61,52 @@ inline __m128d HornerEveryOther(__m128d s, const double (&c)[N]) {
 // is the even part E = r^2 (c2 + c4 r^2 + ...) and the odd part O = r + r^3 (c3 + c5 r^2
 // + ...), so p(r) = E + O and p(-r) = E - O, each part evaluated once.
 template <ExpDegree D>
-inline void ExpPolyBoth(__m128d r, __m128d& pa, __m128d& pb) {
+inline void ExpPolyParts(__m128d r, __m128d& e, __m128d& o) {
     const auto& c = ExpTail<D>::kC;
     __m128d s = Mul(r, r);
-    __m128d e = Mul(s, HornerEveryOther<0>(s, c));
-    __m128d o = MulAdd(Mul(r, s), HornerEveryOther<1>(s, c), r);
+    e = Mul(s, HornerEveryOther<0>(s, c));
+    o = MulAdd(Mul(r, s), HornerEveryOther<1>(s, c), r);
+}
+template <ExpDegree D>
+inline void ExpPolyBoth(__m128d r, __m128d& pa, __m128d& pb) {
+    __m128d e, o;
+    ExpPolyParts<D>(r, e, o);
     pa = Add(e, o);
     pb = Sub(e, o);
+}
+
+// The reduction by ln2/64: t = a*64/ln2 + the shifter (n = rint(a*64/ln2) in its low
+// word), n, and the reduced argument r = a - n*ln2/64, returned.
+inline __m128d Reduce64(__m128d a, __m128d& t, __m128d& n) {
+    using S = ExpStep64;
+    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    t = Add(Mul(a, Set<double>(S::kInvStep)), shifter);
+    n = Sub(t, shifter);
+    return Sub(Sub(a, Mul(n, Set<double>(S::kStepHi))), Mul(n, Set<double>(S::kStepLo)));
+}
+
+// A alone, e^a/2 for a in [0, 708], where B is below A's last bit: the head plus the
+// tail of HalvesOf, the same operations, so that a lane gets the same bits whichever of
+// the two its register runs.
+template <ExpDegree D>
+inline __m128d HalfExpOf(__m128d a) {
+    __m128d t, n;
+    __m128d r = Reduce64(a, t, n);
+    __m128d th, tl;
+    ExpRows64(t, th, tl);
+    __m128d sa = HalfPower(ExpPower64(t));
+    __m128d e, o;
+    ExpPolyParts<D>(r, e, o);
+    return Add(Mul(th, sa), Mul(Add(Mul(th, Add(e, o)), tl), sa));
 }
 
 // A and B of a in [0, 708]. B's power is held at 2^-1001 and up: below that B is far
 // under A's last bit, and the clamp keeps its exponent field in range.
 template <ExpDegree D>
 inline ExpHalves HalvesOf(__m128d a) {
-    using S = ExpStep64;
     const __m128d shifter = Set<double>(Format<double>::kShifter);
-    __m128d t = Add(Mul(a, Set<double>(S::kInvStep)), shifter);
-    __m128d n = Sub(t, shifter);
-    __m128d r = Sub(Sub(a, Mul(n, Set<double>(S::kStepHi))), Mul(n, Set<double>(S::kStepLo)));
+    __m128d t, n;
+    __m128d r = Reduce64(a, t, n);
     __m128d tn = Sub(shifter, n); // -n in the low word
     __m128d th, tl, uh, ul;
     ExpRows64(t, th, tl);

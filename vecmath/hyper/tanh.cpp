@@ -95,9 +95,7 @@ constexpr double kTanhTaylor[] = {-1.0 / 3,    2.0 / 15,         -17.0 / 315,
                                   62.0 / 2835, -1382.0 / 155925, 21844.0 / 6081075};
 
 inline __m128d TanhHA(__m128d x) {
-    using S = ExpStep64;
     const __m128d one = Set<double>(1.0);
-    const __m128d shifter = Set<double>(Format<double>::kShifter);
     __m128d a = Min(Abs(x), Set<double>(kTanhOne));
     // The series only in a register that has a lane below 1/16; one with only such lanes
     // skips the exponential.
@@ -109,10 +107,8 @@ inline __m128d TanhHA(__m128d x) {
         series = Add(a, Mul(Mul(a, z), Horner(z, kTanhTaylor)));
         if (small == 3) return Or(series, SignBit(x));
     }
-    __m128d b = Add(a, a);
-    __m128d t = Add(Mul(b, Set<double>(S::kInvStep)), shifter);
-    __m128d n = Sub(t, shifter);
-    __m128d r = Sub(Sub(b, Mul(n, Set<double>(S::kStepHi))), Mul(n, Set<double>(S::kStepLo)));
+    __m128d t, n;
+    __m128d r = Reduce64(Add(a, a), t, n);
     __m128d th, tl;
     ExpRows64(t, th, tl);
     __m128d sc = ExpScale64(t);
