@@ -42,6 +42,7 @@ struct CoshWindow<double> {
 constexpr float kLog2eS = 0x1.715476p+0f;  // 1.44269502
 constexpr float kLn2HiS = 0x1.62ep-1f;     // 0.693115234
 constexpr float kLn2LoS = 0x1.0bfbe8p-15f; // 3.19461833e-05
+constexpr float kLn2S = 0x1.62e43p-1f;     // EP's one part, 0.693147182
 // S(r) = r + r*r2*Horner(r2, kS), C(r) = r2*Horner(r2, kC).
 // LA: the set of the both-exponentials body.
 constexpr float kSinhLA[] = {0.16666542f, 0.00836667512f};
@@ -58,7 +59,11 @@ inline __m128 BothExps(__m128 a) {
     const __m128 shifter = Set<float>(Format<float>::kShifter);
     __m128 t = Add(Mul(a, Set<float>(kLog2eS)), shifter);
     __m128 n = Sub(t, shifter);
-    __m128 r = Sub(Sub(a, Mul(n, Set<float>(kLn2HiS))), Mul(n, Set<float>(kLn2LoS)));
+    __m128 r;
+    if constexpr (L == Level::EP) // ln 2 in one part: n*2^-25 (2^-18 at most) in r
+        r = Sub(a, Mul(n, Set<float>(kLn2S)));
+    else
+        r = Sub(Sub(a, Mul(n, Set<float>(kLn2HiS))), Mul(n, Set<float>(kLn2LoS)));
     // The shifter's low bits hold n; shifted into the exponent field, the shifter's own
     // bits leave the word.
     I32x4 nf = ShiftLeft<Format<float>::kMantBits>(AsInt(t));
