@@ -560,9 +560,10 @@ TEST(ExpLog, ExponentialsWhereTheReductionSteps) {
         {frame::Row_sExpm1, expm1l, ln2 / 64, -100, 100},
     });
     CheckSeams<double>({
-        {frame::Row_dExp2, exp2l, 1.0L / 64, -200, 200},
-        {frame::Row_dExp2, exp2l, 1.0L / 64, -65408, -65300},
-        {frame::Row_dExp10, exp10l, lg2 / 64, -200, 200},
+        {frame::Row_dExp, expl, ln2 / 256, -200, 200},
+        {frame::Row_dExp2, exp2l, 1.0L / 256, -200, 200},
+        {frame::Row_dExp2, exp2l, 1.0L / 256, -261632, -261520},
+        {frame::Row_dExp10, exp10l, lg2 / 256, -200, 200},
         {frame::Row_dExpm1, expm1l, ln2, -60, 60},
         {frame::Row_dExpm1, expm1l, ln2, 1000, 1020},
         {frame::Row_dExpm1, expm1l, ln2 / 64, -100, 100},
@@ -632,6 +633,31 @@ TEST(ExpLog, SingleLogarithmsNearOneAndAtTheirRows) {
         auto [errd, atd] = WorstOver<double>(frame::Row_dLog1p, slot, log1pl, td);
         EXPECT_LE(errd, LevelBound<double>(slot)) << slot << " " << atd;
     }
+}
+
+// Double Log10 and Log2 split x at 2^k*(1 - 2^-8) and take rows of 1/512 from there:
+// both sides of each split, x near 1 (the rows whose reciprocal is near 1) and the edges
+// of the rows.
+TEST(ExpLog, DoubleLogarithmsAtTheirSplitAndRows) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    std::vector<long double> points = {1.0L,
+                                       1.0L - 0x1p-8L,
+                                       0.5L - 0x1p-9L,
+                                       2.0L - 0x1p-7L,
+                                       0x1p-1022L * (1.0L - 0x1p-8L),
+                                       0x1p1023L * (2.0L - 0x1p-7L)};
+    for (int j = -3; j <= 510; j += 7)
+        points.push_back((510 + j + 0.5L) / 512);
+    std::vector<double> x = Around<double>(points, 40);
+    struct {
+        RowIndex row;
+        long double (*ref)(long double);
+    } rows[] = {{frame::Row_dLog10, log10l}, {frame::Row_dLog2, log2l}};
+    for (auto r : rows)
+        for (int slot : kSlots) {
+            auto [err, at] = WorstOver<double>(r.row, slot, r.ref, x);
+            EXPECT_LE(err, LevelBound<double>(slot)) << r.row << " " << slot << " " << at;
+        }
 }
 
 TEST(ExpLog, ScalarSetUpLogarithms) {

@@ -1,13 +1,16 @@
 // Generates vecmath/explog/explog_tables.cpp, the constant tables of the exponential
 // and logarithm kernels, from MPFR at 256 bits:
 //   exp tables: 2^(j/N) for N = 128 in single (a high part and the rest relative to it),
-//   N = 64 and 128 in double (a high part and the rounded rest) and N = 1024 (double,
-//   one part);
+//   N = 64, 128 and 256 in double (a high part and the rounded rest) and N = 1024
+//   (double, one part);
 //   log rows: for the centres c = 1 + j/512, j = 0..512, a reciprocal of c rounded to
 //   43 bits (so that c times it is exact in double) and -ln of that reciprocal, split
 //   into a high part on the grid of 2^-42 (so that k*ln2hi + high is exact) and the
 //   rounded rest;
-//   the 128 rows of the scalar logarithm: the same for the middles c = 1 + (2j+1)/256.
+//   the 128 rows of the scalar logarithm: the same for the middles c = 1 + (2j+1)/256;
+//   the rows of the double Log10 and Log2: for c = (510 + j)/512 a reciprocal rounded
+//   to 10 bits, c times it less 1 (exact), and -log_B of the reciprocal in two parts as
+//   above.
 //   gen_explog_tables OUT
 #include <cstdio>
 #include <mpfr.h>
@@ -61,9 +64,23 @@ void ExpTableD(FILE* out, const char* name, long n, bool pair) {
     mpfr_clears(v, t, (mpfr_ptr)0);
 }
 
+// l as a high part on the grid of 2^-42 (so that k*ln2hi + high is exact) and the
+// rounded rest.
+void SplitOnGrid42(mpfr_t l, double& hi, double& lo) {
+    mpfr_t t, h;
+    mpfr_inits2(kPrec, t, h, (mpfr_ptr)0);
+    mpfr_mul_2si(t, l, 42, MPFR_RNDN);
+    mpfr_rint(t, t, MPFR_RNDN);
+    mpfr_div_2si(h, t, 42, MPFR_RNDN);
+    mpfr_sub(t, l, h, MPFR_RNDN);
+    hi = mpfr_get_d(h, MPFR_RNDN) + 0.0;
+    lo = mpfr_get_d(t, MPFR_RNDN) + 0.0;
+    mpfr_clears(t, h, (mpfr_ptr)0);
+}
+
 void LogRows(FILE* out, const char* name, long n) {
-    mpfr_t c, rcp, l, t, hi;
-    mpfr_inits2(kPrec, c, l, t, hi, (mpfr_ptr)0);
+    mpfr_t c, rcp, l;
+    mpfr_inits2(kPrec, c, l, (mpfr_ptr)0);
     mpfr_init2(rcp, 43);
     std::fprintf(out, "alignas(32) const double %s[%ld][4] = {\n", name, n + 1);
     for (long j = 0; j <= n; ++j) {
@@ -72,23 +89,19 @@ void LogRows(FILE* out, const char* name, long n) {
         mpfr_ui_div(rcp, 1, c, MPFR_RNDN); // 43 bits
         mpfr_log(l, rcp, MPFR_RNDN);
         mpfr_neg(l, l, MPFR_RNDN);
-        // High part on the grid of 2^-42.
-        mpfr_mul_2si(t, l, 42, MPFR_RNDN);
-        mpfr_rint(t, t, MPFR_RNDN);
-        mpfr_div_2si(hi, t, 42, MPFR_RNDN);
-        mpfr_sub(t, l, hi, MPFR_RNDN);
-        std::fprintf(out, "    {%a, %a, %a, 0.0},\n", mpfr_get_d(rcp, MPFR_RNDN),
-                     mpfr_get_d(hi, MPFR_RNDN) + 0.0, mpfr_get_d(t, MPFR_RNDN) + 0.0);
+        double hi, lo;
+        SplitOnGrid42(l, hi, lo);
+        std::fprintf(out, "    {%a, %a, %a, 0.0},\n", mpfr_get_d(rcp, MPFR_RNDN), hi, lo);
     }
     std::fprintf(out, "};\n\n");
-    mpfr_clears(c, rcp, l, t, hi, (mpfr_ptr)0);
+    mpfr_clears(c, rcp, l, (mpfr_ptr)0);
 }
 
 // Rows of the scalar logarithm: centres c = 1 + (2j + 1)/256, j = 0..127, the middles
 // of the 128 intervals of [1, 2); the reciprocal and logarithm parts as in LogRows.
 void LogRows128(FILE* out, const char* name) {
-    mpfr_t c, rcp, l, t, hi;
-    mpfr_inits2(kPrec, c, l, t, hi, (mpfr_ptr)0);
+    mpfr_t c, rcp, l;
+    mpfr_inits2(kPrec, c, l, (mpfr_ptr)0);
     mpfr_init2(rcp, 43);
     std::fprintf(out, "alignas(32) const double %s[128][3] = {\n", name);
     for (long j = 0; j < 128; ++j) {
@@ -97,15 +110,41 @@ void LogRows128(FILE* out, const char* name) {
         mpfr_ui_div(rcp, 1, c, MPFR_RNDN);
         mpfr_log(l, rcp, MPFR_RNDN);
         mpfr_neg(l, l, MPFR_RNDN);
-        mpfr_mul_2si(t, l, 42, MPFR_RNDN);
-        mpfr_rint(t, t, MPFR_RNDN);
-        mpfr_div_2si(hi, t, 42, MPFR_RNDN);
-        mpfr_sub(t, l, hi, MPFR_RNDN);
-        std::fprintf(out, "    {%a, %a, %a},\n", mpfr_get_d(rcp, MPFR_RNDN),
-                     mpfr_get_d(hi, MPFR_RNDN) + 0.0, mpfr_get_d(t, MPFR_RNDN) + 0.0);
+        double hi, lo;
+        SplitOnGrid42(l, hi, lo);
+        std::fprintf(out, "    {%a, %a, %a},\n", mpfr_get_d(rcp, MPFR_RNDN), hi, lo);
     }
     std::fprintf(out, "};\n\n");
-    mpfr_clears(c, rcp, l, t, hi, (mpfr_ptr)0);
+    mpfr_clears(c, rcp, l, (mpfr_ptr)0);
+}
+
+// Rows of dLog10 and dLog2: for the centres c = (510 + j)/512, j = 0..510 (m in
+// [510/512, 1020/512)), the reciprocal of c rounded to 10 bits (so that (m - c)*rcp is
+// exact, and c*rcp on the grid of 2^-19), c*rcp - 1 (exact), and -log_B(rcp) as a high
+// part on the grid of 2^-42 (so that k*log_B(2)hi + high is exact) and the rounded rest.
+void LogBaseRows(FILE* out, const char* name, long n, int base) {
+    mpfr_t c, rcp, a, l;
+    mpfr_inits2(kPrec, c, a, l, (mpfr_ptr)0);
+    mpfr_init2(rcp, 10);
+    std::fprintf(out, "alignas(32) const double %s[%ld][4] = {\n", name, n);
+    for (long j = 0; j < n; ++j) {
+        mpfr_set_si(c, 510 + j, MPFR_RNDN);
+        mpfr_div_si(c, c, 512, MPFR_RNDN);
+        mpfr_ui_div(rcp, 1, c, MPFR_RNDN); // 10 bits
+        mpfr_mul(a, c, rcp, MPFR_RNDN);    // exact at kPrec
+        mpfr_sub_ui(a, a, 1, MPFR_RNDN);
+        if (base == 2)
+            mpfr_log2(l, rcp, MPFR_RNDN);
+        else
+            mpfr_log10(l, rcp, MPFR_RNDN);
+        mpfr_neg(l, l, MPFR_RNDN);
+        double hi, lo;
+        SplitOnGrid42(l, hi, lo);
+        std::fprintf(out, "    {%a, %a, %a, %a},\n", mpfr_get_d(rcp, MPFR_RNDN),
+                     mpfr_get_d(a, MPFR_RNDN) + 0.0, hi, lo);
+    }
+    std::fprintf(out, "};\n\n");
+    mpfr_clears(c, a, l, rcp, (mpfr_ptr)0);
 }
 
 } // namespace
@@ -127,9 +166,12 @@ int main(int argc, char** argv) {
     std::fprintf(out, "} // namespace single\n\n");
     ExpTableD(out, "expTable64", 64, true);
     ExpTableD(out, "expTable128", 128, true);
+    ExpTableD(out, "expTable256", 256, true);
     ExpTableD(out, "expTable1024", 1024, false);
     LogRows(out, "lnRows", 512);
     LogRows128(out, "lnTable128");
+    LogBaseRows(out, "log10Rows", 511, 10);
+    LogBaseRows(out, "log2Rows", 511, 2);
     std::fprintf(out, "} // namespace brenn::vm\n");
     return std::fclose(out) == 0 ? 0 : 1;
 }

@@ -5,7 +5,8 @@
  * two-part ln 2 and a degree-5 polynomial; HA reduces by ln2/128 with the 128-entry
  * table and a second-order correction, 2^m added to the exponent field as in EP.
  * dExp: n and j from x*N/ln2 by the shifter; T*(1 + p(r)) with the table of N entries:
- * EP N = 128 and a quadratic, LA N = 1024 and a cubic, HA N = 64 and degree 5.
+ * EP N = 128 and a quadratic, LA N = 1024 and a cubic, HA N = 256 in two parts and
+ * degree 4 (exp_core256.h).
  * Range test on |x| (87.33654 in single, 708.39 in double, inside the last normal
  * results); the special lanes, overflow, underflow and denormal results go to the
  * scalar routine, which works from the double core of exp_scalar.h. In error mode
@@ -16,6 +17,7 @@
  * The polynomials come from tools/explog/exp_single.sollya and exp_double.sollya. */
 #include "frame/kernels.h"
 #include "vecmath/explog/exp_core.h"
+#include "vecmath/explog/exp_core256.h"
 #include "vecmath/explog/exp_fixup.h"
 #include "vecmath/explog/exp_scalar.h"
 #include "vecmath/explog/flat.h"
@@ -121,11 +123,6 @@ constexpr double kInvStep1024 = 0x1.71547652b82fep+10, kStep1024Hi = 0x1.62e42fe
                  kStep1024Lo = 0x1.d1cf79abc9e3bp-42;
 // c2 and c3, fitted by tools/explog/exp_double.sollya (LA).
 constexpr double kExpLaC[] = {0x1.00000021f6929p-1, 0x1.55555559fd862p-3};
-// Double HA: the reduction of the table of 64 (exp_core.h) and a degree-5 p,
-// p = r + r^2*((c2 + c3*r) + r^2*(c4 + c5*r)).
-// c2 to c5, fitted by tools/explog/exp_double.sollya (HA).
-constexpr double kExpHaC[] = {0x1.fffffffffdbd9p-2, 0x1.5555555557677p-3, 0x1.555573c3149fdp-5,
-                              0x1.111108f30ec0dp-7};
 
 template <Level L>
 inline __m128d ExpOf(__m128d x) {
@@ -152,22 +149,16 @@ inline __m128d ExpOf(__m128d x) {
         __m128d y = Add(tv, Mul(tv, p));
         return ScaleByLowWord<10>(y, t);
     } else {
-        using S = ExpStep64;
+        // The table of 256 in two parts (exp_core256.h) and degree 4.
+        using S = ExpStep256;
         __m128d t = Add(Mul(x, Set<double>(S::kInvStep)), shifter);
         __m128d n = Sub(t, shifter);
         __m128d r = Sub(Sub(x, Mul(n, Set<double>(S::kStepHi))), Mul(n, Set<double>(S::kStepLo)));
-        // Estrin's scheme: two independent pairs joined by r^2 (the upper pair first,
-        // the order these kernels were scheduled with).
         __m128d r2 = Mul(r, r);
-        __m128d upper = Add(Set<double>(kExpHaC[2]), Mul(r, Set<double>(kExpHaC[3])));
-        __m128d lower = Add(Set<double>(kExpHaC[0]), Mul(r, Set<double>(kExpHaC[1])));
-        __m128d p = Add(r, Mul(r2, Add(lower, Mul(r2, upper))));
-        const double* row0 = expTable64[LowWord<0>(AsInt(t)) & 63];
-        const double* row1 = expTable64[LowWord<1>(AsInt(t)) & 63];
-        __m128d th, tl;
-        LoadTransposed(row0, row1, th, tl);
-        __m128d y = Add(th, Add(Mul(th, p), tl));
-        return ScaleByLowWord<6>(y, t);
+        __m128d q = Add(Add(Set<double>(S::kC[0]), Mul(r, Set<double>(S::kC[1]))),
+                        Mul(r2, Set<double>(S::kC[2])));
+        __m128d p = Add(r, Mul(r2, q));
+        return ScaleByLowWord<8>(ExpJoin256(t, p), t);
     }
 }
 

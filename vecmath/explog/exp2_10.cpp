@@ -3,10 +3,10 @@
  * Single HA: in single with the 128-entry table, n = round(128x/log_B(2)), T = 2^(j/128)
  * for j = n & 127, a cubic in the rest of x, 2^(n >> 7) added to the exponent field
  * (SingleCore below).
- * Double HA and LA (one kernel): on the table of 64 of exp_core.h, a degree-5 polynomial
- * in the rest d of x in the function's own base:
- * Exp2: n = round(64x), d = x - n/64 exactly.
- * Exp10: n = round(64x/log10(2)), d = x - n*log10(2)/64 with a 36-bit head (n*head is
+ * Double HA and LA (one kernel): on the table of 256 of exp_core256.h, a degree-4
+ * polynomial in the rest d of x in the function's own base:
+ * Exp2: n = round(256x), d = x - n/256 exactly.
+ * Exp10: n = round(256x/log10(2)), d = x - n*log10(2)/256 with a 32-bit head (n*head is
  * exact).
  * Single LA and EP, double EP: no table, B^x = 2^n*(1 + p(r)), |r| <= log_B(2)/2
  * (NoTableOf below).
@@ -24,6 +24,7 @@
 
 #include "frame/kernels.h"
 #include "vecmath/explog/exp_core.h"
+#include "vecmath/explog/exp_core256.h"
 #include "vecmath/explog/exp_fixup.h"
 #include "vecmath/explog/exp_scalar.h"
 #include "vecmath/explog/flat.h"
@@ -47,9 +48,9 @@ struct BaseConst<Base::Two> {
 template <>
 struct BaseConst<Base::Ten> {
     static constexpr double kLn = 0x1.26bb1bbb55516p+1, kLnLo = -0x1.f48ad494ea3e9p-53;
-    static constexpr double kInvStep = 0x1.a934f0979a371p+7; // 64/log10(2)
-    // log10(2)/64, the head with 36 significant bits so that n*kStepHi is exact.
-    static constexpr double kStepHi = 0x1.3441350ap-8, kStepLo = -0x1.0c0219dc1da99p-45;
+    static constexpr double kInvStep = 0x1.a934f0979a371p+9; // 256/log10(2)
+    // log10(2)/256, the head with 32 significant bits so that n*kStepHi is exact.
+    static constexpr double kStepHi = 0x1.3441350ap-10, kStepLo = -0x1.0c0219dc1da99p-47;
 };
 
 // The range window on |x| and the limits of the scalar routine (overflow above kOver,
@@ -77,23 +78,22 @@ struct Limits<double, Base::Ten> {
     static constexpr double kOver = 0x1.34413509f79ffp+8, kUnder = -0x1.439b746e36b52p+8;
 };
 
-// The double forms on the table of 64: n = round(64x / log_B(2)), d = x - n*log_B(2)/64
-// (exact for Exp2), p(d) ~ B^d - 1 fitted in the function's own base, so that no
-// product with ln B rounds on the way, and B^x = 2^m*(Thi + (Thi*p + Tlo)). Degree 5
-// (tools/explog/exp2_10_double.sollya, 2^-51 relative, of a p below 2^-7.5) by
-// Estrin's scheme.
+// The double forms on the table of 256 (exp_core256.h): n = round(256x / log_B(2)),
+// d = x - n*log_B(2)/256 (exact for Exp2), p(d) ~ B^d - 1 fitted in the function's own
+// base, so that no product with ln B rounds on the way, and
+// B^x = 2^m*(Thi + (Thi*p + Tlo)). Degree 4 (tools/explog/exp_double256.sollya, 2^-48
+// relative, of a p below 2^-9.5), evaluated as d*((c1 + c2*d) + d^2*(c3 + c4*d)).
 template <Base B>
 struct DoublePoly;
 template <>
 struct DoublePoly<Base::Two> {
-    static constexpr double kC[] = {0x1.62e42fefa39efp-1, 0x1.ebfbdff82ac52p-3,
-                                    0x1.c6b08d7080252p-5, 0x1.3b2ad03856e9p-7,
-                                    0x1.5d86b03ce7ff6p-10};
+    static constexpr double kC[] = {0x1.62e42fefa39d9p-1, 0x1.ebfbdff82c5cp-3,
+                                    0x1.c6b0902d49e61p-5, 0x1.3b2ab701a9219p-7};
 };
 template <>
 struct DoublePoly<Base::Ten> {
-    static constexpr double kC[] = {0x1.26bb1bbb55516p1, 0x1.53524c73cd901p1, 0x1.0470591d8cd7ap1,
-                                    0x1.2bd778a238a7p0, 0x1.142d000ea7445p-1};
+    static constexpr double kC[] = {0x1.26bb1bbb55503p1, 0x1.53524c73cea8ap1, 0x1.04705aafb4fcfp1,
+                                    0x1.2bd760a97afap0};
 };
 
 template <Base B>
@@ -101,10 +101,10 @@ inline __m128d CoreOf(__m128d x) {
     using C = BaseConst<B>;
     __m128d t, d;
     if constexpr (B == Base::Two) {
-        // The shifter scaled by 2^-6: its last place is 2^-6, so x + shifter leaves
-        // round(64x) in the low bits, the same bits as 64x + kShifter, with no product,
+        // The shifter scaled by 2^-8: its last place is 2^-8, so x + shifter leaves
+        // round(256x) in the low bits, the same bits as 256x + kShifter, with no product,
         // and d = x - (t - shifter) exactly.
-        const __m128d shifter = Set<double>(Format<double>::kShifter * 0x1p-6);
+        const __m128d shifter = Set<double>(Format<double>::kShifter * 0x1p-8);
         t = Add(x, shifter);
         d = Sub(x, Sub(t, shifter));
     } else {
@@ -114,12 +114,9 @@ inline __m128d CoreOf(__m128d x) {
         d = Sub(Sub(x, Mul(n, Set<double>(C::kStepHi))), Mul(n, Set<double>(C::kStepLo)));
     }
     __m128d p = Mul(d, Estrin(d, DoublePoly<B>::kC));
-    __m128d th, tl;
-    ExpRows64(t, th, tl);
-    __m128d y = Add(th, Add(Mul(th, p), tl));
     // Inside the windows (|x| to 1022 and 307) y*2^m is normal: m goes into the
     // exponent field by an integer addition.
-    return ScaleByLowWord<6>(y, t);
+    return ScaleByLowWord<8>(ExpJoin256(t, p), t);
 }
 // The single forms run in single: n = round(128*x/log_B(2)) by a shifter whose bits end
 // in sixteen zeros, T = 2^((n & 127)/128) from the table (a single high part and the rest
@@ -215,8 +212,8 @@ struct NoTable<double, Base::Two> {
 template <>
 struct NoTable<double, Base::Ten> {
     using S = BaseConst<Base::Ten>;
-    static constexpr double kInvStep = S::kInvStep * 0x1p-6;
-    static constexpr double kStep[] = {S::kStepHi * 0x1p6, S::kStepLo * 0x1p6};
+    static constexpr double kInvStep = S::kInvStep * 0x1p-8;
+    static constexpr double kStep[] = {S::kStepHi * 0x1p8, S::kStepLo * 0x1p8};
     static constexpr double kEP[] = {0x1.26bb1c72967b5p1, 0x1.53524d0dd86bep1,
                                      0x1.046f59a6be7afp1, 0x1.2bd660cbe2b6fp0,
                                      0x1.158bb89338a41p-1, 0x1.a9ee23cf53beap-3};

@@ -4,14 +4,16 @@
  * (LA) coefficients fitted for the base, plus k*log10(2) (two parts at LA) or k itself.
  * Single HA: ln in double from the split of the single bits and the table core's EP
  * polynomial (LnOfSingleLanes, about 2^-33) times the base's constant, rounded once.
- * Double: ln as the head and tail of the double core, then times log10(e) or log2(e):
- * plainly for LA and EP, and at HA with the product carried exactly (ScaleLog).
+ * Double: a reduction on rows of log_B itself with 10-bit reciprocals, so that the
+ * reduced argument is an exact sum, and log_B(1 + r) = c*r + r^2*Q(r) with Q fitted for
+ * the base; at HA c*r carried exactly in effect (log_base_double.h).
  * Measured (brenn_accuracy, worst of its inputs): sLog10 EP 14.0 bits, LA 1.81 ulp,
- * HA 0.50 ulp; sLog2 EP 13.8 bits, LA 2.28 ulp, HA 0.50 ulp; dLog10 EP 32.6 bits, LA
- * 1.58 ulp, HA 0.83 ulp; dLog2 EP 32.6 bits, LA 1.42 ulp, HA 0.78 ulp.
+ * HA 0.50 ulp; sLog2 EP 13.8 bits, LA 2.28 ulp, HA 0.50 ulp; dLog10 EP 31.7 bits, LA
+ * 1.52 ulp, HA 0.500 ulp; dLog2 EP 32.2 bits, LA 1.32 ulp, HA 0.500 ulp.
  * Scalar routines: log_scalar.h; the double ones by fyl2x with log10(2) or 1. */
 #include "frame/kernels.h"
 #include "vecmath/explog/flat.h"
+#include "vecmath/explog/log_base_double.h"
 #include "vecmath/explog/log_scalar.h"
 #include "vecmath/explog/wide.h"
 #include "vecmath/frame/kernel_frame.h"
@@ -24,9 +26,8 @@ struct LogBase;
 
 template <>
 struct LogBase<10> {
-    // log10(e), and as a 26-bit head and the rest for ScaleLog.
+    // log10(e) rounded.
     static constexpr double kPerLn = 0x1.bcb7b1526e50ep-2;
-    static constexpr double kPerLnHi = 0x1.bcb7b18p-2, kPerLnLo = -0x1.6c8d78e6acaa4p-29;
     // The factor of fyl2x: log10(2).
     static constexpr long double kOfLog2 = kLog10Of2L;
     // Single: P(r) of log10(1 + r) = r*P(r) on r in [-1/3, 1/3). LA fitted by
@@ -46,7 +47,6 @@ struct LogBase<10> {
 template <>
 struct LogBase<2> {
     static constexpr double kPerLn = 0x1.71547652b82fep0;
-    static constexpr double kPerLnHi = 0x1.7154768p0, kPerLnLo = -0x1.6a3e80f444178p-27;
     static constexpr long double kOfLog2 = 1.0L;
     // Fitted by tools/explog/log_single.sollya.
     static constexpr float kEP[] = {0x1.715508p0f, -0x1.70cb38p-1f, 0x1.eae082p-2f, -0x1.96cd6ap-2f,
@@ -97,20 +97,10 @@ inline __m128 LogOf(__m128 x) {
     }
 }
 
-// Double: the core (the cubic at EP, degree 5 otherwise) on x, and the product with the
-// base's constant, carried exactly at HA. Special lanes run as they are: the core's m
-// and k are finite for any bits.
+// Double: on the base's own rows (log_base_double.h).
 template <int Base, Level L>
 inline __m128d LogOf(__m128d x) {
-    using K = LogBase<Base>;
-    __m128d h, r, t;
-    LnCore3<L>(x, h, r, t);
-    if constexpr (L == Level::HA) {
-        return ScaleLog(h, r, t, K::kPerLnHi, K::kPerLnLo);
-    } else {
-        __m128d l = Add(h, Add(r, t));
-        return Mul(l, Set<double>(K::kPerLn));
-    }
+    return LogBaseOf<Base, L>(x);
 }
 
 // The value of the scalar routine: the double ln times the base's constant, rounded

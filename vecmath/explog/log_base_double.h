@@ -1,0 +1,121 @@
+/* The double Log10 and Log2 on rows of their own base (log10Rows, log2Rows).
+ *
+ * x = 2^k * m, m in [1 - 2^-8, 2 - 2^-7), mh = m rounded to 9 fraction bits and
+ * ml = m - mh; the row of mh holds rcp, 1/mh to 10 bits, a = mh*rcp - 1 (exact) and
+ * -log_B(rcp) in two parts, Thi on the 2^-42 grid. With b = ml*rcp, exact (ml is i times
+ * m's last place and rcp q*2^-10 below 1, or q*2^-9 above, with |i*q| below 2^53),
+ * m*rcp = 1 + r with r = a + b exactly, |r| <= 1.48*2^-10, and
+ *   log_B x = (k*log_B(2)hi + Thi) + c*r + r^2*Q(r) + (k*log_B(2)lo + Tlo),
+ * c = log_B(e), Q fitted for the base (tools/explog/log10_2_double.sollya). The head H
+ * is exact: both terms on the 2^-42 grid (k is the integer itself for Log2).
+ * EP: Q of degree 1 and no low parts; LA: degree 3 with them. HA: degree 4 and c*r
+ * carried exactly in effect: b rounded to the 2^-36 grid (bh, with bl = b - bh exact;
+ * in the row of 1 its top 26 bits), r' = a + bh exact with 27 bits, r'*chi exact for
+ * the 26-bit head of c, H + r'*chi by Fast2Sum (H is 0 or at least of the binade of
+ * r'*chi), and the rest small beside it. */
+#ifndef BRENN_VECMATH_EXPLOG_LOG_BASE_DOUBLE_H
+#define BRENN_VECMATH_EXPLOG_LOG_BASE_DOUBLE_H
+
+#include "vecmath/explog/explog_tables.h"
+#include "vecmath/frame/level.h"
+#include "vecmath/frame/vec.h"
+
+namespace brenn::vm {
+
+template <int Base>
+struct LogRowsD;
+
+template <>
+struct LogRowsD<10> {
+    static constexpr const double (*kRows)[4] = log10Rows;
+    // log10(2) on the 2^-42 grid (the last row's head) and the rest.
+    static constexpr double kPerKHi = 0x1.34413509f8p-2, kPerKLo = -0x1.80433b83b532ap-44;
+    // log10(e): rounded, and as a 26-bit head and the rest.
+    static constexpr double kPerLn = 0x1.bcb7b1526e50ep-2;
+    static constexpr double kPerLnHi = 0x1.bcb7b18p-2, kPerLnLo = -0x1.6c8d78e6acaa4p-29;
+    // Q(r), by tools/explog/log10_2_double.sollya (relative error of the whole: HA
+    // 2^-63.75, LA 2^-53.75, EP 2^-32.25).
+    static constexpr double kHA[] = {-0x1.bcb7b1526e50ep-3, 0x1.287a7636f320fp-3,
+                                     -0x1.bcb7b15316ea5p-4, 0x1.63c65933276fdp-4,
+                                     -0x1.2876c6cfda466p-4};
+    static constexpr double kLA[] = {-0x1.bcb7b1526d667p-3, 0x1.287a7636f3115p-3,
+                                     -0x1.bcb7e56ecd0a3p-4, 0x1.63c65a2592c84p-4};
+    static constexpr double kEP[] = {-0x1.bcb7c8c5b28f2p-3, 0x1.287a8b5210d3fp-3};
+};
+
+template <>
+struct LogRowsD<2> {
+    static constexpr const double (*kRows)[4] = log2Rows;
+    // k is log2's own integer part.
+    static constexpr double kPerKHi = 1.0, kPerKLo = 0.0;
+    static constexpr double kPerLn = 0x1.71547652b82fep0;
+    static constexpr double kPerLnHi = 0x1.7154768p0, kPerLnLo = -0x1.6a3e80f444178p-27;
+    static constexpr double kHA[] = {-0x1.71547652b82fep-1, 0x1.ec709dc39e73bp-2,
+                                     -0x1.71547653058a3p-2, 0x1.2776ee5fa62f8p-2,
+                                     -0x1.ec6d54771cbdbp-3};
+    static constexpr double kLA[] = {-0x1.71547652b76d2p-1, 0x1.ec709dc39e59cp-2,
+                                     -0x1.7154a19a7fb5ap-2, 0x1.2776ef284b331p-2};
+    static constexpr double kEP[] = {-0x1.715489cc530f7p-1, 0x1.ec70c0d20019ep-2};
+};
+
+// log_B x for positive normal x; any other bits give a finite k, an m in [1, 2) and a
+// row, so special lanes need no blend (their results are discarded).
+template <int Base, Level L>
+BRENN_VEC __m128d LogBaseOf(__m128d x) {
+    using F = Format<double>;
+    using K = LogRowsD<Base>;
+    // x = 2^k * m with m in [c0, 2*c0), c0 = 1 - 2^-8: the bits of x moved by those of
+    // 1 less those of c0, so that the exponent field is k + 1023, and the significand's
+    // bits put back on c0's. x near 1 on either side then has k = 0 and a row whose
+    // reciprocal is near 1, where a is at most 2^-16 and c*r and the head do not cancel.
+    constexpr uint64_t kC0 = 0x3FEFE00000000000ull;
+    const I64x2 d = Add(AsInt(x), Set<uint64_t>(F::kOne - kC0));
+    __m128d m = AsFloat(Add(And(d, Set<uint64_t>(F::kMant)), Set<uint64_t>(kC0)));
+    // k: the exponent field put under the bits of 2^52, less 2^52 + 1023 (exact).
+    I64x2 e = ShiftRight<F::kMantBits>(d);
+    __m128d k = Sub(AsFloat(Or(e, AsInt(Set<double>(0x1p52)))), Set<double>(0x1p52 + F::kBias));
+    const __m128d sh = Set<double>(0x1p43); // rounds m to 2^-9
+    __m128d ts = Add(m, sh);
+    __m128d ml = Sub(m, Sub(ts, sh));
+    const I64x2 ti = AsInt(ts);
+    const double* ra = K::kRows[LowWord<0>(ti) - 510];
+    const double* rb = K::kRows[LowWord<1>(ti) - 510];
+    __m128d rcp, a, th, tl;
+    LoadTransposed(ra, rb, rcp, a);
+    LoadTransposed(ra + 2, rb + 2, th, tl);
+    __m128d b = Mul(ml, rcp); // exact
+    __m128d r = Add(a, b);
+    __m128d r2 = Mul(r, r);
+    __m128d h = Add(Mul(k, Set<double>(K::kPerKHi)), th); // exact
+    if constexpr (L == Level::EP) {
+        __m128d q = Add(Set<double>(K::kEP[0]), Mul(r, Set<double>(K::kEP[1])));
+        return Add(h, Add(Mul(r, Set<double>(K::kPerLn)), Mul(r2, q)));
+    } else if constexpr (L == Level::LA) {
+        __m128d tail = Add(Mul(k, Set<double>(K::kPerKLo)), tl);
+        __m128d small = Add(Mul(r2, Estrin(r, K::kLA)), tail);
+        return Add(h, Add(Mul(r, Set<double>(K::kPerLn)), small));
+    } else {
+        // b to the 2^-36 grid by the shifter 1.5*2^16 (|b| <= 2^-10), so that a + bh is
+        // exact. In the row of 1 (a = 0, k = 0: x within 2^-9 of 1) the result is c*b and
+        // the small terms, and b's head is its top 26 bits instead, so that what is left
+        // is below 2^-26 of it however small b is.
+        const __m128d bs = Set<double>(0x1.8p16);
+        __m128d bh =
+            IfThenElse(Eq(a, Zero<double>()), And(b, AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull))),
+                       Sub(Add(b, bs), bs));
+        __m128d bl = Sub(b, bh);
+        __m128d rh = Add(a, bh);                        // exact: 27 bits
+        __m128d ph = Mul(rh, Set<double>(K::kPerLnHi)); // exact
+        __m128d s = Add(h, ph);
+        __m128d err = Sub(ph, Sub(s, h));
+        __m128d tail = Add(Mul(k, Set<double>(K::kPerKLo)), tl);
+        __m128d lo =
+            Add(Add(Mul(rh, Set<double>(K::kPerLnLo)), Mul(bl, Set<double>(K::kPerLn))), tail);
+        __m128d small = Add(Mul(r2, Estrin(r, K::kHA)), lo);
+        return Add(s, Add(err, small));
+    }
+}
+
+} // namespace brenn::vm
+
+#endif
