@@ -10,8 +10,7 @@
  * row's remainder), EP adds up plainly. Single: NaNs and infinities are the special
  * lanes; results from -12.95 down (denormals, zeros from -14.1) come from the lanes and
  * are reported with status 4 by the frame, and 1 on the positive side likewise
- * (tail_body.h); HA in double on the widened lanes, LA and EP on single lanes
- * (grid_single.h). */
+ * (tail_body.h); every level on single lanes (grid_single.h, the single rows). */
 #include "frame/kernels.h"
 #include "vecmath/erf/tail_body.h"
 #include "vecmath/erf/tail_double.h"
@@ -27,6 +26,8 @@ struct CdfNormGrid {
     static constexpr double kMirror = 1.0, kMirrorLimit = 8.5;
     static constexpr bool kMirrorPositive = true;
     static constexpr double kScaleFrom = 26.0;
+    static constexpr const float (*kRowsSingle)[4] = cdfNormRowsSingle;
+    static constexpr double kLimitSingle = 14.25;
 };
 
 struct CdfNormFn {

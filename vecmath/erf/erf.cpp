@@ -7,8 +7,8 @@
  * terms of erf(xj + d) in t, slightly tuned; erf = V + (w + R*w), w = d*D, and x's sign
  * OR-ed on. LA and HA: grid_core.h's series of S(tau, u), LA adding up V + (w + w*S1),
  * HA on the row pairs of erfRowsHA with the exact product and sums (0.5x ulp). Single
- * runs each level in double on the widened lanes, the grid held at 3.9296875, from
- * where erf is 1 in single. */
+ * runs every level on single lanes (grid_single.h, the single rows), the grid held at
+ * 3.9296875, from where erf is 1 in single. */
 #include "frame/kernels.h"
 #include "vecmath/erf/grid_single.h"
 #include "vecmath/frame/kernel_frame.h"
@@ -31,7 +31,8 @@ struct ErfGridHA : ErfGridLA {
     static constexpr const double (*kRows)[4] = erfRowsHA;
 };
 struct ErfGridSingle : ErfGridLA {
-    static constexpr double kLimit = 3.9296875;
+    static constexpr const float (*kRowsSingle)[4] = erfRowsSingle;
+    static constexpr double kLimitSingle = 3.9296875;
 };
 
 // The cuts of the series: terms left out stay below 2^-57 (HA), 2^-55 (LA) of the
@@ -40,13 +41,13 @@ struct ErfGridSingle : ErfGridLA {
 constexpr SeriesCut kCutHA{5, 4, 2, 1}, kCutLA{5, 4, 2, 1};
 constexpr SeriesCut kCutSingleHA{2, 1, 0, 0}, kCutSingleLA{2, 1, 0, 0}, kCutSingleEP{0, 0, 0, 0};
 
-// The EP expansion, with the grid held at `limit`.
-template <double Limit>
+// The EP expansion.
 inline __m128d ErfShort(__m128d x) {
+    constexpr double kLimit = 5.9921875;
     constexpr double kP1 = 0.6666678110767819, kP0 = -1.0000014305126206;
     constexpr double kQ1 = 0.5000019073510884, kQ0 = -0.33333504994947405;
     __m128d ax = Abs(x);
-    __m128d a = Min(ax, Set<double>(Limit));
+    __m128d a = Min(ax, Set<double>(kLimit));
     __m128d s = Add(a, Set<double>(kShifter128));
     __m128d xj = Sub(s, Set<double>(kShifter128));
     __m128d d = Sub(a, xj);
@@ -62,14 +63,10 @@ inline __m128d ErfShort(__m128d x) {
     return Or(Add(v, Add(w, Mul(r, w))), SignBit(x));
 }
 
-template <class T, Level L>
+template <Level L>
 inline __m128d ErfDouble(__m128d x) {
-    constexpr bool single = sizeof(T) == 4;
     if constexpr (L == Level::EP)
-        return ErfShort < single ? 3.9296875 : 5.9921875 > (x);
-    else if constexpr (single)
-        return Or(GridEval < ErfGridSingle, L == Level::HA ? kCutSingleHA : kCutSingleLA,
-                  GridSum::Plain > (x), SignBit(x));
+        return ErfShort(x);
     else if constexpr (L == Level::HA)
         return Or(GridEval<ErfGridHA, kCutHA, GridSum::TwoPart>(x), SignBit(x));
     else
@@ -81,16 +78,15 @@ struct ErfBody {
     using T = Tp;
     using V = Vec<T>;
     static V Eval(V x, V&) {
-        if constexpr (sizeof(T) == 4 && L != Level::HA)
+        if constexpr (sizeof(T) == 4)
             return NaNQuiet(x, [](__m128 v) {
-                constexpr SeriesCut cut = L == Level::EP ? kCutSingleEP : kCutSingleLA;
-                return Or(GridEvalSingle<ErfGridSingle, cut>(v), SignBit(v));
+                constexpr SeriesCut cut = L == Level::EP   ? kCutSingleEP
+                                          : L == Level::LA ? kCutSingleLA
+                                                           : kCutSingleHA;
+                return Or(GridEvalSingle<ErfGridSingle, cut, L == Level::HA>(v), SignBit(v));
             });
-        else if constexpr (sizeof(T) == 4)
-            return Narrow(NaNQuiet(WidenLower(x), ErfDouble<T, L>),
-                          NaNQuiet(WidenUpper(x), ErfDouble<T, L>));
         else
-            return NaNQuiet(x, ErfDouble<T, L>);
+            return NaNQuiet(x, ErfDouble<L>);
     }
 };
 

@@ -7,7 +7,12 @@
  *   erfcRows[j]    = {v, vlo, dh, dl} of erfc, up to 27.2421875;
  *   cdfNormRows[j] = {v, vlo, dh, dl} of Q(x) = Phi(-x), up to 38.5.
  * Where the values would leave the normal range (xj from 20 for erfc, from 26 for Q) the
- * row is times 2^128, and the kernels scale the result by 2^-128. */
+ * row is times 2^128, and the kernels scale the result by 2^-128.
+ * The single rows (erf_tables_single.cpp), {v, dh, vlo, dl} rounded to single, run to
+ * where the single result is 1 or rounds to 0; erfc's and Q's are times 2^100:
+ *   erfRowsSingle[j]     up to 3.9296875;
+ *   erfcRowsSingle[j]    up to 10.125;
+ *   cdfNormRowsSingle[j] up to 14.25. */
 #ifndef BRENN_VECMATH_ERF_ERF_TABLES_H
 #define BRENN_VECMATH_ERF_ERF_TABLES_H
 
@@ -17,6 +22,9 @@ extern const double erfRows[768][2];
 extern const double erfRowsHA[768][4];
 extern const double erfcRows[3488][4];
 extern const double cdfNormRows[2465][4];
+extern const float erfRowsSingle[504][4];
+extern const float erfcRowsSingle[1297][4];
+extern const float cdfNormRowsSingle[913][4];
 
 } // namespace brenn::vm
 

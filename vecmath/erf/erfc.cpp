@@ -7,8 +7,8 @@
  * 4 for a result below the least normal (+0 from 27.2421875 on); tail_double.h's body
  * (fitted series, two parts, 0.5x ulp). Single: NaNs and infinities are the special
  * lanes, results from 9.19 on (denormals, zeros from 10.1) come from the lanes and are
- * reported with status 4 by the frame (tail_body.h); HA in double on the widened lanes,
- * LA and EP on single lanes (grid_single.h). */
+ * reported with status 4 by the frame (tail_body.h); every level on single lanes
+ * (grid_single.h, the single rows). */
 #include "frame/kernels.h"
 #include "vecmath/erf/tail_body.h"
 #include "vecmath/erf/tail_double.h"
@@ -24,6 +24,8 @@ struct ErfcGrid {
     static constexpr double kMirror = 2.0, kMirrorLimit = 6.0;
     static constexpr bool kMirrorPositive = false;
     static constexpr double kScaleFrom = 20.0;
+    static constexpr const float (*kRowsSingle)[4] = erfcRowsSingle;
+    static constexpr double kLimitSingle = 10.125;
 };
 
 struct ErfcFn {

@@ -1,22 +1,28 @@
-/* grid_core.h's evaluation on single lanes, for the single LA and EP slots of Erf, Erfc
- * and CdfNorm: four lanes a register where the double form has two.
+/* The evaluation of Erf, Erfc and CdfNorm on single lanes, every single slot: four lanes
+ * a register where the double form of grid_core.h has two.
  *
  * The grid point xj is found with a single shifter (2^16 for steps of 1/128, 2^17 for
- * 1/64: the row index is the low half of the sum's bits) and d = a - xj is exact. A
- * lane's row gives V and D (the first element of the value pair and of the derivative
- * pair on the wide rows), both rounded to single; then F = V + w*(1 + S1), w = D*d, the
- * mirrored side as K - F, all in single. The rounding of V (half an ulp of F, an ulp
- * where w takes off up to half of V) and the sums' give about 2 ulp, the LA bound's half;
- * the series is cut for 2^-27 (LA) and 2^-15 (EP) of F, and not taken at all where the
- * cut has no term (Erf EP: |tau/2| is below 2^-16 of F there).
- * Erfc and CdfNorm run scaled (kScaled): the rows' values and derivatives are taken
- * times 2^100 (on the double's exponent, before the rounding to single), and K with
- * them, so that no operand in the underflow band is a denormal (each operation with a
- * denormal operand or result costs a microcode assist, some 40 ticks a register). The
- * result comes back by its exponent where it is normal (exactly: the same bits as the
- * unscaled sum), and below the least normal rounded once to the denormal grid as an
- * integer. Rows from kScaleFrom on hold a further 2^128 and are not unscaled: their
- * values are far below the least denormal and round to 0, as the result does.
+ * 1/64: the row index j is the sum's bits less the shifter's) and d = a - xj is exact.
+ * The rows are the single ones of erf_tables.h, {v, D, vlo, dl}, one 16-byte row a lane
+ * (LA and EP read its first two columns). The series S1 is grid_core.h's, cut for 2^-27
+ * (LA, HA) and 2^-15 (EP) of F, and not taken at all where the cut has no term (Erf EP:
+ * |tau/2| is below 2^-16 of F there).
+ *   LA, EP: F = v + w*(1 + S1), w = D*d, the mirrored side as K - F: the rounding of v
+ *           (half an ulp of F, an ulp where w takes off up to half of v) and the sums'
+ *           give about 2 ulp, the LA bound's half.
+ *   HA:     v + vlo in two parts and the sum rounded once: erf as v + d + d*g with
+ *           g = D (1 + S1) - 1 (v + d exact in two parts, so that D's rounding and the
+ *           product's weigh only g's share, about a ninth of F near 0); erfc and Q as
+ *           (K - v) in two parts + (vlo + d (D + dl + D*S1)), where d D is at most a
+ *           tenth of F. About 0.6 ulp (0.65 at worst, near erf's first grid step and
+ *           Q's far tail); erf below 2^-60 (rare) in double, rounded once.
+ * Erfc and CdfNorm run scaled (kScaled): their rows are times 2^100, and K with them, so
+ * that no operand in the underflow band is a denormal (each operation with a denormal
+ * operand or result costs a microcode assist, some 40 ticks a register). The result
+ * comes back by its exponent where it is normal (exactly: the same bits as the unscaled
+ * sum), and below the least normal rounded once to the denormal grid: as an integer (LA,
+ * EP), or (HA) by summing the two parts again onto 2^-26 (2^-126 scaled), whose binade
+ * has the denormals' spacing. The rows end where F is 1 or rounds to 0 (|x| held there).
  * NaNs are kept out of these rows by the kernels. */
 #ifndef BRENN_VECMATH_ERF_GRID_SINGLE_H
 #define BRENN_VECMATH_ERF_GRID_SINGLE_H
@@ -26,21 +32,6 @@
 namespace brenn::vm {
 
 inline constexpr int kSingleScale = 100; // the rows' scale on single lanes, 2^100
-
-// V and D of the rows picked by the four lanes, times 2^E, rounded to single.
-template <int E, size_t W>
-BRENN_VEC void GridRowsSingle(const double (*rows)[W], I32x4 index, __m128& v, __m128& deriv) {
-    Indices i = IndicesOf(index);
-    auto row = [&](int k) {
-        const double* p = rows[i.at[k]];
-        __m128d r = W == 2 ? _mm_load_pd(p) : LoadLanes(p, p + 2);
-        if constexpr (E != 0) r = AsFloat(Add(AsInt(r), Set<int64_t>(int64_t(E) << 52)));
-        return _mm_cvtpd_ps(r);
-    };
-    __m128 r01 = _mm_unpacklo_ps(row(0), row(1)), r23 = _mm_unpacklo_ps(row(2), row(3));
-    v = _mm_movelh_ps(r01, r23);
-    deriv = _mm_movehl_ps(r23, r01);
-}
 
 // A denormal made from its bits, as arithmetic would give it: 0 when the kernel runs
 // with denormals flushed (under DAZ the maximum reads it as 0; Max raises no assist).
@@ -58,40 +49,103 @@ BRENN_VEC __m128 UnscaleSingle(__m128 r) {
     return IfThenElse(Lt(r, least), AsArithmeticDenormal(denormal), AsFloat(normal));
 }
 
-template <class G, SeriesCut C, bool kScaled = false>
+// erf(a) = a 2/sqrt(pi) for a below 2^-60, rounded once.
+[[gnu::noinline, gnu::cold]] inline __m128 ErfTiny(__m128 a) {
+    const __m128d k = Set<double>(1.1283791670955126);
+    return Narrow(Mul(WidenLower(a), k), Mul(WidenUpper(a), k));
+}
+
+// The rows of the four lanes' indices j: their byte offsets stored once and read back by
+// the scalar unit, one load each (taken from the register, each costs an extraction, a
+// sign extension and a shift).
+BRENN_VEC void RowsOf(const float (*rows)[4], I32x4 j, const float*& r0, const float*& r1,
+                      const float*& r2, const float*& r3) {
+    alignas(16) uint32_t offset[4];
+    _mm_store_si128(reinterpret_cast<__m128i*>(offset), ShiftLeft<4>(j).v);
+    const volatile uint32_t* o = offset; // read from memory, not extracted again
+    const char* base = reinterpret_cast<const char*>(rows);
+    r0 = reinterpret_cast<const float*>(base + o[0]);
+    r1 = reinterpret_cast<const float*>(base + o[1]);
+    r2 = reinterpret_cast<const float*>(base + o[2]);
+    r3 = reinterpret_cast<const float*>(base + o[3]);
+}
+
+template <class G, SeriesCut C, bool kTwoPart, bool kScaled = false>
 inline __m128 GridEvalSingle(__m128 x) {
     constexpr float scale = kScaled ? 0x1p100f : 1.0f;
     constexpr float shifter = float(G::kShifter * 0x1p-29);
-    __m128 ax = Abs(x);
-    __m128 mirror = Zero<float>(), lim = Set<float>(float(G::kLimit));
+    __m128 ax = Abs(x), a0 = ax;
+    __m128 mirror = Zero<float>(), lim = Set<float>(float(G::kLimitSingle));
     if constexpr (G::kMirror != 0) {
         mirror = G::kMirrorPositive ? Xor(x, SignMask<float>()) : x; // by the sign bit
         lim = IfThenElse(mirror, Set<float>(float(G::kMirrorLimit)), lim);
     }
+    // Erfc and Q are F(0) to the last bit below 2^-60, and erf's HA lanes there are
+    // computed again (ErfTiny): those run at 2^-60, so that u = d^2 raises no underflow.
+    // Erf's other levels take u = 0 there instead.
+    constexpr bool kHeld = G::kMirror != 0 || kTwoPart;
     __m128 a = Min(ax, lim);
+    __m128 tiny = Lt(a, Set<float>(0x1p-60f));
+    if constexpr (kHeld) a = Max(a, Set<float>(0x1p-60f));
     __m128 s = Add(a, Set<float>(shifter));
     __m128 xj = Sub(s, Set<float>(shifter));
     __m128 d = Sub(a, xj);
-    __m128 v, deriv;
-    GridRowsSingle<kScaled ? kSingleScale : 0>(G::kRows, And(AsInt(s), Set<int32_t>(0xFFFF)), v,
-                                               deriv);
-    __m128 w = Mul(deriv, d);
-    __m128 c = w;
+    const float* r0;
+    const float* r1;
+    const float* r2;
+    const float* r3;
+    RowsOf(G::kRowsSingle, Sub(AsInt(s), AsInt(Set<float>(shifter))), r0, r1, r2, r3);
+    __m128 v, deriv, vlo = Zero<float>(), dlo = Zero<float>();
+    if constexpr (kTwoPart)
+        LoadTransposed(r0, r1, r2, r3, v, deriv, vlo, dlo);
+    else
+        LoadTransposed(r0, r1, r2, r3, v, deriv);
+    __m128 s1 = Zero<float>();
     if constexpr (C.n0 > 0) {
         __m128 tau = Mul(Mul(Set<float>(float(G::kTauScale)), xj), d);
         __m128 u = Mul(d, d);
         if constexpr (G::kUScale != 1.0) u = Mul(u, Set<float>(float(G::kUScale)));
-        // Below 2^-60 u is 0, so that tiny arguments raise no underflow of their own.
-        u = IfThenZeroElse(Lt(a, Set<float>(0x1p-60f)), u);
-        c = Add(w, Mul(w, SeriesLessOne<C>(tau, u)));
+        if constexpr (!kHeld) u = IfThenZeroElse(tiny, u);
+        s1 = SeriesLessOne<C>(tau, u);
+    }
+    __m128 flip = Zero<float>(), k = Zero<float>();
+    if constexpr (G::kMirror != 0) {
+        flip = And(mirror, SignMask<float>());
+        k = IfThenElse(mirror, Set<float>(float(G::kMirror) * scale), Zero<float>());
     }
     __m128 r;
-    if constexpr (G::kMirror == 0) {
-        r = Add(v, c);
+    if constexpr (!kTwoPart) {
+        __m128 w = Mul(deriv, d);
+        __m128 c = C.n0 > 0 ? Add(w, Mul(w, s1)) : w;
+        r = G::kMirror == 0 ? Add(v, c) : Add(Add(k, Xor(v, flip)), Xor(c, flip));
+    } else if constexpr (G::kMirror == 0) {
+        // erf, whose derivative is near 1 where the result is near D*d: F = v + d + d*g
+        // with g = D (1 + S1) - 1, the sum v + d exact in two parts, so that D's rounding
+        // and the product's weigh only g's share of the result.
+        __m128 g = Add(Sub(deriv, Set<float>(1.0f)), Add(dlo, Mul(deriv, s1)));
+        __m128 h, e;
+        FastTwoSum(v, d, h, e); // v = 0 or v >= erf(1/128) > |d|
+        r = Add(h, Add(e, Add(vlo, Mul(d, g))));
+        // Below 2^-60 (rare), erf(x) = x 2/sqrt(pi) rounded once from double, where
+        // d*g would lose bits as a denormal.
+        if (__builtin_expect(MaskBits(tiny) != 0, 0)) r = IfThenElse(tiny, ErfTiny(a0), r);
     } else {
-        __m128 flip = And(mirror, SignMask<float>());
-        __m128 k = IfThenElse(mirror, Set<float>(float(G::kMirror) * scale), Zero<float>());
-        r = Add(Add(k, Xor(v, flip)), Xor(c, flip));
+        __m128 c = Mul(d, Add(deriv, Add(dlo, Mul(deriv, s1))));
+        __m128 h, e;
+        FastTwoSum(k, Xor(v, flip), h, e); // k = 0, or k = K > v
+        __m128 rest = Add(e, Xor(Add(vlo, c), flip));
+        r = Add(h, rest);
+        if constexpr (kScaled) {
+            // A result below the least normal (2^-26 scaled) is summed again onto
+            // B = 2^-26, whose binade has the denormals' spacing (2^-49 scaled): that sum
+            // rounds once to the denormal grid, and its significand is the denormal's bits.
+            const __m128 least = Set<float>(0x1p-26f);
+            __m128 band = Lt(r, least), b = And(band, least), hb, eb;
+            FastTwoSum(b, h, hb, eb);
+            I32x4 denormal = Sub(AsInt(Add(hb, Add(eb, rest))), AsInt(least));
+            I32x4 normal = Sub(AsInt(r), Set<int32_t>(kSingleScale << 23));
+            return IfThenElse(band, AsArithmeticDenormal(denormal), AsFloat(normal));
+        }
     }
     if constexpr (kScaled) r = UnscaleSingle(r);
     return r;

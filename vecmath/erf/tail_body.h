@@ -13,9 +13,8 @@
  * Single: only NaNs and infinities are special lanes (their scalar routine gives the
  * quieted NaN, or the function's limit); every finite lane runs the grid, the rows of
  * the underflow band included (denormal and zero results, which the frame reports with
- * status 4: kUnderflowLanes). HA runs in double on the widened lanes and rounds once;
- * LA and EP run on single lanes (grid_single.h), where a row's value and derivative are
- * denormals in the band and the result comes to within about 2 ulp of a denormal.
+ * status 4: kUnderflowLanes). Every level runs on single lanes (grid_single.h), on rows
+ * times 2^100, the band's results rounded to the denormal grid.
  * Double (dCdfNorm EP): the window's lanes go to the scalar routine: a NaN comes back
  * quieted; beyond the tail limit the result is +0 with status 4 (exact and no status
  * for an infinity); otherwise the grid's value on one lane, with status 4 when it is
@@ -54,17 +53,6 @@ inline int TailScalar(const T* a, T* y) {
     return r < (sizeof(T) == 4 ? FLT_MIN : DBL_MIN) ? status::kUnderflow : status::kNone;
 }
 
-// Non-negative double lanes to single, a result below the least normal rounded once to
-// the denormal grid as an integer (a conversion with a denormal result costs an assist).
-BRENN_VEC __m128 NarrowKeepingDenormals(__m128d lo, __m128d hi) {
-    const __m128d least = Set<double>(0x1p-126), toGrid = Set<double>(0x1p149);
-    __m128 y = Narrow(Max(lo, least), Max(hi, least));
-    I64x2 dlo = BitCast<I64x2>(RoundToInt(Mul(Min(lo, least), toGrid)));
-    I64x2 dhi = BitCast<I64x2>(RoundToInt(Mul(Min(hi, least), toGrid)));
-    __m128 denormal = AsArithmeticDenormal(BitCast<I32x4>(InterleaveLower(dlo, dhi)));
-    return IfThenElse(Le(y, Set<float>(0x1p-126f)), denormal, y);
-}
-
 template <class Fn, class Tp, Level L>
 struct TailBody {
     using T = Tp;
@@ -78,11 +66,9 @@ struct TailBody {
             special = RangeTest(x, Fn::template Window<T>());
         // Special lanes run at 0 here: no NaN or infinity reaches the arithmetic.
         V xs = IfThenElse(special, Zero<T>(), x);
-        if constexpr (sizeof(T) == 4 && L != Level::HA)
-            return GridEvalSingle<typename Fn::Grid, Fn::template Cut<T, L>(), true>(xs);
-        else if constexpr (sizeof(T) == 4)
-            return NarrowKeepingDenormals(TailEval<Fn, T, L>(WidenLower(xs)),
-                                          TailEval<Fn, T, L>(WidenUpper(xs)));
+        if constexpr (sizeof(T) == 4)
+            return GridEvalSingle<typename Fn::Grid, Fn::template Cut<T, L>(), L == Level::HA,
+                                  true>(xs);
         else
             return TailEval<Fn, T, L>(xs);
     }
