@@ -8,10 +8,11 @@
  * Single EP and LA run in single: t by the reciprocal estimate (EP: of b alone for Atan,
  * -1/|x|, and one Newton step for Atan2) or a division (LA)
  * and one polynomial on [0, 1] (EP five terms in two halves, LA eight in two chains).
- * Single Atan HA runs Atan's form of the double steps below in single, the quotient's
- * error from its exact residual and the base joined by an exact sum (atan_body.h).
- * The double steps, which single Atan2 HA and the pi-scaled single LA and HA take on
- * widened lanes,
+ * Single Atan and Atan2 HA run the fold of the double steps below in single, n - d and
+ * n + d as exact pairs, the quotient's error from its exact residual and the base joined
+ * by an exact sum (atan_body.h); Atan2 HA keeps its lanes to magnitudes in [2^-62, 2^62)
+ * for that (the complex Arg's single HA keeps the double steps). The double steps, which
+ * the pi-scaled single LA and HA take on widened lanes,
  * fold once more at tan(pi/8): t = (n - d)/(n + d), a quarter turn added, and a short
  * odd series on [-tan(pi/8), tan(pi/8)]; Atan's own form of them (b = 1; single HA and
  * pi-scaled LA, double LA and HA) puts the sign in the quotient, -1/a or (a - 1)/(a + 1),
@@ -23,12 +24,12 @@
  *
  * Atan has no range test: infinity gives pi/2 through t = 1/inf = 0, NaN passes. Atan2
  * sends zeros, infinities, NaN and magnitudes outside [2^-125, 2^123] in single
- * ([2^-500, 2^500) in double) to the scalar routine, which gives the special values of
- * C99 Annex F and, for the others, the compensated double steps (in double after both
- * arguments are scaled by one power of two). Nothing is reported.
+ * ([2^-62, 2^62) at HA; [2^-500, 2^500) in double) to the scalar routine, which gives
+ * the special values of C99 Annex F and, for the others, the compensated double steps (in double
+ * after both arguments are scaled by one power of two). Nothing is reported.
  *
  * Measured (brenn_accuracy, 250000 inputs a row), LA / HA in ulp, EP in bits: sAtan
- * 2.62 / 0.585 / 12.3, sAtan2 2.16 / 0.504 / 14.9, sAtanpi 0.510 / 0.510 / 12.3,
+ * 2.62 / 0.585 / 12.3, sAtan2 2.16 / 0.524 / 14.9, sAtanpi 0.510 / 0.510 / 12.3,
  * sAtan2pi 0.507 / 0.507 / 14.9; dAtan 0.621 (one kernel) / 30.5, dAtan2 0.961 / 0.582 /
  * 30.5, dAtanpi 0.743 / 0.743 / 30.5, dAtan2pi 0.692 / 0.692 / 30.5. */
 #include "frame/kernels.h"

@@ -25,9 +25,9 @@ constexpr double kTanThreeEighths = 0x1.3504f333f9de6p+1;
 
 // The double steps: the angle of (b, a) with the series S, compensated or not. Lanes
 // of Atan2 hold magnitudes in [2^-500, 2^500), lanes of Atan (EP) have b = 1 and any a.
-// Wide: single lanes in double, where the order of the last steps is free (S a
-// coefficient set): the tail's product with q comes last, off the series, and base + q
-// runs alongside it.
+// Wide: single lanes in double (the pi-scaled single rows and the complex Arg's single
+// HA), where the order of the last steps is free (S a coefficient set): the tail's
+// product with q comes last, off the series, and base + q runs alongside it.
 template <Unit U, class S, bool Comp, bool Wide = false>
 BRENN_VEC __m128d AngleOf(__m128d a, __m128d b) {
     const __m128d one = Set<double>(1.0);
@@ -188,20 +188,20 @@ BRENN_VEC AtanFold<V> AtanFoldOf(V a) {
 // the fold's range the fast sums give a - 1 and a + 1 exactly (either the sum is exact
 // itself or 1 is the larger); the residual n - qh*d from halves of 12 bits is exact but
 // for its last rounding, and its quotient by rcpps is good to 2^-12 of a term of 2^-23 of
-// q, taken through atan's slope at q. d is held at 2^64 there: beyond, the correction is nothing to the result, and an
-// infinite d must not meet a zero.
+// q, taken through atan's slope at q. d is held at 2^64 there: beyond, the correction is nothing to
+// the result, and an infinite d must not meet a zero.
 constexpr float kAtanSingleHA[] = {float(AtanDouble5Set::kP[0]), float(AtanDouble5Set::kP[1]),
                                    float(AtanDouble5Set::kP[2]), float(AtanDouble5Set::kP[3]),
                                    float(AtanDouble5Set::kP[4])};
 
-BRENN_VEC __m128 AtanSingleHA(__m128 x) {
-    using Q = Quarter<float, Unit::Radian>;
-    const __m128 one = Set<float>(1.0f);
+// The angle base + lo + (nh + nl)/(dh + dl), the sign of the quotient flipped where flip
+// has its sign bit, in single arithmetic: Atan HA's last steps and Atan2 HA's. base is
+// a whole number of quarter turns, exact, and lo its tail; dm is dh, or dh held below a
+// bound where dh may be huge (the correction is nothing there).
+BRENN_VEC __m128 AngleSingleHA(__m128 base, __m128 lo, __m128 flip, __m128 nh, __m128 nl, __m128 dh,
+                               __m128 dl, __m128 dm) {
     const __m128 cut = AsFloat(Set<uint32_t>(0xFFFFF000u));
-    const auto [over, above, nh, nl, dh, dl] = AtanFoldOf(Abs(x));
     __m128 qh = Div(nh, dh);
-    const __m128 dmax = Set<float>(0x1p64f);
-    __m128 dm = IfThenElse(AsFloat(Gt(AsInt(dh), AsInt(dmax))), dmax, dh);
     __m128 qa = And(qh, cut), qb = Sub(qh, qa);
     __m128 da = And(dm, cut), db = Sub(dm, da);
     __m128 p = Mul(qh, dm);
@@ -213,11 +213,44 @@ BRENN_VEC __m128 AtanSingleHA(__m128 x) {
     __m128 ql = Mul(r, ApproxRecip(dm));
     ql = Sub(ql, Mul(ql, z));
     __m128 t = Add(Mul(Mul(qh, z), Horner(z, kAtanSingleHA)), ql);
-    __m128 k = IfThenElse(above, Set<float>(2), And(over, one));
     __m128 y, e;
-    FastTwoSum(Mul(k, Set<float>(Q::kHi)), qh, y, e);
-    y = Add(y, Add(e, Add(Mul(k, Set<float>(kQuarterTailS)), t)));
-    return Or(y, SignBit(x));
+    FastTwoSum(base, Xor(qh, flip), y, e);
+    return Add(y, Add(e, Add(lo, Xor(t, flip))));
+}
+
+BRENN_VEC __m128 AtanSingleHA(__m128 x) {
+    const __m128 one = Set<float>(1.0f);
+    const auto [over, above, nh, nl, dh, dl] = AtanFoldOf(Abs(x));
+    const __m128 dmax = Set<float>(0x1p64f);
+    __m128 dm = IfThenElse(AsFloat(Gt(AsInt(dh), AsInt(dmax))), dmax, dh);
+    using Q = Quarter<float, Unit::Radian>;
+    __m128 k = IfThenElse(above, Set<float>(2), And(over, one));
+    return Or(AngleSingleHA(Mul(k, Set<float>(Q::kHi)), Mul(k, Set<float>(kQuarterTailS)),
+                            Zero<float>(), nh, nl, dh, dl, dm),
+              SignBit(x));
+}
+
+// Single Atan2 HA in single arithmetic, four lanes a register: the magnitudes swapped so
+// that n <= d, the fold at tan(pi/8) to (n - d)/(n + d) with both as exact pairs (fast
+// sums, d the larger; on the other lanes they run on 0 and give n/d), and AngleSingleHA.
+// The base and the flip are AngleOf's; k runs to 4 quarter turns, so the head of pi/4
+// has 22 bits (k times it exact). Lanes hold magnitudes in [2^-62, 2^62) (kRangeHA),
+// so that the quotient is normal and the residual's products do not underflow.
+BRENN_VEC __m128 Atan2SingleHA(__m128 a, __m128 b) {
+    const __m128 one = Set<float>(1.0f);
+    __m128 ay = Abs(a), ax = Abs(b);
+    __m128 swap = AsFloat(Gt(AsInt(ay), AsInt(ax)));
+    __m128 n = Min(ay, ax), d = Max(ay, ax);
+    __m128 fold = AsFloat(Gt(AsInt(n), AsInt(Mul(d, Set<float>(float(kTanEighth))))));
+    __m128 nh, nl, dh, dl;
+    FastTwoSum(Neg(And(fold, d)), n, nh, nl);
+    FastTwoSum(d, And(fold, n), dh, dl);
+    __m128 flip = Xor(And(swap, SignMask<float>()), SignBit(b));
+    __m128 k = IfThenElse(swap, Set<float>(2), IfThenElse(b, Set<float>(4), Zero<float>()));
+    k = Add(k, And(fold, Or(one, And(flip, SignMask<float>()))));
+    __m128 base = Mul(k, Set<float>(0x1.921fb8p-1f));
+    __m128 lo = Mul(k, Set<float>(-0x1.5dde98p-24f));
+    return Or(AngleSingleHA(base, lo, flip, nh, nl, dh, dl, dh), SignBit(a));
 }
 
 // The double steps on four single lanes, widened, with the short series.
@@ -266,14 +299,18 @@ BRENN_VEC __m128d AtanOf(__m128d x) {
     else
         return AtanUnit<U>(x);
 }
-template <Unit U, Level L>
+// Fast: single HA in single arithmetic (the row's kernel); without it the double steps
+// (the phase of the complex Arg, whose HA keeps their 0.50 ulp).
+template <Unit U, Level L, bool Fast = false>
 BRENN_VEC __m128 Atan2Of(__m128 a, __m128 b) {
     if constexpr (kInSingle<U, L>)
         return Atan2Single<U, L>(a, b);
+    else if constexpr (U == Unit::Radian && Fast)
+        return Atan2SingleHA(a, b);
     else
         return InDouble<U>(a, b);
 }
-template <Unit U, Level L>
+template <Unit U, Level L, bool Fast = false>
 BRENN_VEC __m128d Atan2Of(__m128d a, __m128d b) {
     return AngleOf < U, DoubleSeriesOf<L>, L == Level::HA || U == Unit::Pi > (a, b);
 }
@@ -284,6 +321,12 @@ template <class T>
 constexpr LaneRange<T> kRange = {Format<float>::kAbs, 0x7F000000, 0xFC000000};
 template <>
 constexpr Range32 kRange<double> = {0x7FFFFFFF, 0x5F500000, 0xBE7FFFFF};
+// Single Atan2 HA in single arithmetic: [2^-62, 2^62).
+constexpr Range32 kRangeHA = {Format<float>::kAbs, 0x5F800000, 0xBDFFFFFF};
+template <class T, Level L, Unit U, bool Fast>
+constexpr auto kRangeOf = kRange<T>;
+template <>
+constexpr auto kRangeOf<float, Level::HA, Unit::Radian, true> = kRangeHA;
 
 // Atan2's special values (C99 Annex F) in the unit's half turn, and the other pairs by
 // the compensated double steps: single pairs as they are, double ones scaled by a
@@ -353,14 +396,14 @@ struct AtanBody {
     static int EvalWide(const V* x, V* y) { return EvalByRegister<AtanBody>(x, y); }
 };
 
-template <class Tp, Level L, Unit U>
+template <class Tp, Level L, Unit U, bool Fast = false>
 struct Atan2Body {
     using T = Tp;
     using V = Vec<T>;
-    static V Eval(V a, V b, V& special) {
-        special = Or(RangeTest(a, kRange<T>), RangeTest(b, kRange<T>));
+    static BRENN_VEC V Eval(V a, V b, V& special) {
+        special = Or(RangeTest(a, kRangeOf<T, L, U, Fast>), RangeTest(b, kRangeOf<T, L, U, Fast>));
         const V one = Set<T>(1);
-        return Atan2Of<U, L>(IfThenElse(special, one, a), IfThenElse(special, one, b));
+        return Atan2Of<U, L, Fast>(IfThenElse(special, one, a), IfThenElse(special, one, b));
     }
     static int Scalar(const T* a, const T* b, T* y) { return Atan2Scalar<U>(a, b, y); }
 };
@@ -370,7 +413,7 @@ using AtanRadian = AtanBody<T, L, Unit::Radian>;
 template <class T, Level L>
 using AtanpiBody = AtanBody<T, L, Unit::Pi>;
 template <class T, Level L>
-using Atan2Radian = Atan2Body<T, L, Unit::Radian>;
+using Atan2Radian = Atan2Body<T, L, Unit::Radian, true>;
 template <class T, Level L>
 using Atan2piBody = Atan2Body<T, L, Unit::Pi>;
 
