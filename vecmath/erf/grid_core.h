@@ -12,8 +12,8 @@
  *
  * The other side of Erfc and CdfNorm is 2 - erfc(|x|) and 1 - Q(x): their lanes take
  * K - F with K - V split exactly (FastTwoSum, V being at most 1). Two ways to add up:
- *   TwoPart (HA): Dh*dh exact (26 bits of each), the sum V + Dh*dh split exactly,
- *            the remainders (of the row, Dh*dl + Dl*d, the series' part) added last;
+ *   TwoPart (HA, erf only): V + d + d*g, g = D (1 + S1) - 1, with V + d split
+ *            exactly and the rest (Vlo, d*g) added last; below 2^-256 ErfTiny;
  *   Plain   (LA, EP): V + w*(1 + S1), w = D*d.
  * (Double Erfc and CdfNorm at LA and HA have a body of their own, tail_double.h.)
  * Rows from kScaleFrom on are times 2^128; the sum is multiplied by 2^-128 there, exactly
@@ -97,6 +97,23 @@ BRENN_VEC GridPoint NearestRow(__m128d a) {
     return {xj, Sub(a, xj), G::kRows[LowWord<0>(row)], G::kRows[LowWord<1>(row)]};
 }
 
+// erf(a) = a 2/sqrt(pi) for a below 2^-256 (rare; d*g would lose bits as a denormal):
+// a + a (2/sqrt(pi) - 1) on a times 2^600, and where that is below the least normal
+// (2^-422 scaled) summed onto 2^-422, whose binade has the denormals' spacing, so that
+// the result rounds once.
+[[gnu::noinline, gnu::cold]] inline __m128d ErfTiny(__m128d a) {
+    const __m128d least = Set<double>(0x1p-422);
+    __m128d as = Mul(a, Set<double>(0x1p600));
+    // 2/sqrt(pi) - 1 in two parts.
+    __m128d p = Add(Mul(as, Set<double>(0x1.06eba8214db69p-3)),
+                    Mul(as, Set<double>(-0x1.ca38add6025p-57)));
+    __m128d r = Add(as, p);
+    __m128d band = Lt(r, least);
+    I64x2 denormal = Sub(AsInt(Add(Add(least, as), p)), AsInt(least));
+    // Max: 0 for a denormal when denormals are flushed, as the arithmetic would give.
+    return IfThenElse(band, Max(AsFloat(denormal), Zero<double>()), Mul(r, Set<double>(0x1p-600)));
+}
+
 template <class G, SeriesCut C, GridSum Sum>
 inline __m128d GridEval(__m128d x) {
     constexpr size_t W = sizeof(G::kRows[0]) / sizeof(double);
@@ -132,17 +149,15 @@ inline __m128d GridEval(__m128d x) {
     __m128d vs = Xor(v, flip);
     __m128d y;
     if constexpr (Sum == GridSum::TwoPart) {
-        static_assert(W == 4, "two parts need the wide rows");
-        __m128d dh, dlow, hi = vs, e1 = Zero<double>(), sum, e2;
-        Split(d, dh, dlow);
-        __m128d pl = Add(Mul(deriv, dlow), Mul(dl, d));
-        // Tiny arguments take D*d rounded once: the remainders would underflow, and their
-        // roundings would be as large as what they correct.
-        __m128d ph = IfThenElse(tiny, Mul(Add(deriv, dl), d), Mul(deriv, dh));
-        __m128d rest = IfThenZeroElse(tiny, Add(Mul(Add(ph, pl), s1), pl));
-        if constexpr (G::kMirror != 0) FastTwoSum(k, vs, hi, e1);
-        FastTwoSum(hi, Xor(ph, flip), sum, e2);
-        y = Add(sum, Add(Add(e1, e2), Xor(Add(vlo, rest), flip)));
+        static_assert(W == 4 && G::kMirror == 0, "two parts: erf's wide rows");
+        // erf = v + d + d*g, g = D (1 + S1) - 1 with D = dh + dl (dh - 1 exact): v + d
+        // is kept in two parts, so that D's rounding and the product's weigh only g's
+        // share of the result, about a ninth near 0.
+        __m128d g = Add(Sub(deriv, Set<double>(1.0)), Add(dl, Mul(Add(deriv, dl), s1)));
+        __m128d h, e;
+        FastTwoSum(v, d, h, e); // v = 0 or v >= erf(1/128) > |d|
+        y = Add(h, Add(e, Add(vlo, Mul(d, g))));
+        if (__builtin_expect(MaskBits(tiny) != 0, 0)) y = IfThenElse(tiny, ErfTiny(a), y);
     } else {
         if constexpr (W == 4) deriv = Add(deriv, dl);
         __m128d w = Mul(deriv, d);
