@@ -78,15 +78,21 @@ struct MulZ {
     static constexpr bool kOneGroup = L != Level::EP;
     BRENN_VEC static int Eval(const Cx<double>* x, const Cx<double>* w, Cx<double>& y) {
         if constexpr (L != Level::EP) {
-            // each factor split once for its two products; MulByConj's sign of d is taken
-            // by the operations: ac + bd, bc - ad
+            // the four rounded products first, then the splits (a and b rounded, c and d
+            // by the mask), each factor split once for its two products, so that few
+            // values are live at once; MulByConj's sign of d is taken by the operations:
+            // ac + bd, bc - ad
             V a = x->re, b = x->im, c = w->re, d = w->im;
-            auto ha = SplitRounded(a), hb = SplitRounded(b), hc = SplitRounded(c),
-                      hd = SplitRounded(d);
-            y.re = RoundedSumOfProducts<!Conj>(ha, hc, hb, hd);
-            y.im = Conj ? RoundedSumOfProducts<true>(hb, hc, ha, hd)
-                        : RoundedSumOfProducts<false>(ha, hd, hb, hc);
-            return OutsideWindowBits<kMulWindowTop>(a, b, c, d);
+            int bits = OutsideWindowBits<kMulWindowTop>(a, b, c, d);
+            V ac = Mul(a, c), bd = Mul(b, d), bc = Mul(b, c), ad = Mul(a, d);
+            auto ha = SplitRounded(a), hb = SplitRounded(b), hc = SplitByMask(c),
+                 hd = SplitByMask(d);
+            y.re = RoundedSumOfProducts<!Conj>(ac, ProductError(ha, hc, ac), bd,
+                                               ProductError(hb, hd, bd));
+            V bcl = ProductError(hb, hc, bc), adl = ProductError(ha, hd, ad);
+            y.im = Conj ? RoundedSumOfProducts<true>(bc, bcl, ad, adl)
+                        : RoundedSumOfProducts<false>(ad, adl, bc, bcl);
+            return bits;
         } else {
             return PlainProducts<Conj>(x->re, x->im, w->re, w->im, y.re, y.im);
         }

@@ -61,8 +61,9 @@ BRENN_VEC Halves<V> SplitRounded(V a) {
 // A cheaper split, the low 27 bits masked off: halves of 26 and 27 bits, so that the
 // product of the two low halves may round (by 2^-104 of the product). Enough for the
 // squares of Abs, whose sum does not cancel and whose root's correction needs the
-// residual to far fewer bits; not for Mul or Div, which must stay exact where products
-// cancel.
+// residual to far fewer bits. Beside a factor split by SplitRounded every partial product
+// is exact again (26 bits times at most 27) and so is each step of ProductError below,
+// so Mul splits one factor of each product that way and the other by the mask.
 template <class V>
 BRENN_VEC Halves<V> SplitByMask(V a) {
     V hi = And(a, AsFloat(Set<int64_t>(int64_t(0xFFFFFFFFF8000000ull))));
@@ -98,13 +99,27 @@ BRENN_VEC void SumOfProducts(const Halves<V>& a, const Halves<V>& c, const Halve
     }
     FastTwoSum(hi, lo, hi, lo);
 }
-// Its head alone.
+// The exact error a*c - p of the rounded product p = a*c, from split factors: Dekker's
+// partial products added to -p from the largest to the smallest, each step exact (one
+// factor split by SplitRounded, the other by it or by the mask; parts in the window below).
+template <class V>
+BRENN_VEC V ProductError(const Halves<V>& a, const Halves<V>& c, V p) {
+    return Add(Add(Add(Sub(Mul(a.hi, c.hi), p), Mul(a.hi, c.lo)), Mul(a.lo, c.hi)),
+               Mul(a.lo, c.lo));
+}
+// p + q (Minus: p - q) for rounded products with their exact errors pl and ql, rounded
+// once: the heads' exact sum, its error and the products' errors added to it, as
+// SumOfProducts forms its head.
 template <bool Minus, class V>
-BRENN_VEC V RoundedSumOfProducts(const Halves<V>& a, const Halves<V>& c, const Halves<V>& b,
-                                 const Halves<V>& d) {
-    V hi, lo;
-    SumOfProducts<Minus>(a, c, b, d, hi, lo);
-    return hi;
+BRENN_VEC V RoundedSumOfProducts(V p, V pl, V q, V ql) {
+    V s, e;
+    if constexpr (Minus) {
+        TwoDiff(p, q, s, e);
+        return Add(s, Add(e, Sub(pl, ql)));
+    } else {
+        TwoSum(p, q, s, e);
+        return Add(s, Add(e, Add(pl, ql)));
+    }
 }
 
 // hi + lo = a*c + s*b*d (s = +1 or -1 by Neg), hi the rounded value.
@@ -149,16 +164,16 @@ BRENN_VEC __m128d HighWordsOf(__m128d a, __m128d b) {
     return _mm_castps_pd(
         _mm_shuffle_ps(_mm_castpd_ps(a), _mm_castpd_ps(b), _MM_SHUFFLE(3, 1, 3, 1)));
 }
-// Bit k set where one of the four parts of element k lies outside the window: the
-// larger and the smaller magnitude of a and c, b and d, by their high words four at a
-// time, against the window's two ends.
+// Bit k set where one of the four parts of element k lies outside the window: the high
+// words of a and b, c and d four at a time, each moved as in HighWordOutside, so that one
+// signed maximum and one compare against the moved top judge both ends.
 template <int32_t Top>
 BRENN_VEC int OutsideWindowBits(__m128d a, __m128d b, __m128d c, __m128d d) {
-    const I32x4 mag = Set<int32_t>(0x7FFFFFFF);
-    I32x4 ab = And(BitCast<I32x4>(HighWordsOf(a, b)), mag);
-    I32x4 cd = And(BitCast<I32x4>(HighWordsOf(c, d)), mag);
-    int m = MaskBits(Or(Gt(Max(ab, cd), Set<int32_t>(Top)),
-                        Gt(Set<int32_t>(kWindowBottom), Min(ab, cd))));
+    constexpr uint32_t kBase = uint32_t(kWindowBottom) + 0x80000000u;
+    const I32x4 mag = Set<int32_t>(0x7FFFFFFF), base = Set<int32_t>(int32_t(kBase));
+    I32x4 ab = Sub(And(BitCast<I32x4>(HighWordsOf(a, b)), mag), base);
+    I32x4 cd = Sub(And(BitCast<I32x4>(HighWordsOf(c, d)), mag), base);
+    int m = MaskBits(Gt(Max(ab, cd), Set<int32_t>(int32_t(uint32_t(Top) - kBase))));
     return (m | (m >> 2)) & 3;
 }
 
