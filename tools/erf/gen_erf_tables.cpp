@@ -79,6 +79,17 @@ void Row4(FILE* f, double a, double b, double c, double d) {
     std::fprintf(f, "},\n");
 }
 
+// erfc(x) (normal false) or Q(x) = erfc(x/sqrt(2))/2 (normal true).
+void TailValue(mpfr_t v, mpfr_t x, bool normal) {
+    mpfr_set(v, x, MPFR_RNDN);
+    if (normal) {
+        mpfr_sqrt_ui(v, 2, MPFR_RNDN);
+        mpfr_div(v, x, v, MPFR_RNDN);
+    }
+    mpfr_erfc(v, v, MPFR_RNDN);
+    if (normal) mpfr_div_2ui(v, v, 1, MPFR_RNDN);
+}
+
 // The wide rows of erfc (normal false) or Q (normal true) on j/per, times 2^128 from
 // xj = scaleFrom on; the derivative, -(the density), is signed.
 void TailRows(FILE* f, const char* name, int rows, int per, double scaleFrom, bool normal) {
@@ -88,14 +99,7 @@ void TailRows(FILE* f, const char* name, int rows, int per, double scaleFrom, bo
     for (int j = 0; j < rows; ++j) {
         double xj = double(j) / per, hi, lo, dhi, dlo;
         mpfr_set_d(x, xj, MPFR_RNDN);
-        // Q(x) = erfc(x/sqrt(2))/2.
-        mpfr_set(v, x, MPFR_RNDN);
-        if (normal) {
-            mpfr_sqrt_ui(v, 2, MPFR_RNDN);
-            mpfr_div(v, x, v, MPFR_RNDN);
-        }
-        mpfr_erfc(v, v, MPFR_RNDN);
-        if (normal) mpfr_div_2ui(v, v, 1, MPFR_RNDN);
+        TailValue(v, x, normal);
         Density(dv, x, normal);
         mpfr_neg(dv, dv, MPFR_RNDN);
         int s = xj >= scaleFrom ? 128 : 0;
@@ -130,17 +134,10 @@ void SingleRows(FILE* f, const char* name, int rows, int per, int kind, int scal
     mpfr_inits2(kPrec, x, v, dv, (mpfr_ptr)0);
     for (int j = 0; j < rows; ++j) {
         mpfr_set_d(x, double(j) / per, MPFR_RNDN);
-        if (kind == 0) {
+        if (kind == 0)
             mpfr_erf(v, x, MPFR_RNDN);
-        } else {
-            mpfr_set(v, x, MPFR_RNDN);
-            if (kind == 2) {
-                mpfr_sqrt_ui(v, 2, MPFR_RNDN);
-                mpfr_div(v, x, v, MPFR_RNDN);
-            }
-            mpfr_erfc(v, v, MPFR_RNDN);
-            if (kind == 2) mpfr_div_2ui(v, v, 1, MPFR_RNDN);
-        }
+        else
+            TailValue(v, x, kind == 2);
         Density(dv, x, kind == 2);
         if (kind != 0) mpfr_neg(dv, dv, MPFR_RNDN);
         mpfr_mul_2si(v, v, scale, MPFR_RNDN);
