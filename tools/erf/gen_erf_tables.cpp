@@ -67,16 +67,17 @@ void Density(mpfr_t out, mpfr_t x, bool normal) {
     mpfr_clear(t);
 }
 
-void Row4(FILE* f, double a, double b, double c, double d) {
+// A row of four; `suffix` after each value ("f" for single rows).
+void Row4(FILE* f, double a, double b, double c, double d, const char* suffix = "") {
     std::fprintf(f, "    {");
     Print(f, a);
-    std::fprintf(f, ", ");
+    std::fprintf(f, "%s, ", suffix);
     Print(f, b);
-    std::fprintf(f, ", ");
+    std::fprintf(f, "%s, ", suffix);
     Print(f, c);
-    std::fprintf(f, ", ");
+    std::fprintf(f, "%s, ", suffix);
     Print(f, d);
-    std::fprintf(f, "},\n");
+    std::fprintf(f, "%s},\n", suffix);
 }
 
 // erfc(x) (normal false) or Q(x) = erfc(x/sqrt(2))/2 (normal true).
@@ -122,11 +123,6 @@ void PairSingle(mpfr_t v, float& hi, float& lo) {
     mpfr_clear(r);
 }
 
-void PrintSingle(FILE* f, float v) {
-    Print(f, v);
-    std::fprintf(f, "f");
-}
-
 // The single rows of erf (kind 0), erfc (1) or Q (2) on j/per, times 2^scale.
 void SingleRows(FILE* f, const char* name, int rows, int per, int kind, int scale) {
     std::fprintf(f, "alignas(16) const float %s[%d][4] = {\n", name, rows);
@@ -145,15 +141,7 @@ void SingleRows(FILE* f, const char* name, int rows, int per, int kind, int scal
         float hi, lo, dhi, dlo;
         PairSingle(v, hi, lo);
         PairSingle(dv, dhi, dlo);
-        std::fprintf(f, "    {");
-        PrintSingle(f, hi);
-        std::fprintf(f, ", ");
-        PrintSingle(f, dhi);
-        std::fprintf(f, ", ");
-        PrintSingle(f, lo);
-        std::fprintf(f, ", ");
-        PrintSingle(f, dlo);
-        std::fprintf(f, "},\n");
+        Row4(f, hi, dhi, lo, dlo, "f");
     }
     std::fprintf(f, "};\n");
     mpfr_clears(x, v, dv, (mpfr_ptr)0);
