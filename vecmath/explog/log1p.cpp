@@ -149,7 +149,9 @@ inline __m128d Log1pOf(__m128d x, __m128d& special) {
     LnCore3From<L>(red, h, r, small);
     if constexpr (L == Level::HA) {
         __m128d s, err;
-        FastTwoSum(h, r, s, err); // exact: h is 0 or above |r| (see ScaleLog)
+        // Exact: h is 0 (row 0 at k = 0, or the last row at k = -1, whose heads cancel)
+        // or at least about 2^-10, and |r| <= 2^-10/mh.
+        FastTwoSum(h, r, s, err);
         return KeepTiny(x, Add(s, Add(err, small)));
     } else {
         return KeepTiny(x, Add(h, Add(r, small)));

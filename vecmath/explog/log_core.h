@@ -152,23 +152,6 @@ inline void LnCore(__m128d x, __m128d& h, __m128d& l) {
     l = Add(r, t);
 }
 
-// (h + r + t) * (ch + cl) rounded once in effect: s*ch exactly (Dekker; ch has 26 bits,
-// so both partial products are exact), the rest as a small correction.
-// h + r is exact by Fast2Sum: h is 0 (row 0 at k = 0, or the last row at k = -1, whose
-// heads cancel) or at least about 2^-10, and |r| <= 2^-10/mh.
-inline __m128d ScaleLog(__m128d h, __m128d r, __m128d t, double ch, double cl) {
-    __m128d s, err;
-    FastTwoSum(h, r, s, err);
-    __m128d e = Add(err, t);
-    __m128d sh, sl;
-    Split(s, sh, sl);
-    const __m128d c = Set<double>(ch);
-    __m128d ph = Mul(s, c);
-    __m128d pl = Add(Sub(Mul(sh, c), ph), Mul(sl, c));
-    __m128d corr = Add(pl, Add(Mul(s, Set<double>(cl)), Mul(e, Set<double>(ch + cl))));
-    return Add(ph, corr);
-}
-
 // A single body that widens its lanes to double, runs Core on each half and rounds once.
 template <class Core>
 inline __m128 WidenToDouble(__m128 x, Core core) {
