@@ -1,8 +1,9 @@
 /* Hypot, single and double: sqrt(a^2 + b^2) without overflow or underflow on the way.
  *
- * Single HA: in double on widened lanes, where the squares are exact and cannot
- * overflow, one rounded sum and the root, rounded once more to single: within about
- * 0.5 ulp. Single LA and EP: the sum of squares in single and the root from the
+ * Single HA: the single root of the single sum of squares, corrected once in double
+ * (below); registers where that sum overflows, underflows or is zero in some lane run
+ * in double on widened lanes, where the squares are exact and cannot overflow: one
+ * rounded sum and the root, rounded once more to single. Within about 0.5 ulp. Single LA and EP: the sum of squares in single and the root from the
  * reciprocal root estimate, refined once at LA, as Sqrt does at those levels; lanes
  * whose sum overflows, underflows or is zero go to the scalar routine.
  * Double: where the larger of a register's operands all lie in [2^-400, 2^400), the
@@ -93,6 +94,25 @@ inline __m128 HypotOf(__m128 a, __m128 b, __m128& special) {
         __m128 e = Sub(Set<float>(0.5f), Mul(g, Mul(Set<float>(0.5f), r)));
         return Add(g, Mul(g, e));
     }
+    // HA: where every lane's single s = a^2 + b^2 is a positive normal, its single
+    // root r (one sqrtps where a double root takes two sqrtpd for four lanes) and the
+    // correction d/(2r) with d = a^2 + b^2 - r^2 in double: the three squares are exact
+    // there, their sum rounded by 2^-53 and the difference exact. d rounded to single
+    // and 1/(2r) to 2^-11 are ample for a correction of an ulp or two, so r + d/(2r)
+    // rounded once in single is within 0.5 ulp and 2^-10 of one.
+    const __m128 s = Add(Mul(a, a), Mul(b, b));
+    if (__builtin_expect(MaskBits(RangeTest(s, ArithRanges<float>::kRoot)) == 0, 1)) {
+        special = Zero<float>();
+        const __m128 r = Sqrt(s);
+        auto residual = [](__m128d x, __m128d z, __m128d q) {
+            return Sub(Add(Mul(x, x), Mul(z, z)), Mul(q, q));
+        };
+        const __m128 d = Narrow(residual(WidenLower(a), WidenLower(b), WidenLower(r)),
+                                residual(WidenUpper(a), WidenUpper(b), WidenUpper(r)));
+        return Add(r, Mul(d, ApproxRecip(Add(r, r))));
+    }
+    // Otherwise all in double on widened lanes, where the squares are exact and cannot
+    // overflow: one rounded sum and the root, rounded once more to single.
     using R = HypotRanges<float>;
     special = Or(RangeTest(a, R::kNotFinite), RangeTest(b, R::kNotFinite));
     a = IfThenZeroElse(special, a);
