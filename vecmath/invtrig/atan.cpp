@@ -10,7 +10,7 @@
  * and one polynomial on [0, 1] (EP five terms in two halves, LA eight in two chains).
  * Single Atan and Atan2 HA run the fold of the double steps below in single, n - d and
  * n + d as exact pairs, the quotient's error from its exact residual and the base joined
- * by an exact sum (atan_body.h); Atan2 HA keeps its lanes to magnitudes in [2^-62, 2^62)
+ * by an exact sum (atan_body.h); Atan2 HA keeps its lanes to magnitudes in [2^-50, 2^50)
  * for that (the complex Arg's single HA keeps the double steps). The double steps, which
  * the pi-scaled single LA and HA take on widened lanes,
  * fold once more at tan(pi/8): t = (n - d)/(n + d), a quarter turn added, and a short
@@ -24,7 +24,7 @@
  *
  * Atan has no range test: infinity gives pi/2 through t = 1/inf = 0, NaN passes. Atan2
  * sends zeros, infinities, NaN and magnitudes outside [2^-125, 2^123] in single
- * ([2^-62, 2^62) at HA; [2^-500, 2^500) in double) to the scalar routine, which gives
+ * ([2^-50, 2^50) at HA; [2^-500, 2^500) in double) to the scalar routine, which gives
  * the special values of C99 Annex F and, for the others, the compensated double steps (in double
  * after both arguments are scaled by one power of two). Nothing is reported.
  *
