@@ -60,13 +60,26 @@ inline DD FastTwoSum(LD a, LD b) { // |a| >= |b|
     const LD s = a + b;
     return {s, b - (s - a)};
 }
-// Dekker's exact product: the 64-bit significands split into 32-bit halves by 2^32 + 1.
-inline DD TwoProduct(LD a, LD b) {
+// A factor split once for the exact products it enters: the 64-bit significand in 32-bit
+// halves by 2^32 + 1 (Veltkamp).
+struct Halves {
+    LD v, h, l;
+};
+constexpr Halves SplitX(LD a) {
     constexpr LD kSplit = 4294967297.0L;
-    const LD ta = a * kSplit, tb = b * kSplit;
-    const LD ah = ta - (ta - a), al = a - ah, bh = tb - (tb - b), bl = b - bh;
-    const LD p = a * b;
-    return {p, ((ah * bh - p) + ah * bl + al * bh) + al * bl};
+    const LD t = a * kSplit, h = t - (t - a);
+    return {a, h, a - h};
+}
+constexpr Halves Negated(const Halves& a) {
+    return {-a.v, -a.h, -a.l};
+}
+// Dekker's exact product of split factors.
+constexpr DD TwoProduct(const Halves& a, const Halves& b) {
+    const LD p = a.v * b.v;
+    return {p, ((a.h * b.h - p) + a.h * b.l + a.l * b.h) + a.l * b.l};
+}
+constexpr DD TwoProduct(LD a, LD b) {
+    return TwoProduct(SplitX(a), SplitX(b));
 }
 inline DD Add(DD a, DD b) {
     const DD s = TwoSum(a.hi, b.hi);
@@ -83,6 +96,13 @@ inline DD Mul(DD a, DD b) {
 inline DD Mul(DD a, LD b) {
     const DD p = TwoProduct(a.hi, b);
     return FastTwoSum(p.hi, p.lo + a.lo * b);
+}
+// The same from split factors (ah the split of a.hi), left as the product's head and the
+// rest without the last normalisation (the rest within about an ulp of the head), for
+// the sums of w, whose Add normalises.
+inline DD MulLoose(const DD& a, const Halves& ah, const Halves& b) {
+    const DD p = TwoProduct(ah, b);
+    return {p.hi, p.lo + a.lo * b.v};
 }
 inline DD Div(DD a, DD b) {
     const LD q = a.hi / b.hi;
@@ -114,6 +134,19 @@ inline DD Scaled(DD a, int e) {
 constexpr LD kPio2[3] = {0xc90fdaa22168c235p-63L, -0xece675d1fc8f8cbbp-129L,
                          -0xb7ed8fbbacc19c60p-194L};
 constexpr DD kPio2DD = {kPio2[0], kPio2[1]};
+constexpr Halves kPio2Halves = SplitX(kPio2[0]);
+// k pi/4, k = -4..4, as Mul(kPio2DD, k/2) gives it.
+struct EighthTurns {
+    DD v[9];
+    constexpr EighthTurns() : v{} {
+        for (int k = -4; k <= 4; ++k) {
+            const DD p = TwoProduct(kPio2[0], k * 0.5L);
+            const LD lo = p.lo + kPio2[1] * (k * 0.5L), hi = p.hi + lo;
+            v[k + 4] = {hi, lo - (hi - p.hi)};
+        }
+    }
+};
+constexpr EighthTurns kEighthTurns;
 // ln 2 with a 48-bit head (its products with exponents below 2^12 exact) and the rest.
 constexpr LD kLn2A = 0xb17217f7d1cfp-48L, kLn2B = 0xf35793c7673007e6p-113L;
 constexpr DD kThirdDD = {0xaaaaaaaaaaaaaaabp-65L, -0xaaaaaaaaaaaaaaabp-130L};
@@ -213,14 +246,11 @@ DD LnAbs(LD x, LD y) {
     constexpr LD kSplit = 4294967297.0L;
     const LD t = m * kSplit, mh = t - (t - m), ml = m - mh;
     const DD r = TwoSum(mh * row[0] - 1, ml * row[0] + sl * row[0]); // both products exact
-    const LD q = r.hi;
-    const LD rest =
-        q * q *
-        (-0.5L +
-         q * (1 / 3.0L +
-              q * (-0.25L +
-                   q * (0.2L + q * (-1 / 6.0L +
-                                    q * (1 / 7.0L + q * (-0.125L + q * (1 / 9.0L - q * 0.1L))))))));
+    // the rest of the series by Estrin's scheme, whose short chains overlap
+    const LD q = r.hi, q2 = q * q, q4 = q2 * q2;
+    const LD p0 = (-0.5L + q * (1 / 3.0L)) + q2 * (-0.25L + q * 0.2L);
+    const LD p1 = (-1 / 6.0L + q * (1 / 7.0L)) + q2 * (-0.125L + q * (1 / 9.0L));
+    const LD rest = q2 * ((p0 + q4 * p1) + (q4 * q4) * -0.1L);
     const DD h = TwoSum(e * kLn2A, row[1]), g = TwoSum(h.hi, q); // e kLn2A exact
     const DD ln = FastTwoSum(g.hi, g.lo + (h.lo + (e * kLn2B + row[2] + r.lo + rest)));
     *err = fabsl(q) * 0x1p-73L + 0x1p-80L + fabsl(LD(e)) * 0x1p-110L;
@@ -312,7 +342,8 @@ template <bool Coarse = false>
         const DD s = FastTwoSum(r.hi, r.lo + (w.lo - q * kPio2C));
         return {(long long)q, s.hi, s.lo};
     }
-    const DD p1 = TwoProduct(q, kPio2[0]), p2 = TwoProduct(q, kPio2[1]);
+    const Halves hq = SplitX(q);
+    const DD p1 = TwoProduct(hq, kPio2Halves), p2 = TwoProduct(hq, SplitX(kPio2[1]));
     DD r = Add(DD{w.hi - p1.hi, 0}, w.lo - p1.lo); // the heads cancel exactly
     r = Add(r, -p2.hi);
     r = Add(r, -(p2.lo + q * kPio2[2]));
@@ -464,10 +495,14 @@ template <int P>
     DD l = LnAbsMid(x, y, &el), dd = AtanRatioMid(o.num, o.den);
     dd = {o.sg * dd.hi, o.sg * dd.lo};
     const LD ed = fabsl(dd.hi) * 0x1p-72L;
+    const Halves hu = SplitX(u), hv = SplitX(v), hg = SplitX(g);
     for (int pass = 0;; ++pass) {
-        const DD t = Add(Mul(kPio2DD, o.k * 0.5L), dd);
-        const DD e = Add(Mul(l, u), Mul(t, -v));
-        const DD iw = Add(Add(Mul(kPio2DD, g), Mul(dd, u)), Mul(l, v));
+        // each factor split once for its products
+        const Halves hl = SplitX(l.hi), hd = SplitX(dd.hi);
+        const DD t = Add(kEighthTurns.v[o.k + 4], dd);
+        const DD e = Add(MulLoose(l, hl, hu), MulLoose(t, SplitX(t.hi), Negated(hv)));
+        const DD iw =
+            Add(Add(MulLoose(kPio2DD, kPio2Halves, hg), MulLoose(dd, hd, hu)), MulLoose(l, hl, hv));
         Angle an = pass ? Reduced(iw) : Reduced<true>(iw);
         an.j += (long long)j0;
         const LD em = fabsl(u) * el + fabsl(v) * ed + (fabsl(e.hi) + fabsl(v * t.hi)) * 0x1p-100L;
