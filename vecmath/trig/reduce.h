@@ -180,9 +180,12 @@ BRENN_TRIG_COLD void LargeD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl) {
 // 2^-52 when a >= 1; j = 0 below pi/128) and their difference is below 2^-5. The third
 // is carried exactly so that an argument close to a multiple of pi keeps its full
 // precision.
-BRENN_TRIG_HOT void ShortD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl, int add) {
+// The second form also gives t, whose low word is j (before add), for lane masks of j's
+// bits without a round trip through J.
+BRENN_TRIG_HOT void ShortD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl, int add,
+                           __m128d& t) {
     const __m128d shifter = Set<double>(Format<double>::kShifter);
-    __m128d t = Add(Mul(a, Set<double>(k64OverPi)), shifter);
+    t = Add(Mul(a, Set<double>(k64OverPi)), shifter);
     J[0] = LowWord<0>(AsInt(t)) + add;
     J[1] = LowWord<1>(AsInt(t)) + add;
     __m128d j = Sub(t, shifter);
@@ -193,6 +196,10 @@ BRENN_TRIG_HOT void ShortD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl, in
     l = Sub(l, Mul(j, Set<double>(kPi64Parts[3])));
     // Renormalised, the series running on rh alone: |h| >= |l|, so the fast sum is exact.
     FastTwoSum(h, l, rh, rl);
+}
+BRENN_TRIG_HOT void ShortD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl, int add) {
+    __m128d t;
+    ShortD(a, J, rh, rl, add, t);
 }
 
 // Per-lane choice between two reductions, by a two-bit lane mask (bit k: lane k of b).

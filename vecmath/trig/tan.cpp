@@ -243,13 +243,17 @@ constexpr uint64_t kHead26 = 0xFFFFFFFFF8000000ull; // keeps 26 significant bits
 
 // M registers at once (J two entries a register), each step over all of them before the
 // next, so that their chains (and divisions) overlap.
+// With t (the short reduction's shifted j a register), n odd is read from it: bit 5 of
+// j + 16 moved to the sign bit, which is all that the mask's uses read.
 template <int M>
-BRENN_TRIG_HOT void TanSums(const int32_t* J, const __m128d* rh, const __m128d* rl, __m128d* y) {
+BRENN_TRIG_HOT void TanSums(const int32_t* J, const __m128d* rh, const __m128d* rl, __m128d* y,
+                            const __m128d* t = nullptr) {
     __m128d odd[M], ah[M], al[M], tt[M], dh[M], dl[M], nh[M], nl[M], th[M], tl[M], bh[M],
         bl[M], rb[M], q[M];
     BRENN_EACH(k, M) {
         const int i0 = J[2 * k] + 16, i1 = J[2 * k + 1] + 16;
-        odd[k] = MaskFromBits<double>(((i0 >> 5) & 1) | ((i1 >> 4) & 2));
+        odd[k] = t ? AsFloat(ShiftLeft<58>(Add(AsInt(t[k]), Set<uint64_t>(16))))
+                   : MaskFromBits<double>(((i0 >> 5) & 1) | ((i1 >> 4) & 2));
         __m128d a0 = Load(tanPi64[i0 & 31]), a1 = Load(tanPi64[i1 & 31]);
         ah[k] = InterleaveLower(a0, a1);
         al[k] = InterleaveUpper(a0, a1);
@@ -398,9 +402,9 @@ struct TanBody<double, L> {
         if constexpr (L == Level::HA) {
             BRENN_EACH(h, 2) {
                 alignas(16) int32_t J[8];
-                __m128d rh[4], rl[4];
-                BRENN_EACH(k, 4) ShortD(a[4 * h + k], J + 2 * k, rh[k], rl[k], 0);
-                TanSums<4>(J, rh, rl, y + 4 * h);
+                __m128d rh[4], rl[4], t[4];
+                BRENN_EACH(k, 4) ShortD(a[4 * h + k], J + 2 * k, rh[k], rl[k], 0, t[k]);
+                TanSums<4>(J, rh, rl, y + 4 * h, t);
             }
         } else if constexpr (L == Level::EP) {
             QuadrantTan<8, TanFitEP>(a, TanShort<double>::kPiHalf, y);
