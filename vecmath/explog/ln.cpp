@@ -22,6 +22,11 @@
 namespace brenn::vm {
 namespace {
 
+// Q(r) of the single body at LA, on r in [-1/3, 1/3), fitted by
+// tools/explog/ln_single.sollya (about 2^-25.1); HA's is in log_single.h.
+constexpr float kLnLA[] = {-0x1.ffffd6p-2f, 0x1.5554fcp-2f, -0x1.00144ep-2f, 0x1.99d398p-3f,
+                           -0x1.5038e4p-3f, 0x1.1eaacap-3f, -0x1.3b0c36p-3f, 0x1.1f1bb8p-3f};
+
 // Single: the split around 2/3 and r + r^2*Q(r) + k*ln2. LA uses Estrin's scheme, so
 // that the chain is four steps deep and not eight: the body is bound by that latency,
 // not by the arithmetic.
@@ -31,8 +36,8 @@ inline __m128 LnOf(__m128 x) {
     __m128 r, k;
     LogSplit(x, r, k);
     if constexpr (L != Level::HA) {
-        if constexpr (L == Level::LA) return LnSingleLA(r, k);
-        __m128 p = Add(r, Mul(Mul(r, r), Horner(r, K::kLnEP)));
+        __m128 q = L == Level::EP ? Horner(r, K::kLnEP) : Estrin(r, kLnLA);
+        __m128 p = Add(r, Mul(Mul(r, r), q));
         return Add(p, Mul(k, Set<float>(K::kLn2)));
     } else {
         return LnSingleHA(r, k);

@@ -1,14 +1,13 @@
 /* Log10 and Log2, single and double.
  *
- * Single EP, and Log2 LA: the split around 2/3 of log_core.h and r*P(r) with P of 5 (EP)
- * or 9 (LA) coefficients fitted for the base, plus k*log10(2) or k itself. Log10 LA: the
- * single LA ln of log_single.h times log10(e).
+ * Single EP and LA: the split around 2/3 of log_core.h and r*P(r) with P of 5 (EP) or 9
+ * (LA) coefficients fitted for the base, plus k*log10(2) (two parts at LA) or k itself.
  * Single HA: ln in double from the split of the single bits and the table core's EP
  * polynomial (LnOfSingleLanes, about 2^-33) times the base's constant, rounded once.
  * Double: a reduction on rows of log_B itself with 10-bit reciprocals, so that the
  * reduced argument is an exact sum, and log_B(1 + r) = c*r + r^2*Q(r) with Q fitted for
  * the base; at HA c*r carried exactly in effect (log_base_double.h).
- * Measured (brenn_accuracy, worst of its inputs): sLog10 EP 14.0 bits, LA 2.64 ulp,
+ * Measured (brenn_accuracy, worst of its inputs): sLog10 EP 14.0 bits, LA 1.81 ulp,
  * HA 0.50 ulp; sLog2 EP 13.8 bits, LA 2.28 ulp, HA 0.50 ulp; dLog10 EP 31.7 bits, LA
  * 1.52 ulp, HA 0.500 ulp; dLog2 EP 32.2 bits, LA 1.32 ulp, HA 0.500 ulp.
  * Scalar routines: log_scalar.h; the double ones by fyl2x with log10(2) or 1. */
@@ -16,7 +15,6 @@
 #include "vecmath/explog/flat.h"
 #include "vecmath/explog/log_base_double.h"
 #include "vecmath/explog/log_scalar.h"
-#include "vecmath/explog/log_single.h"
 #include "vecmath/explog/wide.h"
 #include "vecmath/frame/kernel_frame.h"
 
@@ -32,11 +30,14 @@ struct LogBase<10> {
     static constexpr double kPerLn = 0x1.bcb7b1526e50ep-2;
     // The factor of fyl2x: log10(2).
     static constexpr long double kOfLog2 = kLog10Of2L;
-    // Single EP: P(r) of log10(1 + r) = r*P(r) on r in [-1/3, 1/3); a set of its own, not
-    // the fit of tools/explog/log_single.sollya (that script prints it and its
+    // Single: P(r) of log10(1 + r) = r*P(r) on r in [-1/3, 1/3). LA fitted by
+    // tools/explog/log_single.sollya; EP keeps its own set (that script prints it and its
     // error beside the fit, which measures 13.8 bits against this set's 14.0).
     static constexpr float kEP[] = {0x1.bcb95cp-2f, -0x1.bc1244p-3f, 0x1.26fb7cp-3f,
                                     -0x1.e9dae2p-4f, 0x1.9b824ep-4f};
+    static constexpr float kLA[] = {0x1.bcb7b2p-2f,  -0x1.bcb78ap-3f, 0x1.28798cp-3f,
+                                    -0x1.bcdc26p-4f, 0x1.641fa2p-4f,  -0x1.23f7d8p-4f,
+                                    0x1.ee5948p-5f,  -0x1.11f9ccp-4f, 0x1.00a40ep-4f};
     // log10(2) for k: rounded (EP), and as a head whose product with k is exact and the
     // rest (LA).
     static constexpr float kPerK = 0x1.344136p-2f;
@@ -70,21 +71,18 @@ inline __m128 LogOf(__m128 x) {
             const __m128d c = Set<double>(K::kPerLn);
             return Narrow(Mul(lo, c), Mul(hi, c));
         });
-    } else if constexpr (L == Level::LA && Base == 10) {
-        // ln x by the single LA logarithm, times log10(e): one rounding more than Ln's,
-        // and a chain four steps shorter than base 10's own polynomial by Horner's rule.
-        __m128 r, k;
-        LogSplit(x, r, k);
-        return Mul(LnSingleLA(r, k), Set<float>(float(K::kPerLn)));
     } else {
         __m128 r, k;
         LogSplit(x, r, k);
         // Log2 LA: the seven high coefficients by Estrin's scheme (their rounding is
         // scaled by r^2), the two low ones by Horner steps: a chain of five steps, not
-        // nine (2.28 ulp, Horner 2.35).
+        // nine (2.28 ulp, Horner 2.35). Log10 LA keeps Horner's rule: near x = 4/3, where
+        // k*log10(2) and r*P cancel to about 0.125, the mixed scheme measured 2.6 ulp.
         __m128 q;
         if constexpr (L == Level::EP) {
             q = Horner(r, K::kEP);
+        } else if constexpr (Base == 10) {
+            q = Horner(r, K::kLA);
         } else {
             q = MulAdd(r, Estrin(r, K::kLAHigh), Set<float>(K::kLALow[1]));
             q = MulAdd(r, q, Set<float>(K::kLALow[0]));

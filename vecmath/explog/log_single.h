@@ -1,10 +1,9 @@
-/* The single natural logarithm at LA and HA in single lanes, shared by Ln, Log10 (LA)
- * and Log1p (HA): from the split around 2/3 of log_core.h (x = 2^k*(1 + r), r exact in
- * [-1/3, 1/3)), ln x = k*ln2 + r + r^2*Q(r), Q fitted by tools/explog/ln_single.sollya.
- * LA: eight coefficients (about 2^-25.1) by Estrin's scheme. HA: nine (about 2^-27.6),
- * the seven high ones by Estrin's scheme (their rounding is scaled down by r^2), the two
- * low ones by Horner steps, so that Q's error is about the last step's half ulp while the
- * chain stays short. */
+/* The single natural logarithm at HA in single lanes, shared by Ln and Log1p: from the
+ * split around 2/3 of log_core.h (x = 2^k*(1 + r), r exact in [-1/3, 1/3)),
+ * ln x = k*ln2 + r + r^2*Q(r) with Q of nine coefficients (tools/explog/ln_single.sollya,
+ * HA, about 2^-27.6): the seven high ones by Estrin's scheme (their rounding is scaled
+ * down by r^2), the two low ones by Horner steps, so that Q's error is about the last
+ * step's half ulp while the chain stays short. */
 #ifndef BRENN_VECMATH_EXPLOG_LOG_SINGLE_H
 #define BRENN_VECMATH_EXPLOG_LOG_SINGLE_H
 
@@ -12,20 +11,11 @@
 
 namespace brenn::vm {
 
-constexpr float kLnLA[] = {-0x1.ffffd6p-2f, 0x1.5554fcp-2f, -0x1.00144ep-2f, 0x1.99d398p-3f,
-                           -0x1.5038e4p-3f, 0x1.1eaacap-3f, -0x1.3b0c36p-3f, 0x1.1f1bb8p-3f};
 constexpr float kLnHALow[] = {-0x1p-1f, 0x1.555502p-2f};
 constexpr float kLnHAHigh[] = {-0x1.ffff14p-3f, 0x1.99d1c6p-3f, -0x1.559804p-3f, 0x1.1ec0dp-3f,
                                -0x1.f3a788p-4f, 0x1.1ec6ep-3f,  -0x1.06cedcp-3f};
 
-// LA: ln(2^k*(1 + r)) with one rounding of each step; Estrin's scheme keeps the chain
-// four steps deep, not eight: the body is bound by that latency, not by the arithmetic.
-inline __m128 LnSingleLA(__m128 r, __m128 k) {
-    __m128 p = Add(r, Mul(Mul(r, r), Estrin(r, kLnLA)));
-    return Add(p, Mul(k, Set<float>(LogConst<float>::kLn2)));
-}
-
-// HA: ln(2^k*(1 + r)), and with kSmall that plus small, a term about the result's last
+// ln(2^k*(1 + r)), and with kSmall that plus small, a term about the result's last
 // place or below (Log1p's rounding correction). k*ln2hi + r is carried exactly with its
 // rounding error (|k*ln2hi| is above |r| whenever k is not 0, and for k = 0 the sum is
 // r itself), and k*ln2lo and small join that error, so that only the last addition
