@@ -1,9 +1,8 @@
 /* Expm1, single and double, three levels each.
  *
  * The vector kernels use no table: x = n*ln2 + r, |r| <= ln2/2, and
- * e^x - 1 = (2^n - 1) + 2^n*p(r), one rounding (Expm1NoTable): single HA in single with
- * degree 7 and the leading sums carried exactly (Expm1SingleHA), single LA and EP with
- * degree 6 and 4,
+ * e^x - 1 = (2^n - 1) + 2^n*p(r), one rounding (Expm1NoTable): single HA widened to
+ * double with degree 7 and rounded once, single LA and EP in single with degree 6 and 4,
  * double LA degree 11, EP degree 7; double HA degree 12 with 2^n - 1 and 2^n*rh summed
  * exactly (Expm1NoTableExact).
  * The scalar routines run the table core of exp_core.h: e^x - 1 = 2^m*T*(1 + p) - 1 with
@@ -18,7 +17,7 @@
  * otherwise. Error mode 0x2000 blends the overflow lanes to +inf. Rounds of sixteen
  * elements (wide.h).
  *
- * Measured (brenn_accuracy, full run): sExpm1 HA 0.81 ulp, LA 1.36 ulp, EP 15.1 bits;
+ * Measured (brenn_accuracy, full run): sExpm1 HA 0.503 ulp, LA 1.36 ulp, EP 15.1 bits;
  * dExpm1 LA 1.26 ulp, HA 0.77 ulp, EP 31.7 bits. The polynomials: without a table
  * tools/explog/expm1_notable.sollya, the core's tools/explog/expm1_double.sollya. */
 #include "frame/kernels.h"
@@ -74,8 +73,8 @@ inline __m128d Expm1Core(__m128d x) {
     return IfThenElse(tiny, x, y);
 }
 
-// Without a table, for the kernels whose bound leaves room for it (single LA and EP,
-// double LA and EP): x = n*ln2 + r with
+// Without a table, for the kernels whose bound leaves room for it (the single kernel,
+// which needs 2^-30 from its double lanes, and double LA and EP): x = n*ln2 + r with
 // |r| <= ln2/2, p(r) ~ e^r - 1 by Estrin's scheme, and e^x - 1 = (2^n - 1) + 2^n*p:
 // 2^n*p is exact and 2^n - 1 is exact for |n| <= 53 (beyond, its rounding is below the
 // result's last place), so the sum is the one rounding. It does not cancel (n = 1:
@@ -123,9 +122,6 @@ struct Expm1Wide<float> {
     static constexpr float kC6[] = {0x1.fffffep-2f, 0x1.5554bp-3f, 0x1.555716p-5f, 0x1.12278ep-7f,
                                     0x1.6b7338p-10f};
     static constexpr float kC4[] = {0x1.00022ap-1f, 0x1.57084ap-3f, 0x1.54dedep-5f};
-    // HA: degree 7 (2^-31), by tools/explog/expm1_notable.sollya.
-    static constexpr float kC7[] = {0x1p-1f,         0x1.555554p-3f,  0x1.5554fp-5f,
-                                    0x1.111306p-7f,  0x1.6d4366p-10f, 0x1.9e0be6p-13f};
 };
 
 template <bool TwoPartLn2, class V, class T, size_t N>
@@ -169,29 +165,6 @@ inline __m128d Expm1NoTableExact(__m128d x) {
     return Add(s, Add(Add(es, ea), Mul(scale, Add(rl, q))));
 }
 
-// Single HA in single lanes: the form of Expm1NoTableExact with 2^n - 1 and 2^n*rh carried
-// by TwoSum, and r^2*Q (a sixth of the result at most, for n = 0) joining that head by
-// Fast2Sum, so that only sums of the small parts and the last addition round. x is
-// raised to -18 first (e^x - 1 is -1 in single below -17.33): 2^n stays at 2^-26 or
-// above, so that no product is denormal.
-inline __m128 Expm1SingleHA(__m128 x) {
-    using W = Expm1Wide<float>;
-    const __m128 shifter = Set<float>(Format<float>::kShifter);
-    x = Max(x, Set<float>(-18.0f));
-    __m128 t = Add(Mul(x, Set<float>(W::kInvLn2)), shifter);
-    __m128 n = Sub(t, shifter);
-    __m128 rh = Sub(x, Mul(n, Set<float>(W::kLn2Hi))); // exact
-    __m128 rl = Mul(n, Set<float>(-W::kLn2Lo));
-    __m128 r = Add(rh, rl);
-    __m128 q = Mul(Mul(r, r), Estrin(r, W::kC7));
-    __m128 scale = ScaleByLowWord<0>(Set<float>(1), t);
-    __m128 a, ea, s, es, h, eq;
-    TwoSum(scale, Set<float>(-1.0f), a, ea);
-    TwoSum(a, Mul(scale, rh), s, es);
-    FastTwoSum(s, Mul(scale, q), h, eq);
-    return Add(h, Add(Add(Add(es, ea), Mul(scale, rl)), eq));
-}
-
 // By precision: the range window on |x| (86.6433945 in single, 708 in double), and by
 // level the table core's degree and whether its middle sum is carried exactly, for the
 // double HA kernel and for the scalar routines (degree 6, EP degree 4).
@@ -226,8 +199,8 @@ inline double Expm1Value(double x) {
     return GetLane(Expm1Core<D, Exact>(Set<double>(x)));
 }
 
-// Vector values by level: single HA the exact single form, single LA and EP the
-// degree-6 and degree-4 forms in single;
+// Vector values by level: single HA widens its lanes to double, runs the degree-7 form
+// and rounds once, single LA and EP run the degree-6 and degree-4 forms in single;
 // double LA and EP the degree-11 and degree-7 forms, HA the exact form. e^x - 1 has the
 // sign of x, which these forms give to every result but that of -0: x's sign bit is
 // put back.
@@ -239,7 +212,9 @@ inline __m128 Expm1Of(__m128 x) {
     } else if constexpr (L == Level::EP) {
         y = Expm1NoTable<true>(x, Expm1Wide<float>::kC4);
     } else {
-        y = Expm1SingleHA(x);
+        __m128d lo = Expm1NoTable<false>(WidenLower(x), Expm1Wide<double>::kC7);
+        __m128d hi = Expm1NoTable<false>(WidenUpper(x), Expm1Wide<double>::kC7);
+        y = Narrow(lo, hi);
     }
     return Or(y, SignBit(x));
 }
