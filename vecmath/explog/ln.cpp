@@ -2,7 +2,7 @@
  *
  * sLn: the branch-free split around 2/3 (log_core.h), then r + r^2*Q(r) with Q of 4
  * (EP), 8 (LA) or 9 (HA) coefficients, plus k*ln2 (in two parts at HA, with the sums
- * carried exactly so that only the last one rounds; log_single.h, shared with Log1p). x = 1 gives k = 0 and r = 0:
+ * carried exactly so that only the last one rounds). x = 1 gives k = 0 and r = 0:
  * exactly +0 at every level.
  * dLn: the 513-row reciprocal table with |r| <= 2^-10 (log_core.h); EP a cubic without
  * the low parts; LA and HA degree 5 with ln 2 and the table logarithm in two parts,
@@ -14,7 +14,6 @@
  * denormals their correct logarithm). */
 #include "frame/kernels.h"
 #include "vecmath/explog/log_scalar.h"
-#include "vecmath/explog/log_single.h"
 #include "vecmath/explog/flat.h"
 #include "vecmath/explog/wide.h"
 #include "vecmath/frame/kernel_frame.h"
@@ -22,10 +21,14 @@
 namespace brenn::vm {
 namespace {
 
-// Q(r) of the single body at LA, on r in [-1/3, 1/3), fitted by
-// tools/explog/ln_single.sollya (about 2^-25.1); HA's is in log_single.h.
+// Q(r) of the single body at LA and HA, on r in [-1/3, 1/3), both fitted by
+// tools/explog/ln_single.sollya (LA about 2^-25.1). At HA the two low coefficients
+// are Horner steps after the seven high ones.
 constexpr float kLnLA[] = {-0x1.ffffd6p-2f, 0x1.5554fcp-2f, -0x1.00144ep-2f, 0x1.99d398p-3f,
                            -0x1.5038e4p-3f, 0x1.1eaacap-3f, -0x1.3b0c36p-3f, 0x1.1f1bb8p-3f};
+constexpr float kLnHALow[] = {-0x1p-1f, 0x1.555502p-2f};
+constexpr float kLnHAHigh[] = {-0x1.ffff14p-3f, 0x1.99d1c6p-3f, -0x1.559804p-3f, 0x1.1ec0dp-3f,
+                               -0x1.f3a788p-4f, 0x1.1ec6ep-3f,  -0x1.06cedcp-3f};
 
 // Single: the split around 2/3 and r + r^2*Q(r) + k*ln2. LA uses Estrin's scheme, so
 // that the chain is four steps deep and not eight: the body is bound by that latency,
@@ -40,7 +43,23 @@ inline __m128 LnOf(__m128 x) {
         __m128 p = Add(r, Mul(Mul(r, r), q));
         return Add(p, Mul(k, Set<float>(K::kLn2)));
     } else {
-        return LnSingleHA(r, k);
+        // The seven high coefficients by Estrin's scheme (their rounding is scaled down
+        // by r^2), the two low ones by Horner steps, so that Q's error is about the last
+        // step's half ulp while the chain stays short.
+        __m128 r2 = Mul(r, r);
+        __m128 q = MulAdd(r, Estrin(r, kLnHAHigh), Set<float>(kLnHALow[1]));
+        q = MulAdd(r, q, Set<float>(kLnHALow[0]));
+        // k*ln2hi + r is carried exactly with its rounding error (|k*ln2hi| is above |r|
+        // whenever k is not 0, and for k = 0 the sum is r itself), and r^2*Q and
+        // k*ln2lo join that error, so that only the last addition rounds at the result's
+        // scale: near x = 2/3, where p = r + r^2*Q is of the result's size, two roundings
+        // would otherwise reach an ulp. Carrying the sum at r rather than at p takes one
+        // exact step, not two.
+        __m128 s, e;
+        FastTwoSum(Mul(k, Set<float>(K::kLn2Hi)), r, s, e);
+        // The terms that are ready early are summed first: r^2*Q ends the longest chain.
+        __m128 lo = Add(Add(e, Mul(k, Set<float>(K::kLn2Lo))), Mul(r2, q));
+        return Add(s, lo);
     }
 }
 

@@ -6,20 +6,19 @@
  * u: it fires for x at or below -1, infinite or NaN. For |x| below 2^-25 (single) u is
  * 1, k and r are 0, and the result is c = x exactly: tiny and denormal x come through the
  * body as themselves.
- * Single: the split around 2/3 on u. EP the polynomial of sLn EP, with no correction and
- * r = x itself where k is 0; LA a fitted one of eight coefficients and c/u; HA the single
- * HA logarithm of log_single.h with c/u joining its low part.
+ * Single EP and LA: the split around 2/3 on u with the polynomial of sLn EP and a fitted
+ * one of eight coefficients (LA); HA in double on the EP logarithm core of the single
+ * split (LnOfSingleLanesPlus), where u + c is exact.
  * Double: the logarithm core on u + c, c*2^-k added to the reduction's low part (EP core
  * at EP, degree 5 at LA and HA); HA carries h + r exactly before the small terms are
  * added.
  * Measured (brenn_accuracy, worst of its inputs): sLog1p EP 12.8 bits, LA 1.66 ulp,
- * HA 0.83 ulp; dLog1p EP 32.6 bits, LA 0.84 ulp, HA 0.66 ulp.
+ * HA 0.50 ulp; dLog1p EP 32.6 bits, LA 0.84 ulp, HA 0.66 ulp.
  * Scalar routine: x = -1 gives -inf with the singularity status, x below -1 (and -inf)
  * NaN with the domain status, NaN and +inf themselves. */
 #include "frame/kernels.h"
 #include "vecmath/explog/flat.h"
 #include "vecmath/explog/log_scalar.h"
-#include "vecmath/explog/log_single.h"
 #include "vecmath/explog/wide.h"
 #include "vecmath/frame/kernel_frame.h"
 
@@ -95,26 +94,18 @@ inline __m128 Log1pOf(__m128 x, __m128& special) {
     using K = LogConst<float>;
     special = LogSpecial(Add(Set<float>(1.0f), x));
     if constexpr (L == Level::HA) {
-        // ln u by the single HA logarithm, with c/u joining its low part: the correction
-        // is below half an ulp of u relatively, so its own rounding and the dropped
-        // -c^2/(2u^2) are far below the result's last place. Near x = 0 (k = 0) r is
-        // u - 1 and r + c is x exactly; below 2^-25 u is 1 and the result is c/1 = x.
-        x = IfThenZeroElse(special, x); // special lanes run on 0: no flags of their own
+        // In double, u = 1 + x is exact for a single x from 2^-29 up to 2^53 (at most 53
+        // bits from 2^0 down to x's last place), and beyond 2^53 its rounding is far
+        // below the result's last place: no correction term, no division. Below 2^-29,
+        // log1p(x) is within 2^-30 of x, relatively, and x is the rounded result.
+        // So u + c, with u = 1 + x and c its rounding error in single, is exact in double:
+        // c*2^-k joins u's significand there (LnOfSingleLanesPlus), with no division.
+        __m128 xx = IfThenZeroElse(special, x); // special lanes take 0
         __m128 u, c;
-        OnePlus(x, u, c);
-        __m128 r, k;
-        LogSplit(u, r, k);
-        return KeepTiny(x, LnSingleHA<true>(r, k, Div(c, u)));
-    } else if constexpr (L == Level::EP) {
-        // The rounding of u = 1 + x is below 2^-24 of u, far under EP's bound, but near
-        // x = 0, where u - 1 would keep only x's leading bits: there (k = 0, x in
-        // [-1/3, 1/3)) r is x itself, exact. No correction term, no division.
-        x = IfThenZeroElse(special, x); // special lanes run on 0: no flags of their own
-        __m128 r, k;
-        LogSplit(Add(Set<float>(1.0f), x), r, k);
-        r = IfThenElse(Eq(k, Zero<float>()), x, r);
-        __m128 p = Add(r, Mul(Mul(r, r), Horner(r, K::kLnEP)));
-        return KeepTiny(x, Add(p, Mul(k, Set<float>(K::kLn2))));
+        OnePlus(xx, u, c);
+        __m128 y =
+            LnOfSingleLanesPlus<true>(u, c, [](__m128d lo, __m128d hi) { return Narrow(lo, hi); });
+        return IfThenElse(Lt(Abs(x), Set<float>(0x1p-29f)), x, y);
     } else {
         // Special lanes run on 0, so that inf - inf and 1/0 raise no flag of their own.
         x = IfThenZeroElse(special, x);
@@ -122,7 +113,7 @@ inline __m128 Log1pOf(__m128 x, __m128& special) {
         OnePlus(x, u, c);
         __m128 r, k;
         LogSplit(u, r, k);
-        __m128 q = Estrin(r, Log1pConst<float>::kLA);
+        __m128 q = L == Level::LA ? Estrin(r, Log1pConst<float>::kLA) : Horner(r, K::kLnEP);
         __m128 p = Add(r, Mul(Mul(r, r), q));
         // The division measured faster than c*2^-k*(1 - r) from the split's k.
         __m128 corr = Add(Div(c, u), Mul(k, Set<float>(K::kLn2Lo)));
