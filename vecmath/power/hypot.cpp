@@ -1,9 +1,10 @@
 /* Hypot, single and double: sqrt(a^2 + b^2) without overflow or underflow on the way.
  *
- * Single HA: the single root of the single sum of squares, corrected once in double
- * (below); registers where that sum overflows, underflows or is zero in some lane run
- * in double on widened lanes, where the squares are exact and cannot overflow: one
- * rounded sum and the root, rounded once more to single. Within about 0.5 ulp. Single LA and EP: the sum of squares in single and the root from the
+ * Single HA: the single root of the single sum of squares, corrected once by the
+ * residual taken in double (below); registers where that sum overflows, underflows or
+ * is zero in some lane run in double on widened lanes, where the squares are exact and
+ * cannot overflow: one rounded sum and the root, rounded once more to single. Within
+ * about 0.5 ulp. Single LA and EP: the sum of squares in single and the root from the
  * reciprocal root estimate, refined once at LA, as Sqrt does at those levels; lanes
  * whose sum overflows, underflows or is zero go to the scalar routine.
  * Double: where the larger of a register's operands all lie in [2^-400, 2^400), the
