@@ -3,6 +3,14 @@
 #   (the exported boundary) unless INTERNAL, which links the same objects statically
 #   to reach hidden functions. Label `threads` marks tests for the ThreadSanitizer
 #   run; `nosan` keeps a test out of the sanitizer runs; `slow` out of the quick set.
+#   Programs of `threads` tests join the target brenn_threads_tests, so that the
+#   ThreadSanitizer run builds only what it runs.
+function(brenn_threads_program labels program)
+  if("threads" IN_LIST labels)
+    set_property(GLOBAL APPEND PROPERTY BRENN_THREADS_PROGRAMS ${program})
+  endif()
+endfunction()
+
 function(brenn_add_test)
   cmake_parse_arguments(T "INTERNAL" "NAME" "SOURCES;LABELS;LIBS" ${ARGN})
   add_executable(${T_NAME} ${T_SOURCES})
@@ -13,6 +21,7 @@ function(brenn_add_test)
     target_link_libraries(${T_NAME} PRIVATE brenn_sse42 brenn_core)
   endif()
   target_link_libraries(${T_NAME} PRIVATE brenn_test_support GTest::gtest_main ${T_LIBS})
+  brenn_threads_program("${T_LABELS}" ${T_NAME})
   if(T_LABELS)
     gtest_discover_tests(${T_NAME} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
                          PROPERTIES LABELS "${T_LABELS}")
@@ -48,4 +57,5 @@ function(brenn_add_python_check)
   if(P_LABELS)
     set_tests_properties(${P_NAME} PROPERTIES LABELS "${P_LABELS}")
   endif()
+  brenn_threads_program("${P_LABELS}" ${P_DRIVER})
 endfunction()

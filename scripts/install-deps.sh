@@ -5,7 +5,7 @@ set -euo pipefail
 
 packages=(
   # build
-  build-essential g++ clang cmake ninja-build pkg-config git
+  build-essential g++ clang cmake ninja-build pkg-config git ccache
   # the loader fuzzer (libFuzzer and the sanitizer runtimes of clang)
   libclang-rt-14-dev
   # tests and benchmarks
