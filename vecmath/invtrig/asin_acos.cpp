@@ -35,6 +35,19 @@ namespace {
 
 enum class Fn { Asin, Acos };
 
+// 2 sqrt(h) is 2s + (h - s^2)/s, s the rounded root (double steps, compensated). With s
+// cut at 26 bits, s = sh + sl: sh^2 is exact, h - sh^2 exact (Sterbenz), sl*(sh + s) is
+// 2 sh*sl + sl^2 within 2^-52 of itself, about 2^-77 h, and the difference of the two,
+// far below either, is exact. The quotient by the reciprocal estimate, good to 2^-12 of
+// a term below an ulp of 2s; s is held at 2^-60 or more (h = 0 at |x| = 1).
+BRENN_VEC __m128d RootCorrection(__m128d h, __m128d s) {
+    __m128d sh = And(s, AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull)));
+    __m128d sl = Sub(s, sh);
+    __m128d r = Sub(Sub(h, Mul(sh, sh)), Mul(sl, Add(sh, s)));
+    __m128d sm = Max(s, Set<double>(0x1p-60));
+    return Mul(r, WidenLower(ApproxRecip(Narrow(sm, sm))));
+}
+
 // The angle of x (lanes with |x| <= 1 or a safe value) with the series S; Comp: the
 // compensated steps of the double HA and pi-scaled kernels.
 template <Fn F, Unit U, class S, bool Comp, class V, bool Wide = false>
@@ -53,14 +66,7 @@ BRENN_VEC V AngleOf(V x) {
         l = Mul(u, Mul(w, Estrin(w, S::kP))); // S a coefficient set
     else
         l = S::Tail(w, u);
-    if constexpr (Comp) {
-        // 2 sqrt(h) is 2s + (h - s^2)/s; the residual is exact from the split product.
-        V sh, sl;
-        TwoProduct(s, s, sh, sl);
-        V r = Sub(Sub(h, sh), sl);
-        V c = Div(r, Max(s, Set<T>(0x1p-500)));
-        l = Add(l, IfThenElseZero(fold, c));
-    }
+    if constexpr (Comp) l = Add(l, IfThenElseZero(fold, RootCorrection(h, s)));
     V sx = SignBit(x);
     V k, flip;
     // The wide form takes the base itself, k quarter turns (exact), and no product.
@@ -193,7 +199,9 @@ struct Body {
     using T = Tp;
     using V = Vec<T>;
     static constexpr const char* kName = RowName<T, F, U>();
-    static V Eval(V x, V& special) {
+    // Inline in every round: out of line, the double HA body is one call a register and
+    // the round's chains do not overlap.
+    static BRENN_VEC V Eval(V x, V& special) {
         special = RangeTest(x, kDomain<T>);
         return AnglesOf<F, U, L>(IfThenZeroElse(special, x));
     }
