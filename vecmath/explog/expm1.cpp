@@ -1,10 +1,11 @@
 /* Expm1, single and double, three levels each.
  *
- * The vector kernels use no table: x = n*ln2 + r, |r| <= ln2/2, and
+ * The single kernels and double LA and EP use no table: x = n*ln2 + r, |r| <= ln2/2, and
  * e^x - 1 = (2^n - 1) + 2^n*p(r), one rounding (Expm1NoTable): single HA widened to
  * double with degree 7 and rounded once, single LA and EP in single with degree 6 and 4,
- * double LA degree 11, EP degree 7; double HA degree 12 with 2^n - 1 and 2^n*rh summed
- * exactly (Expm1NoTableExact).
+ * double LA degree 11, EP degree 7. Double HA reduces on the table of 256 (exp_core256.h)
+ * with degree 5: e^x - 1 = 2^m*Thi - 1 + 2^m*Thi*p + 2^m*Tlo, the first difference and
+ * its sum with the leading part of the product carried exactly (Expm1On256Exact).
  * The scalar routines run the table core of exp_core.h: e^x - 1 = 2^m*T*(1 + p) - 1 with
  * the subtraction of 1 placed by m so that nothing cancels: for -1 <= m <= 52,
  * 2^m*((Thi - 2^-m) + s), the inner difference exact; for m > 52, 2^m*(Thi + (s - 2^-m));
@@ -18,10 +19,12 @@
  * elements (wide.h).
  *
  * Measured (brenn_accuracy, full run): sExpm1 HA 0.503 ulp, LA 1.36 ulp, EP 15.1 bits;
- * dExpm1 LA 1.26 ulp, HA 0.77 ulp, EP 31.7 bits. The polynomials: without a table
- * tools/explog/expm1_notable.sollya, the core's tools/explog/expm1_double.sollya. */
+ * dExpm1 LA 1.26 ulp, HA 0.50 ulp, EP 31.7 bits. The polynomials: without a table
+ * tools/explog/expm1_notable.sollya, on the table of 256 expm1_double256.sollya, the
+ * scalar core's tools/explog/expm1_double.sollya. */
 #include "frame/kernels.h"
 #include "vecmath/explog/exp_core.h"
+#include "vecmath/explog/exp_core256.h"
 #include "vecmath/explog/exp_fixup.h"
 #include "vecmath/explog/exp_scalar.h"
 #include "vecmath/explog/flat.h"
@@ -100,18 +103,6 @@ struct Expm1Wide<double> {
         0x1.0000000000005p-1,  0x1.555555555553bp-3,  0x1.5555555552111p-5,  0x1.1111111118833p-7,
         0x1.6c16c17f2d325p-10, 0x1.a01a0177ef8dfp-13, 0x1.a019a6a84b125p-16, 0x1.71de8115c2393p-19,
         0x1.28a2879f6906p-22,  0x1.ae775916d5f05p-26};
-    // degree 12 (2^-61.5), for HA
-    static constexpr double kC12[] = {0x1p-1,
-                                      0x1.5555555555559p-3,
-                                      0x1.555555555554dp-5,
-                                      0x1.111111110f65bp-7,
-                                      0x1.6c16c16c1aafdp-10,
-                                      0x1.a01a01afff4c4p-13,
-                                      0x1.a01a018e0d66dp-16,
-                                      0x1.71ddf81d848b2p-19,
-                                      0x1.27e5134507943p-22,
-                                      0x1.af5f0e85fe0cp-26,
-                                      0x1.1f1a154d0d172p-29};
 };
 // Single LA and EP in single: ln2 in two parts, the head of 16 bits (n*head exact for
 // |n| <= 125), and degree 6 (2^-26) and degree 4 (2^-15.5).
@@ -141,28 +132,47 @@ inline V Expm1NoTable(V x, const T (&c)[N]) {
     return Add(Mul(scale, p), Sub(scale, Set<T>(1)));
 }
 
-// HA: the same form with the parts that round carried exactly. rh = x - n*ln2hi is exact
-// (Sterbenz, or n = 0), 2^n*rh is exact, 2^n - 1 and its sum with 2^n*rh are taken by
-// TwoSum, so that only 2^n*(rl + r^2*Q(r)), a few hundredths of the result at most,
-// and the last additions round: within 0.6 ulp where the plain form's sum
-// 1 + 2p (n = 1, p near -0.29) would lose a bit.
-inline __m128d Expm1NoTableExact(__m128d x) {
-    using W = Expm1Wide<double>;
-    using F = Format<double>;
-    const __m128d shifter = Set<double>(F::kShifter);
-    const __m128d one = Set<double>(1.0);
-    __m128d t = Add(Mul(x, Set<double>(W::kInvLn2)), shifter);
+// On the table of 256 (exp_core256.h): x = (256m + j)*ln2/256 + r, |r| <= ln2/512, and
+// e^x - 1 = S*(1 + p(r)) + 2^m*Tlo - 1 with S = 2^m*Thi exact. p is fitted for relative
+// error against e^r - 1, so that where m and j are 0 the result is p itself.
+struct Expm1Table256 {
+    // c2.. of p(r) = r + r^2*(c2 + c3*r + ...), by tools/explog/expm1_double256.sollya:
+    // degree 5 (2^-61) and degree 3 (2^-35).
+    static constexpr double kC5[] = {0x1.fffffffffffe6p-2, 0x1.5555555555563p-3,
+                                     0x1.555557095ea15p-5, 0x1.1111113a81012p-7};
+    static constexpr double kC3[] = {0x1.000001ec0cc9ep-1, 0x1.5555561a1a00dp-3};
+};
+
+// 2^m as a double for m = (low word of t) >> 8, -1022 <= m <= 1023.
+inline __m128d Scale256(__m128d t) {
+    I32x4 e = Add(ShiftRightSigned<8>(BitCast<I32x4>(t)), Set<int32_t>(Format<double>::kBias));
+    return AsFloat(ShiftLeft<Format<double>::kMantBits>(BitCast<I64x2>(e)));
+}
+
+// HA: S - 1 = a + ea by TwoSum (exact for every m), and with p = rh + (rl + r^2*Q) and
+// S*rh = rh + (S - 1)*rh, the head a + rh by Fast2Sum (|a| >= 2^(1/256) - 1 > |rh|
+// unless a is 0): what is left, (S - 1)*rh, S*(rl + r^2*Q) and 2^m*Tlo, is below 2^-8
+// of the result wherever the head cancels (m = 0 or -1, j near 0), so that only the
+// last addition rounds at the result's scale.
+inline __m128d Expm1On256Exact(__m128d x) {
+    using S = ExpStep256;
+    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    __m128d t = Add(Mul(x, Set<double>(S::kInvStep)), shifter);
     __m128d n = Sub(t, shifter);
-    __m128d rh = Sub(x, Mul(n, Set<double>(W::kLn2Hi)));
-    __m128d rl = Mul(n, Set<double>(-W::kLn2Lo));
+    __m128d rh = Sub(x, Mul(n, Set<double>(S::kStepHi))); // exact
+    __m128d rl = Mul(n, Set<double>(-S::kStepLo));
     __m128d r = Add(rh, rl);
-    __m128d q = Mul(Mul(r, r), Estrin(r, W::kC12));
-    I32x4 e = Add(BitCast<I32x4>(t), Set<int32_t>(F::kBias));
-    __m128d scale = AsFloat(ShiftLeft<F::kMantBits>(BitCast<I64x2>(e)));
+    __m128d q = Mul(Mul(r, r), Estrin(r, Expm1Table256::kC5));
+    __m128d th, tl;
+    ExpRows256(t, th, tl);
+    __m128d scale = Scale256(t);
     __m128d a, ea, s, es;
-    TwoSum(scale, Neg(one), a, ea);
-    TwoSum(a, Mul(scale, rh), s, es);
-    return Add(s, Add(Add(es, ea), Mul(scale, Add(rl, q))));
+    TwoSum(Mul(scale, th), Set<double>(-1.0), a, ea);
+    FastTwoSum(a, rh, s, es);
+    // Tlo*rh is kept: near 0 it is a tenth of the result's last place.
+    __m128d tlp = Mul(tl, Add(Set<double>(1.0), rh));
+    __m128d lo = Add(Mul(scale, Add(Mul(th, Add(rl, q)), tlp)), Mul(a, rh));
+    return Add(s, Add(Add(es, ea), lo));
 }
 
 // By precision: the range window on |x| (86.6433945 in single, 708 in double), and by
@@ -221,7 +231,7 @@ inline __m128 Expm1Of(__m128 x) {
 template <Level L>
 inline __m128d Expm1Of(__m128d x) {
     if constexpr (L == Level::HA)
-        return Or(Expm1NoTableExact(x), SignBit(x));
+        return Or(Expm1On256Exact(x), SignBit(x));
     else if constexpr (L == Level::LA)
         return Or(Expm1NoTable<true>(x, Expm1Wide<double>::kC11), SignBit(x));
     else
