@@ -1,11 +1,12 @@
 /* Expm1, single and double, three levels each.
  *
- * The single kernels and double LA and EP use no table: x = n*ln2 + r, |r| <= ln2/2, and
- * e^x - 1 = (2^n - 1) + 2^n*p(r), one rounding (Expm1NoTable): single HA widened to
- * double with degree 7 and rounded once, single LA and EP in single with degree 6 and 4,
- * double LA degree 11, EP degree 7. Double HA reduces on the table of 256 (exp_core256.h)
- * with degree 5: e^x - 1 = 2^m*Thi - 1 + 2^m*Thi*p + 2^m*Tlo, the first difference and
- * its sum with the leading part of the product carried exactly (Expm1On256Exact).
+ * The single kernels use no table: x = n*ln2 + r, |r| <= ln2/2, and
+ * e^x - 1 = (2^n - 1) + 2^n*p(r), one rounding (Expm1NoTable): HA widened to double with
+ * degree 7 and rounded once, LA and EP in single with degree 6 and 4.
+ * The double kernels reduce on the table of 256 (exp_core256.h): e^x - 1 =
+ * 2^m*Thi - 1 + 2^m*Thi*p + 2^m*Tlo. HA (degree 5) carries the first difference and its
+ * sum with the leading part of the product exactly (Expm1On256Exact), LA (degree 5)
+ * only the sum (Expm1On256), EP (degree 3) takes the high parts alone (Expm1On256Plain).
  * The scalar routines run the table core of exp_core.h: e^x - 1 = 2^m*T*(1 + p) - 1 with
  * the subtraction of 1 placed by m so that nothing cancels: for -1 <= m <= 52,
  * 2^m*((Thi - 2^-m) + s), the inner difference exact; for m > 52, 2^m*(Thi + (s - 2^-m));
@@ -19,7 +20,7 @@
  * elements (wide.h).
  *
  * Measured (brenn_accuracy, full run): sExpm1 HA 0.503 ulp, LA 1.36 ulp, EP 15.1 bits;
- * dExpm1 LA 1.26 ulp, HA 0.50 ulp, EP 31.7 bits. The polynomials: without a table
+ * dExpm1 LA 1.00 ulp, HA 0.50 ulp, EP 35.2 bits. The polynomials: without a table
  * tools/explog/expm1_notable.sollya, on the table of 256 expm1_double256.sollya, the
  * scalar core's tools/explog/expm1_double.sollya. */
 #include "frame/kernels.h"
@@ -76,8 +77,8 @@ inline __m128d Expm1Core(__m128d x) {
     return IfThenElse(tiny, x, y);
 }
 
-// Without a table, for the kernels whose bound leaves room for it (the single kernel,
-// which needs 2^-30 from its double lanes, and double LA and EP): x = n*ln2 + r with
+// Without a table, for the single kernel (which needs 2^-30 from its double lanes at
+// HA): x = n*ln2 + r with
 // |r| <= ln2/2, p(r) ~ e^r - 1 by Estrin's scheme, and e^x - 1 = (2^n - 1) + 2^n*p:
 // 2^n*p is exact and 2^n - 1 is exact for |n| <= 53 (beyond, its rounding is below the
 // result's last place), so the sum is the one rounding. It does not cancel (n = 1:
@@ -89,20 +90,14 @@ struct Expm1Wide;
 template <>
 struct Expm1Wide<double> {
     static constexpr double kInvLn2 = 0x1.71547652b82fep0;
-    // ln2 rounded, and in two parts whose head (17 trailing zero bits) times n is exact.
-    // The single lanes take the one part: n*ln2 rounds by 2^-46 at most (|n| <= 125),
-    // far below what they need.
+    // ln2 rounded: for the single lanes n*ln2 rounds by 2^-46 at most (|n| <= 125), far
+    // below what they need.
     static constexpr double kLn2 = 0x1.62e42fefa39efp-1;
-    static constexpr double kLn2Hi = 0x1.62e42fefa0000p-1, kLn2Lo = 0x1.cf79abc9e3b3ap-40;
     // c2.. of p(r) = r + r^2*(c2 + r*(c3 + ...)), by tools/explog/expm1_notable.sollya:
-    // degree 7 (2^-32) and degree 11 (2^-55.5).
+    // degree 7 (2^-32).
     static constexpr double kC7[] = {0x1.00000025e9e2ep-1,  0x1.555554ef9f8ap-3,
                                      0x1.5554b13fd176bp-5,  0x1.1111895968e09p-7,
                                      0x1.6d71e580c208ap-10, 0x1.a032bf272ab19p-13};
-    static constexpr double kC11[] = {
-        0x1.0000000000005p-1,  0x1.555555555553bp-3,  0x1.5555555552111p-5,  0x1.1111111118833p-7,
-        0x1.6c16c17f2d325p-10, 0x1.a01a0177ef8dfp-13, 0x1.a019a6a84b125p-16, 0x1.71de8115c2393p-19,
-        0x1.28a2879f6906p-22,  0x1.ae775916d5f05p-26};
 };
 // Single LA and EP in single: ln2 in two parts, the head of 16 bits (n*head exact for
 // |n| <= 125), and degree 6 (2^-26) and degree 4 (2^-15.5).
@@ -175,6 +170,42 @@ inline __m128d Expm1On256Exact(__m128d x) {
     return Add(s, Add(Add(es, ea), lo));
 }
 
+// LA: the same without TwoSum: a = 2^m*Thi - 1 rounds only where m < -1 or m > 52, far
+// from any cancellation (about 1 ulp in all there), and Tlo*rh is left out.
+inline __m128d Expm1On256(__m128d x) {
+    using S = ExpStep256;
+    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    __m128d t = Add(Mul(x, Set<double>(S::kInvStep)), shifter);
+    __m128d n = Sub(t, shifter);
+    __m128d rh = Sub(x, Mul(n, Set<double>(S::kStepHi))); // exact
+    __m128d rl = Mul(n, Set<double>(-S::kStepLo));
+    __m128d r = Add(rh, rl);
+    __m128d q = Mul(Mul(r, r), Estrin(r, Expm1Table256::kC5));
+    __m128d th, tl;
+    ExpRows256(t, th, tl);
+    __m128d scale = Scale256(t);
+    __m128d big = Mul(scale, th);
+    __m128d a = Sub(big, Set<double>(1.0));
+    __m128d s, es;
+    FastTwoSum(a, rh, s, es);
+    __m128d lo = Add(Mul(big, Add(rl, q)), Mul(scale, tl));
+    return Add(s, Add(es, Add(Mul(a, rh), lo)));
+}
+
+// EP: the high parts only, one-part step, degree 3: (2^m*Thi - 1) + 2^m*Thi*p.
+inline __m128d Expm1On256Plain(__m128d x) {
+    using S = ExpStep256;
+    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    __m128d t = Add(Mul(x, Set<double>(S::kInvStep)), shifter);
+    __m128d n = Sub(t, shifter);
+    __m128d r = Sub(x, Mul(n, Set<double>(S::kStepHi + S::kStepLo)));
+    __m128d p = Add(r, Mul(Mul(r, r), Estrin(r, Expm1Table256::kC3)));
+    __m128d th = LoadLanes(&expTable256[LowWord<0>(AsInt(t)) & 255][0],
+                           &expTable256[LowWord<1>(AsInt(t)) & 255][0]);
+    __m128d big = Mul(Scale256(t), th);
+    return Add(Sub(big, Set<double>(1.0)), Mul(big, p));
+}
+
 // By precision: the range window on |x| (86.6433945 in single, 708 in double), and by
 // level the table core's degree and whether its middle sum is carried exactly, for the
 // double HA kernel and for the scalar routines (degree 6, EP degree 4).
@@ -211,7 +242,8 @@ inline double Expm1Value(double x) {
 
 // Vector values by level: single HA widens its lanes to double, runs the degree-7 form
 // and rounds once, single LA and EP run the degree-6 and degree-4 forms in single;
-// double LA and EP the degree-11 and degree-7 forms, HA the exact form. e^x - 1 has the
+// double on the table of 256, HA carried exactly, LA with fewer carries, EP plain.
+// e^x - 1 has the
 // sign of x, which these forms give to every result but that of -0: x's sign bit is
 // put back.
 template <Level L>
@@ -233,9 +265,9 @@ inline __m128d Expm1Of(__m128d x) {
     if constexpr (L == Level::HA)
         return Or(Expm1On256Exact(x), SignBit(x));
     else if constexpr (L == Level::LA)
-        return Or(Expm1NoTable<true>(x, Expm1Wide<double>::kC11), SignBit(x));
+        return Or(Expm1On256(x), SignBit(x));
     else
-        return Or(Expm1NoTable<true>(x, Expm1Wide<double>::kC7), SignBit(x));
+        return Or(Expm1On256Plain(x), SignBit(x));
 }
 
 template <class Tp, Level L>
