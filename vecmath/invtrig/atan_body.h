@@ -275,24 +275,56 @@ BRENN_VEC __m128 AtanOf(__m128 x) {
 }
 // Double Atan LA and HA, compensated, on a = |x| with AtanWide's one signed quotient
 // (AtanFoldOf) and the base of 0, 1 or 2 quarter turns; no swap, no flip. The residual is
-// AngleOf's with b = 1; the sign goes back on at the end.
+// AngleOf's with b = 1; the sign goes back on at the end. In three steps, so that a round
+// can take each over all its registers before the next (AtanUnitRound): the quotient,
+// its series and correction, the angle.
+struct AtanUnitState {
+    __m128d x, k, nh, nl, dh, dl, q, l;
+};
+BRENN_VEC void AtanQuotient(__m128d x, AtanUnitState& s) {
+    const auto [over, above, nh, nl, dh, dl] = AtanFoldOf(Abs(x));
+    s.x = x;
+    s.k = IfThenElse(above, Set<double>(2), And(over, Set<double>(1.0)));
+    s.nh = nh, s.nl = nl, s.dh = dh, s.dl = dl;
+    s.q = Div(nh, dh);
+}
+BRENN_VEC void AtanTail(AtanUnitState& s) {
+    __m128d q = s.q;
+    __m128d l = AtanDouble11::Tail(Mul(q, q), q);
+    // nh - q*dh by halves cut at 26 bits (AngleOf); d above 2^100 only with q below
+    // 2^-100, where the correction is nothing to the result.
+    const __m128d cut = AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull));
+    __m128d dm = AtMost(s.dh, 0x1p100);
+    __m128d qh = And(q, cut), dmh = And(dm, cut);
+    __m128d r = Sub(Sub(s.nh, Mul(qh, dmh)), Mul(Sub(q, qh), dmh));
+    r = Add(Sub(r, Mul(q, Sub(dm, dmh))), Sub(s.nl, Mul(q, s.dl)));
+    s.l = Add(l, Mul(r, WidenLower(ApproxRecip(Narrow(dm, dm)))));
+}
+template <Unit U>
+BRENN_VEC __m128d AtanAngle(const AtanUnitState& s) {
+    return Or(Finish<U, true>(s.k, s.q, s.l), SignBit(s.x));
+}
 template <Unit U>
 BRENN_VEC __m128d AtanUnit(__m128d x) {
-    const __m128d one = Set<double>(1.0);
-    const auto [over, above, nh, nl, dh, dl] = AtanFoldOf(Abs(x));
-    __m128d q = Div(nh, dh);
-    __m128d l = AtanDouble11::Tail(Mul(q, q), q);
-    // nh - q*dh by halves cut at 26 bits (AngleOf); d above 2^510 only with q below
-    // 2^-510, where the correction is nothing to the result.
-    const __m128d cut = AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull));
-    __m128d dm = AtMost(dh, 0x1p510);
-    __m128d qh = And(q, cut), dmh = And(dm, cut);
-    __m128d r = Sub(Sub(nh, Mul(qh, dmh)), Mul(Sub(q, qh), dmh));
-    r = Add(Sub(r, Mul(q, Sub(dm, dmh))), Sub(nl, Mul(q, dl)));
-    __m128d dn = AtMost(dh, 0x1p100);
-    l = Add(l, Mul(r, WidenLower(ApproxRecip(Narrow(dn, dn)))));
-    __m128d k = IfThenElse(above, Set<double>(2), And(over, one));
-    return Or(Finish<U, true>(k, q, l), SignBit(x));
+    AtanUnitState s;
+    AtanQuotient(x, s);
+    AtanTail(s);
+    return AtanAngle<U>(s);
+}
+// A round's registers step by step: the divisions issue together and the chains of the
+// series overlap (one register at a time, each chain ran on its own).
+template <Unit U, int N>
+BRENN_VEC void AtanUnitRound(const __m128d* x, __m128d* y) {
+    AtanUnitState s[N];
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k)
+        AtanQuotient(x[k], s[k]);
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k)
+        AtanTail(s[k]);
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k)
+        y[k] = AtanAngle<U>(s[k]);
 }
 template <Unit U, Level L>
 BRENN_VEC __m128d AtanOf(__m128d x) {
@@ -393,9 +425,17 @@ struct AtanBody {
         special = Zero<T>(); // no lane leaves the vector path
         return AtanOf<U, L>(x);
     }
-    // Double rounds of sixteen: the compiler interleaves the round's eight chains.
+    // Double rounds of sixteen: LA and HA step through the round's eight registers
+    // (AtanUnitRound), EP takes them one by one.
     static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
-    static int EvalWide(const V* x, V* y) { return EvalByRegister<AtanBody>(x, y); }
+    static int EvalWide(const V* x, V* y) {
+        if constexpr (sizeof(T) == 8 && L != Level::EP) {
+            AtanUnitRound<U, 8>(x, y);
+            return 0;
+        } else {
+            return EvalByRegister<AtanBody>(x, y);
+        }
+    }
 };
 
 template <class Tp, Level L, Unit U, bool Fast = false>
