@@ -49,24 +49,41 @@ BRENN_VEC __m128d RootCorrection(__m128d h, __m128d s) {
 }
 
 // The angle of x (lanes with |x| <= 1 or a safe value) with the series S; Comp: the
-// compensated steps of the double HA and pi-scaled kernels.
-template <Fn F, Unit U, class S, bool Comp, class V, bool Wide = false>
-BRENN_VEC V AngleOf(V x) {
+// compensated steps of the double HA and pi-scaled kernels. In three steps, so that a
+// double round can take each over all its registers before the next (AnglesRound): the
+// fold and the root, the series and the root's correction, the angle.
+template <class V>
+struct AngleState {
+    V x, h, w, fold, s, u, l;
+};
+template <class V>
+BRENN_VEC void RootStep(V x, AngleState<V>& st) {
     using T = ElemOf<V>;
     const V half = Set<T>(0.5);
     V a = Abs(x);
     V h = MulAdd(Neg(a), half, half);
     V q = Mul(a, a);
-    V w = Min(q, h);
-    V fold = Ge(w, h);
-    V s = Sqrt(h);
-    V u = IfThenElse(fold, Add(s, s), a);
+    st.x = x;
+    st.h = h;
+    st.w = Min(q, h);
+    st.fold = Ge(st.w, h);
+    st.s = Sqrt(h);
+    st.u = IfThenElse(st.fold, Add(st.s, st.s), a);
+}
+template <class S, bool Comp, bool Wide, class V>
+BRENN_VEC void TailStep(AngleState<V>& st) {
     V l;
     if constexpr (Wide)
-        l = Mul(u, Mul(w, Estrin(w, S::kP))); // S a coefficient set
+        l = Mul(st.u, Mul(st.w, Estrin(st.w, S::kP))); // S a coefficient set
     else
-        l = S::Tail(w, u);
-    if constexpr (Comp) l = Add(l, IfThenElseZero(fold, RootCorrection(h, s)));
+        l = S::Tail(st.w, st.u);
+    if constexpr (Comp) l = Add(l, IfThenElseZero(st.fold, RootCorrection(st.h, st.s)));
+    st.l = l;
+}
+template <Fn F, Unit U, bool Comp, bool Wide, class V>
+BRENN_VEC V AngleStep(const AngleState<V>& st) {
+    using T = ElemOf<V>;
+    const V x = st.x, fold = st.fold, u = st.u, l = st.l;
     V sx = SignBit(x);
     V k, flip;
     // The wide form takes the base itself, k quarter turns (exact), and no product.
@@ -90,6 +107,13 @@ BRENN_VEC V AngleOf(V x) {
         y = Finish<U, Comp>(k, Xor(u, flip), Xor(l, flip));
     }
     return F == Fn::Asin ? Xor(y, sx) : y;
+}
+template <Fn F, Unit U, class S, bool Comp, class V, bool Wide = false>
+BRENN_VEC V AngleOf(V x) {
+    AngleState<V> st;
+    RootStep(x, st);
+    TailStep<S, Comp, Wide>(st);
+    return AngleStep<F, U, Comp, Wide>(st);
 }
 
 // The six-term series of the double EP steps rounded to single: its fit (2^-31.8) keeps
@@ -150,16 +174,40 @@ BRENN_VEC __m128 AnglesOf(__m128 x) {
         return Narrow(AngleOf<F, U, AsinDouble6Set, false, __m128d, true>(WidenLower(x)),
                       AngleOf<F, U, AsinDouble6Set, false, __m128d, true>(WidenUpper(x)));
 }
+template <Level L>
+using AsinDoubleOf = std::conditional_t<L == Level::EP, AsinDouble6,
+                                        std::conditional_t<L == Level::LA, AsinDouble12, AsinDouble13>>;
 template <Fn F, Unit U, Level L>
 BRENN_VEC __m128d AnglesOf(__m128d x) {
-    using S = std::conditional_t<L == Level::EP, AsinDouble6,
-                                 std::conditional_t<L == Level::LA, AsinDouble12, AsinDouble13>>;
-    return AngleOf < F, U, S, L == Level::HA || U == Unit::Pi > (x);
+    return AngleOf < F, U, AsinDoubleOf<L>, L == Level::HA || U == Unit::Pi > (x);
 }
 
 // The largest |x| of the vector path, as bits: 1.
 template <class T>
 constexpr LaneRange<T> kDomain = {Format<T>::kAbs, 0, Format<T>::kOne};
+
+// A double round's eight registers step by step: the roots issue together and the
+// series' chains overlap (one register at a time, each chain ran on its own). Returns
+// the special-lane bits, lanes outside the domain taken as 0.
+template <Fn F, Unit U, Level L, class V>
+BRENN_VEC int AnglesRound(const V* x, V* y) {
+    constexpr bool kComp = L == Level::HA || U == Unit::Pi;
+    AngleState<V> st[8];
+    int bits = 0;
+#pragma GCC unroll 8
+    for (int k = 0; k < 8; ++k) {
+        V special = RangeTest(x[k], kDomain<double>);
+        bits |= MaskBits(special) << (2 * k);
+        RootStep(IfThenZeroElse(special, x[k]), st[k]);
+    }
+#pragma GCC unroll 8
+    for (int k = 0; k < 8; ++k)
+        TailStep<AsinDoubleOf<L>, kComp, false>(st[k]);
+#pragma GCC unroll 8
+    for (int k = 0; k < 8; ++k)
+        y[k] = AngleStep<F, U, kComp, false>(st[k]);
+    return bits;
+}
 
 // Infinity: NaN, domain status; NaN: itself, none; |x| > 1: NaN, domain status; +-1
 // exactly; any other x by the double HA steps, narrowed.
@@ -206,9 +254,14 @@ struct Body {
         return AnglesOf<F, U, L>(IfThenZeroElse(special, x));
     }
     static int Scalar(const T* a, T* y) { return invtrig::Scalar<F, U>(a, y); }
-    // Double rounds of sixteen (four chains of the series at once): 4 to 5 % faster.
+    // Double rounds of sixteen, step by step over the round's registers (AnglesRound).
     static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
-    static int EvalWide(const V* x, V* y) { return EvalByRegister<Body>(x, y); }
+    static int EvalWide(const V* x, V* y) {
+        if constexpr (sizeof(T) == 8)
+            return AnglesRound<F, U, L>(x, y);
+        else
+            return EvalByRegister<Body>(x, y);
+    }
 };
 
 template <class T, Level L>
