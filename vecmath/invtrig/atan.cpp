@@ -15,8 +15,8 @@
  * the pi-scaled single LA and HA take on widened lanes,
  * fold once more at tan(pi/8): t = (n - d)/(n + d), a quarter turn added, and a short
  * odd series on [-tan(pi/8), tan(pi/8)]; Atan's own form of them (b = 1; single HA and
- * pi-scaled LA, double LA and HA) puts the sign in the quotient, -1/a or (a - 1)/(a + 1),
- * with no swap and no flip. Double HA (Atan's one kernel for LA and HA)
+ * pi-scaled LA, double at every level) puts the sign in the quotient, -1/a or
+ * (a - 1)/(a + 1), with no swap and no flip. Double HA (Atan's one kernel for LA and HA)
  * and the pi-scaled double rows carry the quotient's error from its exact residual and
  * join the base exactly (common.h); without them the quotient's rounding near the fold
  * (|x| just below 1/2, where a - 1 is not exact) costs up to 1.4 ulp. Double LA Atan2

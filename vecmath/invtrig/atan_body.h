@@ -135,10 +135,10 @@ template <Level L>
 using DoubleSeriesOf = std::conditional_t<L == Level::EP, AtanDouble5, AtanDouble11>;
 
 // Single Atan HA (and the pi-scaled LA and HA) in double, on a = |x| widened, the sign
-// put back on the single lanes. Between tan(pi/8) and tan(3pi/8) the angle is pi/4 +
-// atan((a - 1)/(a + 1)), above tan(3pi/8) pi/2 + atan(-1/a), below tan(pi/8) atan(a): one
-// quotient with the sign in it, the odd series on it, and a base of 0, 1 or 2 quarter
-// turns.
+// put back on the single lanes; double Atan EP on a = |x| itself. Between tan(pi/8) and
+// tan(3pi/8) the angle is pi/4 + atan((a - 1)/(a + 1)), above tan(3pi/8) pi/2 +
+// atan(-1/a), below tan(pi/8) atan(a): one quotient with the sign in it, the odd series
+// on it, and a base of 0, 1 or 2 quarter turns.
 template <Unit U>
 BRENN_VEC __m128d AtanWide(__m128d a) {
     using S = AtanDouble5Set;
@@ -329,7 +329,7 @@ BRENN_VEC void AtanUnitRound(const __m128d* x, __m128d* y) {
 template <Unit U, Level L>
 BRENN_VEC __m128d AtanOf(__m128d x) {
     if constexpr (L == Level::EP)
-        return AngleOf<U, AtanDouble5, false>(x, Set<double>(1.0));
+        return Or(AtanWide<U>(Abs(x)), SignBit(x));
     else
         return AtanUnit<U>(x);
 }
