@@ -139,22 +139,34 @@ using DoubleSeriesOf = std::conditional_t<L == Level::EP, AtanDouble5, AtanDoubl
 // tan(3pi/8) the angle is pi/4 + atan((a - 1)/(a + 1)), above tan(3pi/8) pi/2 +
 // atan(-1/a), below tan(pi/8) atan(a): one quotient with the sign in it, the odd series
 // on it, and a base of 0, 1 or 2 quarter turns.
+// In two steps, the quotient and base, then the angle, for the double EP round.
+struct AtanWideState {
+    __m128d q, base;
+};
 template <Unit U>
-BRENN_VEC __m128d AtanWide(__m128d a) {
-    using S = AtanDouble5Set;
+BRENN_VEC AtanWideState AtanWideQuotient(__m128d a) {
     const __m128d one = Set<double>(1.0);
     const __m128d quarter = Set<double>(Quarter<double, U>::kHi);
     __m128d above = AsFloat(Gt(AsInt(a), AsInt(Set<double>(kTanThreeEighths))));
     __m128d fold = AndNot(above, AsFloat(Gt(AsInt(a), AsInt(Set<double>(kTanEighth)))));
     __m128d num = IfThenElse(fold, Sub(a, one), IfThenElse(above, Neg(one), a));
     __m128d den = IfThenElse(fold, Add(a, one), IfThenElse(above, a, one));
-    __m128d q = Div(num, den);
-    __m128d l = Mul(q, Mul(Mul(q, q), Estrin(Mul(q, q), S::kP)));
     __m128d base = IfThenElse(fold, quarter, IfThenElseZero(above, Add(quarter, quarter)));
+    return {Div(num, den), base};
+}
+template <Unit U>
+BRENN_VEC __m128d AtanWideAngle(AtanWideState s) {
+    using S = AtanDouble5Set;
+    __m128d q = s.q;
+    __m128d l = Mul(q, Mul(Mul(q, q), Estrin(Mul(q, q), S::kP)));
     if constexpr (U == Unit::Pi)
-        return Add(base, Mul(Add(q, l), Set<double>(InvPi<double>::kHi)));
+        return Add(s.base, Mul(Add(q, l), Set<double>(InvPi<double>::kHi)));
     else
-        return Add(Add(base, q), l);
+        return Add(Add(s.base, q), l);
+}
+template <Unit U>
+BRENN_VEC __m128d AtanWide(__m128d a) {
+    return AtanWideAngle<U>(AtanWideQuotient<U>(a));
 }
 
 // Atan's folds on a = |x|, both precisions: the lanes above tan(pi/8) and above
@@ -313,6 +325,17 @@ BRENN_VEC __m128d AtanUnit(__m128d x) {
 }
 // A round's registers step by step: the divisions issue together and the chains of the
 // series overlap (one register at a time, each chain ran on its own).
+// Double EP the same way, in two steps.
+template <Unit U, int N>
+BRENN_VEC void AtanWideRound(const __m128d* x, __m128d* y) {
+    AtanWideState s[N];
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k)
+        s[k] = AtanWideQuotient<U>(Abs(x[k]));
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k)
+        y[k] = Or(AtanWideAngle<U>(s[k]), SignBit(x[k]));
+}
 template <Unit U, int N>
 BRENN_VEC void AtanUnitRound(const __m128d* x, __m128d* y) {
     AtanUnitState s[N];
@@ -425,12 +448,15 @@ struct AtanBody {
         special = Zero<T>(); // no lane leaves the vector path
         return AtanOf<U, L>(x);
     }
-    // Double rounds of sixteen: LA and HA step through the round's eight registers
-    // (AtanUnitRound), EP takes them one by one.
+    // Double rounds of sixteen, step by step through the round's eight registers
+    // (AtanUnitRound, AtanWideRound).
     static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
     static int EvalWide(const V* x, V* y) {
-        if constexpr (sizeof(T) == 8 && L != Level::EP) {
-            AtanUnitRound<U, 8>(x, y);
+        if constexpr (sizeof(T) == 8) {
+            if constexpr (L == Level::EP)
+                AtanWideRound<U, 8>(x, y);
+            else
+                AtanUnitRound<U, 8>(x, y);
             return 0;
         } else {
             return EvalByRegister<AtanBody>(x, y);
