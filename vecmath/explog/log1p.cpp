@@ -1,17 +1,17 @@
 /* Log1p, single and double, three levels each.
  *
- * On u = 1 + x with the rounding of that sum recovered: c = x - (u - 1) when |x| <= 1,
- * else 1 - (u - x); then ln(1 + x) = ln u + c/u (single LA and EP), or with c*2^-k joining
- * the reduction of u (double, single HA): no division. The range test is the logarithm's, on
- * u: it fires for x at or below -1, infinite or NaN. For |x| below 2^-25 (single) u is
- * 1, k and r are 0, and the result is c = x exactly: tiny and denormal x come through the
- * body as themselves.
+ * Single: on u = 1 + x with the rounding of that sum recovered by Fast2Sum on the larger
+ * and smaller of 1 and x; then ln(1 + x) = ln u + c/u (LA and EP), or with c*2^-k joining
+ * the reduction of u (HA): no division. The range test is the logarithm's, on u: it fires
+ * for x at or below -1, infinite or NaN. For |x| below 2^-25 u is 1, k and r are 0, and
+ * the result is c = x exactly: tiny and denormal x come through the body as themselves.
  * Single EP and LA: the split around 2/3 on u with the polynomial of sLn EP and a fitted
  * one of eight coefficients (LA); HA in double on the EP logarithm core of the single
  * split (LnOfSingleLanesPlus), where u + c is exact.
- * Double: the logarithm core on u + c, c*2^-k added to the reduction's low part (EP core
- * at EP, degree 5 at LA and HA); HA carries h + r exactly before the small terms are
- * added.
+ * Double: the logarithm core's reduction of u = 1 + x for k and the row, its low part
+ * taken from x itself as (2^-k - mh) + x*2^-k (EP core at EP, degree 5 at LA and HA);
+ * HA carries h + r exactly before the small terms are added. Its window on u runs from
+ * 2^-43 to below 2^1023; the rest goes to the scalar routine.
  * Measured (brenn_accuracy, worst of its inputs): sLog1p EP 12.8 bits, LA 1.66 ulp,
  * HA 0.50 ulp; dLog1p EP 32.6 bits, LA 0.84 ulp, HA 0.66 ulp.
  * Scalar routine: x = -1 gives -inf with the singularity status, x below -1 (and -inf)
@@ -63,20 +63,16 @@ struct Log1pConst<float> {
                                     0x1.99c32ep-3f,  -0x1.515a6ap-3f, 0x1.1f9552p-3f,
                                     -0x1.35b3e2p-3f, 0x1.1b0d6ep-3f};
 };
-template <>
-struct Log1pConst<double> {
-    static constexpr double kTiny = 0x1p-60;
-};
 
-// u = 1 + x and the rounding error c of that sum.
+// u = 1 + x and the rounding error c of that sum, by Fast2Sum on the larger and the
+// smaller of 1 and x: for x above -1 (special lanes run on 0) the larger is also the
+// larger in magnitude.
 template <class V>
 inline void OnePlus(V x, V& u, V& c) {
     using T = ElemOf<V>;
     const V one = Set<T>(1);
-    u = Add(one, x);
-    V small = Sub(x, Sub(u, one));
-    V large = Sub(one, Sub(u, x));
-    c = IfThenElse(Gt(Abs(x), one), large, small);
+    V big = Max(x, one), small = Min(x, one);
+    FastTwoSum(big, small, u, c);
 }
 
 // Where |x| is below kTiny the result is x itself; the blend also keeps the sign of -0,
@@ -121,21 +117,28 @@ inline __m128 Log1pOf(__m128 x, __m128& special) {
     }
 }
 
-// Double: the core on u, c/u added to its tail; at HA h + r carried exactly (Knuth)
-// with the small terms added to the error.
+// Double: the core on u = 1 + x with the reduction's low part taken from x itself; at
+// HA h + r carried exactly (Knuth) with the small terms added to the error. Tiny x come
+// through as x itself (u = 1, r = x); the result has x's sign, which is put back for -0.
+// The window on u: positive normals from 2^-43 (x within 2^-43 of -1 goes to the scalar
+// routine) to below 2^1023, where 2^-k is still normal.
+constexpr Range64 kLog1pWindow{0xFFFFFFFFFFFFFFFFull, 0x8000000000000000ull - 0x3D40000000000000ull,
+                               0x7FDFFFFFFFFFFFFFull + 0x8000000000000000ull -
+                                   0x3D40000000000000ull};
 template <Level L>
 inline __m128d Log1pOf(__m128d x, __m128d& special) {
-    special = LogSpecial(Add(Set<double>(1.0), x));
+    const __m128d one = Set<double>(1.0);
+    special = RangeTest(Add(one, x), kLog1pWindow);
     // Special lanes run on 0, so that inf - inf and 1/0 raise no flag of their own.
     x = IfThenZeroElse(special, x);
-    __m128d u, c;
-    OnePlus(x, u, c);
-    // u + c = 2^k*(mh + ml + c*2^-k): the rounding error joins the reduction's low part
-    // (exact where k is 0 or -1 near x = 0, and below 2^-62 of m elsewhere), so that r is
-    // the reduced 1 + x itself and no c/u is needed. 2^-k from u's exponent field: 0 for
-    // u at or above 2^1023, where c is far below the result's last place.
+    __m128d u = Add(one, x);
+    // 1 + x = 2^k*(mh + ml) with ml = (2^-k - mh) + x*2^-k, one rounding: 2^-k - mh is
+    // exact for |k| <= 43 (mh on the 2^-9 grid; beyond, k > 43 and its rounding is far
+    // below the result's last place) and x*2^-k is exact, so that the rounding of u
+    // itself does not reach r.
     LnReduction red = LnReduce(u);
-    red.ml = Add(red.ml, Mul(c, InverseBinade(u)));
+    __m128d s = InverseBinade(u);
+    red.ml = Add(Sub(s, red.mh), Mul(x, s));
     __m128d h, r, small;
     LnCore3From<L>(red, h, r, small);
     if constexpr (L == Level::HA) {
@@ -143,9 +146,9 @@ inline __m128d Log1pOf(__m128d x, __m128d& special) {
         // Exact: h is 0 (row 0 at k = 0, or the last row at k = -1, whose heads cancel)
         // or at least about 2^-10, and |r| <= 2^-10/mh.
         FastTwoSum(h, r, s, err);
-        return KeepTiny(x, Add(s, Add(err, small)));
+        return Or(Add(s, Add(err, small)), SignBit(x));
     } else {
-        return KeepTiny(x, Add(h, Add(r, small)));
+        return Or(Add(h, Add(r, small)), SignBit(x));
     }
 }
 
