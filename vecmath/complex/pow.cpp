@@ -20,6 +20,13 @@
  *   exp(Re w) = expl(hi) (1 + lo); Im w less its multiple q of pi/2 (pi/2 in three
  *     64-bit parts, each product with q exact in two words), sincosl of the rest's hi,
  *     corrected by its lo.
+ * Before those closest words come cheaper ones: ln|a| and arg a within about 2^-72 (the
+ * "Mid" forms below) and, for exponents below 2^30, the products and sums of w in pairs
+ * of doubles (SSE; Dekker's products of the heads exact, the rest within about 2^-101 of
+ * the largest term), Im w reduced there by pi/2 in 27-bit parts; the extended words
+ * take w only where the bound fails with these. Pairs of doubles are several times
+ * quicker than pairs of extended numbers, whose 80-bit loads and stores and single
+ * stack of registers slow every step.
  * A single element takes exp(Re w) and the sine and cosine of the rest in double (SSE)
  * once w is known to the bounds above: a few double ulps, far inside a single ulp, and
  * much quicker than the unit's own instructions.
@@ -39,6 +46,7 @@
  * for an infinite imaginary part is reported, status 1). NaNs come out quiet. */
 #include <math.h>
 
+#include "vecmath/complex/exact.h"
 #include "vecmath/complex/ext_elem.h"
 #include "vecmath/complex/extended.h"
 #include "vecmath/complex/pow_tables.h"
@@ -62,19 +70,19 @@ inline DD FastTwoSum(LD a, LD b) { // |a| >= |b|
 }
 // A factor split once for the exact products it enters: the 64-bit significand in 32-bit
 // halves by 2^32 + 1 (Veltkamp).
-struct Halves {
+struct XHalves {
     LD v, h, l;
 };
-constexpr Halves SplitX(LD a) {
+constexpr XHalves SplitX(LD a) {
     constexpr LD kSplit = 4294967297.0L;
     const LD t = a * kSplit, h = t - (t - a);
     return {a, h, a - h};
 }
-constexpr Halves Negated(const Halves& a) {
+constexpr XHalves Negated(const XHalves& a) {
     return {-a.v, -a.h, -a.l};
 }
 // Dekker's exact product of split factors.
-constexpr DD TwoProduct(const Halves& a, const Halves& b) {
+constexpr DD TwoProduct(const XHalves& a, const XHalves& b) {
     const LD p = a.v * b.v;
     return {p, ((a.h * b.h - p) + a.h * b.l + a.l * b.h) + a.l * b.l};
 }
@@ -100,7 +108,7 @@ inline DD Mul(DD a, LD b) {
 // The same from split factors (ah the split of a.hi), left as the product's head and the
 // rest without the last normalisation (the rest within about an ulp of the head), for
 // the sums of w, whose Add normalises.
-inline DD MulLoose(const DD& a, const Halves& ah, const Halves& b) {
+inline DD MulLoose(const DD& a, const XHalves& ah, const XHalves& b) {
     const DD p = TwoProduct(ah, b);
     return {p.hi, p.lo + a.lo * b.v};
 }
@@ -134,7 +142,7 @@ inline DD Scaled(DD a, int e) {
 constexpr LD kPio2[3] = {0xc90fdaa22168c235p-63L, -0xece675d1fc8f8cbbp-129L,
                          -0xb7ed8fbbacc19c60p-194L};
 constexpr DD kPio2DD = {kPio2[0], kPio2[1]};
-constexpr Halves kPio2Halves = SplitX(kPio2[0]);
+constexpr XHalves kPio2XHalves = SplitX(kPio2[0]);
 // k pi/4, k = -4..4, as Mul(kPio2DD, k/2) gives it.
 struct EighthTurns {
     DD v[9];
@@ -342,12 +350,102 @@ template <bool Coarse = false>
         const DD s = FastTwoSum(r.hi, r.lo + (w.lo - q * kPio2C));
         return {(long long)q, s.hi, s.lo};
     }
-    const Halves hq = SplitX(q);
-    const DD p1 = TwoProduct(hq, kPio2Halves), p2 = TwoProduct(hq, SplitX(kPio2[1]));
+    const XHalves hq = SplitX(q);
+    const DD p1 = TwoProduct(hq, kPio2XHalves), p2 = TwoProduct(hq, SplitX(kPio2[1]));
     DD r = Add(DD{w.hi - p1.hi, 0}, w.lo - p1.lo); // the heads cancel exactly
     r = Add(r, -p2.hi);
     r = Add(r, -(p2.lo + q * kPio2[2]));
     return {(long long)q, r.hi, r.lo};
+}
+
+// The words of w in double (SSE), hi + lo: cheaper than the extended words, whose 80-bit
+// loads and stores and single stack of registers make every step slow.
+struct D2 {
+    double hi, lo;
+};
+inline D2 TwoSumD(double a, double b) {
+    const double s = a + b, bb = s - a;
+    return {s, (a - (s - bb)) + (b - bb)};
+}
+inline D2 FastTwoSumD(double a, double b) { // |a| >= |b|
+    const double s = a + b;
+    return {s, b - (s - a)};
+}
+inline D2 AddD(D2 a, double b) {
+    const D2 s = TwoSumD(a.hi, b);
+    return FastTwoSumD(s.hi, s.lo + a.lo);
+}
+// An extended hi + lo in two doubles: hi rounded, the rest (exact in extended) and lo
+// rounded once in extended and once to double, within 2^-105.9 of the value.
+inline D2 ToD2(const DD& a) {
+    const double h = double(a.hi);
+    return {h, double((a.hi - h) + a.lo)};
+}
+// k pi/4, k = -4..4, in two doubles.
+struct EighthTurnsD {
+    D2 v[9];
+    constexpr EighthTurnsD() : v{} {
+        for (int k = 0; k < 9; ++k) {
+            const LD hi = kEighthTurns.v[k].hi, lo = kEighthTurns.v[k].lo;
+            const double h = double(hi);
+            v[k] = {h, double((hi - h) + lo)};
+        }
+    }
+};
+constexpr EighthTurnsD kEighthTurnsD;
+// pi/2 in parts of 27, 27, 27 and 53 bits: the first three times a count of quarter
+// turns below 2^26 exact.
+constexpr double kPio2D[4] = {0x1.921fb54p+0, 0x1.10b461p-30, 0x1.a62633p-58,
+                              0x1.45c06e0e68948p-86};
+// pi/2 in two doubles (107 bits).
+constexpr double kPio2Words[2] = {0x1.921fb54442d18p+0, 0x1.1a62633145c07p-54};
+
+// w = b (l + i (k pi/4 + d)) less j0 quarter turns (g pi/2 the rest of u k pi/4) in
+// double words from l = ln|a| and d (absolute errors el and ed), for |u|, |v| <= 2^30:
+// every product of heads exact (Dekker), the cross products and the sums within about
+// 2^-101 of the largest term; Im w less its nearest multiple q of pi/2 below 2^26 (the
+// three short parts' products exact, each step a two-word sum). True when the bounds of
+// PowFinite hold; an absolute 2^-1000 covers products in the denormal range.
+template <int P>
+[[gnu::always_inline]] inline bool WordsInDouble(const DD& lx, const DD& dx, int k, LD u, LD v,
+                                                 LD g, LD el, LD ed, DD& e, Angle& an) {
+    constexpr double kTol = P == 53 ? 0x1p-58 : 0x1p-29;
+    const double ud = double(u), vd = double(v), gh = double(g), gl = double(g - gh);
+    const D2 l = ToD2(lx), d = ToD2(dx);
+    D2 t = TwoSumD(kEighthTurnsD.v[k + 4].hi, d.hi);
+    t = FastTwoSumD(t.hi, t.lo + (kEighthTurnsD.v[k + 4].lo + d.lo));
+    double p1, e1, p2, e2, p3, e3, p4, e4, p5, e5;
+    ExactProduct(ud, l.hi, p1, e1);
+    ExactProduct(vd, t.hi, p2, e2);
+    ExactProduct(gh, kPio2Words[0], p3, e3);
+    ExactProduct(ud, d.hi, p4, e4);
+    ExactProduct(vd, l.hi, p5, e5);
+    // Re w = u l - v t
+    D2 re = TwoSumD(p1, -p2);
+    re = FastTwoSumD(re.hi, re.lo + ((e1 - e2) + (ud * l.lo - vd * t.lo)));
+    // Im w = g pi/2 + u d + v l
+    const D2 s = TwoSumD(p4, p5), s2 = TwoSumD(s.hi, p3);
+    const double lo = (s2.lo + s.lo) + ((e3 + e4 + e5) + ((ud * d.lo + vd * l.lo) +
+                                                          (gh * kPio2Words[1] + gl * kPio2Words[0])));
+    const D2 iw = FastTwoSumD(s2.hi, lo);
+    long long q = 0;
+    D2 r = iw;
+    if (fabs(iw.hi) > 0.785398163397448309615660845819875721) {
+        if (!(fabs(iw.hi) < 0x1p25)) return false;
+        const double qd = (iw.hi * 0.636619772367581343075535053490057448 + 0x1.8p52) - 0x1.8p52;
+        q = (long long)qd;
+        r = TwoSumD(iw.hi - qd * kPio2D[0], -(qd * kPio2D[1])); // the first difference exact
+        r = AddD(r, -(qd * kPio2D[2]));
+        r = AddD(r, iw.lo - qd * kPio2D[3]);
+    }
+    const double em = double(fabsl(u) * el + fabsl(v) * ed) +
+                      ((fabs(p1) + fabs(p2)) * 0x1p-100 + 0x1p-1000);
+    const double ea = double(fabsl(u) * ed + fabsl(v) * el) +
+                      ((fabs(p4) + fabs(p5) + fabs(iw.hi)) * 0x1p-100 + 0x1p-100);
+    if (!(em <= kTol && fabs(r.hi) <= 1 && ea <= 8 * kTol * fabs(r.hi))) return false;
+    e = {re.hi, re.lo};
+    an = {q, r.hi, r.lo};
+    return true;
 }
 
 // b k eighth turns less their nearest multiple of a whole turn, exact: j0 quarter turns
@@ -495,14 +593,22 @@ template <int P>
     DD l = LnAbsMid(x, y, &el), dd = AtanRatioMid(o.num, o.den);
     dd = {o.sg * dd.hi, o.sg * dd.lo};
     const LD ed = fabsl(dd.hi) * 0x1p-72L;
-    const Halves hu = SplitX(u), hv = SplitX(v), hg = SplitX(g);
+    if (fabsl(u) <= 0x1p30L && fabsl(v) <= 0x1p30L) {
+        DD e;
+        Angle an;
+        if (WordsInDouble<P>(l, dd, o.k, u, v, g, el, ed, e, an)) {
+            an.j += (long long)j0;
+            return Finish<P>(e, an, y, u, v, re, im);
+        }
+    }
+    const XHalves hu = SplitX(u), hv = SplitX(v), hg = SplitX(g);
     for (int pass = 0;; ++pass) {
         // each factor split once for its products
-        const Halves hl = SplitX(l.hi), hd = SplitX(dd.hi);
+        const XHalves hl = SplitX(l.hi), hd = SplitX(dd.hi);
         const DD t = Add(kEighthTurns.v[o.k + 4], dd);
         const DD e = Add(MulLoose(l, hl, hu), MulLoose(t, SplitX(t.hi), Negated(hv)));
         const DD iw =
-            Add(Add(MulLoose(kPio2DD, kPio2Halves, hg), MulLoose(dd, hd, hu)), MulLoose(l, hl, hv));
+            Add(Add(MulLoose(kPio2DD, kPio2XHalves, hg), MulLoose(dd, hd, hu)), MulLoose(l, hl, hv));
         Angle an = pass ? Reduced(iw) : Reduced<true>(iw);
         an.j += (long long)j0;
         const LD em = fabsl(u) * el + fabsl(v) * ed + (fabsl(e.hi) + fabsl(v * t.hi)) * 0x1p-100L;
