@@ -353,6 +353,13 @@ TEST(ExpLog, Log1pAndLogb) {
         // The rounding of 1 + x is recovered: log1p(2^-30 + 2^-60) keeps the low part.
         double x = 0x1p-30 + 0x1p-60;
         EXPECT_LE(UlpError(Call(frame::Row_dLog1p, slot, x), log1pl(x)), 1.0);
+        EXPECT_EQ(Bits(Call(frame::Row_dLog1p, slot, -0.0)), Bits(-0.0));
+        // Both ends of the double window on 1 + x (2^-43, 2^1023) and either side of them.
+        for (double v : {-1 + 0x1p-50, -1 + 0x1p-43, -1 + 0x1p-42, 0x1p1023, 0x1.fffffp1022,
+                         DBL_MAX, 0x1p44 + 3})
+            EXPECT_LE(UlpError(Call(frame::Row_dLog1p, slot, v), log1pl(v)),
+                      LevelBound<double>(slot))
+                << slot << " " << v;
 
         EXPECT_EQ(Call(frame::Row_sLogb, slot, -0.0f, &status), -INFINITY);
         EXPECT_EQ(status, 2);
@@ -582,6 +589,10 @@ TEST(ExpLog, Expm1KeepsTheSignAndTinyArguments) {
     xd.push_back(0x1p-1000);
     xd.push_back(-0x1p-60);
     xd.push_back(-0.0);
+    // Where the table's first difference cancels (one step from 0 either way) and where
+    // 2^m*T - 1 is no longer exact (m = -2, m = 53).
+    for (double x : {0x1.a6d2c1dc60983p-10, -0x1.6p-9, -1.05, 36.8, 37.0})
+        xd.push_back(x);
     for (int slot : kSlots) {
         std::vector<float> ys(xs.size());
         K<float>(frame::Row_sExpm1, slot)(int(xs.size()), xs.data(), ys.data());
