@@ -61,7 +61,7 @@ BRENN_VEC void RootStep(V x, AngleState<V>& st) {
     using T = ElemOf<V>;
     const V half = Set<T>(0.5);
     V a = Abs(x);
-    V h = MulAdd(Neg(a), half, half);
+    V h = Sub(half, Mul(a, half));
     V q = Mul(a, a);
     st.x = x;
     st.h = h;
@@ -80,14 +80,15 @@ BRENN_VEC void TailStep(AngleState<V>& st) {
     if constexpr (Comp) l = Add(l, IfThenElseZero(st.fold, RootCorrection(st.h, st.s)));
     st.l = l;
 }
-template <Fn F, Unit U, bool Comp, bool Wide, class V>
+template <Fn F, Unit U, bool Comp, bool Short, class V>
 BRENN_VEC V AngleStep(const AngleState<V>& st) {
     using T = ElemOf<V>;
     const V x = st.x, fold = st.fold, u = st.u, l = st.l;
     V sx = SignBit(x);
     V k, flip;
-    // The wide form takes the base itself, k quarter turns (exact), and no product.
-    constexpr bool kBase = Wide && U == Unit::Radian;
+    // The short form (single lanes in double, double EP) takes the base itself, k quarter
+    // turns (exact), and no product.
+    constexpr bool kBase = Short && U == Unit::Radian;
     constexpr T c = kBase ? Quarter<T, U>::kHi : T(1);
     if constexpr (F == Fn::Asin) {
         // Folded: pi/2 - (u + l); the sign of x goes on at the end.
@@ -100,8 +101,8 @@ BRENN_VEC V AngleStep(const AngleState<V>& st) {
     }
     V y;
     if constexpr (kBase) {
-        // Single lanes in double, where the order of the last sums is free: base + u
-        // goes alongside the tail, and the tail's product with u last, off the series.
+        // The order of the last sums is free (single lanes in double, double EP): base
+        // + u goes alongside the tail, and the tail's product with u last, off the series.
         y = Add(Add(k, Xor(u, flip)), Xor(l, flip));
     } else {
         y = Finish<U, Comp>(k, Xor(u, flip), Xor(l, flip));
@@ -177,9 +178,18 @@ BRENN_VEC __m128 AnglesOf(__m128 x) {
 template <Level L>
 using AsinDoubleOf = std::conditional_t<L == Level::EP, AsinDouble6,
                                         std::conditional_t<L == Level::LA, AsinDouble12, AsinDouble13>>;
+template <Level L, Unit U>
+constexpr bool kCompOf = L == Level::HA || U == Unit::Pi;
+template <Fn F, Unit U, Level L, class V>
+BRENN_VEC V DoubleAngleOf(V x) {
+    AngleState<V> st;
+    RootStep(x, st);
+    TailStep<AsinDoubleOf<L>, kCompOf<L, U>, false>(st);
+    return AngleStep<F, U, kCompOf<L, U>, L == Level::EP>(st);
+}
 template <Fn F, Unit U, Level L>
 BRENN_VEC __m128d AnglesOf(__m128d x) {
-    return AngleOf < F, U, AsinDoubleOf<L>, L == Level::HA || U == Unit::Pi > (x);
+    return DoubleAngleOf<F, U, L>(x);
 }
 
 // The largest |x| of the vector path, as bits: 1.
@@ -191,7 +201,7 @@ constexpr LaneRange<T> kDomain = {Format<T>::kAbs, 0, Format<T>::kOne};
 // the special-lane bits, lanes outside the domain taken as 0.
 template <Fn F, Unit U, Level L, class V>
 BRENN_VEC int AnglesRound(const V* x, V* y) {
-    constexpr bool kComp = L == Level::HA || U == Unit::Pi;
+    constexpr bool kComp = kCompOf<L, U>;
     AngleState<V> st[8];
     int bits = 0;
 #pragma GCC unroll 8
@@ -205,7 +215,7 @@ BRENN_VEC int AnglesRound(const V* x, V* y) {
         TailStep<AsinDoubleOf<L>, kComp, false>(st[k]);
 #pragma GCC unroll 8
     for (int k = 0; k < 8; ++k)
-        y[k] = AngleStep<F, U, kComp, false>(st[k]);
+        y[k] = AngleStep<F, U, kComp, L == Level::EP>(st[k]);
     return bits;
 }
 
