@@ -1,8 +1,8 @@
 // Generates vecmath/explog/explog_tables.cpp, the constant tables of the exponential
 // and logarithm kernels, from MPFR at 256 bits:
 //   exp tables: 2^(j/N) for N = 128 in single (a high part and the rest relative to it),
-//   N = 64, 128 and 256 in double (a high part and the rounded rest) and N = 1024
-//   (double, one part);
+//   N = 64, 128 and 256 in double (a high part and the rounded rest), N = 256 with the
+//   rest relative to the high part, and N = 1024 (double, one part);
 //   log rows: for the centres c = 1 + j/512, j = 0..512, a reciprocal of c rounded to
 //   43 bits (so that c times it is exact in double) and -ln of that reciprocal, split
 //   into a high part on the grid of 2^-42 (so that k*ln2hi + high is exact) and the
@@ -43,7 +43,9 @@ void ExpTableF(FILE* out, const char* name, long n) {
     mpfr_clears(v, t, (mpfr_ptr)0);
 }
 
-void ExpTableD(FILE* out, const char* name, long n, bool pair) {
+// Double rows: a high part and the rounded rest (pair), the rest relative to the high
+// part, (2^(j/N) - hi)/hi (relative), or the high part alone.
+void ExpTableD(FILE* out, const char* name, long n, bool pair, bool relative = false) {
     mpfr_t v, t;
     mpfr_inits2(kPrec, v, t, (mpfr_ptr)0);
     if (pair)
@@ -54,6 +56,7 @@ void ExpTableD(FILE* out, const char* name, long n, bool pair) {
         Pow2(v, j, n);
         double hi = mpfr_get_d(v, MPFR_RNDN);
         mpfr_sub_d(t, v, hi, MPFR_RNDN);
+        if (relative) mpfr_div_d(t, t, hi, MPFR_RNDN);
         double lo = mpfr_get_d(t, MPFR_RNDN);
         if (pair)
             std::fprintf(out, "    {%a, %a},\n", hi, lo);
@@ -167,6 +170,7 @@ int main(int argc, char** argv) {
     ExpTableD(out, "expTable64", 64, true);
     ExpTableD(out, "expTable128", 128, true);
     ExpTableD(out, "expTable256", 256, true);
+    ExpTableD(out, "expRelTable256", 256, true, true);
     ExpTableD(out, "expTable1024", 1024, false);
     LogRows(out, "lnRows", 512);
     LogRows128(out, "lnTable128");

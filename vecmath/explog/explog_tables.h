@@ -3,6 +3,8 @@
  *   single::expTable128[j] = 2^(j/128) as a single high part and the rest relative to it;
  *   expTable64[j], expTable128[j], expTable256[j] = 2^(j/N) as a double high part and
  *                          the rounded rest;
+ *   expRelTable256[j]      = 2^(j/256) as a double high part and the rest relative to
+ *                          it, (2^(j/256) - hi)/hi;
  *   expTable1024[j]        = 2^(j/1024), one double;
  *   lnRows[j]              = for the centre c = 1 + j/512: a reciprocal of c to 43 bits,
  *                        -ln(reciprocal) as a high part on the 2^-42 grid and the rest,
@@ -23,6 +25,7 @@ extern const float expTable128[128][2];
 extern const double expTable64[64][2];
 extern const double expTable128[128][2];
 extern const double expTable256[256][2];
+extern const double expRelTable256[256][2];
 extern const double expTable1024[1024];
 extern const double lnRows[513][4];
 extern const double lnTable128[128][3];

@@ -3,10 +3,11 @@
  * The single kernels use no table: x = n*ln2 + r, |r| <= ln2/2, and
  * e^x - 1 = (2^n - 1) + 2^n*p(r), one rounding (Expm1NoTable): HA widened to double with
  * degree 7 and rounded once, LA and EP in single with degree 6 and 4.
- * The double kernels reduce on the table of 256 (exp_core256.h): e^x - 1 =
- * 2^m*Thi - 1 + 2^m*Thi*p + 2^m*Tlo. HA (degree 5) carries the first difference and its
- * sum with the leading part of the product exactly (Expm1On256Exact), LA (degree 5)
- * only the sum (Expm1On256), EP (degree 3) takes the high parts alone (Expm1On256Plain).
+ * The double kernels reduce on the table of 256 (exp_core256.h's step; the rows
+ * 2^(j/256) = Thi*(1 + d) of expRelTable256): e^x - 1 = 2^m*Thi*e^(r + d) - 1. HA
+ * (degree 5) carries the first difference and its sum with the leading part of the
+ * product exactly (Expm1On256Exact), LA (degree 5) only the sum (Expm1On256), EP
+ * (degree 3) takes the high parts alone (Expm1On256Plain).
  * The scalar routines run the table core of exp_core.h: e^x - 1 = 2^m*T*(1 + p) - 1 with
  * the subtraction of 1 placed by m so that nothing cancels: for -1 <= m <= 52,
  * 2^m*((Thi - 2^-m) + s), the inner difference exact; for m > 52, 2^m*(Thi + (s - 2^-m));
@@ -127,8 +128,10 @@ inline V Expm1NoTable(V x, const T (&c)[N]) {
     return Add(Mul(scale, p), Sub(scale, Set<T>(1)));
 }
 
-// On the table of 256 (exp_core256.h): x = (256m + j)*ln2/256 + r, |r| <= ln2/512, and
-// e^x - 1 = S*(1 + p(r)) + 2^m*Tlo - 1 with S = 2^m*Thi exact. p is fitted for relative
+// On the table of 256 (expRelTable256, the step of exp_core256.h): x = (256m + j)*ln2/256
+// + r, |r| <= ln2/512, T = 2^(j/256) = Thi*(1 + d) with d the row's relative rest, and
+// e^x - 1 = S*e^(r + d) - 1 to 2^-105, S = 2^m*Thi exact: d joins the low part of the
+// reduced argument, whose polynomial then carries Tlo*r too. p is fitted for relative
 // error against e^r - 1, so that where m and j are 0 the result is p itself.
 struct Expm1Table256 {
     // c2.. of p(r) = r + r^2*(c2 + c3*r + ...), by tools/explog/expm1_double256.sollya:
@@ -138,71 +141,75 @@ struct Expm1Table256 {
     static constexpr double kC3[] = {0x1.000001ec0cc9ep-1, 0x1.5555561a1a00dp-3};
 };
 
+// x*256/ln2 + shifter: n in the low word, j its low 8 bits, m the rest.
+inline __m128d Expm1Steps(__m128d x) {
+    return Add(Mul(x, Set<double>(ExpStep256::kInvStep)), Set<double>(Format<double>::kShifter));
+}
+
 // 2^m as a double for m = (low word of t) >> 8, -1022 <= m <= 1023.
 inline __m128d Scale256(__m128d t) {
     I32x4 e = Add(ShiftRightSigned<8>(BitCast<I32x4>(t)), Set<int32_t>(Format<double>::kBias));
     return AsFloat(ShiftLeft<Format<double>::kMantBits>(BitCast<I64x2>(e)));
 }
 
-// HA: S - 1 = a + ea by TwoSum (exact for every m), and with p = rh + (rl + r^2*Q) and
-// S*rh = rh + (S - 1)*rh, the head a + rh by Fast2Sum (|a| >= 2^(1/256) - 1 > |rh|
-// unless a is 0): what is left, (S - 1)*rh, S*(rl + r^2*Q) and 2^m*Tlo, is below 2^-8
-// of the result wherever the head cancels (m = 0 or -1, j near 0), so that only the
-// last addition rounds at the result's scale.
-inline __m128d Expm1On256Exact(__m128d x) {
+// For HA and LA: S, rh = x - n*stepHi (exact), rl = -n*stepLo + d and q = r^2*Q(r),
+// degree 5, for r = rh + rl (RowInPoly) or r = rh - n*stepLo: then the polynomial does
+// not wait for the row, and d*r, a tenth of the last place at most (near 0), is lost.
+struct Expm1Reduced {
+    __m128d big, rh, rl, q;
+};
+template <bool RowInPoly>
+inline Expm1Reduced Expm1Reduce256(__m128d x) {
     using S = ExpStep256;
-    const __m128d shifter = Set<double>(Format<double>::kShifter);
-    __m128d t = Add(Mul(x, Set<double>(S::kInvStep)), shifter);
-    __m128d n = Sub(t, shifter);
-    __m128d rh = Sub(x, Mul(n, Set<double>(S::kStepHi))); // exact
+    Expm1Reduced e;
+    __m128d t = Expm1Steps(x);
+    __m128d n = Sub(t, Set<double>(Format<double>::kShifter));
+    // Each row loaded as soon as its index is read, as ExpRows256 does.
+    __m128d row0 = LoadAligned(expRelTable256[LowWord<0>(AsInt(t)) & 255]);
+    __m128d row1 = LoadAligned(expRelTable256[LowWord<1>(AsInt(t)) & 255]);
+    __m128d th = InterleaveLower(row0, row1), d = InterleaveUpper(row0, row1);
+    e.big = Mul(Scale256(t), th);
+    e.rh = Sub(x, Mul(n, Set<double>(S::kStepHi)));
     __m128d rl = Mul(n, Set<double>(-S::kStepLo));
-    __m128d r = Add(rh, rl);
-    __m128d q = Mul(Mul(r, r), Estrin(r, Expm1Table256::kC5));
-    __m128d th, tl;
-    ExpRows256(t, th, tl);
-    __m128d scale = Scale256(t);
+    e.rl = Add(rl, d);
+    __m128d r = Add(e.rh, RowInPoly ? e.rl : rl);
+    e.q = Mul(Mul(r, r), Estrin(r, Expm1Table256::kC5));
+    return e;
+}
+
+// HA: S - 1 = a + ea by TwoSum (exact for every m), and with p = rh + (rl + q) and
+// S*rh = rh + (S - 1)*rh, the head a + rh by Fast2Sum (|a| >= 2^(1/256) - 1 > |rh|
+// unless a is 0): what is left, (S - 1)*rh and S*(rl + q), is below 2^-8 of the result
+// wherever the head cancels (m = 0 or -1, j near 0), so that only the last addition
+// rounds at the result's scale.
+inline __m128d Expm1On256Exact(__m128d x) {
+    Expm1Reduced e = Expm1Reduce256<true>(x);
     __m128d a, ea, s, es;
-    TwoSum(Mul(scale, th), Set<double>(-1.0), a, ea);
-    FastTwoSum(a, rh, s, es);
-    // Tlo*rh is kept: near 0 it is a tenth of the result's last place.
-    __m128d tlp = Mul(tl, Add(Set<double>(1.0), rh));
-    __m128d lo = Add(Mul(scale, Add(Mul(th, Add(rl, q)), tlp)), Mul(a, rh));
+    TwoSum(e.big, Set<double>(-1.0), a, ea);
+    FastTwoSum(a, e.rh, s, es);
+    __m128d lo = Add(Mul(e.big, Add(e.rl, e.q)), Mul(a, e.rh));
     return Add(s, Add(Add(es, ea), lo));
 }
 
-// LA: the same without TwoSum: a = 2^m*Thi - 1 rounds only where m < -1 or m > 52, far
-// from any cancellation (about 1 ulp in all there), and Tlo*rh is left out.
+// LA: the same without TwoSum (a = S - 1 rounds only where m < -1 or m > 52, far from
+// any cancellation: about 1 ulp in all there) and without d in the polynomial.
 inline __m128d Expm1On256(__m128d x) {
-    using S = ExpStep256;
-    const __m128d shifter = Set<double>(Format<double>::kShifter);
-    __m128d t = Add(Mul(x, Set<double>(S::kInvStep)), shifter);
-    __m128d n = Sub(t, shifter);
-    __m128d rh = Sub(x, Mul(n, Set<double>(S::kStepHi))); // exact
-    __m128d rl = Mul(n, Set<double>(-S::kStepLo));
-    __m128d r = Add(rh, rl);
-    __m128d q = Mul(Mul(r, r), Estrin(r, Expm1Table256::kC5));
-    __m128d th, tl;
-    ExpRows256(t, th, tl);
-    __m128d scale = Scale256(t);
-    __m128d big = Mul(scale, th);
-    __m128d a = Sub(big, Set<double>(1.0));
+    Expm1Reduced e = Expm1Reduce256<false>(x);
+    __m128d a = Sub(e.big, Set<double>(1.0));
     __m128d s, es;
-    FastTwoSum(a, rh, s, es);
-    __m128d lo = Add(Mul(big, Add(rl, q)), Mul(scale, tl));
-    return Add(s, Add(es, Add(Mul(a, rh), lo)));
+    FastTwoSum(a, e.rh, s, es);
+    __m128d lo = Add(Mul(e.big, Add(e.rl, e.q)), Mul(a, e.rh));
+    return Add(s, Add(es, lo));
 }
 
-// EP: the high parts only, one-part step, degree 3: (2^m*Thi - 1) + 2^m*Thi*p.
+// EP: the high parts only, one-part step, degree 3: (S - 1) + S*p.
 inline __m128d Expm1On256Plain(__m128d x) {
     using S = ExpStep256;
-    const __m128d shifter = Set<double>(Format<double>::kShifter);
-    __m128d t = Add(Mul(x, Set<double>(S::kInvStep)), shifter);
-    __m128d n = Sub(t, shifter);
+    __m128d t = Expm1Steps(x);
+    __m128d n = Sub(t, Set<double>(Format<double>::kShifter));
     __m128d r = Sub(x, Mul(n, Set<double>(S::kStepHi + S::kStepLo)));
     __m128d p = Add(r, Mul(Mul(r, r), Estrin(r, Expm1Table256::kC3)));
-    __m128d th = LoadLanes(&expTable256[LowWord<0>(AsInt(t)) & 255][0],
-                           &expTable256[LowWord<1>(AsInt(t)) & 255][0]);
-    __m128d big = Mul(Scale256(t), th);
+    __m128d big = ScaleByLowWord<8>(GatherColumn(expRelTable256, AsInt(t), 255), t);
     return Add(Sub(big, Set<double>(1.0)), Mul(big, p));
 }
 
