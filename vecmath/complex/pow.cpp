@@ -377,19 +377,16 @@ inline D2 AddD(D2 a, double b) {
 }
 // An extended hi + lo in two doubles: hi rounded, the rest (exact in extended) and lo
 // rounded once in extended and once to double, within 2^-105.9 of the value.
-inline D2 ToD2(const DD& a) {
-    const double h = double(a.hi);
-    return {h, double((a.hi - h) + a.lo)};
+constexpr D2 ToD2(LD hi, LD lo) {
+    const double h = double(hi);
+    return {h, double((hi - h) + lo)};
 }
 // k pi/4, k = -4..4, in two doubles.
 struct EighthTurnsD {
     D2 v[9];
     constexpr EighthTurnsD() : v{} {
-        for (int k = 0; k < 9; ++k) {
-            const LD hi = kEighthTurns.v[k].hi, lo = kEighthTurns.v[k].lo;
-            const double h = double(hi);
-            v[k] = {h, double((hi - h) + lo)};
-        }
+        for (int k = 0; k < 9; ++k)
+            v[k] = ToD2(kEighthTurns.v[k].hi, kEighthTurns.v[k].lo);
     }
 };
 constexpr EighthTurnsD kEighthTurnsD;
@@ -400,6 +397,93 @@ constexpr double kPio2D[4] = {0x1.921fb54p+0, 0x1.10b461p-30, 0x1.a62633p-58,
 // pi/2 in two doubles (107 bits).
 constexpr double kPio2Words[2] = {0x1.921fb54442d18p+0, 0x1.1a62633145c07p-54};
 
+// The rows of ln c and atan t_j in pairs of doubles, and the reciprocals (32 bits, exact
+// in double), made from the extended rows when the program is compiled.
+struct LnRowsD {
+    double rc[182];
+    D2 ln[182];
+    constexpr LnRowsD() : rc{}, ln{} {
+        for (int i = 0; i < 182; ++i) {
+            rc[i] = double(kPowLnRows[i][0]);
+            ln[i] = ToD2(kPowLnRows[i][1], kPowLnRows[i][2]);
+        }
+    }
+};
+constexpr LnRowsD kLnRowsD;
+struct AtanRowsD {
+    D2 v[257];
+    constexpr AtanRowsD() : v{} {
+        for (int i = 0; i < 257; ++i)
+            v[i] = ToD2(kPowAtanRows[i][0], kPowAtanRows[i][1]);
+    }
+};
+constexpr AtanRowsD kAtanRowsD;
+
+// The nearest integer of |v| < 2^51 in double.
+inline double NearestD(double v) {
+    return (v + 0x1.8p52) - 0x1.8p52;
+}
+
+// ln|a| in pairs of doubles, for parts whose larger magnitude lies in [2^-450, 2^450]:
+// |a|^2 within 2^-105 of itself (exact products, a smaller square below the denormal
+// range far below that), m = |a|^2 2^-e in [sqrt(1/2), sqrt 2) exact, r = m/c - 1 from
+// the exact product with the row's reciprocal, ln(1 + r) as r - r^2/2 (exact sum and
+// product) and the rest of the series to r^10 in double. Error at most |r|^3 2^-50 (the
+// rest's roundings, generously) + (|r| + 1 + |e|) 2^-100, *err.
+[[gnu::always_inline]] inline D2 LnAbsMidD(double x, double y, double* err) {
+    double p, pe, q, qe;
+    ExactProduct(x, x, p, pe);
+    ExactProduct(y, y, q, qe);
+    D2 s = TwoSumD(p, q);
+    s = FastTwoSumD(s.hi, s.lo + (pe + qe));
+    const uint64_t b = BitsOf(s.hi);
+    const int e = int(b >> 52) - 1023 + ((b & 0xfffffffffffffULL) >= 0x6a09e667f3bcdULL);
+    const double sc = Pow2D(-e), m = s.hi * sc, sl = s.lo * sc;
+    const int i = int(NearestD((m - 1) * 256)) - kPowLnFirst;
+    const double rc = kLnRowsD.rc[i];
+    double pr, pre;
+    ExactProduct(m, rc, pr, pre);
+    const D2 r = TwoSumD(pr - 1, pre + sl * rc); // pr - 1 exact
+    const double t = r.hi, t2 = t * t, t4 = t2 * t2;
+    double sq, sqe;
+    ExactProduct(t, t, sq, sqe);
+    const D2 z = TwoSumD(t, -0.5 * sq); // exact: r - r^2/2's head
+    // r^3 (1/3 - r/4 + ... - r^7/10) by Estrin's scheme
+    const double c0 = (1 / 3.0 - t * 0.25) + t2 * (0.2 - t * (1 / 6.0));
+    const double c1 = (1 / 7.0 - t * 0.125) + t2 * (1 / 9.0 - t * 0.1);
+    const double rest = (t * t2) * (c0 + t4 * c1);
+    const double low = (z.lo + r.lo) - (0.5 * sqe + t * r.lo) + rest;
+    constexpr double kLn2A = 0x1.62e42fefa38p-1, kLn2B = 0x1.ef35793c7673p-45; // 42 bits
+    const D2 h = TwoSumD(e * kLn2A, kLnRowsD.ln[i].hi), g = TwoSumD(h.hi, z.hi); // e kLn2A exact
+    const D2 ln = FastTwoSumD(g.hi, g.lo + (h.lo + ((e * kLn2B + kLnRowsD.ln[i].lo) + low)));
+    *err = fabs(t) * t2 * 0x1p-50 + (fabs(t) + 1 + fabs(double(e))) * 0x1p-100;
+    return {0.5 * ln.hi, 0.5 * ln.lo};
+}
+
+// atan(num/den) in pairs of doubles, for 0 <= num <= den, den in [2^-450, 2^450]: t_j the
+// nearest, num - t_j den (its product exact, the difference by Sterbenz) and den + t_j num
+// in two words, d = q + ql from the quotient's exact residual, then d + the rest of the
+// series to d^7 in double (|d| <= 2^-9). Error at most |d|^3 2^-50 (the rest's roundings)
+// + |atan| 2^-100, *err.
+[[gnu::always_inline]] inline D2 AtanRatioMidD(double num, double den, double* err) {
+    const int j = int(NearestD(num / den * 256));
+    const double tj = j * 0x1p-8;
+    double p, pe, p2, pe2;
+    ExactProduct(tj, den, p, pe);
+    ExactProduct(tj, num, p2, pe2);
+    const D2 n = TwoSumD(num - p, -pe);
+    D2 dn = TwoSumD(den, p2);
+    dn = FastTwoSumD(dn.hi, dn.lo + pe2);
+    const double q = n.hi / dn.hi;
+    double pq, pqe;
+    ExactProduct(q, dn.hi, pq, pqe);
+    const double ql = ((((n.hi - pq) - pqe) + n.lo) - q * dn.lo) / dn.hi, v = q * q;
+    const double rest = -q * v * (1 / 3.0 - v * (0.2 - v * (1 / 7.0)));
+    const D2 h = FastTwoSumD(kAtanRowsD.v[j].hi, q); // atan t_j > 2^-9 >= |q| unless j = 0
+    *err = fabs(q) * v * 0x1p-50 + fabs(h.hi) * 0x1p-100;
+    return FastTwoSumD(h.hi, h.lo + (kAtanRowsD.v[j].lo + ql + rest));
+}
+
 // w = b (l + i (k pi/4 + d)) less j0 quarter turns (g pi/2 the rest of u k pi/4) in
 // double words from l = ln|a| and d (absolute errors el and ed), for |u|, |v| <= 2^30:
 // every product of heads exact (Dekker), the cross products and the sums within about
@@ -407,11 +491,10 @@ constexpr double kPio2Words[2] = {0x1.921fb54442d18p+0, 0x1.1a62633145c07p-54};
 // three short parts' products exact, each step a two-word sum). True when the bounds of
 // PowFinite hold; an absolute 2^-1000 covers products in the denormal range.
 template <int P>
-[[gnu::always_inline]] inline bool WordsInDouble(const DD& lx, const DD& dx, int k, LD u, LD v,
-                                                 LD g, LD el, LD ed, DD& e, Angle& an) {
+[[gnu::always_inline]] inline bool WordsInDouble(const D2& l, const D2& d, int k, LD u, LD v,
+                                                 LD g, double el, double ed, DD& e, Angle& an) {
     constexpr double kTol = P == 53 ? 0x1p-58 : 0x1p-29;
     const double ud = double(u), vd = double(v), gh = double(g), gl = double(g - gh);
-    const D2 l = ToD2(lx), d = ToD2(dx);
     D2 t = TwoSumD(kEighthTurnsD.v[k + 4].hi, d.hi);
     t = FastTwoSumD(t.hi, t.lo + (kEighthTurnsD.v[k + 4].lo + d.lo));
     double p1, e1, p2, e2, p3, e3, p4, e4, p5, e5;
@@ -438,10 +521,9 @@ template <int P>
         r = AddD(r, -(qd * kPio2D[2]));
         r = AddD(r, iw.lo - qd * kPio2D[3]);
     }
-    const double em = double(fabsl(u) * el + fabsl(v) * ed) +
-                      ((fabs(p1) + fabs(p2)) * 0x1p-100 + 0x1p-1000);
-    const double ea = double(fabsl(u) * ed + fabsl(v) * el) +
-                      ((fabs(p4) + fabs(p5) + fabs(iw.hi)) * 0x1p-100 + 0x1p-100);
+    const double au = fabs(ud), av = fabs(vd);
+    const double em = (au * el + av * ed) + ((fabs(p1) + fabs(p2)) * 0x1p-100 + 0x1p-1000);
+    const double ea = (au * ed + av * el) + ((fabs(p4) + fabs(p5) + fabs(iw.hi)) * 0x1p-100 + 0x1p-100);
     if (!(em <= kTol && fabs(r.hi) <= 1 && ea <= 8 * kTol * fabs(r.hi))) return false;
     e = {re.hi, re.lo};
     an = {q, r.hi, r.lo};
@@ -589,18 +671,24 @@ template <int P>
     // in two words: first with the cheaper ln|a| and arg a (absolute errors el and ed,
     // the products and sums of w within 2^-100 of their terms) under the same bounds,
     // else with the closer ones
-    LD el;
-    DD l = LnAbsMid(x, y, &el), dd = AtanRatioMid(o.num, o.den);
-    dd = {o.sg * dd.hi, o.sg * dd.lo};
-    const LD ed = fabsl(dd.hi) * 0x1p-72L;
-    if (fabsl(u) <= 0x1p30L && fabsl(v) <= 0x1p30L) {
+    // first all in pairs of doubles (exponents below 2^30, |a| within double's squares)
+    const LD big = o.den;
+    if (fabsl(u) <= 0x1p30L && fabsl(v) <= 0x1p30L && big >= 0x1p-450L && big <= 0x1p450L) {
+        double eld, edd;
+        const D2 ld = LnAbsMidD(double(x), double(y), &eld);
+        D2 d = AtanRatioMidD(double(o.num), double(o.den), &edd);
+        d = {o.sg * d.hi, o.sg * d.lo};
         DD e;
         Angle an;
-        if (WordsInDouble<P>(l, dd, o.k, u, v, g, el, ed, e, an)) {
+        if (WordsInDouble<P>(ld, d, o.k, u, v, g, eld, edd, e, an)) {
             an.j += (long long)j0;
             return Finish<P>(e, an, y, u, v, re, im);
         }
     }
+    LD el;
+    DD l = LnAbsMid(x, y, &el), dd = AtanRatioMid(o.num, o.den);
+    dd = {o.sg * dd.hi, o.sg * dd.lo};
+    const LD ed = fabsl(dd.hi) * 0x1p-72L;
     const XHalves hu = SplitX(u), hv = SplitX(v), hg = SplitX(g);
     for (int pass = 0;; ++pass) {
         // each factor split once for its products
