@@ -12,8 +12,10 @@
  * of h in two parts and the base joined by an exact sum; the pi-scaled single LA and HA
  * run the double steps on the widened lanes with a six-term series and narrow once. Double
  * EP, LA and HA use 6, 12 and 13 terms; HA also corrects the square root by its exact
- * residual and joins base and main term by an exact sum. The pi-scaled rows take the
- * compensated double steps at every double level.
+ * residual (over the root's reciprocal estimate) and joins base and main term by an exact
+ * sum, EP takes the base without the tail of pi/4. The pi-scaled rows take the
+ * compensated double steps at every double level. Double rounds of sixteen take each
+ * step over the round's eight registers before the next.
  *
  * Lanes with |x| above 1 and NaN go to the scalar routine: infinity gives NaN with the
  * domain status, NaN itself none, |x| > 1 NaN with the domain status.
