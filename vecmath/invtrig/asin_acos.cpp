@@ -178,8 +178,9 @@ BRENN_VEC __m128 AnglesOf(__m128 x) {
                       AngleOf<F, U, AsinDouble6Set, false, __m128d, true>(WidenUpper(x)));
 }
 template <Level L>
-using AsinDoubleOf = std::conditional_t<L == Level::EP, AsinDouble6,
-                                        std::conditional_t<L == Level::LA, AsinDouble12, AsinDouble13>>;
+using AsinDoubleOf =
+    std::conditional_t<L == Level::EP, AsinDouble6,
+                       std::conditional_t<L == Level::LA, AsinDouble12, AsinDouble13>>;
 template <Level L, Unit U>
 constexpr bool kCompOf = L == Level::HA || U == Unit::Pi;
 template <Fn F, Unit U, Level L, class V>
