@@ -55,17 +55,24 @@
 namespace brenn::vm::cx {
 namespace {
 
-// An unevaluated sum hi + lo, |lo| at most half an extended ulp of hi.
-struct DD {
-    LD hi, lo;
+// An unevaluated sum hi + lo, |lo| at most half an ulp of hi: of extended numbers (DD)
+// or of doubles (D2, on SSE, whose steps are several times quicker than the extended
+// ones with their 80-bit loads and stores and single stack of registers).
+template <class T>
+struct Words {
+    T hi, lo;
 };
+using DD = Words<LD>;
+using D2 = Words<double>;
 
-inline DD TwoSum(LD a, LD b) {
-    const LD s = a + b, bb = s - a;
+template <class T>
+inline Words<T> TwoSum(T a, T b) {
+    const T s = a + b, bb = s - a;
     return {s, (a - (s - bb)) + (b - bb)};
 }
-inline DD FastTwoSum(LD a, LD b) { // |a| >= |b|
-    const LD s = a + b;
+template <class T>
+inline Words<T> FastTwoSum(T a, T b) { // |a| >= |b|
+    const T s = a + b;
     return {s, b - (s - a)};
 }
 // A factor split once for the exact products it enters: the 64-bit significand in 32-bit
@@ -93,8 +100,9 @@ inline DD Add(DD a, DD b) {
     const DD s = TwoSum(a.hi, b.hi);
     return FastTwoSum(s.hi, s.lo + a.lo + b.lo);
 }
-inline DD Add(DD a, LD b) {
-    const DD s = TwoSum(a.hi, b);
+template <class T>
+inline Words<T> Add(Words<T> a, T b) {
+    const Words<T> s = TwoSum(a.hi, b);
     return FastTwoSum(s.hi, s.lo + a.lo);
 }
 inline DD Mul(DD a, DD b) {
@@ -358,23 +366,6 @@ template <bool Coarse = false>
     return {(long long)q, r.hi, r.lo};
 }
 
-// The words of w in double (SSE), hi + lo: cheaper than the extended words, whose 80-bit
-// loads and stores and single stack of registers make every step slow.
-struct D2 {
-    double hi, lo;
-};
-inline D2 TwoSumD(double a, double b) {
-    const double s = a + b, bb = s - a;
-    return {s, (a - (s - bb)) + (b - bb)};
-}
-inline D2 FastTwoSumD(double a, double b) { // |a| >= |b|
-    const double s = a + b;
-    return {s, b - (s - a)};
-}
-inline D2 AddD(D2 a, double b) {
-    const D2 s = TwoSumD(a.hi, b);
-    return FastTwoSumD(s.hi, s.lo + a.lo);
-}
 // An extended hi + lo in two doubles: hi rounded, the rest (exact in extended) and lo
 // rounded once in extended and once to double, within 2^-105.9 of the value.
 constexpr D2 ToD2(LD hi, LD lo) {
@@ -434,8 +425,8 @@ inline double NearestD(double v) {
     double p, pe, q, qe;
     ExactProduct(x, x, p, pe);
     ExactProduct(y, y, q, qe);
-    D2 s = TwoSumD(p, q);
-    s = FastTwoSumD(s.hi, s.lo + (pe + qe));
+    D2 s = TwoSum(p, q);
+    s = FastTwoSum(s.hi, s.lo + (pe + qe));
     const uint64_t b = BitsOf(s.hi);
     const int e = int(b >> 52) - 1023 + ((b & 0xfffffffffffffULL) >= 0x6a09e667f3bcdULL);
     const double sc = Pow2D(-e), m = s.hi * sc, sl = s.lo * sc;
@@ -443,19 +434,19 @@ inline double NearestD(double v) {
     const double rc = kLnRowsD.rc[i];
     double pr, pre;
     ExactProduct(m, rc, pr, pre);
-    const D2 r = TwoSumD(pr - 1, pre + sl * rc); // pr - 1 exact
+    const D2 r = TwoSum(pr - 1, pre + sl * rc); // pr - 1 exact
     const double t = r.hi, t2 = t * t, t4 = t2 * t2;
     double sq, sqe;
     ExactProduct(t, t, sq, sqe);
-    const D2 z = TwoSumD(t, -0.5 * sq); // exact: r - r^2/2's head
+    const D2 z = TwoSum(t, -0.5 * sq); // exact: r - r^2/2's head
     // r^3 (1/3 - r/4 + ... - r^7/10) by Estrin's scheme
     const double c0 = (1 / 3.0 - t * 0.25) + t2 * (0.2 - t * (1 / 6.0));
     const double c1 = (1 / 7.0 - t * 0.125) + t2 * (1 / 9.0 - t * 0.1);
     const double rest = (t * t2) * (c0 + t4 * c1);
     const double low = (z.lo + r.lo) - (0.5 * sqe + t * r.lo) + rest;
     constexpr double kLn2A = 0x1.62e42fefa38p-1, kLn2B = 0x1.ef35793c7673p-45; // 42 bits
-    const D2 h = TwoSumD(e * kLn2A, kLnRowsD.ln[i].hi), g = TwoSumD(h.hi, z.hi); // e kLn2A exact
-    const D2 ln = FastTwoSumD(g.hi, g.lo + (h.lo + ((e * kLn2B + kLnRowsD.ln[i].lo) + low)));
+    const D2 h = TwoSum(e * kLn2A, kLnRowsD.ln[i].hi), g = TwoSum(h.hi, z.hi); // e kLn2A exact
+    const D2 ln = FastTwoSum(g.hi, g.lo + (h.lo + ((e * kLn2B + kLnRowsD.ln[i].lo) + low)));
     *err = fabs(t) * t2 * 0x1p-50 + (fabs(t) + 1 + fabs(double(e))) * 0x1p-100;
     return {0.5 * ln.hi, 0.5 * ln.lo};
 }
@@ -471,17 +462,17 @@ inline double NearestD(double v) {
     double p, pe, p2, pe2;
     ExactProduct(tj, den, p, pe);
     ExactProduct(tj, num, p2, pe2);
-    const D2 n = TwoSumD(num - p, -pe);
-    D2 dn = TwoSumD(den, p2);
-    dn = FastTwoSumD(dn.hi, dn.lo + pe2);
+    const D2 n = TwoSum(num - p, -pe);
+    D2 dn = TwoSum(den, p2);
+    dn = FastTwoSum(dn.hi, dn.lo + pe2);
     const double q = n.hi / dn.hi;
     double pq, pqe;
     ExactProduct(q, dn.hi, pq, pqe);
     const double ql = ((((n.hi - pq) - pqe) + n.lo) - q * dn.lo) / dn.hi, v = q * q;
     const double rest = -q * v * (1 / 3.0 - v * (0.2 - v * (1 / 7.0)));
-    const D2 h = FastTwoSumD(kAtanRowsD.v[j].hi, q); // atan t_j > 2^-9 >= |q| unless j = 0
+    const D2 h = FastTwoSum(kAtanRowsD.v[j].hi, q); // atan t_j > 2^-9 >= |q| unless j = 0
     *err = fabs(q) * v * 0x1p-50 + fabs(h.hi) * 0x1p-100;
-    return FastTwoSumD(h.hi, h.lo + (kAtanRowsD.v[j].lo + ql + rest));
+    return FastTwoSum(h.hi, h.lo + (kAtanRowsD.v[j].lo + ql + rest));
 }
 
 // w = b (l + i (k pi/4 + d)) less j0 quarter turns (g pi/2 the rest of u k pi/4) in
@@ -495,8 +486,8 @@ template <int P>
                                                  LD g, double el, double ed, DD& e, Angle& an) {
     constexpr double kTol = P == 53 ? 0x1p-58 : 0x1p-29;
     const double ud = double(u), vd = double(v), gh = double(g), gl = double(g - gh);
-    D2 t = TwoSumD(kEighthTurnsD.v[k + 4].hi, d.hi);
-    t = FastTwoSumD(t.hi, t.lo + (kEighthTurnsD.v[k + 4].lo + d.lo));
+    D2 t = TwoSum(kEighthTurnsD.v[k + 4].hi, d.hi);
+    t = FastTwoSum(t.hi, t.lo + (kEighthTurnsD.v[k + 4].lo + d.lo));
     double p1, e1, p2, e2, p3, e3, p4, e4, p5, e5;
     ExactProduct(ud, l.hi, p1, e1);
     ExactProduct(vd, t.hi, p2, e2);
@@ -504,22 +495,22 @@ template <int P>
     ExactProduct(ud, d.hi, p4, e4);
     ExactProduct(vd, l.hi, p5, e5);
     // Re w = u l - v t
-    D2 re = TwoSumD(p1, -p2);
-    re = FastTwoSumD(re.hi, re.lo + ((e1 - e2) + (ud * l.lo - vd * t.lo)));
+    D2 re = TwoSum(p1, -p2);
+    re = FastTwoSum(re.hi, re.lo + ((e1 - e2) + (ud * l.lo - vd * t.lo)));
     // Im w = g pi/2 + u d + v l
-    const D2 s = TwoSumD(p4, p5), s2 = TwoSumD(s.hi, p3);
+    const D2 s = TwoSum(p4, p5), s2 = TwoSum(s.hi, p3);
     const double lo = (s2.lo + s.lo) + ((e3 + e4 + e5) + ((ud * d.lo + vd * l.lo) +
                                                           (gh * kPio2Words[1] + gl * kPio2Words[0])));
-    const D2 iw = FastTwoSumD(s2.hi, lo);
+    const D2 iw = FastTwoSum(s2.hi, lo);
     long long q = 0;
     D2 r = iw;
     if (fabs(iw.hi) > 0.785398163397448309615660845819875721) {
         if (!(fabs(iw.hi) < 0x1p25)) return false;
         const double qd = (iw.hi * 0.636619772367581343075535053490057448 + 0x1.8p52) - 0x1.8p52;
         q = (long long)qd;
-        r = TwoSumD(iw.hi - qd * kPio2D[0], -(qd * kPio2D[1])); // the first difference exact
-        r = AddD(r, -(qd * kPio2D[2]));
-        r = AddD(r, iw.lo - qd * kPio2D[3]);
+        r = TwoSum(iw.hi - qd * kPio2D[0], -(qd * kPio2D[1])); // the first difference exact
+        r = Add(r, -(qd * kPio2D[2]));
+        r = Add(r, iw.lo - qd * kPio2D[3]);
     }
     const double au = fabs(ud), av = fabs(vd);
     const double em = (au * el + av * ed) + ((fabs(p1) + fabs(p2)) * 0x1p-100 + 0x1p-1000);
