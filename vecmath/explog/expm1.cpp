@@ -6,8 +6,8 @@
  * The double kernels reduce on the table of 256 (exp_core256.h's step; the rows
  * 2^(j/256) = Thi*(1 + d) of expRelTable256): e^x - 1 = 2^m*Thi*e^(r + d) - 1. HA
  * (degree 5) carries the first difference and its sum with the leading part of the
- * product exactly (Expm1On256Exact), LA (degree 5) only the sum (Expm1On256), EP
- * (degree 3) takes the high parts alone (Expm1On256Plain).
+ * product exactly (Expm1On256Exact), LA (degree 5) rounds the same sums (Expm1On256),
+ * EP (degree 3) takes the high parts alone (Expm1On256Plain).
  * The scalar routines run the table core of exp_core.h: e^x - 1 = 2^m*T*(1 + p) - 1 with
  * the subtraction of 1 placed by m so that nothing cancels: for -1 <= m <= 52,
  * 2^m*((Thi - 2^-m) + s), the inner difference exact; for m > 52, 2^m*(Thi + (s - 2^-m));
@@ -191,15 +191,15 @@ inline __m128d Expm1On256Exact(__m128d x) {
     return Add(s, Add(Add(es, ea), lo));
 }
 
-// LA: the same without TwoSum (a = S - 1 rounds only where m < -1 or m > 52, far from
-// any cancellation: about 1 ulp in all there) and without d in the polynomial.
+// LA: the same sums rounded, a + (rh + ((S - 1)*rh + S*(rl + q))), and without d in the
+// polynomial. a = S - 1 rounds only where m < -1 or m > 52, far from any cancellation,
+// and where a + rh cancels (m = 0 or -1, j near 0) the inner sum is below the result:
+// about 1 ulp in all.
 inline __m128d Expm1On256(__m128d x) {
     Expm1Reduced e = Expm1Reduce256<false>(x);
     __m128d a = Sub(e.big, Set<double>(1.0));
-    __m128d s, es;
-    FastTwoSum(a, e.rh, s, es);
     __m128d lo = Add(Mul(e.big, Add(e.rl, e.q)), Mul(a, e.rh));
-    return Add(s, Add(es, lo));
+    return Add(a, Add(e.rh, lo));
 }
 
 // EP: the high parts only, one-part step, degree 3: (S - 1) + S*p.
