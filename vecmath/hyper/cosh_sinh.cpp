@@ -89,24 +89,72 @@ inline __m128 BothExps(__m128 a) {
 // The double path on a = |x| in [0, 708]: HA exact sums, HA and LA the degree-5 tail
 // (its 2^-51.25 relative to e^r - 1 is below 2^-58 of e^r), EP the degree 4 (Sinh's EP
 // is its LA kernel). From 21.49 on, where e^-a is below the last bit of e^a (as in the
-// scalar routine), a lane takes A = e^a/2 alone: a register with both lanes there skips
-// B, and one with a lane on each side blends A in.
+// scalar routine), a lane takes A = e^a/2 alone: B and the sums run only in a register
+// with a lane below, which blends A in where it has one on each side.
+template <Level L>
+constexpr ExpDegree kHalvesDegree = L == Level::EP ? ExpDegree::Four : ExpDegree::Five;
+
 template <Fn F, Level L>
-inline __m128d HalvesPath(__m128d a) {
-    constexpr ExpDegree D = L == Level::EP ? ExpDegree::Four : ExpDegree::Five;
+BRENN_VEC __m128d SumOfHalves(__m128d a, const ExpHalves& h) {
+    if constexpr (F == Fn::Cosh)
+        return Sum(CoshOf<L == Level::HA>(h));
+    else if constexpr (L == Level::HA)
+        return Sum(SinhOf<true, SinhSeriesHA>(a, h));
+    else
+        return Sum(SinhOf<false, SinhSeriesLA>(a, h));
+}
+
+template <Fn F, Level L>
+BRENN_VEC __m128d HalvesPath(__m128d a) {
     const __m128d both = Lt(a, Set<double>(kOneExpEnough));
     const int bits = MaskBits(both);
-    if (!bits) return HalfExpOf<D>(a);
-    ExpHalves h = HalvesOf<D>(a);
-    __m128d y;
-    if constexpr (F == Fn::Cosh)
-        y = Sum(CoshOf<L == Level::HA>(h));
-    else if constexpr (L == Level::HA)
-        y = Sum(SinhOf<true, SinhSeriesHA>(a, h));
-    else
-        y = Sum(SinhOf<false, SinhSeriesLA>(a, h));
-    if (bits != 3) y = IfThenElse(both, y, Add(h.ah, h.al));
+    HalvesState s;
+    HalfAStep<kHalvesDegree<L>>(a, s);
+    if (!bits) return HalfExpFrom(s);
+    HalfBStep(s);
+    __m128d y = SumOfHalves<F, L>(a, s.h);
+    if (bits != 3) y = IfThenElse(both, y, HalfExpFrom(s));
     return y;
+}
+
+// A double round of sixteen step by step over its eight registers: the range tests, then
+// A of every register (its chains overlap), then B and the sums from A's parts where a
+// register has a lane below 21.49 (a few registers on ordinary inputs). Returns the
+// special-lane bits.
+template <Fn F, Level L>
+BRENN_VEC int HalvesRound(const __m128d* x, __m128d* y) {
+    __m128d a[8];
+    HalvesState s[8];
+    int bits = 0, both = 0;
+#pragma GCC unroll 8
+    for (int k = 0; k < 8; ++k) {
+        __m128d special = RangeTest(x[k], CoshWindow<double>::kWindow);
+        bits |= MaskBits(special) << (2 * k);
+        a[k] = IfThenElse(special, Zero<double>(), Abs(x[k])); // special lanes run on 0
+        both |= MaskBits(Lt(a[k], Set<double>(kOneExpEnough))) << (2 * k);
+    }
+#pragma GCC unroll 8
+    for (int k = 0; k < 8; ++k)
+        HalfAStep<kHalvesDegree<L>>(a[k], s[k]);
+#pragma GCC unroll 8
+    for (int k = 0; k < 8; ++k)
+        y[k] = HalfExpFrom(s[k]);
+    if (both) {
+#pragma GCC unroll 8
+        for (int k = 0; k < 8; ++k) {
+            const int b = (both >> (2 * k)) & 3;
+            if (!b) continue;
+            HalfBStep(s[k]);
+            __m128d v = SumOfHalves<F, L>(a[k], s[k].h);
+            y[k] = b == 3 ? v : IfThenElse(Lt(a[k], Set<double>(kOneExpEnough)), v, y[k]);
+        }
+    }
+    if constexpr (F == Fn::Sinh) {
+#pragma GCC unroll 8
+        for (int k = 0; k < 8; ++k)
+            y[k] = Or(y[k], SignBit(x[k]));
+    }
+    return bits;
 }
 
 // Single HA, in single arithmetic: e^a and e^-a from one reduction by ln2/64 and one
@@ -197,21 +245,25 @@ struct HyperBody {
         if constexpr (F == Fn::Sinh) y = Or(y, SignBit(x));
         return y;
     }
-    // Double rounds of sixteen: the compiler interleaves the round's eight chains.
+    // Double rounds of sixteen, step by step over the round's registers (HalvesRound).
     static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
+    static int EvalWide(const V* x, V* y) {
+        if constexpr (sizeof(T) == 8)
+            return HalvesRound<F, L>(x, y);
+        else
+            return EvalByRegister<HyperBody>(x, y);
+    }
 };
 
 template <class Tp, Level L>
 struct CoshBody : HyperBody<Fn::Cosh, Tp, L> {
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(Tp, Cosh);
     static int Scalar(const Tp* a, Tp* y) { return CoshScalar(a, y); }
-    static int EvalWide(const Vec<Tp>* x, Vec<Tp>* y) { return EvalByRegister<CoshBody>(x, y); }
 };
 template <class Tp, Level L>
 struct SinhBody : HyperBody<Fn::Sinh, Tp, L> {
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(Tp, Sinh);
     static int Scalar(const Tp* a, Tp* y) { return SinhScalar(a, y); }
-    static int EvalWide(const Vec<Tp>* x, Vec<Tp>* y) { return EvalByRegister<SinhBody>(x, y); }
 };
 
 } // namespace

@@ -67,13 +67,6 @@ inline void ExpPolyParts(__m128d r, __m128d& e, __m128d& o) {
     e = Mul(s, HornerEveryOther<0>(s, c));
     o = MulAdd(Mul(r, s), HornerEveryOther<1>(s, c), r);
 }
-template <ExpDegree D>
-inline void ExpPolyBoth(__m128d r, __m128d& pa, __m128d& pb) {
-    __m128d e, o;
-    ExpPolyParts<D>(r, e, o);
-    pa = Add(e, o);
-    pb = Sub(e, o);
-}
 
 // The reduction by ln2/64: t = a*64/ln2 + the shifter (n = rint(a*64/ln2) in its low
 // word), n, and the reduced argument r = a - n*ln2/64, returned.
@@ -85,42 +78,50 @@ inline __m128d Reduce64(__m128d a, __m128d& t, __m128d& n) {
     return Sub(Sub(a, Mul(n, Set<double>(S::kStepHi))), Mul(n, Set<double>(S::kStepLo)));
 }
 
-// A alone, e^a/2 for a in [0, 708], where B is below A's last bit: the head plus the
-// tail of HalvesOf, the same operations, so that a lane gets the same bits whichever of
-// the two its register runs.
+// The halves in two steps, so that a round can take each over all its registers and
+// leave B to the registers that need it: the A step reduces a, forms the polynomial's
+// parts at r and A's table row, power and u = T*p(r) + Tlo (A = 2^(m-1)*(T + u)); the B
+// step the same at -n from those parts. A's head and tail are T*2^(m-1) and u*2^(m-1),
+// exact products (A >= 1/2), so that A alone, (T + u)*2^(m-1), has the bits of their sum.
+struct HalvesState {
+    __m128d n, e, o, th, u, sa;
+    ExpHalves h;
+};
 template <ExpDegree D>
-inline __m128d HalfExpOf(__m128d a) {
-    __m128d t, n;
-    __m128d r = Reduce64(a, t, n);
-    __m128d th, tl;
-    ExpRows64(t, th, tl);
-    __m128d sa = HalfPower(ExpPower64(t));
-    __m128d e, o;
-    ExpPolyParts<D>(r, e, o);
-    return Add(Mul(th, sa), Mul(Add(Mul(th, Add(e, o)), tl), sa));
+BRENN_VEC void HalfAStep(__m128d a, HalvesState& s) {
+    __m128d t;
+    __m128d r = Reduce64(a, t, s.n);
+    __m128d tl;
+    ExpRows64(t, s.th, tl);
+    s.sa = HalfPower(ExpPower64(t));
+    ExpPolyParts<D>(r, s.e, s.o);
+    s.u = Add(Mul(s.th, Add(s.e, s.o)), tl);
+}
+// A alone, e^a/2 for a in [0, 708], where B is below A's last bit.
+BRENN_VEC __m128d HalfExpFrom(const HalvesState& s) {
+    return Mul(Add(s.th, s.u), s.sa);
+}
+// B's power is held at 2^-1001 and up: below that B is far under A's last bit, and the
+// clamp keeps its exponent field in range.
+BRENN_VEC void HalfBStep(HalvesState& s) {
+    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    __m128d tn = Sub(shifter, s.n); // -n in the low word
+    __m128d uh, ul;
+    ExpRows64(tn, uh, ul);
+    __m128d sb = HalfPower(Max(ExpPower64(tn), Set<int32_t>(-1000)));
+    s.h.ah = Mul(s.th, s.sa);
+    s.h.al = Mul(s.u, s.sa);
+    s.h.bh = Mul(uh, sb);
+    s.h.bl = Mul(Add(Mul(uh, Sub(s.e, s.o)), ul), sb);
 }
 
-// A and B of a in [0, 708]. B's power is held at 2^-1001 and up: below that B is far
-// under A's last bit, and the clamp keeps its exponent field in range.
+// A and B of a in [0, 708].
 template <ExpDegree D>
-inline ExpHalves HalvesOf(__m128d a) {
-    const __m128d shifter = Set<double>(Format<double>::kShifter);
-    __m128d t, n;
-    __m128d r = Reduce64(a, t, n);
-    __m128d tn = Sub(shifter, n); // -n in the low word
-    __m128d th, tl, uh, ul;
-    ExpRows64(t, th, tl);
-    ExpRows64(tn, uh, ul);
-    __m128d sa = HalfPower(ExpPower64(t));
-    __m128d sb = HalfPower(Max(ExpPower64(tn), Set<int32_t>(-1000)));
-    __m128d pa, pb;
-    ExpPolyBoth<D>(r, pa, pb);
-    ExpHalves h;
-    h.ah = Mul(th, sa);
-    h.al = Mul(Add(Mul(th, pa), tl), sa);
-    h.bh = Mul(uh, sb);
-    h.bl = Mul(Add(Mul(uh, pb), ul), sb);
-    return h;
+BRENN_VEC ExpHalves HalvesOf(__m128d a) {
+    HalvesState s;
+    HalfAStep<D>(a, s);
+    HalfBStep(s);
+    return s.h;
 }
 
 // A head and a tail whose sum is the value.
