@@ -636,6 +636,47 @@ template <int P>
     }
 }
 
+// A single element's a^b with w in plain double, for exponents up to 2^20: the parts'
+// squares exact and their sum rounded once, r = m/c - 1 and d = (t - t_j)/(1 + t t_j)
+// within a few double ulps (the products with the row's reciprocal and with t_j of 8
+// bits exact but for one rounding), then their series, w and its reduction by pi/2's
+// 27-bit parts. The bounds of PowFinite, with each term's error at most 2^-50 of it (ln|a|
+// absolutely, its tables' heads only); true, with the result, when they hold. The extended
+// pass, closer, takes what they refuse.
+[[gnu::always_inline]] inline bool PowSingleInDouble(LD x, LD y, LD u, LD v, const Octant& o,
+                                                     LD j0, LD g, LD& re, LD& im) {
+    const double xd = double(x), yd = double(y), ud = double(u), vd = double(v);
+    if (!(fabs(ud) <= 0x1p20 && fabs(vd) <= 0x1p20)) return false;
+    const double sq = xd * xd + yd * yd;
+    const uint64_t b = BitsOf(sq);
+    const int e = int(b >> 52) - 1023 + ((b & 0xfffffffffffffULL) >= 0x6a09e667f3bcdULL);
+    const double m = sq * Pow2D(-e);
+    const int i = int(NearestD((m - 1) * 256)) - kPowLnFirst;
+    const double r = m * kLnRowsD.rc[i] - 1; // |r| < 2^-8.5: the series' r^7 below 2^-62
+    const double l1p = r - r * r * (0.5 - r * (1 / 3.0 - r * (0.25 - r * (0.2 - r * (1 / 6.0)))));
+    const double l = 0.5 * ((e * 0x1.62e42fefa39efp-1 + kLnRowsD.ln[i].hi) + l1p);
+    const double num = double(o.num), den = double(o.den);
+    const int j = int(NearestD(num / den * 256));
+    const double tj = j * 0x1p-8, d = (num - tj * den) / (den + tj * num), d2 = d * d;
+    const double at = o.sg * (kAtanRowsD.v[j].hi + (d - d * d2 * (1 / 3.0 - d2 * 0.2)));
+    const double th = kEighthTurnsD.v[o.k + 4].hi + at;
+    const double wr = ud * l - vd * th, wi = double(g) * kPio2Words[0] + ud * at + vd * l;
+    double rest = wi, qd = 0;
+    if (fabs(wi) > 0.785398163397448309615660845819875721) {
+        if (!(fabs(wi) < 0x1p25)) return false;
+        qd = NearestD(wi * 0.636619772367581343075535053490057448);
+        rest = ((wi - qd * kPio2D[0]) - qd * kPio2D[1]) - qd * kPio2D[2]; // the first exact
+    }
+    const double au = fabs(ud), av = fabs(vd);
+    const double el = (1 + fabs(double(e))) * 0x1p-51, ed = fabs(at) * 0x1p-50;
+    const double em = au * el + av * ed + (fabs(ud * l) + av * (fabs(th) + 1) + fabs(wr)) * 0x1p-50;
+    const double ea = au * ed + av * el +
+                      (fabs(double(g)) + fabs(ud * at) + fabs(vd * l) + fabs(wi)) * 0x1p-50;
+    if (!(em <= 0x1p-29 && fabs(rest) <= 1 && ea <= 0x1p-26 * fabs(rest))) return false;
+    Finish<24>(DD{wr, 0}, Angle{(long long)qd + (long long)j0, rest, 0}, y, u, v, re, im);
+    return true;
+}
+
 // a^b of finite a, not zero, and finite b, not zero, p the precision of the element.
 // Im w = u k pi/4 (exact quarter turns and a rest) + u d + v ln|a|, arg a = k pi/4 + d.
 template <int P>
@@ -649,6 +690,8 @@ template <int P>
     // never passes); else all again in two words. The bounds are at least |u| 2^-62 and
     // |v| 2^-62, so a larger exponent goes to two words at once.
     constexpr LD kTol = P == 53 ? 0x1p-58L : 0x1p-29L;
+    if constexpr (P == 24)
+        if (PowSingleInDouble(x, y, u, v, o, j0, g, re, im)) return;
     if (fabsl(u) * 0x1p-62L <= kTol && fabsl(v) * 0x1p-62L <= 8 * kTol) {
         const LD lr = LnAbsX(x, y), d = o.sg * AtanRatioX(o.num, o.den);
         const LD th = o.k * 0.5L * kPio2[0] + d;
