@@ -1,35 +1,42 @@
-/* Pow and Powx of single (c) and double (z) complex vectors, element by element in 80-bit
- * extended precision (extended.h), one kernel for every level: a^b = exp(w) with
+/* Pow and Powx of single (c) and double (z) complex vectors, element by element in the
+ * frame of the extended rows (extended.h), one kernel for every level: a^b = exp(w) with
  * w = b ln a = b (ln|a| + i arg a), the modulus exp(Re w) and the angle Im w.
  *
  * An error d in w is a relative error d in the result, and an error d in Im w an error
  * d/|sin r| in the smaller part (r the angle's rest after whole quarter turns), so w must
- * be known to about 2^-(p+5) absolutely, Im w to that times |sin r|. The routine first
- * works in extended precision, with ln|a| and arg a from tables of ln(1 + j/256) and
- * atan(j/256) (pow_tables.h, made by tools/complex/gen_pow_tables) and short series
- * (errors about 2^-63, which b multiplies); where a bound of the errors of Re w and r
- * says that is not enough (results near the ends of the range, large exponents, angles
- * of many turns, a part near zero), it carries ln|a|, arg a and w as unevaluated sums
- * of two extended numbers (hi + lo, about 2^-105 relative), with the same tables:
- *   |a|^2 exactly as a sum of Dekker products (splitter 2^32 + 1 on the 64-bit
- *     significand), brought to m in [sqrt(1/2), sqrt 2) by its exponent e;
- *   ln m = ln c + 2 atanh(r/(2 + r)), c = 1 + j/256 the nearest centre and m/c = 1 + r
- *     exact in two words, the series' cube term in two words;
- *   arg a from t = min/max of the parts (< 1) as atan t_j + atan d, t_j = j/256 the
- *     nearest and d = (t - t_j)/(1 + t t_j) from exact products, then its series;
- *   exp(Re w) = expl(hi) (1 + lo); Im w less its multiple q of pi/2 (pi/2 in three
- *     64-bit parts, each product with q exact in two words), sincosl of the rest's hi,
- *     corrected by its lo.
- * Before those closest words come cheaper ones: ln|a| and arg a within about 2^-72 (the
- * "Mid" forms below) and, for exponents below 2^30, the products and sums of w in pairs
- * of doubles (SSE; Dekker's products of the heads exact, the rest within about 2^-101 of
- * the largest term), Im w reduced there by pi/2 in 27-bit parts; the extended words
- * take w only where the bound fails with these. Pairs of doubles are several times
- * quicker than pairs of extended numbers, whose 80-bit loads and stores and single
- * stack of registers slow every step.
- * A single element takes exp(Re w) and the sine and cosine of the rest in double (SSE)
- * once w is known to the bounds above: a few double ulps, far inside a single ulp, and
- * much quicker than the unit's own instructions.
+ * be known to about 2^-(p+5) absolutely, Im w to that times |sin r|. ln|a| and arg a
+ * come from tables of ln(1 + j/256) and atan(j/256) (pow_tables.h, made by
+ * tools/complex/gen_pow_tables; pairs of doubles made from them when compiled) and short
+ * series. Each step below bounds the errors of Re w and r and hands the element on
+ * where the bound says that is not enough (results near the ends of the range, large
+ * exponents, angles of many turns, a part near zero):
+ *   a single element first in plain double (SSE; errors a few double ulps of each term,
+ *     which b multiplies), for exponents up to 2^20;
+ *   a double element first in extended precision (errors about 2^-63), for small
+ *     exponents;
+ *   then, for exponents up to 2^30 and |a| within 2^-450..2^450, in pairs of doubles
+ *     (SSE, about 2^-101 of the largest term): |a|^2 by exact products, r = m/c - 1
+ *     from the exact product with the row's reciprocal and ln(1 + r) as r - r^2/2
+ *     exactly and the rest of its series; atan t_j + d with num - t_j den and
+ *     den + t_j num exact; w's products of heads exact (Dekker), Im w reduced by pi/2's
+ *     27-bit parts. Pairs of doubles are several times quicker than pairs of extended
+ *     numbers, whose 80-bit loads and stores and single stack of registers slow
+ *     every step;
+ *   last, in pairs of extended numbers (hi + lo, about 2^-105 relative), first with
+ *     ln|a| and arg a to about 2^-72, then with the closest ones:
+ *     |a|^2 exactly as a sum of Dekker products (splitter 2^32 + 1 on the 64-bit
+ *       significand), brought to m in [sqrt(1/2), sqrt 2) by its exponent e;
+ *     ln m = ln c + 2 atanh(r/(2 + r)), c = 1 + j/256 the nearest centre and m/c = 1 + r
+ *       exact in two words, the series' cube term in two words;
+ *     arg a from t = min/max of the parts (< 1) as atan t_j + atan d, t_j = j/256 the
+ *       nearest and d = (t - t_j)/(1 + t t_j) from exact products, then its series;
+ *     Im w less its multiple q of pi/2 (pi/2 in three 64-bit parts, each product with
+ *       q exact in two words).
+ * A double element's result is exp(hi) (1 + lo) of Re w in extended precision, times
+ * the sine and cosine of the rest's hi (the unit's own instruction), corrected by its
+ * lo. A single element takes exp(Re w) and the sine and cosine of the rest in double
+ * (SSE) once w is known to the bounds above: a few double ulps, far inside a single
+ * ulp, and much quicker than the unit's own instructions.
  * In both, arg a is kept as k eighth turns (its octant's axis or diagonal) and the angle
  * d to it, and u k eighth turns are reduced exactly (less their nearest whole turns), so
  * that an a on or near an axis or diagonal keeps its small angle at full precision, and
