@@ -9,6 +9,8 @@
  * Above 2^28 the square is left out: ln(2x) as ln x plus ln 2.
  * Single EP in single arithmetic: the fold at 1.5, the root by rsqrtps and a Newton step,
  * a quadratic near one and the logarithm by exponent and significand above.
+ * Double rounds of sixteen take each step over their eight registers (the roots, then
+ * the logarithms).
  * Range test: everything outside [1, infinity) (single: outside (1, about 2^64], the
  * test of the single EP body) and NaN go to the scalar routine, which gives NaN with the
  * domain status below 1. */
@@ -35,8 +37,10 @@ struct AcoshWindow<double> {
     static constexpr Range32 kWindow = {0xFFFFFFFFu, 0x40100000u, 0xBFFFFFFFu};
 };
 
+// w = x + sqrt(x^2 - 1) as a pair, and the powers of two its logarithm takes on top (1
+// where x is above 2^28 and goes in as it stands).
 template <Level L>
-inline __m128d AcoshOf(__m128d x) {
+BRENN_VEC Pair AcoshPairOf(__m128d x, __m128d& extra) {
     const __m128d one = Set<double>(1.0);
     __m128d big = Gt(x, Set<double>(kSquareEnd));
     __m128d xc = Min(x, Set<double>(kSquareEnd));
@@ -56,7 +60,15 @@ inline __m128d AcoshOf(__m128d x) {
     }
     w.hi = IfThenElse(big, x, w.hi);
     w.lo = IfThenZeroElse(big, w.lo);
-    return LnOfPair<L>(w, IfThenElseZero(big, one));
+    extra = IfThenElseZero(big, one);
+    return w;
+}
+
+template <Level L>
+inline __m128d AcoshOf(__m128d x) {
+    __m128d extra;
+    Pair w = AcoshPairOf<L>(x, extra);
+    return LnOfPair<L>(w, extra);
 }
 
 // Single EP, x in (1, 2^64]: folded at 1.5, u = x - 1 below and x^2 - 1 from there;
@@ -93,16 +105,48 @@ inline __m128 AcoshOf(__m128 x) {
         return WidenToDouble(x, AcoshWide);
 }
 
+// The range test of a lane: special lanes run on 2.
+template <class V>
+BRENN_VEC V AcoshInput(V x, V& special) {
+    using T = ElemOf<V>;
+    special = RangeTest(x, AcoshWindow<T>::kWindow);
+    return IfThenElse(special, Set<T>(T(2)), x);
+}
+
+// A double round of sixteen step by step over its eight registers (the roots, then the
+// logarithms), so that the square roots issue together and the logarithms' chains
+// overlap. Returns the special-lane bits.
+template <Level L>
+BRENN_VEC int AcoshRound(const __m128d* x, __m128d* y) {
+    Pair w[8];
+    __m128d extra[8];
+    int bits = 0;
+#pragma GCC unroll 8
+    for (int k = 0; k < 8; ++k) {
+        __m128d special;
+        w[k] = AcoshPairOf<L>(AcoshInput(x[k], special), extra[k]);
+        bits |= MaskBits(special) << (2 * k);
+    }
+#pragma GCC unroll 8
+    for (int k = 0; k < 8; ++k)
+        y[k] = LnOfPair<L>(w[k], extra[k]);
+    return bits;
+}
+
 template <class Tp, Level L>
 struct AcoshBody {
     using T = Tp;
     using V = Vec<T>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Acosh);
-    static V Eval(V x, V& special) {
-        special = RangeTest(x, AcoshWindow<T>::kWindow);
-        return AcoshOf<L>(IfThenElse(special, Set<T>(T(2)), x)); // special lanes run on 2
-    }
+    static V Eval(V x, V& special) { return AcoshOf<L>(AcoshInput(x, special)); }
     static int Scalar(const T* a, T* y) { return AcoshScalar(a, y); }
+    // Double rounds of sixteen, step by step over the round's registers (AcoshRound).
+    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
+    static int EvalWide(const V* x, V* y)
+        requires(sizeof(T) == 8)
+    {
+        return AcoshRound<L>(x, y);
+    }
 };
 
 } // namespace

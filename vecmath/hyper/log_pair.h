@@ -18,7 +18,7 @@ namespace brenn::vm {
 // add the small terms to the core's tail. With wh >= 1 the head is 0 or at least
 // ln(1 + 2^-9) (k >= 0, the rows' -ln(rcp) >= 0), above |r| <= 2^-10: the fast sum is exact.
 template <Level L>
-inline __m128d LnOfScaled(__m128d wh, __m128d c, __m128d extra) {
+BRENN_VEC __m128d LnOfScaled(__m128d wh, __m128d c, __m128d extra) {
     LnReduction red = LnReduce(wh);
     red.k = Add(red.k, extra);
     __m128d h, r, t;
@@ -34,12 +34,12 @@ inline __m128d LnOfScaled(__m128d wh, __m128d c, __m128d extra) {
 
 // ln(w.hi + w.lo) + extra*ln2.
 template <Level L>
-inline __m128d LnOfPair(const Pair& w, __m128d extra) {
+BRENN_VEC __m128d LnOfPair(const Pair& w, __m128d extra) {
     return LnOfScaled<L>(w.hi, Div(w.lo, w.hi), extra);
 }
 
 // 1 + u as a head and its exact rounding error (u >= 0).
-inline Pair OnePlus(__m128d u) {
+BRENN_VEC Pair OnePlus(__m128d u) {
     Pair w;
     TwoSum(Set<double>(1.0), u, w.hi, w.lo);
     return w;
@@ -48,7 +48,7 @@ inline Pair OnePlus(__m128d u) {
 // sqrt(q.hi + q.lo) for q >= 0, q.hi in [2^-120, 2^120] or 0: the root of the head,
 // corrected once by the remainder q - s^2 (the square split exactly) over the estimate of
 // 2s; 0 for q = 0.
-inline Pair SqrtOfPair(const Pair& q) {
+BRENN_VEC Pair SqrtOfPair(const Pair& q) {
     Pair s;
     s.hi = Sqrt(q.hi);
     __m128d ph, pl;
@@ -60,14 +60,14 @@ inline Pair SqrtOfPair(const Pair& q) {
 }
 
 // a*b as a pair.
-inline Pair ProductOf(__m128d a, __m128d b) {
+BRENN_VEC Pair ProductOf(__m128d a, __m128d b) {
     Pair p;
     TwoProduct(a, b, p.hi, p.lo);
     return p;
 }
 
 // p + q for pairs, the heads summed exactly.
-inline Pair SumOf(const Pair& p, const Pair& q) {
+BRENN_VEC Pair SumOf(const Pair& p, const Pair& q) {
     Pair s;
     __m128d e;
     TwoSum(p.hi, q.hi, s.hi, e);
