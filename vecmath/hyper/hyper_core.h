@@ -32,7 +32,7 @@ constexpr double kSinhSeriesEnd = 0.5;
 
 // The series' part beyond x: x*z*P(z), z = x^2.
 template <class S>
-inline __m128d SinhSeriesTail(__m128d x) {
+BRENN_VEC __m128d SinhSeriesTail(__m128d x) {
     __m128d z = Mul(x, x);
     return Mul(x, Mul(z, Horner(z, S::kC)));
 }
@@ -43,14 +43,14 @@ struct ExpHalves {
 };
 
 // 2^(m-1) for the integer m in each lane's low word, |m - 1| <= 1022.
-inline __m128d HalfPower(I32x4 m) {
+BRENN_VEC __m128d HalfPower(I32x4 m) {
     I32x4 e = Add(m, Set<int32_t>(Format<double>::kBias - 1));
     return AsFloat(ShiftLeft<Format<double>::kMantBits>(BitCast<I64x2>(e)));
 }
 
 // c[I] + s*(c[I+2] + s*(...)): the coefficients of one parity of the exponential's tail.
 template <int I, size_t N>
-inline __m128d HornerEveryOther(__m128d s, const double (&c)[N]) {
+BRENN_VEC __m128d HornerEveryOther(__m128d s, const double (&c)[N]) {
     if constexpr (I + 2 >= int(N))
         return Set<double>(c[I]);
     else
@@ -61,7 +61,7 @@ inline __m128d HornerEveryOther(__m128d s, const double (&c)[N]) {
 // is the even part E = r^2 (c2 + c4 r^2 + ...) and the odd part O = r + r^3 (c3 + c5 r^2
 // + ...), so p(r) = E + O and p(-r) = E - O, each part evaluated once.
 template <ExpDegree D>
-inline void ExpPolyParts(__m128d r, __m128d& e, __m128d& o) {
+BRENN_VEC void ExpPolyParts(__m128d r, __m128d& e, __m128d& o) {
     const auto& c = ExpTail<D>::kC;
     __m128d s = Mul(r, r);
     e = Mul(s, HornerEveryOther<0>(s, c));
@@ -70,7 +70,7 @@ inline void ExpPolyParts(__m128d r, __m128d& e, __m128d& o) {
 
 // The reduction by ln2/64: t = a*64/ln2 + the shifter (n = rint(a*64/ln2) in its low
 // word), n, and the reduced argument r = a - n*ln2/64, returned.
-inline __m128d Reduce64(__m128d a, __m128d& t, __m128d& n) {
+BRENN_VEC __m128d Reduce64(__m128d a, __m128d& t, __m128d& n) {
     using S = ExpStep64;
     const __m128d shifter = Set<double>(Format<double>::kShifter);
     t = Add(Mul(a, Set<double>(S::kInvStep)), shifter);
@@ -132,7 +132,7 @@ struct Pair {
 // cosh a = A + B. With `exact`, the heads' sum is split into its rounded value and its
 // error (A's head is the larger: n >= 0), so that the result is rounded about once.
 template <bool exact>
-inline Pair CoshOf(const ExpHalves& h) {
+BRENN_VEC Pair CoshOf(const ExpHalves& h) {
     Pair c;
     if constexpr (exact) {
         __m128d e;
@@ -145,10 +145,9 @@ inline Pair CoshOf(const ExpHalves& h) {
     return c;
 }
 
-// sinh a for a >= 0: the series below 1/2, A - B above, as a head and a tail. The series
-// runs only in a register that has a lane below 1/2.
-template <bool exact, class Series>
-inline Pair SinhOf(__m128d a, const ExpHalves& h) {
+// A - B as a head and a tail. With `exact`, as CoshOf.
+template <bool exact>
+BRENN_VEC Pair SinhDiffOf(const ExpHalves& h) {
     Pair s;
     if constexpr (exact) {
         __m128d e;
@@ -158,22 +157,36 @@ inline Pair SinhOf(__m128d a, const ExpHalves& h) {
         s.hi = Sub(h.ah, h.bh);
         s.lo = Sub(h.al, h.bl);
     }
+    return s;
+}
+
+// The lanes of s where a is below 1/2 replaced by the series (a head and its tail),
+// computed only in a register that has such a lane.
+template <class Series>
+BRENN_VEC void SinhSeriesBlend(__m128d a, Pair& s) {
     __m128d small = Lt(a, Set<double>(kSinhSeriesEnd));
     if (MaskBits(small)) {
         s.hi = IfThenElse(small, a, s.hi);
         s.lo = IfThenElse(small, SinhSeriesTail<Series>(a), s.lo);
     }
+}
+
+// sinh a for a >= 0: the series below 1/2, A - B above, as a head and a tail.
+template <bool exact, class Series>
+BRENN_VEC Pair SinhOf(__m128d a, const ExpHalves& h) {
+    Pair s = SinhDiffOf<exact>(h);
+    SinhSeriesBlend<Series>(a, s);
     return s;
 }
 
-inline __m128d Sum(const Pair& p) {
+BRENN_VEC __m128d Sum(const Pair& p) {
     return Add(p.hi, p.lo);
 }
 
 // 1/v to about 12 bits, by the single estimate: for corrections of an ulp or two, where a
 // division would be wasted. v's magnitude within the single range (above it the estimate
 // is 0).
-inline __m128d RecipEstimate(__m128d v) {
+BRENN_VEC __m128d RecipEstimate(__m128d v) {
     return WidenLower(ApproxRecip(Narrow(v, v)));
 }
 

@@ -1,8 +1,9 @@
 /* The body of the hyperbolic rows that never report, Tanh and Asinh: only lanes whose
  * exponent is all ones (infinities and NaN) go to the scalar routine, and they run through
- * the arithmetic as 0. Op supplies the arithmetic, Of<L>(x) for both register types, and
- * the scalar routine; BRENN_QUIET_BODY(Fn) makes them of FnOf<L> and FnScalar, and the
- * body template FnBody<T, L>. */
+ * the arithmetic as 0. Op supplies the arithmetic, Of<L>(x) for both register types
+ * (and optionally Round<L>(x, y), a double round of sixteen), and the scalar routine;
+ * BRENN_QUIET_BODY(Fn) makes them of FnOf<L> and FnScalar, and the body template
+ * FnBody<T, L>. */
 #ifndef BRENN_VECMATH_HYPER_QUIET_BODY_H
 #define BRENN_VECMATH_HYPER_QUIET_BODY_H
 
@@ -32,9 +33,27 @@ struct QuietBody {
         return Op::template Of<L>(IfThenElse(special, Zero<T>(), x)); // special lanes on 0
     }
     static int Scalar(const T* a, T* y) { return Op::Scalar(a, y); }
-    // Double rounds of sixteen: the compiler interleaves the round's eight chains.
+    // Double rounds of sixteen: Op's own Round<L>(x, y) where it has one (the round step
+    // by step over its registers, special lanes on 0), else the compiler interleaves the
+    // round's eight chains.
     static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
-    static int EvalWide(const V* x, V* y) { return EvalByRegister<QuietBody>(x, y); }
+    static int EvalWide(const V* x, V* y) {
+        if constexpr (requires { Op::template Round<L>(x, y); }) {
+            constexpr int N = 16 / kLanes<T>;
+            V xs[N];
+            int bits = 0;
+#pragma GCC unroll 8
+            for (int k = 0; k < N; ++k) {
+                V special = RangeTest(x[k], InfNaNWindow<T>::kWindow);
+                bits |= MaskBits(special) << (k * kLanes<T>);
+                xs[k] = IfThenElse(special, Zero<T>(), x[k]);
+            }
+            Op::template Round<L>(xs, y);
+            return bits;
+        } else {
+            return EvalByRegister<QuietBody>(x, y);
+        }
+    }
 };
 
 } // namespace brenn::vm

@@ -73,7 +73,7 @@ constexpr double kTanhOne = 22.0;
 // LA and EP: sinh/cosh from the halves of e^a with the tail of degree D, the heads' sums
 // split exactly (the error of A - B is what the quotient would amplify).
 template <ExpDegree D, class Series>
-inline __m128d TanhPath(__m128d x) {
+BRENN_VEC __m128d TanhPath(__m128d x) {
     __m128d a = Min(Abs(x), Set<double>(kTanhOne));
     ExpHalves h = HalvesOf<D>(a);
     __m128d y = Div(Sum(SinhOf<true, Series>(a, h)), Sum(CoshOf<true>(h)));
@@ -89,23 +89,14 @@ inline __m128d TanhPath(__m128d x) {
 // rem/D by the single reciprocal estimate of Dhi (the correction is an ulp or two).
 // Below 1/16, where E - 1 would lose to cancellation what the roundings of r and of
 // Thi*p leave, the Taylor series of tanh to a^13 (the next term is 2^-65 of a).
+// In steps, so that a round can take each over all its registers: E, then the quotient,
+// then the series where a register has a lane below 1/16.
 constexpr double kTanhSmallEnd = 0x1p-4;
 constexpr double kTanhTaylor[] = {-1.0 / 3,    2.0 / 15,         -17.0 / 315,
                                   62.0 / 2835, -1382.0 / 155925, 21844.0 / 6081075};
 
-inline __m128d TanhHA(__m128d x) {
-    const __m128d one = Set<double>(1.0);
-    __m128d a = Min(Abs(x), Set<double>(kTanhOne));
-    // The series only in a register that has a lane below 1/16; one with only such lanes
-    // skips the exponential.
-    const __m128d isSmall = Lt(a, Set<double>(kTanhSmallEnd));
-    const int small = MaskBits(isSmall);
-    __m128d series = a;
-    if (small) {
-        __m128d z = Mul(a, a);
-        series = Add(a, Mul(Mul(a, z), Horner(z, kTanhTaylor)));
-        if (small == 3) return Or(series, SignBit(x));
-    }
+// E = eh + el.
+BRENN_VEC Pair TanhExpStep(__m128d a) {
     __m128d t, n;
     __m128d r = Reduce64(Add(a, a), t, n);
     __m128d th, tl;
@@ -113,32 +104,120 @@ inline __m128d TanhHA(__m128d x) {
     __m128d sc = ExpScale64(t);
     // The tail by Estrin's scheme: the body is bound by its chain, not by its operations.
     __m128d p = Add(r, Mul(Mul(r, r), Estrin(r, ExpTail<ExpDegree::Six>::kC)));
-    __m128d eh = Mul(th, sc);
-    __m128d el = Mul(Add(Mul(th, p), tl), sc);
+    Pair e;
+    e.hi = Mul(th, sc);
+    e.lo = Mul(Add(Mul(th, p), tl), sc);
+    return e;
+}
+BRENN_VEC __m128d TanhQuotientStep(const Pair& E) {
+    const __m128d one = Set<double>(1.0);
     __m128d nh, nl, dh, dl, e;
-    FastTwoSum(eh, Neg(one), nh, e);
-    FastTwoSum(nh, Add(e, el), nh, nl);
-    FastTwoSum(eh, one, dh, e);
-    dl = Add(e, el);
+    FastTwoSum(E.hi, Neg(one), nh, e);
+    FastTwoSum(nh, Add(e, E.lo), nh, nl);
+    FastTwoSum(E.hi, one, dh, e);
+    dl = Add(e, E.lo);
     __m128d q = Div(nh, Add(dh, dl));
     const __m128d cut = AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull));
     __m128d dhh = And(dh, cut), qh = And(q, cut);
     __m128d rem = Sub(Sub(Sub(nh, Mul(qh, dhh)), Mul(Sub(q, qh), dhh)), Mul(q, Sub(dh, dhh)));
     rem = Add(rem, Sub(nl, Mul(q, dl)));
-    __m128d y = Add(q, Mul(rem, RecipEstimate(dh)));
-    if (small) y = IfThenElse(isSmall, series, y);
-    return Or(y, SignBit(x));
+    return Add(q, Mul(rem, RecipEstimate(dh)));
+}
+// The lanes below 1/16 of y replaced by the series, in a register that has one.
+BRENN_VEC __m128d TanhSeriesBlend(__m128d a, __m128d y) {
+    const __m128d isSmall = Lt(a, Set<double>(kTanhSmallEnd));
+    if (MaskBits(isSmall)) {
+        __m128d z = Mul(a, a);
+        __m128d series = Add(a, Mul(Mul(a, z), Horner(z, kTanhTaylor)));
+        y = IfThenElse(isSmall, series, y);
+    }
+    return y;
+}
+
+// One register: a register with only lanes below 1/16 skips the exponential.
+BRENN_VEC __m128d TanhHA(__m128d x) {
+    __m128d a = Min(Abs(x), Set<double>(kTanhOne));
+    __m128d y = a;
+    if (MaskBits(Lt(a, Set<double>(kTanhSmallEnd))) != 3) y = TanhQuotientStep(TanhExpStep(a));
+    return Or(TanhSeriesBlend(a, y), SignBit(x));
 }
 
 template <Level L>
-inline __m128d TanhOf(__m128d x) {
+BRENN_VEC __m128d TanhOf(__m128d x) {
     if constexpr (L == Level::HA)
         return TanhHA(x);
     else
         return TanhPath<ExpDegree::Five, SinhSeriesLA>(x);
 }
 
-BRENN_QUIET_BODY(Tanh)
+// A double round of sixteen step by step over its eight registers, x's special lanes
+// already 0: the exponentials, then the quotients, then the series where a register
+// has a small lane (its test once a round).
+template <Level L>
+BRENN_VEC void TanhRound(const __m128d* x, __m128d* y) {
+    __m128d a[8];
+    int small = 0;
+    const double end = L == Level::HA ? kTanhSmallEnd : kSinhSeriesEnd;
+#pragma GCC unroll 8
+    for (int k = 0; k < 8; ++k) {
+        a[k] = Min(Abs(x[k]), Set<double>(kTanhOne));
+        small |= MaskBits(Lt(a[k], Set<double>(end)));
+    }
+    if constexpr (L == Level::HA) {
+        Pair e[8];
+#pragma GCC unroll 8
+        for (int k = 0; k < 8; ++k)
+            e[k] = TanhExpStep(a[k]);
+#pragma GCC unroll 8
+        for (int k = 0; k < 8; ++k)
+            y[k] = TanhQuotientStep(e[k]);
+        if (small) {
+#pragma GCC unroll 8
+            for (int k = 0; k < 8; ++k)
+                y[k] = TanhSeriesBlend(a[k], y[k]);
+        }
+    } else {
+        HalvesState h[8];
+#pragma GCC unroll 8
+        for (int k = 0; k < 8; ++k)
+            HalfAStep<ExpDegree::Five>(a[k], h[k]);
+#pragma GCC unroll 8
+        for (int k = 0; k < 8; ++k)
+            HalfBStep(h[k]);
+        Pair n[8];
+#pragma GCC unroll 8
+        for (int k = 0; k < 8; ++k)
+            n[k] = SinhDiffOf<true>(h[k].h);
+        if (small) {
+#pragma GCC unroll 8
+            for (int k = 0; k < 8; ++k)
+                SinhSeriesBlend<SinhSeriesLA>(a[k], n[k]);
+        }
+#pragma GCC unroll 8
+        for (int k = 0; k < 8; ++k)
+            y[k] = Div(Sum(n[k]), Sum(CoshOf<true>(h[k].h)));
+    }
+#pragma GCC unroll 8
+    for (int k = 0; k < 8; ++k)
+        y[k] = Or(y[k], SignBit(x[k]));
+}
+
+struct TanhOp {
+    template <Level L, class V>
+    static V Of(V x) {
+        return TanhOf<L>(x);
+    }
+    template <Level L>
+    static void Round(const __m128d* x, __m128d* y) {
+        TanhRound<L>(x, y);
+    }
+    template <class T>
+    static int Scalar(const T* a, T* y) {
+        return TanhScalar(a, y);
+    }
+};
+template <class Tp, Level L>
+using TanhBody = QuietBody<TanhOp, Tp, L>;
 
 } // namespace
 } // namespace brenn::vm
