@@ -51,7 +51,7 @@ BRENN_VEC Pair AcoshPairOf(__m128d x, __m128d& extra) {
         __m128d near = Lt(xc, Set<double>(2.0));
         __m128d u = IfThenElse(near, d, xc);
         __m128d v = IfThenElse(near, Add(d, d), Set<double>(-1.0));
-        Pair s = SqrtOfPair(SumOf(ProductOf(u, u), Pair{v, Zero<double>()}));
+        Pair s = SqrtOfPair(SumOf(SquareOf(u), Pair{v, Zero<double>()}));
         __m128d e;
         FastTwoSum(xc, s.hi, w.hi, e); // x is the larger
         w.lo = Add(e, s.lo);

@@ -45,18 +45,39 @@ BRENN_VEC Pair OnePlus(__m128d u) {
     return w;
 }
 
-// sqrt(q.hi + q.lo) for q >= 0, q.hi in [2^-120, 2^120] or 0: the root of the head,
-// corrected once by the remainder q - s^2 (the square split exactly) over the estimate of
-// 2s; 0 for q = 0.
+// a cut to its high 26 bits (a mask of the low 27) and the rest, both exact: products
+// of two high parts are exact.
+BRENN_VEC void CutHalves(__m128d a, __m128d& hi, __m128d& lo) {
+    hi = And(a, AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull)));
+    lo = Sub(a, hi);
+}
+
+// sqrt(q.hi + q.lo) for q >= 0, q.hi in [2^-120, 2^120] or 0: the root s of the head,
+// corrected once by the remainder q - s^2 over the estimate of 2s; 0 for q = 0. With s
+// cut, s = sh + sl: sh^2 is exact, q.hi - sh^2 exact (Sterbenz), sl*(sh + s) is
+// 2 sh*sl + sl^2 within 2^-52 of itself, about 2^-77 q, and the difference of the two,
+// far below either, exact.
 BRENN_VEC Pair SqrtOfPair(const Pair& q) {
     Pair s;
     s.hi = Sqrt(q.hi);
-    __m128d ph, pl;
-    TwoProduct(s.hi, s.hi, ph, pl);
-    __m128d rem = Add(Sub(Sub(q.hi, ph), pl), q.lo);
+    __m128d sh, sl;
+    CutHalves(s.hi, sh, sl);
+    __m128d rem = Add(Sub(Sub(q.hi, Mul(sh, sh)), Mul(sl, Add(sh, s.hi))), q.lo);
     __m128d lo = Mul(rem, RecipEstimate(Add(s.hi, s.hi)));
     s.lo = IfThenElseZero(Gt(q.hi, Zero<double>()), lo);
     return s;
+}
+
+// a^2 as a pair, |a| within 2^-400..2^400: from the halves of a, ah^2 - a^2 rounded is
+// exact (both on the grid of the rounded square's last bit, 2^-25 of it apart) and
+// al*(ah + a) is 2 ah*al + al^2 within about 2^-77 a^2.
+BRENN_VEC Pair SquareOf(__m128d a) {
+    Pair p;
+    __m128d ah, al;
+    CutHalves(a, ah, al);
+    p.hi = Mul(a, a);
+    p.lo = Add(Sub(Mul(ah, ah), p.hi), Mul(al, Add(ah, a)));
+    return p;
 }
 
 // a*b as a pair.
