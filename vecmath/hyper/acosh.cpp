@@ -38,12 +38,12 @@ struct AcoshWindow<double> {
 };
 
 // w = x + sqrt(x^2 - 1) as a pair, and the powers of two its logarithm takes on top (1
-// where x is above 2^28 and goes in as it stands).
-template <Level L>
+// where x is above 2^28 and goes in as it stands). Without kBig, x is at most 2^28.
+template <Level L, bool kBig = true>
 BRENN_VEC Pair AcoshPairOf(__m128d x, __m128d& extra) {
     const __m128d one = Set<double>(1.0);
-    __m128d big = Gt(x, Set<double>(kSquareEnd));
-    __m128d xc = Min(x, Set<double>(kSquareEnd));
+    extra = Zero<double>();
+    __m128d xc = kBig ? Min(x, Set<double>(kSquareEnd)) : x;
     __m128d d = Sub(xc, one);
     Pair w;
     if constexpr (L == Level::HA) {
@@ -58,9 +58,12 @@ BRENN_VEC Pair AcoshPairOf(__m128d x, __m128d& extra) {
     } else {
         w = OnePlus(Add(d, Sqrt(Mul(d, Add(xc, one)))));
     }
-    w.hi = IfThenElse(big, x, w.hi);
-    w.lo = IfThenZeroElse(big, w.lo);
-    extra = IfThenElseZero(big, one);
+    if constexpr (kBig) {
+        __m128d big = Gt(x, Set<double>(kSquareEnd));
+        w.hi = IfThenElse(big, x, w.hi);
+        w.lo = IfThenZeroElse(big, w.lo);
+        extra = IfThenElseZero(big, one);
+    }
     return w;
 }
 
@@ -115,21 +118,34 @@ BRENN_VEC V AcoshInput(V x, V& special) {
 
 // A double round of sixteen step by step over its eight registers (the roots, then the
 // logarithms), so that the square roots issue together and the logarithms' chains
-// overlap. Returns the special-lane bits.
-template <Level L>
-BRENN_VEC int AcoshRound(const __m128d* x, __m128d* y) {
+// overlap; without a lane above 2^28 (tested once a round), with none of their blends.
+// Returns the special-lane bits.
+template <Level L, bool kBig>
+BRENN_VEC void AcoshSteps(const __m128d* x, __m128d* y) {
     Pair w[8];
     __m128d extra[8];
-    int bits = 0;
+#pragma GCC unroll 8
+    for (int k = 0; k < 8; ++k)
+        w[k] = AcoshPairOf<L, kBig>(x[k], extra[k]);
+#pragma GCC unroll 8
+    for (int k = 0; k < 8; ++k)
+        y[k] = kBig ? LnOfPair<L>(w[k], extra[k]) : LnOfPair<L, false>(w[k], extra[k]);
+}
+template <Level L>
+BRENN_VEC int AcoshRound(const __m128d* x, __m128d* y) {
+    __m128d xs[8];
+    int bits = 0, big = 0;
 #pragma GCC unroll 8
     for (int k = 0; k < 8; ++k) {
         __m128d special;
-        w[k] = AcoshPairOf<L>(AcoshInput(x[k], special), extra[k]);
+        xs[k] = AcoshInput(x[k], special);
         bits |= MaskBits(special) << (2 * k);
+        big |= MaskBits(Gt(xs[k], Set<double>(kSquareEnd)));
     }
-#pragma GCC unroll 8
-    for (int k = 0; k < 8; ++k)
-        y[k] = LnOfPair<L>(w[k], extra[k]);
+    if (big)
+        AcoshSteps<L, true>(xs, y);
+    else
+        AcoshSteps<L, false>(xs, y);
     return bits;
 }
 

@@ -17,10 +17,10 @@ namespace brenn::vm {
 // HA adds the core's head and first-order term exactly before the small terms; LA and EP
 // add the small terms to the core's tail. With wh >= 1 the head is 0 or at least
 // ln(1 + 2^-9) (k >= 0, the rows' -ln(rcp) >= 0), above |r| <= 2^-10: the fast sum is exact.
-template <Level L>
+template <Level L, bool kExtra = true>
 BRENN_VEC __m128d LnOfScaled(__m128d wh, __m128d c, __m128d extra) {
     LnReduction red = LnReduce(wh);
-    red.k = Add(red.k, extra);
+    if constexpr (kExtra) red.k = Add(red.k, extra);
     __m128d h, r, t;
     LnCore3From<L>(red, h, r, t);
     if constexpr (L == Level::HA) {
@@ -32,10 +32,10 @@ BRENN_VEC __m128d LnOfScaled(__m128d wh, __m128d c, __m128d extra) {
     }
 }
 
-// ln(w.hi + w.lo) + extra*ln2.
-template <Level L>
+// ln(w.hi + w.lo) + extra*ln2 (without kExtra, extra is 0 and not read).
+template <Level L, bool kExtra = true>
 BRENN_VEC __m128d LnOfPair(const Pair& w, __m128d extra) {
-    return LnOfScaled<L>(w.hi, Div(w.lo, w.hi), extra);
+    return LnOfScaled<L, kExtra>(w.hi, Div(w.lo, w.hi), extra);
 }
 
 // 1 + u as a head and its exact rounding error (u >= 0).
