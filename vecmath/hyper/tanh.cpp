@@ -9,10 +9,9 @@
  * ((c3*a + c2)*a + c1)*a + c0, HA the row's quartic (rows of 64 bytes; the cubics' 0.94
  * ulp would not meet it) (row 0 has c0 = 0 and c1 = 1, so small arguments keep their
  * leading term exactly); EP the row's line c1*a + c0. x's sign is OR-ed back after the narrowing.
- * Double, a held at 22, where tanh is 1 to the last bit: LA and EP divide sinh by cosh
- * from the halves of e^a (hyper_core.h), the sums of the heads split exactly; HA takes
- * (E - 1)/(E + 1) from the one exponential E = e^(2a), the quotient corrected once, and
- * the Taylor series below 1/16.
+ * Double, a held at 22, where tanh is 1 to the last bit: (E - 1)/(E + 1) from the one
+ * exponential E = e^(2a) as a pair, the quotient corrected once at HA, and the Taylor
+ * series below 1/16; rounds of sixteen take each step over their eight registers.
  * Only exponents of all ones go to the scalar routine (1 with x's sign, or the NaN);
  * nothing is reported. */
 #include "frame/kernels.h"
@@ -70,23 +69,14 @@ inline __m128 TanhOf(__m128 x) {
 // Above this tanh is 1 in double.
 constexpr double kTanhOne = 22.0;
 
-// LA and EP: sinh/cosh from the halves of e^a with the tail of degree D, the heads' sums
-// split exactly (the error of A - B is what the quotient would amplify).
-template <ExpDegree D, class Series>
-BRENN_VEC __m128d TanhPath(__m128d x) {
-    __m128d a = Min(Abs(x), Set<double>(kTanhOne));
-    ExpHalves h = HalvesOf<D>(a);
-    __m128d y = Div(Sum(SinhOf<true, Series>(a, h)), Sum(CoshOf<true>(h)));
-    return Or(y, SignBit(x));
-}
-
-// HA: one exponential, E = e^(2a) = 2^m*T[j]*(1 + p(r)) by the table of 64 (exp_core.h,
+// One exponential, E = e^(2a) = 2^m*T[j]*(1 + p(r)) by the table of 64 (exp_core.h,
 // degree six), and tanh a = (E - 1)/(E + 1). E's head 2^m*Thi is exact and at least 1,
 // so its sums with -1 and +1 split exactly; the numerator is renormalised, since for
-// small m and j its head Thi - 1 and its tail are of one size. The quotient q of the
-// rounded sums is corrected once by the remainder N - q*D, whose product q*Dhi is taken
-// exactly from halves cut by a mask (26 and 27 bits times 26) and the rest of Dhi, and
-// rem/D by the single reciprocal estimate of Dhi (the correction is an ulp or two).
+// small m and j its head Thi - 1 and its tail are of one size. LA and EP take the
+// quotient of the rounded sums as it stands (within 2 ulp); HA corrects it once by the
+// remainder N - q*D, whose product q*Dhi is taken exactly from halves cut by a mask (26
+// and 27 bits times 26) and the rest of Dhi, and rem/D by the single reciprocal estimate
+// of Dhi (the correction is an ulp or two).
 // Below 1/16, where E - 1 would lose to cancellation what the roundings of r and of
 // Thi*p leave, the Taylor series of tanh to a^13 (the next term is 2^-65 of a).
 // In steps, so that a round can take each over all its registers: E, then the quotient,
@@ -109,6 +99,7 @@ BRENN_VEC Pair TanhExpStep(__m128d a) {
     e.lo = Mul(Add(Mul(th, p), tl), sc);
     return e;
 }
+template <bool kCorrect>
 BRENN_VEC __m128d TanhQuotientStep(const Pair& E) {
     const __m128d one = Set<double>(1.0);
     __m128d nh, nl, dh, dl, e;
@@ -116,6 +107,7 @@ BRENN_VEC __m128d TanhQuotientStep(const Pair& E) {
     FastTwoSum(nh, Add(e, E.lo), nh, nl);
     FastTwoSum(E.hi, one, dh, e);
     dl = Add(e, E.lo);
+    if constexpr (!kCorrect) return Div(Add(nh, nl), Add(dh, dl));
     __m128d q = Div(nh, Add(dh, dl));
     const __m128d cut = AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull));
     __m128d dhh = And(dh, cut), qh = And(q, cut);
@@ -135,19 +127,13 @@ BRENN_VEC __m128d TanhSeriesBlend(__m128d a, __m128d y) {
 }
 
 // One register: a register with only lanes below 1/16 skips the exponential.
-BRENN_VEC __m128d TanhHA(__m128d x) {
-    __m128d a = Min(Abs(x), Set<double>(kTanhOne));
-    __m128d y = a;
-    if (MaskBits(Lt(a, Set<double>(kTanhSmallEnd))) != 3) y = TanhQuotientStep(TanhExpStep(a));
-    return Or(TanhSeriesBlend(a, y), SignBit(x));
-}
-
 template <Level L>
 BRENN_VEC __m128d TanhOf(__m128d x) {
-    if constexpr (L == Level::HA)
-        return TanhHA(x);
-    else
-        return TanhPath<ExpDegree::Five, SinhSeriesLA>(x);
+    __m128d a = Min(Abs(x), Set<double>(kTanhOne));
+    __m128d y = a;
+    if (MaskBits(Lt(a, Set<double>(kTanhSmallEnd))) != 3)
+        y = TanhQuotientStep<L == Level::HA>(TanhExpStep(a));
+    return Or(TanhSeriesBlend(a, y), SignBit(x));
 }
 
 // A double round of sixteen step by step over its eight registers, x's special lanes
@@ -157,45 +143,22 @@ template <Level L>
 BRENN_VEC void TanhRound(const __m128d* x, __m128d* y) {
     __m128d a[8];
     int small = 0;
-    const double end = L == Level::HA ? kTanhSmallEnd : kSinhSeriesEnd;
 #pragma GCC unroll 8
     for (int k = 0; k < 8; ++k) {
         a[k] = Min(Abs(x[k]), Set<double>(kTanhOne));
-        small |= MaskBits(Lt(a[k], Set<double>(end)));
+        small |= MaskBits(Lt(a[k], Set<double>(kTanhSmallEnd)));
     }
-    if constexpr (L == Level::HA) {
-        Pair e[8];
+    Pair e[8];
+#pragma GCC unroll 8
+    for (int k = 0; k < 8; ++k)
+        e[k] = TanhExpStep(a[k]);
+#pragma GCC unroll 8
+    for (int k = 0; k < 8; ++k)
+        y[k] = TanhQuotientStep<L == Level::HA>(e[k]);
+    if (small) {
 #pragma GCC unroll 8
         for (int k = 0; k < 8; ++k)
-            e[k] = TanhExpStep(a[k]);
-#pragma GCC unroll 8
-        for (int k = 0; k < 8; ++k)
-            y[k] = TanhQuotientStep(e[k]);
-        if (small) {
-#pragma GCC unroll 8
-            for (int k = 0; k < 8; ++k)
-                y[k] = TanhSeriesBlend(a[k], y[k]);
-        }
-    } else {
-        HalvesState h[8];
-#pragma GCC unroll 8
-        for (int k = 0; k < 8; ++k)
-            HalfAStep<ExpDegree::Five>(a[k], h[k]);
-#pragma GCC unroll 8
-        for (int k = 0; k < 8; ++k)
-            HalfBStep(h[k]);
-        Pair n[8];
-#pragma GCC unroll 8
-        for (int k = 0; k < 8; ++k)
-            n[k] = SinhDiffOf<true>(h[k].h);
-        if (small) {
-#pragma GCC unroll 8
-            for (int k = 0; k < 8; ++k)
-                SinhSeriesBlend<SinhSeriesLA>(a[k], n[k]);
-        }
-#pragma GCC unroll 8
-        for (int k = 0; k < 8; ++k)
-            y[k] = Div(Sum(n[k]), Sum(CoshOf<true>(h[k].h)));
+            y[k] = TanhSeriesBlend(a[k], y[k]);
     }
 #pragma GCC unroll 8
     for (int k = 0; k < 8; ++k)
