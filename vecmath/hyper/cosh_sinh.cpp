@@ -121,6 +121,19 @@ BRENN_VEC __m128d HalvesPath(__m128d a) {
 // A of every register (its chains overlap), then B and the sums from A's parts where a
 // register has a lane below 21.49 (a few registers on ordinary inputs). Returns the
 // special-lane bits.
+// The registers of a round with a lane below 21.49 (bit pairs of `both`): B and the
+// sums, with A again, blended into y. Out of line: on ordinary inputs a few registers
+// take it, and the round's main steps keep the registers to themselves.
+template <Fn F, Level L>
+__attribute__((noinline)) void HalvesBoth(const __m128d* a, __m128d* y, int both) {
+    for (int k = 0; k < 8; ++k) {
+        const int b = (both >> (2 * k)) & 3;
+        if (!b) continue;
+        __m128d v = SumOfHalves<F, L>(a[k], HalvesOf<kHalvesDegree<L>>(a[k]));
+        y[k] = b == 3 ? v : IfThenElse(Lt(a[k], Set<double>(kOneExpEnough)), v, y[k]);
+    }
+}
+
 template <Fn F, Level L>
 BRENN_VEC int HalvesRound(const __m128d* x, __m128d* y) {
     __m128d a[8];
@@ -139,16 +152,7 @@ BRENN_VEC int HalvesRound(const __m128d* x, __m128d* y) {
 #pragma GCC unroll 8
     for (int k = 0; k < 8; ++k)
         y[k] = HalfExpFrom(s[k]);
-    if (both) {
-#pragma GCC unroll 8
-        for (int k = 0; k < 8; ++k) {
-            const int b = (both >> (2 * k)) & 3;
-            if (!b) continue;
-            HalfBStep(s[k]);
-            __m128d v = SumOfHalves<F, L>(a[k], s[k].h);
-            y[k] = b == 3 ? v : IfThenElse(Lt(a[k], Set<double>(kOneExpEnough)), v, y[k]);
-        }
-    }
+    if (both) HalvesBoth<F, L>(a, y, both);
     if constexpr (F == Fn::Sinh) {
 #pragma GCC unroll 8
         for (int k = 0; k < 8; ++k)
