@@ -117,42 +117,44 @@ BRENN_VEC __m128d HalvesPath(__m128d a) {
     return y;
 }
 
-// A double round of sixteen step by step over its eight registers: the range tests, then
-// A of every register (its chains overlap), then B and the sums from A's parts where a
-// register has a lane below 21.49 (a few registers on ordinary inputs). Returns the
-// special-lane bits.
-// The registers of a round with a lane below 21.49 (bit pairs of `both`): B and the
-// sums, with A again, blended into y. Out of line: on ordinary inputs a few registers
-// take it, and the round's main steps keep the registers to themselves.
+// The registers of a round with a lane below 21.49: B and the sums, with A again,
+// blended into y. Out of line: on ordinary inputs a few registers take it, and the
+// round's main steps keep the registers to themselves.
 template <Fn F, Level L>
-__attribute__((noinline)) void HalvesBoth(const __m128d* a, __m128d* y, int both) {
+__attribute__((noinline)) void HalvesBoth(const __m128d* a, __m128d* y) {
     for (int k = 0; k < 8; ++k) {
-        const int b = (both >> (2 * k)) & 3;
+        const __m128d lt = Lt(a[k], Set<double>(kOneExpEnough));
+        const int b = MaskBits(lt);
         if (!b) continue;
         __m128d v = SumOfHalves<F, L>(a[k], HalvesOf<kHalvesDegree<L>>(a[k]));
-        y[k] = b == 3 ? v : IfThenElse(Lt(a[k], Set<double>(kOneExpEnough)), v, y[k]);
+        y[k] = b == 3 ? v : IfThenElse(lt, v, y[k]);
     }
 }
 
+// A double round of sixteen step by step over its eight registers: the range tests, then
+// A of every register (its chains overlap), then, where the round's least |x| is below
+// 21.49, B and the sums in the registers that need them. Returns the special-lane bits.
 template <Fn F, Level L>
 BRENN_VEC int HalvesRound(const __m128d* x, __m128d* y) {
     __m128d a[8];
     HalvesState s[8];
-    int bits = 0, both = 0;
+    int bits = 0;
 #pragma GCC unroll 8
     for (int k = 0; k < 8; ++k) {
         __m128d special = RangeTest(x[k], CoshWindow<double>::kWindow);
         bits |= MaskBits(special) << (2 * k);
         a[k] = IfThenElse(special, Zero<double>(), Abs(x[k])); // special lanes run on 0
-        both |= MaskBits(Lt(a[k], Set<double>(kOneExpEnough))) << (2 * k);
     }
+    __m128d least = Min(Min(Min(a[0], a[1]), Min(a[2], a[3])),
+                        Min(Min(a[4], a[5]), Min(a[6], a[7])));
+    const int both = MaskBits(Lt(least, Set<double>(kOneExpEnough)));
 #pragma GCC unroll 8
     for (int k = 0; k < 8; ++k)
         HalfAStep<kHalvesDegree<L>>(a[k], s[k]);
 #pragma GCC unroll 8
     for (int k = 0; k < 8; ++k)
         y[k] = HalfExpFrom(s[k]);
-    if (both) HalvesBoth<F, L>(a, y, both);
+    if (both) HalvesBoth<F, L>(a, y);
     if constexpr (F == Fn::Sinh) {
 #pragma GCC unroll 8
         for (int k = 0; k < 8; ++k)
