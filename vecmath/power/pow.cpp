@@ -8,9 +8,13 @@
  * HA and LA split x on the single bits and run in double lanes: the cubic logarithm
  * from lnRows (HA with the rows' low parts), w in one double, e^w by the table of 1024
  * with 1 + u + u^2/2 (HA) or 1 + u (LA); single EP stays in single (pow_body.h).
+ * The double kernels are flattened: out of line the body was one call a register. Powx's
+ * double rounds of sixteen take each step over their eight registers (PowRound);
+ * Pow's frame takes two inputs a register and has no such round.
  * Measured (brenn_accuracy, full run): sPow HA 0.500 ulp, LA 1.41 ulp, EP 12.7 bits;
  * dPow HA and LA 0.55 ulp (a denormal result), EP 34.7 bits. */
 #include "frame/kernels.h"
+#include "vecmath/explog/flat.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/power/pow_body.h"
@@ -25,7 +29,7 @@ struct PowBody {
     using V = Vec<T>;
     static constexpr const char* kName =
         D == PowDomain::Real ? ZAR_ERROR_NAME_OF(T, Pow) : ZAR_ERROR_NAME_OF(T, Powr);
-    static V Eval(V a, V b, V& special) { return PowOf<L>(a, b, special); }
+    static BRENN_VEC V Eval(V a, V b, V& special) { return PowOf<L>(a, b, special); }
     static int Scalar(const T* a, const T* b, T* y) { return PowScalar<D>(*a, *b, y); }
 };
 
@@ -40,6 +44,8 @@ using PowrBody = PowBody<T, L, PowDomain::NonNegative>;
 using namespace brenn::vm;
 
 extern "C" {
-ZAR_ROW_KERNELS(Pow, Binary, PowRealBody)
-ZAR_ROW_KERNELS(Powr, Binary, PowrBody)
+ZAR_LEVEL_KERNELS(s, Pow, Binary, PowRealBody)
+BRENN_FLAT_LEVEL_KERNELS(d, Pow, Binary, PowRealBody)
+ZAR_LEVEL_KERNELS(s, Powr, Binary, PowrBody)
+BRENN_FLAT_LEVEL_KERNELS(d, Powr, Binary, PowrBody)
 }

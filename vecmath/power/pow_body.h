@@ -34,13 +34,6 @@ struct PowRanges<double> {
 // |w| above 708.39: e^w leaves the range of the table form's scaling.
 constexpr Range64 kPowW{0x7FFFFFFFFFFFFFFFull, 0ull, 0x4086232AFFFFFFFFull};
 
-// e^w of one register of double lanes, the lanes with w out of range marked and run on 0.
-template <ExpDegree D>
-inline __m128d PowExp(__m128d wh, __m128d wl, __m128d& special) {
-    special = RangeTest(wh, kPowW);
-    return ExpHiLo<D>(IfThenZeroElse(special, wh), IfThenZeroElse(special, wl));
-}
-
 // Single EP, all in single: ln x by the split around 2/3 and the seven-term Q of
 // ln(1 + r) = r + r^2*Q(r), k*ln2 in two parts; w = y*ln x, within 2^-16 of 1 for the
 // |w| that pass; e^w = 2^n * P(w - n*ln2) with the cubic P, 2^n put into the exponent
@@ -144,24 +137,54 @@ BRENN_VEC __m128 PowOf(__m128 x, __m128 y, __m128& special) {
     }
 }
 
-template <Level L>
-inline __m128d PowOf(__m128d x, __m128d y, __m128d& special) {
+// M registers of double lanes at once, each step over all of them before the next, so
+// that their chains overlap (one register's whole chain at a time leaves the processor
+// waiting on each step): the range tests, the reductions of x (their table rows), w,
+// the tests of w, then e^w. special[k] marks register k's lanes for the scalar routine.
+template <Level L, int M>
+BRENN_VEC void PowRound(const __m128d* x, const __m128d* y, __m128d* v, __m128d* special) {
     using R = PowRanges<double>;
-    __m128d sxy = Or(RangeTest(x, R::kX), RangeTest(y, R::kY));
-    x = IfThenElse(sxy, Set<double>(1.0), x);
-    y = IfThenZeroElse(sxy, y);
-    if constexpr (L == Level::EP) {
-        __m128d w = PowWEP(y, LnReduce(x));
-        __m128d sw = RangeTest(w, kPowW);
-        special = Or(sxy, sw);
-        return PowExpEP(IfThenZeroElse(sw, w));
-    } else {
-        __m128d wh, wl, sw;
-        PowW<L, false>(y, LnReduce(x), wh, wl);
-        __m128d v = PowExp<kPowExpDegree<L>>(wh, wl, sw);
-        special = Or(sxy, sw);
-        return v;
+    __m128d ys[M], wh[M], wl[M], sw[M];
+    LnReduction red[M];
+#pragma GCC unroll 8
+    for (int k = 0; k < M; ++k) {
+        special[k] = Or(RangeTest(x[k], R::kX), RangeTest(y[k], R::kY));
+        ys[k] = IfThenZeroElse(special[k], y[k]);
+        red[k] = LnReduce(IfThenElse(special[k], Set<double>(1.0), x[k]));
     }
+#pragma GCC unroll 8
+    for (int k = 0; k < M; ++k) {
+        if constexpr (L == Level::EP)
+            wh[k] = PowWEP(ys[k], red[k]);
+        else
+            PowW<L, false>(ys[k], red[k], wh[k], wl[k]);
+    }
+#pragma GCC unroll 8
+    for (int k = 0; k < M; ++k) {
+        sw[k] = RangeTest(wh[k], kPowW);
+        special[k] = Or(special[k], sw[k]);
+        wh[k] = IfThenZeroElse(sw[k], wh[k]);
+    }
+    if constexpr (L == Level::EP) {
+#pragma GCC unroll 8
+        for (int k = 0; k < M; ++k)
+            v[k] = PowExpEP(wh[k]);
+    } else {
+        __m128d t[M], r[M];
+#pragma GCC unroll 8
+        for (int k = 0; k < M; ++k)
+            r[k] = ExpReduce(wh[k], IfThenZeroElse(sw[k], wl[k]), t[k]);
+#pragma GCC unroll 8
+        for (int k = 0; k < M; ++k)
+            v[k] = ExpAssemble64<kPowExpDegree<L>>(t[k], r[k]);
+    }
+}
+
+template <Level L>
+BRENN_VEC __m128d PowOf(__m128d x, __m128d y, __m128d& special) {
+    __m128d v;
+    PowRound<L, 1>(&x, &y, &v, &special);
+    return v;
 }
 
 } // namespace brenn::vm

@@ -80,13 +80,31 @@ struct PowxBody {
     V bv;
     T b;
     V oddSign = Zero<T>();
-    V Eval(V x, V& special) const {
+    BRENN_VEC V Eval(V x, V& special) const {
         if constexpr (Integer)
             return Or(PowOf<L>(Abs(x), bv, special), And(x, oddSign));
         else
             return PowOf<L>(x, bv, special);
     }
     int Scalar(const T* a, T* y) const { return PowScalar<PowDomain::Real>(*a, b, y); }
+    // Double rounds of sixteen, each step over the round's eight registers (PowRound).
+    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
+    BRENN_VEC int EvalWide(const V* x, V* y) const {
+        V xs[8], bs[8], special[8];
+#pragma GCC unroll 8
+        for (int k = 0; k < 8; ++k) {
+            xs[k] = Integer ? Abs(x[k]) : x[k];
+            bs[k] = bv;
+        }
+        PowRound<L, 8>(xs, bs, y, special);
+        int bits = 0;
+#pragma GCC unroll 8
+        for (int k = 0; k < 8; ++k) {
+            if constexpr (Integer) y[k] = Or(y[k], And(x[k], oddSign));
+            bits |= MaskBits(special[k]) << (2 * k);
+        }
+        return bits;
+    }
 };
 
 // x^P by a fixed chain of products.
