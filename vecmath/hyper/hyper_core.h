@@ -69,13 +69,22 @@ BRENN_VEC void ExpPolyParts(__m128d r, __m128d& e, __m128d& o) {
 }
 
 // The reduction by ln2/64: t = a*64/ln2 + the shifter (n = rint(a*64/ln2) in its low
-// word), n, and the reduced argument r = a - n*ln2/64, returned.
+// word), n, and the reduced argument r = a - n*ln2/64, returned. The shifter raised by
+// 64*kOffset (an even integer of its binade) leaves n and the index bits as they are and
+// puts m + kOffset in the power bits of t (its low word shifted right by 6): with a
+// biased exponent there, 2^m or 2^(m-1) is one shift of t (PowerOf).
+template <int kOffset = 0>
 BRENN_VEC __m128d Reduce64(__m128d a, __m128d& t, __m128d& n) {
     using S = ExpStep64;
-    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    const __m128d shifter = Set<double>(Format<double>::kShifter + 64.0 * kOffset);
     t = Add(Mul(a, Set<double>(S::kInvStep)), shifter);
     n = Sub(t, shifter);
     return Sub(Sub(a, Mul(n, Set<double>(S::kStepHi))), Mul(n, Set<double>(S::kStepLo)));
+}
+
+// The power of two whose biased exponent is in the power bits of t.
+BRENN_VEC __m128d PowerOf(__m128d t) {
+    return AsFloat(ShiftLeft<Format<double>::kMantBits>(BitCast<I64x2>(ExpPower64(t))));
 }
 
 // The halves in two steps, so that a round can take each over all its registers and
@@ -90,10 +99,10 @@ struct HalvesState {
 template <ExpDegree D>
 BRENN_VEC void HalfAStep(__m128d a, HalvesState& s) {
     __m128d t;
-    __m128d r = Reduce64(a, t, s.n);
+    __m128d r = Reduce64<Format<double>::kBias - 1>(a, t, s.n);
     __m128d tl;
     ExpRows64(t, s.th, tl);
-    s.sa = HalfPower(ExpPower64(t));
+    s.sa = PowerOf(t);
     ExpPolyParts<D>(r, s.e, s.o);
     s.u = Add(Mul(s.th, Add(s.e, s.o)), tl);
 }

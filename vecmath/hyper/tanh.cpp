@@ -88,10 +88,10 @@ constexpr double kTanhTaylor[] = {-1.0 / 3,    2.0 / 15,         -17.0 / 315,
 // E = eh + el.
 BRENN_VEC Pair TanhExpStep(__m128d a) {
     __m128d t, n;
-    __m128d r = Reduce64(Add(a, a), t, n);
+    __m128d r = Reduce64<Format<double>::kBias>(Add(a, a), t, n);
     __m128d th, tl;
     ExpRows64(t, th, tl);
-    __m128d sc = ExpScale64(t);
+    __m128d sc = PowerOf(t);
     // The tail by Estrin's scheme: the body is bound by its chain, not by its operations.
     __m128d p = Add(r, Mul(Mul(r, r), Estrin(r, ExpTail<ExpDegree::Six>::kC)));
     Pair e;
