@@ -6,7 +6,8 @@
  * about 1.6 ulp) and EP (the seed alone) stay in single. Single denormals go to the
  * scalar routine, which runs the double form. The double rows take four terms (at HA
  * with the seed rounded so that its powers and products are exact; LA and EP round
- * them), in rounds of sixteen (wide.h). dCbrt's LA and EP slots share a kernel;
+ * them), in rounds of sixteen that take each step over their eight registers
+ * (RootRound). dCbrt's LA and EP slots share a kernel;
  * dInvCbrt has one kernel, at HA, for the three slots.
  *
  * Special lanes: zeros, infinities, NaN, and denormals. Cbrt gives +-0 and +-inf
@@ -103,7 +104,28 @@ struct RootBody {
     }
     static int Scalar(const T* a, T* y) { return RootScalar<R>(a, y); }
     static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
-    static int EvalWide(const V* x, V* y) { return EvalByRegister<RootBody>(x, y); }
+    // Double rounds of sixteen, each step over the round's eight registers (RootRound);
+    // special lanes run as they are, as in Eval.
+    static BRENN_VEC int EvalWide(const V* x, V* y) {
+        if constexpr (sizeof(T) == 8) {
+            V ax[8];
+            int bits = 0;
+#pragma GCC unroll 8
+            for (int k = 0; k < 8; ++k) {
+                bits |= MaskBits(RangeTest(x[k], RootRanges<T>::template kSpecial<L>)) << (2 * k);
+                ax[k] = Abs(x[k]);
+            }
+            RootRound<R, 4, L == Level::HA, 8>(ax, y);
+            if constexpr (R != Root::Pow2o3) {
+#pragma GCC unroll 8
+                for (int k = 0; k < 8; ++k)
+                    y[k] = Or(y[k], SignBit(x[k]));
+            }
+            return bits;
+        } else {
+            return EvalByRegister<RootBody>(x, y);
+        }
+    }
 };
 
 template <class T, Level L>

@@ -68,45 +68,68 @@ BRENN_VEC V RootFinish(V z, V bigM) {
 }
 
 // |x|^a for a = -1/3, 1/3, 2/3, positive normal double lanes; `Exact` for double HA.
-template <Root R, int Terms, bool Exact>
-inline __m128d RootOf(__m128d ax) {
+// M registers at once, each step over all of them before the next (the split, the
+// seeds, the series, the exponents), so that their chains overlap.
+template <Root R, int Terms, bool Exact, int M>
+BRENN_VEC void RootRound(const __m128d* ax, __m128d* v) {
     using F = Format<double>;
-    const I64x2 xi = AsInt(ax);
-    const I64x2 be = ShiftRight<F::kMantBits>(xi); // biased exponent, 1 to 2046
-    const I64x2 qb = ShiftRight<17>(MulLowWords(be, Set<int64_t>(0xAAAB)));
-    const I64x2 j = Sub(be, Add(qb, Add(qb, qb)));
-    const I64x2 mant = And(xi, Set<uint64_t>(F::kMant));
-    const __m128d m = AsFloat(Or(mant, Set<uint64_t>(F::kOne)));
-    const __m128d bigM = AsFloat(Or(mant, ShiftLeft<F::kMantBits>(Add(j, Set<int64_t>(F::kBias)))));
-    __m128d z = Mul(Horner(m, kRootSeed), RootScaleOf(j));
-    __m128d v;
-    if constexpr (Exact) {
-        // z cut to 15 bits: z^2 and z^3 are exact, and so are their products with mh (8
-        // bits); mh*z^3 - 1 is exact and ml*z^3 adds its rounding at 2^-61; the lead is
-        // mh*f exactly plus ml*f. The root is lead + (lead*e)*Q(e), lead*e beside Q.
-        static_assert(Terms == 4, "the HA series has four terms");
-        z = And(z, AsFloat(Set<uint64_t>(0xFFFFFFC000000000ull)));
-        const __m128d z2 = Mul(z, z);
-        const __m128d mh = And(bigM, AsFloat(Set<uint64_t>(0xFFFFE00000000000ull)));
-        const __m128d ml = Sub(bigM, mh);
-        // mh*z (23 bits) beside z^2, then their product: mh*z^3 one product sooner.
-        const __m128d e = Add(Sub(Mul(Mul(mh, z), z2), Set<double>(1.0)), Mul(Mul(ml, z), z2));
-        const __m128d q = Estrin(e, R == Root::Cbrt ? kTwoThirdsSeries : kThirdSeries);
-        if constexpr (R == Root::InvCbrt) {
-            v = Add(z, Mul(Mul(z, e), q));
-        } else {
-            const __m128d f = R == Root::Cbrt ? z2 : z;
-            const __m128d hi = Mul(mh, f), lo = Mul(ml, f);
-            v = Add(hi, Add(lo, Mul(Mul(Add(hi, lo), e), q)));
-        }
-    } else {
-        v = RootFinish<R, Terms>(z, bigM);
+    I64x2 qb[M];
+    __m128d m[M], bigM[M], z[M];
+#pragma GCC unroll 8
+    for (int k = 0; k < M; ++k) {
+        const I64x2 xi = AsInt(ax[k]);
+        const I64x2 be = ShiftRight<F::kMantBits>(xi); // biased exponent, 1 to 2046
+        qb[k] = ShiftRight<17>(MulLowWords(be, Set<int64_t>(0xAAAB)));
+        const I64x2 j = Sub(be, Add(qb[k], Add(qb[k], qb[k])));
+        const I64x2 mant = And(xi, Set<uint64_t>(F::kMant));
+        m[k] = AsFloat(Or(mant, Set<uint64_t>(F::kOne)));
+        bigM[k] = AsFloat(Or(mant, ShiftLeft<F::kMantBits>(Add(j, Set<int64_t>(F::kBias)))));
+        z[k] = RootScaleOf(j);
     }
-    // The exponent: 3q = be - 1023 - j, so q = qb - 341.
-    I64x2 q = Sub(qb, Set<int64_t>(F::kBias / 3));
-    if constexpr (R == Root::InvCbrt) q = Sub(Set<int64_t>(0), q);
-    if constexpr (R == Root::Pow2o3) q = Add(q, q);
-    return AsFloat(Add(AsInt(v), ShiftLeft<F::kMantBits>(q)));
+#pragma GCC unroll 8
+    for (int k = 0; k < M; ++k)
+        z[k] = Mul(Horner(m[k], kRootSeed), z[k]);
+#pragma GCC unroll 8
+    for (int k = 0; k < M; ++k) {
+        if constexpr (Exact) {
+            // z cut to 15 bits: z^2 and z^3 are exact, and so are their products with mh
+            // (8 bits); mh*z^3 - 1 is exact and ml*z^3 adds its rounding at 2^-61; the lead
+            // is mh*f exactly plus ml*f. The root is lead + (lead*e)*Q(e), lead*e beside Q.
+            static_assert(Terms == 4, "the HA series has four terms");
+            const __m128d zc = And(z[k], AsFloat(Set<uint64_t>(0xFFFFFFC000000000ull)));
+            const __m128d z2 = Mul(zc, zc);
+            const __m128d mh = And(bigM[k], AsFloat(Set<uint64_t>(0xFFFFE00000000000ull)));
+            const __m128d ml = Sub(bigM[k], mh);
+            // mh*z (23 bits) beside z^2, then their product: mh*z^3 one product sooner.
+            const __m128d e =
+                Add(Sub(Mul(Mul(mh, zc), z2), Set<double>(1.0)), Mul(Mul(ml, zc), z2));
+            const __m128d q = Estrin(e, R == Root::Cbrt ? kTwoThirdsSeries : kThirdSeries);
+            if constexpr (R == Root::InvCbrt) {
+                v[k] = Add(zc, Mul(Mul(zc, e), q));
+            } else {
+                const __m128d f = R == Root::Cbrt ? z2 : zc;
+                const __m128d hi = Mul(mh, f), lo = Mul(ml, f);
+                v[k] = Add(hi, Add(lo, Mul(Mul(Add(hi, lo), e), q)));
+            }
+        } else {
+            v[k] = RootFinish<R, Terms>(z[k], bigM[k]);
+        }
+    }
+#pragma GCC unroll 8
+    for (int k = 0; k < M; ++k) {
+        // The exponent: 3q = be - 1023 - j, so q = qb - 341.
+        I64x2 q = Sub(qb[k], Set<int64_t>(F::kBias / 3));
+        if constexpr (R == Root::InvCbrt) q = Sub(Set<int64_t>(0), q);
+        if constexpr (R == Root::Pow2o3) q = Add(q, q);
+        v[k] = AsFloat(Add(AsInt(v[k]), ShiftLeft<F::kMantBits>(q)));
+    }
+}
+
+template <Root R, int Terms, bool Exact>
+BRENN_VEC __m128d RootOf(__m128d ax) {
+    __m128d v;
+    RootRound<R, Terms, Exact, 1>(&ax, &v);
+    return v;
 }
 
 // The single-lane form, positive normal |x|, all in integer lanes up to the seed: the
