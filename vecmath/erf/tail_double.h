@@ -27,7 +27,6 @@
 
 #include "vecmath/erf/erf_tables.h"
 #include "vecmath/erf/grid_core.h"
-#include "vecmath/explog/wide.h"
 #include "vecmath/frame/status.h"
 #include "vecmath/frame/vec.h"
 
@@ -71,38 +70,56 @@ BRENN_VEC __m128d TailSeries(__m128d t, __m128d v) {
     return MulAdd(v, q, Mul(t, Estrin(t, S::kP0)));
 }
 
-// F at x (no NaN) on the grid G of grid_core.h, two parts (HA) or with the row's
-// remainder (LA).
+// F at the N registers x (no NaN) on the grid G of grid_core.h, two parts (HA) or with
+// the row's remainder (LA); each step over every register before the next (a round's
+// table loads together, its series' chains side by side).
+template <class G, class S, bool kTwoPart, int N>
+BRENN_VEC void TailGridRound(const __m128d* x, __m128d* y) {
+    __m128d mirror[N], xj[N], d[N], v[N], vlo[N], deriv[N], dl[N], s1[N];
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k) {
+        mirror[k] = G::kMirrorPositive ? Xor(x[k], SignMask<double>()) : x[k]; // sign bit
+        __m128d lim =
+            IfThenElse(mirror[k], Set<double>(G::kMirrorLimit), Set<double>(G::kLimit));
+        __m128d a = Max(Min(Abs(x[k]), lim), Set<double>(0x1p-256));
+        GridPoint p = NearestRow<G>(a);
+        xj[k] = p.xj;
+        d[k] = p.d;
+        LoadTransposed(p.r0, p.r1, v[k], vlo[k]);
+        LoadTransposed(p.r0 + 2, p.r1 + 2, deriv[k], dl[k]);
+        s1[k] = Mul(d[k], Add(xj[k], a)); // t, the series' variable
+    }
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k)
+        s1[k] = TailSeries<S>(s1[k], Mul(d[k], d[k]));
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k) {
+        __m128d flip = And(mirror[k], SignMask<double>());
+        __m128d kk = IfThenElse(mirror[k], Set<double>(G::kMirror), Zero<double>());
+        __m128d vs = Xor(v[k], flip);
+        __m128d r;
+        if constexpr (kTwoPart) {
+            __m128d dh = And(d[k], AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull)));
+            __m128d ph = Mul(deriv[k], dh);
+            __m128d pl = Add(Mul(deriv[k], Sub(d[k], dh)), Mul(dl[k], d[k]));
+            __m128d rest = Add(Mul(Add(ph, pl), s1[k]), pl);
+            __m128d hi, e1, sum, e2;
+            FastTwoSum(kk, vs, hi, e1);
+            FastTwoSum(hi, Xor(ph, flip), sum, e2);
+            r = Add(sum, Add(Add(e1, e2), Xor(Add(vlo[k], rest), flip)));
+        } else {
+            __m128d w = Mul(Add(deriv[k], dl[k]), d[k]);
+            r = Add(Add(kk, vs), Xor(Add(vlo[k], Add(w, Mul(w, s1[k]))), flip));
+        }
+        y[k] = Mul(r, IfThenElse(Lt(xj[k], Set<double>(G::kScaleFrom)), Set<double>(1.0),
+                                 Set<double>(0x1p-128)));
+    }
+}
 template <class G, class S, bool kTwoPart>
 BRENN_VEC __m128d TailGrid(__m128d x) {
-    __m128d mirror = G::kMirrorPositive ? Xor(x, SignMask<double>()) : x; // by the sign bit
-    __m128d lim = IfThenElse(mirror, Set<double>(G::kMirrorLimit), Set<double>(G::kLimit));
-    __m128d a = Max(Min(Abs(x), lim), Set<double>(0x1p-256));
-    GridPoint p = NearestRow<G>(a);
-    __m128d xj = p.xj, d = p.d;
-    __m128d v, vlo, deriv, dl;
-    LoadTransposed(p.r0, p.r1, v, vlo);
-    LoadTransposed(p.r0 + 2, p.r1 + 2, deriv, dl);
-    __m128d s1 = TailSeries<S>(Mul(d, Add(xj, a)), Mul(d, d));
-    __m128d flip = And(mirror, SignMask<double>());
-    __m128d k = IfThenElse(mirror, Set<double>(G::kMirror), Zero<double>());
-    __m128d vs = Xor(v, flip);
     __m128d y;
-    if constexpr (kTwoPart) {
-        __m128d dh = And(d, AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull)));
-        __m128d ph = Mul(deriv, dh);
-        __m128d pl = Add(Mul(deriv, Sub(d, dh)), Mul(dl, d));
-        __m128d rest = Add(Mul(Add(ph, pl), s1), pl);
-        __m128d hi, e1, sum, e2;
-        FastTwoSum(k, vs, hi, e1);
-        FastTwoSum(hi, Xor(ph, flip), sum, e2);
-        y = Add(sum, Add(Add(e1, e2), Xor(Add(vlo, rest), flip)));
-    } else {
-        __m128d w = Mul(Add(deriv, dl), d);
-        y = Add(Add(k, vs), Xor(Add(vlo, Add(w, Mul(w, s1))), flip));
-    }
-    return Mul(y, IfThenElse(Lt(xj, Set<double>(G::kScaleFrom)), Set<double>(1.0),
-                             Set<double>(0x1p-128)));
+    TailGridRound<G, S, kTwoPart, 1>(&x, &y);
+    return y;
 }
 
 // The body of a function Fn of tail_body.h (its grid, tail limit and side, window and
@@ -113,14 +130,29 @@ struct TailDoubleBody {
     using V = Vec<double>;
     static constexpr const char* kName = Fn::kNameD;
     static constexpr int kRound = 16;
-    [[gnu::flatten]] static int EvalWide(const V* x, V* y) {
-        return EvalByRegister<TailDoubleBody>(x, y);
-    }
-    static V Eval(V x, V& special) {
+    // The range tests of x: its special lanes, and x with the lanes beyond the grid's end
+    // (NaNs included) at 0.
+    BRENN_VEC static V Held(V x, V& special) {
         special = RangeTest(x, Fn::template Window<double>());
         V beyond = RangeTest(
             x, Range64{0x7FFFFFFFFFFFFFFFull, 0u, std::bit_cast<uint64_t>(Fn::kTailLimit)});
-        return TailGrid<typename Fn::Grid, S, kTwoPart>(IfThenElse(beyond, Zero<double>(), x));
+        return IfThenElse(beyond, Zero<double>(), x);
+    }
+    static int EvalWide(const V* x, V* y) {
+        constexpr int N = 8;
+        V xs[N];
+        int bits = 0;
+#pragma GCC unroll 8
+        for (int k = 0; k < N; ++k) {
+            V special;
+            xs[k] = Held(x[k], special);
+            bits |= MaskBits(special) << (2 * k);
+        }
+        TailGridRound<typename Fn::Grid, S, kTwoPart, N>(xs, y);
+        return bits;
+    }
+    static V Eval(V x, V& special) {
+        return TailGrid<typename Fn::Grid, S, kTwoPart>(Held(x, special));
     }
     static int Scalar(const double* a, double* y) {
         double x = *a;
