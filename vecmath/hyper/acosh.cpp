@@ -47,12 +47,16 @@ BRENN_VEC Pair AcoshPairOf(__m128d x, __m128d& extra) {
     __m128d d = Sub(xc, one);
     Pair w;
     if constexpr (L == Level::HA) {
-        // u^2 + v: (d, 2d) below 2, (x, -1) from 2 on, one square and one sum a lane.
+        // u^2 + v: (d, 2d) below 2, (x, -1) from 2 on, one square and one sum a lane,
+        // the larger of u^2 and v first (v below 2, u^2 from 2 on) for the fast sum.
         __m128d near = Lt(xc, Set<double>(2.0));
         __m128d u = IfThenElse(near, d, xc);
         __m128d v = IfThenElse(near, Add(d, d), Set<double>(-1.0));
-        Pair s = SqrtOfPair(SumOf(SquareOf(u), Pair{v, Zero<double>()}));
+        Pair p = SquareOf(u), q;
         __m128d e;
+        FastTwoSum(IfThenElse(near, v, p.hi), IfThenElse(near, p.hi, v), q.hi, e);
+        q.lo = Add(e, p.lo);
+        Pair s = SqrtOfPair(q);
         FastTwoSum(xc, s.hi, w.hi, e); // x is the larger
         w.lo = Add(e, s.lo);
     } else {

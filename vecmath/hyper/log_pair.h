@@ -52,8 +52,8 @@ BRENN_VEC void CutHalves(__m128d a, __m128d& hi, __m128d& lo) {
     lo = Sub(a, hi);
 }
 
-// sqrt(q.hi + q.lo) for q >= 0, q.hi in [2^-120, 2^120] or 0: the root s of the head,
-// corrected once by the remainder q - s^2 over the estimate of 2s; 0 for q = 0. With s
+// sqrt(q.hi + q.lo) for q >= 0, q.hi in [2^-120, 2^120] or q = 0: the root s of the
+// head, corrected once by the remainder q - s^2 over the estimate of 2s; 0 for q = 0. With s
 // cut, s = sh + sl: sh^2 is exact, q.hi - sh^2 exact (Sterbenz), sl*(sh + s) is
 // 2 sh*sl + sl^2 within 2^-52 of itself, about 2^-77 q, and the difference of the two,
 // far below either, exact.
@@ -63,8 +63,8 @@ BRENN_VEC Pair SqrtOfPair(const Pair& q) {
     __m128d sh, sl;
     CutHalves(s.hi, sh, sl);
     __m128d rem = Add(Sub(Sub(q.hi, Mul(sh, sh)), Mul(sl, Add(sh, s.hi))), q.lo);
-    __m128d lo = Mul(rem, RecipEstimate(Add(s.hi, s.hi)));
-    s.lo = IfThenElseZero(Gt(q.hi, Zero<double>()), lo);
+    // 2s held at 2^-100 and up: for q = 0 the remainder is 0 and the estimate finite.
+    s.lo = Mul(rem, RecipEstimate(Max(Add(s.hi, s.hi), Set<double>(0x1p-100))));
     return s;
 }
 
