@@ -188,6 +188,13 @@ BRENN_VEC Pair SinhOf(__m128d a, const ExpHalves& h) {
     return s;
 }
 
+// a cut to its high 26 bits (a mask of the low 27) and the rest, both exact: products
+// of two high parts are exact.
+BRENN_VEC void CutHalves(__m128d a, __m128d& hi, __m128d& lo) {
+    hi = And(a, AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull)));
+    lo = Sub(a, hi);
+}
+
 BRENN_VEC __m128d Sum(const Pair& p) {
     return Add(p.hi, p.lo);
 }

@@ -45,13 +45,6 @@ BRENN_VEC Pair OnePlus(__m128d u) {
     return w;
 }
 
-// a cut to its high 26 bits (a mask of the low 27) and the rest, both exact: products
-// of two high parts are exact.
-BRENN_VEC void CutHalves(__m128d a, __m128d& hi, __m128d& lo) {
-    hi = And(a, AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull)));
-    lo = Sub(a, hi);
-}
-
 // sqrt(q.hi + q.lo) for q >= 0, q.hi in [2^-120, 2^120] or q = 0: the root s of the
 // head, corrected once by the remainder q - s^2 over the estimate of 2s; 0 for q = 0. With s
 // cut, s = sh + sl: sh^2 is exact, q.hi - sh^2 exact (Sterbenz), sl*(sh + s) is

@@ -109,9 +109,10 @@ BRENN_VEC __m128d TanhQuotientStep(const Pair& E) {
     dl = Add(e, E.lo);
     if constexpr (!kCorrect) return Div(Add(nh, nl), Add(dh, dl));
     __m128d q = Div(nh, Add(dh, dl));
-    const __m128d cut = AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull));
-    __m128d dhh = And(dh, cut), qh = And(q, cut);
-    __m128d rem = Sub(Sub(Sub(nh, Mul(qh, dhh)), Mul(Sub(q, qh), dhh)), Mul(q, Sub(dh, dhh)));
+    __m128d dhh, dhl, qh, ql;
+    CutHalves(dh, dhh, dhl);
+    CutHalves(q, qh, ql);
+    __m128d rem = Sub(Sub(Sub(nh, Mul(qh, dhh)), Mul(ql, dhh)), Mul(q, dhl));
     rem = Add(rem, Sub(nl, Mul(q, dl)));
     return Add(q, Mul(rem, RecipEstimate(dh)));
 }
