@@ -139,16 +139,16 @@ BRENN_VEC __m128d TanhOf(__m128d x) {
 
 // A double round of sixteen step by step over its eight registers, x's special lanes
 // already 0: the exponentials, then the quotients, then the series where a register
-// has a small lane (its test once a round).
+// has a small lane (its test once a round, on the round's least |x|).
 template <Level L>
 BRENN_VEC void TanhRound(const __m128d* x, __m128d* y) {
     __m128d a[8];
-    int small = 0;
 #pragma GCC unroll 8
-    for (int k = 0; k < 8; ++k) {
+    for (int k = 0; k < 8; ++k)
         a[k] = Min(Abs(x[k]), Set<double>(kTanhOne));
-        small |= MaskBits(Lt(a[k], Set<double>(kTanhSmallEnd)));
-    }
+    __m128d least = Min(Min(Min(a[0], a[1]), Min(a[2], a[3])),
+                        Min(Min(a[4], a[5]), Min(a[6], a[7])));
+    const int small = MaskBits(Lt(least, Set<double>(kTanhSmallEnd)));
     Pair e[8];
 #pragma GCC unroll 8
     for (int k = 0; k < 8; ++k)
