@@ -38,10 +38,12 @@ BRENN_VEC __m128d LnOfPair(const Pair& w, __m128d extra) {
     return LnOfScaled<L, kExtra>(w.hi, Div(w.lo, w.hi), extra);
 }
 
-// 1 + u as a head and its exact rounding error (u >= 0).
+// 1 + u as a head and its exact rounding error (u >= 0): the fast sum with the larger
+// of the two first.
 BRENN_VEC Pair OnePlus(__m128d u) {
+    const __m128d one = Set<double>(1.0);
     Pair w;
-    TwoSum(Set<double>(1.0), u, w.hi, w.lo);
+    FastTwoSum(Max(u, one), Min(u, one), w.hi, w.lo);
     return w;
 }
 
