@@ -9,7 +9,7 @@
  * single arithmetic with the leading sum split exactly (HyperSingleHA below).
  * Double: the halves of e^a from the exponential's table of 64 (hyper_core.h); HA sums the
  * heads exactly.
- * Range test on |x|: from 87.3365 (single) or 708 (double) up, and infinities and NaN, to
+ * Range test on |x|: from 87.3365 (single) or 710.4702 (double) up, and infinities and NaN, to
  * the scalar routine (hyper_scalar.h), which settles overflow with status 3.
  *
  * Measured (brenn_accuracy): see the rows' lines in docs/accuracy.md. */
@@ -35,7 +35,9 @@ struct CoshWindow<float> {
 };
 template <>
 struct CoshWindow<double> {
-    static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x40861FFFu}; // |x| >= 708, high word
+    // |x| >= 710.4702 (high word): below it n = rint(|x|*64/ln2) is at most 64*1024 + 63,
+    // so that A's power 2^(m-1) is at most 2^1023, and A below the largest double.
+    static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x408633C2u};
 };
 
 // The single both-exponentials body's constants: log2(e), ln 2 in two parts.
@@ -86,7 +88,7 @@ inline __m128 BothExps(__m128 a) {
         return Add(m, Add(Mul(c, m), Mul(p, s)));
 }
 
-// The double path on a = |x| in [0, 708]: HA exact sums, HA and LA the degree-5 tail
+// The double path on a = |x| in [0, 710.4702]: HA exact sums, HA and LA the degree-5 tail
 // (its 2^-51.25 relative to e^r - 1 is below 2^-58 of e^r), EP the degree 4 (Sinh's EP
 // is its LA kernel). From 21.49 on, where e^-a is below the last bit of e^a (as in the
 // scalar routine), a lane takes A = e^a/2 alone: B and the sums run only in a register

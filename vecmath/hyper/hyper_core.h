@@ -42,7 +42,7 @@ struct ExpHalves {
     __m128d ah, al, bh, bl;
 };
 
-// 2^(m-1) for the integer m in each lane's low word, |m - 1| <= 1022.
+// 2^(m-1) for the integer m in each lane's low word, -1022 <= m - 1 <= 1023.
 BRENN_VEC __m128d HalfPower(I32x4 m) {
     I32x4 e = Add(m, Set<int32_t>(Format<double>::kBias - 1));
     return AsFloat(ShiftLeft<Format<double>::kMantBits>(BitCast<I64x2>(e)));
@@ -106,7 +106,7 @@ BRENN_VEC void HalfAStep(__m128d a, HalvesState& s) {
     ExpPolyParts<D>(r, s.e, s.o);
     s.u = Add(Mul(s.th, Add(s.e, s.o)), tl);
 }
-// A alone, e^a/2 for a in [0, 708], where B is below A's last bit.
+// A alone, e^a/2 for a in [0, 710.4702], where B is below A's last bit.
 BRENN_VEC __m128d HalfExpFrom(const HalvesState& s) {
     return Mul(Add(s.th, s.u), s.sa);
 }
@@ -124,7 +124,7 @@ BRENN_VEC void HalfBStep(HalvesState& s) {
     s.h.bl = Mul(Add(Mul(uh, Sub(s.e, s.o)), ul), sb);
 }
 
-// A and B of a in [0, 708].
+// A and B of a in [0, 710.4702].
 template <ExpDegree D>
 BRENN_VEC ExpHalves HalvesOf(__m128d a) {
     HalvesState s;
