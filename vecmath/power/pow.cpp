@@ -2,7 +2,7 @@
  * scalar routine of pow_scalar.h; Powr differs only in its scalar routine's domain.
  *
  * Double LA and HA carry ln x in two parts and w = y*ln x as an exact product plus its
- * tail, then e^w by the table of 64 with a degree-5 (LA) or degree-6 (HA) polynomial;
+ * tail, then e^w by the table of 256 with a degree-4 polynomial (exp_core256.h, LA as HA);
  * double EP takes ln x in one double (r rounded once, the Taylor quartic, heads only)
  * and the Taylor cubic of the exponential (pow_core.h PowWEP, PowExpEP). Single
  * HA and LA split x on the single bits and run in double lanes: the cubic logarithm

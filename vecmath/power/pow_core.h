@@ -6,8 +6,9 @@
  * kept as rh + rl, r - r^2/2 formed exactly and only r^3*P(r) rounded: ln x = hi + lo
  * within about 2^-66 relative, so that y*hi (an exact product) plus y*lo keeps w to
  * about 2^-60 of |w| even for |y| up to 2^900 and results near the overflow and
- * underflow thresholds. e^w uses the reduction of the table of 64 (exp_core.h) on the
- * head, the tail added to the reduced argument.
+ * underflow thresholds. e^w uses the reduction of the table of 256 (exp_core256.h) on
+ * the head, the tail added to the reduced argument; the scalar routines, whose results
+ * may be denormal, that of the table of 64 (exp_core.h) with degree 6.
  * The single scalar routine needs less: w = y * ln x in one double, with the degree-5
  * logarithm of the double core (the single vector kernels have their own, shorter form
  * in pow_body.h); double EP has a short form of its own (PowWEP, PowExpEP: about 33
@@ -16,6 +17,7 @@
 #define BRENN_VECMATH_POWER_POW_CORE_H
 
 #include "vecmath/explog/exp_core.h"
+#include "vecmath/explog/exp_core256.h"
 #include "vecmath/explog/log_core.h"
 #include "vecmath/frame/level.h"
 
@@ -26,6 +28,18 @@ namespace brenn::vm {
 constexpr double kPowLogTail[] = {0x1.5555555555431p-2, -0x1.ffffffffffd25p-3, 0x1.9999abe21c45p-3,
                                   -0x1.555566794caa5p-3};
 
+// a*b = hi + lo in double lanes, each factor cut by a mask into its leading 26 bits and
+// the rest (27 bits, the same sign): two operations a factor, where the splitter takes
+// four, and no head room needed. ah*bh, ah*bl and al*bh are exact; al*bl (54 bits) and
+// the sum of the cross products may round, within about 2^-78 of a*b as TwoProduct.
+BRENN_VEC void TwoProductCut(__m128d a, __m128d b, __m128d& hi, __m128d& lo) {
+    const __m128d head = SplatBits<double>(0xFFFFFFFFF8000000ull);
+    __m128d ah = And(a, head), bh = And(b, head);
+    __m128d al = Sub(a, ah), bl = Sub(b, bh);
+    hi = Mul(a, b);
+    lo = Add(Add(Sub(Mul(ah, bh), hi), Add(Mul(ah, bl), Mul(al, bh))), Mul(al, bl));
+}
+
 // ln x = hi + lo from the reduction of the logarithm core (whose k the scalar routine
 // may have moved for a scaled denormal).
 inline void LnHiLo(const LnReduction& red, __m128d& hi, __m128d& lo) {
@@ -34,13 +48,13 @@ inline void LnHiLo(const LnReduction& red, __m128d& hi, __m128d& lo) {
     // r = rh + rl: mh*rcp - 1 is exact (mh has 10 bits, rcp 43), ml*rcp exact in two parts.
     __m128d d = Sub(Mul(red.mh, red.rcp), one);
     __m128d ph, pl;
-    TwoProduct(red.ml, red.rcp, ph, pl);
+    TwoProductCut(red.ml, red.rcp, ph, pl);
     __m128d rh, re;
     TwoSum(d, ph, rh, re);
     __m128d rl = Add(re, pl);
     // rh^2 = sh + sl; -r^2/2 = -(sh + sl)/2 - rh*rl to the bits that matter.
     __m128d sh, sl;
-    TwoProduct(rh, rh, sh, sl);
+    TwoProductCut(rh, rh, sh, sl);
     const __m128d half = Set<double>(-0.5);
     // The exact head k*ln2hi + th, then rh and -sh/2 added with their errors kept.
     __m128d a = Add(Mul(red.k, Set<double>(K::kLn2Hi)), red.th);
@@ -65,12 +79,23 @@ inline __m128d ExpReduce(__m128d wh, __m128d wl, __m128d& t) {
     return Add(r, wl);
 }
 
-// e^(wh + wl) for |wh| <= 708.39 (the result normal).
-template <ExpDegree D>
-inline __m128d ExpHiLo(__m128d wh, __m128d wl) {
-    __m128d t;
-    __m128d r = ExpReduce(wh, wl, t);
-    return ExpAssemble64<D>(t, r);
+// e^(wh + wl) for the vector kernels, |wh| <= 708.39 (the result normal), by the table
+// of 256 (exp_core256.h): t = wh*256/ln2 + shifter, r = (wh - n*ln2/256) + wl with the
+// head of ln2/256 of 31 bits (n*head exact), p(r) of degree 4 (2^-57 relative on
+// |r| <= ln2/512: two products and two sums fewer than degree 6 over the table of 64),
+// and 2^m*(Thi + (Thi*p + Tlo)), m = n >> 8.
+BRENN_VEC __m128d ExpReduce256(__m128d wh, __m128d wl, __m128d& t) {
+    using S = ExpStep256;
+    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    t = Add(Mul(wh, Set<double>(S::kInvStep)), shifter);
+    __m128d n = Sub(t, shifter);
+    __m128d r = Sub(Sub(wh, Mul(n, Set<double>(S::kStepHi))), Mul(n, Set<double>(S::kStepLo)));
+    return Add(r, wl);
+}
+BRENN_VEC __m128d ExpAssemble256(__m128d t, __m128d r) {
+    __m128d p = Add(r, Mul(Mul(r, r), Horner(r, ExpStep256::kC)));
+    I32x4 e = Add(ShiftRightSigned<8>(BitCast<I32x4>(t)), Set<int32_t>(Format<double>::kBias));
+    return Mul(ExpJoin256(t, p), AsFloat(ShiftLeft<Format<double>::kMantBits>(BitCast<I64x2>(e))));
 }
 
 // 2^m for |m| <= 1022 in the low words of m.
@@ -138,15 +163,11 @@ inline void PowW(__m128d y, const LnReduction& red, __m128d& wh, __m128d& wl) {
     } else {
         __m128d hi, lo, ph, pl;
         LnHiLo(red, hi, lo);
-        TwoProduct(y, hi, ph, pl);
+        TwoProductCut(y, hi, ph, pl);
         wh = ph;
         wl = Add(pl, Mul(y, lo));
     }
 }
-
-// The degree of e^r beyond r that a double level's w needs.
-template <Level L>
-constexpr ExpDegree kPowExpDegree = L == Level::HA ? ExpDegree::Six : ExpDegree::Five;
 
 // |x|^y in double for the scalar routines: x positive and finite (denormals included),
 // y finite and not zero; the value rounded once, overflow to +inf and underflow to zero
