@@ -112,6 +112,8 @@ TEST(Hyper, ValuesWhereThePathsMeet) {
                           708.0,
                           709.5,
                           710.0,
+                          710.4702148437499,
+                          710.47021484375,
                           710.4758600739435};
     for (Fn f : {Fn::Cosh, Fn::Sinh, Fn::Tanh})
         for (int slot : kSlots) {
