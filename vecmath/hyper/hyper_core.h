@@ -2,9 +2,9 @@
  * halves A = e^a/2 and B = e^-a/2 from one reduction by ln2/64 with the exponential's
  * table of 64 (exp_core.h): n = rint(a*64/ln2) = 64*m + j gives A = 2^(m-1)*T[j]*(1 + p(r))
  * and -n = 64*m' + j' gives B = 2^(m'-1)*T[j']*(1 + p(-r)), each as a head (the scaled
- * table value, exact) and a tail. Cosh is A + B, Sinh A - B, and Tanh their quotient.
- * Below 1/2 Sinh (and the numerator of Tanh) take the odd series instead, since A - B
- * cancels there. */
+ * table value, exact) and a tail. Cosh is A + B and Sinh A - B; below 1/2 Sinh takes
+ * the odd series instead, since A - B cancels there. Tanh takes the reduction and the
+ * table alone, for its one exponential e^(2a). */
 #ifndef BRENN_VECMATH_HYPER_HYPER_CORE_H
 #define BRENN_VECMATH_HYPER_HYPER_CORE_H
 
@@ -154,9 +154,10 @@ BRENN_VEC Pair CoshOf(const ExpHalves& h) {
     return c;
 }
 
-// A - B as a head and a tail. With `exact`, as CoshOf.
-template <bool exact>
-BRENN_VEC Pair SinhDiffOf(const ExpHalves& h) {
+// sinh a for a >= 0: the series below 1/2, A - B above, as a head and a tail. The series
+// runs only in a register that has a lane below 1/2.
+template <bool exact, class Series>
+BRENN_VEC Pair SinhOf(__m128d a, const ExpHalves& h) {
     Pair s;
     if constexpr (exact) {
         __m128d e;
@@ -166,25 +167,11 @@ BRENN_VEC Pair SinhDiffOf(const ExpHalves& h) {
         s.hi = Sub(h.ah, h.bh);
         s.lo = Sub(h.al, h.bl);
     }
-    return s;
-}
-
-// The lanes of s where a is below 1/2 replaced by the series (a head and its tail),
-// computed only in a register that has such a lane.
-template <class Series>
-BRENN_VEC void SinhSeriesBlend(__m128d a, Pair& s) {
     __m128d small = Lt(a, Set<double>(kSinhSeriesEnd));
     if (MaskBits(small)) {
         s.hi = IfThenElse(small, a, s.hi);
         s.lo = IfThenElse(small, SinhSeriesTail<Series>(a), s.lo);
     }
-}
-
-// sinh a for a >= 0: the series below 1/2, A - B above, as a head and a tail.
-template <bool exact, class Series>
-BRENN_VEC Pair SinhOf(__m128d a, const ExpHalves& h) {
-    Pair s = SinhDiffOf<exact>(h);
-    SinhSeriesBlend<Series>(a, s);
     return s;
 }
 
