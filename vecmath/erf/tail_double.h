@@ -75,43 +75,50 @@ BRENN_VEC __m128d TailSeries(__m128d t, __m128d v) {
 // table loads together, its series' chains side by side).
 template <class G, class S, bool kTwoPart, int N>
 BRENN_VEC void TailGridRound(const __m128d* x, __m128d* y) {
-    __m128d mirror[N], xj[N], d[N], v[N], vlo[N], deriv[N], dl[N], s1[N];
+    // Carried between the steps: the shifted sums (the row index and xj), d and the series;
+    // the rest is read or made again where it is used.
+    __m128d sh[N], d[N], s1[N];
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k) {
-        mirror[k] = G::kMirrorPositive ? Xor(x[k], SignMask<double>()) : x[k]; // sign bit
-        __m128d lim =
-            IfThenElse(mirror[k], Set<double>(G::kMirrorLimit), Set<double>(G::kLimit));
+        __m128d mirror = G::kMirrorPositive ? Xor(x[k], SignMask<double>()) : x[k];
+        __m128d lim = IfThenElse(mirror, Set<double>(G::kMirrorLimit), Set<double>(G::kLimit));
         __m128d a = Max(Min(Abs(x[k]), lim), Set<double>(0x1p-256));
-        GridPoint p = NearestRow<G>(a);
-        xj[k] = p.xj;
-        d[k] = p.d;
-        LoadTransposed(p.r0, p.r1, v[k], vlo[k]);
-        LoadTransposed(p.r0 + 2, p.r1 + 2, deriv[k], dl[k]);
-        s1[k] = Mul(d[k], Add(xj[k], a)); // t, the series' variable
+        sh[k] = Add(a, Set<double>(G::kShifter));
+        __m128d xj = Sub(sh[k], Set<double>(G::kShifter));
+        d[k] = Sub(a, xj);
+        s1[k] = Mul(d[k], Add(xj, a)); // t, the series' variable
     }
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k)
         s1[k] = TailSeries<S>(s1[k], Mul(d[k], d[k]));
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k) {
-        __m128d flip = And(mirror[k], SignMask<double>());
-        __m128d kk = IfThenElse(mirror[k], Set<double>(G::kMirror), Zero<double>());
-        __m128d vs = Xor(v[k], flip);
+        __m128d mirror = G::kMirrorPositive ? Xor(x[k], SignMask<double>()) : x[k]; // sign bit
+        I64x2 row = AsInt(sh[k]);
+        const double* r0 = G::kRows[LowWord<0>(row)];
+        const double* r1 = G::kRows[LowWord<1>(row)];
+        __m128d v, vlo, deriv, dl;
+        LoadTransposed(r0, r1, v, vlo);
+        LoadTransposed(r0 + 2, r1 + 2, deriv, dl);
+        __m128d flip = And(mirror, SignMask<double>());
+        __m128d kk = IfThenElse(mirror, Set<double>(G::kMirror), Zero<double>());
+        __m128d vs = Xor(v, flip);
         __m128d r;
         if constexpr (kTwoPart) {
             __m128d dh = And(d[k], AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull)));
-            __m128d ph = Mul(deriv[k], dh);
-            __m128d pl = Add(Mul(deriv[k], Sub(d[k], dh)), Mul(dl[k], d[k]));
+            __m128d ph = Mul(deriv, dh);
+            __m128d pl = Add(Mul(deriv, Sub(d[k], dh)), Mul(dl, d[k]));
             __m128d rest = Add(Mul(Add(ph, pl), s1[k]), pl);
             __m128d hi, e1, sum, e2;
             FastTwoSum(kk, vs, hi, e1);
             FastTwoSum(hi, Xor(ph, flip), sum, e2);
-            r = Add(sum, Add(Add(e1, e2), Xor(Add(vlo[k], rest), flip)));
+            r = Add(sum, Add(Add(e1, e2), Xor(Add(vlo, rest), flip)));
         } else {
-            __m128d w = Mul(Add(deriv[k], dl[k]), d[k]);
-            r = Add(Add(kk, vs), Xor(Add(vlo[k], Add(w, Mul(w, s1[k]))), flip));
+            __m128d w = Mul(Add(deriv, dl), d[k]);
+            r = Add(Add(kk, vs), Xor(Add(vlo, Add(w, Mul(w, s1[k]))), flip));
         }
-        y[k] = Mul(r, IfThenElse(Lt(xj[k], Set<double>(G::kScaleFrom)), Set<double>(1.0),
+        __m128d xj = Sub(sh[k], Set<double>(G::kShifter));
+        y[k] = Mul(r, IfThenElse(Lt(xj, Set<double>(G::kScaleFrom)), Set<double>(1.0),
                                  Set<double>(0x1p-128)));
     }
 }
