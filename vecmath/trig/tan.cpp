@@ -235,8 +235,8 @@ inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
 // ah rh alone is rounded, below 2^-59 of the denominator). The numerator's head sum is exact too, and
 // near the zeros and the poles of tan (j = 0) it is t itself, so the result keeps the
 // remainder's full precision there. The quotient is the product by the rounded
-// reciprocal of the bottom's head, corrected once by its residual (the product of the
-// quotient and that head carried exactly).
+// reciprocal of the bottom's head, cut to 26 bits, plus the residual (the top less that
+// head times the bottom, its large products exact) times the reciprocal.
 // tan r - r over r^3, in u = r^2: the terms after the last are below 2^-60 of r.
 constexpr double kTanTaylor[] = {1.0 / 3, 2.0 / 15, 17.0 / 315, 62.0 / 2835};
 constexpr uint64_t kHead26 = 0xFFFFFFFFF8000000ull; // keeps 26 significant bits
@@ -278,16 +278,16 @@ BRENN_TRIG_HOT void TanSums(const int32_t* J, const __m128d* rh, const __m128d* 
         bl[k] = IfThenElse(odd[k], nl[k], dl[k]);
     }
     BRENN_EACH(k, M) rb[k] = Div(Set<double>(1), bh[k]);
-    BRENN_EACH(k, M) q[k] = Mul(th[k], rb[k]);
-    // q bh = p + pe exactly, from the 26-bit heads of both factors.
+    // The quotient's head cut to 26 bits, qh, and the bottom's, bhh: th - qh bhh is exact
+    // (qh bhh has 52 bits and lies within about 2^-24 of th), and so is qh times the rest
+    // of bh (53 bits); what is left of the top, about 2^-25 of th, is divided by the
+    // reciprocal: y = qh + e/b, rounded once at the end.
     const __m128d head = SplatBits<double>(kHead26);
+    BRENN_EACH(k, M) q[k] = And(Mul(th[k], rb[k]), head);
     BRENN_EACH(k, M) {
-        __m128d qh = And(q[k], head), bhh = And(bh[k], head);
-        __m128d ql = Sub(q[k], qh), bhl = Sub(bh[k], bhh);
-        __m128d p = Mul(q[k], bh[k]);
-        __m128d pe =
-            Add(Add(Sub(Mul(qh, bhh), p), Add(Mul(qh, bhl), Mul(ql, bhh))), Mul(ql, bhl));
-        __m128d e = Add(Sub(Sub(th[k], p), pe), Sub(tl[k], Mul(q[k], bl[k])));
+        __m128d bhh = And(bh[k], head);
+        __m128d e = Sub(Sub(th[k], Mul(q[k], bhh)), Mul(q[k], Sub(bh[k], bhh)));
+        e = Add(e, Sub(tl[k], Mul(q[k], bl[k])));
         y[k] = Xor(Add(q[k], Mul(e, rb[k])), And(odd[k], SignMask<double>()));
     }
 }
