@@ -120,72 +120,86 @@ BRENN_VEC GridPoint NearestRow(__m128d a) {
 template <class G, SeriesCut C, GridSum Sum, int N>
 BRENN_VEC void GridEvalRound(const __m128d* x, __m128d* y) {
     constexpr size_t W = sizeof(G::kRows[0]) / sizeof(double);
-    __m128d a[N], mirror[N], xj[N], d[N], v[N], vlo[N], deriv[N], dl[N], tiny[N], s1[N];
-#pragma GCC unroll 8
-    for (int k = 0; k < N; ++k) {
+    // Carried between the steps: the shifted sums (the row index and xj), d, and tau and u
+    // (then the series); the rest is read or made again where it is used.
+    __m128d sh[N], d[N], s1[N], u[N];
+    // a = min(|x|, the side's limit), and whether x's side is mirrored.
+    auto held = [](__m128d xk, __m128d& mirror) {
         __m128d lim = Set<double>(G::kLimit);
-        mirror[k] = Zero<double>();
+        mirror = Zero<double>();
         if constexpr (G::kMirror != 0) {
-            mirror[k] = G::kMirrorPositive ? Xor(x[k], SignMask<double>()) : x[k]; // sign bit
-            lim = IfThenElse(mirror[k], Set<double>(G::kMirrorLimit), lim);
+            mirror = G::kMirrorPositive ? Xor(xk, SignMask<double>()) : xk; // by the sign bit
+            lim = IfThenElse(mirror, Set<double>(G::kMirrorLimit), lim);
         }
-        a[k] = Min(Abs(x[k]), lim);
-        GridPoint p = NearestRow<G>(a[k]);
-        xj[k] = p.xj;
-        d[k] = p.d;
-        vlo[k] = dl[k] = Zero<double>();
-        if constexpr (W == 2) {
-            LoadTransposed(p.r0, p.r1, v[k], deriv[k]);
-        } else {
-            LoadTransposed(p.r0, p.r1, v[k], vlo[k]);
-            LoadTransposed(p.r0 + 2, p.r1 + 2, deriv[k], dl[k]);
-        }
-    }
+        return Min(Abs(xk), lim);
+    };
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k) {
-        __m128d tau = Mul(Mul(Set<double>(G::kTauScale), xj[k]), d[k]);
-        __m128d u = Mul(d[k], d[k]);
-        if constexpr (G::kUScale != 1.0) u = Mul(u, Set<double>(G::kUScale));
+        __m128d mirror;
+        __m128d a = held(x[k], mirror);
+        sh[k] = Add(a, Set<double>(G::kShifter));
+        __m128d xj = Sub(sh[k], Set<double>(G::kShifter));
+        d[k] = Sub(a, xj);
+        s1[k] = Mul(Mul(Set<double>(G::kTauScale), xj), d[k]); // tau
+        u[k] = Mul(d[k], d[k]);
+        if constexpr (G::kUScale != 1.0) u[k] = Mul(u[k], Set<double>(G::kUScale));
         // Below 2^-256 u is 0, so that tiny arguments raise no underflow of their own.
-        tiny[k] = Lt(a[k], Set<double>(0x1p-256));
-        u = IfThenZeroElse(tiny[k], u);
-        s1[k] = SeriesLessOne<C>(tau, u);
+        u[k] = IfThenZeroElse(Lt(a, Set<double>(0x1p-256)), u[k]);
     }
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k)
+        s1[k] = SeriesLessOne<C>(s1[k], u[k]);
     __m128d anyTiny = Zero<double>();
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k) {
+        __m128d mirror;
+        __m128d a = held(x[k], mirror);
+        I64x2 row = AsInt(sh[k]);
+        const double* r0 = G::kRows[LowWord<0>(row)];
+        const double* r1 = G::kRows[LowWord<1>(row)];
+        __m128d v, vlo = Zero<double>(), deriv, dl = Zero<double>();
+        if constexpr (W == 2) {
+            LoadTransposed(r0, r1, v, deriv);
+        } else {
+            LoadTransposed(r0, r1, v, vlo);
+            LoadTransposed(r0 + 2, r1 + 2, deriv, dl);
+        }
         __m128d flip = Zero<double>(), kk = Zero<double>();
         if constexpr (G::kMirror != 0) {
-            flip = And(mirror[k], SignMask<double>());
-            kk = IfThenElse(mirror[k], Set<double>(G::kMirror), kk);
+            flip = And(mirror, SignMask<double>());
+            kk = IfThenElse(mirror, Set<double>(G::kMirror), kk);
         }
-        __m128d vs = Xor(v[k], flip);
+        __m128d vs = Xor(v, flip);
         if constexpr (Sum == GridSum::TwoPart) {
             static_assert(W == 4 && G::kMirror == 0, "two parts: erf's wide rows");
             // erf = v + d + d*g, g = D (1 + S1) - 1 with D = dh + dl (dh - 1 exact): v + d
             // is kept in two parts, so that D's rounding and the product's weigh only g's
             // share of the result, about a ninth near 0.
-            __m128d g = Add(Sub(deriv[k], Set<double>(1.0)),
-                            Add(dl[k], Mul(Add(deriv[k], dl[k]), s1[k])));
+            __m128d g = Add(Sub(deriv, Set<double>(1.0)), Add(dl, Mul(Add(deriv, dl), s1[k])));
             __m128d h, e;
-            FastTwoSum(v[k], d[k], h, e); // v = 0 or v >= erf(1/128) > |d|
-            y[k] = Add(h, Add(e, Add(vlo[k], Mul(d[k], g))));
-            anyTiny = Or(anyTiny, tiny[k]);
+            FastTwoSum(v, d[k], h, e); // v = 0 or v >= erf(1/128) > |d|
+            y[k] = Add(h, Add(e, Add(vlo, Mul(d[k], g))));
+            anyTiny = Or(anyTiny, Lt(a, Set<double>(0x1p-256)));
         } else {
-            __m128d de = W == 4 ? Add(deriv[k], dl[k]) : deriv[k];
-            __m128d w = Mul(de, d[k]);
+            if constexpr (W == 4) deriv = Add(deriv, dl);
+            __m128d w = Mul(deriv, d[k]);
             __m128d c = Add(w, Mul(w, s1[k]));
             y[k] = Add(Add(kk, vs), Xor(c, flip));
         }
-        if constexpr (G::kScaleFrom != 0)
-            y[k] = Mul(y[k], IfThenElse(Lt(xj[k], Set<double>(G::kScaleFrom)), Set<double>(1.0),
+        if constexpr (G::kScaleFrom != 0) {
+            __m128d xj = Sub(sh[k], Set<double>(G::kShifter));
+            y[k] = Mul(y[k], IfThenElse(Lt(xj, Set<double>(G::kScaleFrom)), Set<double>(1.0),
                                         Set<double>(0x1p-128)));
+        }
     }
     if constexpr (Sum == GridSum::TwoPart) {
         if (__builtin_expect(MaskBits(anyTiny) != 0, 0)) {
 #pragma GCC unroll 8
-            for (int k = 0; k < N; ++k)
-                y[k] = IfThenElse(tiny[k], ErfTiny(a[k]), y[k]);
+            for (int k = 0; k < N; ++k) {
+                __m128d mirror;
+                __m128d a = held(x[k], mirror);
+                y[k] = IfThenElse(Lt(a, Set<double>(0x1p-256)), ErfTiny(a), y[k]);
+            }
         }
     }
 }
