@@ -173,7 +173,7 @@ BRENN_VEC void PowRound(const __m128d* x, const __m128d* y, __m128d* v, __m128d*
         __m128d t[M], r[M];
 #pragma GCC unroll 8
         for (int k = 0; k < M; ++k)
-            r[k] = ExpReduce256(wh[k], IfThenZeroElse(sw[k], wl[k]), t[k]);
+            r[k] = ExpReduce<ExpStep256>(wh[k], IfThenZeroElse(sw[k], wl[k]), t[k]);
 #pragma GCC unroll 8
         for (int k = 0; k < M; ++k)
             v[k] = ExpAssemble256(t[k], r[k]);

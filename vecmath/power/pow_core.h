@@ -68,34 +68,16 @@ inline void LnHiLo(const LnReduction& red, __m128d& hi, __m128d& lo) {
     hi = h2;
 }
 
-// The reduction of e^x by ln2/64 (exp_core.h): t = x*64/ln2 + shifter and the reduced
-// argument of the head, the tail added.
-inline __m128d ExpReduce(__m128d wh, __m128d wl, __m128d& t) {
-    using S = ExpStep64;
+// The reduction of e^x by ln2/N, S the step's constants (ExpStep64 of exp_core.h,
+// ExpStep256 of exp_core256.h): t = x*N/ln2 + shifter and the reduced argument of the
+// head (n times the step's head exact), the tail added.
+template <class S>
+BRENN_VEC __m128d ExpReduce(__m128d wh, __m128d wl, __m128d& t) {
     const __m128d shifter = Set<double>(Format<double>::kShifter);
     t = Add(Mul(wh, Set<double>(S::kInvStep)), shifter);
     __m128d n = Sub(t, shifter);
     __m128d r = Sub(Sub(wh, Mul(n, Set<double>(S::kStepHi))), Mul(n, Set<double>(S::kStepLo)));
     return Add(r, wl);
-}
-
-// e^(wh + wl) for the vector kernels, |wh| <= 708.39 (the result normal), by the table
-// of 256 (exp_core256.h): t = wh*256/ln2 + shifter, r = (wh - n*ln2/256) + wl with the
-// head of ln2/256 of 31 bits (n*head exact), p(r) of degree 4 (2^-57 relative on
-// |r| <= ln2/512: two products and two sums fewer than degree 6 over the table of 64),
-// and 2^m*(Thi + (Thi*p + Tlo)), m = n >> 8.
-BRENN_VEC __m128d ExpReduce256(__m128d wh, __m128d wl, __m128d& t) {
-    using S = ExpStep256;
-    const __m128d shifter = Set<double>(Format<double>::kShifter);
-    t = Add(Mul(wh, Set<double>(S::kInvStep)), shifter);
-    __m128d n = Sub(t, shifter);
-    __m128d r = Sub(Sub(wh, Mul(n, Set<double>(S::kStepHi))), Mul(n, Set<double>(S::kStepLo)));
-    return Add(r, wl);
-}
-BRENN_VEC __m128d ExpAssemble256(__m128d t, __m128d r) {
-    __m128d p = Add(r, Mul(Mul(r, r), Horner(r, ExpStep256::kC)));
-    I32x4 e = Add(ShiftRightSigned<8>(BitCast<I32x4>(t)), Set<int32_t>(Format<double>::kBias));
-    return Mul(ExpJoin256(t, p), AsFloat(ShiftLeft<Format<double>::kMantBits>(BitCast<I64x2>(e))));
 }
 
 // 2^m for |m| <= 1022 in the low words of m.
@@ -104,11 +86,20 @@ inline __m128d PowerOfTwo(I32x4 m) {
     return AsFloat(ShiftLeft<Format<double>::kMantBits>(BitCast<I64x2>(e)));
 }
 
+// e^(wh + wl) for the vector kernels, |wh| <= 708.39 (the result normal), from the
+// reduction by ln2/256 (t and r): p(r) of degree 4 (2^-57 relative on |r| <= ln2/512:
+// two products and two sums fewer than degree 6 over the table of 64) and
+// 2^m*(Thi + (Thi*p + Tlo)), m = n >> 8.
+BRENN_VEC __m128d ExpAssemble256(__m128d t, __m128d r) {
+    __m128d p = Add(r, Mul(Mul(r, r), Horner(r, ExpStep256::kC)));
+    return Mul(ExpJoin256(t, p), PowerOfTwo(ShiftRightSigned<8>(BitCast<I32x4>(t))));
+}
+
 // e^(wh + wl) for wh from -745.2 to 709.8: the same value with 2^m applied in two halves,
 // so that a denormal or overflowing result is rounded once, at the second product.
 inline __m128d ExpHiLoWide(__m128d wh, __m128d wl) {
     __m128d t;
-    __m128d r = ExpReduce(wh, wl, t);
+    __m128d r = ExpReduce<ExpStep64>(wh, wl, t);
     __m128d th, tl;
     ExpRows64(t, th, tl);
     __m128d p = ExpPolyD<ExpDegree::Six>(r);
