@@ -268,7 +268,8 @@ BRENN_TRIG_HOT void TanSums(const int32_t* J, const __m128d* rh, const __m128d* 
         FastTwoSum(Mul(ah[k], rh[k]), pl, ph, pe0);
         FastTwoSum(Set<double>(1), Neg(ph), dh[k], dl[k]);
         dl[k] = Sub(dl[k], pe0);
-        TwoSum(ah[k], rh[k], nh[k], nl[k]);
+        // |tan A| >= tan(pi/64) > pi/128 >= |rh|, or tan A = 0: the fast sum is exact.
+        FastTwoSum(ah[k], rh[k], nh[k], nl[k]);
         FastTwoSum(nh[k], Add(nl[k], Add(al[k], tt[k])), nh[k], nl[k]);
     }
     BRENN_EACH(k, M) {
