@@ -56,11 +56,13 @@ inline void LnHiLo(const LnReduction& red, __m128d& hi, __m128d& lo) {
     __m128d sh, sl;
     TwoProductCut(rh, rh, sh, sl);
     const __m128d half = Set<double>(-0.5);
-    // The exact head k*ln2hi + th, then rh and -sh/2 added with their errors kept.
+    // The exact head k*ln2hi + th, then rh and -sh/2 added with their errors kept, by
+    // fast sums: a is 0 or at least about 2^-10 (the row next to 1, or to 2 with k = -1)
+    // where |rh| <= 2^-10/mh, so a + rh is rh or at least about 2^-11, and sh/2 <= 2^-21.
     __m128d a = Add(Mul(red.k, Set<double>(K::kLn2Hi)), red.th);
     __m128d h1, e1, h2, e2;
-    TwoSum(a, rh, h1, e1);
-    TwoSum(h1, Mul(half, sh), h2, e2);
+    FastTwoSum(a, rh, h1, e1);
+    FastTwoSum(h1, Mul(half, sh), h2, e2);
     __m128d cube = Mul(Mul(sh, rh), Horner(rh, kPowLogTail));
     __m128d small = Add(Sub(rl, Mul(rh, rl)), Mul(half, sl));
     __m128d tail = Add(Mul(red.k, Set<double>(K::kLn2Lo)), red.tl);
