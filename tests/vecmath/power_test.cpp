@@ -440,6 +440,7 @@ void CheckPowxIntegerOnNegatives() {
                              " b=" + std::to_string(double(b)));
                 EXPECT_LE(UlpError(y[i], powl((long double)a[i], (long double)b)),
                           slot == frame::SlotEP ? (sizeof(T) == 4 ? 0x1p13 : 0x1p27) : 4.0);
+                if (b == T(2) && slot == frame::SlotHA) EXPECT_EQ(y[i], a[i] * a[i]); // the square
             }
         }
     if constexpr (sizeof(T) == 8)
@@ -449,6 +450,11 @@ void CheckPowxIntegerOnNegatives() {
             EXPECT_EQ(status, 3);
             T tiny = CallPow<T>(true, slot, T(-1e-40), T(11), &status);
             EXPECT_TRUE(tiny == 0 && std::signbit(tiny));
+            EXPECT_EQ(status, 4);
+            if (slot != frame::SlotHA) continue; // b = 2 below HA is the plain product
+            EXPECT_EQ(CallPow<T>(true, slot, T(-1e200), T(2), &status), kInf);
+            EXPECT_EQ(status, 3);
+            EXPECT_EQ(CallPow<T>(true, slot, T(-1e-170), T(2), &status), T(0));
             EXPECT_EQ(status, 4);
         }
 }

@@ -15,7 +15,8 @@
  *                    do not leave the vector.
  * The slots are those of the kernel's own level. At HA only -1, 0.5, -0.5 and 1.5 are
  * taken apart; every other b runs the general body, which is within an ulp where the
- * chains are not. A dispatched kernel reports under its own name ("vsInv", ...), and a
+ * chains are not, but for 2, whose square x*x is correctly rounded: it runs as a body of
+ * its own, the lanes outside the normal range left to the general body's scalar routine. A dispatched kernel reports under its own name ("vsInv", ...), and a
  * slot without a kernel leaves b to the general body. */
 #include <string.h>
 
@@ -105,6 +106,29 @@ struct PowxBody {
         }
         return bits;
     }
+};
+
+// b = 2 at HA: x*x, the correctly rounded square and so the best x^2 there is. Lanes whose
+// square is not a normal number (zero, denormal, overflow, NaN or infinity) go to the
+// general body's scalar routine for its value and status. The window on the square's bits
+// (the high word in double): below the least normal or above the largest finite.
+template <class T>
+inline constexpr Range32 kNormalSquare = sizeof(T) == 4
+                                             ? Range32{0x7FFFFFFFu, 0x7F800000u, 0xFEFFFFFFu}
+                                             : Range32{0x7FFFFFFFu, 0x7FF00000u, 0xFFDFFFFFu};
+template <class Tp>
+struct SquareBody {
+    using T = Tp;
+    using V = Vec<T>;
+    static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Powx);
+    static constexpr Layout kLayout = Layout::SplitOut;
+    T b;
+    BRENN_VEC V Eval(V x, V& special) const {
+        V y = Mul(x, x);
+        special = RangeTest(y, kNormalSquare<T>);
+        return y;
+    }
+    int Scalar(const T* a, T* y) const { return PowScalar<PowDomain::Real>(*a, b, y); }
 };
 
 // x^P by a fixed chain of products.
@@ -260,6 +284,8 @@ void PowxRun(int n, const T* a, T b, T* y) {
             call = PowxCall::InvSqrt;
         else if (is(T(1.5)))
             call = PowxCall::Pow3o2;
+        else if (is(T(2)))
+            return RunUnary(SquareBody<T>{b}, n, a, y);
         else
             dispatched = false;
     }
