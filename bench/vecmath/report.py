@@ -169,14 +169,60 @@ def main():
         checks.append("slots at their aim against libmvec: %d of %d at n = 1000, %d of %d at n = 10^6"
                       % (met[1], aimed[1], met[0], aimed[0]))
 
+    # Powx with the exponents that dispatch to other rows, beside those rows in the same run
+    powx = [row for row in ("sPowx", "dPowx") if row in rows]
+    if powx:
+        w("## Powx at b = 2, 0.5 and -1\n")
+        w("Real Powx with a scalar exponent of 2, 0.5 or -1 on the inputs of Sqr, Sqrt and Inv, "
+          "beside those rows' own slots in the same run (n = 1000): the dispatch should cost "
+          "next to nothing.\n")
+        w("| Row | b | beside | LA | HA | EP |")
+        w("|---|---|---|---|---|---|")
+        for row in powx:
+            for label, other in (("b2", "Sqr"), ("b0.5", "Sqrt"), ("b-1", "Inv")):
+                base = rows.get(row[0] + other, {})
+                cells = []
+                for s in SLOTS:
+                    v, o = rows[row].get((label + "_" + s, 1000)), base.get((s, 1000))
+                    cells.append("-" if v is None or o is None else
+                                 "%s / %s (%.2f)" % (cell(v[0]), cell(o[0]), v[0] / o[0]))
+                w("| %s | %s | %s | %s |" % (row, label[1:], row[0] + other, " | ".join(cells)))
+        w("")
+
+    # complex rows beside a loop of the C library's scalar functions (libm, or the compiled
+    # operators for Mul and Div): the vector designs at 3x its speed or more at HA, the rows
+    # computed element by element in extended precision at least at its speed
+    vector_fns = ("Add", "Sub", "Mul", "MulByConj", "Div", "Conj", "Abs", "Arg", "CIS", "Exp",
+                  "Ln", "Sqrt")
+    cx = [row for row in order if row[0] in "cz" and row[1:] != "" and
+          any(k[0] in ("libm", "c_loop") for k in rows[row])]
+    if cx:
+        w("## Complex rows against the C library\n")
+        w("HA slot over a loop of the C library's scalar complex function (or the compiled "
+          "complex operator) on the same arrays; the aim is at least 3x for the vector bodies "
+          "and at least 1x for the rows computed element by element in extended precision.\n")
+        w("| Row | n | C library | HA | speed-up | aim |")
+        w("|---|---|---|---|---|---|")
+        for row in cx:
+            aim = 3.0 if row[1:] in vector_fns else 1.0
+            for n in (1000, 1000000):
+                peer = rows[row].get(("libm", n)) or rows[row].get(("c_loop", n))
+                mine = rows[row].get(("HA", n))
+                if not peer or not mine:
+                    continue
+                r = peer[0] / mine[0]
+                w("| %s | %s | %s | %s | %.2f%s | %.0fx |" % (
+                    row, "1000" if n == 1000 else "10^6", cell(peer[0]), cell(mine[0]), r,
+                    "" if r >= aim else "*", aim))
+        w("")
+
     # checks: every slot below its cost figure; the elementary rows at or below the peers of
     # the same accuracy
-    over = []
-    for row in order:
-        for (impl, n), (cpe, cost) in rows[row].items():
-            if impl in SLOTS and n == 1000 and cost is not None and cpe > cost:
-                over.append("%s %s (%.2f over %.2f)" % (row, impl, cpe, cost))
-    checks.append("slots above their cost figure at n = 1000: " + (", ".join(over) if over else "none"))
+    for n, label in ((1000, "1000"), (1000000, "10^6")):
+        over = ["%s %s (%.2f over %.2f)" % (row, impl, cpe, cost)
+                for row in order for (impl, m), (cpe, cost) in rows[row].items()
+                if impl in SLOTS and m == n and cost is not None and cpe > cost]
+        checks.append("slots above their cost figure at n = %s: %s" % (label, ", ".join(over) or "none"))
     for row in ("sSqrt", "dSqrt", "sInv", "dInv", "sDiv", "dDiv"):
         if row not in rows:
             continue
