@@ -243,6 +243,23 @@ TEST(ComplexArith, AddSubConjBitForBitAtEveryLength) {
                     EXPECT_EQ(Bits(w[k + off].re), Bits(a[k + off].re));
                 }
             }
+    // a long call out of place streams its results: every element still turned, from an
+    // output off the 16-byte boundary by one single element too
+    for (int off = 0; off < 2; ++off) {
+        const int n = 150001;
+        std::vector<C> src(n), dst(n + 1);
+        std::vector<Z> zsrc(n), zdst(n);
+        for (int i = 0; i < n; ++i)
+            src[i] = {float(i), -0.5f * i}, zsrc[i] = {-1.0 * i, 0.25 * i};
+        As<Unary<C>>(CxRaw(frame::Row_cConj, frame::SlotHA))(n, src.data(), dst.data() + off);
+        As<Unary<Z>>(CxRaw(frame::Row_zConj, frame::SlotHA))(n, zsrc.data(), zdst.data());
+        for (int i = 0; i < n; ++i) {
+            ASSERT_EQ(Bits(dst[i + off].im), Bits(src[i].im) ^ 0x80000000u) << i;
+            ASSERT_TRUE(dst[i + off].re == src[i].re && zdst[i].re == zsrc[i].re);
+            ASSERT_EQ(std::signbit(zdst[i].im), !std::signbit(zsrc[i].im)) << i;
+            ASSERT_EQ(std::fabs(zdst[i].im), std::fabs(zsrc[i].im));
+        }
+    }
     std::vector<Z> za(7, Z{1, 2}), zb(7, Z{0.5, 4});
     As<Binary<Z>>(CxRaw(frame::Row_zSub, frame::SlotEP))(7, za.data(), zb.data(), za.data());
     EXPECT_TRUE(SameParts(za[6], Z{0.5, -2}));
