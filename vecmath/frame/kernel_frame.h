@@ -24,9 +24,10 @@
  *               NoHead only.
  *   EvalWide    (required with kRound = 16) the whole round at once, so that the body
  *               can interleave its registers and test its range once a round:
- *               int EvalWide(const V* x, V* y) (unary), (const V* x, V* y, V* z)
- *               (two result), sixteen elements' registers each; returns the special-
- *               lane bits (bit j for element j of the round)
+ *               int EvalWide(const V* x, V* y) (unary), (const V* a, const V* b, V* y)
+ *               (binary), (const V* x, V* y, V* z) (two result), sixteen elements'
+ *               registers each; returns the special-lane bits (bit j for element j of
+ *               the round)
  *   kUnderflowLanes (optional, true) Eval gives every lane that is not special its
  *               result, zeros and denormals included, and a result below the least
  *               normal in magnitude has status 4 (underflow), reported by the frame
@@ -393,21 +394,25 @@ struct Quads {
     static inline void Round16(const B& body, Env<B>& env, const Args<T>& v, int i) {
         static_assert(kHasWide<B>, "rounds of sixteen pay only with the whole-round form");
         static_assert(!kUnderflowLanes<B>, "underflow lanes in rounds of eight");
-        static_assert(S != Shape::Binary, "no wide form for two inputs");
         Q q[4];
         constexpr int N = 16 / L;
-        V x[N], y[N], z[N];
+        V x[N], w[N], y[N], z[N];
 #pragma GCC unroll 16
-        for (int k = 0; k < N; ++k)
+        for (int k = 0; k < N; ++k) {
             x[k] = Load(v.a + i + k * L);
+            if constexpr (S == Shape::Binary) w[k] = Load(v.b + i + k * L);
+        }
         int bits;
         if constexpr (S == Shape::Unary)
             bits = body.EvalWide(x, y);
+        else if constexpr (S == Shape::Binary)
+            bits = body.EvalWide(x, w, y);
         else
             bits = body.EvalWide(x, y, z);
 #pragma GCC unroll 16
         for (int k = 0; k < N; ++k) {
             q[k / R].x[k % R] = x[k];
+            if constexpr (S == Shape::Binary) q[k / R].w[k % R] = w[k];
             q[k / R].y[k % R] = y[k];
             if constexpr (S == Shape::TwoRes) q[k / R].z[k % R] = z[k];
         }

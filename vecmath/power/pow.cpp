@@ -31,6 +31,9 @@ struct PowBody {
         D == PowDomain::Real ? ZAR_ERROR_NAME_OF(T, Pow) : ZAR_ERROR_NAME_OF(T, Powr);
     static BRENN_VEC V Eval(V a, V b, V& special) { return PowOf<L>(a, b, special); }
     static int Scalar(const T* a, const T* b, T* y) { return PowScalar<D>(*a, *b, y); }
+    // Double rounds of sixteen, each step over the round's eight registers.
+    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
+    static BRENN_VEC int EvalWide(const V* a, const V* b, V* y) { return PowWide<L>(a, b, y); }
 };
 
 template <class T, Level L>

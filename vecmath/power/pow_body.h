@@ -180,6 +180,19 @@ BRENN_VEC void PowRound(const __m128d* x, const __m128d* y, __m128d* v, __m128d*
     }
 }
 
+// A round of sixteen double elements (eight registers) through PowRound: the results in
+// v and the special-lane bits, bit j for element j.
+template <Level L>
+BRENN_VEC int PowWide(const __m128d* x, const __m128d* y, __m128d* v) {
+    __m128d special[8];
+    PowRound<L, 8>(x, y, v, special);
+    int bits = 0;
+#pragma GCC unroll 8
+    for (int k = 0; k < 8; ++k)
+        bits |= MaskBits(special[k]) << (2 * k);
+    return bits;
+}
+
 template <Level L>
 BRENN_VEC __m128d PowOf(__m128d x, __m128d y, __m128d& special) {
     __m128d v;

@@ -91,19 +91,17 @@ struct PowxBody {
     // Double rounds of sixteen, each step over the round's eight registers (PowRound).
     static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
     BRENN_VEC int EvalWide(const V* x, V* y) const {
-        V xs[8], bs[8], special[8];
+        V xs[8], bs[8];
 #pragma GCC unroll 8
         for (int k = 0; k < 8; ++k) {
             xs[k] = Integer ? Abs(x[k]) : x[k];
             bs[k] = bv;
         }
-        PowRound<L, 8>(xs, bs, y, special);
-        int bits = 0;
+        const int bits = PowWide<L>(xs, bs, y);
+        if constexpr (Integer)
 #pragma GCC unroll 8
-        for (int k = 0; k < 8; ++k) {
-            if constexpr (Integer) y[k] = Or(y[k], And(x[k], oddSign));
-            bits |= MaskBits(special[k]) << (2 * k);
-        }
+            for (int k = 0; k < 8; ++k)
+                y[k] = Or(y[k], And(x[k], oddSign));
         return bits;
     }
 };
