@@ -128,18 +128,39 @@ inline __m128 HypotOf(__m128 a, __m128 b, __m128& special) {
 // xx), and adding zz cancels to a few ulps of s, exactly (Sterbenz) or with zz itself
 // that small; |d/(2r)| is within about 1.5 ulp of r, so that 1/(2r) to 2^-6 adds at most
 // 0.03 ulp: within about 0.55 ulp in all.
+template <Level L, int M>
+BRENN_VEC void HypotScaled(const __m128d* x, const __m128d* z, __m128d* y) {
+    if constexpr (L != Level::HA) {
+#pragma GCC unroll 8
+        for (int k = 0; k < M; ++k)
+            y[k] = HypotWide(x[k], z[k]);
+        return;
+    }
+    // each step over the M registers before the next, so that their chains overlap
+    __m128d xx[M], r[M], d[M];
+#pragma GCC unroll 8
+    for (int k = 0; k < M; ++k) {
+        xx[k] = Mul(x[k], x[k]);
+        __m128d zz = Mul(z[k], z[k]);
+        r[k] = Sqrt(Add(xx[k], zz));
+        d[k] = Add(Sub(xx[k], Mul(r[k], r[k])), zz);
+    }
+#pragma GCC unroll 8
+    for (int k = 0; k < M; ++k) {
+        __m128d rr = Mul(r[k], r[k]);
+        d[k] = Add(d[k], Sub(SquareTail(x[k], xx[k]), SquareTail(r[k], rr)));
+        // 1/(2r) from the bits (within 12 %) and one Newton step (1.5 %).
+        __m128d r2 = Add(r[k], r[k]);
+        __m128d h = AsFloat(Sub(Set<int64_t>(0x7FDE623822FC16E6ll), AsInt(r2)));
+        h = Mul(h, Sub(Set<double>(2.0), Mul(r2, h)));
+        y[k] = Add(r[k], Mul(d[k], h));
+    }
+}
 template <Level L>
-inline __m128d HypotScaled(__m128d x, __m128d z) {
-    if constexpr (L != Level::HA) return HypotWide(x, z);
-    __m128d xx = Mul(x, x), zz = Mul(z, z);
-    __m128d r = Sqrt(Add(xx, zz));
-    __m128d rr = Mul(r, r);
-    __m128d d = Add(Add(Sub(xx, rr), zz), Sub(SquareTail(x, xx), SquareTail(r, rr)));
-    // 1/(2r) from the bits (within 12 %) and one Newton step (1.5 %).
-    __m128d r2 = Add(r, r);
-    __m128d h = AsFloat(Sub(Set<int64_t>(0x7FDE623822FC16E6ll), AsInt(r2)));
-    h = Mul(h, Sub(Set<double>(2.0), Mul(r2, h)));
-    return Add(r, Mul(d, h));
+BRENN_VEC __m128d HypotScaled(__m128d x, __m128d z) {
+    __m128d y;
+    HypotScaled<L, 1>(&x, &z, &y);
+    return y;
 }
 
 template <Level L>
@@ -175,6 +196,31 @@ struct HypotBody {
     using V = Vec<T>;
     static V Eval(V a, V b, V& special) { return HypotOf<L>(a, b, special); }
     static int Scalar(const T* a, const T* b, T* y) { return HypotScalar(a, b, y); }
+    // Double HA in rounds of sixteen: where every lane of the round's eight registers lies
+    // in the plain range, the root's steps over all of them; otherwise register by
+    // register. (LA and EP, a sum and a root a register, are faster in rounds of eight.)
+    static constexpr int kRound = sizeof(T) == 8 && L == Level::HA ? 16 : 8;
+    static BRENN_VEC int EvalWide(const V* a, const V* b, V* y) {
+        using R = HypotRanges<double>;
+        V big[8], small[8], wide = Zero<double>();
+#pragma GCC unroll 8
+        for (int k = 0; k < 8; ++k) {
+            V ax = Abs(a[k]), bx = Abs(b[k]);
+            big[k] = Max(ax, bx), small[k] = Min(ax, bx);
+            wide = Or(wide, Or(RangeTest(big[k], R::kPlain), RangeTest(Max(bx, ax), R::kPlain)));
+        }
+        if (__builtin_expect(MaskBits(wide) == 0, 1)) {
+            HypotScaled<L, 8>(big, small, y);
+            return 0;
+        }
+        int bits = 0;
+        for (int k = 0; k < 8; ++k) {
+            V special;
+            y[k] = HypotOf<L>(a[k], b[k], special);
+            bits |= MaskBits(special) << (2 * k);
+        }
+        return bits;
+    }
 };
 
 } // namespace
