@@ -72,14 +72,22 @@ UnaryKernel<double> SlotOf<double>(PowxCall c, int slot) {
 // boundary (its input need not share the output's alignment: a is read, y written).
 // `Integer` for an integer b: the body runs on |x|, so that negative x stay in the
 // vector, and x's sign goes back on for odd b (oddSign the sign mask, else 0).
-template <class Tp, Level L, bool Integer = false>
-struct PowxBody {
+// What the Powx bodies share: the name, the layout and the general body's scalar routine.
+template <class Tp>
+struct PowxCommon {
     using T = Tp;
     using V = Vec<T>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Powx);
     static constexpr Layout kLayout = Layout::SplitOut;
-    V bv;
     T b;
+    int Scalar(const T* a, T* y) const { return PowScalar<PowDomain::Real>(*a, b, y); }
+};
+
+template <class Tp, Level L, bool Integer = false>
+struct PowxBody : PowxCommon<Tp> {
+    using T = Tp;
+    using V = Vec<T>;
+    V bv;
     V oddSign = Zero<T>();
     BRENN_VEC V Eval(V x, V& special) const {
         if constexpr (Integer)
@@ -87,7 +95,6 @@ struct PowxBody {
         else
             return PowOf<L>(x, bv, special);
     }
-    int Scalar(const T* a, T* y) const { return PowScalar<PowDomain::Real>(*a, b, y); }
     // Double rounds of sixteen, each step over the round's eight registers (PowRound).
     static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
     BRENN_VEC int EvalWide(const V* x, V* y) const {
@@ -115,18 +122,13 @@ inline constexpr Range32 kNormalSquare = sizeof(T) == 4
                                              ? Range32{0x7FFFFFFFu, 0x7F800000u, 0xFEFFFFFFu}
                                              : Range32{0x7FFFFFFFu, 0x7FF00000u, 0xFFDFFFFFu};
 template <class Tp>
-struct SquareBody {
-    using T = Tp;
-    using V = Vec<T>;
-    static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Powx);
-    static constexpr Layout kLayout = Layout::SplitOut;
-    T b;
+struct SquareBody : PowxCommon<Tp> {
+    using V = Vec<Tp>;
     BRENN_VEC V Eval(V x, V& special) const {
         V y = Mul(x, x);
-        special = RangeTest(y, kNormalSquare<T>);
+        special = RangeTest(y, kNormalSquare<Tp>);
         return y;
     }
-    int Scalar(const T* a, T* y) const { return PowScalar<PowDomain::Real>(*a, b, y); }
 };
 
 // x^P by a fixed chain of products.
@@ -283,7 +285,7 @@ void PowxRun(int n, const T* a, T b, T* y) {
         else if (is(T(1.5)))
             call = PowxCall::Pow3o2;
         else if (is(T(2)))
-            return RunUnary(SquareBody<T>{b}, n, a, y);
+            return RunUnary(SquareBody<T>{{b}}, n, a, y);
         else
             dispatched = false;
     }
@@ -291,10 +293,10 @@ void PowxRun(int n, const T* a, T b, T* y) {
         if (UnaryKernel<T> k = SlotOf<T>(call, slot)) return k(n, a, y);
     if (const int c = IntegerClass(b)) {
         const Vec<T> oddSign = c == 1 ? SignMask<T>() : Zero<T>();
-        RunUnary(PowxBody<T, L, true>{Set<T>(b), b, oddSign}, n, a, y);
+        RunUnary(PowxBody<T, L, true>{{b}, Set<T>(b), oddSign}, n, a, y);
         return;
     }
-    RunUnary(PowxBody<T, L>{Set<T>(b), b}, n, a, y);
+    RunUnary(PowxBody<T, L>{{b}, Set<T>(b)}, n, a, y);
 }
 
 } // namespace
