@@ -223,6 +223,16 @@ def main():
                 for row in order for (impl, m), (cpe, cost) in rows[row].items()
                 if impl in SLOTS and m == n and cost is not None and cpe > cost]
         checks.append("slots above their cost figure at n = %s: %s" % (label, ", ".join(over) or "none"))
+    # no slot slower than a more accurate one of its row (HA > LA > EP in accuracy), beyond
+    # the run's noise (5 %)
+    slower = []
+    for row in order:
+        t = {s: rows[row][(s, 1000)][0] for s in SLOTS if (s, 1000) in rows[row]}
+        for low, high in (("LA", "HA"), ("EP", "LA"), ("EP", "HA")):
+            if low in t and high in t and t[low] > 1.05 * t[high]:
+                slower.append("%s %s %.2f over %s %.2f" % (row, low, t[low], high, t[high]))
+    checks.append("slots slower than a more accurate slot of their row at n = 1000: " +
+                  (", ".join(slower) or "none"))
     for row in ("sSqrt", "dSqrt", "sInv", "dInv", "sDiv", "dDiv"):
         if row not in rows:
             continue
