@@ -9,6 +9,7 @@
 
 #include <math.h>
 
+#include "vecmath/complex/ext_core.h"
 #include "vecmath/frame/scalar.h"
 #include "vecmath/frame/status.h"
 
@@ -32,9 +33,15 @@ inline long double QuarterReduced(long double v, int& j) {
     return ((v - q * kPio2A) - q * kPio2B) - q * kPio2C;
 }
 
-// sin and cos of a finite y, from the quarter-turn reduction: glibc's sincosl reduces
-// anything beyond pi/4 by its slow general method.
+// sin and cos of a finite y: below 2^26 by the table-driven core (ext_core.h), a zero
+// kept with its sign; beyond, from the quarter-turn reduction and glibc's sincosl,
+// which reduces anything beyond pi/4 by its slow general method.
 inline void SinCosX(long double y, long double& s, long double& c) {
+    if (y == 0) {
+        s = y, c = 1;
+        return;
+    }
+    if (__builtin_expect(fabsl(y) < 0x1p26L, 1)) return SinCosCore(y, s, c);
     int j = 0;
     long double sr, cr;
     sincosl(QuarterReduced(y, j), &sr, &cr);
@@ -52,13 +59,6 @@ inline void SinCosX(long double y, long double& s, long double& c) {
         s = -cr, c = sr;
         break;
     }
-}
-
-// tan of a finite y likewise: -cot of the rest after an odd count of quarter turns.
-inline long double TanX(long double y) {
-    int j = 0;
-    const long double t = tanl(QuarterReduced(y, j));
-    return j & 1 ? -1 / t : t;
 }
 
 // exp(a) (cos b + i sin b). Status: an infinite b beside a finite or +inf a is a domain

@@ -6,8 +6,8 @@
  *   sinh(x + iy) = sinh x cos y + i cosh x sin y
  *   cos z = cosh(-y + ix), sin z = -i sinh(-y + ix); the sign of -y is not
  * turned for a NaN, so that its sign stays. The extended functions of the parts
- * have errors of about an extended ulp, so every part rounds to the element's
- * type within about half an ulp and 2^-10 of one. Special values follow C99
+ * (ext_core.h) have errors of a few extended ulps, so every part rounds to the
+ * element's type within about half an ulp and 2^-9 of one. Special values follow C99
  * Annex G (G.6.2.4, G.6.2.5): zero imaginary parts stay zeros of the right sign
  * where the formulas would make inf * 0, infinite real parts give the
  * infinities of cis y, and NaNs spread. An overflow (3) is reported where
@@ -20,20 +20,15 @@
 namespace brenn::vm::cx {
 namespace {
 
-// cosh x and sinh x from one exponential: with m = e^|x| - 1 (exact near 0),
-// sinh|x| = (m + m/(m + 1))/2 and cosh x = ((m + 1) + 1/(m + 1))/2. Beyond |x| = 11000,
-// where e^|x| leaves the extended range, the library's own cosh and sinh give the
-// infinities.
+// cosh x and sinh x by the core of ext_core.h; beyond |x| = 11000, where e^|x| leaves
+// the extended range, the library's own cosh and sinh give the infinities.
 void CoshSinh(LD x, LD& ch, LD& sh) {
-    LD a = fabsl(x);
-    if (a > 11000) {
+    if (__builtin_expect(!(fabsl(x) <= 11000), 0)) {
         ch = coshl(x);
         sh = sinhl(x);
         return;
     }
-    LD m = expm1l(a), e = m + 1;
-    ch = (e + 1 / e) * 0.5L;
-    sh = __builtin_copysignl((m + m / e) * 0.5L, x);
+    CoshSinhCore(x, ch, sh);
 }
 
 int CoshOf(LD x, LD y, LD& re, LD& im) {

@@ -2,15 +2,14 @@
  * element by element in 80-bit extended precision (extended.h), one kernel for
  * every level.
  *
- * tanh(x + iy) by Kahan's form, with t = tan y, b = 1 + t^2, s = sinh x and
- * r = sqrt(1 + s^2) = cosh x:
- *   tanh z = (b r s + i t) / (1 + b s^2)
- * which has no cancellation: each part is a few extended roundings from the
- * exact value, so that both round to the element's type within about half an ulp.
- * Double and single parts never overflow the extended range here (|t| < 2^64 for
- * any double y). From |x| = 23, where tanh x rounds to +-1 in extended precision,
- * the real part is +-1 and the imaginary part 4 sin y cos y e^(-2|x|), which
- * underflows gracefully. tan z = -i tanh(iz), through the turn of extended.h.
+ * tanh(x + iy) from the cores of ext_core.h, with s = sinh x, c = cosh x and
+ * sin y, cos y:
+ *   tanh z = (s c + i sin y cos y) / (s^2 + cos^2 y)
+ * (Kahan's form, its parts times cos^2 y), which has no cancellation: each part is a
+ * few extended roundings from the exact value, so that both round to the element's
+ * type within about half an ulp. From |x| = 23, where tanh x rounds to +-1 in extended
+ * precision, the real part is +-1 and the imaginary part 4 sin y cos y e^(-2|x|),
+ * which underflows gracefully. tan z = -i tanh(iz), through the turn of extended.h.
  *
  * Special values follow C99 Annex G (G.6.2.6): an infinite real part gives
  * +-1 + i0 sin(2y) (the zero's sign that of sin 2y, of y where y is not finite);
@@ -41,12 +40,16 @@ int TanhOf(LD x, LD y, LD& re, LD& im) {
         re = __builtin_copysignl(1, x);
         LD sn, cs;
         SinCosX(y, sn, cs);
-        im = 4 * sn * cs * expl(-2 * fabsl(x));
+        // e^(-4000) is far below the least double; the zero keeps the sign of sin 2y
+        const LD a = fabsl(x);
+        im = 4 * sn * cs * (a < 2000 ? gamma::ext::Exp(-2 * a) : 0.0L);
     } else {
-        LD t = TanX(y), b = 1 + t * t, s = sinhl(x), r = sqrtl(1 + s * s);
-        LD d = 1 + b * s * s;
-        re = b * r * s / d;
-        im = t / d;
+        LD ch, sh, sn, cs;
+        CoshSinhCore(x, ch, sh);
+        SinCosX(y, sn, cs);
+        const LD d = sh * sh + cs * cs;
+        re = sh * ch / d;
+        im = sn * cs / d;
     }
     return status::kNone;
 }
