@@ -36,7 +36,7 @@ inline long double QuarterReduced(long double v, int& j) {
 // sin and cos of a finite y: below 2^26 by the table-driven core (ext_core.h), a zero
 // kept with its sign; beyond, from the quarter-turn reduction and glibc's sincosl,
 // which reduces anything beyond pi/4 by its slow general method.
-inline void SinCosX(long double y, long double& s, long double& c) {
+[[gnu::always_inline]] inline void SinCosX(long double y, long double& s, long double& c) {
     if (y == 0) {
         s = y, c = 1;
         return;

@@ -88,7 +88,7 @@ inline LD Turned(LD y) {
 // cos-like functions are u + iv (Turn false) and sin-like ones (g(z) = -i f(iz)) are
 // v - iu (Turn true).
 template <int (*F)(LD, LD, LD&, LD&), bool Turn>
-int Rotated(LD x, LD y, LD& re, LD& im) {
+[[gnu::always_inline]] inline int Rotated(LD x, LD y, LD& re, LD& im) {
     LD u, v;
     int st = F(Turned(y), x, u, v);
     if (Turn) {
@@ -114,7 +114,9 @@ int Rotated(LD x, LD y, LD& re, LD& im) {
         static constexpr bool kOverflow = Overflow;                                                \
         static constexpr const char* kName =                                                       \
             std::is_same_v<E, BrennComplex8> ? "vc" #Fn : "vz" #Fn;                                \
-        static int Eval(LD x, LD y, LD& re, LD& im) { return Routine(x, y, re, im); }              \
+        [[gnu::always_inline]] static int Eval(LD x, LD y, LD& re, LD& im) {                       \
+            return Routine(x, y, re, im);                                                          \
+        }                                                                                          \
     };                                                                                             \
     }                                                                                              \
     }                                                                                              \

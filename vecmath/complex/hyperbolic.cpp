@@ -22,7 +22,7 @@ namespace {
 
 // cosh x and sinh x by the core of ext_core.h; beyond |x| = 11000, where e^|x| leaves
 // the extended range, the library's own cosh and sinh give the infinities.
-void CoshSinh(LD x, LD& ch, LD& sh) {
+[[gnu::always_inline]] inline void CoshSinh(LD x, LD& ch, LD& sh) {
     if (__builtin_expect(!(fabsl(x) <= 11000), 0)) {
         ch = coshl(x);
         sh = sinhl(x);
@@ -31,7 +31,7 @@ void CoshSinh(LD x, LD& ch, LD& sh) {
     CoshSinhCore(x, ch, sh);
 }
 
-int CoshOf(LD x, LD y, LD& re, LD& im) {
+[[gnu::always_inline]] inline int CoshOf(LD x, LD y, LD& re, LD& im) {
     if (y == 0) { // cosh x + i 0, the zero signed as sinh(x) * y
         re = coshl(x);
         im = __builtin_isnan(x) ? y : (__builtin_signbit(x) ? -y : y);
@@ -51,7 +51,7 @@ int CoshOf(LD x, LD y, LD& re, LD& im) {
     return status::kNone;
 }
 
-int SinhOf(LD x, LD y, LD& re, LD& im) {
+[[gnu::always_inline]] inline int SinhOf(LD x, LD y, LD& re, LD& im) {
     if (y == 0) { // sinh x + i0, y's zero (cosh x > 0)
         re = sinhl(x);
         im = y;

@@ -25,7 +25,7 @@
 namespace brenn::vm::cx {
 namespace {
 
-int TanhOf(LD x, LD y, LD& re, LD& im) {
+[[gnu::always_inline]] inline int TanhOf(LD x, LD y, LD& re, LD& im) {
     if (__builtin_isinf(x)) {
         re = __builtin_copysignl(1, x);
         LD s = __builtin_isfinite(y) && y != 0 ? sinl(y) * cosl(y) : y;
@@ -47,9 +47,9 @@ int TanhOf(LD x, LD y, LD& re, LD& im) {
         LD ch, sh, sn, cs;
         CoshSinhCore(x, ch, sh);
         SinCosX(y, sn, cs);
-        const LD d = sh * sh + cs * cs;
-        re = sh * ch / d;
-        im = sn * cs / d;
+        const LD q = 1 / (sh * sh + cs * cs);
+        re = sh * ch * q;
+        im = sn * cs * q;
     }
     return status::kNone;
 }
