@@ -9,8 +9,9 @@
  *
  * Single EP keeps its three-term form in single (u + p(w) u); single LA runs the same
  * steps in single with a five-term series; single HA does too, with six terms, the root
- * of h in two parts and the base joined by an exact sum; the pi-scaled single LA and HA
- * run the double steps on the widened lanes with a six-term series and narrow once. Double
+ * of h in two parts and base, main term and tail joined by exact sums; the pi-scaled
+ * single LA and HA run the double steps on the widened lanes with a six-term series and
+ * narrow once. Double
  * EP, LA and HA use 6, 12 and 13 terms; HA also corrects the square root by its exact
  * residual (over the root's reciprocal estimate) and joins base and main term by an exact
  * sum, EP takes the base without the tail of pi/4. The pi-scaled rows take the
@@ -21,7 +22,7 @@
  * domain status, NaN itself none, |x| > 1 NaN with the domain status.
  *
  * Measured (brenn_accuracy, 250000 inputs a row), LA / HA in ulp, EP in bits: sAsin
- * 2.22 / 0.598 / 14.0, sAcos 1.21 / 0.607 / 14.9, sAsinpi 0.506 / 0.506 / 14.0, sAcospi
+ * 2.22 / 0.581 / 14.0, sAcos 1.21 / 0.577 / 14.9, sAsinpi 0.506 / 0.506 / 14.0, sAcospi
  * 0.503 / 0.503 / 14.9; dAsin 1.67 / 0.627 / 30.8, dAcos 1.16 / 0.590 / 31.8, dAsinpi
  * 0.823 / 0.740 / 30.8, dAcospi 0.661 / 0.591 / 31.8. */
 #include <cmath>
@@ -119,47 +120,52 @@ BRENN_VEC V AngleOf(V x) {
     return AngleStep<F, U, Comp, Wide>(st);
 }
 
-// The six-term series of the double EP steps rounded to single: its fit (2^-31.8) keeps
-// the tail's error from the fit to about 0.01 ulp of the result, where LA's five terms
+// Six terms fitted in single (tools/invtrig/asin_single.sollya, 2^-31.7): the fit keeps
+// the tail's error from it to about 0.01 ulp of the result, where LA's five terms
 // (2^-27.6) cost up to 0.09.
-constexpr const double (&kP6)[6] = AsinDouble6Set::kP;
-constexpr float kAsinSingleHA[] = {float(kP6[0]), float(kP6[1]), float(kP6[2]),
-                                   float(kP6[3]), float(kP6[4]), float(kP6[5])};
+constexpr float kAsinSingleHA[] = {0x1.555548p-3f, 0x1.3339acp-4f, 0x1.6c8cf4p-5f,
+                                   0x1.05790cp-5f, 0x1.cd5cc4p-7f, 0x1.36feeep-5f};
 
-// Single HA in single arithmetic: the steps of AngleOf with a six-term series, 2 sqrt(h) carried
-// as 2s + (h - s^2)/s and the base joined by an exact sum. s^2 from halves of 12 bits:
-// sh^2, 2 sh*sl and sl^2 are exact, h - sh^2 is exact (Sterbenz), less 2 sh*sl it is
-// exact too (both on the grid of the latter, the difference within 12 bits), so that
-// h - s^2 rounds once, far below s^2; (h - s^2)/s by the reciprocal estimate, to 2^-12 of
-// a term of 2^-23 of u. The tail u*w*P(w) is within 0.05 of u and wrong by a few of its
-// own ulps: with the last rounding, within about 0.6 ulp.
+// Single HA in single arithmetic: the steps of AngleOf with a six-term series, 2 sqrt(h)
+// carried as 2s + (h - s^2)/s and the angle base + u + l summed exactly. With s cut at 12
+// bits, s = sh + sl: h - sh^2 is exact (Sterbenz) and sl*(sh + s), 2 sh*sl + sl^2 to 2^-24
+// of itself, is about 2^-12 h, so h - s^2 comes out within 2^-12 of itself, far below
+// s^2; (h - s^2)/s by the reciprocal estimate, to 2^-12 of a term of 2^-23 of u. The
+// tail l = u*w*P(w) is within 0.05 of u and wrong by a few of its own ulps; base + u and
+// that + l are exact sums (the first sum is at least as large as l), so that l's error
+// and the last rounding are all (with l added to a rounded sum, up to 0.61 ulp).
 template <Fn F>
 BRENN_VEC __m128 AngleSingleHA(__m128 x) {
     using Q = Quarter<float, Unit::Radian>;
     const __m128 half = Set<float>(0.5f);
     __m128 a = Abs(x);
-    __m128 h = MulAdd(Neg(a), half, half);
+    __m128 h = Sub(half, Mul(a, half));
     __m128 w = Min(Mul(a, a), h);
     __m128 fold = Ge(w, h);
     __m128 s = Sqrt(h);
     __m128 sh = And(s, AsFloat(Set<uint32_t>(0xFFFFF000u)));
-    __m128 sl = Sub(s, sh);
-    __m128 r = Sub(Sub(Sub(h, Mul(sh, sh)), Mul(Add(sh, sh), sl)), Mul(sl, sl));
+    __m128 r = Sub(Sub(h, Mul(sh, sh)), Mul(Sub(s, sh), Add(sh, s)));
     __m128 ul = IfThenElseZero(fold, Mul(r, ApproxRecip(Max(s, Set<float>(0x1p-60f)))));
     __m128 u = IfThenElse(fold, Add(s, s), a);
-    __m128 l = Add(Mul(Mul(u, w), Horner(w, kAsinSingleHA)), ul);
+    __m128 l = Mul(Mul(u, w), Horner(w, kAsinSingleHA));
     __m128 sx = SignBit(x);
-    __m128 k, flip;
+    // The base in whole quarter turns (head exact), its tail in proportion.
+    __m128 base, flip;
     if constexpr (F == Fn::Asin) {
-        k = IfThenElseZero(fold, Set<float>(2));
+        // Folded: pi/2 - (u + l); the sign of x goes on at the end.
+        base = And(fold, Set<float>(2 * Q::kHi));
         flip = And(fold, SignMask<float>());
     } else {
-        k = IfThenElse(fold, IfThenElse(x, Set<float>(4), Zero<float>()), Set<float>(2));
+        // Folded: u + l for x >= 0, pi - (u + l) below; unfolded pi/2 -+ (u + l).
+        base = IfThenElse(fold, IfThenElse(x, Set<float>(4 * Q::kHi), Zero<float>()),
+                          Set<float>(2 * Q::kHi));
         flip = Xor(Xor(And(fold, SignMask<float>()), sx), SignMask<float>());
     }
-    __m128 y, e;
-    FastTwoSum(Mul(k, Set<float>(Q::kHi)), Xor(u, flip), y, e);
-    y = Add(y, Add(e, Add(Mul(k, Set<float>(kQuarterTailS)), Xor(l, flip))));
+    __m128 y, e, v, f;
+    FastTwoSum(base, Xor(u, flip), y, e);
+    FastTwoSum(y, Xor(l, flip), v, f);
+    __m128 c = Add(Add(e, Mul(base, Set<float>(kQuarterTailS / Q::kHi))), Xor(ul, flip));
+    y = Add(v, Add(f, c));
     return F == Fn::Asin ? Xor(y, sx) : y;
 }
 
