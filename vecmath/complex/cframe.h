@@ -106,6 +106,23 @@ struct ExtendedScalarBody {
 template <class B>
 constexpr bool kOneGroupARound = requires { requires B::kOneGroup; };
 
+// Bodies whose chains are long and bound by latency may take a round of several groups
+// step by step, each step over all of them, so that the chains overlap: they say
+//   static constexpr int kGroups = N;
+//   int EvalGroups(const Cx<T>* a, const Cx<T>* b, Cx<T>* y)
+//               N groups (b null for one input); returns the special-lane bits of
+//               group g from bit g*K
+// The others run two groups a round (or one, kOneGroup).
+template <class B>
+constexpr int kGroupsARound = [] {
+    if constexpr (requires { B::kGroups; })
+        return B::kGroups;
+    else
+        return 2;
+}();
+template <class B>
+constexpr bool kStepped = requires { B::kGroups; };
+
 template <class B>
 struct ComplexFrame {
     using T = typename B::T;
@@ -155,6 +172,29 @@ struct ComplexFrame {
     // A round of two groups, 2K elements from i: both evaluated before either is stored,
     // so that their chains interleave.
     BRENN_VEC static void Round(const B& body, const In* a, const In* b, Out* y, int i) {
+        if constexpr (kStepped<B>) {
+            constexpr int N = kGroupsARound<B>;
+            Cx<T> ca[N], cb[N], cy[N];
+            for (int g = 0; g < N; ++g) {
+                ca[g] = LoadParts(a + i + g * K);
+                if (b) cb[g] = LoadParts(b + i + g * K);
+            }
+            int bits = body.EvalGroups(ca, b ? cb : nullptr, cy);
+            if (__builtin_expect(bits == 0, 1)) {
+                for (int g = 0; g < N; ++g)
+                    StoreParts(y + i + g * K, cy[g]);
+                return;
+            }
+            // group by group, as below
+            for (int g = 0; g < N; ++g) {
+                int bg = (bits >> (g * K)) & ((1 << K) - 1);
+                if (bg)
+                    SpecialGroup(body, a, b, y, i + g * K, bg, cy[g]);
+                else
+                    StoreParts(y + i + g * K, cy[g]);
+            }
+            return;
+        }
         if constexpr (kOneGroupARound<B>) {
             for (int g = 0; g < 2; ++g, i += K) {
                 Cx<T> a0 = LoadParts(a + i), b0, y0;
@@ -212,8 +252,9 @@ struct ComplexFrame {
 
     static void Run(const B& body, int n, const In* a, const In* b, Out* y) {
         Env<B> env = Enter<B>();
+        constexpr int R = kStepped<B> ? kGroupsARound<B> * K : 2 * K;
         int i = 0;
-        for (; i + 2 * K <= n; i += 2 * K)
+        for (; i + R <= n; i += R)
             Round(body, a, b, y, i);
         for (; i < n; i += K)
             Partial(body, a, b, y, i, n - i < K ? n - i : K);

@@ -46,25 +46,40 @@ int ExpScalar(const E* x, const E*, E* y) {
     return st;
 }
 
-// exp(a) (cos b + i sin b) for |a| <= 708.39 and |b| < 2^24.
-template <Level L>
-BRENN_VEC Cx<double> ExpOf(__m128d a, __m128d b) {
-    const __m128d shifter = Set<double>(Format<double>::kShifter);
-    __m128d t = Add(Mul(a, Set<double>(ExpStep64::kInvStep)), shifter);
-    __m128d n = Sub(t, shifter);
-    __m128d r = Sub(Sub(a, Mul(n, Set<double>(ExpStep64::kStepHi))),
-                    Mul(n, Set<double>(ExpStep64::kStepLo)));
-    __m128d eh, tl;
-    ExpRows64(t, eh, tl);
-    constexpr ExpDegree D = L == Level::HA ? ExpDegree::Six : ExpDegree::Five;
-    __m128d el = Add(Mul(eh, ExpPolyD<D>(r)), tl);
-
+// exp(a) (cos b + i sin b) for |a| <= 708.39 and |b| < 2^24, in four stretches: the two
+// reductions, the exponential's polynomial, the sine and cosine from the table row and
+// series, and the products. A double round takes each stretch over all its groups
+// before the next (ExpZ::EvalGroups), so that the groups' polynomial chains overlap.
+struct ExpState {
+    __m128d b, t, r, eh, tl, rh, rl, el, sh, sl, ch, cl;
     alignas(16) int32_t J[2];
-    __m128d rh, rl, sh, sl, ch, cl;
-    trig::ShortD(Abs(b), J, rh, rl, 0);
-    trig::TableSinCos(J, rh, rl, L == Level::HA, sh, sl, ch, cl);
+};
 
-    const __m128d scale = ExpScale64(t);
+BRENN_VEC void ExpReduce(__m128d a, __m128d b, ExpState& s) {
+    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    s.b = b;
+    s.t = Add(Mul(a, Set<double>(ExpStep64::kInvStep)), shifter);
+    __m128d n = Sub(s.t, shifter);
+    s.r = Sub(Sub(a, Mul(n, Set<double>(ExpStep64::kStepHi))), Mul(n, Set<double>(ExpStep64::kStepLo)));
+    ExpRows64(s.t, s.eh, s.tl);
+    trig::ShortD(Abs(b), s.J, s.rh, s.rl, 0);
+}
+
+template <Level L>
+BRENN_VEC void ExpPart(ExpState& s) {
+    constexpr ExpDegree D = L == Level::HA ? ExpDegree::Six : ExpDegree::Five;
+    s.el = Add(Mul(s.eh, ExpPolyD<D>(s.r)), s.tl);
+}
+
+template <Level L>
+BRENN_VEC void TrigPart(ExpState& s) {
+    trig::TableSinCos(s.J, s.rh, s.rl, L == Level::HA, s.sh, s.sl, s.ch, s.cl);
+}
+
+template <Level L>
+BRENN_VEC Cx<double> ExpJoin(const ExpState& s) {
+    const __m128d eh = s.eh, el = s.el, sh = s.sh, sl = s.sl, ch = s.ch, cl = s.cl;
+    const __m128d scale = ExpScale64(s.t);
     Cx<double> y;
     // (eh + el)(ch + cl): neither tail is negligible beside the other (el is Thi p, up
     // to 2^-7 of eh; cl the series of r, up to 2^-12 of ch), so all four products count
@@ -81,8 +96,17 @@ BRENN_VEC Cx<double> ExpOf(__m128d a, __m128d b) {
         y.im = Add(Mul(eh, sh), st);
     }
     y.re = Mul(y.re, scale);
-    y.im = Xor(Mul(y.im, scale), SignBit(b));
+    y.im = Xor(Mul(y.im, scale), SignBit(s.b));
     return y;
+}
+
+template <Level L>
+BRENN_VEC Cx<double> ExpOf(__m128d a, __m128d b) {
+    ExpState s;
+    ExpReduce(a, b, s);
+    ExpPart<L>(s);
+    TrigPart<L>(s);
+    return ExpJoin<L>(s);
 }
 
 // Lanes outside |a| <= 708.39, |b| < 2^24, NaNs and infinities among them.
@@ -94,10 +118,31 @@ BRENN_VEC __m128d ExpOutside(__m128d a, __m128d b) {
 template <Level L>
 struct ExpZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, ExpScalar> {
     static constexpr const char* kName = "vzExp";
-    static int Eval(const Cx<double>* x, const Cx<double>*, Cx<double>& y) {
+    static constexpr int kGroups = 4;
+    BRENN_VEC static int Eval(const Cx<double>* x, const Cx<double>*, Cx<double>& y) {
         __m128d special = ExpOutside(x->re, x->im);
         y = ExpOf<L>(IfThenZeroElse(special, x->re), IfThenZeroElse(special, x->im));
         return MaskBits(special);
+    }
+    BRENN_VEC static int EvalGroups(const Cx<double>* x, const Cx<double>*, Cx<double>* y) {
+        ExpState s[kGroups];
+        int bits = 0;
+#pragma GCC unroll 8
+        for (int g = 0; g < kGroups; ++g) {
+            __m128d special = ExpOutside(x[g].re, x[g].im);
+            ExpReduce(IfThenZeroElse(special, x[g].re), IfThenZeroElse(special, x[g].im), s[g]);
+            bits |= MaskBits(special) << (2 * g);
+        }
+#pragma GCC unroll 8
+        for (int g = 0; g < kGroups; ++g)
+            ExpPart<L>(s[g]);
+#pragma GCC unroll 8
+        for (int g = 0; g < kGroups; ++g)
+            TrigPart<L>(s[g]);
+#pragma GCC unroll 8
+        for (int g = 0; g < kGroups; ++g)
+            y[g] = ExpJoin<L>(s[g]);
+        return bits;
     }
 };
 

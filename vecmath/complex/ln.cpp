@@ -42,7 +42,7 @@ template <Level L>
 struct LnZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, LnScalar> {
     using Atan2 = invtrig::Atan2Body<double, L, invtrig::Unit::Radian>;
     static constexpr const char* kName = "vzLn";
-    static int Eval(const Cx<double>* x, const Cx<double>*, Cx<double>& y) {
+    BRENN_VEC static int Eval(const Cx<double>* x, const Cx<double>*, Cx<double>& y) {
         constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
         __m128d special =
             HighWordsToLanes(HighWordOutside<kLo, kHi>(LargerMagnitude(x->re, x->im)));

@@ -63,42 +63,80 @@ BRENN_VEC void Place(V x, V y, V t, V q, Cx<ElemOf<V>>& r) {
     r.im = IfThenElse(x, Or(t, SignBit(y)), q);
 }
 
-struct SqrtZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, SqrtScalar> {
-    static int Eval(const Cx<double>* z, const Cx<double>*, Cx<double>& y) {
-        constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
-        __m128d special =
-            HighWordsToLanes(HighWordOutside<kLo, kHi>(LargerMagnitude(z->re, z->im)));
-        __m128d x = IfThenElse(special, Set<double>(1), z->re);
-        __m128d w = IfThenZeroElse(special, z->im);
-        const __m128d half = Set<double>(0.5);
-        // |z| = mh + ml
-        __m128d sh, sl, ph, pl;
-        auto hx = SplitOnce(x), hw = SplitOnce(w);
-        SumOfProducts(hx, hx, hw, hw, sh, sl);
-        __m128d mh = Sqrt(sh);
-        auto hm = SplitOnce(mh);
-        ExactProduct(hm, hm, ph, pl);
-        __m128d ml = Div(Mul(Add(Sub(Sub(sh, ph), pl), sl), half), mh);
-        // v = (|x| + |z|)/2 = vh + vl
-        __m128d vh, vl;
-        TwoSum(Abs(x), mh, vh, vl);
-        vh = Mul(vh, half);
-        vl = Mul(Add(vl, ml), half);
-        // t = th + tl, and its reciprocal
-        __m128d th = Sqrt(vh);
-        __m128d inv = Div(Set<double>(1), th);
-        auto ht = SplitOnce(th);
-        ExactProduct(ht, ht, ph, pl);
-        __m128d tl = Mul(Mul(Add(Sub(Sub(vh, ph), pl), vl), half), inv);
-        // q = (w/2)/t, corrected by the exact residual
-        __m128d w2 = Mul(w, half);
-        __m128d q = Mul(w2, inv);
-        ExactProduct(SplitOnce(q), ht, ph, pl);
-        q = Add(q, Mul(Sub(Sub(Sub(w2, ph), pl), Mul(q, tl)), inv));
-        q = Xor(Abs(q), SignBit(w)); // y's sign, also where q is a zero
+// The double steps of one group, in three stretches that end at a root: |z| = mh + ml
+// from the squares, t's head from v = (|x| + |z|)/2, and the parts from t's reciprocal.
+// A round takes each stretch over all its groups before the next (EvalGroups), so that
+// the roots and divisions of the groups issue together.
+struct SqrtState {
+    __m128d special, x, w, sh, sl, mh, vh, vl, th;
+};
 
-        Place(x, w, Add(th, tl), q, y);
-        return MaskBits(special);
+BRENN_VEC void SqrtSquares(const Cx<double>& z, SqrtState& s) {
+    constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
+    s.special = HighWordsToLanes(HighWordOutside<kLo, kHi>(LargerMagnitude(z.re, z.im)));
+    s.x = IfThenElse(s.special, Set<double>(1), z.re);
+    s.w = IfThenZeroElse(s.special, z.im);
+    auto hx = SplitOnce(s.x), hw = SplitOnce(s.w);
+    SumOfProducts(hx, hx, hw, hw, s.sh, s.sl);
+    s.mh = Sqrt(s.sh);
+}
+
+BRENN_VEC void SqrtHalf(SqrtState& s) {
+    const __m128d half = Set<double>(0.5);
+    __m128d ph, pl;
+    auto hm = SplitOnce(s.mh);
+    ExactProduct(hm, hm, ph, pl);
+    __m128d ml = Div(Mul(Add(Sub(Sub(s.sh, ph), pl), s.sl), half), s.mh);
+    // v = (|x| + |z|)/2 = vh + vl
+    TwoSum(Abs(s.x), s.mh, s.vh, s.vl);
+    s.vh = Mul(s.vh, half);
+    s.vl = Mul(Add(s.vl, ml), half);
+    s.th = Sqrt(s.vh);
+}
+
+BRENN_VEC void SqrtParts(const SqrtState& s, Cx<double>& y) {
+    const __m128d half = Set<double>(0.5);
+    __m128d ph, pl;
+    // t = th + tl, and its reciprocal
+    __m128d th = s.th;
+    __m128d inv = Div(Set<double>(1), th);
+    auto ht = SplitOnce(th);
+    ExactProduct(ht, ht, ph, pl);
+    __m128d tl = Mul(Mul(Add(Sub(Sub(s.vh, ph), pl), s.vl), half), inv);
+    // q = (w/2)/t, corrected by the exact residual
+    __m128d w2 = Mul(s.w, half);
+    __m128d q = Mul(w2, inv);
+    ExactProduct(SplitOnce(q), ht, ph, pl);
+    q = Add(q, Mul(Sub(Sub(Sub(w2, ph), pl), Mul(q, tl)), inv));
+    q = Xor(Abs(q), SignBit(s.w)); // y's sign, also where q is a zero
+
+    Place(s.x, s.w, Add(th, tl), q, y);
+}
+
+struct SqrtZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, SqrtScalar> {
+    static constexpr int kGroups = 4;
+    BRENN_VEC static int Eval(const Cx<double>* z, const Cx<double>*, Cx<double>& y) {
+        SqrtState s;
+        SqrtSquares(*z, s);
+        SqrtHalf(s);
+        SqrtParts(s, y);
+        return MaskBits(s.special);
+    }
+    BRENN_VEC static int EvalGroups(const Cx<double>* z, const Cx<double>*, Cx<double>* y) {
+        SqrtState s[kGroups];
+#pragma GCC unroll 8
+        for (int g = 0; g < kGroups; ++g)
+            SqrtSquares(z[g], s[g]);
+#pragma GCC unroll 8
+        for (int g = 0; g < kGroups; ++g)
+            SqrtHalf(s[g]);
+        int bits = 0;
+#pragma GCC unroll 8
+        for (int g = 0; g < kGroups; ++g) {
+            SqrtParts(s[g], y[g]);
+            bits |= MaskBits(s[g].special) << (2 * g);
+        }
+        return bits;
     }
 };
 
