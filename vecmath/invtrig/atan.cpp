@@ -33,6 +33,7 @@
  * sAtan2pi 0.507 / 0.507 / 14.9; dAtan 0.621 (one kernel) / 30.5, dAtan2 0.961 / 0.582 /
  * 30.5, dAtanpi 0.743 / 0.743 / 30.5, dAtan2pi 0.692 / 0.692 / 30.5. */
 #include "frame/kernels.h"
+#include "vecmath/explog/flat.h"
 #include "vecmath/invtrig/atan_body.h"
 
 using namespace brenn::vm::invtrig;
@@ -43,6 +44,9 @@ ZAR_LEVEL_KERNELS(s, Atan, Unary, AtanRadian)
 ZAR_KERNEL_OF(d, Atan, LaHa, Unary, AtanRadian<double, Level::HA>)
 ZAR_KERNEL_OF(d, Atan, EP, Unary, AtanRadian<double, Level::EP>)
 ZAR_ROW_KERNELS(Atanpi, Unary, AtanpiBody)
-ZAR_ROW_KERNELS(Atan2, Binary, Atan2Radian)
+// Single Atan2 flattened: left to itself GCC keeps the HA body out of line, one call a
+// quad.
+BRENN_FLAT_LEVEL_KERNELS(s, Atan2, Binary, Atan2Radian)
+ZAR_LEVEL_KERNELS(d, Atan2, Binary, Atan2Radian)
 ZAR_ROW_KERNELS(Atan2pi, Binary, Atan2piBody)
 }
