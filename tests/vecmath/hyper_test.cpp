@@ -89,7 +89,8 @@ TEST(Hyper, ValuesWhereThePathsMeet) {
                             0x1.fffffep-4f, 0x1p-3f, 0.25f,     0.3465f,  0.3467f,       0.49999f, 0.5f,    0.50001f,
                             1.0f,      2.1008f,  5.0f,          9.49f,    9.99f,   10.0f,
                             10.01f,    15.5f,    21.4875f,      21.4876f, 40.0f,   87.3365f,
-                            87.33654f, 88.5f,    0x1.65a9f8p+6f};
+                            87.33654f, 88.5f,    89.4099f,      89.41f,   0x1.65a9f8p+6f,
+                            0x1.fffffep-126f, 0x1p-125f};
     const double dbl[] = {0x1p-1022,
                           0x1p-60,
                           0x1p-53,

@@ -9,8 +9,9 @@
  * single arithmetic with the leading sum split exactly (HyperSingleHA below).
  * Double: the halves of e^a from the exponential's table of 64 (hyper_core.h); HA sums the
  * heads exactly.
- * Range test on |x|: from 87.3365 (single) or 710.4702 (double) up, and infinities and NaN, to
- * the scalar routine (hyper_scalar.h), which settles overflow with status 3.
+ * Range test on |x|: from 87.3365 (single LA), 89.41 (single EP), 89.4160 (single HA: the
+ * overflow point) or 710.4702 (double) up, and infinities and NaN, to the scalar routine
+ * (hyper_scalar.h), which settles overflow with status 3.
  *
  * Measured (brenn_accuracy): see the rows' lines in docs/accuracy.md. */
 #include "frame/kernels.h"
@@ -29,9 +30,14 @@ struct CoshWindow;
 template <>
 struct CoshWindow<float> {
     static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x42AEAC4Du}; // |x| >= 87.3365326
-    // The same and |x| below the normals: the single HA Sinh leaves
-    // denormals to the scalar routine for their underflow flag.
-    static constexpr Range32 kWithDenormals = {0x7FFFFFFFu, 0x7F800000u, 0xC22EAC4Du};
+    // HA: |x| >= 89.4159927, where single Cosh and Sinh overflow; EP: |x| >= 89.41, where
+    // its 2^-13 stays clear of that point. Sinh's windows also take |x| below 2^-125:
+    // denormals for their underflow flag, and the least normals, whose halves in the
+    // bodies below would be denormal (the scalar routine returns x).
+    static constexpr Range32 kWindowHA = {0x7FFFFFFFu, 0u, 0x42B2D4FCu};
+    static constexpr Range32 kSinhWindowHA = {0x7FFFFFFFu, 0x7F000000u, 0xC1B2D4FCu};
+    static constexpr Range32 kWindowEP = {0x7FFFFFFFu, 0u, 0x42B2D1EBu};
+    static constexpr Range32 kSinhWindowEP = {0x7FFFFFFFu, 0x7F000000u, 0xC1B2D1EBu};
 };
 template <>
 struct CoshWindow<double> {
@@ -55,7 +61,10 @@ constexpr float kCoshEP[] = {0.5f, 0x1.56044ap-5f};
 
 enum class Fn { Cosh, Sinh };
 
-// The single both-exponentials body on a = |x| (special lanes zero).
+// The single both-exponentials body on a = |x| (special lanes zero). EP runs on up to
+// 89.41, where n reaches 129 and 2^(n-1) leaves the format: its scales are made a half
+// smaller, 2^(n-2) and 2^(-n-2) (held at 0 from n = 125 on, where it no longer counts),
+// and the result doubled, exactly.
 template <Fn F, Level L>
 inline __m128 BothExps(__m128 a) {
     const __m128 shifter = Set<float>(Format<float>::kShifter);
@@ -69,9 +78,14 @@ inline __m128 BothExps(__m128 a) {
     // The shifter's low bits hold n; shifted into the exponent field, the shifter's own
     // bits leave the word.
     I32x4 nf = ShiftLeft<Format<float>::kMantBits>(AsInt(t));
-    const I32x4 half = Set<uint32_t>(0x3F000000u);
+    constexpr bool wide = L == Level::EP;
+    const I32x4 half = Set<uint32_t>(wide ? 0x3E800000u : 0x3F000000u);
     __m128 e1 = AsFloat(Add(half, nf));
-    __m128 e2 = AsFloat(Sub(half, nf));
+    __m128 e2;
+    if constexpr (wide)
+        e2 = AsFloat(Max(Sub(half, nf), Set<int32_t>(0)));
+    else
+        e2 = AsFloat(Sub(half, nf));
     __m128 r2 = Mul(r, r);
     __m128 s, c;
     if constexpr (L == Level::EP) {
@@ -82,10 +96,12 @@ inline __m128 BothExps(__m128 a) {
         c = Mul(r2, Horner(r2, kCoshLA));
     }
     __m128 p = Add(e1, e2), m = Sub(e1, e2);
+    __m128 y;
     if constexpr (F == Fn::Cosh)
-        return Add(p, Add(Mul(c, p), Mul(m, s)));
+        y = Add(p, Add(Mul(c, p), Mul(m, s)));
     else
-        return Add(m, Add(Mul(c, m), Mul(p, s)));
+        y = Add(m, Add(Mul(c, m), Mul(p, s)));
+    return wide ? Add(y, y) : y;
 }
 
 // The double path on a = |x| in [0, 710.4702]: HA exact sums, HA and LA the degree-5 tail
@@ -177,8 +193,10 @@ BRENN_VEC int HalvesRound(const __m128d* x, __m128d* y) {
 // carries the only other roundings. Sinh takes n = 0 below 1/8, where the leading
 // difference would cancel: there the result is O alone, fitted on [0, 1/8]
 // (tools/hyper/sinh_single_ha.sollya, 2^-33.75); elsewhere E = r^2/2 and O = r + r^3/6
-// (the next terms below 2^-34). B's power is held at 2^-61 and up, which keeps B and
-// its tail normal where they no longer count.
+// (the next terms below 2^-34). The vector path runs up to the overflow point, where m
+// reaches 129: the scales are made a half smaller, 2^(m-2) and 2^(-m-2), and the result
+// doubled, exactly. B's power is held at 2^-62 and up, which keeps B and its tail normal
+// where they no longer count.
 constexpr float kInvStepS = 0x1.715476p+6f;   // 64/ln2, 92.3324814
 constexpr float kStepHiS = 0x1.63p-7f;        // ln2/64, head: 0.0108337402
 constexpr float kStepLoS = -0x1.bd0106p-19f;  // and the rest: -3.31553815e-06
@@ -200,9 +218,9 @@ inline __m128 HyperSingleHA(__m128 a) {
                    hyperExpRowsS[i.at[2] & 63], hyperExpRowsS[i.at[3] & 63], th, tl, uh, ul);
     // m in the exponent field: the shifter's bits leave the word.
     I32x4 mf = ShiftLeft<Format<float>::kMantBits>(ShiftRight<6>(AsInt(t)));
-    const I32x4 half = Set<uint32_t>(0x3F000000u);
-    __m128 e1 = AsFloat(Add(half, mf));
-    __m128 e2 = AsFloat(Max(Sub(half, mf), Set<int32_t>(0x21000000))); // 2^-61 and up
+    const I32x4 quarter = Set<uint32_t>(0x3E800000u);
+    __m128 e1 = AsFloat(Add(quarter, mf));
+    __m128 e2 = AsFloat(Max(Sub(quarter, mf), Set<int32_t>(0x20800000))); // 2^-62 and up
     __m128 ah = Mul(e1, th), al = Mul(e1, tl);
     __m128 bh = Mul(e2, uh), bl = Mul(e2, ul);
     __m128 r2 = Mul(r, r);
@@ -223,7 +241,8 @@ inline __m128 HyperSingleHA(__m128 a) {
         tails = Sub(al, bl);
     }
     __m128 lo = Add(Add(err, tails), Add(Mul(s, e), Mul(other, o)));
-    return Add(s, lo);
+    __m128 y = Add(s, lo);
+    return Add(y, y);
 }
 
 template <Fn F, Level L>
@@ -243,12 +262,15 @@ struct HyperBody {
     using T = Tp;
     using V = Vec<T>;
     static BRENN_VEC V Eval(V x, V& special) {
-        constexpr bool denormals = F == Fn::Sinh && L == Level::HA && sizeof(T) == 4;
-        if constexpr (denormals)
-            special = RangeTest(x, CoshWindow<float>::kWithDenormals);
-        else
+        using W = CoshWindow<float>;
+        constexpr bool sinh = F == Fn::Sinh;
+        if constexpr (sizeof(T) == 8 || L == Level::LA)
             special = RangeTest(x, CoshWindow<T>::kWindow);
-        V a = IfThenElse(special, Zero<T>(), Abs(x)); // special lanes run on 0
+        else if constexpr (L == Level::EP)
+            special = RangeTest(x, sinh ? W::kSinhWindowEP : W::kWindowEP);
+        else
+            special = RangeTest(x, sinh ? W::kSinhWindowHA : W::kWindowHA);
+        V a = IfThenZeroElse(special, Abs(x)); // special lanes run on 0
         V y = HyperOf<F, L>(a);
         if constexpr (F == Fn::Sinh) y = Or(y, SignBit(x));
         return y;
