@@ -30,7 +30,7 @@ struct QuietBody {
     using V = Vec<T>;
     static BRENN_VEC V Eval(V x, V& special) {
         special = RangeTest(x, InfNaNWindow<T>::kWindow);
-        return Op::template Of<L>(IfThenElse(special, Zero<T>(), x)); // special lanes on 0
+        return Op::template Of<L>(IfThenZeroElse(special, x)); // special lanes on 0
     }
     static int Scalar(const T* a, T* y) { return Op::Scalar(a, y); }
     // Double rounds of sixteen: Op's own Round<L>(x, y) where it has one (the round step
@@ -46,7 +46,7 @@ struct QuietBody {
             for (int k = 0; k < N; ++k) {
                 V special = RangeTest(x[k], InfNaNWindow<T>::kWindow);
                 bits |= MaskBits(special) << (k * kLanes<T>);
-                xs[k] = IfThenElse(special, Zero<T>(), x[k]);
+                xs[k] = IfThenZeroElse(special, x[k]);
             }
             Op::template Round<L>(xs, y);
             return bits;
