@@ -172,6 +172,30 @@ struct ArgBody {
     static int Scalar(const In* x, const In*, Out* y) { return Atan2::Scalar(&x->im, &x->re, y); }
 };
 
+// Double: rounds of four groups, each step of the angle over all of them, so that the
+// divisions issue together and the series' chains overlap.
+template <Level L>
+struct ArgZ : ArgBody<double, L> {
+    using Atan2 = typename ArgBody<double, L>::Atan2;
+    static constexpr int kGroups = 4;
+    BRENN_VEC static int EvalGroups(const Cx<double>* x, const Cx<double>*, Cx<double>* y) {
+        typename Atan2::Steps t[kGroups];
+#pragma GCC unroll 8
+        for (int g = 0; g < kGroups; ++g)
+            Atan2::Start(x[g].im, x[g].re, t[g]);
+#pragma GCC unroll 8
+        for (int g = 0; g < kGroups; ++g)
+            Atan2::Middle(t[g]);
+        int bits = 0;
+#pragma GCC unroll 8
+        for (int g = 0; g < kGroups; ++g) {
+            y[g].re = Atan2::End(t[g]);
+            bits |= MaskBits(t[g].special) << (2 * g);
+        }
+        return bits;
+    }
+};
+
 } // namespace
 } // namespace brenn::vm::cx
 
@@ -186,9 +210,9 @@ ZAR_COMPLEX_KERNEL(c, Abs, LA, AbsArg, AbsCLight)
 ZAR_COMPLEX_KERNEL(c, Abs, HA, AbsArg, AbsC)
 ZAR_COMPLEX_KERNEL(c, Abs, EP, AbsArg, AbsCLight)
 
-ZAR_COMPLEX_KERNEL(z, Arg, LA, AbsArg, ArgBody<double, Level::LA>)
-ZAR_COMPLEX_KERNEL(z, Arg, HA, AbsArg, ArgBody<double, Level::HA>)
-ZAR_COMPLEX_KERNEL(z, Arg, EP, AbsArg, ArgBody<double, Level::EP>)
+ZAR_COMPLEX_KERNEL(z, Arg, LA, AbsArg, ArgZ<Level::LA>)
+ZAR_COMPLEX_KERNEL(z, Arg, HA, AbsArg, ArgZ<Level::HA>)
+ZAR_COMPLEX_KERNEL(z, Arg, EP, AbsArg, ArgZ<Level::EP>)
 ZAR_COMPLEX_KERNEL(c, Arg, LA, AbsArg, ArgBody<float, Level::LA>)
 ZAR_COMPLEX_KERNEL(c, Arg, HA, AbsArg, ArgBody<float, Level::HA>)
 ZAR_COMPLEX_KERNEL(c, Arg, EP, AbsArg, ArgBody<float, Level::EP>)

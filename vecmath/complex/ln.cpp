@@ -56,6 +56,46 @@ struct LnZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, LnScalar
         y.im = Atan2::Eval(x->im, x->re, angle);
         return MaskBits(Or(special, angle));
     }
+
+    // A round of four groups in three steps, each over all of them: |z|^2, the log's
+    // reduction and the phase's quotient; their polynomials; the parts.
+    static constexpr int kGroups = 4;
+    struct State {
+        __m128d special, ratio, h, r, t;
+        LnReduction red;
+        typename Atan2::Steps phase;
+    };
+    BRENN_VEC static void Start(const Cx<double>& x, State& s) {
+        constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
+        s.special = HighWordsToLanes(HighWordOutside<kLo, kHi>(LargerMagnitude(x.re, x.im)));
+        __m128d re = IfThenElse(s.special, Set<double>(1), x.re);
+        __m128d im = IfThenZeroElse(s.special, x.im);
+        __m128d sh, sl;
+        auto hr = SplitOnce(re), hi = SplitOnce(im);
+        SumOfProducts(hr, hr, hi, hi, sh, sl);
+        s.red = LnReduce(sh);
+        s.ratio = Div(sl, sh);
+        Atan2::Start(x.im, x.re, s.phase);
+    }
+    BRENN_VEC static int EvalGroups(const Cx<double>* x, const Cx<double>*, Cx<double>* y) {
+        State s[kGroups];
+#pragma GCC unroll 8
+        for (int g = 0; g < kGroups; ++g)
+            Start(x[g], s[g]);
+#pragma GCC unroll 8
+        for (int g = 0; g < kGroups; ++g) {
+            LnCore3From<L>(s[g].red, s[g].h, s[g].r, s[g].t);
+            Atan2::Middle(s[g].phase);
+        }
+        int bits = 0;
+#pragma GCC unroll 8
+        for (int g = 0; g < kGroups; ++g) {
+            y[g].re = HalfLogJoin(s[g].h, s[g].r, s[g].t, s[g].ratio);
+            y[g].im = Atan2::End(s[g].phase);
+            bits |= MaskBits(Or(s[g].special, s[g].phase.special)) << (2 * g);
+        }
+        return bits;
+    }
 };
 
 template <Level L>

@@ -11,12 +11,17 @@
 
 namespace brenn::vm::cx {
 
+// ln|z| from ln sh = h + r + t (LnCore3) and the quotient sl/sh of s = sh + sl.
+BRENN_VEC __m128d HalfLogJoin(__m128d h, __m128d r, __m128d t, __m128d ratio) {
+    return Mul(Add(h, Add(r, Add(t, ratio))), Set<double>(0.5));
+}
+
 // ln|z| from s = sh + sl, at the level.
 template <Level L>
 BRENN_VEC __m128d HalfLog(__m128d sh, __m128d sl) {
     __m128d h, r, t;
     LnCore3<L>(sh, h, r, t);
-    return Mul(Add(h, Add(r, Add(t, Div(sl, sh)))), Set<double>(0.5));
+    return HalfLogJoin(h, r, t, Div(sl, sh));
 }
 
 // ln|z| and arg z in double of two single elements widened to a, b; special lanes (zeros,

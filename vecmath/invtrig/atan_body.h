@@ -28,56 +28,77 @@ constexpr double kTanThreeEighths = 0x1.3504f333f9de6p+1;
 // Wide: single lanes in double (the pi-scaled single rows and the complex Arg's single
 // HA), where the order of the last steps is free (S a coefficient set): the tail's
 // product with q comes last, off the series, and base + q runs alongside it.
-template <Unit U, class S, bool Comp, bool Wide = false>
-BRENN_VEC __m128d AngleOf(__m128d a, __m128d b) {
-    const __m128d one = Set<double>(1.0);
+// In three steps, the quotient, its series and correction, the angle, so that a round
+// of several registers can take each over all of them before the next (Atan2Body's
+// EvalSteps, for the complex Arg and Ln).
+struct AngleState {
+    __m128d a, k, flip, fold, nh, nl, dh, dl, q, l;
+};
+template <bool Comp>
+BRENN_VEC void AngleQuotient(__m128d a, __m128d b, AngleState& s) {
     __m128d ay = Abs(a), ax = Abs(b);
     __m128d swap = AsFloat(Gt(AsInt(ay), AsInt(ax)));
     __m128d n = IfThenElse(swap, ax, ay);
     __m128d d = IfThenElse(swap, ay, ax);
-    __m128d k = IfThenElse(swap, Set<double>(2), IfThenElse(b, Set<double>(4), Zero<double>()));
-    __m128d flip = Xor(And(swap, SignMask<double>()), SignBit(b));
+    s.a = a;
+    s.k = IfThenElse(swap, Set<double>(2), IfThenElse(b, Set<double>(4), Zero<double>()));
+    s.flip = Xor(And(swap, SignMask<double>()), SignBit(b));
     // Above tan(pi/8): atan(n/d) = pi/4 + atan((n - d)/(n + d)). Compared as integers:
     // both are magnitudes, and a NaN raises nothing (it lands in one branch or the other
     // and comes out of the quotient).
     __m128d fold = AsFloat(Gt(AsInt(n), AsInt(Mul(d, Set<double>(kTanEighth)))));
-    __m128d nh, nl, dh, dl;
+    s.fold = fold;
     if constexpr (Comp) {
         // Folded lanes have d below 2^500; the others must not make inf - inf here.
         // n is at most d (and at most 1 where d is clamped), so the fast exact sums.
         __m128d dc = AtMost(d, 0x1p510);
-        FastTwoSum(Neg(dc), n, nh, nl);
-        FastTwoSum(dc, n, dh, dl);
-        nh = IfThenElse(fold, nh, n);
-        nl = IfThenElseZero(fold, nl);
-        dh = IfThenElse(fold, dh, d);
-        dl = IfThenElseZero(fold, dl);
+        FastTwoSum(Neg(dc), n, s.nh, s.nl);
+        FastTwoSum(dc, n, s.dh, s.dl);
+        s.nh = IfThenElse(fold, s.nh, n);
+        s.nl = IfThenElseZero(fold, s.nl);
+        s.dh = IfThenElse(fold, s.dh, d);
+        s.dl = IfThenElseZero(fold, s.dl);
     } else {
-        nh = IfThenElse(fold, Sub(n, d), n);
-        dh = IfThenElse(fold, Add(n, d), d);
+        s.nh = IfThenElse(fold, Sub(n, d), n);
+        s.dh = IfThenElse(fold, Add(n, d), d);
     }
-    __m128d q = Div(nh, dh);
-    __m128d l;
+    s.q = Div(s.nh, s.dh);
+}
+template <class S, bool Comp, bool Wide>
+BRENN_VEC void AngleTail(AngleState& s) {
+    __m128d q = s.q;
     if constexpr (Wide)
-        l = Mul(q, Mul(Mul(q, q), Estrin(Mul(q, q), S::kP)));
+        s.l = Mul(q, Mul(Mul(q, q), Estrin(Mul(q, q), S::kP)));
     else
-        l = S::Tail(Mul(q, q), q);
+        s.l = S::Tail(Mul(q, q), q);
     if constexpr (Comp) {
         // The quotient's error from the exact residual. The product's split needs d below
         // about 2^995; the clamp also keeps an infinite d out of it.
-        __m128d dm = AtMost(dh, 0x1p510);
+        __m128d dm = AtMost(s.dh, 0x1p510);
         __m128d ph, pl;
         TwoProduct(q, dm, ph, pl);
-        __m128d r = Sub(Add(Sub(Sub(nh, ph), pl), nl), Mul(q, dl));
-        l = Add(l, Div(r, dh));
+        __m128d r = Sub(Add(Sub(Sub(s.nh, ph), pl), s.nl), Mul(q, s.dl));
+        s.l = Add(s.l, Div(r, s.dh));
     }
-    k = Add(k, IfThenElseZero(fold, Or(one, And(flip, SignMask<double>()))));
+}
+template <Unit U, bool Comp, bool Wide>
+BRENN_VEC __m128d AngleFinish(const AngleState& s) {
+    const __m128d one = Set<double>(1.0);
+    __m128d k = Add(s.k, IfThenElseZero(s.fold, Or(one, And(s.flip, SignMask<double>()))));
     __m128d y;
     if constexpr (Wide && U == Unit::Radian)
-        y = Add(Add(Mul(k, Set<double>(Quarter<double, U>::kHi)), Xor(q, flip)), Xor(l, flip));
+        y = Add(Add(Mul(k, Set<double>(Quarter<double, U>::kHi)), Xor(s.q, s.flip)),
+                Xor(s.l, s.flip));
     else
-        y = Finish<U, Comp>(k, Xor(q, flip), Xor(l, flip));
-    return Xor(y, SignBit(a));
+        y = Finish<U, Comp>(k, Xor(s.q, s.flip), Xor(s.l, s.flip));
+    return Xor(y, SignBit(s.a));
+}
+template <Unit U, class S, bool Comp, bool Wide = false>
+BRENN_VEC __m128d AngleOf(__m128d a, __m128d b) {
+    AngleState s;
+    AngleQuotient<Comp>(a, b, s);
+    AngleTail<S, Comp, Wide>(s);
+    return AngleFinish<U, Comp, Wide>(s);
 }
 
 // Single Atan EP and LA on [0, 1] after the fold t = -1/|x| above 1.
@@ -474,6 +495,21 @@ struct Atan2Body {
         return Atan2Of<U, L, Fast>(IfThenElse(special, one, a), IfThenElse(special, one, b));
     }
     static int Scalar(const T* a, const T* b, T* y) { return Atan2Scalar<U>(a, b, y); }
+
+    // Double: N pairs of registers, each step of the angle over all of them before the
+    // next (the same arithmetic as Eval's, register by register).
+    static constexpr bool kComp = L == Level::HA || U == Unit::Pi;
+    struct Steps {
+        V special;
+        AngleState s;
+    };
+    static BRENN_VEC void Start(V a, V b, Steps& t) {
+        t.special = Or(RangeTest(a, kRangeOf<T, L, U, Fast>), RangeTest(b, kRangeOf<T, L, U, Fast>));
+        const V one = Set<T>(1);
+        AngleQuotient<kComp>(IfThenElse(t.special, one, a), IfThenElse(t.special, one, b), t.s);
+    }
+    static BRENN_VEC void Middle(Steps& t) { AngleTail<DoubleSeriesOf<L>, kComp, false>(t.s); }
+    static BRENN_VEC V End(const Steps& t) { return AngleFinish<U, kComp, false>(t.s); }
 };
 
 template <class T, Level L>
