@@ -19,6 +19,7 @@
  * which stays. */
 #include <math.h>
 
+#include "vecmath/complex/ext_core.h"
 #include "vecmath/complex/extended.h"
 
 namespace brenn::vm::cx {
@@ -26,7 +27,7 @@ namespace {
 
 constexpr LD kPiOver2 = 1.57079632679489661923132169163975144L;
 
-int AtanhOf(LD x, LD y, LD& re, LD& im) {
+[[gnu::always_inline]] inline int AtanhOf(LD x, LD y, LD& re, LD& im) {
     if (__builtin_isnan(x) || __builtin_isnan(y)) {
         if (__builtin_isinf(x)) {
             re = __builtin_copysignl(0, x);
@@ -49,13 +50,13 @@ int AtanhOf(LD x, LD y, LD& re, LD& im) {
             return status::kSingularity;
         }
         re = __builtin_copysignl(0.25L * log1pl(4 * ax / (d * d + y * y)), x);
-        im = 0.5L * atan2l(2 * y, d * (1 + ax) - y * y);
+        im = 0.5L * PhaseX(2 * y, d * (1 + ax) - y * y);
     }
     return status::kNone;
 }
 
 // Atan's row never reports: the status of atanh's pole is dropped.
-int AtanOf(LD x, LD y, LD& re, LD& im) {
+[[gnu::always_inline]] inline int AtanOf(LD x, LD y, LD& re, LD& im) {
     Rotated<AtanhOf, true>(x, y, re, im);
     return status::kNone;
 }

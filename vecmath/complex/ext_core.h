@@ -1,26 +1,32 @@
-/* The extended-precision sine, cosine, hyperbolic sine and cosine of the complex rows
- * computed element by element (extended.h), in place of the C library's long double
- * functions, which cost several times as much (the unit's transcendental instructions
- * and general reductions). They need the x87 precision field at 64 bits (the kernels'
- * entry rule) and finite arguments within the bounds told below; errors a few extended
- * ulps, so that a part rounded to double is within about half an ulp and 2^-9 of one.
- * Constants and tables are exact pairs of doubles (gamma/ext_const.h: an 80-bit load is
- * microcoded), the polynomials' coefficients fitted by tools/complex/ext_core.sollya.
+/* The extended-precision sine, cosine, hyperbolic sine and cosine, and phase of the
+ * complex rows computed element by element (extended.h), in place of the C library's
+ * long double functions, which cost several times as much (the unit's transcendental
+ * instructions and general reductions). They need the x87 precision field at 64 bits
+ * (the kernels' entry rule) and finite arguments within the bounds told below; errors
+ * a few extended ulps, so that a part rounded to double is within about half an ulp
+ * and 2^-9 of one. Constants and tables are exact pairs of doubles (gamma/ext_const.h:
+ * an 80-bit load is microcoded), the polynomials' coefficients fitted by
+ * tools/complex/ext_core.sollya.
  *   SinCosCore(y), |y| < 2^26: y = k pi/64 + r, |r| <= pi/128, with pi/64 in three
  *     parts (the first two of 32 bits, so that k times them is exact and the first
  *     difference too); with a = (k mod 128) pi/64 from one table of sines,
  *       sin y = sin a + (sin a (cos r - 1) + cos a sin r)
  *       cos y = cos a + (cos a (cos r - 1) - sin a sin r)
- *     and short polynomials in r. Where sin a or cos a is 0 the other is +-1 and the
- *     result is +-sin r or +-cos r, which keeps its relative accuracy near the zeros.
+ *     and short polynomials in r, sin a and cos a each in two parts. Where sin a or
+ *     cos a is 0 the other is +-1 and the result is +-sin r or +-cos r, which keeps
+ *     its relative accuracy near the zeros.
  *   CoshSinhCore(x), |x| <= 11000: near zero (|x| < 1/4) sinh x by its polynomial and
- *     cosh x = sqrt(1 + sinh^2 x); above, from E = e^|x| (gamma/ext_math.h) and 1/E. */
+ *     cosh x = sqrt(1 + sinh^2 x); above, from E = e^|x| by the table of 2^(j/64) in
+ *     two parts and Taylor's polynomial (ExpCore), and 1/E.
+ *   PhaseX(y, x): atan2 by the unit's own instruction. */
 #ifndef BRENN_VECMATH_COMPLEX_EXT_CORE_H
 #define BRENN_VECMATH_COMPLEX_EXT_CORE_H
 
+#include <stddef.h>
 #include <stdint.h>
 
 #include "vecmath/complex/ext_core_tables.h"
+#include "vecmath/complex/pow_tables.h"
 #include "vecmath/gamma/ext_math.h"
 
 namespace brenn::vm::cx {
@@ -28,7 +34,28 @@ namespace brenn::vm::cx {
 namespace core {
 using gamma::Join;
 using gamma::Poly;
-inline constexpr auto kSinSteps2 = gamma::Split2(kSinSteps);
+// The table's rows as exact pairs of doubles (the extended value) and the double rest.
+struct Step {
+    gamma::Ext2 hi;
+    double lo;
+};
+template <size_t N>
+struct Steps {
+    Step v[N];
+};
+template <size_t N>
+constexpr Steps<N> SplitSteps(const long double (&a)[N][2]) {
+    Steps<N> t{};
+    for (size_t i = 0; i < N; ++i)
+        t.v[i] = {gamma::Split2(a[i][0]), static_cast<double>(a[i][1])};
+    return t;
+}
+inline constexpr auto kSinSteps2 = SplitSteps(kSinSteps);
+inline constexpr auto kExpSteps2 = SplitSteps(kPowExpRows); // 2^(j/64)
+// e^r - 1 - r = r^2 (1/2 + r/6 + ...), Taylor's coefficients to r^7
+inline constexpr long double kExpTaylor[6] = {1.0L / 2,   1.0L / 6,   1.0L / 24,
+                                              1.0L / 120, 1.0L / 720, 1.0L / 5040};
+inline constexpr auto kExpP = gamma::SplitPoly<0>(kExpTaylor);
 inline constexpr gamma::Ext2 kPiStepC2 = gamma::Split2(kPiStepC);
 inline constexpr auto kSinP = gamma::SplitPoly<1>(kSinRest);
 inline constexpr auto kCosP = gamma::SplitPoly<1>(kCosRest);
@@ -52,10 +79,30 @@ inline constexpr auto kSinhP = gamma::SplitPoly<1>(kSinhSmall);
     const long double r2 = r * r;
     const long double sr = r + r * r2 * core::Poly(r2, core::kSinP);
     const long double cm = r2 * core::Poly(r2, core::kCosP); // cos r - 1
-    const long double sa = core::Join(core::kSinSteps2.v[k]);
-    const long double ca = core::Join(core::kSinSteps2.v[(k + 32) & 127]);
-    s = sa + (sa * cm + ca * sr);
-    c = ca + (ca * cm - sa * sr);
+    const core::Step& ps = core::kSinSteps2.v[k];
+    const core::Step& pc = core::kSinSteps2.v[(k + 32) & 127];
+    const long double sa = core::Join(ps.hi), ca = core::Join(pc.hi);
+    s = sa + ((ps.lo + sa * cm) + ca * sr);
+    c = ca + ((pc.lo + ca * cm) - sa * sr);
+}
+
+// e^a for 0 <= a <= 11000: a = (64 k + j) ln2/64 + r, |r| <= ln2/128, and
+// e^a = 2^k (T + (T' + T (e^r - 1))) with 2^(j/64) = T + T' (pow_tables.h), so that the
+// step's rounding does not add to the result's.
+[[gnu::always_inline]] inline long double ExpCore(long double a) {
+    constexpr double kInvStep = 0x1.71547652b82fep+6;    // 64 / ln 2, to double
+    constexpr double kStepHi = 0xb17217f7d2000000p-70;   // ln2/64, 40 bits
+    constexpr double kStepLo = -0xc21950d871319ff0p-112; // the rest, to double
+    constexpr double kShifter = 0x1.8p63;
+    const long double t = (a * kInvStep + kShifter) - kShifter;
+    const int64_t n = static_cast<int64_t>(t);
+    const long double r = (a - t * kStepHi) - t * kStepLo;
+    const long double p = r + r * r * core::Poly(r, core::kExpP);
+    const core::Step& row = core::kExpSteps2.v[n & 63];
+    const long double h = core::Join(row.hi);
+    const int k = static_cast<int>(n >> 6);
+    return (h + (row.lo + h * p)) *
+           (k <= 1023 ? gamma::ext::Pow2(k) : gamma::ext::FromBits(1ULL << 63, 16383 + k));
 }
 
 // cosh x and sinh x for |x| <= 11000.
@@ -66,9 +113,18 @@ inline constexpr auto kSinhP = gamma::SplitPoly<1>(kSinhSmall);
         ch = core::SqrtX(1 + sh * sh);
         return;
     }
-    const long double e = gamma::ext::Exp(a), h = 0.5L / e;
+    const long double e = ExpCore(a), h = 0.5L / e;
     ch = 0.5L * e + h;
     sh = __builtin_copysignl(0.5L * e - h, x);
+}
+
+// atan2(y, x) of finite parts by the unit's own instruction, within about an extended
+// ulp, signed zeros by the quadrant rules: the C library's atan2l, atanl, asinl and
+// acosl wrap the same instruction in calls and checks that cost as much again.
+[[gnu::always_inline]] inline long double PhaseX(long double y, long double x) {
+    long double r;
+    __asm__("fpatan" : "=t"(r) : "0"(x), "u"(y) : "st(1)");
+    return r;
 }
 
 } // namespace brenn::vm::cx

@@ -28,6 +28,7 @@
  * reported: none of the four has a pole or a domain error. */
 #include <math.h>
 
+#include "vecmath/complex/ext_core.h"
 #include "vecmath/complex/extended.h"
 
 namespace brenn::vm::cx {
@@ -41,32 +42,33 @@ struct Hft {
     LD asinAngle, acosAngle, L;
 };
 
-Hft HftOf(LD x, LD y) {
+[[gnu::always_inline]] inline Hft HftOf(LD x, LD y) {
     const LD y2 = y * y;
-    const LD R = sqrtl((x + 1) * (x + 1) + y2), S = sqrtl((x - 1) * (x - 1) + y2);
+    const LD R = core::SqrtX((x + 1) * (x + 1) + y2), S = core::SqrtX((x - 1) * (x - 1) + y2);
     const LD A = (R + S) * 0.5L, B = x / A;
     Hft h;
     if (B <= 0.6417L) {
-        h.asinAngle = asinl(B);
-        h.acosAngle = acosl(B);
+        const LD c = core::SqrtX((1 - B) * (1 + B)); // cos of the angle, B its sine
+        h.asinAngle = PhaseX(B, c);
+        h.acosAngle = PhaseX(c, B);
     } else {
-        LD D = x <= 1 ? sqrtl(0.5L * (A + x) * (y2 / (R + x + 1) + (S + (1 - x))))
-                      : y * sqrtl(0.5L * ((A + x) / (R + x + 1) + (A + x) / (S + (x - 1))));
+        LD D = x <= 1 ? core::SqrtX(0.5L * (A + x) * (y2 / (R + x + 1) + (S + (1 - x))))
+                      : y * core::SqrtX(0.5L * ((A + x) / (R + x + 1) + (A + x) / (S + (x - 1))));
         // D = 0 on the real axis beyond 1: the angles are exact there (no division)
-        h.asinAngle = D == 0 ? kPiOver2 : atanl(x / D);
-        h.acosAngle = D == 0 ? 0 : atanl(D / x);
+        h.asinAngle = D == 0 ? kPiOver2 : PhaseX(x, D);
+        h.acosAngle = D == 0 ? 0 : PhaseX(D, x);
     }
     if (A <= 1.5L) {
         LD am1 = x < 1 ? 0.5L * (y2 / (R + x + 1) + y2 / (S + (1 - x)))
                        : 0.5L * (y2 / (R + x + 1) + (S + (x - 1)));
-        h.L = log1pl(am1 + sqrtl(am1 * (A + 1)));
+        h.L = log1pl(am1 + core::SqrtX(am1 * (A + 1)));
     } else {
-        h.L = logl(A + sqrtl(A * A - 1));
+        h.L = logl(A + core::SqrtX(A * A - 1));
     }
     return h;
 }
 
-int AcosOf(LD x, LD y, LD& re, LD& im) {
+[[gnu::always_inline]] inline int AcosOf(LD x, LD y, LD& re, LD& im) {
     if (__builtin_isnan(x) || __builtin_isnan(y)) {
         if (__builtin_isinf(x)) { // NaN +- i inf, the sign free
             re = y;
@@ -89,7 +91,7 @@ int AcosOf(LD x, LD y, LD& re, LD& im) {
     return status::kNone;
 }
 
-int AsinhOf(LD x, LD y, LD& re, LD& im) {
+[[gnu::always_inline]] inline int AsinhOf(LD x, LD y, LD& re, LD& im) {
     if (__builtin_isnan(x) || __builtin_isnan(y)) {
         if (__builtin_isinf(x)) {
             re = x;
@@ -114,7 +116,7 @@ int AsinhOf(LD x, LD y, LD& re, LD& im) {
     return status::kNone;
 }
 
-int AcoshOf(LD x, LD y, LD& re, LD& im) {
+[[gnu::always_inline]] inline int AcoshOf(LD x, LD y, LD& re, LD& im) {
     LD a, b;
     AcosOf(x, y, a, b);
     re = fabsl(b);

@@ -32,14 +32,7 @@ inline LD YLog2XP1(LD x, LD y) {
     __asm__("fyl2xp1" : "=t"(r) : "0"(x), "u"(y) : "st(1)");
     return r;
 }
-// atan2(y, x) of finite parts, signed zeros by the quadrant rules.
-inline LD Phase(LD y, LD x) {
-    LD r;
-    __asm__("fpatan" : "=t"(r) : "0"(x), "u"(y) : "st(1)");
-    return r;
-}
-
-int Log10Of(LD a, LD b, LD& re, LD& im) {
+[[gnu::always_inline]] inline int Log10Of(LD a, LD b, LD& re, LD& im) {
     if (!(__builtin_isfinite(a) && __builtin_isfinite(b)) || (a == 0 && b == 0)) {
         int st = CLogX(a, b, re, im);
         re *= kLog10OfE;
@@ -55,7 +48,7 @@ int Log10Of(LD a, LD b, LD& re, LD& im) {
     const LD t = x >= 0.5L && x <= 2.0L ? (x - 1) * (x + 1) + y * y : 1;
     re = __builtin_fabsl(t) < 0.29L ? YLog2XP1(t, kHalfLog10Of2)
                                     : YLog2X(x * x + y * y, kHalfLog10Of2);
-    im = Phase(b, a) * kLog10OfE;
+    im = PhaseX(b, a) * kLog10OfE;
     return status::kNone;
 }
 
