@@ -85,7 +85,7 @@ struct AbsZ {
     using T = double;
     using In = BrennComplex16;
     using Out = double;
-    static int Eval(const Cx<double>* x, const Cx<double>*, Cx<double>& y) {
+    BRENN_VEC static int Eval(const Cx<double>* x, const Cx<double>*, Cx<double>& y) {
         __m128d sh, sl;
         if constexpr (L == Level::HA) {
             // the squares exact, their sum's rounding error kept; sh + sl not renormalised
@@ -179,20 +179,15 @@ struct ArgZ : ArgBody<double, L> {
     using Atan2 = typename ArgBody<double, L>::Atan2;
     static constexpr int kGroups = 4;
     BRENN_VEC static int EvalGroups(const Cx<double>* x, const Cx<double>*, Cx<double>* y) {
-        typename Atan2::Steps t[kGroups];
-#pragma GCC unroll 8
-        for (int g = 0; g < kGroups; ++g)
-            Atan2::Start(x[g].im, x[g].re, t[g]);
-#pragma GCC unroll 8
-        for (int g = 0; g < kGroups; ++g)
-            Atan2::Middle(t[g]);
-        int bits = 0;
-#pragma GCC unroll 8
-        for (int g = 0; g < kGroups; ++g) {
-            y[g].re = Atan2::End(t[g]);
-            bits |= MaskBits(t[g].special) << (2 * g);
-        }
-        return bits;
+        using S = typename Atan2::Steps;
+        return StepGroups<S, kGroups>(
+            x, y,
+            [](const Cx<double>& z, S& s) BRENN_STEP {
+                Atan2::Start(z.im, z.re, s);
+                return MaskBits(s.special);
+            },
+            [](const S& s, Cx<double>& r) BRENN_STEP { r.re = Atan2::End(s); },
+            [](S& s) BRENN_STEP { Atan2::Middle(s); });
     }
 };
 

@@ -123,6 +123,33 @@ constexpr int kGroupsARound = [] {
 template <class B>
 constexpr bool kStepped = requires { B::kGroups; };
 
+// A step of a stepped round, a lambda: inlined into the round like the body it runs.
+#define BRENN_STEP __attribute__((always_inline))
+
+// The common form of EvalGroups: a state S a group, begun from its elements by first,
+// which returns the group's special-lane bits; each middle step over all the groups in
+// turn; last gives each group's results from its state. The steps are always_inline
+// lambdas.
+template <class S, int N, class T, class First, class... Middle, class Last>
+BRENN_VEC int StepGroups(const Cx<T>* x, Cx<T>* y, First first, Last last, Middle... middle) {
+    S s[N];
+    int bits = 0;
+#pragma GCC unroll 8
+    for (int g = 0; g < N; ++g)
+        bits |= first(x[g], s[g]) << (g * kGroup<T>);
+    (
+        [&] {
+#pragma GCC unroll 8
+            for (int g = 0; g < N; ++g)
+                middle(s[g]);
+        }(),
+        ...);
+#pragma GCC unroll 8
+    for (int g = 0; g < N; ++g)
+        last(s[g], y[g]);
+    return bits;
+}
+
 template <class B>
 struct ComplexFrame {
     using T = typename B::T;

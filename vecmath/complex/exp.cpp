@@ -86,10 +86,13 @@ BRENN_VEC Cx<double> ExpJoin(const ExpState& s) {
     __m128d ct = Add(Mul(eh, cl), Mul(el, Add(ch, cl)));
     __m128d st = Add(Mul(eh, sl), Mul(el, Add(sh, sl)));
     if constexpr (L == Level::HA) {
+        // eh split once for both products; ch and sh by the mask (halves of 26 and 27
+        // bits beside eh's 26: every partial product exact)
         __m128d p, pl;
-        ExactProduct(eh, ch, p, pl);
+        auto he = SplitOnce(eh);
+        ExactProduct(he, SplitByMask(ch), p, pl);
         y.re = Add(p, Add(pl, ct));
-        ExactProduct(eh, sh, p, pl);
+        ExactProduct(he, SplitByMask(sh), p, pl);
         y.im = Add(p, Add(pl, st));
     } else {
         y.re = Add(Mul(eh, ch), ct);
@@ -125,24 +128,16 @@ struct ExpZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, ExpScal
         return MaskBits(special);
     }
     BRENN_VEC static int EvalGroups(const Cx<double>* x, const Cx<double>*, Cx<double>* y) {
-        ExpState s[kGroups];
-        int bits = 0;
-#pragma GCC unroll 8
-        for (int g = 0; g < kGroups; ++g) {
-            __m128d special = ExpOutside(x[g].re, x[g].im);
-            ExpReduce(IfThenZeroElse(special, x[g].re), IfThenZeroElse(special, x[g].im), s[g]);
-            bits |= MaskBits(special) << (2 * g);
-        }
-#pragma GCC unroll 8
-        for (int g = 0; g < kGroups; ++g)
-            ExpPart<L>(s[g]);
-#pragma GCC unroll 8
-        for (int g = 0; g < kGroups; ++g)
-            TrigPart<L>(s[g]);
-#pragma GCC unroll 8
-        for (int g = 0; g < kGroups; ++g)
-            y[g] = ExpJoin<L>(s[g]);
-        return bits;
+        return StepGroups<ExpState, kGroups>(
+            x, y,
+            [](const Cx<double>& z, ExpState& s) BRENN_STEP {
+                __m128d special = ExpOutside(z.re, z.im);
+                ExpReduce(IfThenZeroElse(special, z.re), IfThenZeroElse(special, z.im), s);
+                return MaskBits(special);
+            },
+            [](const ExpState& s, Cx<double>& r) BRENN_STEP { r = ExpJoin<L>(s); },
+            [](ExpState& s) BRENN_STEP { ExpPart<L>(s); },
+            [](ExpState& s) BRENN_STEP { TrigPart<L>(s); });
     }
 };
 

@@ -65,7 +65,7 @@ struct LnZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, LnScalar
         LnReduction red;
         typename Atan2::Steps phase;
     };
-    BRENN_VEC static void Start(const Cx<double>& x, State& s) {
+    BRENN_VEC static int Start(const Cx<double>& x, State& s) {
         constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
         s.special = HighWordsToLanes(HighWordOutside<kLo, kHi>(LargerMagnitude(x.re, x.im)));
         __m128d re = IfThenElse(s.special, Set<double>(1), x.re);
@@ -76,25 +76,19 @@ struct LnZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, LnScalar
         s.red = LnReduce(sh);
         s.ratio = Div(sl, sh);
         Atan2::Start(x.im, x.re, s.phase);
+        return MaskBits(Or(s.special, s.phase.special));
     }
     BRENN_VEC static int EvalGroups(const Cx<double>* x, const Cx<double>*, Cx<double>* y) {
-        State s[kGroups];
-#pragma GCC unroll 8
-        for (int g = 0; g < kGroups; ++g)
-            Start(x[g], s[g]);
-#pragma GCC unroll 8
-        for (int g = 0; g < kGroups; ++g) {
-            LnCore3From<L>(s[g].red, s[g].h, s[g].r, s[g].t);
-            Atan2::Middle(s[g].phase);
-        }
-        int bits = 0;
-#pragma GCC unroll 8
-        for (int g = 0; g < kGroups; ++g) {
-            y[g].re = HalfLogJoin(s[g].h, s[g].r, s[g].t, s[g].ratio);
-            y[g].im = Atan2::End(s[g].phase);
-            bits |= MaskBits(Or(s[g].special, s[g].phase.special)) << (2 * g);
-        }
-        return bits;
+        return StepGroups<State, kGroups>(
+            x, y, [](const Cx<double>& z, State& s) BRENN_STEP { return Start(z, s); },
+            [](const State& s, Cx<double>& r) BRENN_STEP {
+                r.re = HalfLogJoin(s.h, s.r, s.t, s.ratio);
+                r.im = Atan2::End(s.phase);
+            },
+            [](State& s) BRENN_STEP {
+                LnCore3From<L>(s.red, s.h, s.r, s.t);
+                Atan2::Middle(s.phase);
+            });
     }
 };
 

@@ -123,20 +123,14 @@ struct SqrtZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, SqrtSc
         return MaskBits(s.special);
     }
     BRENN_VEC static int EvalGroups(const Cx<double>* z, const Cx<double>*, Cx<double>* y) {
-        SqrtState s[kGroups];
-#pragma GCC unroll 8
-        for (int g = 0; g < kGroups; ++g)
-            SqrtSquares(z[g], s[g]);
-#pragma GCC unroll 8
-        for (int g = 0; g < kGroups; ++g)
-            SqrtHalf(s[g]);
-        int bits = 0;
-#pragma GCC unroll 8
-        for (int g = 0; g < kGroups; ++g) {
-            SqrtParts(s[g], y[g]);
-            bits |= MaskBits(s[g].special) << (2 * g);
-        }
-        return bits;
+        return StepGroups<SqrtState, kGroups>(
+            z, y,
+            [](const Cx<double>& x, SqrtState& s) BRENN_STEP {
+                SqrtSquares(x, s);
+                return MaskBits(s.special);
+            },
+            [](const SqrtState& s, Cx<double>& r) BRENN_STEP { SqrtParts(s, r); },
+            [](SqrtState& s) BRENN_STEP { SqrtHalf(s); });
     }
 };
 
