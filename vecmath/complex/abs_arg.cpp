@@ -90,10 +90,9 @@ struct AbsZ {
         if constexpr (L == Level::HA) {
             // the squares exact, their sum's rounding error kept; sh + sl not renormalised
             // (sl stays within 2^-51 sh, which the root's correction takes as it is)
-            auto hx = SplitByMask(x->re), hy = SplitByMask(x->im);
             __m128d p, pl, q, ql, e;
-            ExactProduct(hx, hx, p, pl);
-            ExactProduct(hy, hy, q, ql);
+            ExactSquare(SplitByMask(x->re), p, pl);
+            ExactSquare(SplitByMask(x->im), q, ql);
             TwoSum(p, q, sh, e);
             sl = Add(e, Add(pl, ql));
             y.re = CorrectedRoot(sh, sl);

@@ -99,6 +99,24 @@ BRENN_VEC void SumOfProducts(const Halves<V>& a, const Halves<V>& c, const Halve
     }
     FastTwoSum(hi, lo, hi, lo);
 }
+// The exact square of a split factor, as ExactProduct(a, a) with its two cross products
+// added as one, 2 hi lo: the partial sum that Dekker's order reaches after both is the
+// same value, exact.
+template <class V>
+BRENN_VEC void ExactSquare(const Halves<V>& a, V& hi, V& lo) {
+    hi = Mul(a.v, a.v);
+    lo = Add(Add(Sub(Mul(a.hi, a.hi), hi), Mul(a.hi, Add(a.lo, a.lo))), Mul(a.lo, a.lo));
+}
+// hi + lo = a^2 + b^2 from split factors, as SumOfProducts(a, a, b, b) gives it.
+template <class V>
+BRENN_VEC void SumOfSquares(const Halves<V>& a, const Halves<V>& b, V& hi, V& lo) {
+    V p, pl, q, ql, e;
+    ExactSquare(a, p, pl);
+    ExactSquare(b, q, ql);
+    TwoSum(p, q, hi, e);
+    lo = Add(e, Add(pl, ql));
+    FastTwoSum(hi, lo, hi, lo);
+}
 // The exact error a*c - p of the rounded product p = a*c, from split factors: Dekker's
 // partial products added to -p from the largest to the smallest, each step exact (one
 // factor split by SplitRounded, the other by it or by the mask; parts in the window below).

@@ -49,8 +49,7 @@ struct LnZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, LnScalar
         __m128d re = IfThenElse(special, Set<double>(1), x->re);
         __m128d im = IfThenZeroElse(special, x->im);
         __m128d sh, sl;
-        auto hr = SplitOnce(re), hi = SplitOnce(im);
-        SumOfProducts(hr, hr, hi, hi, sh, sl);
+        SumOfSquares(SplitRounded(re), SplitRounded(im), sh, sl);
         y.re = HalfLog<L>(sh, sl);
         __m128d angle;
         y.im = Atan2::Eval(x->im, x->re, angle);
@@ -71,8 +70,7 @@ struct LnZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, LnScalar
         __m128d re = IfThenElse(s.special, Set<double>(1), x.re);
         __m128d im = IfThenZeroElse(s.special, x.im);
         __m128d sh, sl;
-        auto hr = SplitOnce(re), hi = SplitOnce(im);
-        SumOfProducts(hr, hr, hi, hi, sh, sl);
+        SumOfSquares(SplitRounded(re), SplitRounded(im), sh, sl);
         s.red = LnReduce(sh);
         s.ratio = Div(sl, sh);
         Atan2::Start(x.im, x.re, s.phase);

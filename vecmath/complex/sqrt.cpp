@@ -76,16 +76,14 @@ BRENN_VEC void SqrtSquares(const Cx<double>& z, SqrtState& s) {
     s.special = HighWordsToLanes(HighWordOutside<kLo, kHi>(LargerMagnitude(z.re, z.im)));
     s.x = IfThenElse(s.special, Set<double>(1), z.re);
     s.w = IfThenZeroElse(s.special, z.im);
-    auto hx = SplitOnce(s.x), hw = SplitOnce(s.w);
-    SumOfProducts(hx, hx, hw, hw, s.sh, s.sl);
+    SumOfSquares(SplitRounded(s.x), SplitRounded(s.w), s.sh, s.sl);
     s.mh = Sqrt(s.sh);
 }
 
 BRENN_VEC void SqrtHalf(SqrtState& s) {
     const __m128d half = Set<double>(0.5);
     __m128d ph, pl;
-    auto hm = SplitOnce(s.mh);
-    ExactProduct(hm, hm, ph, pl);
+    ExactSquare(SplitRounded(s.mh), ph, pl);
     __m128d ml = Div(Mul(Add(Sub(Sub(s.sh, ph), pl), s.sl), half), s.mh);
     // v = (|x| + |z|)/2 = vh + vl
     TwoSum(Abs(s.x), s.mh, s.vh, s.vl);
@@ -100,13 +98,13 @@ BRENN_VEC void SqrtParts(const SqrtState& s, Cx<double>& y) {
     // t = th + tl, and its reciprocal
     __m128d th = s.th;
     __m128d inv = Div(Set<double>(1), th);
-    auto ht = SplitOnce(th);
-    ExactProduct(ht, ht, ph, pl);
+    auto ht = SplitRounded(th);
+    ExactSquare(ht, ph, pl);
     __m128d tl = Mul(Mul(Add(Sub(Sub(s.vh, ph), pl), s.vl), half), inv);
     // q = (w/2)/t, corrected by the exact residual
     __m128d w2 = Mul(s.w, half);
     __m128d q = Mul(w2, inv);
-    ExactProduct(SplitOnce(q), ht, ph, pl);
+    ExactProduct(SplitRounded(q), ht, ph, pl);
     q = Add(q, Mul(Sub(Sub(Sub(w2, ph), pl), Mul(q, tl)), inv));
     q = Xor(Abs(q), SignBit(s.w)); // y's sign, also where q is a zero
 
