@@ -215,14 +215,12 @@ BRENN_VEC AtanFold<V> AtanFoldOf(V a) {
 }
 
 // Single Atan HA in single arithmetic, four lanes a register: AtanWide's folds, base and
-// signed quotient, the quotient qh by divps and its error from the exact residual, the tail
+// signed quotient, the quotient qh by divps and its error from an exact residual, the tail
 // q*z*P(z) by the double steps' five-term series rounded to single (its fit, 2^-30.5, is
 // far below the tail's own roundings), and the base joined by the fast exact sum. Over
 // the fold's range the fast sums give a - 1 and a + 1 exactly (either the sum is exact
-// itself or 1 is the larger); the residual n - qh*d from halves of 12 bits is exact but
-// for its last rounding, and its quotient by rcpps is good to 2^-12 of a term of 2^-23 of
-// q, taken through atan's slope at q. d is held at 2^64 there: beyond, the correction is nothing to
-// the result, and an infinite d must not meet a zero.
+// itself or 1 is the larger). d is held at 2^64 in the residual: beyond, the correction
+// is nothing to the result, and an infinite d must not meet a zero.
 constexpr float kAtanSingleHA[] = {float(AtanDouble5Set::kP[0]), float(AtanDouble5Set::kP[1]),
                                    float(AtanDouble5Set::kP[2]), float(AtanDouble5Set::kP[3]),
                                    float(AtanDouble5Set::kP[4])};
@@ -230,20 +228,24 @@ constexpr float kAtanSingleHA[] = {float(AtanDouble5Set::kP[0]), float(AtanDoubl
 // The angle base + lo + (nh + nl)/(dh + dl), the sign of the quotient flipped where flip
 // has its sign bit, in single arithmetic: Atan HA's last steps and Atan2 HA's. base is
 // a whole number of quarter turns, exact, and lo its tail; dm is dh, or dh held below a
-// bound where dh may be huge (the correction is nothing there).
+// bound where dh may be huge. The residual is taken on qa,
+// qh cut to 12 bits: qa*da and qa*db (d's halves of 12 bits) are exact, nh - qa*da too
+// (Sterbenz), and less qa*db it rounds once, at about 2^-35 of n. Over d (the
+// reciprocal estimate and one Newton step, to about 2^-22) it is qh - qa + ql within
+// 2^-33 of q; less the exact qh - qa it leaves ql, the quotient's error, which moves the
+// angle by ql/(1 + z), taken as ql - ql*z (z^2 ql is a few hundredths of an ulp).
 BRENN_VEC __m128 AngleSingleHA(__m128 base, __m128 lo, __m128 flip, __m128 nh, __m128 nl, __m128 dh,
                                __m128 dl, __m128 dm) {
     const __m128 cut = AsFloat(Set<uint32_t>(0xFFFFF000u));
     __m128 qh = Div(nh, dh);
-    __m128 qa = And(qh, cut), qb = Sub(qh, qa);
-    __m128 da = And(dm, cut), db = Sub(dm, da);
-    __m128 p = Mul(qh, dm);
-    __m128 pe = Add(Add(Add(Sub(Mul(qa, da), p), Mul(qa, db)), Mul(qb, da)), Mul(qb, db));
-    __m128 r = Add(Sub(Sub(nh, p), pe), Sub(nl, Mul(qh, dl)));
+    __m128 qa = And(qh, cut);
+    __m128 da = And(dm, cut);
+    __m128 r = Sub(Sub(nh, Mul(qa, da)), Mul(qa, Sub(dm, da)));
+    r = Add(r, Sub(nl, Mul(qh, dl)));
+    __m128 rd = ApproxRecip(dm);
+    rd = Mul(rd, Sub(Set<float>(2.0f), Mul(dm, rd)));
+    __m128 ql = Sub(Mul(r, rd), Sub(qh, qa));
     __m128 z = Mul(qh, qh);
-    // The quotient's error ql = r/d (up to an ulp or so of q) moves the angle by ql/(1 + z),
-    // taken as ql - ql*z (z^2 ql is a few hundredths of an ulp).
-    __m128 ql = Mul(r, ApproxRecip(dm));
     ql = Sub(ql, Mul(ql, z));
     __m128 t = Add(Mul(Mul(qh, z), Horner(z, kAtanSingleHA)), ql);
     __m128 y, e;
@@ -252,12 +254,11 @@ BRENN_VEC __m128 AngleSingleHA(__m128 base, __m128 lo, __m128 flip, __m128 nh, _
 }
 
 BRENN_VEC __m128 AtanSingleHA(__m128 x) {
-    const __m128 one = Set<float>(1.0f);
+    using Q = Quarter<float, Unit::Radian>;
     const auto [over, above, nh, nl, dh, dl] = AtanFoldOf(Abs(x));
     const __m128 dmax = Set<float>(0x1p64f);
     __m128 dm = IfThenElse(AsFloat(Gt(AsInt(dh), AsInt(dmax))), dmax, dh);
-    using Q = Quarter<float, Unit::Radian>;
-    __m128 k = IfThenElse(above, Set<float>(2), And(over, one));
+    __m128 k = IfThenElse(above, Set<float>(2), And(over, Set<float>(1.0f)));
     return Or(AngleSingleHA(Mul(k, Set<float>(Q::kHi)), Mul(k, Set<float>(kQuarterTailS)),
                             Zero<float>(), nh, nl, dh, dl, dm),
               SignBit(x));
