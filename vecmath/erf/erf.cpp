@@ -7,8 +7,8 @@
  * terms of erf(xj + d) in t, slightly tuned; erf = V + (w + R*w), w = d*D, and x's sign
  * OR-ed on. LA and HA: grid_core.h's series of S(tau, u), LA adding up V + (w + w*S1),
  * HA on the row pairs of erfRowsHA with the exact product and sums (0.5x ulp). Single
- * runs every level on single lanes (grid_single.h, the single rows), the grid held at
- * 3.9296875, from where erf is 1 in single. Double LA and HA run rounds of sixteen, each
+ * runs every level on single lanes (grid_single.h, the single rows; HA's last sum on
+ * double lanes with erfRows), the grid held at 3.9296875, from where erf is 1 in single. Double LA and HA run rounds of sixteen, each
  * step over the round's eight registers (GridEvalRound). */
 #include "frame/kernels.h"
 #include "vecmath/erf/grid_single.h"
@@ -86,7 +86,13 @@ struct ErfBody {
     using T = Tp;
     using V = Vec<T>;
     static V Eval(V x, V&) {
-        if constexpr (sizeof(T) == 4)
+        if constexpr (sizeof(T) == 4 && L == Level::HA) {
+            // NaN lanes (rare) run at the limit; their results are x + 0, the NaN quieted.
+            __m128 y = Or(GridEvalSingle<ErfGridSingle, kCutSingleHA, true>(x), SignBit(x));
+            __m128 nan = Unordered(x, x);
+            if (__builtin_expect(MaskBits(nan) != 0, 0)) y = IfThenElse(nan, Add(x, Zero<T>()), y);
+            return y;
+        } else if constexpr (sizeof(T) == 4)
             return NaNQuiet(x, [](__m128 v) {
                 constexpr SeriesCut cut = L == Level::EP   ? kCutSingleEP
                                           : L == Level::LA ? kCutSingleLA

@@ -1,5 +1,5 @@
 /* The evaluation of Erf, Erfc and CdfNorm on single lanes, every single slot: four lanes
- * a register where the double form of grid_core.h has two.
+ * a register where the double form of grid_core.h has two (Erf HA adds up in double).
  *
  * The grid point xj is found with a single shifter (2^16 for steps of 1/128, 2^17 for
  * 1/64: the row index j is the sum's bits less the shifter's) and d = a - xj is exact.
@@ -10,12 +10,11 @@
  *   LA, EP: F = v + w*(1 + S1), w = D*d, the mirrored side as K - F: the rounding of v
  *           (half an ulp of F, an ulp where w takes off up to half of v) and the sums'
  *           give about 2 ulp, the LA bound's half.
- *   HA:     v + vlo in two parts and the sum rounded once: erf as v + d + d*g with
- *           g = D (1 + S1) - 1 (v + d exact in two parts, so that D's rounding and the
- *           product's weigh only g's share, about a ninth of F near 0); erfc and Q as
- *           (K - v) in two parts + (vlo + d (D + dl + D*S1)), where d D is at most a
- *           tenth of F. About 0.6 ulp (0.65 at worst, near erf's first grid step and
- *           Q's far tail); erf below 2^-60 (rare) in double, rounded once.
+ *   HA:     erf: S1 on single lanes, then V + (w + w*S1), w = D*d, on double lanes with
+ *           the double rows (V, D) of erfRows, rounded once to single (0.501 ulp; no
+ *           product underflows in double). Erfc and Q: v + vlo in two parts and the sum
+ *           rounded once, (K - v) in two parts + (vlo + d (D + dl + D*S1)), where d D is
+ *           at most a tenth of F; about 0.6 ulp (0.63 at worst, Q's far tail).
  * Erfc and CdfNorm run scaled (kScaled): their rows are times 2^100, and K with them, so
  * that no operand in the underflow band is a denormal (each operation with a denormal
  * operand or result costs a microcode assist, some 40 ticks a register). The result
@@ -49,57 +48,58 @@ BRENN_VEC __m128 UnscaleSingle(__m128 r) {
     return IfThenElse(Lt(r, least), AsArithmeticDenormal(denormal), AsFloat(normal));
 }
 
-// erf(a) = a 2/sqrt(pi) for a below 2^-60, rounded once.
-[[gnu::noinline, gnu::cold]] inline __m128 ErfTiny(__m128 a) {
-    const __m128d k = Set<double>(1.1283791670955126);
-    return Narrow(Mul(WidenLower(a), k), Mul(WidenUpper(a), k));
-}
-
-// The rows of the four lanes' indices j: their byte offsets stored once and read back by
-// the scalar unit, one load each (taken from the register, each costs an extraction, a
-// sign extension and a shift).
-BRENN_VEC void RowsOf(const float (*rows)[4], I32x4 j, const float*& r0, const float*& r1,
-                      const float*& r2, const float*& r3) {
+// The rows of the four lanes' indices j (16-byte rows: four singles or two doubles):
+// their byte offsets stored once and read back by the scalar unit, one load each (taken
+// from the register, each costs an extraction, a sign extension and a shift).
+template <class E>
+BRENN_VEC void RowsOf(const E (*rows)[16 / sizeof(E)], I32x4 j, const E*& r0, const E*& r1,
+                      const E*& r2, const E*& r3) {
     alignas(16) uint32_t offset[4];
     _mm_store_si128(reinterpret_cast<__m128i*>(offset), ShiftLeft<4>(j).v);
     const volatile uint32_t* o = offset; // read from memory, not extracted again
     const char* base = reinterpret_cast<const char*>(rows);
-    r0 = reinterpret_cast<const float*>(base + o[0]);
-    r1 = reinterpret_cast<const float*>(base + o[1]);
-    r2 = reinterpret_cast<const float*>(base + o[2]);
-    r3 = reinterpret_cast<const float*>(base + o[3]);
+    r0 = reinterpret_cast<const E*>(base + o[0]);
+    r1 = reinterpret_cast<const E*>(base + o[1]);
+    r2 = reinterpret_cast<const E*>(base + o[2]);
+    r3 = reinterpret_cast<const E*>(base + o[3]);
 }
 
 template <class G, SeriesCut C, bool kTwoPart, bool kScaled = false>
 inline __m128 GridEvalSingle(__m128 x) {
     constexpr float scale = kScaled ? 0x1p100f : 1.0f;
     constexpr float shifter = float(G::kShifter * 0x1p-29);
-    __m128 ax = Abs(x), a0 = ax;
+    // Erf HA: the series on single lanes, the last sum in double on the double rows.
+    constexpr bool kWide = kTwoPart && G::kMirror == 0;
+    __m128 ax = Abs(x);
     __m128 mirror = Zero<float>(), lim = Set<float>(float(G::kLimitSingle));
     if constexpr (G::kMirror != 0) {
         mirror = G::kMirrorPositive ? Xor(x, SignMask<float>()) : x; // by the sign bit
         lim = IfThenElse(mirror, Set<float>(float(G::kMirrorLimit)), lim);
     }
-    // Erfc and Q are F(0) to the last bit below 2^-60, and erf's HA lanes there are
-    // computed again (ErfTiny): those run at 2^-60, so that u = d^2 raises no underflow.
-    // Erf's other levels take u = 0 there instead.
-    constexpr bool kHeld = G::kMirror != 0 || kTwoPart;
-    __m128 a = Min(ax, lim);
+    // Erfc and Q are F(0) to the last bit below 2^-60: those run at 2^-60, so that
+    // u = d^2 raises no underflow. Erf takes u = 0 there instead.
+    constexpr bool kHeld = G::kMirror != 0;
+    // Erf HA holds |x| by its bits, so that a NaN lane (taken aside by the kernel
+    // afterwards) runs at the limit and raises nothing.
+    __m128 a = kWide ? AsFloat(Min(AsInt(ax), AsInt(lim))) : Min(ax, lim);
     __m128 tiny = Lt(a, Set<float>(0x1p-60f));
     if constexpr (kHeld) a = Max(a, Set<float>(0x1p-60f));
     __m128 s = Add(a, Set<float>(shifter));
     __m128 xj = Sub(s, Set<float>(shifter));
     __m128 d = Sub(a, xj);
-    const float* r0;
-    const float* r1;
-    const float* r2;
-    const float* r3;
-    RowsOf(G::kRowsSingle, Sub(AsInt(s), AsInt(Set<float>(shifter))), r0, r1, r2, r3);
+    I32x4 j = Sub(AsInt(s), AsInt(Set<float>(shifter)));
     __m128 v, deriv, vlo = Zero<float>(), dlo = Zero<float>();
-    if constexpr (kTwoPart)
-        LoadTransposed(r0, r1, r2, r3, v, deriv, vlo, dlo);
-    else
-        LoadTransposed(r0, r1, r2, r3, v, deriv);
+    const double *q0, *q1, *q2, *q3;
+    if constexpr (kWide) {
+        RowsOf(G::kRows, j, q0, q1, q2, q3);
+    } else {
+        const float *r0, *r1, *r2, *r3;
+        RowsOf(G::kRowsSingle, j, r0, r1, r2, r3);
+        if constexpr (kTwoPart)
+            LoadTransposed(r0, r1, r2, r3, v, deriv, vlo, dlo);
+        else
+            LoadTransposed(r0, r1, r2, r3, v, deriv);
+    }
     __m128 s1 = Zero<float>();
     if constexpr (C.n0 > 0) {
         __m128 tau = Mul(Mul(Set<float>(float(G::kTauScale)), xj), d);
@@ -119,16 +119,15 @@ inline __m128 GridEvalSingle(__m128 x) {
         __m128 c = C.n0 > 0 ? Add(w, Mul(w, s1)) : w;
         r = G::kMirror == 0 ? Add(v, c) : Add(Add(k, Xor(v, flip)), Xor(c, flip));
     } else if constexpr (G::kMirror == 0) {
-        // erf, whose derivative is near 1 where the result is near D*d: F = v + d + d*g
-        // with g = D (1 + S1) - 1, the sum v + d exact in two parts, so that D's rounding
-        // and the product's weigh only g's share of the result.
-        __m128 g = Add(Sub(deriv, Set<float>(1.0f)), Add(dlo, Mul(deriv, s1)));
-        __m128 h, e;
-        FastTwoSum(v, d, h, e); // v = 0 or v >= erf(1/128) > |d|
-        r = Add(h, Add(e, Add(vlo, Mul(d, g))));
-        // Below 2^-60 (rare), erf(x) = x 2/sqrt(pi) rounded once from double, where
-        // d*g would lose bits as a denormal.
-        if (__builtin_expect(MaskBits(tiny) != 0, 0)) r = IfThenElse(tiny, ErfTiny(a0), r);
+        // erf: F = V + (w + w*S1), w = D*d, in double with the double rows (V, D), and
+        // rounded once to single; S1's single rounding weighs 2^-24 of a share below
+        // 2^-5 of F. No product underflows in double (erf below 2^-126 included).
+        __m128d v0 = LoadLanes(q0, q1), v1 = LoadLanes(q2, q3);
+        __m128d d0 = LoadLanes(q0 + 1, q1 + 1), d1 = LoadLanes(q2 + 1, q3 + 1), w0, w1;
+        w0 = Mul(d0, WidenLower(d));
+        w1 = Mul(d1, WidenUpper(d));
+        r = Narrow(Add(v0, Add(w0, Mul(w0, WidenLower(s1)))),
+                   Add(v1, Add(w1, Mul(w1, WidenUpper(s1)))));
     } else {
         __m128 c = Mul(d, Add(deriv, Add(dlo, Mul(deriv, s1))));
         __m128 h, e;
