@@ -28,6 +28,7 @@
 #include <cmath>
 
 #include "frame/kernels.h"
+#include "vecmath/explog/flat.h"
 #include "vecmath/explog/wide.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/invtrig/common.h"
@@ -300,6 +301,10 @@ using namespace brenn::vm::invtrig;
 extern "C" {
 ZAR_ROW_KERNELS(Asin, Unary, AsinBody)
 ZAR_ROW_KERNELS(Acos, Unary, AcosBody)
-ZAR_ROW_KERNELS(Asinpi, Unary, AsinpiBody)
-ZAR_ROW_KERNELS(Acospi, Unary, AcospiBody)
+// The pi-scaled single kernels flattened: left to itself GCC keeps their LA and HA
+// bodies (in double) out of line, one call a quad.
+BRENN_FLAT_LEVEL_KERNELS(s, Asinpi, Unary, AsinpiBody)
+ZAR_LEVEL_KERNELS(d, Asinpi, Unary, AsinpiBody)
+BRENN_FLAT_LEVEL_KERNELS(s, Acospi, Unary, AcospiBody)
+ZAR_LEVEL_KERNELS(d, Acospi, Unary, AcospiBody)
 }

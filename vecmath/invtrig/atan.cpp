@@ -43,10 +43,12 @@ extern "C" {
 ZAR_LEVEL_KERNELS(s, Atan, Unary, AtanRadian)
 ZAR_KERNEL_OF(d, Atan, LaHa, Unary, AtanRadian<double, Level::HA>)
 ZAR_KERNEL_OF(d, Atan, EP, Unary, AtanRadian<double, Level::EP>)
-ZAR_ROW_KERNELS(Atanpi, Unary, AtanpiBody)
-// Single Atan2 flattened: left to itself GCC keeps the HA body out of line, one call a
-// quad.
+// The single kernels of Atanpi, Atan2 and Atan2pi flattened: left to itself GCC keeps
+// the HA body (and the pi-scaled LA, in double) out of line, one call a quad.
+BRENN_FLAT_LEVEL_KERNELS(s, Atanpi, Unary, AtanpiBody)
+ZAR_LEVEL_KERNELS(d, Atanpi, Unary, AtanpiBody)
 BRENN_FLAT_LEVEL_KERNELS(s, Atan2, Binary, Atan2Radian)
 ZAR_LEVEL_KERNELS(d, Atan2, Binary, Atan2Radian)
-ZAR_ROW_KERNELS(Atan2pi, Binary, Atan2piBody)
+BRENN_FLAT_LEVEL_KERNELS(s, Atan2pi, Binary, Atan2piBody)
+ZAR_LEVEL_KERNELS(d, Atan2pi, Binary, Atan2piBody)
 }
