@@ -64,7 +64,10 @@ BRENN_VEC void AngleQuotient(__m128d a, __m128d b, AngleState& s) {
     }
     s.q = Div(s.nh, s.dh);
 }
-template <class S, bool Comp, bool Wide>
+// Cut: the residual nh - q*dm by halves cut at 26 bits, as Atan's (AtanTail): fewer
+// operations than the product's Veltkamp splits, the one rounded term q*(dm - dmh)
+// below 2^-78 of nh (the complex Arg and Ln).
+template <class S, bool Comp, bool Wide, bool Cut = false>
 BRENN_VEC void AngleTail(AngleState& s) {
     __m128d q = s.q;
     if constexpr (Wide)
@@ -75,9 +78,17 @@ BRENN_VEC void AngleTail(AngleState& s) {
         // The quotient's error from the exact residual. The product's split needs d below
         // about 2^995; the clamp also keeps an infinite d out of it.
         __m128d dm = AtMost(s.dh, 0x1p510);
-        __m128d ph, pl;
-        TwoProduct(q, dm, ph, pl);
-        __m128d r = Sub(Add(Sub(Sub(s.nh, ph), pl), s.nl), Mul(q, s.dl));
+        __m128d r;
+        if constexpr (Cut) {
+            const __m128d cut = AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull));
+            __m128d qh = And(q, cut), dmh = And(dm, cut);
+            r = Sub(Sub(s.nh, Mul(qh, dmh)), Mul(Sub(q, qh), dmh));
+            r = Add(Sub(r, Mul(q, Sub(dm, dmh))), Sub(s.nl, Mul(q, s.dl)));
+        } else {
+            __m128d ph, pl;
+            TwoProduct(q, dm, ph, pl);
+            r = Sub(Add(Sub(Sub(s.nh, ph), pl), s.nl), Mul(q, s.dl));
+        }
         s.l = Add(s.l, Div(r, s.dh));
     }
 }
@@ -509,7 +520,7 @@ struct Atan2Body {
         const V one = Set<T>(1);
         AngleQuotient<kComp>(IfThenElse(t.special, one, a), IfThenElse(t.special, one, b), t.s);
     }
-    static BRENN_VEC void Middle(Steps& t) { AngleTail<DoubleSeriesOf<L>, kComp, false>(t.s); }
+    static BRENN_VEC void Middle(Steps& t) { AngleTail<DoubleSeriesOf<L>, kComp, false, true>(t.s); }
     static BRENN_VEC V End(const Steps& t) { return AngleFinish<U, kComp, false>(t.s); }
 };
 
