@@ -111,5 +111,34 @@ TEST(ComplexExtended, TangentsNearThePolesAndFarOut) {
     }
 }
 
+// The cores' edges: sinh's series below |x| = 1/4, the table-driven sine below |y| = 2^26
+// (the C library's reduction from there), parts near the zeros of sin y and cos y, tiny
+// and huge results; sin(y - ix) = v - iu of sinh(x + iy) = u + iv.
+TEST(ComplexExtended, SinhAndSinAtTheEdgesOfTheirCores) {
+    struct Case {
+        Z a, want;
+    } cases[] = {{{0.2499999999999999, 3.0}, {-0.2500842981889411, 0.145553024968058}},
+                 {{0.25, -3.0}, {-0.25008429818894123, -0.145553024968058}},
+                 {{1.0, 67108863.99999999}, {-1.0661096594503767, 0.6492664605675718}},
+                 {{-1.0, 67108864.0}, {1.0661096631345215, 0.649266450137954}},
+                 {{0.5, 3.141592653589793}, {-0.5210953054937474, 1.380943528925439e-16}},
+                 {{2.0, 1.5707963267948966}, {2.2208114947120577e-16, 3.7621956910836314}},
+                 {{-1e-300, 1e-300}, {-1e-300, 1e-300}},
+                 {{0.0, 355.0}, {-0.0, -3.014435335948845e-05}}, // 0 cos 355 = -0
+                 {{700.0, -7.0}, {3.8231591624598093e+303, -3.3316843397595967e+303}}};
+    auto near = [](double got, double want) {
+        return want == 0 ? Bits(got) == Bits(want)
+                         : std::fabs(got - want) <= 0x1p-53 * std::fabs(want);
+    };
+    for (const Case& c : cases) {
+        Z h = CxCall(frame::Row_zSinh, frame::SlotHA, c.a);
+        EXPECT_TRUE(near(h.re, c.want.re) && near(h.im, c.want.im))
+            << "sinh(" << c.a.re << ", " << c.a.im << ") = (" << h.re << ", " << h.im << ")";
+        Z s = CxCall(frame::Row_zSin, frame::SlotEP, Z{c.a.im, -c.a.re});
+        EXPECT_TRUE(near(s.re, c.want.im) && near(s.im, -c.want.re))
+            << "sin(" << c.a.im << ", " << -c.a.re << ") = (" << s.re << ", " << s.im << ")";
+    }
+}
+
 } // namespace
 } // namespace brenn::test
