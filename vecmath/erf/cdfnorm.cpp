@@ -10,7 +10,8 @@
  * row's remainder), EP adds up plainly. Single: NaNs and infinities are the special
  * lanes; results from -12.95 down (denormals, zeros from -14.1) come from the lanes and
  * are reported with status 4 by the frame, and 1 on the positive side likewise
- * (tail_body.h); every level on single lanes (grid_single.h, the single rows). */
+ * (tail_body.h); every level on single lanes (grid_single.h: the single rows, HA's last
+ * sum on double lanes with the double rows). */
 #include "frame/kernels.h"
 #include "vecmath/erf/tail_body.h"
 #include "vecmath/erf/tail_double.h"

@@ -8,7 +8,7 @@
  * (fitted series, two parts, 0.5x ulp). Single: NaNs and infinities are the special
  * lanes, results from 9.19 on (denormals, zeros from 10.1) come from the lanes and are
  * reported with status 4 by the frame (tail_body.h); every level on single lanes
- * (grid_single.h, the single rows). */
+ * (grid_single.h: the single rows, HA's last sum on double lanes with the double rows). */
 #include "frame/kernels.h"
 #include "vecmath/erf/tail_body.h"
 #include "vecmath/erf/tail_double.h"

@@ -13,8 +13,9 @@
  * Single: only NaNs and infinities are special lanes (their scalar routine gives the
  * quieted NaN, or the function's limit); every finite lane runs the grid, the rows of
  * the underflow band included (denormal and zero results, which the frame reports with
- * status 4: kUnderflowLanes). Every level runs on single lanes (grid_single.h), on rows
- * times 2^100, the band's results rounded to the denormal grid.
+ * status 4: kUnderflowLanes). Every level runs on single lanes (grid_single.h), LA and
+ * EP on rows times 2^100, HA adding up on double lanes; the band's results rounded once
+ * to the denormal grid.
  * Double (dCdfNorm EP): the window's lanes go to the scalar routine: a NaN comes back
  * quieted; beyond the tail limit the result is +0 with status 4 (exact and no status
  * for an infinity); otherwise the grid's value on one lane, with status 4 when it is
