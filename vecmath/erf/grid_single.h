@@ -4,7 +4,7 @@
  * The grid point xj is found with a single shifter (2^16 for steps of 1/128, 2^17 for
  * 1/64: the row index j is the sum's bits less the shifter's) and d = a - xj is exact.
  * LA and EP read the first two columns (v, D) of the single rows of erf_tables.h, one
- * 16-byte row a lane; HA the double rows (V and D, or V and D = dh + dl). The series S1
+ * 16-byte row a lane; HA the double rows (V and D, or V and dh). The series S1
  * is grid_core.h's, cut for 2^-27 (LA, HA) and 2^-15 (EP) of F, and not taken at all
  * where the cut has no term (Erf EP: |tau/2| is below 2^-16 of F there).
  *   LA, EP: F = v + w*(1 + S1), w = D*d, the mirrored side as K - F: the rounding of v
@@ -12,8 +12,8 @@
  *           give about 2 ulp, the LA bound's half.
  *   HA:     S1 on single lanes, then V + (w + w*S1), w = D*d, and K - that on the
  *           mirrored side, on double lanes, rounded once to single, below the least
- *           normal too (0.50x ulp; in double no operand or product is a denormal, and
- *           the double rows are unscaled over single's range).
+ *           normal too (0.52 ulp at worst; in double no operand or product is a
+ *           denormal, and the double rows are unscaled over single's range).
  * Erfc and CdfNorm LA and EP run scaled (kScaled): their rows are times 2^100, and K with
  * them, so that no operand in the underflow band is a denormal (each operation with a
  * denormal operand or result costs a microcode assist, some 40 ticks a register). The
@@ -113,7 +113,8 @@ inline __m128 GridEvalSingle(__m128 x) {
         k = IfThenElse(mirror, Set<float>(float(G::kMirror) * scale), Zero<float>());
     }
     if constexpr (kTwoPart) {
-        // F = V + (w + w*S1), w = D*d, in double with the double rows (V, D = dh + dl),
+        // F = V + (w + w*S1), w = D*d, in double with the double rows (V, D; or V, dh:
+        // dh's 2^-27 weighs below 2^-3 of F),
         // the mirrored side as K - F, rounded once to single (below the least normal
         // too); S1's single rounding weighs 2^-24 of a share below 2^-3 of F. No operand
         // or product is a denormal in double, and these rows are unscaled in single's
@@ -122,9 +123,7 @@ inline __m128 GridEvalSingle(__m128 x) {
         __m128 kf = Zero<float>();
         if constexpr (G::kMirror != 0) kf = IfThenElse(mirror, Set<float>(float(G::kMirror)), kf);
         auto sum = [](__m128d dd, __m128d sd, __m128d kd, __m128d fd, const Row* p, const Row* q) {
-            __m128d deriv = LoadLanes(&(*p)[W - 1], &(*q)[W - 1]);
-            if constexpr (W == 4)
-                deriv = Add(LoadLanes(&(*p)[2], &(*q)[2]), deriv);
+            __m128d deriv = LoadLanes(&(*p)[W / 2], &(*q)[W / 2]); // D, or dh
             __m128d w = Mul(deriv, dd);
             __m128d f = Add(LoadLanes(&(*p)[0], &(*q)[0]), Add(w, Mul(w, sd)));
             if constexpr (G::kMirror != 0) f = Add(kd, Xor(f, fd)); // fd: -0 or +0
