@@ -1,5 +1,5 @@
 /* The table-driven evaluation that Erf, Erfc and CdfNorm share, on double lanes (single
- * HA widens its lanes to it; single LA and EP run grid_single.h).
+ * runs grid_single.h, whose HA adds up on double lanes with these rows).
  *
  * a = min(|x|, limit) is rounded to the grid by the shifter (a + 2^45 for steps of 1/128,
  * a + 2^46 for 1/64: the row index is the low word of the sum, xj the sum less the
