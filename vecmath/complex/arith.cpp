@@ -22,7 +22,6 @@
  * 2^-10. */
 #include "vecmath/complex/arith_scalar.h"
 #include "vecmath/complex/cframe.h"
-#include "vecmath/frame/stream_frame.h"
 #include "vecmath/frame/level.h"
 
 namespace brenn::vm::cx {
@@ -240,41 +239,17 @@ struct DivC {
     static int Scalar(const In* x, const In* w, Out* y) { return DivScalar(x, w, y); }
 };
 
-// Conj on whole elements, a register at a time: one XOR with the sign of every imaginary
-// part (the high half of each 64-bit lane in single, the high lane in double), four
-// registers a round. A long call that does not work in place streams y past the cache, as
-// the real streaming frame does: with y aligned to 16 bytes (a single element first where
-// it is not; a double y off that boundary keeps plain stores).
-template <class T>
-void ConjRun(int n, const ComplexOf<T>* a, ComplexOf<T>* y) {
-    using E = ComplexOf<T>;
-    constexpr int W = int(16 / sizeof(E)); // elements a register
-    Vec<T> sign;
-    if constexpr (sizeof(T) == 4)
-        sign = AsFloat(BitCast<I32x4>(Set<int64_t>(INT64_MIN)));
-    else
-        sign = AsFloat(I64x2{_mm_set_epi64x(INT64_MIN, 0)});
-    auto conj = [](const E& e) { return E{e.re, -e.im}; };
-    const T* pa = &a->re;
-    T* py = &y->re;
-    int i = 0;
-    const uintptr_t addr = reinterpret_cast<uintptr_t>(y);
-    const bool stream = a != y && uintptr_t(n) * sizeof(E) >= kStreamBytes &&
-                        (addr + (addr & 15 ? sizeof(E) : 0)) % 16 == 0;
-    if (stream) {
-        if (addr & 15) y[0] = conj(a[0]), i = 1;
-        for (; i + 4 * W <= n; i += 4 * W)
-            for (int k = 0; k < 4; ++k)
-                StoreStream(py + (i + k * W) * 2, Xor(Load(pa + (i + k * W) * 2), sign));
-        StreamFence();
-    } else {
-        for (; i + 4 * W <= n; i += 4 * W)
-            for (int k = 0; k < 4; ++k)
-                Store(py + (i + k * W) * 2, Xor(Load(pa + (i + k * W) * 2), sign));
+template <class Tp>
+struct ConjBody {
+    using T = Tp;
+    using In = ComplexOf<Tp>;
+    using Out = In;
+    static int Eval(const Cx<Tp>* x, const Cx<Tp>*, Cx<Tp>& y) {
+        y.re = x->re;
+        y.im = Neg(x->im);
+        return 0;
     }
-    for (; i < n; ++i)
-        y[i] = conj(a[i]);
-}
+};
 
 // The real kernel K over the parts of n complex elements, in pieces whose part count
 // fits its 32-bit count.
@@ -307,12 +282,8 @@ BRENN_COMPLEX_ADDSUB(c, s, EP)
 BRENN_COMPLEX_ADDSUB(z, d, LaHa)
 BRENN_COMPLEX_ADDSUB(z, d, EP)
 
-void ZAR_KERNEL(cConj, All) BRENN_SIG(c, Unary) {
-    ConjRun<float>(n, a, y);
-}
-void ZAR_KERNEL(zConj, All) BRENN_SIG(z, Unary) {
-    ConjRun<double>(n, a, y);
-}
+ZAR_COMPLEX_KERNEL(c, Conj, All, Unary, ConjBody<float>)
+ZAR_COMPLEX_KERNEL(z, Conj, All, Unary, ConjBody<double>)
 
 ZAR_COMPLEX_KERNEL(z, Mul, LaHa, Binary, MulZ<false, Level::HA>)
 ZAR_COMPLEX_KERNEL(z, Mul, EP, Binary, MulZ<false, Level::EP>)
