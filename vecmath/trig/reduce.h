@@ -179,7 +179,10 @@ BRENN_TRIG_COLD void LargeD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl) {
 // differences are exact as they stand: a - j C0 and j C1 are multiples of 2^-58 (of
 // 2^-52 when a >= 1; j = 0 below pi/128) and their difference is below 2^-5. The third
 // is carried exactly so that an argument close to a multiple of pi keeps its full
-// precision.
+// precision, by the fast sum: r1 is a multiple of 2^-58 (and below 2^-5), j C2 one of
+// C2's last bit, 2^-74, and below 2^-23, so that where |r1| is the smaller, r1 plus
+// j C2 rounds onto multiples of 2^-74 (or is exact) and the sum's error comes out
+// exactly all the same.
 // The second form also gives t, whose low word is j (before add), for lane masks of j's
 // bits without a round trip through J.
 BRENN_TRIG_HOT void ShortD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl, int add,
@@ -192,7 +195,7 @@ BRENN_TRIG_HOT void ShortD(__m128d a, int32_t J[2], __m128d& rh, __m128d& rl, in
     __m128d r1 = Sub(a, Mul(j, Set<double>(kPi64Parts[0])));
     r1 = Sub(r1, Mul(j, Set<double>(kPi64Parts[1])));
     __m128d h, l;
-    TwoSum(r1, Mul(j, Set<double>(-kPi64Parts[2])), h, l);
+    FastTwoSum(r1, Mul(j, Set<double>(-kPi64Parts[2])), h, l);
     l = Sub(l, Mul(j, Set<double>(kPi64Parts[3])));
     // Renormalised, the series running on rh alone: |h| >= |l|, so the fast sum is exact.
     FastTwoSum(h, l, rh, rl);

@@ -266,8 +266,9 @@ BRENN_TRIG_HOT void TanSums(const int32_t* J, const __m128d* rh, const __m128d* 
         __m128d pl = Add(Mul(ah[k], tt[k]), Mul(al[k], Add(rh[k], tt[k])));
         __m128d ph, pe0;
         FastTwoSum(Mul(ah[k], rh[k]), pl, ph, pe0);
-        FastTwoSum(Set<double>(1), Neg(ph), dh[k], dl[k]);
-        dl[k] = Sub(dl[k], pe0);
+        // 1 - ph and its rounding (1 - dh is exact, |ph| < 1/2), less pe0.
+        dh[k] = Sub(Set<double>(1), ph);
+        dl[k] = Sub(Sub(Sub(Set<double>(1), dh[k]), ph), pe0);
         // |tan A| >= tan(pi/64) > pi/128 >= |rh|, or tan A = 0: the fast sum is exact.
         FastTwoSum(ah[k], rh[k], nh[k], nl[k]);
         FastTwoSum(nh[k], Add(nl[k], Add(al[k], tt[k])), nh[k], nl[k]);
