@@ -136,24 +136,21 @@ BRENN_VEC void HypotScaled(const __m128d* x, const __m128d* z, __m128d* y) {
             y[k] = HypotWide(x[k], z[k]);
         return;
     }
-    // each step over the M registers before the next, so that their chains overlap
-    __m128d xx[M], r[M], d[M];
+    // register by register: each register's correction follows its root, so that the
+    // processor has independent work beside the roots still running (with all the roots
+    // first, their corrections wait in the scheduler; measured 5 % slower)
 #pragma GCC unroll 8
     for (int k = 0; k < M; ++k) {
-        xx[k] = Mul(x[k], x[k]);
-        __m128d zz = Mul(z[k], z[k]);
-        r[k] = Sqrt(Add(xx[k], zz));
-        d[k] = Add(Sub(xx[k], Mul(r[k], r[k])), zz);
-    }
-#pragma GCC unroll 8
-    for (int k = 0; k < M; ++k) {
-        __m128d rr = Mul(r[k], r[k]);
-        d[k] = Add(d[k], Sub(SquareTail(x[k], xx[k]), SquareTail(r[k], rr)));
+        const __m128d xx = Mul(x[k], x[k]), zz = Mul(z[k], z[k]);
+        const __m128d r = Sqrt(Add(xx, zz));
+        const __m128d rr = Mul(r, r);
+        __m128d d = Add(Sub(xx, rr), zz);
+        d = Add(d, Sub(SquareTail(x[k], xx), SquareTail(r, rr)));
         // 1/(2r) from the bits (within 12 %) and one Newton step (1.5 %).
-        __m128d r2 = Add(r[k], r[k]);
+        const __m128d r2 = Add(r, r);
         __m128d h = AsFloat(Sub(Set<int64_t>(0x7FDE623822FC16E6ll), AsInt(r2)));
         h = Mul(h, Sub(Set<double>(2.0), Mul(r2, h)));
-        y[k] = Add(r[k], Mul(d[k], h));
+        y[k] = Add(r, Mul(d, h));
     }
 }
 template <Level L>
@@ -197,7 +194,7 @@ struct HypotBody {
     static V Eval(V a, V b, V& special) { return HypotOf<L>(a, b, special); }
     static int Scalar(const T* a, const T* b, T* y) { return HypotScalar(a, b, y); }
     // Double HA in rounds of sixteen: where every lane of the round's eight registers lies
-    // in the plain range, the root's steps over all of them; otherwise register by
+    // in the plain range, HypotScaled over all of them; otherwise register by
     // register. (LA and EP, a sum and a root a register, are faster in rounds of eight.)
     static constexpr int kRound = sizeof(T) == 8 && L == Level::HA ? 16 : 8;
     static BRENN_VEC int EvalWide(const V* a, const V* b, V* y) {
