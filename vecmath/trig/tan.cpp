@@ -161,7 +161,7 @@ BRENN_TRIG_HOT void AccurateQuotient(const __m128d* a, const __m128d* n, const _
                          Mul(n[k], Set<double>(piHalf[1]))); // exact
         // |r1| >= n piHalf[2], or both are small and the difference is exact.
         __m128d h, e;
-        FastTwoSum(r1, Neg(Mul(n[k], Set<double>(piHalf[2]))), h, e);
+        FastTwoSum(r1, Mul(n[k], Set<double>(-piHalf[2])), h, e);
         FastTwoSum(h, Sub(e, Mul(n[k], Set<double>(piHalf[3]))), r[k], rl[k]);
     }
     BRENN_EACH(k, M) u[k] = Add(Mul(r[k], r[k]), Mul(Add(r[k], r[k]), rl[k]));
@@ -179,8 +179,8 @@ BRENN_TRIG_HOT void AccurateQuotient(const __m128d* a, const __m128d* n, const _
     BRENN_EACH(k, M) {
         __m128d q0 = Div(IfThenElse(odd[k], c[k], s[k]), IfThenElse(odd[k], s[k], c[k]));
         __m128d d = Sub(Mul(ds[k], RoughRecip(s[k])), Mul(dc[k], RoughRecip(c[k])));
-        // n odd: -c/s, whose relative error is the opposite.
-        q[k] = Add(Xor(q0, And(odd[k], SignMask<double>())), Mul(q0, d));
+        // n odd (odd holds the sign bit alone): -c/s, whose relative error is the opposite.
+        q[k] = Add(Xor(q0, odd[k]), Mul(q0, d));
     }
 }
 
@@ -191,11 +191,11 @@ template <int M, class Sides, class V, size_t P>
 inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
     using T = ElemOf<V>;
     using C = TanShort<T>;
-    using U = UInt<T>;
     const V shifter = Set<T>(Format<T>::kShifter);
     V t[M], odd[M], n[M], r[M], u[M], s[M], c[M];
     BRENN_EACH(k, M) t[k] = Add(Mul(a[k], Set<T>(C::kTwoOverPi)), shifter);
-    BRENN_EACH(k, M) odd[k] = AsFloat(Eq(And(AsInt(t[k]), Set<U>(1)), Set<U>(1)));
+    // n odd: t's low bit moved to the sign bit, which is all that the mask's uses read.
+    BRENN_EACH(k, M) odd[k] = AsFloat(ShiftLeft<8 * sizeof(T) - 1>(AsInt(t[k])));
     BRENN_EACH(k, M) n[k] = Sub(t[k], shifter);
     if constexpr (std::is_same_v<Sides, TanFitLA>) {
         AccurateQuotient<M>(a, n, odd, piHalf, q);
