@@ -464,6 +464,25 @@ TEST(Power, PowxIntegerExponentOnNegativeX) {
     CheckPowxIntegerOnNegatives<double>();
 }
 
+// The single cube root over every binade of normals, both signs, at the ends and middle
+// of each: the three remainders of the exponent and their scales, the largest and
+// smallest exponents, within each level's bound (11 bits at EP).
+TEST(Power, SingleCbrtOverEveryBinade) {
+    for (int slot : kSlots) {
+        const double tol = slot == frame::SlotEP ? 0x1p12 : slot == frame::SlotLA ? 4.0 : 1.0;
+        int st;
+        for (int e = -126; e <= 127; ++e)
+            for (float m : {1.0f, 1.5f, 0x1.fffffep0f})
+                for (float sign : {1.0f, -1.0f}) {
+                    const float x = sign * std::ldexp(m, e);
+                    EXPECT_LE(UlpError(Call1<float>(frame::Row_sCbrt, slot, x, &st),
+                                       cbrtl((long double)x)),
+                              tol)
+                        << SlotName(slot) << " x=" << x;
+                }
+    }
+}
+
 // The roots: exact cubes, signs, zeros and infinities, denormals, InvCbrt's pole (status
 // 2 in double only), Pow2o3 even, Pow3o2's domain.
 TEST(Power, RootsAtTheirSpecialValues) {

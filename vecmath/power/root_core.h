@@ -137,12 +137,20 @@ BRENN_VEC __m128d RootOf(__m128d ax) {
 // (exact over that range, the product within each lane's low 16 bits, so one 16-bit
 // multiply serves); M = m * 2^j by j put into m's exponent field, and the seed's scale
 // 2^(-j/3) by a byte shuffle of a four-entry table. Then the series in single (LA, within
-// about 2 ulp; EP takes the seed's products alone, 13 bits) or, `Wide`, a fitted line in
+// about 2 ulp; EP takes the seed's products alone, 13 bits, or for Cbrt a cubic in m of
+// its own) or, `Wide`, a fitted line in
 // place of its first two terms on widened lanes, rounded once to single (HA).
 constexpr float kRootSeedS[] = {0x1.ab85acp0f, -0x1.2c4234p0f, 0x1.641702p-1f, -0x1.c519b2p-3f,
                                 0x1.d47154p-6f};
 // 2^(-j/3) for j = 0, 1, 2 (the fourth entry unused).
 alignas(16) constexpr float kRootScaleS[4] = {1.0f, 0x1.965feap-1f, 0x1.428a3p-1f, 1.0f};
+
+// Cbrt's single EP: m^(1/3) on [1, 2] as a cubic, fitted by tools/power/cbrt_single_ep.sollya
+// (relative error 2^-13.75), times 2^(j/3): the root of M without the seed's square and
+// its product with M.
+constexpr float kCbrtEPS[] = {0x1.1b0ba8p-1f, 0x1.2c9a46p-1f, -0x1.4dc31ep-3f, 0x1.7a8d5ep-6f};
+// 2^(j/3) for j = 0, 1, 2 (the fourth entry unused).
+alignas(16) constexpr float kCbrtScaleS[4] = {1.0f, 0x1.428a3p0f, 0x1.965feap0f, 1.0f};
 
 // The single HA step on widened lanes: lead*p(e), p the line fitted to (1 + e)^(-2/3) or
 // (1 + e)^(-1/3) by tools/power/cbrt_single_wide.sollya (2^-27.9 and 2^-29.1 relative),
@@ -176,9 +184,13 @@ inline __m128 RootOf(__m128 ax) {
     const I32x4 j = Sub(kd, Add(qd, Add(qd, qd)));
     const I32x4 mant = And(xi, Set<uint32_t>(F::kMant));
     const __m128 m = AsFloat(Or(mant, Set<uint32_t>(F::kOne)));
+    __m128 v;
+    if constexpr (R == Root::Cbrt && Terms == 0 && !Wide) {
+        v = Mul(Estrin(m, kCbrtEPS), AsFloat(LookupFour(AsInt(Load(kCbrtScaleS)), j)));
+        return AsFloat(Add(AsInt(v), ShiftLeft<F::kMantBits>(Sub(qd, Set<int32_t>(43)))));
+    }
     const __m128 bigM = AsFloat(Or(mant, ShiftLeft<F::kMantBits>(Add(j, Set<int32_t>(F::kBias)))));
     const __m128 z = Mul(Estrin(m, kRootSeedS), AsFloat(LookupFour(AsInt(Load(kRootScaleS)), j)));
-    __m128 v;
     if constexpr (Wide)
         v = Narrow(RootFinishLine<R>(WidenLower(z), WidenLower(bigM)),
                    RootFinishLine<R>(WidenUpper(z), WidenUpper(bigM)));
