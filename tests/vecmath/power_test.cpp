@@ -527,6 +527,31 @@ TEST(Power, RootsAtTheirSpecialValues) {
     }
 }
 
+// Double Hypot over long calls, so that the rounds of sixteen run: ordinary operands,
+// rounds with one operand far out (2^-500, 2^70) or special, within each level's bound
+// (26 bits at EP) everywhere.
+TEST(Power, DoubleHypotInLongCalls) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    constexpr int n = 256;
+    std::vector<double> a(n), b(n), y(n);
+    for (int i = 0; i < n; ++i) {
+        a[i] = (i % 7 - 3) * 1.37 + i * 0.011;
+        b[i] = (i % 5 - 2) * 2.91 - i * 0.003;
+    }
+    a[40] = 0x1p-500, b[41] = 0x1p70, a[70] = kInf, b[71] = kNaN, a[100] = 1e-310;
+    for (int slot : kSlots) {
+        As<Binary<double>>(Raw(frame::Row_dHypot, slot))(n, a.data(), b.data(), y.data());
+        const double tol = slot == frame::SlotEP ? 0x1p27 : slot == frame::SlotLA ? 4.0 : 1.0;
+        for (int i = 0; i < n; ++i) {
+            if (i == 70 || i == 71) {
+                EXPECT_TRUE(i == 70 ? y[i] == kInf : std::isnan(y[i])) << SlotName(slot);
+                continue;
+            }
+            EXPECT_LE(UlpError(y[i], hypotl(a[i], b[i])), tol) << SlotName(slot) << " i=" << i;
+        }
+    }
+}
+
 // Hypot: an infinity beats a NaN in either place, a NaN otherwise, +0 for two zeros,
 // overflow and denormal results without a status.
 TEST(Power, HypotSpecialValues) {
