@@ -4,10 +4,10 @@
  * The single rows split the exponent and take the seed in single lanes; HA runs a fitted
  * line in e on widened lanes and rounds once, LA (one term of the series, within
  * about 1.6 ulp) and EP (the seed alone) stay in single. Single denormals go to the
- * scalar routine, which runs the double form. The double rows take four terms (at HA
- * with the seed rounded so that its powers and products are exact; LA and EP round
- * them), in rounds of sixteen that take each step over their eight registers
- * (RootRound). dCbrt's LA and EP slots share a kernel;
+ * scalar routine, which runs the double form. The double rows take four terms of the
+ * series at HA, with the seed rounded so that its powers and products are exact, and a
+ * fitted cubic in place of the series at LA and EP, in rounds of sixteen that take each
+ * step over their eight registers (RootRound). dCbrt's LA and EP slots share a kernel;
  * dInvCbrt has one kernel, at HA, for the three slots.
  *
  * Special lanes: zeros, infinities, NaN, and denormals. Cbrt gives +-0 and +-inf
@@ -40,11 +40,15 @@ struct RootRanges<double> {
                                       0xFFDFFFFFFFFFFFFFull};
 };
 
-// The root of positive normal double lanes with x's sign put back where the root is odd:
-// four terms of the series, at HA with the exact cube and products.
+// The double step of each level: the exact series at HA, the cubic at LA and EP (a line,
+// 28 bits, would do for EP, but its slots keep the accuracy they have).
+template <Level L>
+inline constexpr int kRootTerms = L == Level::HA ? 4 : 3;
+
+// The root of positive normal double lanes with x's sign put back where the root is odd.
 template <Root R, Level L>
 inline __m128d SignedRoot(__m128d x) {
-    __m128d v = RootOf<R, 4, L == Level::HA>(Abs(x));
+    __m128d v = RootOf<R, kRootTerms<L>, L == Level::HA>(Abs(x));
     return R == Root::Pow2o3 ? v : Or(v, SignBit(x));
 }
 
@@ -115,7 +119,7 @@ struct RootBody {
                 bits |= MaskBits(RangeTest(x[k], RootRanges<T>::template kSpecial<L>)) << (2 * k);
                 ax[k] = Abs(x[k]);
             }
-            RootRound<R, 4, L == Level::HA, 8>(ax, y);
+            RootRound<R, kRootTerms<L>, L == Level::HA, 8>(ax, y);
             if constexpr (R != Root::Pow2o3) {
 #pragma GCC unroll 8
                 for (int k = 0; k < 8; ++k)

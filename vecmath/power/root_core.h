@@ -13,7 +13,8 @@
  * 2^-61 and the leading product in two parts, so that in effect only the last addition
  * rounds, within about 0.51 ulp. The double seed runs by Horner's rule (fewer operations:
  * in rounds of sixteen the bodies are bound by them), the HA series by Estrin's scheme
- * (measured faster: its chain ends the body). */
+ * (measured faster: its chain ends the body). Double LA and EP take a fitted cubic in e in
+ * place of the series' four terms. */
 #ifndef BRENN_VECMATH_POWER_ROOT_CORE_H
 #define BRENN_VECMATH_POWER_ROOT_CORE_H
 
@@ -38,36 +39,68 @@ BRENN_VEC __m128d RootScaleOf(I64x2 j) {
 constexpr double kThirdSeries[] = {-1.0 / 3, 2.0 / 9, -14.0 / 81, 35.0 / 243};
 constexpr double kTwoThirdsSeries[] = {-2.0 / 3, 5.0 / 9, -40.0 / 81, 110.0 / 243};
 
-// The terms of the series a level needs: with e near 2^-12.6 the first term left out is
-// below 2^-28 for one term (single LA, whose own roundings in single are larger) and
-// 2^-66 for four (double LA and EP); double HA, whose seed is cut to 15 bits (e near
-// 2^-11.3), takes four too (2^-57.7 for Cbrt's series, 2^-59.5 for
-// the others).
+// e*Q(e), the cubic with least absolute error to (1 + e)^(-2/3) - 1 and (1 + e)^(-1/3) - 1
+// over |e| <= 2^-13, fitted by tools/power/cbrt_double_la.sollya (2^-55.75 and 2^-57.25;
+// the series' fourth term, which it replaces, reaches 2^-53.5).
+constexpr double kTwoThirdsCubic[] = {-0x1.5555555555555p-1, 0x1.1c71c74c720bap-1,
+                                      -0x1.f9add4566700dp-2};
+constexpr double kThirdCubic[] = {-0x1.5555555555555p-2, 0x1.c71c7204340eep-3,
+                                  -0x1.61f9ae4789b8bp-3};
+
 // The root of M from its seed z, with e = M*z^3 - 1 and the products rounded, in either
-// precision: M*z^2, z or M*z times 1 + the series.
+// precision: M*z^2, z or M*z times 1 + e*Q(e). Terms: 0, the seed's 14 bits; 1, the
+// series' first term (single LA: with e near 2^-12.6 the term left out is below 2^-28,
+// under single's own roundings); 3, the fitted cubic (double LA).
 template <Root R, int Terms, class V>
 BRENN_VEC V RootFinish(V z, V bigM) {
     using T = ElemOf<V>;
     const V z2 = Mul(z, z);
     const V lead = R == Root::InvCbrt ? z : Mul(bigM, R == Root::Cbrt ? z2 : z);
-    if constexpr (Terms == 0) return lead; // the seed's 14 bits
-    // M*z^3 from the lead where it holds M: one product fewer.
-    const V mz3 = R == Root::Cbrt     ? Mul(lead, z)
-                  : R == Root::Pow2o3 ? Mul(lead, z2)
-                                      : Mul(bigM, Mul(z2, z));
-    const V e = Sub(mz3, Set<T>(T(1)));
-    const auto& c = R == Root::Cbrt ? kTwoThirdsSeries : kThirdSeries;
-    // Four terms (double): Q by Estrin's scheme beside lead*e, a shorter chain.
-    if constexpr (Terms == 4) return Add(lead, Mul(Mul(lead, e), Estrin(e, c)));
-    if constexpr (Terms == 1) return Add(lead, Mul(Mul(lead, Set<T>(T(c[0]))), e));
-    V sr = Set<T>(T(c[Terms - 1]));
-    for (int k = Terms - 2; k >= 0; --k)
-        sr = Add(Set<T>(T(c[k])), Mul(e, sr));
-    sr = Mul(e, sr);
-    return Add(lead, Mul(lead, sr));
+    if constexpr (Terms == 0) {
+        return lead;
+    } else {
+        // M*z^3 from the lead where it holds M: one product fewer.
+        const V mz3 = R == Root::Cbrt     ? Mul(lead, z)
+                      : R == Root::Pow2o3 ? Mul(lead, z2)
+                                          : Mul(bigM, Mul(z2, z));
+        const V e = Sub(mz3, Set<T>(T(1)));
+        if constexpr (Terms == 1) {
+            const auto& c = R == Root::Cbrt ? kTwoThirdsSeries : kThirdSeries;
+            return Add(lead, Mul(Mul(lead, Set<T>(T(c[0]))), e));
+        } else {
+            static_assert(Terms == 3 && sizeof(T) == 8, "the cubic is the double LA step");
+            // Q by Estrin's scheme beside lead*e, a shorter chain.
+            const auto& c = R == Root::Cbrt ? kTwoThirdsCubic : kThirdCubic;
+            return Add(lead, Mul(Mul(lead, e), Estrin(e, c)));
+        }
+    }
 }
 
-// |x|^a for a = -1/3, 1/3, 2/3, positive normal double lanes; `Exact` for double HA.
+// The single HA step on widened lanes: lead*p(e), p the line fitted to (1 + e)^(-2/3) or
+// (1 + e)^(-1/3) by tools/power/cbrt_single_wide.sollya (2^-27.9 and 2^-29.1 relative),
+// written as lead*((p0 - p1) + p1*M*z^3), so that M*z^3 is not formed apart from the lead:
+// a chain of five operations.
+template <Root R>
+inline __m128d RootFinishLine(__m128d z, __m128d bigM) {
+    constexpr double p1 = R == Root::Cbrt ? -0x1.5555557cd6e9ep-1 : -0x1.555555781948bp-2;
+    constexpr double k = R == Root::Cbrt ? 0x1.aaaaaad032916p0 : 0x1.5555556522c3fp0;
+    const __m128d z2 = Mul(z, z);
+    __m128d lead, t;
+    if constexpr (R == Root::Cbrt) {
+        lead = Mul(bigM, z2);
+        t = Mul(lead, Mul(z, Set<double>(p1)));
+    } else if constexpr (R == Root::Pow2o3) {
+        lead = Mul(bigM, z);
+        t = Mul(lead, Mul(z2, Set<double>(p1)));
+    } else {
+        lead = z;
+        t = Mul(Mul(bigM, Mul(z, Set<double>(p1))), z2);
+    }
+    return Mul(lead, Add(Set<double>(k), t));
+}
+
+// |x|^a for a = -1/3, 1/3, 2/3, positive normal double lanes: HA the exact series (Terms
+// 4, `Exact`), LA and EP the fitted cubic (3).
 // M registers at once, each step over all of them before the next (the split, the
 // seeds, the series, the exponents), so that their chains overlap.
 template <Root R, int Terms, bool Exact, int M>
@@ -151,29 +184,6 @@ alignas(16) constexpr float kRootScaleS[4] = {1.0f, 0x1.965feap-1f, 0x1.428a3p-1
 constexpr float kCbrtEPS[] = {0x1.1b0ba8p-1f, 0x1.2c9a46p-1f, -0x1.4dc31ep-3f, 0x1.7a8d5ep-6f};
 // 2^(j/3) for j = 0, 1, 2 (the fourth entry unused).
 alignas(16) constexpr float kCbrtScaleS[4] = {1.0f, 0x1.428a3p0f, 0x1.965feap0f, 1.0f};
-
-// The single HA step on widened lanes: lead*p(e), p the line fitted to (1 + e)^(-2/3) or
-// (1 + e)^(-1/3) by tools/power/cbrt_single_wide.sollya (2^-27.9 and 2^-29.1 relative),
-// written as lead*((p0 - p1) + p1*M*z^3), so that M*z^3 is not formed apart from the lead:
-// a chain of five operations.
-template <Root R>
-inline __m128d RootFinishLine(__m128d z, __m128d bigM) {
-    constexpr double p1 = R == Root::Cbrt ? -0x1.5555557cd6e9ep-1 : -0x1.555555781948bp-2;
-    constexpr double k = R == Root::Cbrt ? 0x1.aaaaaad032916p0 : 0x1.5555556522c3fp0;
-    const __m128d z2 = Mul(z, z);
-    __m128d lead, t;
-    if constexpr (R == Root::Cbrt) {
-        lead = Mul(bigM, z2);
-        t = Mul(lead, Mul(z, Set<double>(p1)));
-    } else if constexpr (R == Root::Pow2o3) {
-        lead = Mul(bigM, z);
-        t = Mul(lead, Mul(z2, Set<double>(p1)));
-    } else {
-        lead = z;
-        t = Mul(Mul(bigM, Mul(z, Set<double>(p1))), z2);
-    }
-    return Mul(lead, Add(Set<double>(k), t));
-}
 
 template <Root R, int Terms, bool Wide>
 inline __m128 RootOf(__m128 ax) {
