@@ -8,8 +8,11 @@
  * OR-ed on. LA and HA: grid_core.h's series of S(tau, u), LA adding up V + (w + w*S1),
  * HA on the row pairs of erfRowsHA with the exact product and sums (0.5x ulp). Single
  * runs every level on single lanes (grid_single.h, the single rows; HA's last sum on
- * double lanes with erfRows), the grid held at 3.9296875, from where erf is 1 in single. Double LA and HA run rounds of sixteen, each
- * step over the round's eight registers (GridEvalRound). */
+ * double lanes with erfRows), |x| held by its bits at 3.9296875, from where erf is 1 in
+ * single, so that a NaN lane runs there and raises nothing; NaN lanes are set aside
+ * after the body, one test a register or round. Single HA and double LA and HA run
+ * rounds of sixteen, each step over the round's registers (GridEvalSingleRound,
+ * GridEvalRound). */
 #include "frame/kernels.h"
 #include "vecmath/erf/grid_single.h"
 #include "vecmath/frame/kernel_frame.h"
@@ -81,46 +84,64 @@ BRENN_VEC void ErfDouble(const __m128d* x, __m128d* y) {
         y[k] = Or(y[k], SignBit(x[k]));
 }
 
+// Single erf of N registers on single lanes: the grid on |x| held by its bits (a NaN
+// lane runs at the limit and raises nothing), x's sign OR-ed on, and the NaN lanes (rare,
+// one test a round) taken aside afterwards: x + 0, the NaN quieted.
+template <Level L, int N>
+BRENN_VEC void ErfSingle(const __m128* x, __m128* y) {
+    constexpr SeriesCut cut = L == Level::EP   ? kCutSingleEP
+                              : L == Level::LA ? kCutSingleLA
+                                               : kCutSingleHA;
+    GridEvalSingleRound<ErfGridSingle, cut, L == Level::HA, false, N>(x, y);
+    __m128 nan = Zero<float>();
+#pragma GCC unroll 4
+    for (int k = 0; k < N; ++k) {
+        y[k] = Or(y[k], SignBit(x[k]));
+        nan = Or(nan, Unordered(x[k], x[k]));
+    }
+    if (__builtin_expect(MaskBits(nan) != 0, 0)) {
+        for (int k = 0; k < N; ++k)
+            y[k] = IfThenElse(Unordered(x[k], x[k]), Add(x[k], Zero<float>()), y[k]);
+    }
+}
+
 template <class Tp, Level L>
 struct ErfBody {
     using T = Tp;
     using V = Vec<T>;
     static V Eval(V x, V&) {
-        if constexpr (sizeof(T) == 4 && L == Level::HA) {
-            // NaN lanes (rare) run at the limit; their results are x + 0, the NaN quieted.
-            __m128 y = Or(GridEvalSingle<ErfGridSingle, kCutSingleHA, true>(x), SignBit(x));
-            __m128 nan = Unordered(x, x);
-            if (__builtin_expect(MaskBits(nan) != 0, 0)) y = IfThenElse(nan, Add(x, Zero<T>()), y);
+        if constexpr (sizeof(T) == 4) {
+            __m128 y;
+            ErfSingle<L, 1>(&x, &y);
             return y;
-        } else if constexpr (sizeof(T) == 4)
-            return NaNQuiet(x, [](__m128 v) {
-                constexpr SeriesCut cut = L == Level::EP   ? kCutSingleEP
-                                          : L == Level::LA ? kCutSingleLA
-                                                           : kCutSingleHA;
-                return Or(GridEvalSingle<ErfGridSingle, cut, L == Level::HA>(v), SignBit(v));
-            });
-        else
+        } else
             return NaNQuiet(x, [](__m128d v) {
                 __m128d y;
                 ErfDouble<L, 1>(&v, &y);
                 return y;
             });
     }
-    // Double LA and HA in rounds of sixteen, each step over the round's eight registers
-    // (EP's short chains measured slower so); NaN lanes run at 0 and come back quieted.
-    static constexpr int kRound = sizeof(T) == 8 && L != Level::EP ? 16 : 8;
+    // Single HA and double LA and HA in rounds of sixteen, each step over the round's
+    // registers (single LA and EP, one register at a time, and double EP measured
+    // faster in rounds of eight). Double: NaN lanes run at 0 and come back quieted.
+    static constexpr int kRound = sizeof(T) == 4 ? (L == Level::HA ? 16 : 8)
+                                                 : (L == Level::EP ? 8 : 16);
     static int EvalWide(const V* x, V* y) {
         constexpr int N = 16 / kLanes<T>;
-        V nan[N], xs[N];
+        if constexpr (sizeof(T) == 4) {
+            ErfSingle<L, N>(x, y);
+        } else {
+            V nan[N], xs[N];
 #pragma GCC unroll 8
-        for (int k = 0; k < N; ++k) {
-            nan[k] = Unordered(x[k], x[k]);
-            xs[k] = IfThenZeroElse(nan[k], x[k]);
+            for (int k = 0; k < N; ++k) {
+                nan[k] = Unordered(x[k], x[k]);
+                xs[k] = IfThenZeroElse(nan[k], x[k]);
+            }
+            ErfDouble<L, N>(xs, y);
+#pragma GCC unroll 8
+            for (int k = 0; k < N; ++k)
+                y[k] = IfThenElse(nan[k], Add(x[k], Zero<T>()), y[k]);
         }
-        ErfDouble<L, N>(xs, y);
-#pragma GCC unroll 8
-        for (int k = 0; k < N; ++k)
-            y[k] = IfThenElse(nan[k], Add(x[k], Zero<T>()), y[k]);
         return 0;
     }
 };

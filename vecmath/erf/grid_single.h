@@ -64,81 +64,130 @@ BRENN_VEC void RowsOf(const Row* rows, I32x4 j, const Row*& r0, const Row*& r1, 
     r3 = reinterpret_cast<const Row*>(base + o[3]);
 }
 
-template <class G, SeriesCut C, bool kTwoPart, bool kScaled = false>
-inline __m128 GridEvalSingle(__m128 x) {
-    constexpr float scale = kScaled ? 0x1p100f : 1.0f;
+// The steps of the evaluation on one register: the grid point and the rows, the series,
+// and the sum (GridEvalSingle takes them in turn; GridEvalSingleRound takes each over a
+// round's registers before the next).
+template <class G, bool kWide>
+struct SinglePoint {
+    using Row = std::remove_pointer_t<decltype(G::kRows)>; // double[W]
+    __m128 xj, d, tiny;
+    __m128 v, deriv;               // the single rows' (v, D): LA, EP
+    const Row *q0, *q1, *q2, *q3; // the double rows: HA
+};
+
+template <class G, bool kWide>
+BRENN_VEC SinglePoint<G, kWide> SingleNearest(__m128 x) {
     constexpr float shifter = float(G::kShifter * 0x1p-29);
-    // HA: the series on single lanes, the last sum in double on the double rows.
-    constexpr bool kWide = kTwoPart;
+    SinglePoint<G, kWide> p;
     __m128 ax = Abs(x);
-    __m128 mirror = Zero<float>(), lim = Set<float>(float(G::kLimitSingle));
+    __m128 lim = Set<float>(float(G::kLimitSingle));
     if constexpr (G::kMirror != 0) {
-        mirror = G::kMirrorPositive ? Xor(x, SignMask<float>()) : x; // by the sign bit
+        __m128 mirror = G::kMirrorPositive ? Xor(x, SignMask<float>()) : x; // by the sign bit
         lim = IfThenElse(mirror, Set<float>(float(G::kMirrorLimit)), lim);
     }
+    // |x| held by its bits, so that a NaN lane (Erf takes it aside afterwards) runs at the
+    // limit and raises nothing.
+    __m128 a = AsFloat(Min(AsInt(ax), AsInt(lim)));
+    p.tiny = Lt(a, Set<float>(0x1p-60f));
     // Erfc and Q are F(0) to the last bit below 2^-60: those run at 2^-60, so that
     // u = d^2 raises no underflow. Erf takes u = 0 there instead.
-    constexpr bool kHeld = G::kMirror != 0;
-    // HA holds |x| by its bits, so that a NaN lane (Erf takes it aside afterwards) runs
-    // at the limit and raises nothing.
-    __m128 a = kWide ? AsFloat(Min(AsInt(ax), AsInt(lim))) : Min(ax, lim);
-    __m128 tiny = Lt(a, Set<float>(0x1p-60f));
-    if constexpr (kHeld) a = Max(a, Set<float>(0x1p-60f));
+    if constexpr (G::kMirror != 0) a = Max(a, Set<float>(0x1p-60f));
     __m128 s = Add(a, Set<float>(shifter));
-    __m128 xj = Sub(s, Set<float>(shifter));
-    __m128 d = Sub(a, xj);
+    p.xj = Sub(s, Set<float>(shifter));
+    p.d = Sub(a, p.xj);
     I32x4 j = Sub(AsInt(s), AsInt(Set<float>(shifter)));
-    __m128 v, deriv;
-    using Row = std::remove_pointer_t<decltype(G::kRows)>; // double[W]
-    const Row *q0, *q1, *q2, *q3;
     if constexpr (kWide) {
-        RowsOf(G::kRows, j, q0, q1, q2, q3);
+        RowsOf(G::kRows, j, p.q0, p.q1, p.q2, p.q3);
     } else {
         using RowS = std::remove_pointer_t<decltype(G::kRowsSingle)>;
         const RowS *r0, *r1, *r2, *r3;
         RowsOf(G::kRowsSingle, j, r0, r1, r2, r3);
-        LoadTransposed(*r0, *r1, *r2, *r3, v, deriv);
+        LoadTransposed(*r0, *r1, *r2, *r3, p.v, p.deriv);
     }
-    __m128 s1 = Zero<float>();
+    return p;
+}
+
+// S - 1 at the point, 0 where the cut has no term.
+template <class G, SeriesCut C, bool kWide>
+BRENN_VEC __m128 SingleSeries(const SinglePoint<G, kWide>& p) {
     if constexpr (C.n0 > 0) {
-        __m128 tau = Mul(Mul(Set<float>(float(G::kTauScale)), xj), d);
-        __m128 u = Mul(d, d);
+        __m128 tau = Mul(Mul(Set<float>(float(G::kTauScale)), p.xj), p.d);
+        __m128 u = Mul(p.d, p.d);
         if constexpr (G::kUScale != 1.0) u = Mul(u, Set<float>(float(G::kUScale)));
-        if constexpr (!kHeld) u = IfThenZeroElse(tiny, u);
-        s1 = SeriesLessOne<C>(tau, u);
+        if constexpr (G::kMirror == 0) u = IfThenZeroElse(p.tiny, u);
+        return SeriesLessOne<C>(tau, u);
+    } else {
+        return Zero<float>();
     }
-    __m128 flip = Zero<float>(), k = Zero<float>();
+}
+
+template <class G, SeriesCut C, bool kTwoPart, bool kScaled>
+BRENN_VEC __m128 SingleSum(__m128 x, const SinglePoint<G, kTwoPart>& p, __m128 s1) {
+    constexpr float scale = kScaled ? 0x1p100f : 1.0f;
+    using Row = typename SinglePoint<G, kTwoPart>::Row;
+    __m128 mirror = Zero<float>(), flip = Zero<float>();
     if constexpr (G::kMirror != 0) {
+        mirror = G::kMirrorPositive ? Xor(x, SignMask<float>()) : x; // by the sign bit
         flip = And(mirror, SignMask<float>());
-        k = IfThenElse(mirror, Set<float>(float(G::kMirror) * scale), Zero<float>());
     }
     if constexpr (kTwoPart) {
         // F = V + (w + w*S1), w = D*d, in double with the double rows (V, D; or V, dh:
-        // dh's 2^-27 weighs below 2^-3 of F),
-        // the mirrored side as K - F, rounded once to single (below the least normal
-        // too); S1's single rounding weighs 2^-24 of a share below 2^-3 of F. No operand
-        // or product is a denormal in double, and these rows are unscaled in single's
-        // range.
+        // dh's 2^-27 weighs below 2^-3 of F), the mirrored side as K - F, rounded once
+        // to single (below the least normal too); S1's single rounding weighs 2^-24 of a
+        // share below 2^-3 of F. No operand or product is a denormal in double, and these
+        // rows are unscaled in single's range.
         constexpr int W = sizeof(Row) / sizeof(double);
         __m128 kf = Zero<float>();
         if constexpr (G::kMirror != 0) kf = IfThenElse(mirror, Set<float>(float(G::kMirror)), kf);
-        auto sum = [](__m128d dd, __m128d sd, __m128d kd, __m128d fd, const Row* p, const Row* q) {
-            __m128d deriv = LoadLanes(&(*p)[W / 2], &(*q)[W / 2]); // D, or dh
+        auto sum = [](__m128d dd, __m128d sd, __m128d kd, __m128d fd, const Row* r0,
+                      const Row* r1) {
+            __m128d deriv = LoadLanes(&(*r0)[W / 2], &(*r1)[W / 2]); // D, or dh
             __m128d w = Mul(deriv, dd);
-            __m128d f = Add(LoadLanes(&(*p)[0], &(*q)[0]), Add(w, Mul(w, sd)));
+            __m128d f = Add(LoadLanes(&(*r0)[0], &(*r1)[0]), Add(w, Mul(w, sd)));
             if constexpr (G::kMirror != 0) f = Add(kd, Xor(f, fd)); // fd: -0 or +0
             return f;
         };
         // The flip's sign mask widens to double's: -0 to -0.
-        return Narrow(sum(WidenLower(d), WidenLower(s1), WidenLower(kf), WidenLower(flip), q0, q1),
-                      sum(WidenUpper(d), WidenUpper(s1), WidenUpper(kf), WidenUpper(flip), q2, q3));
+        return Narrow(
+            sum(WidenLower(p.d), WidenLower(s1), WidenLower(kf), WidenLower(flip), p.q0, p.q1),
+            sum(WidenUpper(p.d), WidenUpper(s1), WidenUpper(kf), WidenUpper(flip), p.q2, p.q3));
     } else {
-        __m128 w = Mul(deriv, d);
+        __m128 w = Mul(p.deriv, p.d);
         __m128 c = C.n0 > 0 ? Add(w, Mul(w, s1)) : w;
-        __m128 r = G::kMirror == 0 ? Add(v, c) : Add(Add(k, Xor(v, flip)), Xor(c, flip));
+        __m128 r;
+        if constexpr (G::kMirror == 0) {
+            r = Add(p.v, c);
+        } else {
+            __m128 k = IfThenElse(mirror, Set<float>(float(G::kMirror) * scale), Zero<float>());
+            r = Add(Add(k, Xor(p.v, flip)), Xor(c, flip));
+        }
         if constexpr (kScaled) r = UnscaleSingle(r);
         return r;
     }
+}
+
+// HA: the series on single lanes, the last sum in double on the double rows.
+template <class G, SeriesCut C, bool kTwoPart, bool kScaled = false>
+inline __m128 GridEvalSingle(__m128 x) {
+    SinglePoint<G, kTwoPart> p = SingleNearest<G, kTwoPart>(x);
+    return SingleSum<G, C, kTwoPart, kScaled>(x, p, SingleSeries<G, C>(p));
+}
+
+// The same on the N registers x, each step over every register before the next (the
+// rows' loads of the round issue together, the series' chains side by side).
+template <class G, SeriesCut C, bool kTwoPart, bool kScaled, int N>
+BRENN_VEC void GridEvalSingleRound(const __m128* x, __m128* y) {
+    SinglePoint<G, kTwoPart> p[N];
+    __m128 s1[N];
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k)
+        p[k] = SingleNearest<G, kTwoPart>(x[k]);
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k)
+        s1[k] = SingleSeries<G, C>(p[k]);
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k)
+        y[k] = SingleSum<G, C, kTwoPart, kScaled>(x[k], p[k], s1[k]);
 }
 
 } // namespace brenn::vm
