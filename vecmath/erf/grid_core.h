@@ -8,7 +8,8 @@
  *   F(xj + d) = V + D*d*S(tau, u),   S = integral over [0, 1] of exp(-tau*s - u*s^2) ds,
  * tau = 2*xj*d and u = d^2 for erf and erfc, tau = xj*d and u = d^2/2 for Q. S - 1 is
  * the Taylor series of erf_series.h (exact coefficients), cut where the terms left out
- * fall below the level's bound: tau*P0(tau) + u*(P1(tau) + u*(P2(tau) + u*P3(tau))).
+ * fall below the level's bound: tau*P0(tau) + u*(P1(tau) + u*(P2(tau) + u*P3(tau))),
+ * taken in t = xj*d and v = d^2 with tau's and u's scales in the coefficients (SeriesPart).
  *
  * The other side of Erfc and CdfNorm is 2 - erfc(|x|) and 1 - Q(x): their lanes take
  * K - F with K - V split exactly (FastTwoSum, V being at most 1). Two ways to add up:
@@ -36,44 +37,55 @@ struct SeriesCut {
     int n0, n1, n2, n3;
 };
 
-// The first N coefficients of row m of the series from column k0, as an array for Estrin.
-template <int M, int K0, int N>
+// The first N coefficients of row m of the series from column k0, as an array for
+// Estrin, for the variables t = tau/S and v = u/H: the coefficient of tau^k u^m times
+// S^k H^m. S and H are powers of two, so that the scaled series rounds as the plain one
+// at every step (each partial result is the plain one's times a power of two) and
+// tau = S*xj*d and u = H*d^2 cost no multiplication of their own.
+template <int M, int K0, int N, double S, double H>
 struct SeriesPart {
     static constexpr double c[N > 0 ? N : 1] = {};
 };
-template <int M, int K0, int N>
-requires(N > 0) struct SeriesPart<M, K0, N> {
+template <int M, int K0, int N, double S, double H>
+requires(N > 0) struct SeriesPart<M, K0, N, S, H> {
     static constexpr auto Make() {
         struct A {
             double v[N];
         } a{};
-        for (int i = 0; i < N; ++i)
-            a.v[i] = kErfSeries[M][K0 + i];
+        double h = 1;
+        for (int m = 0; m < M; ++m)
+            h *= H;
+        for (int i = 0; i < N; ++i) {
+            double scale = h;
+            for (int k = 0; k < K0 + i; ++k)
+                scale *= S;
+            a.v[i] = kErfSeries[M][K0 + i] * scale;
+        }
         return a;
     }
     static constexpr auto kA = Make();
     static constexpr const double (&c)[N] = kA.v;
 };
 
-template <int M, int N, class V>
-BRENN_VEC V SeriesRow(V tau) {
-    return Estrin(tau, SeriesPart<M, 0, N>::c);
+template <int M, int N, double S, double H, class V>
+BRENN_VEC V SeriesRow(V t) {
+    return Estrin(t, SeriesPart<M, 0, N, S, H>::c);
 }
 
-// S - 1 at (tau, u), on double lanes or (the coefficients rounded to single) single
-// ones; the long rows by Estrin (a shorter chain than Horner's: dErfc 27 ticks an
-// element, was 37).
-template <SeriesCut C, class V>
-BRENN_VEC V SeriesLessOne(V tau, V u) {
-    V s = Mul(tau, Estrin(tau, SeriesPart<0, 1, C.n0>::c));
+// S - 1 at tau = S*t and u = H*v (S, H powers of two), on double lanes or (the
+// coefficients rounded to single) single ones; the long rows by Estrin (a shorter chain
+// than Horner's: dErfc 27 ticks an element, was 37).
+template <SeriesCut C, double S, double H, class V>
+BRENN_VEC V SeriesLessOne(V t, V v) {
+    V s = Mul(t, Estrin(t, SeriesPart<0, 1, C.n0, S, H>::c));
     if constexpr (C.n1 > 0) {
-        V q = SeriesRow<1, C.n1>(tau);
+        V q = SeriesRow<1, C.n1, S, H>(t);
         if constexpr (C.n2 > 0) {
-            V r = SeriesRow<2, C.n2>(tau);
-            if constexpr (C.n3 > 0) r = MulAdd(u, SeriesRow<3, C.n3>(tau), r);
-            q = MulAdd(u, r, q);
+            V r = SeriesRow<2, C.n2, S, H>(t);
+            if constexpr (C.n3 > 0) r = MulAdd(v, SeriesRow<3, C.n3, S, H>(t), r);
+            q = MulAdd(v, r, q);
         }
-        s = MulAdd(u, q, s);
+        s = MulAdd(v, q, s);
     }
     return s;
 }
@@ -140,15 +152,14 @@ BRENN_VEC void GridEvalRound(const __m128d* x, __m128d* y) {
         sh[k] = Add(a, Set<double>(G::kShifter));
         __m128d xj = Sub(sh[k], Set<double>(G::kShifter));
         d[k] = Sub(a, xj);
-        s1[k] = Mul(Mul(Set<double>(G::kTauScale), xj), d[k]); // tau
-        u[k] = Mul(d[k], d[k]);
-        if constexpr (G::kUScale != 1.0) u[k] = Mul(u[k], Set<double>(G::kUScale));
-        // Below 2^-256 u is 0, so that tiny arguments raise no underflow of their own.
-        u[k] = IfThenZeroElse(Lt(a, Set<double>(0x1p-256)), u[k]);
+        s1[k] = Mul(xj, d[k]); // tau / kTauScale
+        // d^2, u / kUScale; below 2^-256 0, so that tiny arguments raise no underflow
+        // of their own.
+        u[k] = IfThenZeroElse(Lt(a, Set<double>(0x1p-256)), Mul(d[k], d[k]));
     }
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k)
-        s1[k] = SeriesLessOne<C>(s1[k], u[k]);
+        s1[k] = SeriesLessOne<C, G::kTauScale, G::kUScale>(s1[k], u[k]);
     __m128d anyTiny = Zero<double>();
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k) {

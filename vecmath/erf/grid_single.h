@@ -111,11 +111,10 @@ BRENN_VEC SinglePoint<G, kWide> SingleNearest(__m128 x) {
 template <class G, SeriesCut C, bool kWide>
 BRENN_VEC __m128 SingleSeries(const SinglePoint<G, kWide>& p) {
     if constexpr (C.n0 > 0) {
-        __m128 tau = Mul(Mul(Set<float>(float(G::kTauScale)), p.xj), p.d);
-        __m128 u = Mul(p.d, p.d);
-        if constexpr (G::kUScale != 1.0) u = Mul(u, Set<float>(float(G::kUScale)));
-        if constexpr (G::kMirror == 0) u = IfThenZeroElse(p.tiny, u);
-        return SeriesLessOne<C>(tau, u);
+        __m128 t = Mul(p.xj, p.d);   // tau / kTauScale
+        __m128 v = Mul(p.d, p.d); // u / kUScale
+        if constexpr (G::kMirror == 0) v = IfThenZeroElse(p.tiny, v);
+        return SeriesLessOne<C, G::kTauScale, G::kUScale>(t, v);
     } else {
         return Zero<float>();
     }
