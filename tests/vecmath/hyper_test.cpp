@@ -163,6 +163,33 @@ TEST(Hyper, OverflowOnBothSidesOfTheLimit) {
     }
 }
 
+// Single Cosh and Sinh in long calls over the last stretch of the vector path, 80 to
+// 89.41, where the scales leave the format's ordinary range (n = 116 to 129, 2^(-n) no
+// longer normal): every level within its bound and silent, through the main rounds.
+TEST(Hyper, SingleTopRangeInLongCalls) {
+    std::vector<float> x;
+    for (float v = 80.0f; v <= 89.41f; v = nextafterf(v, 100.0f) + 0x1p-12f)
+        for (float s : {v, -v})
+            x.push_back(s);
+    std::vector<float> y(x.size());
+    for (Fn f : {Fn::Cosh, Fn::Sinh})
+        for (int slot : kSlots) {
+            ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+            K<float>(RowOf<float>(f), slot)(int(x.size()), x.data(), y.data());
+            double worst = 0, bits = 64;
+            for (size_t i = 0; i < x.size(); ++i) {
+                long double ref = Ref(f, x[i]);
+                ASSERT_TRUE(std::isfinite(y[i])) << int(f) << " " << slot << " " << x[i];
+                worst = std::max(worst, UlpError(y[i], ref));
+                bits = std::min(bits, double(-log2l(fabsl((y[i] - ref) / ref))));
+            }
+            if (slot == kSlotEP)
+                EXPECT_GE(bits, 11.0) << int(f);
+            else
+                EXPECT_LE(worst, slot == kSlotHA ? 1.0 : 4.0) << int(f) << " " << slot;
+        }
+}
+
 // Where Tanh rounds to 1: past the single table's last row, past 22 in double.
 template <class T>
 constexpr T kSaturated = sizeof(T) == 4 ? T(10.5) : T(22.5);
