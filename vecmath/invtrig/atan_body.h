@@ -134,14 +134,25 @@ BRENN_VEC __m128 AtanSingle(__m128 x) {
     return Or(Add(p, base), SignBit(x));
 }
 
-// Single Atan2 EP and LA: lanes in the vector range.
+// The single bodies' magnitudes: n = min(|a|, |b|) and d = max(|a|, |b|) by their bits
+// (exact, silent for any input), made a quiet NaN on the special lanes, so that a body
+// takes a and b as they are and raises nothing on lanes it leaves to the scalar routine
+// (in place of running those lanes on 1: two blends and the mask's sign fewer).
+// swap: |a| the larger; below b's sign as a mask.
+struct Magnitudes {
+    __m128 n, d, swap, below;
+};
+BRENN_VEC Magnitudes MagnitudesOf(__m128 a, __m128 b, __m128 special) {
+    I32x4 ay = AsInt(Abs(a)), ax = AsInt(Abs(b));
+    return {NaNWhere(special, AsFloat(Min(ay, ax))), NaNWhere(special, AsFloat(Max(ay, ax))),
+            AsFloat(Gt(ay, ax)), AsFloat(ShiftRightSigned<31>(AsInt(b)))};
+}
+
+// Single Atan2 EP and LA: lanes in the vector range, special lanes quiet NaN.
 template <Unit U, Level L>
-BRENN_VEC __m128 Atan2Single(__m128 a, __m128 b) {
+BRENN_VEC __m128 Atan2Single(__m128 a, __m128 b, __m128 special) {
     using Q = Quarter<float, U>;
-    __m128 ay = Abs(a), ax = Abs(b);
-    __m128 swap = AsFloat(Gt(AsInt(ay), AsInt(ax)));
-    __m128 n = IfThenElse(swap, ax, ay);
-    __m128 d = IfThenElse(swap, ay, ax);
+    const auto [n, d, swap, below] = MagnitudesOf(a, b, special);
     __m128 t;
     if constexpr (L == Level::EP) {
         __m128 r = ApproxRecip(d);
@@ -151,8 +162,7 @@ BRENN_VEC __m128 Atan2Single(__m128 a, __m128 b) {
         t = Div(n, d);
     }
     t = Xor(t, Xor(And(swap, SignMask<float>()), SignBit(b)));
-    __m128 base = IfThenElse(swap, Set<float>(2 * Q::kHi),
-                             IfThenElse(b, Set<float>(4 * Q::kHi), Zero<float>()));
+    __m128 base = IfThenElse(swap, Set<float>(2 * Q::kHi), And(below, Set<float>(4 * Q::kHi)));
     __m128 z = Mul(t, t);
     __m128 p = Mul(t, L == Level::EP ? AtanSingleEP(z) : AtanSingleLA(z));
     if constexpr (U == Unit::Pi) p = Mul(p, Set<float>(InvPi<float>::kHi));
@@ -283,17 +293,15 @@ BRENN_VEC __m128 AtanSingleHA(__m128 x) {
 // that the quotient is at least 2^-100 and neither its correction nor the residual's
 // products fall into the denormals (with [2^-62, 2^62) the correction of quotients near
 // 2^-124 came out denormal and cost 0.68 ulp).
-BRENN_VEC __m128 Atan2SingleHA(__m128 a, __m128 b) {
+BRENN_VEC __m128 Atan2SingleHA(__m128 a, __m128 b, __m128 special) {
     const __m128 one = Set<float>(1.0f);
-    __m128 ay = Abs(a), ax = Abs(b);
-    __m128 swap = AsFloat(Gt(AsInt(ay), AsInt(ax)));
-    __m128 n = Min(ay, ax), d = Max(ay, ax);
+    const auto [n, d, swap, below] = MagnitudesOf(a, b, special);
     __m128 fold = AsFloat(Gt(AsInt(n), AsInt(Mul(d, Set<float>(float(kTanEighth))))));
     __m128 nh, nl, dh, dl;
     FastTwoSum(Neg(And(fold, d)), n, nh, nl);
     FastTwoSum(d, And(fold, n), dh, dl);
     __m128 flip = Xor(And(swap, SignMask<float>()), SignBit(b));
-    __m128 k = IfThenElse(swap, Set<float>(2), IfThenElse(b, Set<float>(4), Zero<float>()));
+    __m128 k = IfThenElse(swap, Set<float>(2), And(below, Set<float>(4)));
     k = Add(k, And(fold, Or(one, And(flip, SignMask<float>()))));
     __m128 base = Mul(k, Set<float>(0x1.921fb8p-1f));
     __m128 lo = Mul(k, Set<float>(-0x1.5dde98p-24f));
@@ -391,18 +399,22 @@ BRENN_VEC __m128d AtanOf(__m128d x) {
 }
 // Fast: single HA in single arithmetic (the row's kernel); without it the double steps
 // (the phase of the complex Arg, whose HA keeps their 0.50 ulp).
+// The special lanes: quiet NaN in the single bodies, 1 elsewhere.
 template <Unit U, Level L, bool Fast = false>
-BRENN_VEC __m128 Atan2Of(__m128 a, __m128 b) {
+BRENN_VEC __m128 Atan2Of(__m128 a, __m128 b, __m128 special) {
+    const __m128 one = Set<float>(1.0f);
     if constexpr (kInSingle<U, L>)
-        return Atan2Single<U, L>(a, b);
+        return Atan2Single<U, L>(a, b, special);
     else if constexpr (U == Unit::Radian && Fast)
-        return Atan2SingleHA(a, b);
+        return Atan2SingleHA(a, b, special);
     else
-        return InDouble<U>(a, b);
+        return InDouble<U>(IfThenElse(special, one, a), IfThenElse(special, one, b));
 }
 template <Unit U, Level L, bool Fast = false>
-BRENN_VEC __m128d Atan2Of(__m128d a, __m128d b) {
-    return AngleOf < U, DoubleSeriesOf<L>, L == Level::HA || U == Unit::Pi > (a, b);
+BRENN_VEC __m128d Atan2Of(__m128d a, __m128d b, __m128d special) {
+    const __m128d one = Set<double>(1.0);
+    return AngleOf < U, DoubleSeriesOf<L>,
+           L == Level::HA || U == Unit::Pi > (IfThenElse(special, one, a), IfThenElse(special, one, b));
 }
 
 // The vector range of Atan2's magnitudes: [2^-125, 2^123] in single, by the whole bits,
@@ -415,6 +427,16 @@ constexpr Range32 kRange<double> = {0x7FFFFFFF, 0x5F500000, 0xBE7FFFFF};
 constexpr Range32 kRangeHA = {Format<float>::kAbs, 0x59800000, 0xB1FFFFFF};
 template <class T, Level L, Unit U, bool Fast>
 constexpr auto kRangeOf = kRange<T>;
+// The single test with its limit kept from the optimiser, which would compare the
+// offset bits with the limit plus one by a minimum and an equality (three instructions,
+// not one); the double test as it stands.
+BRENN_VEC __m128 HeldRangeTest(__m128 x, Range32 w) {
+    I32x4 bits = Add(And(AsInt(x), Set<uint32_t>(w.mask)), Set<uint32_t>(w.offset));
+    return AsFloat(Gt(bits, Opaque(Set<uint32_t>(w.limit))));
+}
+BRENN_VEC __m128d HeldRangeTest(__m128d x, Range32 w) {
+    return RangeTest(x, w);
+}
 template <>
 constexpr auto kRangeOf<float, Level::HA, Unit::Radian, true> = kRangeHA;
 
@@ -502,9 +524,9 @@ struct Atan2Body {
     using T = Tp;
     using V = Vec<T>;
     static BRENN_VEC V Eval(V a, V b, V& special) {
-        special = Or(RangeTest(a, kRangeOf<T, L, U, Fast>), RangeTest(b, kRangeOf<T, L, U, Fast>));
-        const V one = Set<T>(1);
-        return Atan2Of<U, L, Fast>(IfThenElse(special, one, a), IfThenElse(special, one, b));
+        special = Or(HeldRangeTest(a, kRangeOf<T, L, U, Fast>),
+                     HeldRangeTest(b, kRangeOf<T, L, U, Fast>));
+        return Atan2Of<U, L, Fast>(a, b, special);
     }
     static int Scalar(const T* a, const T* b, T* y) { return Atan2Scalar<U>(a, b, y); }
 
