@@ -8,11 +8,11 @@
  * OR-ed on. LA and HA: grid_core.h's series of S(tau, u), LA adding up V + (w + w*S1),
  * HA on the row pairs of erfRowsHA with the exact product and sums (0.5x ulp). Single
  * runs every level on single lanes (grid_single.h, the single rows; HA's last sum on
- * double lanes with erfRows), |x| held by its bits at 3.9296875, from where erf is 1 in
- * single, so that a NaN lane runs there and raises nothing; NaN lanes are set aside
- * after the body, one test a register or round. Single HA and double LA and HA run
- * rounds of sixteen, each step over the round's registers (GridEvalSingleRound,
- * GridEvalRound). */
+ * double lanes with erfRows), the grid held at 3.9296875, from where erf is 1 in single.
+ * |x| is held at the grid's end by its bits, so that a NaN lane runs there and raises
+ * nothing; NaN lanes are set aside after the body, one test a register or round. HA and
+ * double LA run rounds of sixteen, each step over the round's registers
+ * (GridEvalSingleRound, GridEvalRound). */
 #include "frame/kernels.h"
 #include "vecmath/erf/grid_single.h"
 #include "vecmath/frame/kernel_frame.h"
@@ -45,13 +45,16 @@ struct ErfGridSingle : ErfGridLA {
 constexpr SeriesCut kCutHA{5, 4, 2, 1}, kCutLA{5, 4, 2, 1};
 constexpr SeriesCut kCutSingleHA{2, 1, 0, 0}, kCutSingleLA{2, 1, 0, 0}, kCutSingleEP{0, 0, 0, 0};
 
-// The EP expansion.
-inline __m128d ErfShort(__m128d x) {
+// The EP expansion; |x| held at the limit by its bits, the lanes held OR-ed on beyond.
+BRENN_VEC __m128d ErfShort(__m128d x, __m128d& beyond) {
     constexpr double kLimit = 5.9921875;
     constexpr double kP1 = 0.6666678110767819, kP0 = -1.0000014305126206;
     constexpr double kQ1 = 0.5000019073510884, kQ0 = -0.33333504994947405;
     __m128d ax = Abs(x);
-    __m128d a = Min(ax, Set<double>(kLimit));
+    __m128d lim = Set<double>(kLimit);
+    __m128d held = AsFloat(Gt(AsInt(ax), AsInt(lim)));
+    beyond = Or(beyond, held);
+    __m128d a = IfThenElse(held, lim, ax);
     __m128d s = Add(a, Set<double>(kShifter128));
     __m128d xj = Sub(s, Set<double>(kShifter128));
     __m128d d = Sub(a, xj);
@@ -67,21 +70,29 @@ inline __m128d ErfShort(__m128d x) {
     return Or(Add(v, Add(w, Mul(r, w))), SignBit(x));
 }
 
-// Double erf of N registers (no NaN); the sign is OR-ed on.
+// Double erf of N registers, the sign OR-ed on; NaN lanes run at the limit and are set
+// aside afterwards (x + 0, the NaN quieted), one test for the round: the held lanes
+// (beyond the grid, infinities and NaNs) are rare.
 template <Level L, int N>
 BRENN_VEC void ErfDouble(const __m128d* x, __m128d* y) {
+    __m128d beyond = Zero<double>();
     if constexpr (L == Level::EP) {
-        for (int k = 0; k < N; ++k)
-            y[k] = ErfShort(x[k]);
-        return;
-    } else if constexpr (L == Level::HA) {
-        GridEvalRound<ErfGridHA, kCutHA, GridSum::TwoPart, N>(x, y);
-    } else {
-        GridEvalRound<ErfGridLA, kCutLA, GridSum::Plain, N>(x, y);
-    }
 #pragma GCC unroll 8
-    for (int k = 0; k < N; ++k)
-        y[k] = Or(y[k], SignBit(x[k]));
+        for (int k = 0; k < N; ++k)
+            y[k] = ErfShort(x[k], beyond);
+    } else {
+        if constexpr (L == Level::HA)
+            beyond = GridEvalRound<ErfGridHA, kCutHA, GridSum::TwoPart, N>(x, y);
+        else
+            beyond = GridEvalRound<ErfGridLA, kCutLA, GridSum::Plain, N>(x, y);
+#pragma GCC unroll 8
+        for (int k = 0; k < N; ++k)
+            y[k] = Or(y[k], SignBit(x[k]));
+    }
+    if (__builtin_expect(MaskBits(beyond) != 0, 0)) {
+        for (int k = 0; k < N; ++k)
+            y[k] = IfThenElse(Unordered(x[k], x[k]), Add(x[k], Zero<double>()), y[k]);
+    }
 }
 
 // Single erf of N registers on single lanes: the grid on |x| held by its bits (a NaN
@@ -110,38 +121,22 @@ struct ErfBody {
     using T = Tp;
     using V = Vec<T>;
     static V Eval(V x, V&) {
-        if constexpr (sizeof(T) == 4) {
-            __m128 y;
+        V y;
+        if constexpr (sizeof(T) == 4)
             ErfSingle<L, 1>(&x, &y);
-            return y;
-        } else
-            return NaNQuiet(x, [](__m128d v) {
-                __m128d y;
-                ErfDouble<L, 1>(&v, &y);
-                return y;
-            });
+        else
+            ErfDouble<L, 1>(&x, &y);
+        return y;
     }
-    // Single HA and double LA and HA in rounds of sixteen, each step over the round's
-    // registers (single LA and EP, one register at a time, and double EP measured
-    // faster in rounds of eight). Double: NaN lanes run at 0 and come back quieted.
-    static constexpr int kRound = sizeof(T) == 4 ? (L == Level::HA ? 16 : 8)
-                                                 : (L == Level::EP ? 8 : 16);
+    // HA and double LA in rounds of sixteen, each step over the round's registers; single
+    // LA and both EPs one register at a time in rounds of eight (measured faster).
+    static constexpr int kRound = L == Level::HA || (sizeof(T) == 8 && L == Level::LA) ? 16 : 8;
     static int EvalWide(const V* x, V* y) {
         constexpr int N = 16 / kLanes<T>;
-        if constexpr (sizeof(T) == 4) {
+        if constexpr (sizeof(T) == 4)
             ErfSingle<L, N>(x, y);
-        } else {
-            V nan[N], xs[N];
-#pragma GCC unroll 8
-            for (int k = 0; k < N; ++k) {
-                nan[k] = Unordered(x[k], x[k]);
-                xs[k] = IfThenZeroElse(nan[k], x[k]);
-            }
-            ErfDouble<L, N>(xs, y);
-#pragma GCC unroll 8
-            for (int k = 0; k < N; ++k)
-                y[k] = IfThenElse(nan[k], Add(x[k], Zero<T>()), y[k]);
-        }
+        else
+            ErfDouble<L, N>(x, y);
         return 0;
     }
 };

@@ -20,7 +20,8 @@
  * Rows from kScaleFrom on are times 2^128; the sum is multiplied by 2^-128 there, exactly
  * while the result is normal; lanes whose result would not be are the kernels' special
  * lanes.
- * x is never a NaN here: the kernels take NaN lanes aside (NaNQuiet, or special lanes). */
+ * Erf's NaN lanes run at the limit (|x| is held by its bits) and the kernels set them
+ * aside; the other kernels keep NaNs out (special lanes). */
 #ifndef BRENN_VECMATH_ERF_GRID_CORE_H
 #define BRENN_VECMATH_ERF_GRID_CORE_H
 
@@ -128,43 +129,55 @@ BRENN_VEC GridPoint NearestRow(__m128d a) {
 
 // F at the N registers x (a round of the kernels' or one register), each step taken over
 // every register before the next, so that the table loads issue together and the
-// series' chains overlap.
+// series' chains overlap. Erf holds |x| at the limit by its bits, so that a NaN lane
+// runs there and raises nothing, and gets the lanes held (beyond the grid, infinities,
+// NaNs) OR-ed over the round; the mirrored grids see no NaN.
 template <class G, SeriesCut C, GridSum Sum, int N>
-BRENN_VEC void GridEvalRound(const __m128d* x, __m128d* y) {
+BRENN_VEC __m128d GridEvalRound(const __m128d* x, __m128d* y) {
     constexpr size_t W = sizeof(G::kRows[0]) / sizeof(double);
     // Carried between the steps: the shifted sums (the row index and xj), d, and tau and u
     // (then the series); the rest is read or made again where it is used.
     __m128d sh[N], d[N], s1[N], u[N];
-    // a = min(|x|, the side's limit), and whether x's side is mirrored.
-    auto held = [](__m128d xk, __m128d& mirror) {
+    // a = min(|x|, the side's limit), and whether x's side is mirrored and whether held.
+    auto held = [](__m128d xk, __m128d& mirror, __m128d& beyond) {
         __m128d lim = Set<double>(G::kLimit);
         mirror = Zero<double>();
         if constexpr (G::kMirror != 0) {
             mirror = G::kMirrorPositive ? Xor(xk, SignMask<double>()) : xk; // by the sign bit
             lim = IfThenElse(mirror, Set<double>(G::kMirrorLimit), lim);
         }
-        return Min(Abs(xk), lim);
+        __m128d ax = Abs(xk);
+        if constexpr (G::kMirror != 0) { // no NaN comes here
+            beyond = Zero<double>();
+            return Min(ax, lim);
+        }
+        beyond = AsFloat(Gt(AsInt(ax), AsInt(lim)));
+        return IfThenElse(beyond, lim, ax);
     };
+    __m128d anyBeyond = Zero<double>(), anyTiny = Zero<double>();
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k) {
-        __m128d mirror;
-        __m128d a = held(x[k], mirror);
+        __m128d mirror, beyond;
+        __m128d a = held(x[k], mirror, beyond);
+        anyBeyond = Or(anyBeyond, beyond);
         sh[k] = Add(a, Set<double>(G::kShifter));
         __m128d xj = Sub(sh[k], Set<double>(G::kShifter));
         d[k] = Sub(a, xj);
         s1[k] = Mul(xj, d[k]); // tau / kTauScale
         // d^2, u / kUScale; below 2^-256 0, so that tiny arguments raise no underflow
         // of their own.
-        u[k] = IfThenZeroElse(Lt(a, Set<double>(0x1p-256)), Mul(d[k], d[k]));
+        __m128d tiny = Lt(a, Set<double>(0x1p-256));
+        if constexpr (Sum == GridSum::TwoPart) anyTiny = Or(anyTiny, tiny);
+        u[k] = IfThenZeroElse(tiny, Mul(d[k], d[k]));
     }
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k)
         s1[k] = SeriesLessOne<C, G::kTauScale, G::kUScale>(s1[k], u[k]);
-    __m128d anyTiny = Zero<double>();
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k) {
-        __m128d mirror;
-        __m128d a = held(x[k], mirror);
+        __m128d mirror = Zero<double>();
+        if constexpr (G::kMirror != 0)
+            mirror = G::kMirrorPositive ? Xor(x[k], SignMask<double>()) : x[k]; // sign bit
         I64x2 row = AsInt(sh[k]);
         const double* r0 = G::kRows[LowWord<0>(row)];
         const double* r1 = G::kRows[LowWord<1>(row)];
@@ -190,7 +203,6 @@ BRENN_VEC void GridEvalRound(const __m128d* x, __m128d* y) {
             __m128d h, e;
             FastTwoSum(v, d[k], h, e); // v = 0 or v >= erf(1/128) > |d|
             y[k] = Add(h, Add(e, Add(vlo, Mul(d[k], g))));
-            anyTiny = Or(anyTiny, Lt(a, Set<double>(0x1p-256)));
         } else {
             if constexpr (W == 4) deriv = Add(deriv, dl);
             __m128d w = Mul(deriv, d[k]);
@@ -207,12 +219,13 @@ BRENN_VEC void GridEvalRound(const __m128d* x, __m128d* y) {
         if (__builtin_expect(MaskBits(anyTiny) != 0, 0)) {
 #pragma GCC unroll 8
             for (int k = 0; k < N; ++k) {
-                __m128d mirror;
-                __m128d a = held(x[k], mirror);
+                __m128d mirror, beyond;
+                __m128d a = held(x[k], mirror, beyond);
                 y[k] = IfThenElse(Lt(a, Set<double>(0x1p-256)), ErfTiny(a), y[k]);
             }
         }
     }
+    return anyBeyond;
 }
 
 template <class G, SeriesCut C, GridSum Sum>
