@@ -56,6 +56,15 @@ BRENN_VEC __m128d RootCorrection(__m128d h, __m128d s) {
 // compensated steps of the double HA and pi-scaled kernels. In three steps, so that a
 // double round can take each over all its registers before the next (AnglesRound): the
 // fold and the root, the series and the root's correction, the angle.
+// c where x has its sign bit, else 0: in single by an arithmetic shift of x's bits and a
+// mask (a blend on x itself compiles to a compare with zero and a blend).
+BRENN_VEC __m128 WhereNegative(__m128 x, __m128 c) {
+    return And(AsFloat(ShiftRightSigned<31>(AsInt(x))), c);
+}
+BRENN_VEC __m128d WhereNegative(__m128d x, __m128d c) {
+    return IfThenElse(x, c, Zero<double>());
+}
+
 template <class V>
 struct AngleState {
     V x, h, w, fold, s, u, l;
@@ -91,23 +100,28 @@ BRENN_VEC V AngleStep(const AngleState<V>& st) {
     V sx = SignBit(x);
     V k, flip;
     // The short form (single lanes in double, double EP) takes the base itself, k quarter
-    // turns (exact), and no product.
+    // turns (exact), and no product; so do the single steps in radians (Plain), whose
+    // quarter has no tail: base + (u + l) as Finish sums it, with the sign flipped once.
     constexpr bool kBase = Short && U == Unit::Radian;
-    constexpr T c = kBase ? Quarter<T, U>::kHi : T(1);
+    constexpr bool kPlain = !Comp && !Short && U == Unit::Radian && Quarter<T, U>::kLo == 0;
+    constexpr T c = kBase || kPlain ? Quarter<T, U>::kHi : T(1);
     if constexpr (F == Fn::Asin) {
         // Folded: pi/2 - (u + l); the sign of x goes on at the end.
         k = IfThenElseZero(fold, Set<T>(2 * c));
         flip = And(fold, SignMask<T>());
     } else {
-        // Folded: u + l for x >= 0, pi - (u + l) below; unfolded pi/2 -+ (u + l).
-        k = IfThenElse(fold, IfThenElse(x, Set<T>(4 * c), Zero<T>()), Set<T>(2 * c));
-        flip = Xor(Xor(And(fold, SignMask<T>()), sx), SignMask<T>());
+        // Folded: u + l for x >= 0, pi - (u + l) below; unfolded pi/2 -+ (u + l). The flip,
+        // fold ^ sign ^ 1 in the sign bit, as ~fold ^ sign.
+        k = IfThenElse(fold, WhereNegative(x, Set<T>(4 * c)), Set<T>(2 * c));
+        flip = Xor(AndNot(fold, SignMask<T>()), sx);
     }
     V y;
     if constexpr (kBase) {
         // The order of the last sums is free (single lanes in double, double EP): base
         // + u goes alongside the tail, and the tail's product with u last, off the series.
         y = Add(Add(k, Xor(u, flip)), Xor(l, flip));
+    } else if constexpr (kPlain) {
+        y = Add(k, Xor(Add(u, l), flip));
     } else {
         y = Finish<U, Comp>(k, Xor(u, flip), Xor(l, flip));
     }
@@ -158,9 +172,8 @@ BRENN_VEC __m128 AngleSingleHA(__m128 x) {
         flip = And(fold, SignMask<float>());
     } else {
         // Folded: u + l for x >= 0, pi - (u + l) below; unfolded pi/2 -+ (u + l).
-        base = IfThenElse(fold, IfThenElse(x, Set<float>(4 * Q::kHi), Zero<float>()),
-                          Set<float>(2 * Q::kHi));
-        flip = Xor(Xor(And(fold, SignMask<float>()), sx), SignMask<float>());
+        base = IfThenElse(fold, WhereNegative(x, Set<float>(4 * Q::kHi)), Set<float>(2 * Q::kHi));
+        flip = Xor(AndNot(fold, SignMask<float>()), sx);
     }
     __m128 y, e, v, f;
     FastTwoSum(base, Xor(u, flip), y, e);
