@@ -29,9 +29,10 @@ namespace {
 constexpr uint32_t kRowBits = 0x7FF80000u, kRowBase = 0x3CF80000u;
 constexpr int kRowShift = 19, kLastRow = 133;
 
-// y = row's polynomial at a, two lanes, from the rows' byte offsets o0 and o1.
+// y = row's polynomial at a, two lanes, from the rows' byte offsets o0 and o1 (unsigned:
+// the move that extracts an offset widens it to an address, no sign extension after it).
 template <Level L>
-inline __m128d RowPoly(__m128d a, int32_t o0, int32_t o1) {
+inline __m128d RowPoly(__m128d a, uint32_t o0, uint32_t o1) {
     const char* base = L == Level::EP   ? reinterpret_cast<const char*>(tanhRowsEP)
                        : L == Level::LA ? reinterpret_cast<const char*>(tanhRowsLA)
                                         : reinterpret_cast<const char*>(tanhRowsHA);
@@ -61,8 +62,8 @@ inline __m128 TanhOf(__m128 x) {
                           : L == Level::LA ? kRowShift - 5
                                            : kRowShift - 6;
     Indices o = IndicesOf(ShiftRight<shift>(row));
-    __m128d lo = RowPoly<L>(WidenLower(a), o.at[0], o.at[1]);
-    __m128d hi = RowPoly<L>(WidenUpper(a), o.at[2], o.at[3]);
+    __m128d lo = RowPoly<L>(WidenLower(a), uint32_t(o.at[0]), uint32_t(o.at[1]));
+    __m128d hi = RowPoly<L>(WidenUpper(a), uint32_t(o.at[2]), uint32_t(o.at[3]));
     return Or(Narrow(lo, hi), SignBit(x));
 }
 
