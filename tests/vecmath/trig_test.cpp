@@ -269,6 +269,48 @@ TEST(Trig, ExactValuesAtZero) {
     }
 }
 
+// cos x rounds to 1 below 2^-12: every binade from the least denormal up to 2^-13, both
+// signs, inside rounds of ordinary lanes, is exactly 1 at every level (HA gets there by its
+// rounding alone, without the other levels' test for tiny arguments).
+TEST(Trig, SingleCosineOfTinyArgumentsIsOne) {
+    std::mt19937 gen(17);
+    std::vector<float> x;
+    for (int e = -149; e <= -13; ++e)
+        for (int k = 0; k < 8; ++k) {
+            float v = std::ldexp(1.0f + float(gen() & 0x7FFFFF) * 0x1p-23f, e);
+            x.push_back(k % 2 ? -v : v);
+            x.push_back(2.5f + float(k));
+        }
+    for (int slot = 0; slot < kSlots; ++slot) {
+        std::vector<float> c = Call("sCos", slot, x);
+        for (size_t i = 0; i < x.size(); i += 2)
+            EXPECT_EQ(c[i], 1.0f) << slot << " x = " << std::hexfloat << x[i];
+    }
+}
+
+// Sine is odd bit for bit at every level: sin(-x) is -sin(x) at zero, over the short path's
+// range and beyond it (the short path reduces x with its sign; the large path, |x| and the sign).
+TEST(Trig, SingleSineIsOdd) {
+    std::mt19937 gen(19);
+    std::uniform_real_distribution<float> mag(-14.0f, 16.0f);
+    std::vector<float> x = {0.0f}, negx = {-0.0f};
+    for (int i = 0; i < 4096; ++i) {
+        float v = std::exp2(mag(gen));
+        x.push_back(v);
+        negx.push_back(-v);
+    }
+    for (int slot = 0; slot < kSlots; ++slot) {
+        std::vector<float> s = Call("sSin", slot, x), sn = Call("sSin", slot, negx);
+        int bad = 0;
+        for (size_t i = 0; i < x.size() && bad < 5; ++i)
+            if (Bits(sn[i]) != Bits(-s[i])) {
+                ++bad;
+                ADD_FAILURE() << slot << " x = " << std::hexfloat << x[i] << ": " << s[i] << ", "
+                              << sn[i];
+            }
+    }
+}
+
 // Infinities give NaN with status 1 and raise invalid; NaN passes quietly with status 0;
 // finite arguments of any size leave no invalid flag and no status.
 template <class T>

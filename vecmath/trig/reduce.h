@@ -347,6 +347,27 @@ BRENN_TRIG_HOT void TakeNearZeroS(__m128* r, const __m128* wide) {
     }
 }
 
+// The same tests on the squares u = r^2 that the series needs anyway (no magnitudes to
+// take): a remainder is near zero when its square is below 2^-18, and a lane taken over
+// gets its square again from the wide remainder.
+constexpr uint32_t kNearZeroSqBits = 0x36800000;
+
+template <int N>
+BRENN_TRIG_HOT bool AnyNearZeroSq(const __m128* u) {
+    I32x4 least = AsInt(u[0]);
+    BRENN_EACH(k, N - 1) least = Min(least, AsInt(u[k + 1]));
+    return MaskBits(Lt(least, Set<uint32_t>(kNearZeroSqBits))) != 0;
+}
+
+template <int N>
+BRENN_TRIG_HOT void TakeNearZeroSq(__m128* r, __m128* u, const __m128* wide) {
+    BRENN_EACH(k, N) {
+        __m128 near = AsFloat(Lt(AsInt(u[k]), Set<uint32_t>(kNearZeroSqBits)));
+        r[k] = IfThenElse(near, wide[k], r[k]);
+        u[k] = Mul(r[k], r[k]);
+    }
+}
+
 // Lanes with the exponent field all ones (infinity and NaN), as the range-test mask.
 template <class V>
 BRENN_TRIG_HOT V InfNan(V a) {

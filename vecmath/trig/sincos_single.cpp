@@ -1,14 +1,17 @@
 /* Sin, Cos and SinCos in single, three levels.
  *
- * Short path (|x| <= 10000): n = round(|x|/pi) by the shifter (for cosine round(|x|/pi
- * + 0.5) - 0.5, a half-integer, since cos a = sin(a + pi/2)); the low bit of the
- * rounded value is the sign (-1)^n; r = |x| - n pi in [-pi/2, pi/2]; an odd series in r.
+ * Short path (|x| <= 10000): sine takes x with its sign, n = round(x/pi) by the shifter
+ * and r = x - n pi, both odd in x, and sin x = (-1)^n sin r; cosine takes a = |x|,
+ * n = floor(a/pi) + 1/2 (the half-integer nearest a/pi, by truncation) and
+ * cos a = -(-1)^floor(a/pi) sin(a - n pi), reduced as n pi - a for the minus sign. r lies
+ * in [-pi/2, pi/2]; an odd series in r.
  * EP: pi in three single parts, the first two short so that their products with n are
  * exact, and a three-term series (tools/trig/sin_single_ep.sollya). LA: the same
  * reduction, good to 2^-35 absolute, except where a remainder below 2^-9 is seen (a lane
- * near a multiple of pi): then r in double with pi in two parts, narrowed to single; a
- * five-term single series (tools/trig/sin_single.sollya). HA: r in double always and the
- * same form in double (tools/trig/sin_single_ha.sollya).
+ * near a multiple of pi, by its square): then r in double with pi in two parts, narrowed
+ * to single; a five-term single series (tools/trig/sin_single.sollya), on |x| for sine
+ * (its form r + r u P(u) does not keep the sign of a zero). HA: r in double always and
+ * r (1 + u P(u)) in double, P by Estrin's scheme (tools/trig/sin_single_ha.sollya).
  *
  * Measured (brenn_accuracy, 250000 inputs a row): EP 13.2 bits in sSin, sCos and
  * sSinCos; LA 1.79 ulp (sSin), 1.72 ulp (sCos), 1.85 ulp (sSinCos); HA 0.600 ulp (sSin,
@@ -16,7 +19,8 @@
  *
  * Lanes above 10000 in a block take the vector large path of reduce.h as well, and its
  * results are kept for them by mask: the block stays in vector code. Cosine of
- * arguments below 2^-12 is the constant 1.0 (exact at 0). Infinity and NaN go to the
+ * arguments below 2^-12 is the constant 1.0 at LA and EP (exact at 0); HA's rounding gives
+ * 1.0 there by itself. Infinity and NaN go to the
  * scalar routine (NaN with status::kDomain for an infinity). */
 #include "frame/kernels.h"
 #include "vecmath/frame/kernel_frame.h"
@@ -65,6 +69,18 @@ BRENN_TRIG_HOT void HornerEach(const V* u, const C (&c)[M], V* q) {
     }
 }
 
+// The same four-term polynomial by Estrin's scheme, (c0 + c1 u) + u^2 (c2 + c3 u): a
+// chain of three steps after u, where Horner's takes six.
+template <int N, class V, class C>
+BRENN_TRIG_HOT void EstrinEach(const V* u, const C (&c)[4], V* q) {
+    using T = ElemOf<V>;
+    V hi[N], u2[N];
+    BRENN_EACH(k, N) u2[k] = Mul(u[k], u[k]);
+    BRENN_EACH(k, N) hi[k] = MulAdd(u[k], Set<T>(T(c[3])), Set<T>(T(c[2])));
+    BRENN_EACH(k, N) q[k] = MulAdd(u[k], Set<T>(T(c[1])), Set<T>(T(c[0])));
+    BRENN_EACH(k, N) q[k] = MulAdd(u2[k], hi[k], q[k]);
+}
+
 // EP: r P(r^2).
 template <int N>
 BRENN_TRIG_HOT void SeriesEP(const __m128* r, __m128* p) {
@@ -73,28 +89,45 @@ BRENN_TRIG_HOT void SeriesEP(const __m128* r, __m128* p) {
     HornerEach<0, N>(u, kSinEP, q);
     BRENN_EACH(k, N) p[k] = Mul(r[k], q[k]);
 }
-// LA and HA: r + r u P(u), in the precision of the registers.
-template <int N, class V, class C, size_t M>
-BRENN_TRIG_HOT void SeriesOdd(const V* r, const C (&c)[M], V* p) {
-    V u[N], q[N];
-    BRENN_EACH(k, N) u[k] = Mul(r[k], r[k]);
+// LA: r + r u P(u) in single, from u = r^2.
+template <int N, class C, size_t M>
+BRENN_TRIG_HOT void SeriesOdd(const __m128* r, const __m128* u, const C (&c)[M], __m128* p) {
+    __m128 q[N];
     HornerEach<0, N>(u, c, q);
     BRENN_EACH(k, N) p[k] = Add(r[k], Mul(Mul(r[k], u[k]), q[k]));
 }
-
-// r = a - n pi in single with pi in three parts. The first two differences are exact
-// (n has at most 13 bits, 14 with cosine's half, and a - n P0 is a short multiple of
-// a's ulp); the third product rounds, and the parts stop 2^-48 short of pi: at most
-// 2^-35 in all below the limit.
+// HA: r (1 + u P(u)) in double, P by Estrin's scheme. The product form keeps the sign of
+// a zero r (r + r u P(u) would turn -0 into +0), and in double its roundings are far
+// below the single result's.
 template <int N>
-BRENN_TRIG_HOT void ReduceS(const __m128* a, const __m128* n, __m128* r) {
-    BRENN_EACH(k, N) r[k] = Sub(a[k], Mul(n[k], Set<float>(kPiEP[0])));
-    BRENN_EACH(k, N) r[k] = Sub(r[k], Mul(n[k], Set<float>(kPiEP[1])));
-    BRENN_EACH(k, N) r[k] = Sub(r[k], Mul(n[k], Set<float>(kPiEP[2])));
+BRENN_TRIG_HOT void SeriesHA(const __m128d* r, __m128d* p) {
+    __m128d u[N], q[N];
+    BRENN_EACH(k, N) u[k] = Mul(r[k], r[k]);
+    EstrinEach<N>(u, kSinHA, q);
+    BRENN_EACH(k, N) q[k] = MulAdd(u[k], q[k], Set<double>(1.0));
+    BRENN_EACH(k, N) p[k] = Mul(r[k], q[k]);
 }
 
-// r = a - n pi in double, lanes 0-1 of register k in r[2k], 2-3 in r[2k+1].
-template <int N>
+// r = a - n pi in single with pi in three parts (their negation, n pi - a, with flip).
+// The first two differences are exact (n has at most 13 bits, 14 with cosine's half, and
+// a - n P0 is a short multiple of a's ulp); the third product rounds, and the parts stop
+// 2^-48 short of pi: at most 2^-35 in all below the limit.
+template <int N, bool kFlip>
+BRENN_TRIG_HOT void ReduceS(const __m128* a, const __m128* n, __m128* r) {
+    if constexpr (kFlip) {
+        BRENN_EACH(k, N) r[k] = Sub(Mul(n[k], Set<float>(kPiEP[0])), a[k]);
+        BRENN_EACH(k, N) r[k] = Add(r[k], Mul(n[k], Set<float>(kPiEP[1])));
+        BRENN_EACH(k, N) r[k] = Add(r[k], Mul(n[k], Set<float>(kPiEP[2])));
+    } else {
+        BRENN_EACH(k, N) r[k] = Sub(a[k], Mul(n[k], Set<float>(kPiEP[0])));
+        BRENN_EACH(k, N) r[k] = Sub(r[k], Mul(n[k], Set<float>(kPiEP[1])));
+        BRENN_EACH(k, N) r[k] = Sub(r[k], Mul(n[k], Set<float>(kPiEP[2])));
+    }
+}
+
+// r = a - n pi (n pi - a with flip) in double, lanes 0-1 of register k in r[2k], 2-3 in
+// r[2k+1].
+template <int N, bool kFlip>
 BRENN_TRIG_HOT void ReduceD(const __m128* a, const __m128* n, __m128d* r) {
     const __m128d ph = Set<double>(kPiD[0]), pl = Set<double>(kPiD[1]);
     __m128d ad[2 * N], nd[2 * N];
@@ -104,56 +137,90 @@ BRENN_TRIG_HOT void ReduceD(const __m128* a, const __m128* n, __m128d* r) {
         nd[2 * k] = WidenLower(n[k]);
         nd[2 * k + 1] = WidenUpper(n[k]);
     }
-    BRENN_EACH(k, 2 * N) r[k] = Sub(Sub(ad[k], Mul(nd[k], ph)), Mul(nd[k], pl));
+    if constexpr (kFlip)
+        BRENN_EACH(k, 2 * N) r[k] = Add(Sub(Mul(nd[k], ph), ad[k]), Mul(nd[k], pl));
+    else
+        BRENN_EACH(k, 2 * N) r[k] = Sub(Sub(ad[k], Mul(nd[k], ph)), Mul(nd[k], pl));
 }
 
-// sin(a) (cosine = false) or cos(a) (true) of a = |x| by the short path, without the
-// sign of x, for N registers, each step over all of them before the next. Lanes above
-// the limit are the large path's: with kClamp they are clamped and raise no flag here;
-// without, the caller has seen that there are none (then the clamp changes nothing).
+// sin(x) (cosine = false) or cos(x) (true) by the short path for N registers, each step
+// over all of them before the next. Sine takes x as it is: n = round(x/pi) and r = x - n pi
+// are odd in x, so sin x = (-1)^n sin r keeps the sign of x (and of a zero) with no step
+// of its own. Cosine takes a = |x|: n = floor(a/pi) + 1/2, the half-integer nearest to
+// a/pi, and cos a = -(-1)^floor(a/pi) sin(a - n pi), the minus sign taken by reducing
+// to n pi - a. Lanes above the limit are the large path's: with kClamp they are clamped
+// and raise no flag here; without, the caller has seen that there are none (then the
+// clamp changes nothing).
 template <Level L, int N, bool kClamp>
-BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p,
-                           const __m128* signOf = nullptr) {
-    __m128 a[N], t[N], sign[N], n[N];
-    BRENN_EACH(k, N) a[k] = kClamp ? Min(x[k], SplatBits<float>(kLimitS)) : x[k];
-    const __m128 shifter = Set<float>(Format<float>::kShifter);
-    BRENN_EACH(k, N) t[k] = Mul(a[k], Set<float>(kInvPi));
-    if (cosine) BRENN_EACH(k, N) t[k] = Add(t[k], Set<float>(0.5f));
-    BRENN_EACH(k, N) t[k] = Add(t[k], shifter);
-    BRENN_EACH(k, N) sign[k] = AsFloat(ShiftLeft<31>(AsInt(t[k])));
-    // The sign of x for sine goes in with the quadrant's: one value a register to keep.
-    if (signOf) BRENN_EACH(k, N) sign[k] = Xor(sign[k], SignBit(signOf[k]));
-    BRENN_EACH(k, N) n[k] = Sub(t[k], shifter);
-    if (cosine) BRENN_EACH(k, N) n[k] = Sub(n[k], Set<float>(0.5f));
+BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p) {
+    __m128 a[N], sign[N], n[N];
+    const __m128 limit = SplatBits<float>(kLimitS);
+    // LA's sine runs on |x| with the sign of x put back at the end: its series
+    // r + r u P(u) would turn a zero r of sign minus into +0.
+    constexpr bool kAbs = L == Level::LA;
+    BRENN_EACH(k, N) a[k] = kAbs && !cosine ? Abs(x[k]) : x[k];
+    if (kClamp) {
+        BRENN_EACH(k, N) a[k] = Min(a[k], limit);
+        if (!cosine && !kAbs) BRENN_EACH(k, N) a[k] = Max(a[k], Neg(limit));
+    }
+    if (cosine) {
+        // a >= 0, so truncation is the floor.
+        I32x4 j[N];
+        BRENN_EACH(k, N) j[k] = TruncToInt(Mul(a[k], Set<float>(kInvPi)));
+        BRENN_EACH(k, N) sign[k] = AsFloat(ShiftLeft<31>(j[k]));
+        BRENN_EACH(k, N) n[k] = Add(ToFloat(j[k]), Set<float>(0.5f));
+    } else {
+        const __m128 shifter = Set<float>(Format<float>::kShifter);
+        __m128 t[N];
+        BRENN_EACH(k, N) t[k] = Add(Mul(a[k], Set<float>(kInvPi)), shifter);
+        BRENN_EACH(k, N) sign[k] = AsFloat(ShiftLeft<31>(AsInt(t[k])));
+        if (kAbs) BRENN_EACH(k, N) sign[k] = Xor(sign[k], SignBit(x[k]));
+        BRENN_EACH(k, N) n[k] = Sub(t[k], shifter);
+    }
     if constexpr (L == Level::EP) {
         __m128 r[N];
-        ReduceS<N>(a, n, r);
+        if (cosine)
+            ReduceS<N, true>(a, n, r);
+        else
+            ReduceS<N, false>(a, n, r);
         SeriesEP<N>(r, p);
     } else if constexpr (L == Level::LA) {
         // The single reduction is good to 2^-35 absolute; only a remainder below 2^-9
-        // (a lane near a multiple of pi, a few in a thousand) needs the double one, and
-        // only those lanes take it.
-        __m128 r[N];
-        ReduceS<N>(a, n, r);
-        if (__builtin_expect(AnyNearZeroS<N>(r), 0)) {
+        // (u below 2^-18: a lane near a multiple of pi, a few in a thousand) needs the
+        // double one, and only those lanes take it.
+        __m128 r[N], u[N];
+        if (cosine)
+            ReduceS<N, true>(a, n, r);
+        else
+            ReduceS<N, false>(a, n, r);
+        BRENN_EACH(k, N) u[k] = Mul(r[k], r[k]);
+        if (__builtin_expect(AnyNearZeroSq<N>(u), 0)) {
             __m128d rd[2 * N];
-            ReduceD<N>(a, n, rd);
+            if (cosine)
+                ReduceD<N, true>(a, n, rd);
+            else
+                ReduceD<N, false>(a, n, rd);
             __m128 wide[N];
             BRENN_EACH(k, N) wide[k] = Narrow(rd[2 * k], rd[2 * k + 1]);
-            TakeNearZeroS<N>(r, wide);
+            TakeNearZeroSq<N>(r, u, wide);
         }
-        SeriesOdd<N>(r, kSinLA, p);
+        SeriesOdd<N>(r, u, kSinLA, p);
     } else {
         __m128d r[2 * N];
-        ReduceD<N>(a, n, r);
+        if (cosine)
+            ReduceD<N, true>(a, n, r);
+        else
+            ReduceD<N, false>(a, n, r);
         __m128d pd[2 * N];
-        SeriesOdd<2 * N>(r, kSinHA, pd);
+        SeriesHA<2 * N>(r, pd);
         BRENN_EACH(k, N) p[k] = Narrow(pd[2 * k], pd[2 * k + 1]);
     }
     BRENN_EACH(k, N) p[k] = Xor(p[k], sign[k]);
     // cos of tiny arguments: exactly 1.0, as the rounded value is. Such lanes are rare:
     // one compare on the least magnitude of the registers, the blend only when it fires.
-    if (cosine) {
+    // HA needs none: its double value is within 2^-27 of cos a, so that below 2^-13 it
+    // rounds to 1.0 (and at 0, where the series at pi/2 is within 2^-27 of 1).
+    if (cosine && L != Level::HA) {
         I32x4 least = AsInt(a[0]);
         BRENN_EACH(k, N - 1) least = Min(least, AsInt(a[k + 1]));
         if (__builtin_expect(MaskBits(Lt(least, Set<uint32_t>(kCosOneBits))) != 0, 0)) {
@@ -165,9 +232,9 @@ BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p,
 }
 
 template <Level L>
-BRENN_TRIG_HOT __m128 Short(__m128 a, bool cosine) {
+BRENN_TRIG_HOT __m128 Short(__m128 x, bool cosine) {
     __m128 p;
-    ShortN<L, 1, true>(&a, cosine, &p);
+    ShortN<L, 1, true>(&x, cosine, &p);
     return p;
 }
 
@@ -179,12 +246,15 @@ struct SinCosBody {
     static __m128 Eval(__m128 x, __m128& special) {
         __m128 a = Abs(x);
         special = InfNan(a);
-        __m128 p = Short<L>(a, kCos);
+        __m128 p = Short<L>(kCos ? a : x, kCos);
         int big = LargeLanes(a, kLimitS);
-        // The lanes above the limit replaced by the large path's result.
-        if (__builtin_expect(big != 0, 0))
-            p = IfThenElse(MaskFromBits<float>(big), LargeSinS(a, kCos), p);
-        if (!kCos) p = Xor(p, SignBit(x));
+        // The lanes above the limit replaced by the large path's result (sine's with the
+        // sign of x).
+        if (__builtin_expect(big != 0, 0)) {
+            __m128 large = LargeSinS(a, kCos);
+            if (!kCos) large = Xor(large, SignBit(x));
+            p = IfThenElse(MaskFromBits<float>(big), large, p);
+        }
         return p;
     }
     // A round of sixteen: with no lane above the limit (the common case), the short
@@ -192,7 +262,7 @@ struct SinCosBody {
     static int EvalWide(const __m128* x, __m128* y) {
         __m128 a[4];
         if (__builtin_expect(AnyAboveS(x, a, kLimitS), 0)) return EvalEach<SinCosBody, 4>(x, y);
-        ShortN<L, 4, false>(a, kCos, y, kCos ? nullptr : x);
+        ShortN<L, 4, false>(kCos ? a : x, kCos, y);
         return 0;
     }
     static int Scalar(const float* a, float* y) { return InfNanScalar(a, y); }
@@ -206,7 +276,7 @@ struct BothBody {
     static void Eval(__m128 x, __m128& s, __m128& c, __m128& special) {
         __m128 a = Abs(x);
         special = InfNan(a);
-        s = Short<L>(a, false);
+        s = Short<L>(x, false);
         c = Short<L>(a, true);
         int big = LargeLanes(a, kLimitS);
         if (__builtin_expect(big != 0, 0)) {
@@ -215,18 +285,17 @@ struct BothBody {
             LargeS(a, J, r0, r1);
             for (int k = 0; k < 4; ++k)
                 K[k] = J[k] + 32;
-            __m128 ls = Narrow(TableSinS(J, r0), TableSinS(J + 2, r1));
+            __m128 ls = Xor(Narrow(TableSinS(J, r0), TableSinS(J + 2, r1)), SignBit(x));
             __m128 lc = Narrow(TableSinS(K, r0), TableSinS(K + 2, r1));
             __m128 m = MaskFromBits<float>(big);
             s = IfThenElse(m, ls, s);
             c = IfThenElse(m, lc, c);
         }
-        s = Xor(s, SignBit(x));
     }
     static int EvalWide(const __m128* x, __m128* s, __m128* c) {
         __m128 a[4];
         if (__builtin_expect(AnyAboveS(x, a, kLimitS), 0)) return EvalEach<BothBody, 4>(x, s, c);
-        ShortN<L, 4, false>(a, false, s, x);
+        ShortN<L, 4, false>(x, false, s);
         ShortN<L, 4, false>(a, true, c);
         return 0;
     }
