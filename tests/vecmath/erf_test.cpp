@@ -262,31 +262,45 @@ int CountUnderflow(ErrorRecord* r) {
     return 0;
 }
 
-// Single Erfc and CdfNorm give the underflow band's results on the lanes; the frame
+// Erfc and CdfNorm give the underflow band's results on the lanes (single in rounds of
+// eight, double in rounds of sixteen), zeros beyond the grid's end included; the frame
 // reports them element by element to a callback, or once at the end without one.
-TEST(ErfRows, UnderflowLanesReportedInOrder) {
-    std::vector<float> in(37);
+template <class T>
+void ExpectUnderflowLanesInOrder(Fn f, double from, double step) {
+    std::vector<T> in(53);
     for (size_t i = 0; i < in.size(); ++i)
-        in[i] = i % 5 == 2 ? 9.25f + 0.03f * float(i) : 0.5f;
-    in[30] = NAN;
-    std::vector<float> out(in.size()), each(in.size());
+        in[i] = i % 5 == 2 ? T(from + step * double(i)) : T(0.5);
+    in[30] = T(NAN);
+    in[41] = T(f == Fn::Erfc ? INFINITY : -INFINITY); // +0, no status
+    std::vector<T> out(in.size()), each(in.size());
     brenn_zar_kernel_SetInterfInputVectorPointer(nullptr); // indices count from in
     for (int slot : kSlots) {
-        auto k = As<Unary<float>>(Slot("sErfc", slot));
+        auto k = As<Unary<T>>(Slot(RowOf<T>(f), slot));
         brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_CALLBACK);
         brenn_zar_kernel_SetErrorCallBack(CountUnderflow);
         underflowCalls = 0, lastIndex = -1;
         k(int(in.size()), in.data(), out.data());
-        EXPECT_EQ(underflowCalls, 7) << slot; // 9.31 to 10.21, all below the least normal
-        EXPECT_EQ(lastIndex, 32);
+        EXPECT_EQ(underflowCalls, 11) << RowOf<T>(f) << " slot " << slot;
+        EXPECT_EQ(lastIndex, 52) << RowOf<T>(f) << " slot " << slot;
         brenn_zar_kernel_ClearErrorCallBack();
         brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);
         brenn_zar_kernel_ClearErrStatus();
         k(int(in.size()), in.data(), each.data());
-        EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 4);
-        for (size_t i = 0; i < in.size(); ++i)
+        EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 4) << RowOf<T>(f) << " slot " << slot;
+        for (size_t i = 0; i < in.size(); ++i) {
             EXPECT_TRUE(SameValue(out[i], each[i])) << i;
+            EXPECT_TRUE(SameValue(out[i], Call(f, slot, in[i]))) << RowOf<T>(f) << " " << in[i];
+        }
+        EXPECT_EQ(Bits(out[41]), Bits(T(0)));
     }
+}
+
+TEST(ErfRows, UnderflowLanesReportedInOrder) {
+    // 9.25 to 10.81 (denormals, zeros from 10.1), 26.6 to 28.16 (denormals, zeros
+    // from 27.24), -38.1 to -39.66 (denormals, zeros from -38.5)
+    ExpectUnderflowLanesInOrder<float>(Fn::Erfc, 9.25, 0.03);
+    ExpectUnderflowLanesInOrder<double>(Fn::Erfc, 26.6, 0.03);
+    ExpectUnderflowLanesInOrder<double>(Fn::CdfNorm, -38.1, -0.03);
 }
 
 // With denormals flushed by the mode, the band's results are 0, still with status 4.

@@ -3,15 +3,17 @@
  *
  * The grid j/64 of cdfNormRows up to 38.5 holds Q(x) = Phi(-x) (tail_body.h,
  * grid_core.h): Phi(x) = Q(|x|) for negative x, and 1 - Q(x) for positive x, held at
- * 8.5, from where it is 1 to the last bit. Double: lanes from |x| = 37.5, where the
- * result may leave the normal range, and NaNs and infinities, go to the scalar routine,
- * which reports status 4 for a result below the least normal (+0 from -38.5 down); LA
- * and HA run tail_double.h's body (fitted series; HA adds up in two parts, LA with the
- * row's remainder), EP adds up plainly. Single: NaNs and infinities are the special
- * lanes; results from -12.95 down (denormals, zeros from -14.1) come from the lanes and
- * are reported with status 4 by the frame, and 1 on the positive side likewise
- * (tail_body.h); every level on single lanes (grid_single.h: the single rows, HA's last
- * sum on double lanes with the double rows). */
+ * 8.5, from where it is 1 to the last bit. Double LA and HA run tail_double.h's body
+ * (fitted series; HA adds up in two parts, LA with the row's remainder): NaNs and
+ * infinities are the special lanes, results from -37.52 down (denormals, +0 from the
+ * grid's end at -38.5 down) come from the lanes and are reported with status 4 by the
+ * frame. Double EP adds up plainly; its lanes from |x| = 37.5, where the result may
+ * leave the normal range, and NaNs and infinities, go to the scalar routine, which
+ * reports status 4 for a result below the least normal. Single: NaNs and infinities
+ * are the special lanes; results from -12.95 down (denormals, zeros from -14.1) come
+ * from the lanes and are reported with status 4 by the frame, and 1 on the positive
+ * side likewise (tail_body.h); every level on single lanes (grid_single.h: the single
+ * rows, HA's last sum on double lanes with the double rows). */
 #include "frame/kernels.h"
 #include "vecmath/erf/tail_body.h"
 #include "vecmath/erf/tail_double.h"

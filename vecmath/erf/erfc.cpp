@@ -2,13 +2,12 @@
  *
  * The grid j/128 of erfcRows up to 27.2421875 (tail_body.h, grid_core.h): erfc(|x|) on
  * the row and its series; for negative x, 2 - erfc(|x|), held at |x| = 6, from where it
- * is 2 to the last bit. Double: lanes from |x| = 26.5, where the result may leave the
- * normal range, and NaNs and infinities, go to the scalar routine, which reports status
- * 4 for a result below the least normal (+0 from 27.2421875 on); tail_double.h's body
- * (fitted series, two parts, 0.5x ulp). Single: NaNs and infinities are the special
- * lanes, results from 9.19 on (denormals, zeros from 10.1) come from the lanes and are
- * reported with status 4 by the frame (tail_body.h); every level on single lanes
- * (grid_single.h: the single rows, HA's last sum on double lanes with the double rows). */
+ * is 2 to the last bit. NaNs and infinities are the special lanes; results from 26.55 on
+ * in double (denormals, +0 from the grid's end at 27.2421875 on) and 9.19 in single
+ * (denormals, zeros from 10.1) come from the lanes and are reported with status 4 by the
+ * frame. Double: tail_double.h's body (fitted series, two parts, 0.5x ulp). Single: every
+ * level on single lanes (tail_body.h, grid_single.h: the single rows, HA's last sum on
+ * double lanes with the double rows). */
 #include "frame/kernels.h"
 #include "vecmath/erf/tail_body.h"
 #include "vecmath/erf/tail_double.h"
@@ -30,14 +29,9 @@ struct ErfcGrid {
 
 struct ErfcFn {
     using Grid = ErfcGrid;
-    static constexpr double kTailLimit = 27.2421875;
     static constexpr bool kTailPositive = true;
     static constexpr const char* kNameS = ZAR_ERROR_NAME(sErfc);
     static constexpr const char* kNameD = ZAR_ERROR_NAME(dErfc);
-    template <class T> // double
-    static constexpr LaneRange<T> Window() {
-        return LaneRange<T>{0x7FFFFFFFFFFFFFFFull, 0u, 0x403A800000000000ull - 1}; // 26.5
-    }
     // Terms left out below 2^-30, 2^-27, 2^-15 of the result (single).
     template <class T, Level L>
     static constexpr SeriesCut Cut() {

@@ -2,11 +2,12 @@
  * the scalar routine of the lanes whose result would not be normal.
  *
  * A function's struct gives its grid (grid_core.h) and:
- *   kTailLimit       the argument from which the result is below half the least
- *                    denormal (erfc: 27.2421875 up; Phi: -38.5 down), the grid's end;
  *   kTailPositive    whether the tail lies at positive x (erfc) or negative (Phi);
- *   Window<T>        the range test: |x| from where the result may leave the normal range
- *                    of T (and infinities, NaNs); those lanes go to the scalar routine;
+ *   kTailLimit       (double TailBody, dCdfNorm EP) the argument from which the result
+ *                    is below half the least denormal (Phi: -38.5 down), the grid's end;
+ *   Window<T>        (double TailBody) the range test: |x| from where the result may
+ *                    leave the normal range (and infinities, NaNs); those lanes go to
+ *                    the scalar routine;
  *   Cut<T, L>        the series cut by precision and level (the sum is plain: the
  *                    two-part sums of double LA/HA are tail_double.h's);
  *   kNameS, kNameD   the public error names.

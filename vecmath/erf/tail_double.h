@@ -14,10 +14,9 @@
  * grid_core.h; HA adds up in two parts, D*dh exact with dh the top 26 bits of d (by
  * truncation), LA as V + (Vlo + w (1 + S1)).
  *
- * The special lanes, whose results may be denormal (tail_body.h's windows), are computed
- * with the others: only NaNs and lanes beyond the grid's end run at 0. The scalar routine
- * then takes a lane's result from y, where the frame has put it, and gives the status;
- * it computes only lanes beyond the grid's end. */
+ * Every finite lane is computed on the lanes, the underflow band's denormals and zeros
+ * included, and the frame reports those below the least normal (kUnderflowLanes); NaNs
+ * and infinities are the only special lanes. */
 #ifndef BRENN_VECMATH_ERF_TAIL_DOUBLE_H
 #define BRENN_VECMATH_ERF_TAIL_DOUBLE_H
 
@@ -117,9 +116,9 @@ BRENN_VEC void TailGridRound(const __m128d* x, __m128d* y) {
             __m128d w = Mul(Add(deriv, dl), d[k]);
             r = Add(Add(kk, vs), Xor(Add(vlo, Add(w, Mul(w, s1[k]))), flip));
         }
-        __m128d xj = Sub(sh[k], Set<double>(G::kShifter));
-        y[k] = Mul(r, IfThenElse(Lt(xj, Set<double>(G::kScaleFrom)), Set<double>(1.0),
-                                 Set<double>(0x1p-128)));
+        // xj < kScaleFrom, on the shifted sum (exact: kShifter + kScaleFrom is a double).
+        __m128d scaled = Lt(sh[k], Set<double>(G::kShifter + G::kScaleFrom));
+        y[k] = Mul(r, IfThenElse(scaled, Set<double>(1.0), Set<double>(0x1p-128)));
     }
 }
 template <class G, class S, bool kTwoPart>
@@ -129,51 +128,47 @@ BRENN_VEC __m128d TailGrid(__m128d x) {
     return y;
 }
 
-// The body of a function Fn of tail_body.h (its grid, tail limit and side, window and
-// name) with the series S, in rounds of sixteen.
+// The body of a function Fn of tail_body.h (its grid, tail limit and side, and name)
+// with the series S, in rounds of sixteen. Every finite lane runs the grid, |x| held at
+// its ends: beyond the tail limit the result rounds to +0, past the mirrored side's
+// limit it is K. The frame reports the results below the least normal, zeros and
+// denormals, with status 4 (kUnderflowLanes); NaNs and infinities are the special lanes.
 template <class Fn, class S, bool kTwoPart>
 struct TailDoubleBody {
     using T = double;
     using V = Vec<double>;
     static constexpr const char* kName = Fn::kNameD;
+    static constexpr bool kUnderflowLanes = true;
     static constexpr int kRound = 16;
-    // The range tests of x: its special lanes, and x with the lanes beyond the grid's end
-    // (NaNs included) at 0.
+    // The special lanes (NaNs, infinities), and x with them at 0.
     BRENN_VEC static V Held(V x, V& special) {
-        special = RangeTest(x, Fn::template Window<double>());
-        V beyond = RangeTest(
-            x, Range64{0x7FFFFFFFFFFFFFFFull, 0u, std::bit_cast<uint64_t>(Fn::kTailLimit)});
-        return IfThenElse(beyond, Zero<double>(), x);
+        special = RangeTest(x, Range64{0x7FFFFFFFFFFFFFFFull, 0u, 0x7FEFFFFFFFFFFFFFull});
+        return IfThenElse(special, Zero<double>(), x);
     }
     static int EvalWide(const V* x, V* y) {
         constexpr int N = 8;
-        V xs[N];
-        int bits = 0;
+        V xs[N], special[N], any = Zero<double>();
 #pragma GCC unroll 8
         for (int k = 0; k < N; ++k) {
-            V special;
-            xs[k] = Held(x[k], special);
-            bits |= MaskBits(special) << (2 * k);
+            xs[k] = Held(x[k], special[k]);
+            any = Or(any, special[k]);
         }
         TailGridRound<typename Fn::Grid, S, kTwoPart, N>(xs, y);
+        // The lanes' bits only when there is one (NaNs and infinities are rare).
+        int bits = 0;
+        if (__builtin_expect(MaskBits(any) != 0, 0))
+            for (int k = 0; k < N; ++k)
+                bits |= MaskBits(special[k]) << (2 * k);
         return bits;
     }
     static V Eval(V x, V& special) {
         return TailGrid<typename Fn::Grid, S, kTwoPart>(Held(x, special));
     }
+    // A NaN comes back quieted, an infinity as the limit of its side.
     static int Scalar(const double* a, double* y) {
         double x = *a;
-        if (__builtin_isnan(x)) {
-            *y = x + x;
-            return status::kNone;
-        }
-        if ((Fn::kTailPositive ? x : -x) > Fn::kTailLimit) {
-            *y = 0;
-            return __builtin_isinf(x) ? status::kNone : status::kUnderflow;
-        }
-        if (__builtin_fabs(x) > Fn::kTailLimit) // the other side, run at 0 by Eval
-            *y = GetLane(TailGrid<typename Fn::Grid, S, kTwoPart>(SetFirst<double>(x)));
-        return *y < DBL_MIN ? status::kUnderflow : status::kNone;
+        *y = __builtin_isnan(x) ? x + x : (x > 0) == Fn::kTailPositive ? 0.0 : Fn::Grid::kMirror;
+        return status::kNone;
     }
 };
 

@@ -31,9 +31,9 @@
  *   kUnderflowLanes (optional, true) Eval gives every lane that is not special its
  *               result, zeros and denormals included, and a result below the least
  *               normal in magnitude has status 4 (underflow), reported by the frame
- *               without a scalar routine. One-result shapes, rounds of eight, the
- *               common MXCSR rule (under which the reporter's round trip of a value
- *               through double changes nothing).
+ *               without a scalar routine. One-result shapes, the common MXCSR rule
+ *               (under which the reporter's round trip of a value through double
+ *               changes nothing).
  * and the frame does the rest: environment entry and exit, the split at the input's
  * 16-byte boundary, the partial blocks filled with the safe value 0.75 (nothing outside
  * the vectors is read or written), eight (or sixteen) elements a round in the main
@@ -397,7 +397,6 @@ struct Quads {
     // memory and the special lanes are handled quad by quad, lane 0 up, as in a round of eight.
     static inline void Round16(const B& body, Env<B>& env, const Args<T>& v, int i) {
         static_assert(kHasWide<B>, "rounds of sixteen pay only with the whole-round form");
-        static_assert(!kUnderflowLanes<B>, "underflow lanes in rounds of eight");
         Q q[4];
         constexpr int N = 16 / L;
         V x[N], w[N], y[N], z[N];
@@ -420,19 +419,28 @@ struct Quads {
             q[k / R].y[k % R] = y[k];
             if constexpr (S == Shape::TwoRes) q[k / R].z[k % R] = z[k];
         }
+        int under = 0;
+        if constexpr (kUnderflowLanes<B>) {
+#pragma GCC unroll 4
+            for (int k = 0; k < 4; ++k)
+                under |= UnderBits(q[k]) << (4 * k);
+            bits = Under(env, i, bits, under);
+        }
         if (__builtin_expect(bits == 0, 1)) {
 #pragma GCC unroll 4
             for (int k = 0; k < 4; ++k)
                 Store(q[k], v.y + i + 4 * k, At(v.z, i + 4 * k));
             return;
         }
-        if constexpr (kHasScalar<B>) {
+        if constexpr (kHasScalar<B> || kUnderflowLanes<B>) {
             alignas(16) T ry[16], rz[16];
             for (int k = 0; k < 4; ++k)
                 Store(q[k], ry + 4 * k, rz + 4 * k);
             for (int k = 0; k < 4; ++k) {
                 int b = (bits >> (4 * k)) & 0xF;
-                if (b) Special(body, env, v, i + 4 * k, q[k], b, ry + 4 * k, rz + 4 * k);
+                if (b)
+                    Special(body, env, v, i + 4 * k, q[k], b, ry + 4 * k, rz + 4 * k,
+                            (under >> (4 * k)) & 0xF);
             }
             for (int k = 0; k < 16; ++k) {
                 v.y[i + k] = ry[k];
@@ -461,7 +469,7 @@ struct Quads {
         static_assert(!kUnderflowLanes<B> || (S != Shape::TwoRes &&
                                               LayoutOf<B>() != Layout::HandTuned &&
                                               CsrOf<B>() == CsrRule::Common),
-                      "underflow lanes: one result, rounds of eight, the common MXCSR rule");
+                      "underflow lanes: one result, the scalar split, the common MXCSR rule");
         Env<B> env = Enter<B>();
         if (n > 0) {
             constexpr Layout layout = LayoutOf<B>();
