@@ -9,8 +9,7 @@
  * exact, and a three-term series (tools/trig/sin_single_ep.sollya). LA: the same
  * reduction, good to 2^-35 absolute, except where a remainder below 2^-9 is seen (a lane
  * near a multiple of pi, by its square): then r in double with pi in two parts, narrowed
- * to single; a five-term single series (tools/trig/sin_single.sollya), on |x| for sine
- * (its form r + r u P(u) does not keep the sign of a zero). HA: r in double always and
+ * to single; a five-term single series (tools/trig/sin_single.sollya). HA: r in double always and
  * r (1 + u P(u)) in double, P by Estrin's scheme (tools/trig/sin_single_ha.sollya).
  *
  * Measured (brenn_accuracy, 250000 inputs a row): EP 13.2 bits in sSin, sCos and
@@ -154,14 +153,12 @@ BRENN_TRIG_HOT void ReduceD(const __m128* a, const __m128* n, __m128d* r) {
 template <Level L, int N, bool kClamp>
 BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p) {
     __m128 a[N], sign[N], n[N];
+    bool nearZero = false;
     const __m128 limit = SplatBits<float>(kLimitS);
-    // LA's sine runs on |x| with the sign of x put back at the end: its series
-    // r + r u P(u) would turn a zero r of sign minus into +0.
-    constexpr bool kAbs = L == Level::LA;
-    BRENN_EACH(k, N) a[k] = kAbs && !cosine ? Abs(x[k]) : x[k];
+    BRENN_EACH(k, N) a[k] = x[k];
     if (kClamp) {
         BRENN_EACH(k, N) a[k] = Min(a[k], limit);
-        if (!cosine && !kAbs) BRENN_EACH(k, N) a[k] = Max(a[k], Neg(limit));
+        if (!cosine) BRENN_EACH(k, N) a[k] = Max(a[k], Neg(limit));
     }
     if (cosine) {
         // a >= 0, so truncation is the floor.
@@ -174,7 +171,6 @@ BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p) {
         __m128 t[N];
         BRENN_EACH(k, N) t[k] = Add(Mul(a[k], Set<float>(kInvPi)), shifter);
         BRENN_EACH(k, N) sign[k] = AsFloat(ShiftLeft<31>(AsInt(t[k])));
-        if (kAbs) BRENN_EACH(k, N) sign[k] = Xor(sign[k], SignBit(x[k]));
         BRENN_EACH(k, N) n[k] = Sub(t[k], shifter);
     }
     if constexpr (L == Level::EP) {
@@ -194,7 +190,8 @@ BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p) {
         else
             ReduceS<N, false>(a, n, r);
         BRENN_EACH(k, N) u[k] = Mul(r[k], r[k]);
-        if (__builtin_expect(AnyNearZeroSq<N>(u), 0)) {
+        nearZero = AnyNearZeroSq<N>(u);
+        if (__builtin_expect(nearZero, 0)) {
             __m128d rd[2 * N];
             if (cosine)
                 ReduceD<N, true>(a, n, rd);
@@ -216,6 +213,10 @@ BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p) {
         BRENN_EACH(k, N) p[k] = Narrow(pd[2 * k], pd[2 * k + 1]);
     }
     BRENN_EACH(k, N) p[k] = Xor(p[k], sign[k]);
+    // LA's series r + r u P(u) turns r = -0 (sine of x = -0) into +0: zeros are among the
+    // lanes near zero, which alone take the sign of x back.
+    if (L == Level::LA && !cosine && __builtin_expect(nearZero, 0))
+        BRENN_EACH(k, N) p[k] = IfThenElse(Eq(x[k], Zero<float>()), x[k], p[k]);
     // cos of tiny arguments: exactly 1.0, as the rounded value is. Such lanes are rare:
     // one compare on the least magnitude of the registers, the blend only when it fires.
     // HA needs none: its double value is within 2^-27 of cos a, so that below 2^-13 it
