@@ -24,6 +24,8 @@
 #ifndef BRENN_VECMATH_ERF_GRID_SINGLE_H
 #define BRENN_VECMATH_ERF_GRID_SINGLE_H
 
+#include <bit>
+
 #include "vecmath/erf/grid_core.h"
 
 namespace brenn::vm {
@@ -46,18 +48,20 @@ BRENN_VEC __m128 UnscaleSingle(__m128 r) {
     return IfThenElse(Lt(r, least), AsArithmeticDenormal(denormal), AsFloat(normal));
 }
 
-// The rows of the four lanes' indices j (rows of 16 or 32 bytes): their byte offsets
-// stored once and read back by the scalar unit, one load each (taken from the register,
-// each costs an extraction, a sign extension and a shift).
+// The rows of the four lanes' indices j (rows of 16 or 32 bytes), given as j + bias in
+// each lane (the shifted sum's bits; bias those of the shifter): their byte offsets, less
+// the bias's (in 32 bits: no lane's wraps), stored once and read back by the scalar unit,
+// one load each (taken from the register, each costs an extraction, a sign extension and
+// a shift), and added to the table's address less the bias's offset.
 template <class Row>
-BRENN_VEC void RowsOf(const Row* rows, I32x4 j, const Row*& r0, const Row*& r1, const Row*& r2,
-                      const Row*& r3) {
+BRENN_VEC void RowsOf(const Row* rows, I32x4 biased, uint32_t bias, const Row*& r0,
+                      const Row*& r1, const Row*& r2, const Row*& r3) {
     static_assert(sizeof(Row) == 16 || sizeof(Row) == 32);
+    constexpr int kShift = sizeof(Row) == 16 ? 4 : 5;
     alignas(16) uint32_t offset[4];
-    _mm_store_si128(reinterpret_cast<__m128i*>(offset),
-                    ShiftLeft<sizeof(Row) == 16 ? 4 : 5>(j).v);
+    _mm_store_si128(reinterpret_cast<__m128i*>(offset), ShiftLeft<kShift>(biased).v);
     const volatile uint32_t* o = offset; // read from memory, not extracted again
-    const char* base = reinterpret_cast<const char*>(rows);
+    const uintptr_t base = reinterpret_cast<uintptr_t>(rows) - uint32_t(bias << kShift);
     r0 = reinterpret_cast<const Row*>(base + o[0]);
     r1 = reinterpret_cast<const Row*>(base + o[1]);
     r2 = reinterpret_cast<const Row*>(base + o[2]);
@@ -95,13 +99,14 @@ BRENN_VEC SinglePoint<G, kWide> SingleNearest(__m128 x) {
     __m128 s = Add(a, Set<float>(shifter));
     p.xj = Sub(s, Set<float>(shifter));
     p.d = Sub(a, p.xj);
-    I32x4 j = Sub(AsInt(s), AsInt(Set<float>(shifter)));
+    // The row index j is s's bits less the shifter's.
+    constexpr uint32_t bias = std::bit_cast<uint32_t>(shifter);
     if constexpr (kWide) {
-        RowsOf(G::kRows, j, p.q0, p.q1, p.q2, p.q3);
+        RowsOf(G::kRows, AsInt(s), bias, p.q0, p.q1, p.q2, p.q3);
     } else {
         using RowS = std::remove_pointer_t<decltype(G::kRowsSingle)>;
         const RowS *r0, *r1, *r2, *r3;
-        RowsOf(G::kRowsSingle, j, r0, r1, r2, r3);
+        RowsOf(G::kRowsSingle, AsInt(s), bias, r0, r1, r2, r3);
         LoadTransposed(*r0, *r1, *r2, *r3, p.v, p.deriv);
     }
     return p;
