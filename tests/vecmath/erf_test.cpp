@@ -226,8 +226,8 @@ void ExpectErfNaNsInRounds() {
     constexpr U quiet = sizeof(T) == 4 ? U(0x00400000u) : U(0x0008000000000000ull);
     const U exp = sizeof(T) == 4 ? U(0x7F800000u) : U(0x7FF0000000000000ull);
     const U sign = U(1) << (sizeof(T) * 8 - 1);
-    const T base[] = {T(0.4),  T(-1.7),    T(3.95), T(-6.5),    T(INFINITY), T(0x1p-140),
-                      T(-2.2), T(1e-300),  T(5.99), T(-0.004),  T(7),        T(-0.0)};
+    const T base[] = {T(0.4),  T(-1.7),   T(3.95), T(-6.5),   T(INFINITY), T(0x1p-140),
+                      T(-2.2), T(1e-300), T(5.99), T(-0.004), T(7),        T(-0.0)};
     std::vector<T> in(48);
     for (size_t i = 0; i < in.size(); ++i)
         in[i] = base[i % 12];

@@ -62,7 +62,8 @@ BRENN_VEC __m128d ErfShort(__m128d x, __m128d& beyond) {
     __m128d u = IfThenZeroElse(Lt(a, Set<double>(0x1p-256)), Mul(d, d));
     I64x2 row = AsInt(s);
     __m128d v, deriv;
-    LoadTransposed(erfRows[LowWord<0>(row)], erfRows[LowWord<1>(row)], v, deriv);
+    LoadTransposed(erfRows[uint32_t(LowWord<0>(row))], erfRows[uint32_t(LowWord<1>(row))], v,
+                   deriv);
     __m128d p = MulAdd(Set<double>(kP1), t, Set<double>(kP0));
     __m128d q = MulAdd(Set<double>(kQ1), t, Set<double>(kQ0));
     __m128d r = Add(Mul(t, p), Mul(u, q));

@@ -107,7 +107,8 @@ BRENN_VEC GridPoint NearestRow(__m128d a) {
     __m128d s = Add(a, Set<double>(G::kShifter));
     __m128d xj = Sub(s, Set<double>(G::kShifter));
     I64x2 row = AsInt(s);
-    return {xj, Sub(a, xj), G::kRows[LowWord<0>(row)], G::kRows[LowWord<1>(row)]};
+    return {xj, Sub(a, xj), G::kRows[uint32_t(LowWord<0>(row))],
+            G::kRows[uint32_t(LowWord<1>(row))]};
 }
 
 // erf(a) = a 2/sqrt(pi) for a below 2^-256 (rare; d*g would lose bits as a denormal):
@@ -179,8 +180,8 @@ BRENN_VEC __m128d GridEvalRound(const __m128d* x, __m128d* y) {
         if constexpr (G::kMirror != 0)
             mirror = G::kMirrorPositive ? Xor(x[k], SignMask<double>()) : x[k]; // sign bit
         I64x2 row = AsInt(sh[k]);
-        const double* r0 = G::kRows[LowWord<0>(row)];
-        const double* r1 = G::kRows[LowWord<1>(row)];
+        const double* r0 = G::kRows[uint32_t(LowWord<0>(row))];
+        const double* r1 = G::kRows[uint32_t(LowWord<1>(row))];
         __m128d v, vlo = Zero<double>(), deriv, dl = Zero<double>();
         if constexpr (W == 2) {
             LoadTransposed(r0, r1, v, deriv);

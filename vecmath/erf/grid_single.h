@@ -54,8 +54,8 @@ BRENN_VEC __m128 UnscaleSingle(__m128 r) {
 // one load each (taken from the register, each costs an extraction, a sign extension and
 // a shift), and added to the table's address less the bias's offset.
 template <class Row>
-BRENN_VEC void RowsOf(const Row* rows, I32x4 biased, uint32_t bias, const Row*& r0,
-                      const Row*& r1, const Row*& r2, const Row*& r3) {
+BRENN_VEC void RowsOf(const Row* rows, I32x4 biased, uint32_t bias, const Row*& r0, const Row*& r1,
+                      const Row*& r2, const Row*& r3) {
     static_assert(sizeof(Row) == 16 || sizeof(Row) == 32);
     constexpr int kShift = sizeof(Row) == 16 ? 4 : 5;
     alignas(16) uint32_t offset[4];
@@ -75,7 +75,7 @@ template <class G, bool kWide>
 struct SinglePoint {
     using Row = std::remove_pointer_t<decltype(G::kRows)>; // double[W]
     __m128 xj, d, tiny;
-    __m128 v, deriv;               // the single rows' (v, D): LA, EP
+    __m128 v, deriv;              // the single rows' (v, D): LA, EP
     const Row *q0, *q1, *q2, *q3; // the double rows: HA
 };
 
@@ -116,8 +116,8 @@ BRENN_VEC SinglePoint<G, kWide> SingleNearest(__m128 x) {
 template <class G, SeriesCut C, bool kWide>
 BRENN_VEC __m128 SingleSeries(const SinglePoint<G, kWide>& p) {
     if constexpr (C.n0 > 0) {
-        __m128 t = Mul(p.xj, p.d);   // tau / kTauScale
-        __m128 v = Mul(p.d, p.d); // u / kUScale
+        __m128 t = Mul(p.xj, p.d); // tau / kTauScale
+        __m128 v = Mul(p.d, p.d);  // u / kUScale
         if constexpr (G::kMirror == 0) v = IfThenZeroElse(p.tiny, v);
         return SeriesLessOne<C, G::kTauScale, G::kUScale>(t, v);
     } else {

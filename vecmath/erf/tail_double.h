@@ -94,8 +94,8 @@ BRENN_VEC void TailGridRound(const __m128d* x, __m128d* y) {
     for (int k = 0; k < N; ++k) {
         __m128d mirror = G::kMirrorPositive ? Xor(x[k], SignMask<double>()) : x[k]; // sign bit
         I64x2 row = AsInt(sh[k]);
-        const double* r0 = G::kRows[LowWord<0>(row)];
-        const double* r1 = G::kRows[LowWord<1>(row)];
+        const double* r0 = G::kRows[uint32_t(LowWord<0>(row))];
+        const double* r1 = G::kRows[uint32_t(LowWord<1>(row))];
         __m128d v, vlo, deriv, dl;
         LoadTransposed(r0, r1, v, vlo);
         LoadTransposed(r0 + 2, r1 + 2, deriv, dl);
