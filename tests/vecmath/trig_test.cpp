@@ -288,9 +288,10 @@ TEST(Trig, SingleCosineOfTinyArgumentsIsOne) {
     }
 }
 
-// Sine is odd bit for bit at every level: sin(-x) is -sin(x) at zero, over the short path's
-// range and beyond it (the short path reduces x with its sign; the large path, |x| and the sign).
-TEST(Trig, SingleSineIsOdd) {
+// Sine and tangent are odd bit for bit at every level: f(-x) is -f(x) at zero, over the
+// short path's range and beyond it (the short path reduces x with its sign; the large
+// path, |x| and the sign).
+TEST(Trig, SingleSineAndTangentAreOdd) {
     std::mt19937 gen(19);
     std::uniform_real_distribution<float> mag(-14.0f, 16.0f);
     std::vector<float> x = {0.0f}, negx = {-0.0f};
@@ -299,16 +300,17 @@ TEST(Trig, SingleSineIsOdd) {
         x.push_back(v);
         negx.push_back(-v);
     }
-    for (int slot = 0; slot < kSlots; ++slot) {
-        std::vector<float> s = Call("sSin", slot, x), sn = Call("sSin", slot, negx);
-        int bad = 0;
-        for (size_t i = 0; i < x.size() && bad < 5; ++i)
-            if (Bits(sn[i]) != Bits(-s[i])) {
-                ++bad;
-                ADD_FAILURE() << slot << " x = " << std::hexfloat << x[i] << ": " << s[i] << ", "
-                              << sn[i];
-            }
-    }
+    for (const char* row : {"sSin", "sTan"})
+        for (int slot = 0; slot < kSlots; ++slot) {
+            std::vector<float> y = Call(row, slot, x), yn = Call(row, slot, negx);
+            int bad = 0;
+            for (size_t i = 0; i < x.size() && bad < 5; ++i)
+                if (Bits(yn[i]) != Bits(-y[i])) {
+                    ++bad;
+                    ADD_FAILURE() << row << " slot " << slot << " x = " << std::hexfloat << x[i]
+                                  << ": " << y[i] << ", " << yn[i];
+                }
+        }
 }
 
 // Infinities give NaN with status 1 and raise invalid; NaN passes quietly with status 0;

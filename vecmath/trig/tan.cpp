@@ -11,7 +11,8 @@
  * takes the double EP set, double EP pi/2 in three parts, double LA in four with a
  * longer set (tools/trig/tan_quotient.sollya); double LA also keeps the remainder's low
  * part and the roundings of s and c, and corrects the quotient by them (AccurateQuotient).
- * The single short path holds to 8256, the
+ * The single kernels reduce x with its sign (n, r and the quotient odd in x), the others
+ * |x|, the sign put back at the end. The single short path holds to 8256, the
  * double one to 2^24. Every kernel runs rounds of sixteen elements with one range test,
  * its registers' chains interleaved (double HA's table steps too, TanSums).
  *
@@ -105,9 +106,15 @@ BRENN_TRIG_HOT void SidesOf(const V* r, const V* u, V* s, V* c) {
     if constexpr (std::is_same_v<Sides, TanRationalEP>) {
         BRENN_EACH(k, M) s[k] = Mul(r[k], MulAdd(u[k], Set<T>(kTanNum[1]), Set<T>(kTanNum[0])));
         HornerAll<M>(u, kTanDen, c);
-    } else {
+    } else if constexpr (std::is_same_v<Sides, TanFitSingleLA>) {
         HornerAll<M>(u, Sides::kS, c);
         BRENN_EACH(k, M) s[k] = Add(r[k], Mul(Mul(r[k], u[k]), c[k]));
+        HornerAll<M>(u, Sides::kC, c);
+    } else {
+        // In double, s = r (1 + u S(u)): its roundings are far below the result's, and a
+        // zero r keeps its sign (r + r u S(u) turns -0 into +0).
+        HornerAll<M>(u, Sides::kS, c);
+        BRENN_EACH(k, M) s[k] = Mul(r[k], MulAdd(u[k], c[k], Set<T>(1)));
         HornerAll<M>(u, Sides::kC, c);
     }
 }
@@ -205,17 +212,19 @@ inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
 #pragma GCC unroll 4
     for (size_t i = 1; i < P; ++i)
         BRENN_EACH(k, M) r[k] = Sub(r[k], Mul(n[k], Set<T>(piHalf[i])));
+    BRENN_EACH(k, M) u[k] = Mul(r[k], r[k]);
+    bool nearZero = false;
     if constexpr (std::is_same_v<Sides, TanFitSingleLA>) {
-        // The single reduction is good to 2^-35 absolute; a remainder below 2^-9 (a
-        // lane near a multiple of pi/2, a few in a thousand) takes the double one, and
-        // only such a lane.
-        if (__builtin_expect(AnyNearZeroS<M>(r), 0)) {
+        // The single reduction is good to 2^-35 absolute; a remainder below 2^-9 (its
+        // square below 2^-18: a lane near a multiple of pi/2, a few in a thousand) takes
+        // the double one, and only such a lane.
+        nearZero = AnyNearZeroSq<M>(u);
+        if (__builtin_expect(nearZero, 0)) {
             V wide[M];
             ReduceWide<M>(a, n, wide);
-            TakeNearZeroS<M>(r, wide);
+            TakeNearZeroSq<M>(r, u, wide);
         }
     }
-    BRENN_EACH(k, M) u[k] = Mul(r[k], r[k]);
     SidesOf<M, Sides>(r, u, s, c);
     // n odd: -c/s.
     BRENN_EACH(k, M) {
@@ -223,6 +232,10 @@ inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
         V bot = IfThenElse(odd[k], s[k], c[k]);
         q[k] = Quotient<Sides>(top, bot);
     }
+    // Single LA's s = r + r u S(u) turns r = -0 into +0: zeros are among the lanes near
+    // zero, which alone take the sign of the argument back.
+    if (std::is_same_v<Sides, TanFitSingleLA> && __builtin_expect(nearZero, 0))
+        BRENN_EACH(k, M) q[k] = IfThenElse(Eq(a[k], Zero<T>()), a[k], q[k]);
 }
 
 // Double HA: x = n pi/2 + j pi/64 + r with |j| <= 16 and |r| <= pi/128 (the reduction of
@@ -300,13 +313,15 @@ BRENN_TRIG_HOT __m128d TanSum(const int32_t* J, __m128d rh, __m128d rl) {
     return y;
 }
 
-// tan of N single registers of magnitudes by the short path, without the sign of x.
-// Lanes above the limit are the large path's: with kClamp they are clamped and raise no
-// flag here; without, the caller has seen that there are none.
+// tan of N single registers by the short path. x is reduced with its sign: n and r are
+// odd in x, and so are s/c and -c/s, so the result has the sign of x (and of a zero) with
+// no step of its own. Lanes above the limit are the large path's: with kClamp they are
+// clamped and raise no flag here; without, the caller has seen that there are none.
 template <Level L, int N, bool kClamp>
-BRENN_TRIG_HOT void ShortTan(const __m128* a, __m128* p) {
+BRENN_TRIG_HOT void ShortTan(const __m128* x, __m128* p) {
     __m128 as[N];
-    BRENN_EACH(k, N) as[k] = kClamp ? Min(a[k], Set<float>(kLimitS)) : a[k];
+    const __m128 limit = Set<float>(kLimitS);
+    BRENN_EACH(k, N) as[k] = kClamp ? Max(Min(x[k], limit), Neg(limit)) : x[k];
     if constexpr (L == Level::EP) {
         QuadrantTan<N, TanRationalEP>(as, TanShort<float>::kPiHalf, p);
     } else if constexpr (L == Level::LA) {
@@ -345,19 +360,19 @@ struct TanBody<float, L> {
         __m128 a = Abs(x);
         special = InfNan(a);
         __m128 p;
-        ShortTan<L, 1, true>(&a, &p);
+        ShortTan<L, 1, true>(&x, &p);
         int big = LargeLanes(a, kLimitBits);
+        // The lanes above the limit replaced by the large path's result, with the sign of x.
         if (__builtin_expect(big != 0, 0))
-            p = IfThenElse(MaskFromBits<float>(big), LargeTanS(a), p);
-        return Xor(p, SignBit(x));
+            p = IfThenElse(MaskFromBits<float>(big), Xor(LargeTanS(a), SignBit(x)), p);
+        return p;
     }
     // A round of sixteen: with no lane above the limit, the short path on the four
     // registers together, unclamped; otherwise quad by quad.
     static int EvalWide(const __m128* x, __m128* y) {
         __m128 a[4];
         if (__builtin_expect(AnyAboveS(x, a, kLimitBits), 0)) return EvalEach<TanBody, 4>(x, y);
-        ShortTan<L, 4, false>(a, y);
-        BRENN_EACH(k, 4) y[k] = Xor(y[k], SignBit(x[k]));
+        ShortTan<L, 4, false>(x, y);
         return 0;
     }
     static int Scalar(const float* a, float* y) { return InfNanScalar(a, y); }
