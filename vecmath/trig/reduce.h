@@ -323,35 +323,12 @@ inline __m128 LargeSinS(__m128 a, bool cosine) {
 }
 
 // The single LA kernels reduce in single, good to 2^-35 absolute on their short paths;
-// a remainder below 2^-9 (as bits), where that would be more than a tenth of an ulp, is
-// redone in double.
-constexpr uint32_t kNearZeroBits = 0x3B000000;
-
-// Whether any lane of N single remainders is below 2^-9 in magnitude: one compare on
-// the least of them.
-template <int N>
-BRENN_TRIG_HOT bool AnyNearZeroS(const __m128* r) {
-    I32x4 least = AsInt(Abs(r[0]));
-    BRENN_EACH(k, N - 1) least = Min(least, AsInt(Abs(r[k + 1])));
-    return MaskBits(Lt(least, Set<uint32_t>(kNearZeroBits))) != 0;
-}
-
-// The lanes of single remainders r below 2^-9 replaced by the wide reduction's, lane by
-// lane: which reduction an element takes depends on its own remainder only, never on its
-// neighbours in the block, so its result does not depend on where it stands in a call.
-template <int N>
-BRENN_TRIG_HOT void TakeNearZeroS(__m128* r, const __m128* wide) {
-    BRENN_EACH(k, N) {
-        __m128 near = AsFloat(Lt(AsInt(Abs(r[k])), Set<uint32_t>(kNearZeroBits)));
-        r[k] = IfThenElse(near, wide[k], r[k]);
-    }
-}
-
-// The same tests on the squares u = r^2 that the series needs anyway (no magnitudes to
-// take): a remainder is near zero when its square is below 2^-18, and a lane taken over
-// gets its square again from the wide remainder.
+// a remainder below 2^-9, where that would be more than a tenth of an ulp, is redone in
+// double. The test reads the squares u = r^2 that the series needs anyway (no magnitudes
+// to take): a remainder is near zero when its square is below 2^-18 (as bits).
 constexpr uint32_t kNearZeroSqBits = 0x36800000;
 
+// Whether any lane of N squares is below 2^-18: one compare on the least of them.
 template <int N>
 BRENN_TRIG_HOT bool AnyNearZeroSq(const __m128* u) {
     I32x4 least = AsInt(u[0]);
@@ -359,6 +336,10 @@ BRENN_TRIG_HOT bool AnyNearZeroSq(const __m128* u) {
     return MaskBits(Lt(least, Set<uint32_t>(kNearZeroSqBits))) != 0;
 }
 
+// The lanes of remainders r whose squares are below 2^-18 replaced by the wide
+// reduction's, with their squares again, lane by lane: which reduction an element takes
+// depends on its own remainder only, never on its neighbours in the block, so its result
+// does not depend on where it stands in a call.
 template <int N>
 BRENN_TRIG_HOT void TakeNearZeroSq(__m128* r, __m128* u, const __m128* wide) {
     BRENN_EACH(k, N) {
