@@ -42,7 +42,7 @@ struct ErfGridSingle : ErfGridLA {
 // The cuts of the series: terms left out stay below 2^-57 (HA), 2^-55 (LA) of the
 // result in double, 2^-30 and 2^-27 in single, at the worst grid point and offset
 // (one cut serves both levels where the two bounds give the same).
-constexpr SeriesCut kCutHA{5, 4, 2, 1}, kCutLA{5, 4, 2, 1};
+constexpr SeriesCut kCutHA{5, 4, 2, 1}, kCutLA{5, 4, 2, 1, true};
 constexpr SeriesCut kCutSingleHA{2, 1, 0, 0}, kCutSingleLA{2, 1, 0, 0}, kCutSingleEP{0, 0, 0, 0};
 
 // The EP expansion; |x| held at the limit by its bits, the lanes held OR-ed on beyond.

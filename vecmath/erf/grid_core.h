@@ -33,9 +33,12 @@ namespace brenn::vm {
 
 enum class GridSum { TwoPart, Plain };
 
-// Numbers of coefficients kept of P0 .. P3 (P0 from tau^1 on).
+// Numbers of coefficients kept of P0 .. P3 (P0 from tau^1 on), and whether the rows go
+// by Horner's rule (double LA, whose sixteen-element rounds hide the longer chain) or
+// Estrin's scheme.
 struct SeriesCut {
     int n0, n1, n2, n3;
+    bool horner = false;
 };
 
 // The first N coefficients of row m of the series from column k0, as an array for
@@ -68,22 +71,25 @@ requires(N > 0) struct SeriesPart<M, K0, N, S, H> {
     static constexpr const double (&c)[N] = kA.v;
 };
 
-template <int M, int N, double S, double H, class V>
+template <int M, int K0, int N, double S, double H, bool kHorner, class V>
 BRENN_VEC V SeriesRow(V t) {
-    return Estrin(t, SeriesPart<M, 0, N, S, H>::c);
+    if constexpr (kHorner)
+        return Horner(t, SeriesPart<M, K0, N, S, H>::c);
+    else
+        return Estrin(t, SeriesPart<M, K0, N, S, H>::c);
 }
 
 // S - 1 at tau = S*t and u = H*v (S, H powers of two), on double lanes or (the
 // coefficients rounded to single) single ones; the long rows by Estrin (a shorter chain
-// than Horner's: dErfc 27 ticks an element, was 37).
+// than Horner's: dErfc 27 ticks an element, was 37) or Horner (fewer operations).
 template <SeriesCut C, double S, double H, class V>
 BRENN_VEC V SeriesLessOne(V t, V v) {
-    V s = Mul(t, Estrin(t, SeriesPart<0, 1, C.n0, S, H>::c));
+    V s = Mul(t, SeriesRow<0, 1, C.n0, S, H, C.horner>(t));
     if constexpr (C.n1 > 0) {
-        V q = SeriesRow<1, C.n1, S, H>(t);
+        V q = SeriesRow<1, 0, C.n1, S, H, C.horner>(t);
         if constexpr (C.n2 > 0) {
-            V r = SeriesRow<2, C.n2, S, H>(t);
-            if constexpr (C.n3 > 0) r = MulAdd(v, SeriesRow<3, C.n3, S, H>(t), r);
+            V r = SeriesRow<2, 0, C.n2, S, H, C.horner>(t);
+            if constexpr (C.n3 > 0) r = MulAdd(v, SeriesRow<3, 0, C.n3, S, H, C.horner>(t), r);
             q = MulAdd(v, r, q);
         }
         s = MulAdd(v, q, s);
