@@ -145,9 +145,15 @@ BRENN_VEC __m128 SingleSum(__m128 x, const SinglePoint<G, kTwoPart>& p, __m128 s
         if constexpr (G::kMirror != 0) kf = IfThenElse(mirror, Set<float>(float(G::kMirror)), kf);
         auto sum = [](__m128d dd, __m128d sd, __m128d kd, __m128d fd, const Row* r0,
                       const Row* r1) {
-            __m128d deriv = LoadLanes(&(*r0)[W / 2], &(*r1)[W / 2]); // D, or dh
+            __m128d v, deriv; // V and D, or V and dh
+            if constexpr (W == 2) {
+                LoadTransposed(*r0, *r1, v, deriv);
+            } else {
+                v = LoadLanes(&(*r0)[0], &(*r1)[0]);
+                deriv = LoadLanes(&(*r0)[W / 2], &(*r1)[W / 2]);
+            }
             __m128d w = Mul(deriv, dd);
-            __m128d f = Add(LoadLanes(&(*r0)[0], &(*r1)[0]), Add(w, Mul(w, sd)));
+            __m128d f = Add(v, Add(w, Mul(w, sd)));
             if constexpr (G::kMirror != 0) f = Add(kd, Xor(f, fd)); // fd: -0 or +0
             return f;
         };
