@@ -196,6 +196,35 @@ void MixedMatchesAlone(const char* row) {
     }
 }
 
+// The double rounds test the high words of their lanes against the limit's: a lane at 2^24
+// or a little above it sends its round register by register, one just below does not.
+// Either way each lane, at the seam or ordinary beside it, gets the bits it gets alone.
+TEST(Trig, DoubleSeamLanesMatchElementsAlone) {
+    const double seam[] = {std::nextafter(16777216.0, 0.0), 16777216.0,
+                           std::nextafter(16777216.0, 2e7), 16777216.0 * (1 + 0x1p-21),
+                           16777216.0 * (1 + 0x1p-20)};
+    std::mt19937 gen(23);
+    std::uniform_real_distribution<double> small(-6, 6);
+    for (const char* row : {"dSin", "dCos", "dTan"})
+        for (double v : seam)
+            for (int lane : {0, 5, 15}) {
+                std::vector<double> x(16);
+                for (double& w : x)
+                    w = small(gen);
+                x[lane] = lane % 2 ? -v : v;
+                for (int slot = 0; slot < kSlots; ++slot) {
+                    std::vector<double> y = Call(row, slot, x);
+                    for (int i = 0; i < 16; ++i) {
+                        std::vector<double> one = Call(row, slot, std::vector<double>{x[i]});
+                        EXPECT_TRUE(SameValue(y[i], one[0]))
+                            << row << " slot " << slot << " lane " << i << " seam " << v;
+                    }
+                    ExpectAccurate({row, row[1] == 'S' ? Fn::Sin : row[1] == 'C' ? Fn::Cos : Fn::Tan},
+                                   slot, x);
+                }
+            }
+}
+
 TEST(Trig, MixedBlocksMatchElementsAlone) {
     for (const char* r : {"sSin", "sCos", "sTan"})
         MixedMatchesAlone<float>(r);

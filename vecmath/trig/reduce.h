@@ -394,15 +394,19 @@ inline bool AnyAboveS(const __m128* x, __m128* a, uint32_t limitBits) {
     return MaskBits(Gt(m, Set<uint32_t>(limitBits))) != 0;
 }
 
-// Magnitudes of a round's N double registers, and whether any lane is above the limit
-// (infinity and NaN are, as bits): one compare a register, the masks joined.
+// Magnitudes of a round's N double registers, and whether any lane may be above the
+// limit, by the high words alone: the 32-bit maxima of the registers' words, one compare.
+// It answers yes for every lane above the limit (whose high word is at least the limit's),
+// infinity and NaN among them, and for a few just below (high word equal to the limit's);
+// the round then takes the register-by-register path, whose tests are exact. The low
+// words' maxima are compared with 0x7FFFFFFF, which no signed word exceeds.
 template <int N>
 BRENN_TRIG_HOT bool AnyAboveD(const __m128d* x, __m128d* a, uint64_t limitBits) {
     BRENN_EACH(k, N) a[k] = Abs(x[k]);
-    const I64x2 limit = Set<uint64_t>(limitBits);
-    I64x2 m = Gt(AsInt(a[0]), limit);
-    BRENN_EACH(k, N - 1) m = Or(m, Gt(AsInt(a[k + 1]), limit));
-    return MaskBits(m) != 0;
+    const I32x4 limit = BitCast<I32x4>(Set<uint64_t>(((limitBits >> 32) - 1) << 32 | 0x7FFFFFFFu));
+    I32x4 m = BitCast<I32x4>(AsInt(a[0]));
+    BRENN_EACH(k, N - 1) m = Max(m, BitCast<I32x4>(AsInt(a[k + 1])));
+    return MaskBits(Gt(m, limit)) != 0;
 }
 
 // Whether any lane of N registers of finite magnitudes is below a bound: one compare on
