@@ -136,8 +136,12 @@ struct ErfBody {
         constexpr int N = 16 / kLanes<T>;
         if constexpr (sizeof(T) == 4)
             ErfSingle<L, N>(x, y);
-        else
+        else if constexpr (L == Level::HA) { // in halves: fewer values spilled
+            ErfDouble<L, N / 2>(x, y);
+            ErfDouble<L, N / 2>(x + N / 2, y + N / 2);
+        } else {
             ErfDouble<L, N>(x, y);
+        }
         return 0;
     }
 };
