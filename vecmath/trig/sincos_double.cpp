@@ -1,10 +1,11 @@
 /* Sin, Cos and SinCos in double, three levels.
  *
- * EP and LA: n = round(|x|/pi) by the shifter (for cosine round(|x|/pi + 0.5) - 0.5,
- * a half-integer), the low bit of the rounded value the sign (-1)^n, r = |x| - n pi
- * with pi in three parts (EP) or four (LA), and an odd series of five (EP) or nine
- * (LA) terms on [-pi/2, pi/2] (tools/trig/sin_double_ep.sollya, sin_double_la.sollya),
- * its polynomial in r^2 by Estrin's scheme (LA: all but the two lowest terms).
+ * EP and LA: for sine n = round(x/pi) by the shifter, the low bit of the rounded value
+ * the sign (-1)^n, r = x - n pi (EP on x with its sign, LA on |x|); for cosine the
+ * half-integer n = floor(|x|/pi) + 1/2 and r = n pi - |x|; pi in three parts (EP) or
+ * four (LA), and an odd series of five (EP) or nine (LA) terms on [-pi/2, pi/2]
+ * (tools/trig/sin_double_ep.sollya, sin_double_la.sollya), its polynomial in r^2 by
+ * Estrin's scheme (LA: all but the two lowest terms), EP's as r (1 + u P(u)).
  * HA: the table method at pi/64, j = round(|x| 64/pi), r = |x| - j pi/64 in three parts
  * kept as two doubles, and sin(A) cos(r) + cos(A) sin(r) from the table of sin and cos
  * at multiples of pi/64 (cosine at j + 32).
@@ -56,37 +57,55 @@ constexpr double kSinLAHigh[] = {-0x1.a01a01a014eb7p-13, 0x1.71de3a52aac68p-19,
                                  -0x1.ae6454d968e2fp-26, 0x1.6123ce53b3e2ep-33,
                                  -0x1.ae43dd545dacp-41,  0x1.883c3146a7f29p-49};
 
-// sin or cos of M registers of magnitudes a below 2^24 by the pi reduction, without the
-// sign of x and without cosine's exact 1.0 for tiny arguments (CosOne); each step over
-// all of them before the next, so that their chains interleave.
+// Cosine's half-integer n = floor(a/pi) + 1/2 added to 1.5 * 2^51 (whose last bit is
+// 1/2): the sum is exact, and its bit 1 is the parity of floor(a/pi).
+constexpr double kHalfShifter = 0x1.8p51;
+
+// sin or cos of M registers below 2^24 by the pi reduction, without cosine's exact 1.0
+// for tiny arguments (CosOne); each step over all of them before the next, so that their
+// chains interleave. Sine: n = round(x/pi) by the shifter, r = x - n pi and
+// sin x = (-1)^n sin r; EP takes x with its sign (n and r odd in x, and its series
+// r (1 + u P(u)) keeps the sign of a zero), LA takes |x| (its series r + r u P(u) turns
+// -0 into +0), the caller putting the sign back. Cosine takes a = |x|, n = floor(a/pi) +
+// 1/2 and cos a = -(-1)^floor(a/pi) sin(a - n pi), the minus sign taken by reducing to
+// n pi - a.
 template <Level L, int M>
 BRENN_TRIG_HOT void ShortPiEach(const __m128d* a, bool cosine, __m128d* y) {
     const __m128d shifter = Set<double>(Format<double>::kShifter);
     constexpr int kParts = L == Level::EP ? 3 : 4;
     const double* pi = L == Level::EP ? kPiEP : kPiLA;
-    __m128d t[M], n[M], r[M], u[M], p[M];
-    BRENN_EACH(k, M) {
-        t[k] = Mul(a[k], Set<double>(kInvPi));
-        if (cosine) t[k] = Add(t[k], Set<double>(0.5));
-        t[k] = Add(t[k], shifter);
-        n[k] = Sub(t[k], shifter);
-        if (cosine) n[k] = Sub(n[k], Set<double>(0.5));
-    }
-    BRENN_EACH(k, M) r[k] = Sub(a[k], Mul(n[k], Set<double>(pi[0])));
+    __m128d t[M], n[M], r[M], u[M], p[M], sign[M];
+    if (cosine) {
+        BRENN_EACH(k, M) {
+            __m128d f = Floor(Mul(a[k], Set<double>(kInvPi)));
+            t[k] = Add(f, Set<double>(kHalfShifter));
+            n[k] = Add(f, Set<double>(0.5));
+            sign[k] = AsFloat(ShiftLeft<62>(AsInt(t[k])));
+        }
+        BRENN_EACH(k, M) r[k] = Sub(Mul(n[k], Set<double>(pi[0])), a[k]);
 #pragma GCC unroll 4
-    for (int i = 1; i < kParts; ++i)
-        BRENN_EACH(k, M) r[k] = Sub(r[k], Mul(n[k], Set<double>(pi[i])));
+        for (int i = 1; i < kParts; ++i)
+            BRENN_EACH(k, M) r[k] = Add(r[k], Mul(n[k], Set<double>(pi[i])));
+    } else {
+        BRENN_EACH(k, M) {
+            t[k] = Add(Mul(a[k], Set<double>(kInvPi)), shifter);
+            n[k] = Sub(t[k], shifter);
+            sign[k] = AsFloat(ShiftLeft<63>(AsInt(t[k]))); // (-1)^n
+        }
+        BRENN_EACH(k, M) r[k] = Sub(a[k], Mul(n[k], Set<double>(pi[0])));
+#pragma GCC unroll 4
+        for (int i = 1; i < kParts; ++i)
+            BRENN_EACH(k, M) r[k] = Sub(r[k], Mul(n[k], Set<double>(pi[i])));
+    }
     BRENN_EACH(k, M) u[k] = Mul(r[k], r[k]);
     if constexpr (L == Level::EP) {
         BRENN_EACH(k, M) p[k] = Estrin(u[k], kSinEP);
+        BRENN_EACH(k, M) y[k] = Xor(Mul(r[k], MulAdd(u[k], p[k], Set<double>(1.0))), sign[k]);
     } else {
         BRENN_EACH(k, M) p[k] = Estrin(u[k], kSinLAHigh);
         BRENN_EACH(k, M) p[k] = MulAdd(u[k], p[k], Set<double>(kSinLALow[1]));
         BRENN_EACH(k, M) p[k] = MulAdd(u[k], p[k], Set<double>(kSinLALow[0]));
-    }
-    BRENN_EACH(k, M) {
-        __m128d sign = AsFloat(ShiftLeft<63>(AsInt(t[k]))); // (-1)^n
-        y[k] = Xor(Add(r[k], Mul(Mul(r[k], u[k]), p[k])), sign);
+        BRENN_EACH(k, M) y[k] = Xor(Add(r[k], Mul(Mul(r[k], u[k]), p[k])), sign[k]);
     }
 }
 
@@ -95,6 +114,7 @@ BRENN_TRIG_HOT void ShortPiEach(const __m128d* a, bool cosine, __m128d* y) {
 template <Level L, bool kClamp = true>
 inline __m128d ShortPiRaw(__m128d a, bool cosine) {
     if (kClamp) a = Min(a, Set<double>(kLimit));
+    if (kClamp && L == Level::EP && !cosine) a = Max(a, Set<double>(-kLimit));
     __m128d y;
     ShortPiEach<L, 1>(&a, cosine, &y);
     return y;
@@ -166,7 +186,7 @@ struct Body {
         __m128d p;
         if constexpr (L == Level::EP) {
             special = RangeTest(a, Range64{~0ull, 0, kLimitD});
-            p = ShortPi<L>(a, kCos);
+            return ShortPi<L>(kCos ? a : x, kCos); // sine with the sign of x
         } else {
             special = InfNan(a);
             if constexpr (L == Level::LA) {
@@ -193,9 +213,10 @@ struct Body {
             for (int g = 0; g < 8; g += kTableStep)
                 ByTableShort<kTableStep>(a + g, kCos, y + g);
         } else {
-            ShortPiEach<L, kPiStep>(a, kCos, y);
+            // EP's sine takes x with its sign.
+            ShortPiEach<L, kPiStep>(L == Level::EP && !kCos ? x : a, kCos, y);
         }
-        if (!kCos) BRENN_EACH(k, 8) y[k] = Xor(y[k], SignBit(x[k]));
+        if (!kCos && L != Level::EP) BRENN_EACH(k, 8) y[k] = Xor(y[k], SignBit(x[k]));
         if (L != Level::HA && kCos && __builtin_expect(AnyBelowD<8>(a, kCosOne), 0))
             BRENN_EACH(k, 8) y[k] = CosOne(a[k], y[k]);
         return 0;
@@ -227,7 +248,7 @@ struct Both {
         if constexpr (L == Level::EP) {
             // The two pi reductions and series of Sin and Cos at EP; lanes above 2^24 go
             // to the scalar routine, as in those rows.
-            s = Xor(ShortPiRaw<L, kLarge>(a, false), SignBit(x));
+            s = ShortPiRaw<L, kLarge>(x, false);
             c = CosOne(a, ShortPiRaw<L, kLarge>(a, true));
             return;
         }
@@ -286,12 +307,9 @@ struct Both {
         __m128d a[8];
         if (__builtin_expect(AnyAboveD<8>(x, a, kLimitD), 0)) return EvalEach<Both, 8>(x, s, c);
         if constexpr (L == Level::EP) {
-            ShortPiEach<L, kPiStep>(a, false, s);
+            ShortPiEach<L, kPiStep>(x, false, s);
             ShortPiEach<L, kPiStep>(a, true, c);
-            BRENN_EACH(k, 8) {
-                s[k] = Xor(s[k], SignBit(x[k]));
-                c[k] = CosOne(a[k], c[k]);
-            }
+            BRENN_EACH(k, 8) c[k] = CosOne(a[k], c[k]);
         } else if constexpr (L == Level::HA) {
             // Register by register: four at a time measured slower (31.3 -> 33.2 ticks).
 #pragma GCC unroll 2
