@@ -11,8 +11,8 @@
  * takes the double EP set, double EP pi/2 in three parts, double LA in four with a
  * longer set (tools/trig/tan_quotient.sollya); double LA also keeps the remainder's low
  * part and the roundings of s and c, and corrects the quotient by them (AccurateQuotient).
- * The single kernels reduce x with its sign (n, r and the quotient odd in x), the others
- * |x|, the sign put back at the end. The single short path holds to 8256, the
+ * The single kernels and double EP reduce x with its sign (n, r and the quotient odd in
+ * x), the others |x|, the sign put back at the end. The single short path holds to 8256, the
  * double one to 2^24. Every kernel runs rounds of sixteen elements with one range test,
  * its registers' chains interleaved (double HA's table steps too, TanSums).
  *
@@ -388,12 +388,18 @@ struct TanBody<double, L> {
         alignas(16) int32_t J[2], K[2];
         __m128d rh, rl;
         int big = LargeLanes(a, std::bit_cast<uint64_t>(kLimitD));
-        if constexpr (L != Level::HA) {
+        if constexpr (L == Level::EP) {
+            // x with its sign, as the single kernels.
+            __m128d xs = Max(Min(x, Set<double>(kLimitD)), Set<double>(-kLimitD)), p;
+            QuadrantTan<1, TanFitEP>(&xs, TanShort<double>::kPiHalf, &p);
+            if (__builtin_expect(big != 0, 0)) {
+                LargeD(a, J, rh, rl);
+                p = IfThenElse(MaskFromBits<double>(big), Xor(TanSum(J, rh, rl), SignBit(x)), p);
+            }
+            return p;
+        } else if constexpr (L == Level::LA) {
             __m128d as = Min(a, Set<double>(kLimitD)), p;
-            if constexpr (L == Level::EP)
-                QuadrantTan<1, TanFitEP>(&as, TanShort<double>::kPiHalf, &p);
-            else
-                QuadrantTan<1, TanFitLA>(&as, TanShort<double>::kPiHalfLA, &p);
+            QuadrantTan<1, TanFitLA>(&as, TanShort<double>::kPiHalfLA, &p);
             if (__builtin_expect(big != 0, 0)) {
                 LargeD(a, J, rh, rl);
                 p = IfThenElse(MaskFromBits<double>(big), TanSum(J, rh, rl), p);
@@ -424,7 +430,8 @@ struct TanBody<double, L> {
                 TanSums<4>(J, rh, rl, y + 4 * h, t);
             }
         } else if constexpr (L == Level::EP) {
-            QuadrantTan<8, TanFitEP>(a, TanShort<double>::kPiHalf, y);
+            QuadrantTan<8, TanFitEP>(x, TanShort<double>::kPiHalf, y);
+            return 0;
         } else {
             QuadrantTan<8, TanFitLA>(a, TanShort<double>::kPiHalfLA, y);
         }
