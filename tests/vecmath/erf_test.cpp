@@ -303,6 +303,37 @@ TEST(ErfRows, UnderflowLanesReportedInOrder) {
     ExpectUnderflowLanesInOrder<double>(Fn::CdfNorm, -38.1, -0.03);
 }
 
+// Single Erfc and CdfNorm LA and EP bring their scaled results back by the exponent or,
+// below the least normal, as denormal bits: across the crossing the results fall with x
+// (rise, for CdfNorm's negative side) and stay within the level, in long vectors.
+TEST(ErfRows, SingleResultsAcrossTheLeastNormal) {
+    for (Fn f : {Fn::Erfc, Fn::CdfNorm}) {
+        const float at = f == Fn::Erfc ? 9.1945f : -12.9574f; // F about 2^-126 there
+        std::vector<float> in;
+        for (int i = -600; i <= 600; ++i)
+            in.push_back(at + 0.00005f * float(i));
+        std::vector<float> out(in.size());
+        for (int slot : {kSlotLA, kSlotEP}) {
+            As<Unary<float>>(Slot(RowOf<float>(f), slot))(int(in.size()), in.data(), out.data());
+            int below = 0;
+            for (size_t i = 0; i < in.size(); ++i) {
+                below += out[i] < FLT_MIN;
+                if (i > 0 && f == Fn::Erfc) EXPECT_LE(out[i], out[i - 1]) << in[i];
+                if (i > 0 && f == Fn::CdfNorm) EXPECT_GE(out[i], out[i - 1]) << in[i];
+                long double ref = Ref(f, in[i]);
+                if (slot == kSlotLA)
+                    EXPECT_LE(UlpError(out[i], ref), 4.0) << RowOf<float>(f) << " " << in[i];
+                else
+                    EXPECT_LE(fabsl(out[i] - ref) / std::max<long double>(fabsl(ref), FLT_MIN),
+                              ldexpl(1.0L, -11))
+                        << RowOf<float>(f) << " " << in[i];
+            }
+            EXPECT_GT(below, 100) << RowOf<float>(f); // both sides of the crossing seen
+            EXPECT_LT(below, int(in.size()) - 100) << RowOf<float>(f);
+        }
+    }
+}
+
 // With denormals flushed by the mode, the band's results are 0, still with status 4.
 TEST(ErfRows, FlushModeGivesZeroInTheBand) {
     brenn_zar_kernel_SetMode(BRENN_MODE_FTZDAZ_ON);

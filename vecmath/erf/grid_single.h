@@ -39,13 +39,16 @@ BRENN_VEC __m128 AsArithmeticDenormal(I32x4 bits) {
 }
 
 // r = F * 2^100 (F >= 0) back to F: below 2^-26 (F below 2^-126), F's denormal bits are
-// r * 2^49 rounded to an integer.
+// r * 2^49 rounded to an integer, else r's bits less 100 in the exponent. The larger of
+// the two as integers is the one that applies: below 2^-26 the second is below the
+// first (negative from 2^-27 down), from 2^-26 on the first is held at 2^23, the second's
+// least. The result is a denormal made so from its bits (AsArithmeticDenormal's maximum
+// with 0, which leaves the normal ones as they are).
 BRENN_VEC __m128 UnscaleSingle(__m128 r) {
     static_assert(kSingleScale == 100);
-    const __m128 least = Set<float>(0x1p-26f);
-    I32x4 denormal = RoundToInt(Mul(Min(r, least), Set<float>(0x1p49f)));
+    I32x4 denormal = RoundToInt(Mul(Min(r, Set<float>(0x1p-26f)), Set<float>(0x1p49f)));
     I32x4 normal = Sub(AsInt(r), Set<int32_t>(kSingleScale << 23));
-    return IfThenElse(Lt(r, least), AsArithmeticDenormal(denormal), AsFloat(normal));
+    return AsArithmeticDenormal(Max(denormal, normal));
 }
 
 // The rows of the four lanes' indices j (rows of 16 or 32 bytes), given as j + bias in
