@@ -205,7 +205,7 @@ TEST(Trig, DoubleSeamLanesMatchElementsAlone) {
                            16777216.0 * (1 + 0x1p-20)};
     std::mt19937 gen(23);
     std::uniform_real_distribution<double> small(-6, 6);
-    for (const char* row : {"dSin", "dCos", "dTan"})
+    for (const RowCase& rc : kDouble)
         for (double v : seam)
             for (int lane : {0, 5, 15}) {
                 std::vector<double> x(16);
@@ -213,14 +213,13 @@ TEST(Trig, DoubleSeamLanesMatchElementsAlone) {
                     w = small(gen);
                 x[lane] = lane % 2 ? -v : v;
                 for (int slot = 0; slot < kSlots; ++slot) {
-                    std::vector<double> y = Call(row, slot, x);
+                    std::vector<double> y = Call(rc.name, slot, x);
                     for (int i = 0; i < 16; ++i) {
-                        std::vector<double> one = Call(row, slot, std::vector<double>{x[i]});
+                        std::vector<double> one = Call(rc.name, slot, std::vector<double>{x[i]});
                         EXPECT_TRUE(SameValue(y[i], one[0]))
-                            << row << " slot " << slot << " lane " << i << " seam " << v;
+                            << rc.name << " slot " << slot << " lane " << i << " seam " << v;
                     }
-                    ExpectAccurate({row, row[1] == 'S' ? Fn::Sin : row[1] == 'C' ? Fn::Cos : Fn::Tan},
-                                   slot, x);
+                    ExpectAccurate(rc, slot, x);
                 }
             }
 }
@@ -336,8 +335,8 @@ void ExpectOdd(const char* row, T top) {
         for (size_t i = 0; i < x.size() && bad < 5; ++i)
             if (Bits(yn[i]) != Bits(T(-y[i]))) {
                 ++bad;
-                ADD_FAILURE() << row << " slot " << slot << " x = " << std::hexfloat << x[i]
-                              << ": " << y[i] << ", " << yn[i];
+                ADD_FAILURE() << row << " slot " << slot << " x = " << std::hexfloat << x[i] << ": "
+                              << y[i] << ", " << yn[i];
             }
     }
 }
