@@ -95,16 +95,22 @@ BRENN_TRIG_HOT void SeriesOdd(const __m128* r, const __m128* u, const C (&c)[M],
     HornerEach<0, N>(u, c, q);
     BRENN_EACH(k, N) p[k] = Add(r[k], Mul(Mul(r[k], u[k]), q[k]));
 }
-// HA: r (1 + u P(u)) in double, P by Estrin's scheme. The product form keeps the sign of
-// a zero r (r + r u P(u) would turn -0 into +0), and in double its roundings are far
-// below the single result's.
+// HA: in double, P by Estrin's scheme; in double either form's roundings are far below the
+// single result's. Sine takes r (1 + u P(u)), which keeps the sign of a zero r (r + r u P(u)
+// would turn -0 into +0); cosine, whose r is never zero, r + (r u) P(u), with r u taken
+// beside P and two steps fewer after it.
 template <int N>
-BRENN_TRIG_HOT void SeriesHA(const __m128d* r, __m128d* p) {
-    __m128d u[N], q[N];
+BRENN_TRIG_HOT void SeriesHA(const __m128d* r, bool cosine, __m128d* p) {
+    __m128d u[N], q[N], ru[N];
     BRENN_EACH(k, N) u[k] = Mul(r[k], r[k]);
+    if (cosine) BRENN_EACH(k, N) ru[k] = Mul(r[k], u[k]);
     EstrinEach<N>(u, kSinHA, q);
-    BRENN_EACH(k, N) q[k] = MulAdd(u[k], q[k], Set<double>(1.0));
-    BRENN_EACH(k, N) p[k] = Mul(r[k], q[k]);
+    if (cosine) {
+        BRENN_EACH(k, N) p[k] = Add(r[k], Mul(ru[k], q[k]));
+    } else {
+        BRENN_EACH(k, N) q[k] = MulAdd(u[k], q[k], Set<double>(1.0));
+        BRENN_EACH(k, N) p[k] = Mul(r[k], q[k]);
+    }
 }
 
 // r = a - n pi in single with pi in three parts (their negation, n pi - a, with flip).
@@ -209,7 +215,7 @@ BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p) {
         else
             ReduceD<N, false>(a, n, r);
         __m128d pd[2 * N];
-        SeriesHA<2 * N>(r, pd);
+        SeriesHA<2 * N>(r, cosine, pd);
         BRENN_EACH(k, N) p[k] = Narrow(pd[2 * k], pd[2 * k + 1]);
     }
     BRENN_EACH(k, N) p[k] = Xor(p[k], sign[k]);
