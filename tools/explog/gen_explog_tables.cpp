@@ -10,7 +10,9 @@
 //   the 128 rows of the scalar logarithm: the same for the middles c = 1 + (2j+1)/256;
 //   the rows of the double Log10 and Log2: for c = (510 + j)/512 a reciprocal rounded
 //   to 10 bits, c times it less 1 (exact), and -log_B of the reciprocal in two parts as
-//   above.
+//   above;
+//   the rows of the single Log10 and Log2 HA: for c = 1 + j/512 the reciprocal of lnRows
+//   and -log_B of it rounded to double, a 16-byte row.
 //   gen_explog_tables OUT
 #include <cstdio>
 #include <mpfr.h>
@@ -150,6 +152,31 @@ void LogBaseRows(FILE* out, const char* name, long n, int base) {
     mpfr_clears(c, a, l, rcp, (mpfr_ptr)0);
 }
 
+// Rows of the single Log10 and Log2 HA (in double lanes): for the centres c = 1 + j/512,
+// j = 0..512, the reciprocal of lnRows (43 bits) and -log_B of it rounded, one 16-byte
+// load a lane. The single result needs no exact head: k*log_B(2) + the rounded row is
+// within 2^-52 of its value, and at the rows of 1 and 1/2 (x near 1) it is exact.
+void LogBaseRowsF(FILE* out, const char* name, long n, int base) {
+    mpfr_t c, rcp, l;
+    mpfr_inits2(kPrec, c, l, (mpfr_ptr)0);
+    mpfr_init2(rcp, 43);
+    std::fprintf(out, "alignas(16) const double %s[%ld][2] = {\n", name, n + 1);
+    for (long j = 0; j <= n; ++j) {
+        mpfr_set_si(c, n + j, MPFR_RNDN);
+        mpfr_div_si(c, c, n, MPFR_RNDN);
+        mpfr_ui_div(rcp, 1, c, MPFR_RNDN); // 43 bits
+        if (base == 2)
+            mpfr_log2(l, rcp, MPFR_RNDN);
+        else
+            mpfr_log10(l, rcp, MPFR_RNDN);
+        mpfr_neg(l, l, MPFR_RNDN);
+        std::fprintf(out, "    {%a, %a},\n", mpfr_get_d(rcp, MPFR_RNDN),
+                     mpfr_get_d(l, MPFR_RNDN) + 0.0);
+    }
+    std::fprintf(out, "};\n\n");
+    mpfr_clears(c, rcp, l, (mpfr_ptr)0);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -176,6 +203,8 @@ int main(int argc, char** argv) {
     LogRows128(out, "lnTable128");
     LogBaseRows(out, "log10Rows", 511, 10);
     LogBaseRows(out, "log2Rows", 511, 2);
+    LogBaseRowsF(out, "log10RowsF", 512, 10);
+    LogBaseRowsF(out, "log2RowsF", 512, 2);
     std::fprintf(out, "} // namespace brenn::vm\n");
     return std::fclose(out) == 0 ? 0 : 1;
 }

@@ -13,7 +13,9 @@
  *                          the rows of the scalar logarithm;
  *   log10Rows[j], log2Rows[j] = for c = (510 + j)/512: a reciprocal of c to 10 bits, c
  *                          times it less 1 (exact), -log_B(reciprocal) as a high part on
- *                          the 2^-42 grid and the rest. */
+ *                          the 2^-42 grid and the rest;
+ *   log10RowsF[j], log2RowsF[j] = for c = 1 + j/512: lnRows' reciprocal of c and
+ *                          -log_B of it rounded, the rows of the single HA kernels. */
 #ifndef BRENN_VECMATH_EXPLOG_EXPLOG_TABLES_H
 #define BRENN_VECMATH_EXPLOG_EXPLOG_TABLES_H
 
@@ -31,6 +33,8 @@ extern const double lnRows[513][4];
 extern const double lnTable128[128][3];
 extern const double log10Rows[511][4];
 extern const double log2Rows[511][4];
+extern const double log10RowsF[513][2];
+extern const double log2RowsF[513][2];
 
 } // namespace brenn::vm
 

@@ -2,8 +2,9 @@
  *
  * Single EP and LA: the split around 2/3 of log_core.h and r*P(r) with P of 5 (EP) or 9
  * (LA) coefficients fitted for the base, plus k*log10(2) (two parts at LA) or k itself.
- * Single HA: ln in double from the split of the single bits and the table core's EP
- * polynomial (LnOfSingleLanes, about 2^-33) times the base's constant, rounded once.
+ * Single HA: in double lanes on rows of the base's own (log10RowsF, log2RowsF: the
+ * reciprocal and -log_B of it, one 16-byte load a lane), k*log_B(2) + T + r*P(r) with P
+ * a cubic fitted for the base (about 2^-34), rounded once.
  * Double: a reduction on rows of log_B itself with 10-bit reciprocals, so that the
  * reduced argument is an exact sum, and log_B(1 + r) = c*r + r^2*Q(r) with Q fitted for
  * the base; at HA c*r carried exactly in effect (log_base_double.h).
@@ -42,6 +43,12 @@ struct LogBase<10> {
     // rest (LA).
     static constexpr float kPerK = 0x1.344136p-2f;
     static constexpr float kPerKHi = 0x1.3442p-2f, kPerKLo = -0x1.95ec1p-19f;
+    // HA, in double lanes: the rows, log10(2) rounded, and log10(1 + r) = r*(c1 + r*(c2 +
+    // r*c3)) on |r| <= 2^-10, fitted by tools/explog/log_single.sollya (about 2^-34).
+    static constexpr const double (*kRowsF)[2] = log10RowsF;
+    static constexpr double kPerKD = 0x1.34413509f79ffp-2;
+    static constexpr double kHA[] = {0x1.bcb7b1526e489p-2, -0x1.bcb7bbbebe21cp-3,
+                                     0x1.287a80a2af3b7p-3};
 };
 
 template <>
@@ -59,18 +66,60 @@ struct LogBase<2> {
     // k is log2's own integer part: times 1, which the compiler drops.
     static constexpr float kPerK = 1.0f;
     static constexpr float kPerKHi = 1.0f, kPerKLo = 0.0f;
+    static constexpr const double (*kRowsF)[2] = log2RowsF;
+    static constexpr double kPerKD = 1.0;
+    static constexpr double kHA[] = {0x1.71547652b828fp0, -0x1.71547efab456cp-1,
+                                     0x1.ec70af15278cdp-2};
 };
 
-// Single EP and LA: r*P(r) + k times the base's log of 2; HA in double on the EP core.
+// Single HA in double lanes: x = 2^k*m, m in [1, 2), and the row j of the base's rows
+// for m rounded to 9 fraction bits (one 16-byte load a lane: the reciprocal and -log_B of
+// it); r = m*rcp - 1 in double (m has 24 bits: the product's rounding is below 2^-53, and
+// there is none at rows 0 and 512, rcp 1 and 1/2, where x is near 1 and the result
+// small), log_B x = (k*log_B(2) + T) + r*P(r), rounded once. At those two rows k*log_B(2)
+// + T is exactly 0 (k = 0, T = 0; k = -1, T = log_B(2)). Any bits give a finite k, an m
+// in [1, 2) and a row, so special lanes need no blend: their results are discarded.
+template <int Base>
+inline __m128 LogOfSingleLanes(__m128 x) {
+    using F = Format<float>;
+    using K = LogBase<Base>;
+    const I32x4 b = AsInt(x);
+    I32x4 mant = And(b, Set<uint32_t>(F::kMant));
+    __m128 m = AsFloat(Or(mant, Set<uint32_t>(F::kOne)));
+    I32x4 k = Sub(ShiftRight<F::kMantBits>(b), Set<int32_t>(F::kBias));
+    // The rows' byte offsets, j*16, formed in the vector and taken out two at a time
+    // (unsigned, so that each widens to an address as it is moved).
+    static_assert(sizeof(K::kRowsF[0]) == 16, "rows of 16 bytes");
+    I32x4 off =
+        And(ShiftRight<F::kMantBits - 9 - 4>(Add(mant, Set<int32_t>(1 << (F::kMantBits - 10)))),
+            Set<int32_t>(~15));
+    const uint64_t o01 = uint64_t(_mm_cvtsi128_si64(off.v));
+    const uint64_t o23 = uint64_t(_mm_extract_epi64(off.v, 1));
+    const char* rows = reinterpret_cast<const char*>(K::kRowsF);
+    __m128d y[2];
+#pragma GCC unroll 2
+    for (int h = 0; h < 2; ++h) {
+        const uint64_t o = h == 0 ? o01 : o23;
+        __m128d md = h == 0 ? WidenLower(m) : WidenUpper(m);
+        // k's upper lanes by a word shuffle, not a byte shift (a shuffle runs on any pipe).
+        __m128d kd = h == 0 ? ToDoubleLower(k) : _mm_cvtepi32_pd(_mm_shuffle_epi32(k.v, 0xEE));
+        __m128d rcp, t;
+        LoadTransposed(reinterpret_cast<const double*>(rows + uint32_t(o)),
+                       reinterpret_cast<const double*>(rows + (o >> 32)), rcp, t);
+        __m128d r = Sub(Mul(md, rcp), Set<double>(1.0));
+        __m128d p = Mul(r, Horner(r, K::kHA));
+        __m128d head = K::kPerKD == 1.0 ? Add(kd, t) : Add(Mul(kd, Set<double>(K::kPerKD)), t);
+        y[h] = Add(head, p);
+    }
+    return Narrow(y[0], y[1]);
+}
+
+// Single EP and LA: r*P(r) + k times the base's log of 2; HA in double (above).
 template <int Base, Level L>
 inline __m128 LogOf(__m128 x) {
     using K = LogBase<Base>;
     if constexpr (L == Level::HA) {
-        // Special lanes need no blend: any bits give an m in [1, 2), a row and a finite k.
-        return LnOfSingleLanes(x, [](__m128d lo, __m128d hi) {
-            const __m128d c = Set<double>(K::kPerLn);
-            return Narrow(Mul(lo, c), Mul(hi, c));
-        });
+        return LogOfSingleLanes<Base>(x);
     } else {
         __m128 r, k;
         LogSplit(x, r, k);
