@@ -101,21 +101,6 @@ BRENN_VEC V SeriesLessOne(V t, V v) {
  *   kRows (double[][W], W 2 or 4), kShifter, kLimit, kTauScale, kUScale;
  *   kMirror (K, 0 for none), kMirrorLimit, kMirrorPositive (Q mirrors x > 0);
  *   kScaleFrom: the first scaled grid point (0 for none). */
-// The grid point xj nearest to a (0 <= a <= the grid's limit), d = a - xj (exact), and
-// the rows of the two lanes.
-struct GridPoint {
-    __m128d xj, d;
-    const double* r0;
-    const double* r1;
-};
-template <class G>
-BRENN_VEC GridPoint NearestRow(__m128d a) {
-    __m128d s = Add(a, Set<double>(G::kShifter));
-    __m128d xj = Sub(s, Set<double>(G::kShifter));
-    I64x2 row = AsInt(s);
-    return {xj, Sub(a, xj), G::kRows[uint32_t(LowWord<0>(row))],
-            G::kRows[uint32_t(LowWord<1>(row))]};
-}
 
 // erf(a) = a 2/sqrt(pi) for a below 2^-256 (rare; d*g would lose bits as a denormal):
 // a + a (2/sqrt(pi) - 1) on a times 2^600, and where that is below the least normal
