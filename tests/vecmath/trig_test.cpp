@@ -316,6 +316,27 @@ TEST(Trig, SingleCosineOfTinyArgumentsIsOne) {
     }
 }
 
+// EP's cosine gives +-1 exactly within 2^-12 of a multiple of pi (its test for cos 0 = 1
+// reads the remainder's square): the floats nearest k pi that lie within 2^-13 of it, in
+// rounds of ordinary lanes, get (-1)^k.
+TEST(Trig, SingleCosineEPIsOneNearMultiplesOfPi) {
+    std::vector<float> x;
+    std::vector<float> want;
+    for (int k = 1; k * 3.14159265358979323846L < 10000; ++k) {
+        long double m = k * 3.14159265358979323846264338327950288L;
+        float v = float(m);
+        if (fabsl((long double)v - m) >= 0x1p-13L) continue;
+        x.push_back(k % 3 ? v : -v);
+        want.push_back(k % 2 ? -1.0f : 1.0f);
+        x.push_back(0.3f * float(k % 7)); // an ordinary lane beside it
+        want.push_back(NAN);
+    }
+    ASSERT_GT(x.size(), 1000u);
+    std::vector<float> c = Call("sCos", 2, x);
+    for (size_t i = 0; i < x.size(); i += 2)
+        EXPECT_EQ(c[i], want[i]) << std::hexfloat << x[i];
+}
+
 // Sine and tangent are odd bit for bit at every level: f(-x) is -f(x) at zero, over the
 // short path's range and beyond it (the single kernels and double EP sine reduce x with
 // its sign, the others |x| and put the sign back).
