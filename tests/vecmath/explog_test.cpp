@@ -9,6 +9,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 #include <iomanip>
+#include <limits>
 #include <random>
 #include <sstream>
 #include <string>
@@ -287,6 +288,17 @@ TEST(ExpLog, SpecialLanesRaiseNoFlagsOfTheirOwn) {
         EXPECT_EQ(FlagsOf<double>(frame::Row_dExpm1, slot, INFINITY), 0u);
         EXPECT_EQ(FlagsOf<float>(frame::Row_sLog1p, slot, INFINITY), 0u);
         EXPECT_EQ(FlagsOf<double>(frame::Row_dLog1p, slot, INFINITY), 0u);
+        // Log1p's other special lanes: a quiet NaN raises nothing, a signalling one, -inf
+        // and x below -1 invalid, -1 divide by zero, as their scalar routine does.
+        EXPECT_EQ(FlagsOf<float>(frame::Row_sLog1p, slot, NAN), 0u) << slot;
+        EXPECT_EQ(
+            FlagsOf<float>(frame::Row_sLog1p, slot, std::numeric_limits<float>::signaling_NaN()),
+            0x1u)
+            << slot;
+        EXPECT_EQ(FlagsOf<float>(frame::Row_sLog1p, slot, -INFINITY), 0x1u) << slot;
+        EXPECT_EQ(FlagsOf<float>(frame::Row_sLog1p, slot, -2.0f), 0x1u) << slot;
+        EXPECT_EQ(FlagsOf<float>(frame::Row_sLog1p, slot, -1.0f), 0x4u) << slot;
+        EXPECT_EQ(FlagsOf<double>(frame::Row_dLog1p, slot, NAN), 0u) << slot;
         EXPECT_EQ(FlagsOf<float>(frame::Row_sLn, slot, INFINITY), 0u);
         EXPECT_EQ(FlagsOf<double>(frame::Row_dLn, slot, 0.0), 0x4u); // divide by zero
     }

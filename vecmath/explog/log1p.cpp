@@ -1,13 +1,13 @@
 /* Log1p, single and double, three levels each.
  *
- * Single: on u = 1 + x with the rounding of that sum recovered by Fast2Sum on the larger
- * and smaller of 1 and x; then ln(1 + x) = ln u + c/u (LA and EP), or with c*2^-k joining
- * the reduction of u (HA): no division. The range test is the logarithm's, on u: it fires
+ * Single: LA and EP on u = 1 + x with the rounding of that sum recovered by Fast2Sum on
+ * the larger and smaller of 1 and x, ln(1 + x) = ln u + c/u; HA sums 1 + x in double,
+ * exactly (below). The range test is the logarithm's, on u: it fires
  * for x at or below -1, infinite or NaN. For |x| below 2^-25 u is 1, k and r are 0, and
  * the result is c = x exactly: tiny and denormal x come through the body as themselves.
  * Single EP and LA: the split around 2/3 on u with the polynomial of sLn EP and a fitted
- * one of eight coefficients (LA); HA in double on the EP logarithm core of the single
- * split (LnOfSingleLanesPlus), where u + c is exact.
+ * one of eight coefficients (LA); HA in double lanes on u = 1 + x summed in double (exact
+ * from x = 2^-29 up), split and reduced there by the rows of lnRows (LnOfDoubleSum).
  * Double: the logarithm core's reduction of u = 1 + x for k and the row, its low part
  * taken from x itself as (2^-k - mh) + x*2^-k (EP core at EP, degree 5 at LA and HA);
  * HA carries h + r exactly before the small terms are added. Its window on u runs from
@@ -83,8 +83,35 @@ inline V KeepTiny(V x, V y) {
     return IfThenElse(Lt(Abs(x), Set<T>(Log1pConst<T>::kTiny)), x, y);
 }
 
+// ln(1 + x) for two double lanes x from single ones (x above -1, 1 + x exact or far
+// below the result's last place): u = 1 + x split in double, x = 2^k*m, m in [1, 2), the
+// row of lnRows for m rounded to 9 fraction bits, whose byte offset the vector forms in
+// the low word of each lane, so that it is an address as it is moved out; then
+// (k*ln2hi + T) + r + r^2*(c2 + c3*r), r = m*rcp - 1 (about 2^-33, the core's EP form).
+inline __m128d LnOfDoubleSum(__m128d x) {
+    using F = Format<double>;
+    using K = LogConst<double>;
+    const I64x2 ub = AsInt(Add(Set<double>(1.0), x));
+    const I64x2 mant = And(ub, Set<uint64_t>(F::kMant));
+    __m128d m = AsFloat(Or(mant, Set<uint64_t>(F::kOne)));
+    __m128d k = Sub(AsFloat(Or(ShiftRight<F::kMantBits>(ub), AsInt(Set<double>(0x1p52)))),
+                    Set<double>(0x1p52 + F::kBias));
+    static_assert(sizeof(lnRows[0]) == 32, "rows of 32 bytes");
+    const I64x2 off = And(ShiftRight<F::kMantBits - 9 - 5>(Add(mant, Set<uint64_t>(1ull << 42))),
+                          Set<uint64_t>(~31ull));
+    const char* rows = reinterpret_cast<const char*>(lnRows);
+    __m128d rcp, t;
+    LoadTransposed(reinterpret_cast<const double*>(rows + uint64_t(_mm_cvtsi128_si64(off.v))),
+                   reinterpret_cast<const double*>(rows + uint64_t(_mm_extract_epi64(off.v, 1))),
+                   rcp, t);
+    __m128d r = Sub(Mul(m, rcp), Set<double>(1.0));
+    // The head and r summed beside r^2*Q, so that the chain after r is three steps.
+    __m128d head = Add(Add(Mul(k, Set<double>(K::kLn2Hi)), t), r);
+    return Add(head, Mul(Mul(r, r), Horner(r, K::kCoreEP)));
+}
+
 // Single EP and LA: ln u by the split around 2/3, with c/u and k*ln2lo added before
-// k*ln2hi. HA in double on the EP core.
+// k*ln2hi. HA in double on a double sum (LnOfDoubleSum).
 template <Level L>
 inline __m128 Log1pOf(__m128 x, __m128& special) {
     using K = LogConst<float>;
@@ -92,16 +119,18 @@ inline __m128 Log1pOf(__m128 x, __m128& special) {
     if constexpr (L == Level::HA) {
         // In double, u = 1 + x is exact for a single x from 2^-29 up to 2^53 (at most 53
         // bits from 2^0 down to x's last place), and beyond 2^53 its rounding is far
-        // below the result's last place: no correction term, no division. Below 2^-29,
-        // log1p(x) is within 2^-30 of x, relatively, and x is the rounded result.
-        // So u + c, with u = 1 + x and c its rounding error in single, is exact in double:
-        // c*2^-k joins u's significand there (LnOfSingleLanesPlus), with no division.
-        __m128 xx = IfThenZeroElse(special, x); // special lanes take 0
-        __m128 u, c;
-        OnePlus(xx, u, c);
-        __m128 y =
-            LnOfSingleLanesPlus<true>(u, c, [](__m128d lo, __m128d hi) { return Narrow(lo, hi); });
-        return IfThenElse(Lt(Abs(x), Set<float>(0x1p-29f)), x, y);
+        // below the result's last place. Below 2^-29, log1p(x) is within 2^-30 of x,
+        // relatively, and x is the rounded result.
+        // Special lanes run as they are, off the range test's path: +-inf and x below -1
+        // give finite k and m and a row, a quiet NaN stays quiet, and a signalling one
+        // raises the invalid flag that its scalar routine raises too.
+        __m128d y[2];
+#pragma GCC unroll 2
+        for (int h = 0; h < 2; ++h)
+            y[h] = LnOfDoubleSum(h == 0 ? WidenLower(x) : WidenUpper(x));
+        // |x| below 2^-29 by its bits (a float compare would signal on a quiet NaN).
+        __m128 tiny = AsFloat(Gt(Set<int32_t>(0x31000000), AsInt(Abs(x))));
+        return IfThenElse(tiny, x, Narrow(y[0], y[1]));
     } else {
         // Special lanes run on 0, so that inf - inf and 1/0 raise no flag of their own.
         x = IfThenZeroElse(special, x);
