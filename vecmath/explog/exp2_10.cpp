@@ -3,21 +3,22 @@
  * Single HA: in single with the 128-entry table, n = round(128x/log_B(2)), T = 2^(j/128)
  * for j = n & 127, a cubic in the rest of x, 2^(n >> 7) added to the exponent field
  * (SingleCore below).
- * Double HA and LA (one kernel): on the table of 256 of exp_core256.h, a degree-4
- * polynomial in the rest d of x in the function's own base:
+ * Double HA: on the table of 256 of exp_core256.h, a degree-4 polynomial in the rest d
+ * of x in the function's own base:
  * Exp2: n = round(256x), d = x - n/256 exactly.
  * Exp10: n = round(256x/log10(2)), d = x - n*log10(2)/256 with a 32-bit head (n*head is
  * exact).
- * Single LA and EP, double EP: no table, B^x = 2^n*(1 + p(r)), |r| <= log_B(2)/2
- * (NoTableOf below).
+ * Double LA and EP: the same reduction on one-part tables, LA 1024 rows and a cubic, EP
+ * 128 rows and a quadratic (OnePartOf below).
+ * Single LA and EP: no table, B^x = 2^n*(1 + p(r)), |r| <= log_B(2)/2 (NoTableOf below).
  * Range tests: |x| above 126 (Exp2) or 37.93 (Exp10) in single, 1022 or 307 in double;
  * the scalar routines take the rest with the limits of each format: overflow (reported),
  * +0 and denormal results (underflow). Error mode 0x2000 blends overflow and
- * underflow lanes. Rounds of sixteen elements in double, eight in single (wide.h).
+ * underflow lanes. Rounds of sixteen elements, the range tested once a round (wide.h).
  *
  * Measured (brenn_accuracy, full run): sExp2 HA 0.503 ulp, LA 1.33 ulp, EP 12.7 bits;
- * sExp10 HA 0.504 ulp, LA 1.32 ulp, EP 12.7 bits; dExp2 and dExp10 HA/LA 0.71 ulp, EP
- * 28.5 bits. */
+ * sExp10 HA 0.504 ulp, LA 1.32 ulp, EP 12.7 bits; dExp2 HA 0.71 ulp, LA 1.79 ulp, EP
+ * 30.2 bits; dExp10 HA 0.71 ulp, LA 1.77 ulp, EP 30.2 bits. */
 #include <bit>
 #include <cstdint>
 #include <iterator>
@@ -179,12 +180,12 @@ inline __m128 CoreOf(__m128 x) {
     return ScaleByLowWord<7>(y, t);
 }
 
-// Without a table (single LA and EP, double EP): n = round(x*log2(B)) by the format's
+// Without a table (single LA and EP): n = round(x*log2(B)) by the format's
 // shifter, r = x - n*log_B(2) (exact for Exp2; Exp10 with log10(2) in parts, the table
 // forms' steps scaled by 128 and 64, so that the products with n stay exact), and
 // B^x = 2^n*(1 + p(r)), p ~ B^r - 1 on |r| <= log_B(2)/2 by Estrin's scheme, by
 // tools/explog/exp2_10_notable.sollya: single LA degree 6 (2^-28 absolute), single EP
-// degree 3 (2^-13), double EP degree 6 (2^-29).
+// degree 3 (2^-13).
 template <class T, Base B>
 struct NoTable;
 template <>
@@ -203,22 +204,6 @@ struct NoTable<float, Base::Ten> {
                                     0x1.2bd572p0f, 0x1.156d3ep-1f, 0x1.aac9ep-3f};
     static constexpr float kEP[] = {0x1.26b756p1f, 0x1.562524p1f, 0x1.06a864p1f};
 };
-template <>
-struct NoTable<double, Base::Two> {
-    static constexpr double kEP[] = {0x1.62e430cc4cb2fp-1, 0x1.ebfbe0d78390fp-3,
-                                     0x1.c6aecf6e937a5p-5, 0x1.3b29aa143e95p-7,
-                                     0x1.5f47aff03065dp-10, 0x1.448fc149e51cp-13};
-};
-template <>
-struct NoTable<double, Base::Ten> {
-    using S = BaseConst<Base::Ten>;
-    static constexpr double kInvStep = S::kInvStep * 0x1p-8;
-    static constexpr double kStep[] = {S::kStepHi * 0x1p8, S::kStepLo * 0x1p8};
-    static constexpr double kEP[] = {0x1.26bb1c72967b5p1, 0x1.53524d0dd86bep1,
-                                     0x1.046f59a6be7afp1, 0x1.2bd660cbe2b6fp0,
-                                     0x1.158bb89338a41p-1, 0x1.a9ee23cf53beap-3};
-};
-
 template <Base B, class V, class T, size_t N>
 inline V NoTableOf(V x, const T (&c)[N]) {
     V t;
@@ -227,16 +212,80 @@ inline V NoTableOf(V x, const T (&c)[N]) {
     return ScaleByLowWord<0>(y, t);
 }
 
-// The form of a level: the table cores at HA (and double LA), else the table-free one.
+// Double LA and EP on the one-part tables: n = round(N*x/log_B(2)) (N = 2^Log2N), d the
+// rest of x in base B, |d| <= log_B(2)/(2N), B^x = 2^(n >> Log2N)*(T + T*p(d)) with T =
+// 2^((n & (N-1))/N) rounded to double and p(d) = d*(c1 + c2*d + ...), by
+// tools/explog/exp2_10_double.sollya: EP the quadratic on the table of 128 (expTable128's
+// high parts; 2^-30 relative), LA the cubic on the table of 1024 (2^-53; the table's
+// rounding and the last two roundings make the error, as in dExp LA). For Exp2 d is
+// exact (the shifter scaled by 2^-Log2N); Exp10 takes the step in one part at EP (n*step
+// rounds by 2^-44 at most) and in two at LA, the head of 32 bits (n*head exact).
+template <Base B, int Log2N>
+struct OnePart;
+template <>
+struct OnePart<Base::Two, 7> {
+    static constexpr double kC[] = {0x1.62e4453e132b5p-1, 0x1.ebfbdff313cfep-3};
+};
+template <>
+struct OnePart<Base::Ten, 7> {
+    static constexpr double kInvStep = 0x1.a934f0979a371p8;
+    static constexpr double kStep[] = {0x1.34413509f79ffp-9};
+    static constexpr double kC[] = {0x1.26bb2d6d24e3cp1, 0x1.53524c704ae96p1};
+};
+template <>
+struct OnePart<Base::Two, 10> {
+    static constexpr double kC[] = {0x1.62e42fefa39fp-1, 0x1.ebfbe0397248cp-3,
+                                    0x1.c6b08d503cea5p-5};
+};
+template <>
+struct OnePart<Base::Ten, 10> {
+    static constexpr double kInvStep = 0x1.a934f0979a371p11;
+    static constexpr double kStep[] = {0x1.3441350ap-12, -0x1.0c0219dc1da99p-49};
+    static constexpr double kC[] = {0x1.26bb1bbb55516p1, 0x1.53524ca0d3802p1,
+                                    0x1.047059172c3a9p1};
+};
+
+// T for the two lanes of t (n in the low word): one load a lane.
+template <int Log2N>
+inline __m128d OnePartRows(__m128d t) {
+    if constexpr (Log2N == 7) {
+        const double* row0 = expTable128[LowWord<0>(AsInt(t)) & 127];
+        const double* row1 = expTable128[LowWord<1>(AsInt(t)) & 127];
+        return LoadLanes(row0, row1);
+    } else {
+        static_assert(Log2N == 10);
+        double lane0 = expTable1024[LowWord<0>(AsInt(t)) & 1023];
+        double lane1 = expTable1024[LowWord<1>(AsInt(t)) & 1023];
+        return SetLanes(lane0, lane1);
+    }
+}
+
+template <Base B, int Log2N>
+inline __m128d OnePartOf(__m128d x) {
+    using C = OnePart<B, Log2N>;
+    constexpr double kScale = B == Base::Two ? 1.0 / (1 << Log2N) : 1.0;
+    __m128d t;
+    __m128d d = RestOf<B, C>(x, Set<double>(Format<double>::kShifter * kScale), t);
+    __m128d tv = OnePartRows<Log2N>(t);
+    __m128d p = Mul(d, Horner(d, C::kC));
+    // Inside the windows (|x| to 1022 and 307) the result is normal: m goes into the
+    // exponent field by an integer addition.
+    return ScaleByLowWord<Log2N>(Add(tv, Mul(tv, p)), t);
+}
+
+// The form of a level: single HA and double HA on the cores with two-part tables,
+// double LA and EP on the one-part tables, single LA and EP without a table.
 template <Base B, Level L, class V>
 inline V ValueOf(V x) {
     using T = ElemOf<V>;
-    if constexpr (L == Level::EP)
-        return NoTableOf<B>(x, NoTable<T, B>::kEP);
-    else if constexpr (L == Level::LA && sizeof(T) == 4)
-        return NoTableOf<B>(x, NoTable<T, B>::kLA);
-    else
+    if constexpr (L == Level::HA)
         return CoreOf<B>(x);
+    else if constexpr (sizeof(T) == 8)
+        return OnePartOf<B, L == Level::EP ? 7 : 10>(x);
+    else if constexpr (L == Level::EP)
+        return NoTableOf<B>(x, NoTable<T, B>::kEP);
+    else
+        return NoTableOf<B>(x, NoTable<T, B>::kLA);
 }
 
 // e^(x*c) for the scalar routines, with the product x*c carried in two parts.
@@ -253,10 +302,12 @@ struct ExpBaseBody {
     using K = Limits<T, B>;
     static constexpr const char* kName =
         B == Base::Two ? ZAR_ERROR_NAME_OF(T, Exp2) : ZAR_ERROR_NAME_OF(T, Exp10);
-    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8; // single: rounds of eight pay more
-    static int EvalWide(const V* x, V* y) { return EvalByRegister<ExpBaseBody>(x, y); }
+    static constexpr auto kWindow = K::kWindow;
+    static constexpr int kRound = 16;
+    static int EvalWide(const V* x, V* y) { return EvalTestOnce<ExpBaseBody>(x, y); }
+    static V Value(V x) { return ValueOf<B, L>(x); }
     static V Eval(V x, V& special) {
-        special = RangeTest(x, K::kWindow);
+        special = RangeTest(x, kWindow);
         x = IfThenZeroElse(special, x); // special lanes run on 0: no flags of their own
         return ValueOf<B, L>(x);
     }
@@ -283,8 +334,6 @@ using Exp10Body = brenn::vm::ExpBaseBody<T, brenn::vm::Base::Ten, L>;
 extern "C" {
 BRENN_FLAT_LEVEL_KERNELS(s, Exp2, Unary, Exp2Body)
 BRENN_FLAT_LEVEL_KERNELS(s, Exp10, Unary, Exp10Body)
-BRENN_FLAT ZAR_KERNEL_OF(d, Exp2, LaHa, Unary, Exp2Body<double, Level::HA>)
-BRENN_FLAT ZAR_KERNEL_OF(d, Exp2, EP, Unary, Exp2Body<double, Level::EP>)
-BRENN_FLAT ZAR_KERNEL_OF(d, Exp10, LaHa, Unary, Exp10Body<double, Level::HA>)
-BRENN_FLAT ZAR_KERNEL_OF(d, Exp10, EP, Unary, Exp10Body<double, Level::EP>)
+BRENN_FLAT_LEVEL_KERNELS(d, Exp2, Unary, Exp2Body)
+BRENN_FLAT_LEVEL_KERNELS(d, Exp10, Unary, Exp10Body)
 }

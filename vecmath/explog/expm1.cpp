@@ -18,7 +18,7 @@
  * +inf above the overflow limit (an overflow), -1 for large negative x, e^x itself
  * above 709 (where the core's scale 2^m would pass 2^1022), and the core's value
  * otherwise. Error mode 0x2000 blends the overflow lanes to +inf. Rounds of sixteen
- * elements (wide.h).
+ * elements, the range tested once a round (wide.h).
  *
  * Measured (brenn_accuracy, full run): sExpm1 HA 0.503 ulp, LA 1.36 ulp, EP 15.1 bits;
  * dExpm1 LA 1.00 ulp, HA 0.50 ulp, EP 35.2 bits. The polynomials: without a table
@@ -284,10 +284,12 @@ struct Expm1Body {
     using K = Expm1Const<T>;
     static constexpr bool kExact = K::template kExact<L>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Expm1);
-    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8; // single: rounds of eight pay more
-    static int EvalWide(const V* x, V* y) { return EvalByRegister<Expm1Body>(x, y); }
+    static constexpr auto kWindow = K::kWindow;
+    static constexpr int kRound = 16;
+    static int EvalWide(const V* x, V* y) { return EvalTestOnce<Expm1Body>(x, y); }
+    static V Value(V x) { return Expm1Of<L>(x); }
     static V Eval(V x, V& special) {
-        special = RangeTest(x, K::kWindow);
+        special = RangeTest(x, kWindow);
         x = IfThenZeroElse(special, x); // special lanes run on 0: no flags of their own
         return Expm1Of<L>(x);
     }
