@@ -337,6 +337,29 @@ TEST(Trig, SingleCosineEPIsOneNearMultiplesOfPi) {
         EXPECT_EQ(c[i], want[i]) << std::hexfloat << x[i];
 }
 
+// The double cosines within 2^-28 of k pi round to (-1)^k, at every level (EP and LA give
+// it exactly by the remainder's square, as they give cos 0 = 1): the doubles nearest k pi
+// below 2^24 all lie that close.
+TEST(Trig, DoubleCosineIsOneNearMultiplesOfPi) {
+    std::vector<double> x, want;
+    auto add = [&](long k) {
+        double v = double(k * 3.14159265358979323846264338327950288L);
+        x.push_back(k % 3 ? v : -v);
+        want.push_back(k % 2 ? -1.0 : 1.0);
+        x.push_back(0.3 * double(k % 7)); // an ordinary lane beside it
+        want.push_back(NAN);
+    };
+    for (long k = 1; k < 1000; ++k)
+        add(k);
+    for (long k = 5340350; k < 5340350 + 40; ++k) // 2^24 is about 5340353.7 pi
+        add(k);
+    for (int slot = 0; slot < kSlots; ++slot) {
+        std::vector<double> c = Call("dCos", slot, x);
+        for (size_t i = 0; i < x.size(); i += 2)
+            EXPECT_EQ(c[i], want[i]) << slot << " x = " << std::hexfloat << x[i];
+    }
+}
+
 // Sine and tangent are odd bit for bit at every level: f(-x) is -f(x) at zero, over the
 // short path's range and beyond it (the single kernels and double EP sine reduce x with
 // its sign, the others |x| and put the sign back).

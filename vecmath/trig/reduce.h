@@ -409,15 +409,6 @@ BRENN_TRIG_HOT bool AnyAboveD(const __m128d* x, __m128d* a, uint64_t limitBits) 
     return MaskBits(Gt(m, limit)) != 0;
 }
 
-// Whether any lane of N registers of finite magnitudes is below a bound: one compare on
-// the least of them.
-template <int N>
-BRENN_TRIG_HOT bool AnyBelowD(const __m128d* a, double bound) {
-    __m128d least = a[0];
-    BRENN_EACH(k, N - 1) least = Min(least, a[k + 1]);
-    return MaskBits(Lt(least, Set<double>(bound))) != 0;
-}
-
 // A round register by register through the body's Eval, when a lane is off the short
 // path: their special bits packed for the frame (bit j for element j of the round).
 template <class Body, int N, class V>

@@ -57,18 +57,22 @@ constexpr double kSinLAHigh[] = {-0x1.a01a01a014eb7p-13, 0x1.71de3a52aac68p-19,
                                  -0x1.ae6454d968e2fp-26, 0x1.6123ce53b3e2ep-33,
                                  -0x1.ae43dd545dacp-41,  0x1.883c3146a7f29p-49};
 
+// Within 2^-27 of a multiple of pi cosine rounds to +-1: there r, reduced to n pi - a, is
+// within 2^-27 of +-pi/2, and its square at least (pi/2 - 2^-27)^2, whose bits (rounded
+// down) these are.
+constexpr uint64_t kCosOneSqBits = 0x4003BD3CC69A0673ull;
+
 // Cosine's half-integer n = floor(a/pi) + 1/2 added to 1.5 * 2^51 (whose last bit is
 // 1/2): the sum is exact, and its bit 1 is the parity of floor(a/pi).
 constexpr double kHalfShifter = 0x1.8p51;
 
-// sin or cos of M registers below 2^24 by the pi reduction, without cosine's exact 1.0
-// for tiny arguments (CosOne); each step over all of them before the next, so that their
-// chains interleave. Sine: n = round(x/pi) by the shifter, r = x - n pi and
-// sin x = (-1)^n sin r; EP takes x with its sign (n and r odd in x, and its series
-// r (1 + u P(u)) keeps the sign of a zero), LA takes |x| (its series r + r u P(u) turns
-// -0 into +0), the caller putting the sign back. Cosine takes a = |x|, n = floor(a/pi) +
-// 1/2 and cos a = -(-1)^floor(a/pi) sin(a - n pi), the minus sign taken by reducing to
-// n pi - a.
+// sin or cos of M registers below 2^24 by the pi reduction, each step over all of them
+// before the next, so that their chains interleave. Sine: n = round(x/pi) by the
+// shifter, r = x - n pi and sin x = (-1)^n sin r; EP takes x with its sign (n and r odd
+// in x, and its series r (1 + u P(u)) keeps the sign of a zero), LA takes |x| (its series
+// r + r u P(u) turns -0 into +0), the caller putting the sign back. Cosine takes
+// a = |x|, n = floor(a/pi) + 1/2 and cos a = -(-1)^floor(a/pi) sin(a - n pi), the minus
+// sign taken by reducing to n pi - a.
 template <Level L, int M>
 BRENN_TRIG_HOT void ShortPiEach(const __m128d* a, bool cosine, __m128d* y) {
     const __m128d shifter = Set<double>(Format<double>::kShifter);
@@ -107,6 +111,23 @@ BRENN_TRIG_HOT void ShortPiEach(const __m128d* a, bool cosine, __m128d* y) {
         BRENN_EACH(k, M) p[k] = MulAdd(u[k], p[k], Set<double>(kSinLALow[0]));
         BRENN_EACH(k, M) y[k] = Xor(Add(r[k], Mul(Mul(r[k], u[k]), p[k])), sign[k]);
     }
+    // cos a within 2^-27 of a multiple of pi (0 and tiny a among them) rounds to +-1:
+    // given exactly, with the series' sign. Such lanes are rare: a test of the squares'
+    // high words a step (their 32-bit maxima, one compare), the exact test and the blend
+    // only when it fires. The squares are at hand, so a need not be kept to the end.
+    if (cosine) {
+        const I64x2 limit = Set<uint64_t>(kCosOneSqBits - 1);
+        I32x4 most = BitCast<I32x4>(AsInt(u[0]));
+        BRENN_EACH(k, M - 1) most = Max(most, BitCast<I32x4>(AsInt(u[k + 1])));
+        const I32x4 high =
+            BitCast<I32x4>(Set<uint64_t>(((kCosOneSqBits >> 32) - 1) << 32 | 0x7FFFFFFFu));
+        if (__builtin_expect(MaskBits(Gt(most, high)) != 0, 0)) {
+            BRENN_EACH(k, M) {
+                __m128d one = Or(And(y[k], SignMask<double>()), Set<double>(1.0));
+                y[k] = IfThenElse(AsFloat(Gt(AsInt(u[k]), limit)), one, y[k]);
+            }
+        }
+    }
 }
 
 // The same for one register. With kClamp, lanes above the limit (the large path's) are
@@ -120,16 +141,9 @@ inline __m128d ShortPiRaw(__m128d a, bool cosine) {
     return y;
 }
 
-// cos of arguments below 2^-27 rounds to 1.0: given exactly.
-constexpr double kCosOne = 0x1p-27;
-inline __m128d CosOne(__m128d a, __m128d p) {
-    return IfThenElse(Lt(a, Set<double>(kCosOne)), Set<double>(1.0), p);
-}
-
 template <Level L>
 inline __m128d ShortPi(__m128d a, bool cosine) {
-    __m128d p = ShortPiRaw<L>(a, cosine);
-    return cosine ? CosOne(a, p) : p;
+    return ShortPiRaw<L>(a, cosine);
 }
 
 // sin (or cos) of every finite lane of a by the table, large lanes reduced in vector form.
@@ -217,8 +231,6 @@ struct Body {
             ShortPiEach<L, kPiStep>(L == Level::EP && !kCos ? x : a, kCos, y);
         }
         if (!kCos && L != Level::EP) BRENN_EACH(k, 8) y[k] = Xor(y[k], SignBit(x[k]));
-        if (L != Level::HA && kCos && __builtin_expect(AnyBelowD<8>(a, kCosOne), 0))
-            BRENN_EACH(k, 8) y[k] = CosOne(a[k], y[k]);
         return 0;
     }
     // EP: the lanes above 2^24 come here too and are reduced in full.
@@ -249,7 +261,7 @@ struct Both {
             // The two pi reductions and series of Sin and Cos at EP; lanes above 2^24 go
             // to the scalar routine, as in those rows.
             s = ShortPiRaw<L, kLarge>(x, false);
-            c = CosOne(a, ShortPiRaw<L, kLarge>(a, true));
+            c = ShortPiRaw<L, kLarge>(a, true);
             return;
         }
         alignas(16) int32_t J[2];
@@ -309,7 +321,6 @@ struct Both {
         if constexpr (L == Level::EP) {
             ShortPiEach<L, kPiStep>(x, false, s);
             ShortPiEach<L, kPiStep>(a, true, c);
-            BRENN_EACH(k, 8) c[k] = CosOne(a[k], c[k]);
         } else if constexpr (L == Level::HA) {
             // Register by register: four at a time measured slower (31.3 -> 33.2 ticks).
 #pragma GCC unroll 2
