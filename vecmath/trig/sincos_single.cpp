@@ -225,9 +225,10 @@ BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p) {
     }
     BRENN_EACH(k, N) p[k] = Xor(p[k], sign[k]);
     // LA's series r + r u P(u) turns r = -0 (sine of x = -0) into +0: zeros are among the
-    // lanes near zero, which alone take the sign of x back.
+    // lanes near zero, which alone take the sign of x back (a signed zero, also for a
+    // denormal x read as zero).
     if (L == Level::LA && !cosine && __builtin_expect(nearZero, 0))
-        BRENN_EACH(k, N) p[k] = IfThenElse(Eq(x[k], Zero<float>()), x[k], p[k]);
+        BRENN_EACH(k, N) p[k] = IfThenElse(Eq(x[k], Zero<float>()), SignBit(x[k]), p[k]);
     // cos of tiny arguments: exactly 1.0, as the rounded value is. Such lanes are rare:
     // one compare a round, the blend only when it fires. LA: a below 2^-12, on the least
     // magnitude of the registers. EP: a within 2^-12 of any multiple of pi (0 among them)

@@ -233,9 +233,10 @@ inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
         q[k] = Quotient<Sides>(top, bot);
     }
     // Single LA's s = r + r u S(u) turns r = -0 into +0: zeros are among the lanes near
-    // zero, which alone take the sign of the argument back.
+    // zero, which alone take the sign of the argument back (a signed zero, also for a
+    // denormal argument read as zero).
     if (std::is_same_v<Sides, TanFitSingleLA> && __builtin_expect(nearZero, 0))
-        BRENN_EACH(k, M) q[k] = IfThenElse(Eq(a[k], Zero<T>()), a[k], q[k]);
+        BRENN_EACH(k, M) q[k] = IfThenElse(Eq(a[k], Zero<T>()), SignBit(a[k]), q[k]);
 }
 
 // Double HA: x = n pi/2 + j pi/64 + r with |j| <= 16 and |r| <= pi/128 (the reduction of
