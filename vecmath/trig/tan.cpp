@@ -3,8 +3,9 @@
  * Short path, one form for every slot but double HA: n = round(a 2/pi) by the shifter,
  * r = a - n pi/2 with pi/2 in parts, then s/c or, for n odd, -c/s. Single EP reduces in single with
  * pi/2 in three parts (the first two short, so that their products with n are exact), s and c a
- * rational form's numerator and denominator (tools/trig/tan_single_ep.sollya), the
- * division a reciprocal estimate with one Newton step. Single LA reduces the same way
+ * rational form's numerator and denominator (tools/trig/tan_single_ep.sollya), and a true
+ * division (a reciprocal estimate and a Newton step measured slower, 1.50 -> 1.70 ticks an
+ * element, and less accurate, 20.7 bits for 20.9). Single LA reduces the same way
  * (a remainder below 2^-9 is redone in double) and takes s = r + r^3 S(r^2) and
  * c = 1 + r^2 C(r^2), a Pade denominator of tan and a numerator fitted to it, in single,
  * with a true division. Single HA widens the argument to double (pi/2 in two parts) and
@@ -24,7 +25,7 @@
  * large reduction of reduce.h in the same block, which gives the same J and r, and every
  * kernel finishes those by TanSum.
  *
- * Measured (brenn_accuracy, 250000 inputs a row): sTan EP 20.7 bits, LA 2.96 ulp,
+ * Measured (brenn_accuracy, 250000 inputs a row): sTan EP 20.9 bits, LA 2.96 ulp,
  * HA 0.522 ulp; dTan EP 29.3 bits, LA 1.62 ulp, HA 0.513 ulp. */
 #include <bit>
 
@@ -84,7 +85,7 @@ struct TanFitSingleLA {
     static constexpr float kS[] = {-0x1.c71c78p-4f, 0x1.156b6ap-10f};
     static constexpr float kC[] = {1.0f, -0x1.c71c72p-2f, 0x1.04104ap-6f};
 };
-// Single EP: the rational form above, its reciprocal by estimate.
+// Single EP: the rational form above.
 struct TanRationalEP;
 
 // q[k] = c[0] + u[k] (c[1] + u[k] (...)) for M registers, each step over all of them
@@ -116,20 +117,6 @@ BRENN_TRIG_HOT void SidesOf(const V* r, const V* u, V* s, V* c) {
         HornerAll<M>(u, Sides::kS, c);
         BRENN_EACH(k, M) s[k] = Mul(r[k], MulAdd(u[k], c[k], Set<T>(1)));
         HornerAll<M>(u, Sides::kC, c);
-    }
-}
-
-// top / bot: for the single EP form a reciprocal estimate and one Newton step, else the
-// division.
-template <class Sides, class V>
-BRENN_TRIG_HOT V Quotient(V top, V bot) {
-    using T = ElemOf<V>;
-    if constexpr (std::is_same_v<Sides, TanRationalEP>) {
-        V rc = ApproxRecip(bot);
-        rc = Mul(rc, Sub(Set<T>(2), Mul(bot, rc)));
-        return Mul(top, rc);
-    } else {
-        return Div(top, bot);
     }
 }
 
@@ -230,7 +217,7 @@ inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
     BRENN_EACH(k, M) {
         V top = IfThenElse(odd[k], Neg(c[k]), s[k]);
         V bot = IfThenElse(odd[k], s[k], c[k]);
-        q[k] = Quotient<Sides>(top, bot);
+        q[k] = Div(top, bot);
     }
     // Single LA's s = r + r u S(u) turns r = -0 into +0: zeros are among the lanes near
     // zero, which alone take the sign of the argument back (a signed zero, also for a
