@@ -10,7 +10,8 @@
  * exact).
  * Double LA and EP: the same reduction on one-part tables, LA 1024 rows and a cubic, EP
  * 128 rows and a quadratic (OnePartOf below).
- * Single LA and EP: no table, B^x = 2^n*(1 + p(r)), |r| <= log_B(2)/2 (NoTableOf below).
+ * Single LA and EP: no table, B^x = 2^n*(1 + p(r)), |r| <= log_B(2)/2 (NoTableOf below);
+ * Exp10 EP as Exp2 EP of x*log2(10).
  * Range tests: |x| above 126 (Exp2) or 37.93 (Exp10) in single, 1022 or 307 in double;
  * the scalar routines take the rest with the limits of each format: overflow (reported),
  * +0 and denormal results (underflow). Error mode 0x2000 blends overflow and
@@ -181,9 +182,10 @@ inline __m128 CoreOf(__m128 x) {
 }
 
 // Without a table (single LA and EP): n = round(x*log2(B)) by the format's
-// shifter, r = x - n*log_B(2) (exact for Exp2; Exp10 with log10(2) in parts, the table
-// forms' steps scaled by 128 and 64, so that the products with n stay exact), and
-// B^x = 2^n*(1 + p(r)), p ~ B^r - 1 on |r| <= log_B(2)/2 by Estrin's scheme, by
+// shifter, r = x - n*log_B(2) (exact for Exp2; Exp10 with log10(2) in two parts, the
+// product with the head exact; at EP Exp2 of x*log2(10)),
+// and B^x = 2^n*(1 + p(r)), p ~ B^r - 1 on |r| <= log_B(2)/2 (LA by Estrin's scheme, EP's
+// cubic by Horner's, an operation fewer), by
 // tools/explog/exp2_10_notable.sollya: single LA degree 6 (2^-28 absolute), single EP
 // degree 3 (2^-13).
 template <class T, Base B>
@@ -196,19 +198,21 @@ struct NoTable<float, Base::Two> {
 };
 template <>
 struct NoTable<float, Base::Ten> {
-    using S = SingleCore<Base::Ten>;
-    static constexpr float kInvStep = S::kInvStep * 0x1p-7f;
-    static constexpr float kStep[] = {S::kStep[0] * 0x1p7f, S::kStep[1] * 0x1p7f,
-                                      S::kStep[2] * 0x1p7f};
+    static constexpr float kInvStep = SingleCore<Base::Ten>::kInvStep * 0x1p-7f;
+    // log10(2) in two parts, the head of 12 bits (n*head and x - n*head exact for
+    // |n| <= 126); n times the tail rounds by 2^-31 at most, a thirtieth of an ulp.
+    static constexpr float kStep[] = {0x1.344p-2f, 0x1.3509f8p-18f};
     static constexpr float kLA[] = {0x1.26bb1cp1f, 0x1.53524ep1f,  0x1.046f98p1f,
                                     0x1.2bd572p0f, 0x1.156d3ep-1f, 0x1.aac9ep-3f};
-    static constexpr float kEP[] = {0x1.26b756p1f, 0x1.562524p1f, 0x1.06a864p1f};
+    // EP: 10^x as 2^(x*log2(10)), the product rounded (2^-18 of the exponent, 2^-18.5
+    // of the result) and Exp2's cubic.
+    static constexpr float kLog2Ten = 0x1.a934fp1f;
 };
 template <Base B, class V, class T, size_t N>
 inline V NoTableOf(V x, const T (&c)[N]) {
     V t;
     V r = RestOf<B, NoTable<T, B>>(x, Set<T>(Format<T>::kShifter), t);
-    V y = Add(Set<T>(1), Mul(r, Estrin(r, c)));
+    V y = Add(Set<T>(1), Mul(r, N > 3 ? Estrin(r, c) : Horner(r, c)));
     return ScaleByLowWord<0>(y, t);
 }
 
@@ -282,6 +286,9 @@ inline V ValueOf(V x) {
         return CoreOf<B>(x);
     else if constexpr (sizeof(T) == 8)
         return OnePartOf<B, L == Level::EP ? 7 : 10>(x);
+    else if constexpr (L == Level::EP && B == Base::Ten)
+        return NoTableOf<Base::Two>(Mul(x, Set<float>(NoTable<T, B>::kLog2Ten)),
+                                    NoTable<T, Base::Two>::kEP);
     else if constexpr (L == Level::EP)
         return NoTableOf<B>(x, NoTable<T, B>::kEP);
     else
