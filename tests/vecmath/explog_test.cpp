@@ -655,7 +655,8 @@ TEST(ExpLog, ExponentialsTestTheirRangeOnceARound) {
     CheckSpecialPlaces<float>(frame::Row_sExp, f(0x42AEAC4Fu));
     CheckSpecialPlaces<float>(frame::Row_sExp2, 126.0f);
     CheckSpecialPlaces<float>(frame::Row_sExp10, f(0x4217B818u));
-    CheckSpecialPlaces<float>(frame::Row_sExpm1, f(0x42AD496Bu));
+    CheckSpecialPlaces<float>(frame::Row_sExpm1, f(0x42AD496Bu)); // LA and EP
+    CheckSpecialPlaces<float>(frame::Row_sExpm1, f(0x42B17217u)); // HA
     CheckSpecialPlaces<double>(frame::Row_dExp, d(0x4086232AFFFFFFFFull));
     CheckSpecialPlaces<double>(frame::Row_dExp2, 1022.0);
     CheckSpecialPlaces<double>(frame::Row_dExp10, 307.0);

@@ -1,8 +1,9 @@
 /* Expm1, single and double, three levels each.
  *
- * The single kernels use no table: x = n*ln2 + r, |r| <= ln2/2, and
- * e^x - 1 = (2^n - 1) + 2^n*p(r), one rounding (Expm1NoTable): HA widened to double with
- * degree 7 and rounded once, LA and EP in single with degree 6 and 4.
+ * Single HA widens to double and runs on the table of 128: e^x - 1 = (S - 1) + S*p(r),
+ * S = 2^m*2^(j/128), |r| <= ln2/256, degree 3, rounded once to single (Expm1Table128).
+ * Single LA and EP use no table, in single: x = n*ln2 + r, |r| <= ln2/2, and
+ * e^x - 1 = (2^n - 1) + 2^n*p(r), one rounding (Expm1NoTable), degree 6 and 4.
  * The double kernels reduce on the table of 256 (exp_core256.h's step; the rows
  * 2^(j/256) = Thi*(1 + d) of expRelTable256): e^x - 1 = 2^m*Thi*e^(r + d) - 1. HA
  * (degree 5) carries the first difference and its sum with the leading part of the
@@ -14,13 +15,13 @@
  * for m <= -2, 2^m*(Thi + s) - 1, the result then being near -1. Here s = Thi*p + Tlo.
  * For small |x| (m = 0, j = 0) this is p itself, whose polynomial is fitted for relative
  * error; degree 6 (EP 4), at HA th*r and the middle sum carried exactly.
- * Range test |x| above 708 (double) or 86.6433945 (single); the scalar routine gives
- * +inf above the overflow limit (an overflow), -1 for large negative x, e^x itself
- * above 709 (where the core's scale 2^m would pass 2^1022), and the core's value
- * otherwise. Error mode 0x2000 blends the overflow lanes to +inf. Rounds of sixteen
+ * Range test |x| above 708 (double) or 86.6433945 (single; at HA 88.7228394, the last
+ * finite result); the scalar routine gives +inf above the overflow limit (an overflow),
+ * -1 for large negative x, e^x itself above 709 (where the core's scale 2^m would pass
+ * 2^1022), and the core's value otherwise. Error mode 0x2000 blends the overflow lanes to +inf. Rounds of sixteen
  * elements, the range tested once a round (wide.h).
  *
- * Measured (brenn_accuracy, full run): sExpm1 HA 0.503 ulp, LA 1.36 ulp, EP 15.1 bits;
+ * Measured (brenn_accuracy, full run): sExpm1 HA 0.502 ulp, LA 1.36 ulp, EP 15.1 bits;
  * dExpm1 LA 1.00 ulp, HA 0.50 ulp, EP 35.2 bits. The polynomials: without a table
  * tools/explog/expm1_notable.sollya, on the table of 256 expm1_double256.sollya, the
  * scalar core's tools/explog/expm1_double.sollya. */
@@ -78,28 +79,39 @@ inline __m128d Expm1Core(__m128d x) {
     return IfThenElse(tiny, x, y);
 }
 
-// Without a table, for the single kernel (which needs 2^-30 from its double lanes at
-// HA): x = n*ln2 + r with
-// |r| <= ln2/2, p(r) ~ e^r - 1 by Estrin's scheme, and e^x - 1 = (2^n - 1) + 2^n*p:
-// 2^n*p is exact and 2^n - 1 is exact for |n| <= 53 (beyond, its rounding is below the
-// result's last place), so the sum is the one rounding. It does not cancel (n = 1:
-// 1 + 2p >= 0.42; n = -1: -1/2 + p/2 <= -0.29), so one formula serves every n, with no
-// branches to blend; n = 0 gives p itself, fitted for relative error. |x| <= 708 keeps
-// 2^n normal.
+// The single kernels. HA in double lanes on the table of 128 (expTable128's high parts):
+// x = (128m + j)*ln2/128 + r, |r| <= ln2/256, S = 2^m*2^(j/128) by an integer addition on
+// the row's exponent field (normal for |m| <= 126), and e^x - 1 = (S - 1) + S*p(r),
+// p(r) = r + r^2*(c2 + c3*r) fitted for relative error (2^-32.25) by
+// tools/explog/expm1_single_table.sollya. S - 1 is exact for -1 <= m <= 52, where the
+// sum can cancel (j near 0 or 128, |result| >= 2^-8.5 there unless m = j = 0, which
+// gives p itself); its rounding elsewhere, and n*step's one part (2^-46.5), are far below
+// a single's last place.
+struct Expm1Single128 {
+    static constexpr double kInvStep = 0x1.71547652b82fep7, kStep = 0x1.62e42fefa39efp-8;
+    static constexpr double kC[] = {0x1.000007afac448p-1, 0x1.55555867fb70ap-3};
+};
+inline __m128d Expm1Table128(__m128d x) {
+    using C = Expm1Single128;
+    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    __m128d t = Add(Mul(x, Set<double>(C::kInvStep)), shifter);
+    __m128d n = Sub(t, shifter);
+    __m128d r = Sub(x, Mul(n, Set<double>(C::kStep)));
+    const double* row0 = expTable128[LowWord<0>(AsInt(t)) & 127];
+    const double* row1 = expTable128[LowWord<1>(AsInt(t)) & 127];
+    __m128d s = ScaleByLowWord<7>(LoadLanes(row0, row1), t);
+    __m128d p = Add(r, Mul(Mul(r, r), Horner(r, C::kC)));
+    return Add(Sub(s, Set<double>(1.0)), Mul(s, p));
+}
+
+// LA and EP in single without a table: x = n*ln2 + r with |r| <= ln2/2, p(r) ~ e^r - 1
+// by Estrin's scheme, and e^x - 1 = (2^n - 1) + 2^n*p: 2^n*p is exact and 2^n - 1 is
+// exact for |n| <= 24 (beyond, its rounding is below the result's last place), so the
+// sum is the one rounding. It does not cancel (n = 1: 1 + 2p >= 0.42; n = -1:
+// -1/2 + p/2 <= -0.29), so one formula serves every n, with no branches to blend; n = 0
+// gives p itself, fitted for relative error.
 template <class T>
 struct Expm1Wide;
-template <>
-struct Expm1Wide<double> {
-    static constexpr double kInvLn2 = 0x1.71547652b82fep0;
-    // ln2 rounded: for the single lanes n*ln2 rounds by 2^-46 at most (|n| <= 125), far
-    // below what they need.
-    static constexpr double kLn2 = 0x1.62e42fefa39efp-1;
-    // c2.. of p(r) = r + r^2*(c2 + r*(c3 + ...)), by tools/explog/expm1_notable.sollya:
-    // degree 7 (2^-32).
-    static constexpr double kC7[] = {0x1.00000025e9e2ep-1,  0x1.555554ef9f8ap-3,
-                                     0x1.5554b13fd176bp-5,  0x1.1111895968e09p-7,
-                                     0x1.6d71e580c208ap-10, 0x1.a032bf272ab19p-13};
-};
 // Single LA and EP in single: ln2 in two parts, the head of 16 bits (n*head exact for
 // |n| <= 125), and degree 6 (2^-26) and degree 4 (2^-15.5).
 template <>
@@ -111,17 +123,13 @@ struct Expm1Wide<float> {
     static constexpr float kC4[] = {0x1.00022ap-1f, 0x1.57084ap-3f, 0x1.54dedep-5f};
 };
 
-template <bool TwoPartLn2, class V, class T, size_t N>
+template <class V, class T, size_t N>
 inline V Expm1NoTable(V x, const T (&c)[N]) {
     using W = Expm1Wide<T>;
     const V shifter = Set<T>(Format<T>::kShifter);
     V t = Add(Mul(x, Set<T>(W::kInvLn2)), shifter);
     V n = Sub(t, shifter);
-    V r;
-    if constexpr (TwoPartLn2)
-        r = Sub(Sub(x, Mul(n, Set<T>(W::kLn2Hi))), Mul(n, Set<T>(W::kLn2Lo)));
-    else
-        r = Sub(x, Mul(n, Set<T>(W::kLn2)));
+    V r = Sub(Sub(x, Mul(n, Set<T>(W::kLn2Hi))), Mul(n, Set<T>(W::kLn2Lo)));
     V p = Add(r, Mul(Mul(r, r), Estrin(r, c)));
     // 2^n: n in the low word of each lane of t moved into the exponent field of 1
     V scale = ScaleByLowWord<0>(Set<T>(1), t);
@@ -213,14 +221,18 @@ inline __m128d Expm1On256Plain(__m128d x) {
     return Add(Sub(big, Set<double>(1.0)), Mul(big, p));
 }
 
-// By precision: the range window on |x| (86.6433945 in single, 708 in double), and by
-// level the table core's degree and whether its middle sum is carried exactly, for the
-// double HA kernel and for the scalar routines (degree 6, EP degree 4).
+// By precision and level: the range window on |x| (in single 86.6433945, where 2^n
+// stays normal in single, and at HA, whose S is a double, the last argument with a finite
+// result, 88.7228394; 708 in double), and the table core's degree and whether its middle
+// sum is carried exactly, for the double HA kernel and for the scalar routines (degree 6,
+// EP degree 4).
 template <class T>
 struct Expm1Const;
 template <>
 struct Expm1Const<float> {
-    static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x42AD496Bu};
+    template <Level L>
+    static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u,
+                                        L == Level::HA ? 0x42B17217u : 0x42AD496Bu};
     template <Level L>
     static constexpr bool kExact = false;
     template <Level L>
@@ -228,6 +240,7 @@ struct Expm1Const<float> {
 };
 template <>
 struct Expm1Const<double> {
+    template <Level L>
     static constexpr Range64 kWindow = {0x7FFFFFFFFFFFFFFFull, 0ull, 0x4086200000000000ull};
     template <Level L>
     static constexpr bool kExact = L == Level::HA;
@@ -247,8 +260,9 @@ inline double Expm1Value(double x) {
     return GetLane(Expm1Core<D, Exact>(Set<double>(x)));
 }
 
-// Vector values by level: single HA widens its lanes to double, runs the degree-7 form
-// and rounds once, single LA and EP run the degree-6 and degree-4 forms in single;
+// Vector values by level: single HA widens its lanes to double, runs the form on the
+// table of 128 and rounds once, single LA and EP run the degree-6 and degree-4 forms in
+// single;
 // double on the table of 256, HA carried exactly, LA with fewer carries, EP plain.
 // e^x - 1 has the
 // sign of x, which these forms give to every result but that of -0: x's sign bit is
@@ -257,12 +271,12 @@ template <Level L>
 inline __m128 Expm1Of(__m128 x) {
     __m128 y;
     if constexpr (L == Level::LA) {
-        y = Expm1NoTable<true>(x, Expm1Wide<float>::kC6);
+        y = Expm1NoTable(x, Expm1Wide<float>::kC6);
     } else if constexpr (L == Level::EP) {
-        y = Expm1NoTable<true>(x, Expm1Wide<float>::kC4);
+        y = Expm1NoTable(x, Expm1Wide<float>::kC4);
     } else {
-        __m128d lo = Expm1NoTable<false>(WidenLower(x), Expm1Wide<double>::kC7);
-        __m128d hi = Expm1NoTable<false>(WidenUpper(x), Expm1Wide<double>::kC7);
+        __m128d lo = Expm1Table128(WidenLower(x));
+        __m128d hi = Expm1Table128(WidenUpper(x));
         y = Narrow(lo, hi);
     }
     return Or(y, SignBit(x));
@@ -284,7 +298,7 @@ struct Expm1Body {
     using K = Expm1Const<T>;
     static constexpr bool kExact = K::template kExact<L>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Expm1);
-    static constexpr auto kWindow = K::kWindow;
+    static constexpr auto kWindow = K::template kWindow<L>;
     static constexpr int kRound = 16;
     static int EvalWide(const V* x, V* y) { return EvalTestOnce<Expm1Body>(x, y); }
     static V Value(V x) { return Expm1Of<L>(x); }
