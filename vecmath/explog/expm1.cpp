@@ -164,7 +164,7 @@ inline __m128d Scale256(__m128d t) {
 // degree 5, for r = rh + rl (RowInPoly) or r = rh - n*stepLo: then the polynomial does
 // not wait for the row, and d*r, a tenth of the last place at most (near 0), is lost.
 struct Expm1Reduced {
-    __m128d big, rh, rl, q;
+    __m128d big, rh, rl, r, q;
 };
 template <bool RowInPoly>
 inline Expm1Reduced Expm1Reduce256(__m128d x) {
@@ -180,8 +180,8 @@ inline Expm1Reduced Expm1Reduce256(__m128d x) {
     e.rh = Sub(x, Mul(n, Set<double>(S::kStepHi)));
     __m128d rl = Mul(n, Set<double>(-S::kStepLo));
     e.rl = Add(rl, d);
-    __m128d r = Add(e.rh, RowInPoly ? e.rl : rl);
-    e.q = Mul(Mul(r, r), Estrin(r, Expm1Table256::kC5));
+    e.r = Add(e.rh, RowInPoly ? e.rl : rl);
+    e.q = Mul(Mul(e.r, e.r), Estrin(e.r, Expm1Table256::kC5));
     return e;
 }
 
@@ -199,15 +199,15 @@ inline __m128d Expm1On256Exact(__m128d x) {
     return Add(s, Add(Add(es, ea), lo));
 }
 
-// LA: the same sums rounded, a + (rh + ((S - 1)*rh + S*(rl + q))), and without d in the
-// polynomial. a = S - 1 rounds only where m < -1 or m > 52, far from any cancellation,
-// and where a + rh cancels (m = 0 or -1, j near 0) the inner sum is below the result:
-// about 1 ulp in all.
+// LA: (S - 1) + S*p with p = r + q, d in the polynomial's argument (r = rh + (rl + d)).
+// a = S - 1 is exact for -1 <= m <= 52 and rounds only beyond, far from any
+// cancellation; where a and S*p have opposite signs (j near 0 or 256) |S*p| is at most
+// half of |a| but where a is 0, which gives p itself: the rounding of r, of S*p and of
+// the sum, under 2 ulps in all.
 inline __m128d Expm1On256(__m128d x) {
-    Expm1Reduced e = Expm1Reduce256<false>(x);
+    Expm1Reduced e = Expm1Reduce256<true>(x);
     __m128d a = Sub(e.big, Set<double>(1.0));
-    __m128d lo = Add(Mul(e.big, Add(e.rl, e.q)), Mul(a, e.rh));
-    return Add(a, Add(e.rh, lo));
+    return Add(a, Mul(e.big, Add(e.r, e.q)));
 }
 
 // EP: the high parts only, one-part step, degree 3: (S - 1) + S*p.
