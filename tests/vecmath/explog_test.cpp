@@ -302,6 +302,10 @@ TEST(ExpLog, SpecialLanesRaiseNoFlagsOfTheirOwn) {
         EXPECT_EQ(FlagsOf<float>(frame::Row_sLog1p, slot, -2.0f), 0x1u) << slot;
         EXPECT_EQ(FlagsOf<float>(frame::Row_sLog1p, slot, -1.0f), 0x4u) << slot;
         EXPECT_EQ(FlagsOf<double>(frame::Row_dLog1p, slot, NAN), 0u) << slot;
+        EXPECT_EQ(FlagsOf<double>(frame::Row_dLog1p, slot, -INFINITY), 0x1u) << slot;
+        EXPECT_EQ(FlagsOf<double>(frame::Row_dLog1p, slot, -2.0), 0x1u) << slot;
+        EXPECT_EQ(FlagsOf<double>(frame::Row_dLog1p, slot, -1.0), 0x4u) << slot;
+        EXPECT_EQ(FlagsOf<double>(frame::Row_dLog1p, slot, 0x1p1021), 0u) << slot;
         EXPECT_EQ(FlagsOf<float>(frame::Row_sLn, slot, INFINITY), 0u);
         EXPECT_EQ(FlagsOf<double>(frame::Row_dLn, slot, 0.0), 0x4u); // divide by zero
     }

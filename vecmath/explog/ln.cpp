@@ -4,8 +4,9 @@
  * (EP), 8 (LA) or 9 (HA) coefficients, plus k*ln2 (in two parts at HA, with the sums
  * carried exactly so that only the last one rounds). x = 1 gives k = 0 and r = 0:
  * exactly +0 at every level.
- * dLn: the 513-row reciprocal table with |r| <= 2^-10 (log_core.h); EP a cubic without
- * the low parts; LA and HA degree 5 with ln 2 and the table logarithm in two parts,
+ * dLn: the 513-row reciprocal table with |r| <= 2^-10 (log_core.h); EP on the rows alone
+ * (LogRowsEP: the row found by two integer steps, r = m*rcp - 1, a cubic, no low parts);
+ * LA and HA degree 5 with ln 2 and the table logarithm in two parts,
  * the tail summed before the exact head: the table's 2^-42 grid leaves no cheaper
  * form within 4 ulp, so LA is the same arithmetic.
  * Measured (brenn_accuracy, worst of its inputs): sLn EP 12.8 bits, LA 1.20 ulp, HA
@@ -67,9 +68,14 @@ inline __m128 LnOf(__m128 x) {
 // are in range for any bits.
 template <Level L>
 inline __m128d LnOf(__m128d x) {
-    __m128d h, l;
-    LnCore<L>(x, h, l);
-    return Add(h, l);
+    if constexpr (L == Level::EP) {
+        using K = LogConst<double>;
+        return LogRowsEP<5>(x, lnRows, K::kLn2, K::kEP);
+    } else {
+        __m128d h, l;
+        LnCore<L>(x, h, l);
+        return Add(h, l);
+    }
 }
 
 // The value of the scalar routine: the double core rounded once (single), fyl2x times
@@ -86,7 +92,7 @@ struct LnBody {
     using T = Tp;
     using V = Vec<T>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Ln);
-    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8; // single: rounds of eight pay more
+    static constexpr int kRound = sizeof(T) == 8 && L != Level::EP ? 16 : 8;
     static int EvalWide(const V* x, V* y) { return EvalByRegister<LnBody>(x, y); }
     static V Eval(V x, V& special) {
         special = LogSpecial(x);
@@ -103,10 +109,6 @@ struct LnBody {
 using namespace brenn::vm;
 
 extern "C" {
-ZAR_KERNEL_OF(s, Ln, EP, Unary, LnBody<float, Level::EP>)
-BRENN_FLAT ZAR_KERNEL_OF(s, Ln, LA, Unary, LnBody<float, Level::LA>) BRENN_FLAT
-    ZAR_KERNEL_OF(s, Ln, HA, Unary, LnBody<float, Level::HA>)
-        ZAR_KERNEL_OF(d, Ln, EP, Unary, LnBody<double, Level::EP>) BRENN_FLAT
-    ZAR_KERNEL_OF(d, Ln, LA, Unary, LnBody<double, Level::LA>) BRENN_FLAT
-    ZAR_KERNEL_OF(d, Ln, HA, Unary, LnBody<double, Level::HA>)
+BRENN_FLAT_LEVEL_KERNELS(s, Ln, Unary, LnBody)
+BRENN_FLAT_LEVEL_KERNELS(d, Ln, Unary, LnBody)
 }

@@ -5,12 +5,13 @@
  * Single HA: in double lanes on rows of the base's own (log10RowsF, log2RowsF: the
  * reciprocal and -log_B of it, one 16-byte load a lane), k*log_B(2) + T + r*P(r) with P
  * a cubic fitted for the base (about 2^-34), rounded once.
- * Double: a reduction on rows of log_B itself with 10-bit reciprocals, so that the
- * reduced argument is an exact sum, and log_B(1 + r) = c*r + r^2*Q(r) with Q fitted for
- * the base; at HA c*r carried exactly in effect (log_base_double.h).
+ * Double LA and HA: a reduction on rows of log_B itself with 10-bit reciprocals, so that
+ * the reduced argument is an exact sum, and log_B(1 + r) = c*r + r^2*Q(r) with Q fitted
+ * for the base; at HA c*r carried exactly in effect (log_base_double.h). Double EP: the
+ * single HA rows alone and their cubic (log_core.h LogRowsEP).
  * Measured (brenn_accuracy, worst of its inputs): sLog10 EP 14.0 bits, LA 1.81 ulp,
- * HA 0.50 ulp; sLog2 EP 13.8 bits, LA 2.28 ulp, HA 0.50 ulp; dLog10 EP 31.7 bits, LA
- * 1.52 ulp, HA 0.500 ulp; dLog2 EP 32.2 bits, LA 1.32 ulp, HA 0.500 ulp.
+ * HA 0.50 ulp; sLog2 EP 13.8 bits, LA 2.28 ulp, HA 0.50 ulp; dLog10 EP 34.0 bits, LA
+ * 1.52 ulp, HA 0.500 ulp; dLog2 EP 34.0 bits, LA 1.32 ulp, HA 0.500 ulp.
  * Scalar routines: log_scalar.h; the double ones by fyl2x with log10(2) or 1. */
 #include "frame/kernels.h"
 #include "vecmath/explog/flat.h"
@@ -149,7 +150,13 @@ inline __m128 LogOf(__m128 x) {
 // Double: on the base's own rows (log_base_double.h).
 template <int Base, Level L>
 inline __m128d LogOf(__m128d x) {
-    return LogBaseOf<Base, L>(x);
+    if constexpr (L == Level::EP) {
+        // EP on the single HA kernels' rows alone, with their cubic (log_core.h).
+        using K = LogBase<Base>;
+        return LogRowsEP<4>(x, K::kRowsF, K::kPerKD, K::kHA);
+    } else {
+        return LogBaseOf<Base, L>(x);
+    }
 }
 
 // The value of the scalar routine: the double ln times the base's constant, rounded
@@ -169,7 +176,7 @@ struct LogBody {
     using V = Vec<T>;
     static constexpr const char* kName =
         Base == 10 ? ZAR_ERROR_NAME_OF(T, Log10) : ZAR_ERROR_NAME_OF(T, Log2);
-    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8; // single: rounds of eight pay more
+    static constexpr int kRound = sizeof(T) == 8 && L != Level::EP ? 16 : 8;
     static int EvalWide(const V* x, V* y) { return EvalByRegister<LogBody>(x, y); }
     static V Eval(V x, V& special) {
         special = LogSpecial(x);

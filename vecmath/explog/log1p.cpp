@@ -9,9 +9,11 @@
  * one of eight coefficients (LA); HA in double lanes on u = 1 + x summed in double (exact
  * from x = 2^-29 up), split and reduced there by the rows of lnRows (LnOfDoubleSum).
  * Double: the logarithm core's reduction of u = 1 + x for k and the row, its low part
- * taken from x itself as (2^-k - mh) + x*2^-k (EP core at EP, degree 5 at LA and HA);
- * HA carries h + r exactly before the small terms are added. Its window on u runs from
- * 2^-43 to below 2^1023; the rest goes to the scalar routine.
+ * taken from x itself as (2^-k - mh) + x*2^-k (degree 5 at LA and HA; EP on the rows
+ * alone, r = (S - 1) + x*S with S = 2^-k*rcp, and the cubic); HA carries h + r exactly
+ * before the small terms are added. Its window on u runs from 2^-43 to below
+ * 2^1021 - 2^1011; the rest goes to the scalar routine. Special lanes run without a blend
+ * on the range test: x and 2^-k are held by integer steps where they meet products.
  * Measured (brenn_accuracy, worst of its inputs): sLog1p EP 12.8 bits, LA 1.66 ulp,
  * HA 0.50 ulp; dLog1p EP 32.6 bits, LA 0.84 ulp, HA 0.66 ulp.
  * Scalar routine: x = -1 gives -inf with the singularity status, x below -1 (and -inf)
@@ -150,24 +152,77 @@ inline __m128 Log1pOf(__m128 x, __m128& special) {
 // HA h + r carried exactly (Knuth) with the small terms added to the error. Tiny x come
 // through as x itself (u = 1, r = x); the result has x's sign, which is put back for -0.
 // The window on u: positive normals from 2^-43 (x within 2^-43 of -1 goes to the scalar
-// routine) to below 2^1023, where 2^-k is still normal.
+// routine) to below 2^1021 - 2^1011, so that 2^-k, for EP's k too (which the rounding of
+// u's fraction to 9 bits may carry up by one), is at least 2^-1020.
 constexpr Range64 kLog1pWindow{0xFFFFFFFFFFFFFFFFull, 0x8000000000000000ull - 0x3D40000000000000ull,
-                               0x7FDFFFFFFFFFFFFFull + 0x8000000000000000ull -
+                               0x7FCFFBFFFFFFFFFFull + 0x8000000000000000ull -
                                    0x3D40000000000000ull};
+
+// Special lanes run as they are where only integer steps meet them (u = 1 + x raises
+// nothing but on a signalling NaN, whose scalar routine raises the same), so that no
+// blend on the range test stands in front of the body; the products that would raise a
+// flag of their own there (inf - inf, inf*0) take x through SafeArgument and 2^-k
+// through InverseOfField.
+// x with the special lanes moved to finite values by their high words alone: x at or
+// below -1 (-inf and negative NaNs among them) to just above -1 by an unsigned minimum,
+// +inf and positive NaNs to a finite value by a signed one; the low words and every x
+// inside the window stay as they are.
+inline __m128d SafeArgument(__m128d x) {
+    __m128i b = _mm_min_epu32(AsInt(x).v,
+                              _mm_set_epi32(int32_t(0xBFEFFFFFu), -1, int32_t(0xBFEFFFFFu), -1));
+    b = _mm_min_epi32(b, _mm_set_epi32(0x7FEFFFFF, 0x7FFFFFFF, 0x7FEFFFFF, 0x7FFFFFFF));
+    return _mm_castsi128_pd(b);
+}
+// 2^-k for u's exponent field e (bits 52 to 62 of e, the rest 0), e held between 980 and
+// 2044: inside the window it is there already, and the special lanes' fields beyond
+// (0 for u = 0, to 2047) give 2^43 to 2^-1021, normal numbers whose products with
+// SafeArgument's x, and the powers of r after them, raise nothing.
+inline __m128d InverseOfField(I64x2 e) {
+    using F = Format<double>;
+    __m128i held = _mm_min_epi32(e.v, _mm_set_epi32(0x7FC00000, 0, 0x7FC00000, 0));
+    held = _mm_max_epi32(held, _mm_set_epi32(980 << 20, 0, 980 << 20, 0));
+    return AsFloat(Sub(Set<uint64_t>(uint64_t(2 * F::kBias) << F::kMantBits), I64x2{held}));
+}
+
 template <Level L>
 inline __m128d Log1pOf(__m128d x, __m128d& special) {
+    using F = Format<double>;
     const __m128d one = Set<double>(1.0);
-    special = RangeTest(Add(one, x), kLog1pWindow);
-    // Special lanes run on 0, so that inf - inf and 1/0 raise no flag of their own.
-    x = IfThenZeroElse(special, x);
-    __m128d u = Add(one, x);
+    const __m128d u = Add(one, x);
+    special = RangeTest(u, kLog1pWindow);
+    const __m128d xs = SafeArgument(x);
+    if constexpr (L == Level::EP) {
+        // The rows alone (LogRowsEP's reduction on u): u's fraction rounded to 9 bits by
+        // adding half of 2^-9 to its bits, the row j and k from the sum, and
+        // m = u*2^-k = (1 + x)*s with s = 2^-k, so that r = m*rcp - 1 = (S - 1) + x*S,
+        // S = s*rcp (exact): u's own rounding does not reach r. (S - 1) is exact for
+        // k up to 10 and x*S rounds once; at the row of 1 (S = 1) r is x itself.
+        using K = LogConst<double>;
+        const I64x2 u1 = Add(AsInt(u), Set<uint64_t>(1ull << (F::kMantBits - 10)));
+        const I64x2 off = And(ShiftRight<F::kMantBits - 9 - 5>(u1), Set<uint64_t>(511ull << 5));
+        const char* rows = reinterpret_cast<const char*>(lnRows);
+        __m128d rcp, t;
+        LoadTransposed(
+            reinterpret_cast<const double*>(rows + uint64_t(_mm_cvtsi128_si64(off.v))),
+            reinterpret_cast<const double*>(rows + uint64_t(_mm_extract_epi64(off.v, 1))), rcp, t);
+        const I64x2 e1 = And(u1, Set<uint64_t>(F::kExpField));
+        __m128d sr = Mul(InverseOfField(e1), rcp);
+        __m128d k = Sub(AsFloat(Or(ShiftRight<F::kMantBits>(e1), AsInt(Set<double>(0x1p52)))),
+                        Set<double>(0x1p52 + F::kBias));
+        __m128d r = Add(Sub(sr, one), Mul(xs, sr));
+        // r + r^2*(c2 + c3*r), the core's EP form: its leading coefficient is 1, so that
+        // tiny x come out as x itself.
+        __m128d p = Add(r, Mul(Mul(r, r), Horner(r, K::kCoreEP)));
+        __m128d y = Add(Add(Mul(k, Set<double>(K::kLn2)), t), p);
+        return Or(y, SignBit(x));
+    }
     // 1 + x = 2^k*(mh + ml) with ml = (2^-k - mh) + x*2^-k, one rounding: 2^-k - mh is
     // exact for |k| <= 43 (mh on the 2^-9 grid; beyond, k > 43 and its rounding is far
     // below the result's last place) and x*2^-k is exact, so that the rounding of u
     // itself does not reach r.
     LnReduction red = LnReduce(u);
-    __m128d s = InverseBinade(u);
-    red.ml = Add(Sub(s, red.mh), Mul(x, s));
+    __m128d s = InverseOfField(And(AsInt(u), Set<uint64_t>(F::kExpField)));
+    red.ml = Add(Sub(s, red.mh), Mul(xs, s));
     __m128d h, r, small;
     LnCore3From<L>(red, h, r, small);
     if constexpr (L == Level::HA) {
@@ -186,7 +241,7 @@ struct Log1pBody {
     using T = Tp;
     using V = Vec<T>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Log1p);
-    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8; // single: rounds of eight pay more
+    static constexpr int kRound = sizeof(T) == 8 && L != Level::EP ? 16 : 8;
     static int EvalWide(const V* x, V* y) { return EvalByRegister<Log1pBody>(x, y); }
     static V Eval(V x, V& special) { return Log1pOf<L>(x, special); }
     static int Scalar(const T* a, T* y) { return Log1pScalar(a, y); }

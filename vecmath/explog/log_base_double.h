@@ -8,7 +8,7 @@
  *   log_B x = (k*log_B(2)hi + Thi) + c*r + r^2*Q(r) + (k*log_B(2)lo + Tlo),
  * c = log_B(e), Q fitted for the base (tools/explog/log10_2_double.sollya). The head H
  * is exact: both terms on the 2^-42 grid (k is the integer itself for Log2).
- * EP: Q of degree 1 and no low parts; LA: degree 3 with them. HA: degree 4 and c*r
+ * LA: Q of degree 3 with the low parts. HA: degree 4 and c*r
  * carried exactly in effect: b rounded to the 2^-36 grid (bh, with bl = b - bh exact;
  * in the row of 1 its top 26 bits), r' = a + bh exact with 27 bits, r'*chi exact for
  * the 26-bit head of c, H + r'*chi by Fast2Sum (H is 0 or at least of the binade of
@@ -34,13 +34,12 @@ struct LogRowsD<10> {
     static constexpr double kPerLn = 0x1.bcb7b1526e50ep-2;
     static constexpr double kPerLnHi = 0x1.bcb7b18p-2, kPerLnLo = -0x1.6c8d78e6acaa4p-29;
     // Q(r), by tools/explog/log10_2_double.sollya (relative error of the whole: HA
-    // 2^-63.75, LA 2^-53.75, EP 2^-32.25).
+    // 2^-63.75, LA 2^-53.75).
     static constexpr double kHA[] = {-0x1.bcb7b1526e50ep-3, 0x1.287a7636f320fp-3,
                                      -0x1.bcb7b15316ea5p-4, 0x1.63c65933276fdp-4,
                                      -0x1.2876c6cfda466p-4};
     static constexpr double kLA[] = {-0x1.bcb7b1526d667p-3, 0x1.287a7636f3115p-3,
                                      -0x1.bcb7e56ecd0a3p-4, 0x1.63c65a2592c84p-4};
-    static constexpr double kEP[] = {-0x1.bcb7c8c5b28f2p-3, 0x1.287a8b5210d3fp-3};
 };
 
 template <>
@@ -55,7 +54,6 @@ struct LogRowsD<2> {
                                      -0x1.ec6d54771cbdbp-3};
     static constexpr double kLA[] = {-0x1.71547652b76d2p-1, 0x1.ec709dc39e59cp-2,
                                      -0x1.7154a19a7fb5ap-2, 0x1.2776ef284b331p-2};
-    static constexpr double kEP[] = {-0x1.715489cc530f7p-1, 0x1.ec70c0d20019ep-2};
 };
 
 // log_B x for positive normal x; any other bits give a finite k, an m in [1, 2) and a
@@ -87,10 +85,8 @@ BRENN_VEC __m128d LogBaseOf(__m128d x) {
     __m128d r = Add(a, b);
     __m128d r2 = Mul(r, r);
     __m128d h = Add(Mul(k, Set<double>(K::kPerKHi)), th); // exact
-    if constexpr (L == Level::EP) {
-        __m128d q = Add(Set<double>(K::kEP[0]), Mul(r, Set<double>(K::kEP[1])));
-        return Add(h, Add(Mul(r, Set<double>(K::kPerLn)), Mul(r2, q)));
-    } else if constexpr (L == Level::LA) {
+    static_assert(L != Level::EP, "EP runs on the rows alone (LogRowsEP)");
+    if constexpr (L == Level::LA) {
         __m128d tail = Add(Mul(k, Set<double>(K::kPerKLo)), tl);
         __m128d small = Add(Mul(r2, Estrin(r, K::kLA)), tail);
         return Add(h, Add(Mul(r, Set<double>(K::kPerLn)), small));

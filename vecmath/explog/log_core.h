@@ -43,10 +43,15 @@ struct LogConst<double> {
     // ln 2 as a head on the 2^-42 grid (k times it, and its sum with a row's head, are
     // exact) and the rest.
     static constexpr double kLn2Hi = 0x1.62e42fefa38p-1, kLn2Lo = 0x1.ef35793c7673p-45;
+    static constexpr double kLn2 = 0x1.62e42fefa39efp-1; // rounded
     // P(r) of ln(1 + r) = r + r^2*P(r) on |r| <= 2^-10, fitted by
     // tools/explog/ln_double.sollya: EP degree 3 (about 2^-33 with the rest of the
     // core), LA and HA degree 5.
     static constexpr double kCoreEP[] = {-0x1.000005ffedcddp-1, 0x1.5555602210279p-2};
+    // EP on the rows alone (LogRowsEP): ln(1 + r) = r*(c1 + r*(c2 + r*c3)) on
+    // |r| <= 2^-10, fitted by tools/explog/ln_double.sollya (about 2^-34).
+    static constexpr double kEP[] = {0x1.fffffffffff66p-1, -0x1.0000060000f4ap-1,
+                                     0x1.5555615667e09p-2};
     static constexpr double kCore[] = {-0x1.ffffffffffcabp-2, 0x1.555555555512dp-2,
                                        -0x1.00000d54efc6fp-2, 0x1.9999b38894dd2p-3};
 };
@@ -109,6 +114,37 @@ BRENN_VEC LnReduction LnReduce(__m128d x) {
     LoadTransposed(ra, rb, red.rcp, red.th);
     LoadTransposed(ra + 2, rb + 2, red.tl, pad);
     return red;
+}
+
+// Double EP on the rows alone: log_B x for positive normal x from rows of 2^s bytes
+// whose first two doubles are a reciprocal of c = 1 + j/512 and -log_B of it (lnRows,
+// log10RowsF, log2RowsF). x's fraction is rounded to 9 bits by adding half of 2^-9 to its
+// bits, so that the row j (0 to 511) is in bits 43 to 51 of the sum, its byte offset a
+// shift and a mask away, and a carry out of the fraction lands in the exponent: k is the
+// sum's exponent and m = x*2^-k lies in [1 - 2^-10, 2 - 2^-10), so that x near 1 on
+// either side has k = 0 and the row of 1, r = m - 1 exactly. r = m*rcp - 1 rounds once
+// (its product, by 2^-53, which at the rows other than 0 is far below 2^-40 of the
+// result); log_B x = (k*log_B(2) + T) + r*(c1 + r*(c2 + r*c3)), the cubic fitted for the
+// base (about 2^-34 with the rest). The way to the loads is two integer steps after x's
+// bits. Any bits give a finite k, a finite m and a row: special lanes need no blend.
+template <int S, size_t W>
+BRENN_VEC __m128d LogRowsEP(__m128d x, const double (*rows)[W], double perK, const double (&c)[3]) {
+    using F = Format<double>;
+    static_assert(sizeof(rows[0]) == (size_t(1) << S), "rows of 2^S bytes");
+    const I64x2 xi = AsInt(x);
+    const I64x2 x1 = Add(xi, Set<uint64_t>(1ull << (F::kMantBits - 10)));
+    const I64x2 off = And(ShiftRight<F::kMantBits - 9 - S>(x1), Set<uint64_t>(511ull << S));
+    const char* base = reinterpret_cast<const char*>(rows);
+    __m128d rcp, t;
+    LoadTransposed(reinterpret_cast<const double*>(base + uint64_t(_mm_cvtsi128_si64(off.v))),
+                   reinterpret_cast<const double*>(base + uint64_t(_mm_extract_epi64(off.v, 1))),
+                   rcp, t);
+    __m128d m = AsFloat(Add(Sub(xi, And(x1, Set<uint64_t>(F::kExpField))), Set<uint64_t>(F::kOne)));
+    __m128d k = Sub(AsFloat(Or(ShiftRight<F::kMantBits>(x1), AsInt(Set<double>(0x1p52)))),
+                    Set<double>(0x1p52 + F::kBias));
+    __m128d r = Sub(Mul(m, rcp), Set<double>(1.0));
+    __m128d head = perK == 1.0 ? Add(k, t) : Add(Mul(k, Set<double>(perK)), t);
+    return Add(head, Mul(r, Horner(r, c)));
 }
 
 // ln x = h + r + t from the reduction, h exact and |t| << |r|: the three terms for the
