@@ -1,13 +1,14 @@
 /* Log1p, single and double, three levels each.
  *
- * Single: LA and EP on u = 1 + x with the rounding of that sum recovered by Fast2Sum on
- * the larger and smaller of 1 and x, ln(1 + x) = ln u + c/u; HA sums 1 + x in double,
- * exactly (below). The range test is the logarithm's, on u: it fires
- * for x at or below -1, infinite or NaN. For |x| below 2^-25 u is 1, k and r are 0, and
- * the result is c = x exactly: tiny and denormal x come through the body as themselves.
- * Single EP and LA: the split around 2/3 on u with the polynomial of sLn EP and a fitted
- * one of eight coefficients (LA); HA in double lanes on u = 1 + x summed in double (exact
- * from x = 2^-29 up), split and reduced there by the rows of lnRows (LnOfDoubleSum).
+ * Single: LA on u = 1 + x split around 2/3 (log_core.h) with a fitted Q of eight
+ * coefficients, ln(1 + x) = ln u + c/u, c = x - (u - 1) the rounding of u (from x held
+ * by its bits where the special lanes would raise a flag, beside the split); EP without
+ * the correction, on r = x itself where the split's k is 0 (x in [-1/3, 1/3)) and the
+ * polynomial of sLn EP; HA in double lanes on u = 1 + x summed in double (exact from
+ * x = 2^-29 up), split and reduced there by the rows of lnRows (LnOfDoubleSum). The range
+ * test is the logarithm's, on u: it fires for x at or below -1, infinite or NaN; no blend
+ * on it stands in front of any body. Tiny x come out as x itself (LA: u = 1, r = 0,
+ * c = x; EP and HA: x where |x| is below 2^-30 or 2^-29).
  * Double: the logarithm core's reduction of u = 1 + x for k and the row, its low part
  * taken from x itself as (2^-k - mh) + x*2^-k (degree 5 at LA and HA; EP on the rows
  * alone, r = (S - 1) + x*S with S = 2^-k*rcp, and the cubic); HA carries h + r exactly
@@ -57,33 +58,12 @@ template <class T>
 struct Log1pConst;
 template <>
 struct Log1pConst<float> {
-    // Below it the result is x itself.
-    static constexpr float kTiny = 0x1p-30f;
     // Q(r) of ln(1 + r) = r + r^2*Q(r) at LA, on r in [-1/3, 1/3); fitted by
     // tools/explog/log1p_single.sollya.
     static constexpr float kLA[] = {-0x1p-1f,        0x1.555528p-2f,  -0x1.000b1cp-2f,
                                     0x1.99c32ep-3f,  -0x1.515a6ap-3f, 0x1.1f9552p-3f,
                                     -0x1.35b3e2p-3f, 0x1.1b0d6ep-3f};
 };
-
-// u = 1 + x and the rounding error c of that sum, by Fast2Sum on the larger and the
-// smaller of 1 and x: for x above -1 (special lanes run on 0) the larger is also the
-// larger in magnitude.
-template <class V>
-inline void OnePlus(V x, V& u, V& c) {
-    using T = ElemOf<V>;
-    const V one = Set<T>(1);
-    V big = Max(x, one), small = Min(x, one);
-    FastTwoSum(big, small, u, c);
-}
-
-// Where |x| is below kTiny the result is x itself; the blend also keeps the sign of -0,
-// which the sums above turn into +0.
-template <class V>
-inline V KeepTiny(V x, V y) {
-    using T = ElemOf<V>;
-    return IfThenElse(Lt(Abs(x), Set<T>(Log1pConst<T>::kTiny)), x, y);
-}
 
 // ln(1 + x) for two double lanes x from single ones (x above -1, 1 + x exact or far
 // below the result's last place): u = 1 + x split in double, x = 2^k*m, m in [1, 2), the
@@ -133,18 +113,42 @@ inline __m128 Log1pOf(__m128 x, __m128& special) {
         // |x| below 2^-29 by its bits (a float compare would signal on a quiet NaN).
         __m128 tiny = AsFloat(Gt(Set<int32_t>(0x31000000), AsInt(Abs(x))));
         return IfThenElse(tiny, x, Narrow(y[0], y[1]));
+    } else if constexpr (L == Level::EP) {
+        // No correction for u's rounding: where the split's k is 0 (x in [-1/3, 1/3)),
+        // r = m - 1 = u - 1 would lose x's low bits, and r = x is exact; elsewhere
+        // |x| >= 1/3 and u's rounding is 2^-24 of u, far below 11 bits. Special lanes
+        // meet only 1 + x and integer steps (k is not 0 there), no blend in front of the
+        // body; |x| below 2^-30 keeps r = m - 1 = 0 (r^2 would underflow) and gives x.
+        __m128 u = Add(Set<float>(1.0f), x);
+        __m128 r, k;
+        I32x4 ki;
+        LogSplit(u, r, k, ki);
+        const I32x4 tiny = Gt(Set<int32_t>(0x30800000), AsInt(Abs(x))); // |x| < 2^-30
+        r = IfThenElse(AsFloat(AndNot(tiny, Eq(ki, Set<int32_t>(0)))), x, r);
+        __m128 p = Add(r, Mul(Mul(r, r), Horner(r, K::kLnEP)));
+        return IfThenElse(AsFloat(tiny), x, Add(p, Mul(k, Set<float>(K::kLn2))));
     } else {
-        // Special lanes run on 0, so that inf - inf and 1/0 raise no flag of their own.
-        x = IfThenZeroElse(special, x);
-        __m128 u, c;
-        OnePlus(x, u, c);
+        // ln u + c/u, the split on u = 1 + x itself, in front of the body. c, the rounding
+        // of u, comes beside it as xc - (uc - 1) (exact for every x above -1: 1 and x on
+        // u's grid below 2^24, Fast2Sum's order for |x| < 2) from x held by its high bits:
+        // +inf and positive NaNs to the largest single by a signed minimum, x at or below
+        // -1 (-inf and negative NaNs among them) to just above -1 by an unsigned one, so
+        // that inf - inf and 0/0 raise no flag of their own where the scalar routine
+        // raises none; every other x stays, and no blend on the range test stands in front
+        // of the body. Tiny x give u = 1, r = 0 and c = x: x itself, its sign put back for
+        // -0.
+        const __m128 one = Set<float>(1.0f);
+        __m128 u = Add(one, x);
         __m128 r, k;
         LogSplit(u, r, k);
-        __m128 q = L == Level::LA ? Estrin(r, Log1pConst<float>::kLA) : Horner(r, K::kLnEP);
-        __m128 p = Add(r, Mul(Mul(r, r), q));
+        const __m128i b = _mm_min_epi32(AsInt(x).v, _mm_set1_epi32(0x7F7FFFFF));
+        const __m128 xc = AsFloat(I32x4{_mm_min_epu32(b, _mm_set1_epi32(int32_t(0xBF7FFFFFu)))});
+        const __m128 uc = Add(one, xc);
+        const __m128 c = Sub(xc, Sub(uc, one));
+        __m128 p = Add(r, Mul(Mul(r, r), Estrin(r, Log1pConst<float>::kLA)));
         // The division measured faster than c*2^-k*(1 - r) from the split's k.
-        __m128 corr = Add(Div(c, u), Mul(k, Set<float>(K::kLn2Lo)));
-        return KeepTiny(x, Add(Add(p, corr), Mul(k, Set<float>(K::kLn2Hi))));
+        __m128 corr = Add(Div(c, uc), Mul(k, Set<float>(K::kLn2Lo)));
+        return Or(Add(Add(p, corr), Mul(k, Set<float>(K::kLn2Hi))), SignBit(x));
     }
 }
 

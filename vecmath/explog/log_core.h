@@ -78,13 +78,18 @@ inline V InverseBinade(V x) {
 }
 
 // Single: x = 2^k * (1 + r), m = 1 + r in [2/3, 4/3).
-inline void LogSplit(__m128 x, __m128& r, __m128& k) {
+inline void LogSplit(__m128 x, __m128& r, __m128& k, I32x4& ki) {
     using F = Format<float>;
     const I32x4 c = Set<uint32_t>(0x3F2AAAABu);
     I32x4 d = Sub(AsInt(x), c);
-    k = ToFloat(ShiftRightSigned<F::kMantBits>(d));
+    ki = ShiftRightSigned<F::kMantBits>(d);
+    k = ToFloat(ki);
     I32x4 m = Add(And(d, Set<uint32_t>(F::kMant)), c);
     r = Sub(AsFloat(m), Set<float>(1.0f));
+}
+inline void LogSplit(__m128 x, __m128& r, __m128& k) {
+    I32x4 ki;
+    LogSplit(x, r, k, ki);
 }
 
 // The reduction of the double core for positive normal x, two lanes: x = 2^k * m,
