@@ -37,9 +37,11 @@ struct LogBase<10> {
     // error beside the fit, which measures 13.8 bits against this set's 14.0).
     static constexpr float kEP[] = {0x1.bcb95cp-2f, -0x1.bc1244p-3f, 0x1.26fb7cp-3f,
                                     -0x1.e9dae2p-4f, 0x1.9b824ep-4f};
-    static constexpr float kLA[] = {0x1.bcb7b2p-2f,  -0x1.bcb78ap-3f, 0x1.28798cp-3f,
-                                    -0x1.bcdc26p-4f, 0x1.641fa2p-4f,  -0x1.23f7d8p-4f,
-                                    0x1.ee5948p-5f,  -0x1.11f9ccp-4f, 0x1.00a40ep-4f};
+    // LA in two parts: the four low coefficients by Horner steps after the high five.
+    static constexpr float kLALow[] = {0x1.bcb7b2p-2f, -0x1.bcb78ap-3f, 0x1.28798cp-3f,
+                                       -0x1.bcdc26p-4f};
+    static constexpr float kLAHigh[] = {0x1.641fa2p-4f, -0x1.23f7d8p-4f, 0x1.ee5948p-5f,
+                                        -0x1.11f9ccp-4f, 0x1.00a40ep-4f};
     // log10(2) for k: rounded (EP), and as a head whose product with k is exact and the
     // rest (LA).
     static constexpr float kPerK = 0x1.344136p-2f;
@@ -124,18 +126,21 @@ inline __m128 LogOf(__m128 x) {
     } else {
         __m128 r, k;
         LogSplit(x, r, k);
-        // Log2 LA: the seven high coefficients by Estrin's scheme (their rounding is
-        // scaled by r^2), the two low ones by Horner steps: a chain of five steps, not
-        // nine (2.28 ulp, Horner 2.35). Log10 LA keeps Horner's rule: near x = 4/3, where
-        // k*log10(2) and r*P cancel to about 0.125, the mixed scheme measured 2.6 ulp.
+        // LA: the high coefficients by Estrin's scheme (their rounding is scaled by a power
+        // of r), the low ones by Horner steps. Log2: seven and two, a chain of five steps,
+        // not nine (2.28 ulp, Horner 2.35). Log10: five and four, seven steps (1.81 ulp,
+        // as Horner's rule): near x = 4/3, where k*log10(2) and r*P cancel to about
+        // 0.125, the rounding of the third coefficient's step is not yet small enough
+        // (seven and two, or six and three: 2.65 ulp).
         __m128 q;
         if constexpr (L == Level::EP) {
             q = Horner(r, K::kEP);
-        } else if constexpr (Base == 10) {
-            q = Horner(r, K::kLA);
         } else {
-            q = MulAdd(r, Estrin(r, K::kLAHigh), Set<float>(K::kLALow[1]));
-            q = MulAdd(r, q, Set<float>(K::kLALow[0]));
+            constexpr int n = sizeof(K::kLALow) / sizeof(K::kLALow[0]);
+            q = Estrin(r, K::kLAHigh);
+#pragma GCC unroll 4
+            for (int i = n - 1; i >= 0; --i)
+                q = MulAdd(r, q, Set<float>(K::kLALow[i]));
         }
         __m128 p = Mul(r, q);
         if constexpr (L == Level::LA && K::kPerKLo != 0) {
