@@ -1,15 +1,15 @@
 /* Ln, single and double, three levels each.
  *
- * sLn: the branch-free split around 2/3 (log_core.h), then r + r^2*Q(r) with Q of 4
- * (EP), 8 (LA) or 9 (HA) coefficients, plus k*ln2 (in two parts at HA, with the sums
- * carried exactly so that only the last one rounds). x = 1 gives k = 0 and r = 0:
- * exactly +0 at every level.
+ * sLn: the branch-free split (log_core.h) around 2/3 (LA, HA) or 1/sqrt(2) (EP), then
+ * r*P(r) with P of 4 coefficients (EP) or r + r^2*Q(r) with Q of 8 (LA) or 9 (HA), plus
+ * k*ln2 (in two parts at HA, with the sums carried exactly so that only the last one
+ * rounds). x = 1 gives k = 0 and r = 0: exactly +0 at every level.
  * dLn: the 513-row reciprocal table with |r| <= 2^-10 (log_core.h); EP on the rows alone
  * (LogRowsEP: the row found by two integer steps, r = m*rcp - 1, a cubic, no low parts);
  * LA and HA degree 5 with ln 2 and the table logarithm in two parts,
  * the tail summed before the exact head: the table's 2^-42 grid leaves no cheaper
  * form within 4 ulp, so LA is the same arithmetic.
- * Measured (brenn_accuracy, worst of its inputs): sLn EP 12.8 bits, LA 1.20 ulp, HA
+ * Measured (brenn_accuracy, worst of its inputs): sLn EP 11.5 bits, LA 1.20 ulp, HA
  * 0.83 ulp; dLn EP 32.7 bits, LA and HA 0.91 ulp.
  * Scalar routines: log_scalar.h (zero: -inf, singularity; negative: NaN, domain;
  * denormals their correct logarithm). */
@@ -38,10 +38,12 @@ template <Level L>
 inline __m128 LnOf(__m128 x) {
     using K = LogConst<float>;
     __m128 r, k;
-    LogSplit(x, r, k);
-    if constexpr (L != Level::HA) {
-        __m128 q = L == Level::EP ? Horner(r, K::kLnEP) : Estrin(r, kLnLA);
-        __m128 p = Add(r, Mul(Mul(r, r), q));
+    I32x4 ki;
+    LogSplit(x, r, k, ki, L == Level::EP ? K::kCentreEP : 0x3F2AAAABu);
+    if constexpr (L == Level::EP) {
+        return Add(Mul(r, Horner(r, K::kLnEP)), Mul(k, Set<float>(K::kLn2)));
+    } else if constexpr (L == Level::LA) {
+        __m128 p = Add(r, Mul(Mul(r, r), Estrin(r, kLnLA)));
         return Add(p, Mul(k, Set<float>(K::kLn2)));
     } else {
         // The seven high coefficients by Estrin's scheme (their rounding is scaled down

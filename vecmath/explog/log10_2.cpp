@@ -1,7 +1,8 @@
 /* Log10 and Log2, single and double.
  *
- * Single EP and LA: the split around 2/3 of log_core.h and r*P(r) with P of 5 (EP) or 9
- * (LA) coefficients fitted for the base, plus k*log10(2) (two parts at LA) or k itself.
+ * Single EP and LA: the split of log_core.h around 1/sqrt(2) (EP) or 2/3 (LA) and
+ * r*P(r) with P of 4 (EP) or 9 (LA) coefficients fitted for the base, plus k*log10(2)
+ * (two parts at LA) or k itself.
  * Single HA: in double lanes on rows of the base's own (log10RowsF, log2RowsF: the
  * reciprocal and -log_B of it, one 16-byte load a lane), k*log_B(2) + T + r*P(r) with P
  * a cubic fitted for the base (about 2^-34), rounded once.
@@ -9,8 +10,8 @@
  * the reduced argument is an exact sum, and log_B(1 + r) = c*r + r^2*Q(r) with Q fitted
  * for the base; at HA c*r carried exactly in effect (log_base_double.h). Double EP: the
  * single HA rows alone and their cubic (log_core.h LogRowsEP).
- * Measured (brenn_accuracy, worst of its inputs): sLog10 EP 14.0 bits, LA 1.81 ulp,
- * HA 0.50 ulp; sLog2 EP 13.8 bits, LA 2.28 ulp, HA 0.50 ulp; dLog10 EP 34.0 bits, LA
+ * Measured (brenn_accuracy, worst of its inputs): sLog10 EP 11.5 bits, LA 1.81 ulp,
+ * HA 0.50 ulp; sLog2 EP 11.5 bits, LA 2.28 ulp, HA 0.50 ulp; dLog10 EP 34.0 bits, LA
  * 1.52 ulp, HA 0.500 ulp; dLog2 EP 34.0 bits, LA 1.32 ulp, HA 0.500 ulp.
  * Scalar routines: log_scalar.h; the double ones by fyl2x with log10(2) or 1. */
 #include "frame/kernels.h"
@@ -32,11 +33,10 @@ struct LogBase<10> {
     static constexpr double kPerLn = 0x1.bcb7b1526e50ep-2;
     // The factor of fyl2x: log10(2).
     static constexpr long double kOfLog2 = kLog10Of2L;
-    // Single: P(r) of log10(1 + r) = r*P(r) on r in [-1/3, 1/3). LA fitted by
-    // tools/explog/log_single.sollya; EP keeps its own set (that script prints it and its
-    // error beside the fit, which measures 13.8 bits against this set's 14.0).
-    static constexpr float kEP[] = {0x1.bcb95cp-2f, -0x1.bc1244p-3f, 0x1.26fb7cp-3f,
-                                    -0x1.e9dae2p-4f, 0x1.9b824ep-4f};
+    // Single: P(r) of log10(1 + r) = r*P(r), EP on r in [c - 1, 2c - 1), c = 1/sqrt(2),
+    // LA on r in [-1/3, 1/3), fitted by tools/explog/log_single.sollya.
+    static constexpr float kEP[] = {0x1.bc963p-2f, -0x1.be8932p-3f, 0x1.3b344ap-3f,
+                                    -0x1.942596p-4f};
     // LA in two parts: the four low coefficients by Horner steps after the high five.
     static constexpr float kLALow[] = {0x1.bcb7b2p-2f, -0x1.bcb78ap-3f, 0x1.28798cp-3f,
                                        -0x1.bcdc26p-4f};
@@ -59,8 +59,8 @@ struct LogBase<2> {
     static constexpr double kPerLn = 0x1.71547652b82fep0;
     static constexpr long double kOfLog2 = 1.0L;
     // Fitted by tools/explog/log_single.sollya.
-    static constexpr float kEP[] = {0x1.715508p0f, -0x1.70cb38p-1f, 0x1.eae082p-2f, -0x1.96cd6ap-2f,
-                                    0x1.4d736p-2f};
+    static constexpr float kEP[] = {0x1.7138a2p0f, -0x1.72d70ap-1f, 0x1.05c59cp-1f,
+                                    -0x1.4fa37cp-2f};
     // LA in two parts: the two low coefficients by Horner steps after the high seven.
     static constexpr float kLALow[] = {0x1.715476p0f, -0x1.715456p-1f};
     static constexpr float kLAHigh[] = {0x1.ec70c6p-2f,  -0x1.717298p-2f, 0x1.278a7p-2f,
@@ -125,7 +125,8 @@ inline __m128 LogOf(__m128 x) {
         return LogOfSingleLanes<Base>(x);
     } else {
         __m128 r, k;
-        LogSplit(x, r, k);
+        I32x4 ki;
+        LogSplit(x, r, k, ki, L == Level::EP ? LogConst<float>::kCentreEP : 0x3F2AAAABu);
         // LA: the high coefficients by Estrin's scheme (their rounding is scaled by a power
         // of r), the low ones by Horner steps. Log2: seven and two, a chain of five steps,
         // not nine (2.28 ulp, Horner 2.35). Log10: five and four, seven steps (1.81 ulp,

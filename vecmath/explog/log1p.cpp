@@ -3,19 +3,18 @@
  * Single: LA on u = 1 + x split around 2/3 (log_core.h) with a fitted Q of eight
  * coefficients, ln(1 + x) = ln u + c/u, c = x - (u - 1) the rounding of u (from x held
  * by its bits where the special lanes would raise a flag, beside the split); EP without
- * the correction, on r = x itself where the split's k is 0 (x in [-1/3, 1/3)) and the
- * polynomial of sLn EP; HA in double lanes on u = 1 + x summed in double (exact from
- * x = 2^-29 up), split and reduced there by the rows of lnRows (LnOfDoubleSum). The range
- * test is the logarithm's, on u: it fires for x at or below -1, infinite or NaN; no blend
- * on it stands in front of any body. Tiny x come out as x itself (LA: u = 1, r = 0,
- * c = x; EP and HA: x where |x| is below 2^-30 or 2^-29).
- * Double: the logarithm core's reduction of u = 1 + x for k and the row, its low part
- * taken from x itself as (2^-k - mh) + x*2^-k (degree 5 at LA and HA; EP on the rows
- * alone, r = (S - 1) + x*S with S = 2^-k*rcp, and the cubic); HA carries h + r exactly
+ * the correction, on r = x itself where the split's k is 0 (around 1/sqrt(2): x in
+ * [-0.29, 0.41)) and the polynomial of sLn EP; HA in double lanes on u = 1 + x summed in double
+ * (exact from x = 2^-29 up), split and reduced there by the rows of lnRows (LnOfDoubleSum). The
+ * range test is the logarithm's, on u: it fires for x at or below -1, infinite or NaN; no blend on
+ * it stands in front of any body. Tiny x come out as x itself (LA: u = 1, r = 0, c = x; EP and HA:
+ * x where |x| is below 2^-30 or 2^-29). Double: the logarithm core's reduction of u = 1 + x for k
+ * and the row, its low part taken from x itself as (2^-k - mh) + x*2^-k (degree 5 at LA and HA; EP
+ * on the rows alone, r = (S - 1) + x*S with S = 2^-k*rcp, and the cubic); HA carries h + r exactly
  * before the small terms are added. Its window on u runs from 2^-43 to below
  * 2^1021 - 2^1011; the rest goes to the scalar routine. Special lanes run without a blend
  * on the range test: x and 2^-k are held by integer steps where they meet products.
- * Measured (brenn_accuracy, worst of its inputs): sLog1p EP 12.8 bits, LA 1.66 ulp,
+ * Measured (brenn_accuracy, worst of its inputs): sLog1p EP 11.5 bits, LA 1.66 ulp,
  * HA 0.50 ulp; dLog1p EP 32.6 bits, LA 0.84 ulp, HA 0.66 ulp.
  * Scalar routine: x = -1 gives -inf with the singularity status, x below -1 (and -inf)
  * NaN with the domain status, NaN and +inf themselves. */
@@ -92,8 +91,8 @@ inline __m128d LnOfDoubleSum(__m128d x) {
     return Add(head, Mul(Mul(r, r), Horner(r, K::kCoreEP)));
 }
 
-// Single EP and LA: ln u by the split around 2/3, with c/u and k*ln2lo added before
-// k*ln2hi. HA in double on a double sum (LnOfDoubleSum).
+// Single: LA ln u by the split around 2/3 with c/u; EP by the split around 1/sqrt(2) on
+// r = x where its k is 0; HA in double on a double sum (LnOfDoubleSum).
 template <Level L>
 inline __m128 Log1pOf(__m128 x, __m128& special) {
     using K = LogConst<float>;
@@ -114,18 +113,18 @@ inline __m128 Log1pOf(__m128 x, __m128& special) {
         __m128 tiny = AsFloat(Gt(Set<int32_t>(0x31000000), AsInt(Abs(x))));
         return IfThenElse(tiny, x, Narrow(y[0], y[1]));
     } else if constexpr (L == Level::EP) {
-        // No correction for u's rounding: where the split's k is 0 (x in [-1/3, 1/3)),
-        // r = m - 1 = u - 1 would lose x's low bits, and r = x is exact; elsewhere
-        // |x| >= 1/3 and u's rounding is 2^-24 of u, far below 11 bits. Special lanes
+        // No correction for u's rounding: where the split's k is 0 (x in [c - 1, 2c - 1),
+        // c = 1/sqrt(2)), r = m - 1 = u - 1 would lose x's low bits, and r = x is exact;
+        // elsewhere |x| > 0.29 and u's rounding is 2^-24 of u, far below 11 bits. Special lanes
         // meet only 1 + x and integer steps (k is not 0 there), no blend in front of the
         // body; |x| below 2^-30 keeps r = m - 1 = 0 (r^2 would underflow) and gives x.
         __m128 u = Add(Set<float>(1.0f), x);
         __m128 r, k;
         I32x4 ki;
-        LogSplit(u, r, k, ki);
+        LogSplit(u, r, k, ki, K::kCentreEP);
         const I32x4 tiny = Gt(Set<int32_t>(0x30800000), AsInt(Abs(x))); // |x| < 2^-30
         r = IfThenElse(AsFloat(AndNot(tiny, Eq(ki, Set<int32_t>(0)))), x, r);
-        __m128 p = Add(r, Mul(Mul(r, r), Horner(r, K::kLnEP)));
+        __m128 p = Mul(r, Horner(r, K::kLnEP));
         return IfThenElse(AsFloat(tiny), x, Add(p, Mul(k, Set<float>(K::kLn2))));
     } else {
         // ln u + c/u, the split on u = 1 + x itself, in front of the body. c, the rounding

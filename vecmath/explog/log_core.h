@@ -31,9 +31,13 @@ struct LogConst<float> {
     // ln 2 rounded, and in two parts whose head times k (|k| < 2^8) is exact.
     static constexpr float kLn2 = 0x1.62e43p-1f;
     static constexpr float kLn2Hi = 0x1.62e4p-1f, kLn2Lo = 0x1.7f7d1cp-20f;
-    // Q(r) of ln(1 + r) = r + r^2*Q(r) at EP (sLn and sLog1p), on r in [-1/3, 1/3);
-    // fitted by tools/explog/ln_single.sollya (EP), about 2^-13.
-    static constexpr float kLnEP[] = {-0x1p-1f, 0x1.54e2aep-2f, -0x1.11d1fcp-2f, 0x1.c253d6p-3f};
+    // EP (sLn, sLog1p, sLog10, sLog2): the split around 1/sqrt(2) instead, so that where
+    // k*log(2) and the polynomial cancel (x just above 2c or below c) neither is more
+    // than the result, and P(r) of ln(1 + r) = r*P(r) on r in [c - 1, 2c - 1), four
+    // coefficients, fitted by tools/explog/ln_single.sollya (EP): about 2^-11.48.
+    static constexpr uint32_t kCentreEP = 0x3F3504F3u; // 1/sqrt(2) rounded
+    static constexpr float kLnEP[] = {0x1.ffd96cp-1f, -0x1.010bf6p-1f, 0x1.6ae48ap-2f,
+                                      -0x1.d14aeep-3f};
 };
 
 template <>
@@ -78,9 +82,9 @@ inline V InverseBinade(V x) {
 }
 
 // Single: x = 2^k * (1 + r), m = 1 + r in [2/3, 4/3).
-inline void LogSplit(__m128 x, __m128& r, __m128& k, I32x4& ki) {
+inline void LogSplit(__m128 x, __m128& r, __m128& k, I32x4& ki, uint32_t centre = 0x3F2AAAABu) {
     using F = Format<float>;
-    const I32x4 c = Set<uint32_t>(0x3F2AAAABu);
+    const I32x4 c = Set<uint32_t>(centre);
     I32x4 d = Sub(AsInt(x), c);
     ki = ShiftRightSigned<F::kMantBits>(d);
     k = ToFloat(ki);
