@@ -9,8 +9,8 @@
 //   rounded rest;
 //   the 128 rows of the scalar logarithm: the same for the middles c = 1 + (2j+1)/256;
 //   the rows of the double Log10 and Log2: for c = (510 + j)/512 a reciprocal rounded
-//   to 10 bits, c times it less 1 (exact), and -log_B of the reciprocal in two parts as
-//   above;
+//   to 10 bits, a = c times it less 1 (exact), and T = -log_B of the reciprocal plus
+//   a*log_B(e) in two parts as above;
 //   the rows of the single Log10 and Log2 HA: for c = 1 + j/512 the reciprocal of lnRows
 //   and -log_B of it rounded to double, a 16-byte row.
 //   gen_explog_tables OUT
@@ -125,11 +125,13 @@ void LogRows128(FILE* out, const char* name) {
 
 // Rows of dLog10 and dLog2: for the centres c = (510 + j)/512, j = 0..510 (m in
 // [510/512, 1020/512)), the reciprocal of c rounded to 10 bits (so that (m - c)*rcp is
-// exact, and c*rcp on the grid of 2^-19), c*rcp - 1 (exact), and -log_B(rcp) as a high
-// part on the grid of 2^-42 (so that k*log_B(2)hi + high is exact) and the rounded rest.
+// exact, and c*rcp on the grid of 2^-19), a = c*rcp - 1 (exact), and
+// T = -log_B(rcp) + a*log_B(e), the row's constant of log_B x = k*log_B(2) + T +
+// log_B(e)*b + (r^2 terms), r = a + b, as a high part on the grid of 2^-42 (so that
+// k*log_B(2)hi + high is exact) and the rounded rest.
 void LogBaseRows(FILE* out, const char* name, long n, int base) {
-    mpfr_t c, rcp, a, l;
-    mpfr_inits2(kPrec, c, a, l, (mpfr_ptr)0);
+    mpfr_t c, rcp, a, l, e;
+    mpfr_inits2(kPrec, c, a, l, e, (mpfr_ptr)0);
     mpfr_init2(rcp, 10);
     std::fprintf(out, "alignas(32) const double %s[%ld][4] = {\n", name, n);
     for (long j = 0; j < n; ++j) {
@@ -143,13 +145,18 @@ void LogBaseRows(FILE* out, const char* name, long n, int base) {
         else
             mpfr_log10(l, rcp, MPFR_RNDN);
         mpfr_neg(l, l, MPFR_RNDN);
+        // a*log_B(e) = a/ln(B)
+        mpfr_set_ui(e, base, MPFR_RNDN);
+        mpfr_log(e, e, MPFR_RNDN);
+        mpfr_div(e, a, e, MPFR_RNDN);
+        mpfr_add(l, l, e, MPFR_RNDN);
         double hi, lo;
         SplitOnGrid42(l, hi, lo);
         std::fprintf(out, "    {%a, %a, %a, %a},\n", mpfr_get_d(rcp, MPFR_RNDN),
                      mpfr_get_d(a, MPFR_RNDN) + 0.0, hi, lo);
     }
     std::fprintf(out, "};\n\n");
-    mpfr_clears(c, a, l, rcp, (mpfr_ptr)0);
+    mpfr_clears(c, a, l, e, rcp, (mpfr_ptr)0);
 }
 
 // Rows of the single Log10 and Log2 HA (in double lanes): for the centres c = 1 + j/512,

@@ -11,9 +11,9 @@
  *                          and a pad, so that a row is 32 bytes;
  *   lnTable128[j]          = the same three values for the centre c = 1 + (2j + 1)/256,
  *                          the rows of the scalar logarithm;
- *   log10Rows[j], log2Rows[j] = for c = (510 + j)/512: a reciprocal of c to 10 bits, c
- *                          times it less 1 (exact), -log_B(reciprocal) as a high part on
- *                          the 2^-42 grid and the rest;
+ *   log10Rows[j], log2Rows[j] = for c = (510 + j)/512: a reciprocal of c to 10 bits,
+ *                          a = c times it less 1 (exact), -log_B(reciprocal) + a*log_B(e)
+ *                          as a high part on the 2^-42 grid and the rest;
  *   log10RowsF[j], log2RowsF[j] = for c = 1 + j/512: lnRows' reciprocal of c and
  *                          -log_B of it rounded, the rows of the single HA kernels. */
 #ifndef BRENN_VECMATH_EXPLOG_EXPLOG_TABLES_H

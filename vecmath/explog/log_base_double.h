@@ -2,17 +2,17 @@
  *
  * x = 2^k * m, m in [1 - 2^-8, 2 - 2^-7), mh = m rounded to 9 fraction bits and
  * ml = m - mh; the row of mh holds rcp, 1/mh to 10 bits, a = mh*rcp - 1 (exact) and
- * -log_B(rcp) in two parts, Thi on the 2^-42 grid. With b = ml*rcp, exact (ml is i times
- * m's last place and rcp q*2^-10 below 1, or q*2^-9 above, with |i*q| below 2^53),
- * m*rcp = 1 + r with r = a + b exactly, |r| <= 1.48*2^-10, and
- *   log_B x = (k*log_B(2)hi + Thi) + c*r + r^2*Q(r) + (k*log_B(2)lo + Tlo),
- * c = log_B(e), Q fitted for the base (tools/explog/log10_2_double.sollya). The head H
- * is exact: both terms on the 2^-42 grid (k is the integer itself for Log2).
- * LA: Q of degree 3 with the low parts. HA: degree 4 and c*r
- * carried exactly in effect: b rounded to the 2^-36 grid (bh, with bl = b - bh exact;
- * in the row of 1 its top 26 bits), r' = a + bh exact with 27 bits, r'*chi exact for
- * the 26-bit head of c, H + r'*chi by Fast2Sum (H is 0 or at least of the binade of
- * r'*chi), and the rest small beside it. */
+ * T = -log_B(rcp) + c*a in two parts, Thi on the 2^-42 grid, c = log_B(e). With
+ * b = ml*rcp, exact (ml is i times m's last place and rcp q*2^-10 below 1, or q*2^-9
+ * above, with |i*q| below 2^53), m*rcp = 1 + r with r = a + b exactly, |r| <= 1.48*2^-10,
+ * and log_B(1 + r) = c*r + r^2*Q(r), so that
+ *   log_B x = (k*log_B(2)hi + Thi) + c*b + r^2*Q(r) + (k*log_B(2)lo + Tlo),
+ * Q fitted for the base (tools/explog/log10_2_double.sollya). The head H is exact: both
+ * terms on the 2^-42 grid (k is the integer itself for Log2). c*a in the row leaves c*b
+ * alone to be carried: LA: Q of degree 3 with the low parts. HA: degree 4 and c*b carried
+ * exactly in effect: b's top 26 bits bh (bl = b - bh exact), bh*chi exact for the 26-bit
+ * head of c, H + bh*chi by Fast2Sum (H is 0 or at least of the binade of c*b), and the
+ * rest small beside it. */
 #ifndef BRENN_VECMATH_EXPLOG_LOG_BASE_DOUBLE_H
 #define BRENN_VECMATH_EXPLOG_LOG_BASE_DOUBLE_H
 
@@ -84,29 +84,24 @@ BRENN_VEC __m128d LogBaseOf(__m128d x) {
     __m128d b = Mul(ml, rcp); // exact
     __m128d r = Add(a, b);
     __m128d r2 = Mul(r, r);
+    // The row's T holds c*a already: log_B x = (k*log_B(2) + T) + c*b + r^2*Q(r).
     __m128d h = Add(Mul(k, Set<double>(K::kPerKHi)), th); // exact
+    __m128d tail = Add(Mul(k, Set<double>(K::kPerKLo)), tl);
     static_assert(L != Level::EP, "EP runs on the rows alone (LogRowsEP)");
     if constexpr (L == Level::LA) {
-        __m128d tail = Add(Mul(k, Set<double>(K::kPerKLo)), tl);
         __m128d small = Add(Mul(r2, Estrin(r, K::kLA)), tail);
-        return Add(h, Add(Mul(r, Set<double>(K::kPerLn)), small));
+        return Add(h, Add(Mul(b, Set<double>(K::kPerLn)), small));
     } else {
-        // b to the 2^-36 grid by the shifter 1.5*2^16 (|b| <= 2^-10), so that a + bh is
-        // exact. In the row of 1 (a = 0, k = 0: x within 2^-9 of 1) the result is c*b and
-        // the small terms, and b's head is its top 26 bits instead, so that what is left
-        // is below 2^-26 of it however small b is.
-        const __m128d bs = Set<double>(0x1.8p16);
-        __m128d bh =
-            IfThenElse(Eq(a, Zero<double>()), And(b, AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull))),
-                       Sub(Add(b, bs), bs));
+        // c*b carried exactly in effect: b's top 26 bits bh (bl = b - bh exact), bh*chi
+        // exact for the 26-bit head of c, and h + bh*chi by Fast2Sum (h is 0 in the row of
+        // 1, or at least of the binade of c*b: |T| is about log_B of the row's centre).
+        __m128d bh = And(b, AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull)));
         __m128d bl = Sub(b, bh);
-        __m128d rh = Add(a, bh);                        // exact: 27 bits
-        __m128d ph = Mul(rh, Set<double>(K::kPerLnHi)); // exact
+        __m128d ph = Mul(bh, Set<double>(K::kPerLnHi)); // exact
         __m128d s = Add(h, ph);
         __m128d err = Sub(ph, Sub(s, h));
-        __m128d tail = Add(Mul(k, Set<double>(K::kPerKLo)), tl);
         __m128d lo =
-            Add(Add(Mul(rh, Set<double>(K::kPerLnLo)), Mul(bl, Set<double>(K::kPerLn))), tail);
+            Add(Add(Mul(bh, Set<double>(K::kPerLnLo)), Mul(bl, Set<double>(K::kPerLn))), tail);
         __m128d small = Add(Mul(r2, Estrin(r, K::kHA)), lo);
         return Add(s, Add(err, small));
     }
