@@ -8,7 +8,7 @@
 //   into a high part on the grid of 2^-42 (so that k*ln2hi + high is exact) and the
 //   rounded rest;
 //   the 128 rows of the scalar logarithm: the same for the middles c = 1 + (2j+1)/256;
-//   the rows of the double Log10 and Log2: for c = (510 + j)/512 a reciprocal rounded
+//   the rows of the double Log10 and Log2: for c = 1 + j/512 a reciprocal rounded
 //   to 10 bits, a = c times it less 1 (exact), and T = -log_B of the reciprocal plus
 //   a*log_B(e) in two parts as above;
 //   the rows of the single Log10 and Log2 HA: for c = 1 + j/512 the reciprocal of lnRows
@@ -123,8 +123,8 @@ void LogRows128(FILE* out, const char* name) {
     mpfr_clears(c, rcp, l, (mpfr_ptr)0);
 }
 
-// Rows of dLog10 and dLog2: for the centres c = (510 + j)/512, j = 0..510 (m in
-// [510/512, 1020/512)), the reciprocal of c rounded to 10 bits (so that (m - c)*rcp is
+// Rows of dLog10 and dLog2: for the centres c = 1 + j/512, j = 0..511 (m in
+// [1 - 2^-10, 2 - 2^-10)), the reciprocal of c rounded to 10 bits (so that (m - c)*rcp is
 // exact, and c*rcp on the grid of 2^-19), a = c*rcp - 1 (exact), and
 // T = -log_B(rcp) + a*log_B(e), the row's constant of log_B x = k*log_B(2) + T +
 // log_B(e)*b + (r^2 terms), r = a + b, as a high part on the grid of 2^-42 (so that
@@ -135,7 +135,7 @@ void LogBaseRows(FILE* out, const char* name, long n, int base) {
     mpfr_init2(rcp, 10);
     std::fprintf(out, "alignas(32) const double %s[%ld][4] = {\n", name, n);
     for (long j = 0; j < n; ++j) {
-        mpfr_set_si(c, 510 + j, MPFR_RNDN);
+        mpfr_set_si(c, 512 + j, MPFR_RNDN);
         mpfr_div_si(c, c, 512, MPFR_RNDN);
         mpfr_ui_div(rcp, 1, c, MPFR_RNDN); // 10 bits
         mpfr_mul(a, c, rcp, MPFR_RNDN);    // exact at kPrec
@@ -208,8 +208,8 @@ int main(int argc, char** argv) {
     ExpTableD(out, "expTable1024", 1024, false);
     LogRows(out, "lnRows", 512);
     LogRows128(out, "lnTable128");
-    LogBaseRows(out, "log10Rows", 511, 10);
-    LogBaseRows(out, "log2Rows", 511, 2);
+    LogBaseRows(out, "log10Rows", 512, 10);
+    LogBaseRows(out, "log2Rows", 512, 2);
     LogBaseRowsF(out, "log10RowsF", 512, 10);
     LogBaseRowsF(out, "log2RowsF", 512, 2);
     std::fprintf(out, "} // namespace brenn::vm\n");

@@ -2530,9 +2530,7 @@ alignas(32) const double lnTable128[128][3] = {
     {0x1.008040201p-1, 0x1.61e3efda468p-1, -0x1.4cb436e4fdbbfp-44},
 };
 
-alignas(32) const double log10Rows[511][4] = {
-    {0x1.01p+0, -0x1p-16, -0x1.bd96a0f9p-10, -0x1.f57b6eaeb29e6p-44},
-    {0x1.008p+0, -0x1p-18, -0x1.bd27044p-11, -0x1.8c149fe8cb044p-46},
+alignas(32) const double log10Rows[512][4] = {
     {0x1p+0, 0x0p+0, 0x0p+0, 0x0p+0},
     {0x1.ffp-1, -0x1p-18, 0x1.bc48a884p-11, -0x1.5869bac5bf1d9p-44},
     {0x1.fep-1, -0x1p-16, 0x1.bbd9ea27p-10, -0x1.e28a39582e48ap-44},
@@ -3042,11 +3040,12 @@ alignas(32) const double log10Rows[511][4] = {
     {0x1.018p-1, -0x1.2p-15, 0x1.31a42b3f36p-2, 0x1.d2e9eee447f1bp-47},
     {0x1.018p-1, 0x1.f1p-11, 0x1.3213fff06dp-2, 0x1.48a734b766ab4p-45},
     {0x1.01p-1, -0x1p-16, 0x1.32839e68fep-2, 0x1.1482ab9b305ep-45},
+    {0x1.01p-1, 0x1.fap-11, 0x1.32f33b833fp-2, 0x1.2c02276cb5443p-46},
+    {0x1.008p-1, -0x1p-18, 0x1.3362a187d8p-2, -0x1.e348637de7f3bp-44},
+    {0x1.008p-1, 0x1.ffp-11, 0x1.33d2070b22p-2, 0x1.343fa81e17f9p-44},
 };
 
-alignas(32) const double log2Rows[511][4] = {
-    {0x1.01p+0, -0x1p-16, -0x1.720d9b4ep-8, 0x1.402db87658537p-47},
-    {0x1.008p+0, -0x1p-18, -0x1.71b0ea2cp-9, 0x1.7a6cdd5cdb94fp-44},
+alignas(32) const double log2Rows[512][4] = {
     {0x1p+0, 0x0p+0, 0x0p+0, 0x0p+0},
     {0x1.ffp-1, -0x1p-18, 0x1.70f840078p-9, 0x1.e50c5388fff49p-44},
     {0x1.fep-1, -0x1p-16, 0x1.709c47904p-8, 0x1.57dba8d7a1288p-44},
@@ -3556,6 +3555,9 @@ alignas(32) const double log2Rows[511][4] = {
     {0x1.018p-1, -0x1.2p-15, 0x1.fba8c063a2p-1, 0x1.47fa98e5a8f71p-45},
     {0x1.018p-1, 0x1.f1p-11, 0x1.fc627f9e24p-1, 0x1.750df19995a9ep-44},
     {0x1.01p-1, -0x1p-16, 0x1.fd1be4c964p-1, 0x1.402db87658537p-47},
+    {0x1.01p-1, 0x1.fap-11, 0x1.fdd547aec88p-1, 0x1.4e97f1ca74fa9p-46},
+    {0x1.008p-1, -0x1p-18, 0x1.fe8e4f15d4p-1, 0x1.7a6cdd5cdb94fp-44},
+    {0x1.008p-1, 0x1.ffp-11, 0x1.ff4755a61bp-1, 0x1.009cc2fdbecfp-44},
 };
 
 alignas(16) const double log10RowsF[513][2] = {

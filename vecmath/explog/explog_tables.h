@@ -11,7 +11,7 @@
  *                          and a pad, so that a row is 32 bytes;
  *   lnTable128[j]          = the same three values for the centre c = 1 + (2j + 1)/256,
  *                          the rows of the scalar logarithm;
- *   log10Rows[j], log2Rows[j] = for c = (510 + j)/512: a reciprocal of c to 10 bits,
+ *   log10Rows[j], log2Rows[j] = for c = 1 + j/512, j < 512: a reciprocal of c to 10 bits,
  *                          a = c times it less 1 (exact), -log_B(reciprocal) + a*log_B(e)
  *                          as a high part on the 2^-42 grid and the rest;
  *   log10RowsF[j], log2RowsF[j] = for c = 1 + j/512: lnRows' reciprocal of c and
@@ -31,8 +31,8 @@ extern const double expRelTable256[256][2];
 extern const double expTable1024[1024];
 extern const double lnRows[513][4];
 extern const double lnTable128[128][3];
-extern const double log10Rows[511][4];
-extern const double log2Rows[511][4];
+extern const double log10Rows[512][4];
+extern const double log2Rows[512][4];
 extern const double log10RowsF[513][2];
 extern const double log2RowsF[513][2];
 

@@ -1,10 +1,10 @@
 /* The double Log10 and Log2 on rows of their own base (log10Rows, log2Rows).
  *
- * x = 2^k * m, m in [1 - 2^-8, 2 - 2^-7), mh = m rounded to 9 fraction bits and
- * ml = m - mh; the row of mh holds rcp, 1/mh to 10 bits, a = mh*rcp - 1 (exact) and
+ * x = 2^k * m, m in [1 - 2^-10, 2 - 2^-10), mh = m rounded to 9 fraction bits (1 + j/512,
+ * j = 0 to 511) and ml = m - mh; the row of mh holds rcp, 1/mh to 10 bits, a = mh*rcp - 1 (exact) and
  * T = -log_B(rcp) + c*a in two parts, Thi on the 2^-42 grid, c = log_B(e). With
- * b = ml*rcp, exact (ml is i times m's last place and rcp q*2^-10 below 1, or q*2^-9
- * above, with |i*q| below 2^53), m*rcp = 1 + r with r = a + b exactly, |r| <= 1.48*2^-10,
+ * b = ml*rcp, exact (|ml| <= 2^-10 on the grid of 2^-53 and rcp of 10 bits), m*rcp = 1 + r
+ * with r = a + b exactly, |r| <= 1.5*2^-10,
  * and log_B(1 + r) = c*r + r^2*Q(r), so that
  *   log_B x = (k*log_B(2)hi + Thi) + c*b + r^2*Q(r) + (k*log_B(2)lo + Tlo),
  * Q fitted for the base (tools/explog/log10_2_double.sollya). The head H is exact: both
@@ -62,25 +62,28 @@ template <int Base, Level L>
 BRENN_VEC __m128d LogBaseOf(__m128d x) {
     using F = Format<double>;
     using K = LogRowsD<Base>;
-    // x = 2^k * m with m in [c0, 2*c0), c0 = 1 - 2^-8: the bits of x moved by those of
-    // 1 less those of c0, so that the exponent field is k + 1023, and the significand's
-    // bits put back on c0's. x near 1 on either side then has k = 0 and a row whose
-    // reciprocal is near 1, where a is at most 2^-16 and c*r and the head do not cancel.
-    constexpr uint64_t kC0 = 0x3FEFE00000000000ull;
-    const I64x2 d = Add(AsInt(x), Set<uint64_t>(F::kOne - kC0));
-    __m128d m = AsFloat(Add(And(d, Set<uint64_t>(F::kMant)), Set<uint64_t>(kC0)));
-    // k: the exponent field put under the bits of 2^52, less 2^52 + 1023 (exact).
-    I64x2 e = ShiftRight<F::kMantBits>(d);
-    __m128d k = Sub(AsFloat(Or(e, AsInt(Set<double>(0x1p52)))), Set<double>(0x1p52 + F::kBias));
-    const __m128d sh = Set<double>(0x1p43); // rounds m to 2^-9
-    __m128d ts = Add(m, sh);
-    __m128d ml = Sub(m, Sub(ts, sh));
-    const I64x2 ti = AsInt(ts);
-    const double* ra = K::kRows[LowWord<0>(ti) - 510];
-    const double* rb = K::kRows[LowWord<1>(ti) - 510];
+    // x's fraction rounded to 9 bits by adding half of 2^-9 to its bits: the row j (0 to
+    // 511) is in bits 43 to 51 of the sum, its byte offset a shift and a mask away (two
+    // integer steps after x's bits, in the low word of each lane: an address as it is
+    // moved out), and a carry out of the fraction lands in the exponent, so that k is the
+    // sum's exponent, m = x*2^-k lies in [1 - 2^-10, 2 - 2^-10) and mh = 1 + j/512 is the
+    // sum's fraction bits from 43 up. x near 1 on either side has k = 0 and the row of 1.
+    const I64x2 xi = AsInt(x);
+    const I64x2 x1 = Add(xi, Set<uint64_t>(1ull << (F::kMantBits - 10)));
+    const I64x2 off = And(ShiftRight<F::kMantBits - 9 - 5>(x1), Set<uint64_t>(511ull << 5));
+    const char* rows = reinterpret_cast<const char*>(K::kRows);
+    const double* ra = reinterpret_cast<const double*>(rows + uint64_t(_mm_cvtsi128_si64(off.v)));
+    const double* rb =
+        reinterpret_cast<const double*>(rows + uint64_t(_mm_extract_epi64(off.v, 1)));
     __m128d rcp, a, th, tl;
     LoadTransposed(ra, rb, rcp, a);
     LoadTransposed(ra + 2, rb + 2, th, tl);
+    const I64x2 e1 = And(x1, Set<uint64_t>(F::kExpField));
+    __m128d m = AsFloat(Add(Sub(xi, e1), Set<uint64_t>(F::kOne)));
+    __m128d mh = AsFloat(Or(And(x1, Set<uint64_t>(0x000FF80000000000ull)), Set<uint64_t>(F::kOne)));
+    __m128d ml = Sub(m, mh); // exact
+    __m128d k = Sub(AsFloat(Or(ShiftRight<F::kMantBits>(e1), AsInt(Set<double>(0x1p52)))),
+                    Set<double>(0x1p52 + F::kBias));
     __m128d b = Mul(ml, rcp); // exact
     __m128d r = Add(a, b);
     __m128d r2 = Mul(r, r);
