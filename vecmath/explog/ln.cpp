@@ -75,7 +75,8 @@ inline __m128d LnOf(__m128d x) {
         return LogRowsEP<5>(x, lnRows, K::kLn2, K::kEP);
     } else {
         __m128d h, l;
-        LnCore<L>(x, h, l);
+        I64x2 x1;
+        LnCoreFrom<L>(LnReduceBits(x, x1), h, l);
         return Add(h, l);
     }
 }

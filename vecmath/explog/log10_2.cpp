@@ -87,15 +87,14 @@ inline __m128 LogOfSingleLanes(__m128 x) {
     using F = Format<float>;
     using K = LogBase<Base>;
     const I32x4 b = AsInt(x);
-    I32x4 mant = And(b, Set<uint32_t>(F::kMant));
-    __m128 m = AsFloat(Or(mant, Set<uint32_t>(F::kOne)));
-    I32x4 k = Sub(ShiftRight<F::kMantBits>(b), Set<int32_t>(F::kBias));
+    const I32x4 b1 = Add(b, Set<int32_t>(1 << (F::kMantBits - 10)));
+    const I32x4 e1 = And(b1, Set<uint32_t>(F::kExpField));
+    __m128 m = AsFloat(Add(Sub(b, e1), Set<uint32_t>(F::kOne)));
+    I32x4 k = Sub(ShiftRight<F::kMantBits>(e1), Set<int32_t>(F::kBias));
     // The rows' byte offsets, j*16, formed in the vector and taken out two at a time
     // (unsigned, so that each widens to an address as it is moved).
     static_assert(sizeof(K::kRowsF[0]) == 16, "rows of 16 bytes");
-    I32x4 off =
-        And(ShiftRight<F::kMantBits - 9 - 4>(Add(mant, Set<int32_t>(1 << (F::kMantBits - 10)))),
-            Set<int32_t>(~15));
+    I32x4 off = And(ShiftRight<F::kMantBits - 9 - 4>(b1), Set<int32_t>(511 << 4));
     const uint64_t o01 = uint64_t(_mm_cvtsi128_si64(off.v));
     const uint64_t o23 = uint64_t(_mm_extract_epi64(off.v, 1));
     const char* rows = reinterpret_cast<const char*>(K::kRowsF);

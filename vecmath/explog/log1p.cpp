@@ -223,8 +223,9 @@ inline __m128d Log1pOf(__m128d x, __m128d& special) {
     // exact for |k| <= 43 (mh on the 2^-9 grid; beyond, k > 43 and its rounding is far
     // below the result's last place) and x*2^-k is exact, so that the rounding of u
     // itself does not reach r.
-    LnReduction red = LnReduce(u);
-    __m128d s = InverseOfField(And(AsInt(u), Set<uint64_t>(F::kExpField)));
+    I64x2 u1;
+    LnReduction red = LnReduceBits(u, u1);
+    __m128d s = InverseOfField(And(u1, Set<uint64_t>(F::kExpField)));
     red.ml = Add(Sub(s, red.mh), Mul(xs, s));
     __m128d h, r, small;
     LnCore3From<L>(red, h, r, small);

@@ -156,6 +156,38 @@ BRENN_VEC __m128d LogRowsEP(__m128d x, const double (*rows)[W], double perK, con
     return Add(head, Mul(r, Horner(r, c)));
 }
 
+// The same reduction by x's bits, for the logarithm kernels: x's fraction rounded to 9
+// bits by adding half of 2^-9 to its bits, so that the row j (0 to 511) is two integer
+// steps from x (its byte offset in the low word of each lane, moved out as an address),
+// k is the sum's exponent, m = x*2^-k lies in [1 - 2^-10, 2 - 2^-10) and mh = 1 + j/512
+// is the sum's fraction bits from 43 up: x near 1 on either side has k = 0 and the row
+// of 1 (no k = -1 with the last row, whose heads cancel). The same rows and the same
+// exact steps after it (mh*rcp exact, ml = m - mh exact: |ml| <= 2^-10 on the grid of
+// 2^-53); a shorter way to the loads than the shifter's round trip through m. u1, the
+// sum's bits, is given back for callers that take m otherwise (Log1p).
+BRENN_VEC LnReduction LnReduceBits(__m128d x, I64x2& x1) {
+    using F = Format<double>;
+    LnReduction red;
+    const I64x2 xi = AsInt(x);
+    x1 = Add(xi, Set<uint64_t>(1ull << (F::kMantBits - 10)));
+    static_assert(sizeof(lnRows[0]) == 32, "rows of 32 bytes");
+    const I64x2 off = And(ShiftRight<F::kMantBits - 9 - 5>(x1), Set<uint64_t>(511ull << 5));
+    const char* rows = reinterpret_cast<const char*>(lnRows);
+    const double* ra = reinterpret_cast<const double*>(rows + uint64_t(_mm_cvtsi128_si64(off.v)));
+    const double* rb =
+        reinterpret_cast<const double*>(rows + uint64_t(_mm_extract_epi64(off.v, 1)));
+    __m128d pad;
+    LoadTransposed(ra, rb, red.rcp, red.th);
+    LoadTransposed(ra + 2, rb + 2, red.tl, pad);
+    const I64x2 e1 = And(x1, Set<uint64_t>(F::kExpField));
+    __m128d m = AsFloat(Add(Sub(xi, e1), Set<uint64_t>(F::kOne)));
+    red.mh = AsFloat(Or(And(x1, Set<uint64_t>(0x000FF80000000000ull)), Set<uint64_t>(F::kOne)));
+    red.ml = Sub(m, red.mh);
+    red.k = Sub(AsFloat(Or(ShiftRight<F::kMantBits>(e1), AsInt(Set<double>(0x1p52)))),
+                Set<double>(0x1p52 + F::kBias));
+    return red;
+}
+
 // ln x = h + r + t from the reduction, h exact and |t| << |r|: the three terms for the
 // exact scaling. EP: cubic and no low parts (about 2^-33).
 template <Level L>
