@@ -246,10 +246,8 @@ inline __m128 WidenToDouble(__m128 x, Core core) {
 // rows 0 and 512 (rcp 1 and 1/2), where x is near 1 and ln x small; there the heads
 // k*ln2hi + Thi cancel exactly (both on the 2^-42 grid). `half(lo, hi)` receives ln of
 // lanes 0-1 and 2-3.
-// With kLow, the logarithm is that of x + c for a single c below half an ulp of x: c
-// scaled by 2^-k joins m in double, where m + c*2^-k is exact whenever x + c is a double.
-template <bool kLow, class Half>
-inline __m128 LnOfSingleLanesPlus(__m128 x, __m128 c, Half half) {
+template <class Half>
+inline __m128 LnOfSingleLanes(__m128 x, Half half) {
     using F = Format<float>;
     using K = LogConst<double>;
     const I32x4 b = AsInt(x);
@@ -258,12 +256,9 @@ inline __m128 LnOfSingleLanesPlus(__m128 x, __m128 c, Half half) {
     I32x4 k = Sub(ShiftRight<F::kMantBits>(b), Set<int32_t>(F::kBias));
     I32x4 j = ShiftRight<F::kMantBits - 9>(Add(mant, Set<int32_t>(1 << (F::kMantBits - 10))));
     Indices at = IndicesOf(j);
-    __m128 cs;
-    if constexpr (kLow) cs = Mul(c, InverseBinade(x)); // c*2^-k
     __m128d lnv[2];
     for (int h = 0; h < 2; ++h) {
         __m128d md = h == 0 ? WidenLower(m) : WidenUpper(m);
-        if constexpr (kLow) md = Add(md, h == 0 ? WidenLower(cs) : WidenUpper(cs));
         __m128d kd = h == 0 ? ToDoubleLower(k) : ToDoubleUpper(k);
         __m128d rcp, th;
         LoadTransposed(lnRows[at.at[2 * h]], lnRows[at.at[2 * h + 1]], rcp, th);
@@ -272,10 +267,6 @@ inline __m128 LnOfSingleLanesPlus(__m128 x, __m128 c, Half half) {
         lnv[h] = Add(Add(Mul(kd, Set<double>(K::kLn2Hi)), th), p);
     }
     return half(lnv[0], lnv[1]);
-}
-template <class Half>
-inline __m128 LnOfSingleLanes(__m128 x, Half half) {
-    return LnOfSingleLanesPlus<false>(x, x, half);
 }
 
 // Scalar ln in double for any input: NaN quieted, +inf, -inf for zero, NaN for negatives;
