@@ -111,6 +111,29 @@ TEST(IntegerLanes, LowWordProductsIgnoreTheHighWords) {
               (std::vector<int64_t>{int64_t(0xFFFFFFFE00000001ull), 3 * 0xFFFFFFFFll}));
 }
 
+// The 16-bit products in both halves: kd * 0x5556 splits kd (3 to 256, the single cube
+// root's biased exponent plus 2) into kd / 3 (high half) and kd % 3 (bits 10 and 11 of the
+// low half), which picks the entry of a four-entry table whatever the lane's other bits.
+TEST(IntegerLanes, SixteenBitProductsDivideByThreeAndPickATableEntry) {
+    const I32x4 table = {_mm_setr_epi32(0x11223344, 0x55667788, int32_t(0x99AABBCC), 0x0DEADBEE)};
+    const int32_t entries[4] = {0x11223344, 0x55667788, int32_t(0x99AABBCC), 0x0DEADBEE};
+    for (int kd = 3; kd <= 256; kd += 4) {
+        const I32x4 k = {_mm_setr_epi32(kd, kd + 1, kd + 2, kd + 3)};
+        const I32x4 third = Set<int32_t>(0x5556);
+        const std::vector<int32_t> q = Lanes32(MulHigh16(k, third));
+        const std::vector<int32_t> at = Lanes32(LookupFourBySecondByte(table, MulLow16(k, third)));
+        for (int i = 0; i < 4; ++i) {
+            if (kd + i > 256) break;
+            EXPECT_EQ(q[i], (kd + i) / 3) << kd + i;
+            EXPECT_EQ(at[i], entries[(kd + i) % 3]) << kd + i;
+        }
+    }
+    // Only bits 10 and 11 select: every other bit of the lane set or clear.
+    const I32x4 j = {_mm_setr_epi32(int32_t(0xFFFFF3FFu), 0x00000400, int32_t(0xA5A5FBFFu), 0x00000C00)};
+    EXPECT_EQ(Lanes32(LookupFourBySecondByte(table, j)),
+              (std::vector<int32_t>{entries[0], entries[1], entries[2], entries[3]}));
+}
+
 TEST(IntegerLanes, BlendsAndMasksByLane) {
     I32x4 m = {_mm_set_epi32(0, INT_MIN, 0, -1)}; // the sign bit alone selects
     I32x4 r = IfThenElse(m, Set<int32_t>(7), Set<int32_t>(9));

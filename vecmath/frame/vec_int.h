@@ -84,12 +84,26 @@ BRENN_VEC I32x4 MulLow16(I32x4 a, I32x4 b) {
     return {_mm_mullo_epi16(a.v, b.v)};
 }
 
+// The high 16 bits of the unsigned products of the 16-bit halves (pmulhuw): with
+// MulLow16 on the same operands, both halves of each 32-bit product.
+BRENN_VEC I32x4 MulHigh16(I32x4 a, I32x4 b) {
+    return {_mm_mulhi_epu16(a.v, b.v)};
+}
+
 // Lane j of a four-entry table in each 32-bit lane, for j in 0 to 3: a byte shuffle of
 // the table by the lane's bytes 4j to 4j + 3.
 BRENN_VEC I32x4 LookupFour(I32x4 table, I32x4 j) {
     const __m128i first = _mm_setr_epi8(0, 0, 0, 0, 4, 4, 4, 4, 8, 8, 8, 8, 12, 12, 12, 12);
     __m128i at = _mm_shuffle_epi8(_mm_slli_epi32(j.v, 2), first);
     return {_mm_shuffle_epi8(table.v, _mm_add_epi8(at, _mm_set1_epi32(0x03020100)))};
+}
+// The same with j in bits 10 and 11 of each lane, bits 2 and 3 of its second byte (the
+// byte's other bits, and the lane's other bytes, anything): that byte spread over the
+// lane, masked to 4j and given the byte offsets 0 to 3.
+BRENN_VEC I32x4 LookupFourBySecondByte(I32x4 table, I32x4 b) {
+    const __m128i second = _mm_setr_epi8(1, 1, 1, 1, 5, 5, 5, 5, 9, 9, 9, 9, 13, 13, 13, 13);
+    __m128i at = _mm_and_si128(_mm_shuffle_epi8(b.v, second), _mm_set1_epi8(0x0C));
+    return {_mm_shuffle_epi8(table.v, _mm_or_si128(at, _mm_set1_epi32(0x03020100)))};
 }
 // The same into the high word of each 64-bit lane, for j in 0 to 3 in the lane's low word;
 // the low word 0 (the high half of a double from a table of four, in four operations).

@@ -166,13 +166,14 @@ BRENN_VEC __m128d RootOf(__m128d ax) {
 }
 
 // The single-lane form, positive normal |x|, all in integer lanes up to the seed: the
-// biased exponent plus 2 (3 to 256) is 3q' + j with q' = q + 43, q' = (k*171) >> 9
-// (exact over that range, the product within each lane's low 16 bits, so one 16-bit
-// multiply serves); M = m * 2^j by j put into m's exponent field, and the seed's scale
-// 2^(-j/3) by a byte shuffle of a four-entry table. Then the series in single (LA, within
+// biased exponent plus 2 (3 to 256) is kd = 3q' + j with q' = q + 43, and kd*0x5556 =
+// q'*2^16 + (2q' + 21846j) in 16-bit halves (the low half below 2^16: one pair of 16-bit
+// multiplies serves), so that the high half is q' and bits 10 and 11 of the low one are j;
+// M = m * 2^j by j put into m's exponent field, and the seed's scale 2^(-j/3) by a byte
+// shuffle of a four-entry table on those bits. Then the series in single (LA, within
 // about 2 ulp; EP takes the seed's products alone, 13 bits, or for Cbrt a cubic in m of
-// its own) or, `Wide`, a fitted line in
-// place of its first two terms on widened lanes, rounded once to single (HA).
+// its own) or, `Wide`, a fitted line in place of its first two terms on widened lanes,
+// rounded once to single (HA).
 constexpr float kRootSeedS[] = {0x1.ab85acp0f, -0x1.2c4234p0f, 0x1.641702p-1f, -0x1.c519b2p-3f,
                                 0x1.d47154p-6f};
 // 2^(-j/3) for j = 0, 1, 2 (the fourth entry unused).
@@ -182,25 +183,30 @@ alignas(16) constexpr float kRootScaleS[4] = {1.0f, 0x1.965feap-1f, 0x1.428a3p-1
 // (relative error 2^-13.75), times 2^(j/3): the root of M without the seed's square and
 // its product with M.
 constexpr float kCbrtEPS[] = {0x1.1b0ba8p-1f, 0x1.2c9a46p-1f, -0x1.4dc31ep-3f, 0x1.7a8d5ep-6f};
-// 2^(j/3) for j = 0, 1, 2 (the fourth entry unused).
-alignas(16) constexpr float kCbrtScaleS[4] = {1.0f, 0x1.428a3p0f, 0x1.965feap0f, 1.0f};
+// 2^(j/3 - 43) for j = 0, 1, 2 (the fourth entry unused): the offset of q' taken with the
+// scale, exactly, so that q' goes into the exponent field as it is.
+alignas(16) constexpr float kCbrtScaleS[4] = {0x1p-43f, 0x1.428a3p-43f, 0x1.965feap-43f, 0x1p-43f};
 
 template <Root R, int Terms, bool Wide>
 inline __m128 RootOf(__m128 ax) {
     using F = Format<float>;
     const I32x4 xi = AsInt(ax);
     const I32x4 kd = Add(ShiftRight<F::kMantBits>(xi), Set<int32_t>(2));
-    const I32x4 qd = ShiftRight<9>(MulLow16(kd, Set<int32_t>(171)));
-    const I32x4 j = Sub(kd, Add(qd, Add(qd, qd)));
+    const I32x4 third = Set<int32_t>(0x5556);
+    const I32x4 qd = MulHigh16(kd, third);
+    const I32x4 jbits = MulLow16(kd, third); // j in bits 10 and 11
     const I32x4 mant = And(xi, Set<uint32_t>(F::kMant));
     const __m128 m = AsFloat(Or(mant, Set<uint32_t>(F::kOne)));
     __m128 v;
     if constexpr (R == Root::Cbrt && Terms == 0 && !Wide) {
-        v = Mul(Estrin(m, kCbrtEPS), AsFloat(LookupFour(AsInt(Load(kCbrtScaleS)), j)));
-        return AsFloat(Add(AsInt(v), ShiftLeft<F::kMantBits>(Sub(qd, Set<int32_t>(43)))));
+        v = Mul(Estrin(m, kCbrtEPS), AsFloat(LookupFourBySecondByte(AsInt(Load(kCbrtScaleS)), jbits)));
+        return AsFloat(Add(AsInt(v), ShiftLeft<F::kMantBits>(qd)));
     }
-    const __m128 bigM = AsFloat(Or(mant, ShiftLeft<F::kMantBits>(Add(j, Set<int32_t>(F::kBias)))));
-    const __m128 z = Mul(Estrin(m, kRootSeedS), AsFloat(LookupFour(AsInt(Load(kRootScaleS)), j)));
+    // M = m * 2^j: bits 10 and 11 of jbits moved to 23 and 24 and added to m's exponent.
+    const I32x4 jfield = And(ShiftLeft<F::kMantBits - 10>(jbits), Set<int32_t>(3 << F::kMantBits));
+    const __m128 bigM = AsFloat(Add(AsInt(m), jfield));
+    const __m128 z =
+        Mul(Estrin(m, kRootSeedS), AsFloat(LookupFourBySecondByte(AsInt(Load(kRootScaleS)), jbits)));
     if constexpr (Wide)
         v = Narrow(RootFinishLine<R>(WidenLower(z), WidenLower(bigM)),
                    RootFinishLine<R>(WidenUpper(z), WidenUpper(bigM)));
