@@ -61,6 +61,7 @@ struct GammaData<long double> {
     };
     static constexpr long double kHalfLn2PiLessHalf = 0.41893853320467274178032973640561764L;
     static constexpr long double kPi = 3.14159265358979323846264338327950288L;
+    static constexpr long double kInvPi = 0.318309886183790671537767526745028724L;
     // sin(pi r) = r P(r^2) on |r| <= 1/2, by tools/gamma/sinpi.sollya (2^-65.8 relative)
     static constexpr long double kSinPi[11] = {
         0x1.921fb54442d1846ap1L,    -0x1.4abbce625be52c2cp2L,   0x1.466bc6775aae47dp1L,
@@ -84,6 +85,7 @@ struct GammaData<long double> {
     static constexpr auto kSinPiP = SplitPoly<4>(kSinPi);
     static constexpr Ext2 kHalfLn2PiLessHalf2 = Split2(kHalfLn2PiLessHalf);
     static constexpr Ext2 kPi2 = Split2(kPi);
+    static constexpr Ext2 kInvPi2 = Split2(kInvPi);
     static constexpr Ext2 kLn2Lo2 = Split2(kLn2Lo);
 };
 
@@ -111,6 +113,7 @@ struct GammaData<double> {
     static constexpr const double (&kStirlingD)[4] = kStirling;
     static constexpr double kHalfLn2PiLessHalf = 0.41893853320467274178;
     static constexpr double kPi = 3.14159265358979323846;
+    static constexpr double kInvPi = 0.31830988618379067154;
     static constexpr double kLn2Hi = 0x1.6p-1;
     static constexpr double kLn2Lo = 0.0056471805599453094172;
 };
