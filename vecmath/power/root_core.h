@@ -79,11 +79,15 @@ BRENN_VEC V RootFinish(V z, V bigM) {
 // The single HA step on widened lanes: lead*p(e), p the line fitted to (1 + e)^(-2/3) or
 // (1 + e)^(-1/3) by tools/power/cbrt_single_wide.sollya (2^-27.9 and 2^-29.1 relative),
 // written as lead*((p0 - p1) + p1*M*z^3), so that M*z^3 is not formed apart from the lead:
-// a chain of five operations.
+// a chain of five operations. The result comes times 2^-43q'', the offset of the single
+// form's exponent (2^-43 for Cbrt, 2^43 for InvCbrt, 2^-86 for Pow2o3), taken exactly
+// with k and p1 (the result stays a normal single), so that q' goes into the exponent
+// field as it is.
 template <Root R>
 inline __m128d RootFinishLine(__m128d z, __m128d bigM) {
-    constexpr double p1 = R == Root::Cbrt ? -0x1.5555557cd6e9ep-1 : -0x1.555555781948bp-2;
-    constexpr double k = R == Root::Cbrt ? 0x1.aaaaaad032916p0 : 0x1.5555556522c3fp0;
+    constexpr double s = R == Root::Cbrt ? 0x1p-43 : R == Root::InvCbrt ? 0x1p43 : 0x1p-86;
+    constexpr double p1 = s * (R == Root::Cbrt ? -0x1.5555557cd6e9ep-1 : -0x1.555555781948bp-2);
+    constexpr double k = s * (R == Root::Cbrt ? 0x1.aaaaaad032916p0 : 0x1.5555556522c3fp0);
     const __m128d z2 = Mul(z, z);
     __m128d lead, t;
     if constexpr (R == Root::Cbrt) {
@@ -207,11 +211,14 @@ inline __m128 RootOf(__m128 ax) {
     const __m128 bigM = AsFloat(Add(AsInt(m), jfield));
     const __m128 z =
         Mul(Estrin(m, kRootSeedS), AsFloat(LookupFourBySecondByte(AsInt(Load(kRootScaleS)), jbits)));
-    if constexpr (Wide)
+    if constexpr (Wide) {
         v = Narrow(RootFinishLine<R>(WidenLower(z), WidenLower(bigM)),
                    RootFinishLine<R>(WidenUpper(z), WidenUpper(bigM)));
-    else
-        v = RootFinish<R, Terms>(z, bigM);
+        // q' itself, negated or doubled: the offset came with the line's constants.
+        if constexpr (R == Root::InvCbrt) return AsFloat(Sub(AsInt(v), ShiftLeft<F::kMantBits>(qd)));
+        return AsFloat(Add(AsInt(v), ShiftLeft<F::kMantBits + (R == Root::Pow2o3)>(qd)));
+    }
+    v = RootFinish<R, Terms>(z, bigM);
     // The exponent q = q' - 43, negated for InvCbrt and doubled for Pow2o3.
     I32x4 q = Sub(qd, Set<int32_t>(43));
     if constexpr (R == Root::InvCbrt) q = Sub(Set<int32_t>(0), q);
