@@ -130,9 +130,9 @@ struct LGammaBody {
     static constexpr CsrRule kCsr = CsrRule::Untouched;
     static constexpr X87Rule kX87 = X87Rule::Extended;
     static int Scalar(const T* a, T* y) { return LGammaOf(*a, y); }
-    // Single elements sorted by their path (each.h); below 32 in magnitude none but the
-    // poles reports.
-    static constexpr int kBuckets = sizeof(T) == 4 ? 65 : 0;
+    // Elements sorted by their path (each.h); below 32 in magnitude none but the poles
+    // reports.
+    static constexpr int kBuckets = 65;
     static int Bucket(T x) { return FloorBucket<T, 32>(x, false); }
 };
 
