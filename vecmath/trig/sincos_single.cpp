@@ -2,9 +2,9 @@
  *
  * Short path (|x| <= 10000): sine takes x with its sign, n = round(x/pi) by the shifter
  * and r = x - n pi, both odd in x, and sin x = (-1)^n sin r; cosine takes a = |x|,
- * n = floor(a/pi) + 1/2 (the half-integer nearest a/pi, by truncation) and
- * cos a = -(-1)^floor(a/pi) sin(a - n pi), reduced as n pi - a for the minus sign. r lies
- * in [-pi/2, pi/2]; an odd series in r.
+ * n = floor(a/pi) + 1/2 (the half-integer nearest a/pi; floor's parity from its sum with
+ * 1.5 * 2^22) and cos a = -(-1)^floor(a/pi) sin(a - n pi), reduced as n pi - a for the
+ * minus sign. r lies in [-pi/2, pi/2]; an odd series in r.
  * EP: pi in three single parts, the first two short so that their products with n are
  * exact, and a three-term series (tools/trig/sin_single_ep.sollya). LA: the same
  * reduction, good to 2^-35 absolute, except where a remainder below 2^-9 is seen (a lane
@@ -19,8 +19,8 @@
  * Lanes above 10000 in a block take the vector large path of reduce.h as well, and its
  * results are kept for them by mask: the block stays in vector code. Cosine of
  * arguments below 2^-12 is the constant 1.0 at LA and EP (exact at 0; EP gives +-1
- * within 2^-12 of every multiple of pi); HA's rounding gives 1.0 below 2^-13 by itself. Infinity and NaN go to the
- * scalar routine (NaN with status::kDomain for an infinity). */
+ * within 2^-12 of every multiple of pi); HA's rounding gives 1.0 below 2^-13 by itself.
+ * Infinity and NaN go to the scalar routine (NaN with status::kDomain for an infinity). */
 #include "frame/kernels.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/explog/flat.h"
@@ -45,6 +45,9 @@ constexpr uint32_t kCosOneBits = 0x39800000; // kCosOne's bits
 // n pi - a, is within 2^-12 of +-pi/2, and its square at least (pi/2 - 2^-12)^2, whose
 // bits (rounded down) these are.
 constexpr uint32_t kCosOneSqBits = 0x401DDD55;
+// floor(a/pi) added to 1.5 * 2^22 (whose last bit is 1/2): the sum is exact, and its bit 1
+// is the parity of floor(a/pi).
+constexpr float kHalfShifter = 0x1.8p22f;
 
 // The odd series on r in [-pi/2, pi/2], each as the coefficients of a polynomial in
 // u = r^2, lowest degree first.
@@ -170,11 +173,11 @@ BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p) {
         if (!cosine) BRENN_EACH(k, N) a[k] = Max(a[k], Neg(limit));
     }
     if (cosine) {
-        // a >= 0, so truncation is the floor.
-        I32x4 j[N];
-        BRENN_EACH(k, N) j[k] = TruncToInt(Mul(a[k], Set<float>(kInvPi)));
-        BRENN_EACH(k, N) sign[k] = AsFloat(ShiftLeft<31>(j[k]));
-        BRENN_EACH(k, N) n[k] = Add(ToFloat(j[k]), Set<float>(0.5f));
+        __m128 f[N], t[N];
+        BRENN_EACH(k, N) f[k] = Floor(Mul(a[k], Set<float>(kInvPi)));
+        BRENN_EACH(k, N) t[k] = Add(f[k], Set<float>(kHalfShifter));
+        BRENN_EACH(k, N) sign[k] = AsFloat(ShiftLeft<30>(AsInt(t[k])));
+        BRENN_EACH(k, N) n[k] = Add(f[k], Set<float>(0.5f));
     } else {
         const __m128 shifter = Set<float>(Format<float>::kShifter);
         __m128 t[N];

@@ -1,11 +1,10 @@
 /* Tan in single and double, three levels.
  *
  * Short path, one form for every slot but double HA: n = round(a 2/pi) by the shifter,
- * r = a - n pi/2 with pi/2 in parts, then s/c or, for n odd, -c/s. Single EP reduces in single with
- * pi/2 in three parts (the first two short, so that their products with n are exact), s and c a
- * rational form's numerator and denominator (tools/trig/tan_single_ep.sollya), and a true
- * division (a reciprocal estimate and a Newton step measured slower, 1.50 -> 1.70 ticks an
- * element, and less accurate, 20.7 bits for 20.9). Single LA reduces the same way
+ * r = a - n pi/2 with pi/2 in parts, then s/c or, for n odd, -c/s. Single EP reduces in
+ * single with pi/2 in three parts (the first two short, so that their products with n are
+ * exact) and takes s = r and c = C(r^2), three terms fitted to r cot r
+ * (tools/trig/tan_single_ep.sollya), with a true division. Single LA reduces the same way
  * (a remainder below 2^-9 is redone in double) and takes s = r + r^3 S(r^2) and
  * c = 1 + r^2 C(r^2), a Pade denominator of tan and a numerator fitted to it, in single,
  * with a true division. Single HA widens the argument to double (pi/2 in two parts) and
@@ -25,7 +24,7 @@
  * large reduction of reduce.h in the same block, which gives the same J and r, and every
  * kernel finishes those by TanSum.
  *
- * Measured (brenn_accuracy, 250000 inputs a row): sTan EP 20.9 bits, LA 2.96 ulp,
+ * Measured (brenn_accuracy, 250000 inputs a row): sTan EP 15.6 bits, LA 2.96 ulp,
  * HA 0.522 ulp; dTan EP 29.3 bits, LA 1.62 ulp, HA 0.513 ulp. */
 #include <bit>
 
@@ -62,10 +61,10 @@ struct TanShort<double> {
                                            0x1.8cc51701b839ap-72};
 };
 
-// Single EP: tan r ~ r (a0 + a1 u) / (1 + b0 u + b1 u^2), u = r^2, on [-pi/4, pi/4].
-// tools/trig/tan_single_ep.sollya states the form and measures it.
-constexpr float kTanNum[] = {0x1.fffff8p-1f, -0x1.886768p-4f};
-constexpr float kTanDen[] = {1.0f, -0x1.b76f56p-2f, 0x1.3e66d6p-7f};
+// Single EP: tan r ~ r / C(u), u = r^2, on [-pi/4, pi/4], C of three terms fitted to
+// r cot r for relative error (2^-15.6): the quotient's numerator is r itself.
+// tools/trig/tan_single_ep.sollya.
+constexpr float kTanCot[] = {0x1.fffd66p-1f, -0x1.54c9fcp-2f, -0x1.8f7ab8p-6f};
 // The quotient's sides, s = r + r u S(u) and c = C(u) with C(0) = 1, as sets of
 // coefficients in u, lowest degree first: c a Pade denominator of tan, s fitted to it.
 // tools/trig/tan_quotient.sollya. Double EP (and single HA, in double): s/c good to 29
@@ -85,8 +84,8 @@ struct TanFitSingleLA {
     static constexpr float kS[] = {-0x1.c71c78p-4f, 0x1.156b6ap-10f};
     static constexpr float kC[] = {1.0f, -0x1.c71c72p-2f, 0x1.04104ap-6f};
 };
-// Single EP: the rational form above.
-struct TanRationalEP;
+// Single EP: r / C(u) above.
+struct TanCotEP;
 
 // q[k] = c[0] + u[k] (c[1] + u[k] (...)) for M registers, each step over all of them
 // before the next, so that the chains interleave.
@@ -99,14 +98,14 @@ BRENN_TRIG_HOT void HornerAll(const V* u, const C (&c)[D], V* q) {
         BRENN_EACH(k, M) q[k] = MulAdd(u[k], q[k], Set<T>(T(c[i])));
 }
 
-// The two sides of the quotient, tan r ~ s / c: the single EP rational form, or the two
+// The two sides of the quotient, tan r ~ s / c: r and the single EP C(u), or the two
 // series of a set.
 template <int M, class Sides, class V>
 BRENN_TRIG_HOT void SidesOf(const V* r, const V* u, V* s, V* c) {
     using T = ElemOf<V>;
-    if constexpr (std::is_same_v<Sides, TanRationalEP>) {
-        BRENN_EACH(k, M) s[k] = Mul(r[k], MulAdd(u[k], Set<T>(kTanNum[1]), Set<T>(kTanNum[0])));
-        HornerAll<M>(u, kTanDen, c);
+    if constexpr (std::is_same_v<Sides, TanCotEP>) {
+        BRENN_EACH(k, M) s[k] = r[k];
+        HornerAll<M>(u, kTanCot, c);
     } else if constexpr (std::is_same_v<Sides, TanFitSingleLA>) {
         HornerAll<M>(u, Sides::kS, c);
         BRENN_EACH(k, M) s[k] = Add(r[k], Mul(Mul(r[k], u[k]), c[k]));
@@ -233,9 +232,9 @@ inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
 // cube term is below 2^-11 of r, so that t is rh + (rl + r^3 T) with no further care.
 // t tan A is at most tan(pi/128): it is taken as ah rh + (ah tt + al t), tt the part of t
 // beyond rh, that sum's rounding kept and 1 minus its head carried exactly (the product
-// ah rh alone is rounded, below 2^-59 of the denominator). The numerator's head sum is exact too, and
-// near the zeros and the poles of tan (j = 0) it is t itself, so the result keeps the
-// remainder's full precision there. The quotient is the product by the rounded
+// ah rh alone is rounded, below 2^-59 of the denominator). The numerator's head sum is
+// exact too, and near the zeros and the poles of tan (j = 0) it is t itself, so the result
+// keeps the remainder's full precision there. The quotient is the product by the rounded
 // reciprocal of the bottom's head, cut to 26 bits, plus the residual (the top less that
 // head times the bottom, its large products exact) times the reciprocal.
 // tan r - r over r^3, in u = r^2: the terms after the last are below 2^-60 of r.
@@ -311,7 +310,7 @@ BRENN_TRIG_HOT void ShortTan(const __m128* x, __m128* p) {
     const __m128 limit = Set<float>(kLimitS);
     BRENN_EACH(k, N) as[k] = kClamp ? Max(Min(x[k], limit), Neg(limit)) : x[k];
     if constexpr (L == Level::EP) {
-        QuadrantTan<N, TanRationalEP>(as, TanShort<float>::kPiHalf, p);
+        QuadrantTan<N, TanCotEP>(as, TanShort<float>::kPiHalf, p);
     } else if constexpr (L == Level::LA) {
         QuadrantTan<N, TanFitSingleLA>(as, TanShort<float>::kPiHalf, p);
     } else {
