@@ -6,9 +6,9 @@
  * about 1.6 ulp) and EP (the seed alone) stay in single. Single denormals go to the
  * scalar routine, which runs the double form. The double rows take four terms of the
  * series at HA, with the seed rounded so that its powers and products are exact, and a
- * fitted cubic in place of the series at LA and EP, in rounds of sixteen that take each
- * step over their eight registers (RootRound). dCbrt's LA and EP slots share a kernel;
- * dInvCbrt has one kernel, at HA, for the three slots.
+ * fitted cubic in place of the series at LA and a fitted line at EP, in rounds of sixteen
+ * that take each step over their eight registers (RootRound). dInvCbrt has one kernel, at
+ * HA, for the three slots.
  *
  * Special lanes: zeros, infinities, NaN, and denormals. Cbrt gives +-0 and +-inf
  * themselves; InvCbrt the signed infinity for a zero (singularity status in double, no
@@ -40,10 +40,10 @@ struct RootRanges<double> {
                                       0xFFDFFFFFFFFFFFFFull};
 };
 
-// The double step of each level: the exact series at HA, the cubic at LA and EP (a line,
-// 28 bits, would do for EP, but its slots keep the accuracy they have).
+// The double step of each level: the exact series at HA, the cubic at LA, at EP the
+// line (27.9 bits for Cbrt, 29.1 for Pow2o3; dInvCbrt keeps its one kernel, at HA).
 template <Level L>
-inline constexpr int kRootTerms = L == Level::HA ? 4 : 3;
+inline constexpr int kRootTerms = L == Level::HA ? 4 : L == Level::LA ? 3 : 2;
 
 // The root of positive normal double lanes with x's sign put back where the root is odd.
 template <Root R, Level L>
@@ -146,8 +146,7 @@ using namespace brenn::vm;
 
 extern "C" {
 ZAR_LEVEL_KERNELS(s, Cbrt, Unary, CbrtBody)
-ZAR_KERNEL_OF(d, Cbrt, LaEp, Unary, CbrtBody<double, Level::LA>)
-ZAR_KERNEL_OF(d, Cbrt, HA, Unary, CbrtBody<double, Level::HA>)
+ZAR_LEVEL_KERNELS(d, Cbrt, Unary, CbrtBody)
 ZAR_LEVEL_KERNELS(s, InvCbrt, Unary, InvCbrtBody)
 ZAR_KERNEL_OF(d, InvCbrt, All, Unary, InvCbrtBody<double, Level::HA>)
 ZAR_ROW_KERNELS(Pow2o3, Unary, Pow2o3Body)

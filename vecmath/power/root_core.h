@@ -79,13 +79,17 @@ BRENN_VEC V RootFinish(V z, V bigM) {
 // The single HA step on widened lanes: lead*p(e), p the line fitted to (1 + e)^(-2/3) or
 // (1 + e)^(-1/3) by tools/power/cbrt_single_wide.sollya (2^-27.9 and 2^-29.1 relative),
 // written as lead*((p0 - p1) + p1*M*z^3), so that M*z^3 is not formed apart from the lead:
-// a chain of five operations. The result comes times 2^-43q'', the offset of the single
+// a chain of five operations (double EP takes it too: 27.9 and 29.1 bits, `Scaled` off).
+// The result comes times 2^-43q'', the offset of the single
 // form's exponent (2^-43 for Cbrt, 2^43 for InvCbrt, 2^-86 for Pow2o3), taken exactly
 // with k and p1 (the result stays a normal single), so that q' goes into the exponent
 // field as it is.
-template <Root R>
+template <Root R, bool Scaled = true>
 inline __m128d RootFinishLine(__m128d z, __m128d bigM) {
-    constexpr double s = R == Root::Cbrt ? 0x1p-43 : R == Root::InvCbrt ? 0x1p43 : 0x1p-86;
+    constexpr double s = !Scaled                ? 1.0
+                         : R == Root::Cbrt    ? 0x1p-43
+                         : R == Root::InvCbrt ? 0x1p43
+                                              : 0x1p-86;
     constexpr double p1 = s * (R == Root::Cbrt ? -0x1.5555557cd6e9ep-1 : -0x1.555555781948bp-2);
     constexpr double k = s * (R == Root::Cbrt ? 0x1.aaaaaad032916p0 : 0x1.5555556522c3fp0);
     const __m128d z2 = Mul(z, z);
@@ -104,7 +108,7 @@ inline __m128d RootFinishLine(__m128d z, __m128d bigM) {
 }
 
 // |x|^a for a = -1/3, 1/3, 2/3, positive normal double lanes: HA the exact series (Terms
-// 4, `Exact`), LA and EP the fitted cubic (3).
+// 4, `Exact`), LA the fitted cubic (3), EP the fitted line (2).
 // M registers at once, each step over all of them before the next (the split, the
 // seeds, the series, the exponents), so that their chains overlap.
 template <Root R, int Terms, bool Exact, int M>
@@ -148,6 +152,8 @@ BRENN_VEC void RootRound(const __m128d* ax, __m128d* v) {
                 const __m128d hi = Mul(mh, f), lo = Mul(ml, f);
                 v[k] = Add(hi, Add(lo, Mul(Mul(Add(hi, lo), e), q)));
             }
+        } else if constexpr (Terms == 2) {
+            v[k] = RootFinishLine<R, false>(z[k], bigM[k]);
         } else {
             v[k] = RootFinish<R, Terms>(z[k], bigM[k]);
         }
