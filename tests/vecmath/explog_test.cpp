@@ -761,6 +761,47 @@ TEST(ExpLog, DoubleLogarithmsAtTheirSplitAndRows) {
         }
 }
 
+// The double logarithms split two registers at once on their high words in the main
+// stage: each lane of a round, special or at the ends of the window (by its high word and
+// by its low one), gives what it gives alone, and the special lanes that raise nothing
+// alone raise nothing there either.
+TEST(ExpLog, DoubleLogarithmsSplitByPairs) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    auto d = [](uint64_t b) { return std::bit_cast<double>(b); };
+    const double quiet[] = {INFINITY, std::numeric_limits<double>::quiet_NaN(), -INFINITY,
+                            -0.0, 0.0, -1.5};
+    const double edges[] = {d(0x0010000000000000ull), d(0x000FFFFFFFFFFFFFull),
+                            d(0x0000000000000001ull), d(0x7FEFFFFFFFFFFFFFull),
+                            d(0x7FEFFFFF00000000ull), d(0x3FEFFFFFFFFFFFFFull),
+                            d(0x3FFFFE0000000000ull), d(0x3FFFFDFFFFFFFFFFull),
+                            d(0x8010000000000000ull)};
+    std::mt19937_64 gen(5);
+    constexpr int kLen = 40;
+    for (RowIndex row : kLogRowsD)
+        for (int slot : kSlots)
+            for (int k = 0; k < int(std::size(quiet) + std::size(edges)); ++k)
+                for (int at = 0; at < 16; ++at) {
+                    alignas(16) double in[kLen], y[kLen];
+                    for (double& v : in) // positive normals of every binade
+                        v = d(0x0010000000000000ull + gen() % 0x7FE0000000000000ull);
+                    const bool q = k < int(std::size(quiet));
+                    in[at] = q ? quiet[k] : edges[k - std::size(quiet)];
+                    in[at + 16] = in[at];
+                    unsigned flags;
+                    {
+                        CsrScope csr(0x1F80);
+                        K<double>(row, slot)(kLen, in, y);
+                        flags = _mm_getcsr() & 0x3F & ~0x20u; // inexact aside
+                    }
+                    for (int i = 0; i < kLen; ++i)
+                        ASSERT_TRUE(SameValue(y[i], Call(row, slot, in[i])))
+                            << frame::kRowInfo[row].name << " slot " << slot << " value " << k
+                            << " at " << at << " element " << i;
+                    if (q && k < 2) // +inf and NaN raise nothing
+                        EXPECT_EQ(flags, 0u) << frame::kRowInfo[row].name << " slot " << slot;
+                }
+}
+
 TEST(ExpLog, ScalarSetUpLogarithms) {
     std::mt19937_64 gen(11);
     for (int i = 0; i < 200000; ++i) {

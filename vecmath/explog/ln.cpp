@@ -95,8 +95,30 @@ struct LnBody {
     using T = Tp;
     using V = Vec<T>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Ln);
-    static constexpr int kRound = sizeof(T) == 8 && L != Level::EP ? 16 : 8;
-    static int EvalWide(const V* x, V* y) { return EvalByRegister<LnBody>(x, y); }
+    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
+    static int EvalWide(const V* x, V* y) {
+        if constexpr (sizeof(T) == 8 && L == Level::EP) {
+            return LogRowsEPWide<5>(x, y, lnRows, LogConst<double>::kLn2, LogConst<double>::kEP);
+        } else if constexpr (sizeof(T) == 8) {
+            int bits = 0;
+#pragma GCC unroll 4
+            for (int q = 0; q < 4; ++q) {
+                LogPair p = SplitPair<5>(x[2 * q], x[2 * q + 1]);
+                bits |= p.special << (4 * q);
+                LnReduction red[2];
+                LnReducePair(p, red[0], red[1]);
+#pragma GCC unroll 2
+                for (int j = 0; j < 2; ++j) {
+                    __m128d h, l;
+                    LnCoreFrom<L>(red[j], h, l);
+                    y[2 * q + j] = Add(h, l);
+                }
+            }
+            return bits;
+        } else {
+            return EvalByRegister<LnBody>(x, y);
+        }
+    }
     static V Eval(V x, V& special) {
         special = LogSpecial(x);
         return LnOf<L>(x);

@@ -181,8 +181,17 @@ struct LogBody {
     using V = Vec<T>;
     static constexpr const char* kName =
         Base == 10 ? ZAR_ERROR_NAME_OF(T, Log10) : ZAR_ERROR_NAME_OF(T, Log2);
-    static constexpr int kRound = sizeof(T) == 8 && L != Level::EP ? 16 : 8;
-    static int EvalWide(const V* x, V* y) { return EvalByRegister<LogBody>(x, y); }
+    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
+    static int EvalWide(const V* x, V* y) {
+        if constexpr (sizeof(T) == 8 && L == Level::EP) {
+            using K = LogBase<Base>;
+            return LogRowsEPWide<4>(x, y, K::kRowsF, K::kPerKD, K::kHA);
+        } else if constexpr (sizeof(T) == 8) {
+            return LogBaseWide<Base, L>(x, y);
+        } else {
+            return EvalByRegister<LogBody>(x, y);
+        }
+    }
     static V Eval(V x, V& special) {
         special = LogSpecial(x);
         return LogOf<Base, L>(x);

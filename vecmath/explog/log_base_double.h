@@ -17,6 +17,7 @@
 #define BRENN_VECMATH_EXPLOG_LOG_BASE_DOUBLE_H
 
 #include "vecmath/explog/explog_tables.h"
+#include "vecmath/explog/log_core.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/frame/vec.h"
 
@@ -56,34 +57,16 @@ struct LogRowsD<2> {
                                      -0x1.7154a19a7fb5ap-2, 0x1.2776ef284b331p-2};
 };
 
-// log_B x for positive normal x; any other bits give a finite k, an m in [1, 2) and a
-// row, so special lanes need no blend (their results are discarded).
+// log_B x from the reduction: m in [1 - 2^-10, 2 - 2^-10), mh = 1 + j/512, k, and the
+// row of mh at ra (lane 0) and rb (lane 1).
 template <int Base, Level L>
-BRENN_VEC __m128d LogBaseOf(__m128d x) {
-    using F = Format<double>;
+BRENN_VEC __m128d LogBaseFrom(__m128d m, __m128d mh, __m128d k, const double* ra,
+                              const double* rb) {
     using K = LogRowsD<Base>;
-    // x's fraction rounded to 9 bits by adding half of 2^-9 to its bits: the row j (0 to
-    // 511) is in bits 43 to 51 of the sum, its byte offset a shift and a mask away (two
-    // integer steps after x's bits, in the low word of each lane: an address as it is
-    // moved out), and a carry out of the fraction lands in the exponent, so that k is the
-    // sum's exponent, m = x*2^-k lies in [1 - 2^-10, 2 - 2^-10) and mh = 1 + j/512 is the
-    // sum's fraction bits from 43 up. x near 1 on either side has k = 0 and the row of 1.
-    const I64x2 xi = AsInt(x);
-    const I64x2 x1 = Add(xi, Set<uint64_t>(1ull << (F::kMantBits - 10)));
-    const I64x2 off = And(ShiftRight<F::kMantBits - 9 - 5>(x1), Set<uint64_t>(511ull << 5));
-    const char* rows = reinterpret_cast<const char*>(K::kRows);
-    const double* ra = reinterpret_cast<const double*>(rows + uint64_t(_mm_cvtsi128_si64(off.v)));
-    const double* rb =
-        reinterpret_cast<const double*>(rows + uint64_t(_mm_extract_epi64(off.v, 1)));
     __m128d rcp, a, th, tl;
     LoadTransposed(ra, rb, rcp, a);
     LoadTransposed(ra + 2, rb + 2, th, tl);
-    const I64x2 e1 = And(x1, Set<uint64_t>(F::kExpField));
-    __m128d m = AsFloat(Add(Sub(xi, e1), Set<uint64_t>(F::kOne)));
-    __m128d mh = AsFloat(Or(And(x1, Set<uint64_t>(0x000FF80000000000ull)), Set<uint64_t>(F::kOne)));
-    __m128d ml = Sub(m, mh); // exact
-    __m128d k = Sub(AsFloat(Or(ShiftRight<F::kMantBits>(e1), AsInt(Set<double>(0x1p52)))),
-                    Set<double>(0x1p52 + F::kBias));
+    __m128d ml = Sub(m, mh);  // exact
     __m128d b = Mul(ml, rcp); // exact
     __m128d r = Add(a, b);
     __m128d r2 = Mul(r, r);
@@ -108,6 +91,54 @@ BRENN_VEC __m128d LogBaseOf(__m128d x) {
         __m128d small = Add(Mul(r2, Estrin(r, K::kHA)), lo);
         return Add(s, Add(err, small));
     }
+}
+
+// log_B x for positive normal x; any other bits give a finite k, an m in [1, 2) and a
+// row, so special lanes need no blend (their results are discarded).
+template <int Base, Level L>
+BRENN_VEC __m128d LogBaseOf(__m128d x) {
+    using F = Format<double>;
+    using K = LogRowsD<Base>;
+    // x's fraction rounded to 9 bits by adding half of 2^-9 to its bits: the row j (0 to
+    // 511) is in bits 43 to 51 of the sum, its byte offset a shift and a mask away (two
+    // integer steps after x's bits, in the low word of each lane: an address as it is
+    // moved out), and a carry out of the fraction lands in the exponent, so that k is the
+    // sum's exponent, m = x*2^-k lies in [1 - 2^-10, 2 - 2^-10) and mh = 1 + j/512 is the
+    // sum's fraction bits from 43 up. x near 1 on either side has k = 0 and the row of 1.
+    const I64x2 xi = AsInt(x);
+    const I64x2 x1 = Add(xi, Set<uint64_t>(1ull << (F::kMantBits - 10)));
+    const I64x2 off = And(ShiftRight<F::kMantBits - 9 - 5>(x1), Set<uint64_t>(511ull << 5));
+    const char* rows = reinterpret_cast<const char*>(K::kRows);
+    const double* ra = reinterpret_cast<const double*>(rows + uint64_t(_mm_cvtsi128_si64(off.v)));
+    const double* rb =
+        reinterpret_cast<const double*>(rows + uint64_t(_mm_extract_epi64(off.v, 1)));
+    const I64x2 e1 = And(x1, Set<uint64_t>(F::kExpField));
+    __m128d m = AsFloat(Add(Sub(xi, e1), Set<uint64_t>(F::kOne)));
+    __m128d mh = AsFloat(Or(And(x1, Set<uint64_t>(0x000FF80000000000ull)), Set<uint64_t>(F::kOne)));
+    __m128d k = Sub(AsFloat(Or(ShiftRight<F::kMantBits>(e1), AsInt(Set<double>(0x1p52)))),
+                    Set<double>(0x1p52 + F::kBias));
+    return LogBaseFrom<Base, L>(m, mh, k, ra, rb);
+}
+
+// A round of sixteen (eight registers) split by pairs (log_core.h SplitPair): the same
+// values, and the round's special-lane bits.
+template <int Base, Level L>
+BRENN_VEC int LogBaseWide(const __m128d* x, __m128d* y) {
+    using K = LogRowsD<Base>;
+    static_assert(sizeof(K::kRows[0]) == 32, "rows of 32 bytes");
+    int bits = 0;
+#pragma GCC unroll 4
+    for (int q = 0; q < 4; ++q) {
+        LogPair p = SplitPair<5>(x[2 * q], x[2 * q + 1]);
+        bits |= p.special << (4 * q);
+        __m128d mh0, mh1;
+        PairCentres(p, mh0, mh1);
+        y[2 * q] = LogBaseFrom<Base, L>(p.m[0], mh0, p.k[0], PairRow<0>(K::kRows, p),
+                                        PairRow<1>(K::kRows, p));
+        y[2 * q + 1] = LogBaseFrom<Base, L>(p.m[1], mh1, p.k[1], PairRow<2>(K::kRows, p),
+                                            PairRow<3>(K::kRows, p));
+    }
+    return bits;
 }
 
 } // namespace brenn::vm

@@ -136,6 +136,14 @@ BRENN_VEC LnReduction LnReduce(__m128d x) {
 // result); log_B x = (k*log_B(2) + T) + r*(c1 + r*(c2 + r*c3)), the cubic fitted for the
 // base (about 2^-34 with the rest). The way to the loads is two integer steps after x's
 // bits. Any bits give a finite k, a finite m and a row: special lanes need no blend.
+BRENN_VEC __m128d LogRowsEPFrom(__m128d m, __m128d k, const double* ra, const double* rb,
+                                double perK, const double (&c)[3]) {
+    __m128d rcp, t;
+    LoadTransposed(ra, rb, rcp, t);
+    __m128d r = Sub(Mul(m, rcp), Set<double>(1.0));
+    __m128d head = perK == 1.0 ? Add(k, t) : Add(Mul(k, Set<double>(perK)), t);
+    return Add(head, Mul(r, Horner(r, c)));
+}
 template <int S, size_t W>
 BRENN_VEC __m128d LogRowsEP(__m128d x, const double (*rows)[W], double perK, const double (&c)[3]) {
     using F = Format<double>;
@@ -144,16 +152,75 @@ BRENN_VEC __m128d LogRowsEP(__m128d x, const double (*rows)[W], double perK, con
     const I64x2 x1 = Add(xi, Set<uint64_t>(1ull << (F::kMantBits - 10)));
     const I64x2 off = And(ShiftRight<F::kMantBits - 9 - S>(x1), Set<uint64_t>(511ull << S));
     const char* base = reinterpret_cast<const char*>(rows);
-    __m128d rcp, t;
-    LoadTransposed(reinterpret_cast<const double*>(base + uint64_t(_mm_cvtsi128_si64(off.v))),
-                   reinterpret_cast<const double*>(base + uint64_t(_mm_extract_epi64(off.v, 1))),
-                   rcp, t);
     __m128d m = AsFloat(Add(Sub(xi, And(x1, Set<uint64_t>(F::kExpField))), Set<uint64_t>(F::kOne)));
     __m128d k = Sub(AsFloat(Or(ShiftRight<F::kMantBits>(x1), AsInt(Set<double>(0x1p52)))),
                     Set<double>(0x1p52 + F::kBias));
-    __m128d r = Sub(Mul(m, rcp), Set<double>(1.0));
-    __m128d head = perK == 1.0 ? Add(k, t) : Add(Mul(k, Set<double>(perK)), t);
-    return Add(head, Mul(r, Horner(r, c)));
+    return LogRowsEPFrom(
+        m, k, reinterpret_cast<const double*>(base + uint64_t(_mm_cvtsi128_si64(off.v))),
+        reinterpret_cast<const double*>(base + uint64_t(_mm_extract_epi64(off.v, 1))), perK, c);
+}
+
+// The same split for two registers at once, on their four high words: all that it needs
+// lives there (the sign, the exponent field and the fraction's top 20 bits, the row's 9
+// among them; adding half of 2^-9 carries no further than them), so that one compare
+// tests the four lanes for positive normals, one shift and one mask give the four rows'
+// byte offsets (two moves out), and k and m come from the four rounded exponent fields
+// e: k by one conversion a register, m = x - e + 1's field in the high word alone (the
+// low words stay). Every value is the one-register split's, bit for bit.
+struct LogPair {
+    int special;     // a bit a lane: x0's two, then x1's
+    __m128d k[2], m[2];
+    I32x4 h;         // the high words of x's bits plus half of 2^-9's
+    uint64_t off[2]; // the rows' byte offsets, x0's and x1's, two 32-bit words each
+};
+template <int S>
+BRENN_VEC LogPair SplitPair(__m128d x0, __m128d x1) {
+    LogPair p;
+    const I32x4 hi{_mm_castps_si128(
+        _mm_shuffle_ps(_mm_castpd_ps(x0), _mm_castpd_ps(x1), _MM_SHUFFLE(3, 1, 3, 1)))};
+    // The positive normals' high words, 0x00100000 to 0x7FEFFFFF, moved to the bottom of
+    // the signed words: all others land above the limit.
+    const I32x4 t = Add(hi, Set<uint32_t>(0x7FF00000u));
+    p.special = MaskBits(Gt(t, Opaque(Set<uint32_t>(0xFFDFFFFFu))));
+    p.h = Add(hi, Set<int32_t>(1 << 10));
+    const I32x4 off = And(ShiftRight<11 - S>(p.h), Set<int32_t>(511 << S));
+    p.off[0] = uint64_t(_mm_cvtsi128_si64(off.v));
+    p.off[1] = uint64_t(_mm_extract_epi64(off.v, 1));
+    const I32x4 e = And(p.h, Set<uint32_t>(0x7FF00000u));
+    const I32x4 ki = Sub(ShiftRight<20>(e), Set<int32_t>(1023));
+    p.k[0] = _mm_cvtepi32_pd(ki.v);
+    p.k[1] = _mm_cvtepi32_pd(_mm_shuffle_epi32(ki.v, 0xEE));
+    // m = x - e + 1's field: the high words' difference put over zero low words.
+    const __m128 d = _mm_castsi128_ps(Sub(Set<uint32_t>(0x3FF00000u), e).v);
+    const __m128 z = _mm_setzero_ps();
+    p.m[0] = AsFloat(Add(AsInt(x0), I64x2{_mm_castps_si128(_mm_unpacklo_ps(z, d))}));
+    p.m[1] = AsFloat(Add(AsInt(x1), I64x2{_mm_castps_si128(_mm_unpackhi_ps(z, d))}));
+    return p;
+}
+// Lane j's row (0 to 3) of a pair.
+template <int J>
+BRENN_VEC const double* PairRow(const void* rows, const LogPair& p) {
+    const uint64_t o = p.off[J / 2];
+    return reinterpret_cast<const double*>(static_cast<const char*>(rows) +
+                                           (J % 2 == 0 ? uint32_t(o) : (o >> 32)));
+}
+
+// A round of sixteen doubles (eight registers) by LogRowsEP's arithmetic, split by pairs;
+// the special-lane bits of the round.
+template <int S, size_t W>
+BRENN_VEC int LogRowsEPWide(const __m128d* x, __m128d* y, const double (*rows)[W], double perK,
+                            const double (&c)[3]) {
+    static_assert(sizeof(rows[0]) == (size_t(1) << S), "rows of 2^S bytes");
+    int bits = 0;
+#pragma GCC unroll 4
+    for (int q = 0; q < 4; ++q) {
+        LogPair p = SplitPair<S>(x[2 * q], x[2 * q + 1]);
+        bits |= p.special << (4 * q);
+        y[2 * q] = LogRowsEPFrom(p.m[0], p.k[0], PairRow<0>(rows, p), PairRow<1>(rows, p), perK, c);
+        y[2 * q + 1] =
+            LogRowsEPFrom(p.m[1], p.k[1], PairRow<2>(rows, p), PairRow<3>(rows, p), perK, c);
+    }
+    return bits;
 }
 
 // The same reduction by x's bits, for the logarithm kernels: x's fraction rounded to 9
@@ -165,6 +232,11 @@ BRENN_VEC __m128d LogRowsEP(__m128d x, const double (*rows)[W], double perK, con
 // exact steps after it (mh*rcp exact, ml = m - mh exact: |ml| <= 2^-10 on the grid of
 // 2^-53); a shorter way to the loads than the shifter's round trip through m. u1, the
 // sum's bits, is given back for callers that take m otherwise (Log1p).
+BRENN_VEC void LoadLnRows(const double* ra, const double* rb, LnReduction& red) {
+    __m128d pad;
+    LoadTransposed(ra, rb, red.rcp, red.th);
+    LoadTransposed(ra + 2, rb + 2, red.tl, pad);
+}
 BRENN_VEC LnReduction LnReduceBits(__m128d x, I64x2& x1) {
     using F = Format<double>;
     LnReduction red;
@@ -173,12 +245,8 @@ BRENN_VEC LnReduction LnReduceBits(__m128d x, I64x2& x1) {
     static_assert(sizeof(lnRows[0]) == 32, "rows of 32 bytes");
     const I64x2 off = And(ShiftRight<F::kMantBits - 9 - 5>(x1), Set<uint64_t>(511ull << 5));
     const char* rows = reinterpret_cast<const char*>(lnRows);
-    const double* ra = reinterpret_cast<const double*>(rows + uint64_t(_mm_cvtsi128_si64(off.v)));
-    const double* rb =
-        reinterpret_cast<const double*>(rows + uint64_t(_mm_extract_epi64(off.v, 1)));
-    __m128d pad;
-    LoadTransposed(ra, rb, red.rcp, red.th);
-    LoadTransposed(ra + 2, rb + 2, red.tl, pad);
+    LoadLnRows(reinterpret_cast<const double*>(rows + uint64_t(_mm_cvtsi128_si64(off.v))),
+               reinterpret_cast<const double*>(rows + uint64_t(_mm_extract_epi64(off.v, 1))), red);
     const I64x2 e1 = And(x1, Set<uint64_t>(F::kExpField));
     __m128d m = AsFloat(Add(Sub(xi, e1), Set<uint64_t>(F::kOne)));
     red.mh = AsFloat(Or(And(x1, Set<uint64_t>(0x000FF80000000000ull)), Set<uint64_t>(F::kOne)));
@@ -186,6 +254,27 @@ BRENN_VEC LnReduction LnReduceBits(__m128d x, I64x2& x1) {
     red.k = Sub(AsFloat(Or(ShiftRight<F::kMantBits>(e1), AsInt(Set<double>(0x1p52)))),
                 Set<double>(0x1p52 + F::kBias));
     return red;
+}
+
+// mh = 1 + j/512 of a pair's four lanes, two registers: the rounded fraction's top 9 bits
+// under 1's exponent field in the high words, over zero low words.
+BRENN_VEC void PairCentres(const LogPair& p, __m128d& mh0, __m128d& mh1) {
+    const __m128 c = _mm_castsi128_ps(
+        Or(And(p.h, Set<uint32_t>(0x000FF800u)), Set<uint32_t>(0x3FF00000u)).v);
+    const __m128 z = _mm_setzero_ps();
+    mh0 = _mm_castps_pd(_mm_unpacklo_ps(z, c));
+    mh1 = _mm_castps_pd(_mm_unpackhi_ps(z, c));
+}
+
+// LnReduceBits for a pair: the two registers' reductions, bit for bit the same.
+BRENN_VEC void LnReducePair(const LogPair& p, LnReduction& r0, LnReduction& r1) {
+    LoadLnRows(PairRow<0>(lnRows, p), PairRow<1>(lnRows, p), r0);
+    LoadLnRows(PairRow<2>(lnRows, p), PairRow<3>(lnRows, p), r1);
+    PairCentres(p, r0.mh, r1.mh);
+    r0.k = p.k[0];
+    r1.k = p.k[1];
+    r0.ml = Sub(p.m[0], r0.mh);
+    r1.ml = Sub(p.m[1], r1.mh);
 }
 
 // ln x = h + r + t from the reduction, h exact and |t| << |r|: the three terms for the
