@@ -593,6 +593,33 @@ TEST(Power, DoubleHypotInLongCalls) {
     }
 }
 
+// Double Hypot EP takes its roots from single where a round's sums of squares all lie in
+// single's range: sums on both sides of its ends (2^-125 and 2^127) and of the least and
+// largest single, alone in a round and spread over it, keep the correction's 33 bits.
+TEST(Power, DoubleHypotAcrossTheSingleRange) {
+    constexpr int n = 64;
+    const double edges[] = {0x1p-62, 0x1.6a09e667f3bcdp-63, 0x1p-63, 0x1p-75, 0x1p-62 * 1.5,
+                            0x1p63,  0x1.6a09e667f3bcdp63,  0x1p64,  0x1p70,  0x1.fffffffffffffp62};
+    for (double e : edges)
+        for (int spread : {1, 7}) {
+            std::vector<double> a(n), b(n), y(n);
+            for (int i = 0; i < n; ++i) {
+                a[i] = (i % 7 + 1) * 0.37;
+                b[i] = (i % 3 - 1) * 1.13 + 0.25;
+            }
+            for (int i = 3; i < n; i += 16 / spread) {
+                a[i] = e;
+                b[i] = e * 0.75;
+            }
+            As<Binary<double>>(Raw(frame::Row_dHypot, frame::SlotEP))(n, a.data(), b.data(),
+                                                                      y.data());
+            for (int i = 0; i < n; ++i) {
+                const long double want = hypotl(a[i], b[i]);
+                EXPECT_LE(fabsl((y[i] - want) / want), 0x1p-33L) << "e=" << e << " i=" << i;
+            }
+        }
+}
+
 // Hypot: an infinity beats a NaN in either place, a NaN otherwise, +0 for two zeros,
 // overflow and denormal results without a status.
 TEST(Power, HypotSpecialValues) {

@@ -48,6 +48,9 @@ struct HypotRanges<double> {
     static constexpr Range64 kTop{0x7FFFFFFFFFFFFFFFull, 0ull, 0x7FDFFFFFFFFFFFFFull};
     // |x| below the smallest normal (zero or denormal).
     static constexpr Range64 kNotSmall{0x7FFFFFFFFFFFFFFFull, 0ull, 0x000FFFFFFFFFFFFFull};
+    // The sum of squares outside [2^-125, 2^127) (single's normal range, a little inside),
+    // zero, infinite or NaN (the high word of s).
+    static constexpr Range32 kSingleRoot{0xFFFFFFFFu, 0x47E00000u, 0x8FBFFFFFu};
 };
 
 // The wider type the scalar routine works in.
@@ -160,11 +163,36 @@ BRENN_VEC __m128d HypotScaled(__m128d x, __m128d z) {
     return y;
 }
 
+// Double EP: the roots of s0 and s1 (four lanes in single's normal range) from single,
+// where one sqrtps takes four lanes and sqrtpd two: r = sqrt(s) rounded to single (from s
+// rounded to single: within 1.5 * 2^-24) and the correction r + (s - r^2)*h in double,
+// r^2 exact and h = rsqrt(s)/2 to 2^-11: within about 2^-34 of the root.
+inline void RootFromSingle(__m128d s0, __m128d s1, __m128d& y0, __m128d& y1) {
+    const __m128 sf = Narrow(s0, s1);
+    const __m128 r = Sqrt(sf);
+    const __m128 h = Mul(ApproxRecipSqrt(sf), Set<float>(0.5f));
+    auto fix = [](__m128d s, __m128d rd, __m128d hd) {
+        return Add(rd, Mul(Sub(s, Mul(rd, rd)), hd));
+    };
+    y0 = fix(s0, WidenLower(r), WidenLower(h));
+    y1 = fix(s1, WidenUpper(r), WidenUpper(h));
+}
+
 template <Level L>
 inline __m128d HypotOf(__m128d a, __m128d b, __m128d& special) {
     using F = Format<double>;
     using R = HypotRanges<double>;
     const __m128d one = Set<double>(1.0);
+    if constexpr (L == Level::EP) {
+        // The order of the operands does not matter here: s as it stands, tested alone.
+        const __m128d s = Add(Mul(a, a), Mul(b, b));
+        if (__builtin_expect(MaskBits(RangeTest(s, R::kSingleRoot)) == 0, 1)) {
+            special = Zero<double>();
+            __m128d y, unused;
+            RootFromSingle(s, s, y, unused);
+            return y;
+        }
+    }
     __m128d ax = Abs(a), bx = Abs(b);
     // The larger both ways round, so that a NaN in either shows (maxpd returns its
     // second operand when one is NaN).
@@ -195,10 +223,34 @@ struct HypotBody {
     static int Scalar(const T* a, const T* b, T* y) { return HypotScalar(a, b, y); }
     // Double HA in rounds of sixteen: where every lane of the round's eight registers lies
     // in the plain range, HypotScaled over all of them; otherwise register by
-    // register. (LA and EP, a sum and a root a register, are faster in rounds of eight.)
-    static constexpr int kRound = sizeof(T) == 8 && L == Level::HA ? 16 : 8;
+    // register. EP too, its roots four lanes at a time from single. (LA, a sum and a root
+    // a register, is faster in rounds of eight.)
+    static constexpr int kRound = sizeof(T) == 8 && L != Level::LA ? 16 : 8;
     static BRENN_VEC int EvalWide(const V* a, const V* b, V* y) {
         using R = HypotRanges<double>;
+        if constexpr (L == Level::EP) {
+            // The round's eight registers of sums from single roots where every lane's sum
+            // lies in single's range; otherwise register by register.
+            V s[8], out = Zero<double>();
+#pragma GCC unroll 8
+            for (int k = 0; k < 8; ++k) {
+                s[k] = Add(Mul(a[k], a[k]), Mul(b[k], b[k]));
+                out = Or(out, RangeTest(s[k], R::kSingleRoot));
+            }
+            if (__builtin_expect(MaskBits(out) == 0, 1)) {
+#pragma GCC unroll 4
+                for (int k = 0; k < 8; k += 2)
+                    RootFromSingle(s[k], s[k + 1], y[k], y[k + 1]);
+                return 0;
+            }
+            int bits = 0;
+            for (int k = 0; k < 8; ++k) {
+                V special;
+                y[k] = HypotOf<L>(a[k], b[k], special);
+                bits |= MaskBits(special) << (2 * k);
+            }
+            return bits;
+        }
         V big[8], small[8], wide = Zero<double>();
 #pragma GCC unroll 8
         for (int k = 0; k < 8; ++k) {
