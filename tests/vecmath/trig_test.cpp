@@ -316,6 +316,25 @@ TEST(Trig, SingleCosineOfTinyArgumentsIsOne) {
     }
 }
 
+// tan x rounds to x below 2^-12 (x^3/3 is below a quarter ulp): every binade from the
+// least denormal up to 2^-13, both signs, inside rounds of ordinary lanes, comes back as
+// x itself at LA (its quotient r / C(r^2) has C(0) = 1) and HA.
+TEST(Trig, SingleTangentOfTinyArgumentsIsItself) {
+    std::mt19937 gen(23);
+    std::vector<float> x;
+    for (int e = -149; e <= -13; ++e)
+        for (int k = 0; k < 8; ++k) {
+            float v = std::ldexp(1.0f + float(gen() & 0x7FFFFF) * 0x1p-23f, e);
+            x.push_back(k % 2 ? -v : v);
+            x.push_back(0.7f + float(k));
+        }
+    for (int slot : {0, 1}) {
+        std::vector<float> t = Call("sTan", slot, x);
+        for (size_t i = 0; i < x.size(); i += 2)
+            EXPECT_EQ(Bits(t[i]), Bits(x[i])) << slot << " x = " << std::hexfloat << x[i];
+    }
+}
+
 // EP's cosine gives +-1 exactly within 2^-12 of a multiple of pi (its test for cos 0 = 1
 // reads the remainder's square): the floats nearest k pi that lie within 2^-13 of it, in
 // rounds of ordinary lanes, get (-1)^k.
@@ -487,6 +506,26 @@ TEST(Trig, DegreesAndPiUnits) {
     Specials<double>("dCosd");
     Specials<double>("dSinpi");
     brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);
+}
+
+// Near zero the double HA sines and tangents of degrees and of units of pi take the
+// argument up by a power of two and the result back down: within 0.6 ulp there,
+// denormal results included (the product rounded once and then cut to the denormal grid
+// reached 0.85 ulp).
+TEST(Trig, DegreesAndPiUnitsNearZeroAtHA) {
+    std::vector<double> x;
+    for (int e = -1074; e <= -880; e += 3)
+        for (double m : {1.0, 1.37, 1.9999})
+            x.push_back(std::ldexp(m, e)), x.push_back(-std::ldexp(m * 1.17, e));
+    const char* rows[4] = {"dSind", "dTand", "dSinpi", "dTanpi"};
+    for (int r = 0; r < 4; ++r) {
+        std::vector<double> y = Call(rows[r], 1, x);
+        for (size_t i = 0; i < x.size(); ++i) {
+            long double ref = UnitRef(r % 2 ? Fn::Tan : Fn::Sin, r < 2, fabsl(x[i]));
+            if (x[i] < 0) ref = -ref;
+            EXPECT_LE(UlpError(y[i], ref), 0.6) << rows[r] << " x " << x[i] << " got " << y[i];
+        }
+    }
 }
 
 // The sine, cosine and single tangent rows run their main stage sixteen elements a

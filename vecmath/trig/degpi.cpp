@@ -17,8 +17,8 @@
  *
  * Measured (brenn_accuracy, 250000 inputs a row): single, every row at every level,
  * 0.500 ulp (24.0 bits). Double, EP (bits) / LA (ulp) / HA (ulp): dSind 52.1 / 1.267 /
- * 0.649, dCosd 52.2 / 1.196 / 0.542, dTand 51.5 / 1.398 / 0.650, dSinpi 52.2 / 1.288 /
- * 0.845, dCospi 52.2 / 1.352 / 0.522, dTanpi 51.6 / 1.340 / 0.843. */
+ * 0.531, dCosd 52.2 / 1.196 / 0.542, dTand 51.5 / 1.398 / 0.517, dSinpi 52.2 / 1.288 /
+ * 0.534, dCospi 52.2 / 1.352 / 0.522, dTanpi 51.6 / 1.340 / 0.507. */
 #include <bit>
 #include <cmath>
 #include <limits>
@@ -62,12 +62,24 @@ constexpr UInt<T> kLimit = std::bit_cast<uint64_t>(0x1p45);
 template <Unit U>
 constexpr uint32_t kLimit<float, U> = UnitConst<U>::kLimitS;
 
-// The function of two double magnitudes (at most 2^45).
-template <Unit U, Fn F, Level L>
+// The function of two double magnitudes (at most 2^45); Tiny: magnitudes below 2^-900
+// may come (not from single arguments).
+template <Unit U, Fn F, Level L, bool Tiny = true>
 inline __m128d OnMagnitude(__m128d a) {
     using C = UnitConst<U>;
     const __m128d shifter = Set<double>(Format<double>::kShifter);
     a = Min(a, Set<double>(0x1p45)); // lanes for the scalar routine raise nothing
+    // Near zero the exact product's split would underflow. HA takes such a lane up by
+    // 2^512 (exact), through the same arithmetic, and brings its sine or tangent back
+    // down from two parts (down), rounded once; LA and EP take the argument in radians,
+    // one rounded product (a cosine is 1 there anyway).
+    constexpr bool scaled = L == Level::HA && Tiny && F != Fn::Cos;
+    const __m128d tiny = Lt(a, Set<double>(0x1p-900));
+    if constexpr (scaled) {
+        // the plain path where no lane needs the scaling (all but rare registers)
+        if (MaskBits(tiny) == 0) return OnMagnitude<U, F, L, false>(a);
+        a = IfThenElse(tiny, Mul(a, Set<double>(0x1p512)), a);
+    }
     __m128d t = Add(Mul(a, Set<double>(C::kScale)), shifter);
     alignas(16) int32_t J[2] = {LowWord<0>(AsInt(t)), LowWord<1>(AsInt(t))};
     __m128d d = Sub(a, Mul(Sub(t, shifter), Set<double>(C::kStep)));
@@ -89,11 +101,26 @@ inline __m128d OnMagnitude(__m128d a) {
     }
     __m128d sh, sl;
     TableSin(J, rh, rl, sh, sl, exact);
-    // Near zero the exact product's split would underflow: there the result is the
-    // argument in radians, one rounded product (cosine is 1 there anyway).
-    const __m128d tiny = Lt(a, Set<double>(0x1p-900));
     const __m128d direct = Mul(a, Set<double>(C::kRadHi));
-    if constexpr (F == Fn::Sin) return IfThenElse(tiny, direct, Add(sh, sl));
+    // h + l times 2^-512 on tiny lanes, h + l elsewhere. A normal result is the sum
+    // rounded at the scale above, brought down exactly; a denormal one is h rounded to
+    // that grid plus the rest (h's remainder, exact at the scale above, and l) rounded to
+    // it, so that the sum is rounded once.
+    auto down = [&](__m128d h, __m128d l) {
+        const __m128d back = IfThenElse(tiny, Set<double>(0x1p-512), Set<double>(1.0));
+        const __m128d up = Set<double>(0x1p512);
+        const __m128d n = Mul(Add(h, l), back);
+        const __m128d ht = IfThenElse(tiny, h, Zero<double>());
+        const __m128d hd = Mul(ht, back);
+        const __m128d rest = Add(Sub(ht, Mul(hd, up)), IfThenElse(tiny, l, Zero<double>()));
+        const __m128d d = Add(hd, Mul(rest, back));
+        return IfThenElse(Lt(Abs(n), Set<double>(0x1p-1022)), d, n);
+    };
+    if constexpr (F == Fn::Sin) {
+        if constexpr (scaled) return down(sh, sl);
+        if constexpr (L == Level::HA) return Add(sh, sl);
+        return IfThenElse(tiny, direct, Add(sh, sl));
+    }
     if constexpr (F == Fn::Cos) return Add(sh, sl);
     alignas(16) int32_t K[2] = {J[0] + 32, J[1] + 32};
     __m128d ch, cl;
@@ -108,15 +135,18 @@ inline __m128d OnMagnitude(__m128d a) {
     __m128d p, pe;
     TwoProd(q, c, p, pe);
     __m128d res = Sub(Add(Sub(Sub(s, p), pe), sl), Mul(q, cl));
-    q = IfThenElse(Eq(c, Zero<double>()), q, Add(q, Div(res, c)));
+    __m128d ql = IfThenElse(Eq(c, Zero<double>()), Zero<double>(), Div(res, c));
+    if constexpr (scaled) return down(q, ql);
+    q = Add(q, ql);
+    if constexpr (L == Level::HA) return q;
     return IfThenElse(tiny, direct, q);
 }
 
 // Four single magnitudes as two double registers, or two double magnitudes as they are.
 template <Unit U, Fn F, Level L>
 inline __m128 OnMagnitudes(__m128 a) {
-    __m128d p0 = OnMagnitude<U, F, L>(WidenLower(a));
-    __m128d p1 = OnMagnitude<U, F, L>(WidenUpper(a));
+    __m128d p0 = OnMagnitude<U, F, L, false>(WidenLower(a));
+    __m128d p1 = OnMagnitude<U, F, L, false>(WidenUpper(a));
     return Narrow(p0, p1);
 }
 template <Unit U, Fn F, Level L>

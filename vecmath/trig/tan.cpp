@@ -5,10 +5,9 @@
  * single with pi/2 in three parts (the first two short, so that their products with n are
  * exact) and takes s = r and c = C(r^2), three terms fitted to r cot r
  * (tools/trig/tan_single_ep.sollya), with a true division. Single LA reduces the same way
- * (a remainder below 2^-9 is redone in double) and takes s = r + r^3 S(r^2) and
- * c = 1 + r^2 C(r^2), a Pade denominator of tan and a numerator fitted to it, in single,
- * with a true division. Single HA widens the argument to double (pi/2 in two parts) and
- * takes the double EP set, double EP pi/2 in three parts, double LA in four with a
+ * (a remainder below 2^-9 is redone in double) and takes s = r and c = C(r^2) of five
+ * terms fitted the same way, in single, with a true division. Single HA widens the
+ * argument to double (pi/2 in two parts) and takes the double EP set, double EP pi/2 in three parts, double LA in four with a
  * longer set (tools/trig/tan_quotient.sollya); double LA also keeps the remainder's low
  * part and the roundings of s and c, and corrects the quotient by them (AccurateQuotient).
  * The single kernels and double EP reduce x with its sign (n, r and the quotient odd in
@@ -24,7 +23,7 @@
  * large reduction of reduce.h in the same block, which gives the same J and r, and every
  * kernel finishes those by TanSum.
  *
- * Measured (brenn_accuracy, 250000 inputs a row): sTan EP 15.6 bits, LA 2.96 ulp,
+ * Measured (brenn_accuracy, 250000 inputs a row): sTan EP 15.6 bits, LA 2.27 ulp,
  * HA 0.522 ulp; dTan EP 29.3 bits, LA 1.62 ulp, HA 0.513 ulp. */
 #include <bit>
 
@@ -79,13 +78,16 @@ struct TanFitLA {
     static constexpr double kC[] = {1.0, -0x1.ddddddddddddep-2, 0x1.a41a41a41a44bp-6,
                                     -0x1.45e5d2ba4606bp-12, 0x1.08db48f28a525p-21};
 };
-// Single LA, single coefficients: 29 bits. tools/trig/tan_quotient.sollya.
-struct TanFitSingleLA {
-    static constexpr float kS[] = {-0x1.c71c78p-4f, 0x1.156b6ap-10f};
-    static constexpr float kC[] = {1.0f, -0x1.c71c72p-2f, 0x1.04104ap-6f};
-};
 // Single EP: r / C(u) above.
-struct TanCotEP;
+struct TanCotEP {
+    static constexpr const float (&kC)[3] = kTanCot;
+};
+// Single LA: r / C(u) with C of five terms, the first 1, fitted the same way (2^-27.3:
+// tan r = r exactly for tiny r, and a zero keeps its sign). tools/trig/tan_single_ep.sollya.
+struct TanCotSingleLA {
+    static constexpr float kC[] = {1.0f, -0x1.555542p-2f, -0x1.6c28b8p-6f, -0x1.12c8aep-9f,
+                                   -0x1.041086p-12f};
+};
 
 // q[k] = c[0] + u[k] (c[1] + u[k] (...)) for M registers, each step over all of them
 // before the next, so that the chains interleave.
@@ -103,12 +105,8 @@ BRENN_TRIG_HOT void HornerAll(const V* u, const C (&c)[D], V* q) {
 template <int M, class Sides, class V>
 BRENN_TRIG_HOT void SidesOf(const V* r, const V* u, V* s, V* c) {
     using T = ElemOf<V>;
-    if constexpr (std::is_same_v<Sides, TanCotEP>) {
+    if constexpr (std::is_same_v<Sides, TanCotEP> || std::is_same_v<Sides, TanCotSingleLA>) {
         BRENN_EACH(k, M) s[k] = r[k];
-        HornerAll<M>(u, kTanCot, c);
-    } else if constexpr (std::is_same_v<Sides, TanFitSingleLA>) {
-        HornerAll<M>(u, Sides::kS, c);
-        BRENN_EACH(k, M) s[k] = Add(r[k], Mul(Mul(r[k], u[k]), c[k]));
         HornerAll<M>(u, Sides::kC, c);
     } else {
         // In double, s = r (1 + u S(u)): its roundings are far below the result's, and a
@@ -199,13 +197,11 @@ inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
     for (size_t i = 1; i < P; ++i)
         BRENN_EACH(k, M) r[k] = Sub(r[k], Mul(n[k], Set<T>(piHalf[i])));
     BRENN_EACH(k, M) u[k] = Mul(r[k], r[k]);
-    bool nearZero = false;
-    if constexpr (std::is_same_v<Sides, TanFitSingleLA>) {
+    if constexpr (std::is_same_v<Sides, TanCotSingleLA>) {
         // The single reduction is good to 2^-35 absolute; a remainder below 2^-9 (its
         // square below 2^-18: a lane near a multiple of pi/2, a few in a thousand) takes
         // the double one, and only such a lane.
-        nearZero = AnyNearZeroSq<M>(u);
-        if (__builtin_expect(nearZero, 0)) {
+        if (__builtin_expect(AnyNearZeroSq<M>(u), 0)) {
             V wide[M];
             ReduceWide<M>(a, n, wide);
             TakeNearZeroSq<M>(r, u, wide);
@@ -218,11 +214,6 @@ inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
         V bot = IfThenElse(odd[k], s[k], c[k]);
         q[k] = Div(top, bot);
     }
-    // Single LA's s = r + r u S(u) turns r = -0 into +0: zeros are among the lanes near
-    // zero, which alone take the sign of the argument back (a signed zero, also for a
-    // denormal argument read as zero).
-    if (std::is_same_v<Sides, TanFitSingleLA> && __builtin_expect(nearZero, 0))
-        BRENN_EACH(k, M) q[k] = IfThenElse(Eq(a[k], Zero<T>()), SignBit(a[k]), q[k]);
 }
 
 // Double HA: x = n pi/2 + j pi/64 + r with |j| <= 16 and |r| <= pi/128 (the reduction of
@@ -312,7 +303,7 @@ BRENN_TRIG_HOT void ShortTan(const __m128* x, __m128* p) {
     if constexpr (L == Level::EP) {
         QuadrantTan<N, TanCotEP>(as, TanShort<float>::kPiHalf, p);
     } else if constexpr (L == Level::LA) {
-        QuadrantTan<N, TanFitSingleLA>(as, TanShort<float>::kPiHalf, p);
+        QuadrantTan<N, TanCotSingleLA>(as, TanShort<float>::kPiHalf, p);
     } else {
         __m128d ad[2 * N], q[2 * N];
         BRENN_EACH(k, N) {
