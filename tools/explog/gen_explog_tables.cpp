@@ -4,9 +4,9 @@
 //   N = 64, 128 and 256 in double (a high part and the rounded rest), N = 256 with the
 //   rest relative to the high part, and N = 1024 (double, one part);
 //   log rows: for the centres c = 1 + j/512, j = 0..512, a reciprocal of c rounded to
-//   43 bits (so that c times it is exact in double) and -ln of that reciprocal, split
+//   43 bits (so that c times it is exact in double), -ln of that reciprocal, split
 //   into a high part on the grid of 2^-42 (so that k*ln2hi + high is exact) and the
-//   rounded rest;
+//   rounded rest, and a = c times the reciprocal less 1 as double arithmetic forms it;
 //   the 128 rows of the scalar logarithm: the same for the middles c = 1 + (2j+1)/256;
 //   the rows of the double Log10 and Log2: for c = 1 + j/512 a reciprocal rounded
 //   to 10 bits, a = c times it less 1 (exact), and T = -log_B of the reciprocal plus
@@ -83,23 +83,35 @@ void SplitOnGrid42(mpfr_t l, double& hi, double& lo) {
     mpfr_clears(t, h, (mpfr_ptr)0);
 }
 
+// The centre c = (n + j)/n of row j (c = 1 + j/n) and its reciprocal rounded to 43 bits,
+// so that c times it is exact in double (c has at most 10 bits).
+void CentreAndReciprocal(mpfr_t c, mpfr_t rcp, long j, long n) {
+    mpfr_set_si(c, n + j, MPFR_RNDN);
+    mpfr_div_si(c, c, n, MPFR_RNDN);
+    mpfr_ui_div(rcp, 1, c, MPFR_RNDN); // rcp's own precision, 43 bits
+}
+
 void LogRows(FILE* out, const char* name, long n) {
-    mpfr_t c, rcp, l;
+    mpfr_t c, rcp, l, a;
     mpfr_inits2(kPrec, c, l, (mpfr_ptr)0);
     mpfr_init2(rcp, 43);
+    mpfr_init2(a, 53);
     std::fprintf(out, "alignas(32) const double %s[%ld][4] = {\n", name, n + 1);
     for (long j = 0; j <= n; ++j) {
-        mpfr_set_si(c, n + j, MPFR_RNDN);
-        mpfr_div_si(c, c, n, MPFR_RNDN);
-        mpfr_ui_div(rcp, 1, c, MPFR_RNDN); // 43 bits
+        CentreAndReciprocal(c, rcp, j, n);
         mpfr_log(l, rcp, MPFR_RNDN);
         mpfr_neg(l, l, MPFR_RNDN);
         double hi, lo;
         SplitOnGrid42(l, hi, lo);
-        std::fprintf(out, "    {%a, %a, %a, 0.0},\n", mpfr_get_d(rcp, MPFR_RNDN), hi, lo);
+        // a = c*rcp - 1 as the kernels form it in double: the product rounded to 53 bits
+        // (exact where it fits), then the difference with 1 (exact).
+        mpfr_mul(a, c, rcp, MPFR_RNDN);
+        mpfr_sub_ui(a, a, 1, MPFR_RNDN);
+        std::fprintf(out, "    {%a, %a, %a, %a},\n", mpfr_get_d(rcp, MPFR_RNDN), hi, lo,
+                     mpfr_get_d(a, MPFR_RNDN) + 0.0);
     }
     std::fprintf(out, "};\n\n");
-    mpfr_clears(c, rcp, l, (mpfr_ptr)0);
+    mpfr_clears(c, rcp, l, a, (mpfr_ptr)0);
 }
 
 // Rows of the scalar logarithm: centres c = 1 + (2j + 1)/256, j = 0..127, the middles
@@ -110,9 +122,7 @@ void LogRows128(FILE* out, const char* name) {
     mpfr_init2(rcp, 43);
     std::fprintf(out, "alignas(32) const double %s[128][3] = {\n", name);
     for (long j = 0; j < 128; ++j) {
-        mpfr_set_si(c, 257 + 2 * j, MPFR_RNDN);
-        mpfr_div_si(c, c, 256, MPFR_RNDN);
-        mpfr_ui_div(rcp, 1, c, MPFR_RNDN);
+        CentreAndReciprocal(c, rcp, 2 * j + 1, 256);
         mpfr_log(l, rcp, MPFR_RNDN);
         mpfr_neg(l, l, MPFR_RNDN);
         double hi, lo;
@@ -169,9 +179,7 @@ void LogBaseRowsF(FILE* out, const char* name, long n, int base) {
     mpfr_init2(rcp, 43);
     std::fprintf(out, "alignas(16) const double %s[%ld][2] = {\n", name, n + 1);
     for (long j = 0; j <= n; ++j) {
-        mpfr_set_si(c, n + j, MPFR_RNDN);
-        mpfr_div_si(c, c, n, MPFR_RNDN);
-        mpfr_ui_div(rcp, 1, c, MPFR_RNDN); // 43 bits
+        CentreAndReciprocal(c, rcp, j, n);
         if (base == 2)
             mpfr_log2(l, rcp, MPFR_RNDN);
         else

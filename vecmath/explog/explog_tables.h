@@ -8,7 +8,8 @@
  *   expTable1024[j]        = 2^(j/1024), one double;
  *   lnRows[j]              = for the centre c = 1 + j/512: a reciprocal of c to 43 bits,
  *                        -ln(reciprocal) as a high part on the 2^-42 grid and the rest,
- *                          and a pad, so that a row is 32 bytes;
+ *                          and a = c times the reciprocal less 1 as double arithmetic
+ *                          forms it (exact), a row of 32 bytes;
  *   lnTable128[j]          = the same three values for the centre c = 1 + (2j + 1)/256,
  *                          the rows of the scalar logarithm;
  *   log10Rows[j], log2Rows[j] = for c = 1 + j/512, j < 512: a reciprocal of c to 10 bits,

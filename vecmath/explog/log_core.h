@@ -6,7 +6,8 @@
  * around the centre 0x3F2AAAAB (2/3), so that for x near 1 k is 0 and r = m - 1 is
  * exact: no cancellation.
  * Double core: m in [1, 2) from the significand, mh = m rounded to 9 fraction bits
- * (the 513 rows of lnRows), r = (mh*rcp - 1) + ml*rcp with the first product exact,
+ * (the 513 rows of lnRows), r = (mh*rcp - 1) + ml*rcp with the first product exact
+ * (the row holds it, a),
  * |r| <= 2^-10; ln x = (k*ln2hi + Thi) + (r + r^2*P(r) + k*ln2lo + Tlo), where the
  * first sum is exact (both on the 2^-42 grid). The result comes as that exact head H and
  * a tail L, so that Log10, Log2 and Log1p can scale or correct it without a second
@@ -101,6 +102,7 @@ inline void LogSplit(__m128 x, __m128& r, __m128& k) {
 // two parts th + tl. The power kernels start from it too.
 struct LnReduction {
     __m128d k, mh, ml, rcp, th, tl;
+    __m128d a; // the row's mh*rcp - 1, as the product and difference round (exact)
 };
 BRENN_VEC LnReduction LnReduce(__m128d x) {
     using F = Format<double>;
@@ -119,9 +121,8 @@ BRENN_VEC LnReduction LnReduce(__m128d x) {
     const I64x2 ti = AsInt(ts);
     const double* ra = lnRows[LowWord<0>(ti) - 512];
     const double* rb = lnRows[LowWord<1>(ti) - 512];
-    __m128d pad;
     LoadTransposed(ra, rb, red.rcp, red.th);
-    LoadTransposed(ra + 2, rb + 2, red.tl, pad);
+    LoadTransposed(ra + 2, rb + 2, red.tl, red.a);
     return red;
 }
 
@@ -233,9 +234,8 @@ BRENN_VEC int LogRowsEPWide(const __m128d* x, __m128d* y, const double (*rows)[W
 // 2^-53); a shorter way to the loads than the shifter's round trip through m. u1, the
 // sum's bits, is given back for callers that take m otherwise (Log1p).
 BRENN_VEC void LoadLnRows(const double* ra, const double* rb, LnReduction& red) {
-    __m128d pad;
     LoadTransposed(ra, rb, red.rcp, red.th);
-    LoadTransposed(ra + 2, rb + 2, red.tl, pad);
+    LoadTransposed(ra + 2, rb + 2, red.tl, red.a);
 }
 BRENN_VEC LnReduction LnReduceBits(__m128d x, I64x2& x1) {
     using F = Format<double>;
@@ -282,7 +282,8 @@ BRENN_VEC void LnReducePair(const LogPair& p, LnReduction& r0, LnReduction& r1) 
 template <Level L>
 BRENN_VEC void LnCore3From(const LnReduction& red, __m128d& h, __m128d& r, __m128d& t) {
     using K = LogConst<double>;
-    r = Add(Sub(Mul(red.mh, red.rcp), Set<double>(1.0)), Mul(red.ml, red.rcp));
+    // mh*rcp - 1 from the row (a), the same value the product and difference give.
+    r = Add(red.a, Mul(red.ml, red.rcp));
     __m128d r2 = Mul(r, r);
     if constexpr (L == Level::EP) {
         __m128d p = Horner(r, K::kCoreEP);
