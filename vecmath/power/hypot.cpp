@@ -52,6 +52,8 @@ struct HypotRanges<double> {
     // zero, infinite or NaN (the high word of s).
     static constexpr Range32 kSingleRoot{0xFFFFFFFFu, 0x47E00000u, 0x8FBFFFFFu};
 };
+// The ends of that range as high words: 2^-125 and 2^127.
+constexpr int32_t kSingleRootLow = 0x38200000, kSingleRootHigh = 0x47E00000;
 
 // The wider type the scalar routine works in.
 template <class T>
@@ -230,14 +232,22 @@ struct HypotBody {
         using R = HypotRanges<double>;
         if constexpr (L == Level::EP) {
             // The round's eight registers of sums from single roots where every lane's sum
-            // lies in single's range; otherwise register by register.
-            V s[8], out = Zero<double>();
+            // lies in single's range; otherwise register by register. The range by the
+            // least and the largest high word of the round (a NaN with its sign bit set is
+            // the least; the low words' lanes are not read by MaskBits).
+            V s[8];
 #pragma GCC unroll 8
-            for (int k = 0; k < 8; ++k) {
+            for (int k = 0; k < 8; ++k)
                 s[k] = Add(Mul(a[k], a[k]), Mul(b[k], b[k]));
-                out = Or(out, RangeTest(s[k], R::kSingleRoot));
+            I32x4 least = BitCast<I32x4>(s[0]), most = least;
+#pragma GCC unroll 8
+            for (int k = 1; k < 8; ++k) {
+                least = Min(least, BitCast<I32x4>(s[k]));
+                most = Max(most, BitCast<I32x4>(s[k]));
             }
-            if (__builtin_expect(MaskBits(out) == 0, 1)) {
+            const I32x4 out = Or(Lt(least, Set<int32_t>(kSingleRootLow)),
+                                 Gt(most, Set<int32_t>(kSingleRootHigh - 1)));
+            if (__builtin_expect(MaskBits(BitCast<I64x2>(out)) == 0, 1)) {
 #pragma GCC unroll 4
                 for (int k = 0; k < 8; k += 2)
                     RootFromSingle(s[k], s[k + 1], y[k], y[k + 1]);
