@@ -72,7 +72,9 @@ BRENN_VEC __m128d LogBaseFrom(__m128d m, __m128d mh, __m128d k, const double* ra
     __m128d r2 = Mul(r, r);
     // The row's T holds c*a already: log_B x = (k*log_B(2) + T) + c*b + r^2*Q(r).
     __m128d h = Add(Mul(k, Set<double>(K::kPerKHi)), th); // exact
-    __m128d tail = Add(Mul(k, Set<double>(K::kPerKLo)), tl);
+    // Log2's k is exact as it is: no low part to scale (k*0 would stay, a product and a
+    // sum the compiler may not drop).
+    __m128d tail = K::kPerKLo == 0.0 ? tl : Add(Mul(k, Set<double>(K::kPerKLo)), tl);
     static_assert(L != Level::EP, "EP runs on the rows alone (LogRowsEP)");
     if constexpr (L == Level::LA) {
         __m128d small = Add(Mul(r2, Estrin(r, K::kLA)), tail);
