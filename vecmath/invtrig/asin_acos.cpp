@@ -12,7 +12,7 @@
  * of h in two parts and base, main term and tail joined by exact sums; the pi-scaled
  * single LA and HA run the double steps on the widened lanes with a six-term series and
  * narrow once. Double
- * EP, LA and HA use 6, 12 and 13 terms; HA also corrects the square root by its exact
+ * EP, LA and HA use 5 (by Horner's rule; 6 in half-turns), 12 and 13 terms; HA also corrects the square root by its exact
  * residual (over the root's reciprocal estimate) and joins base and main term by an exact
  * sum, EP takes the base without the tail of pi/4. The pi-scaled rows take the
  * compensated double steps at every double level. Double rounds of sixteen take each
@@ -23,7 +23,7 @@
  *
  * Measured (brenn_accuracy, 250000 inputs a row), LA / HA in ulp, EP in bits: sAsin
  * 2.22 / 0.581 / 14.0, sAcos 1.21 / 0.577 / 14.9, sAsinpi 0.506 / 0.506 / 14.0, sAcospi
- * 0.503 / 0.503 / 14.9; dAsin 1.67 / 0.627 / 30.8, dAcos 1.16 / 0.590 / 31.8, dAsinpi
+ * 0.503 / 0.503 / 14.9; dAsin 1.67 / 0.627 / 27.1, dAcos 1.16 / 0.590 / 27.2, dAsinpi
  * 0.823 / 0.740 / 30.8, dAcospi 0.661 / 0.591 / 31.8. */
 #include <cmath>
 
@@ -60,9 +60,6 @@ BRENN_VEC __m128d RootCorrection(__m128d h, __m128d s) {
 // mask (a blend on x itself compiles to a compare with zero and a blend).
 BRENN_VEC __m128 WhereNegative(__m128 x, __m128 c) {
     return And(AsFloat(ShiftRightSigned<31>(AsInt(x))), c);
-}
-BRENN_VEC __m128d WhereNegative(__m128d x, __m128d c) {
-    return IfThenElse(x, c, Zero<double>());
 }
 
 template <class V>
@@ -112,7 +109,8 @@ BRENN_VEC V AngleStep(const AngleState<V>& st) {
     } else {
         // Folded: u + l for x >= 0, pi - (u + l) below; unfolded pi/2 -+ (u + l). The flip,
         // fold ^ sign ^ 1 in the sign bit, as ~fold ^ sign.
-        k = IfThenElse(fold, WhereNegative(x, Set<T>(4 * c)), Set<T>(2 * c));
+        // k = 2c - (2c with x's sign) on folded lanes: 0 for x >= 0, 4c below.
+        k = Sub(Set<T>(2 * c), And(fold, Xor(sx, Set<T>(2 * c))));
         flip = Xor(AndNot(fold, SignMask<T>()), sx);
     }
     V y;
@@ -197,17 +195,19 @@ BRENN_VEC __m128 AnglesOf(__m128 x) {
         return Narrow(AngleOf<F, U, AsinDouble6Set, false, __m128d, true>(WidenLower(x)),
                       AngleOf<F, U, AsinDouble6Set, false, __m128d, true>(WidenUpper(x)));
 }
-template <Level L>
-using AsinDoubleOf =
-    std::conditional_t<L == Level::EP, AsinDouble6,
-                       std::conditional_t<L == Level::LA, AsinDouble12, AsinDouble13>>;
+// EP in radians five terms, in half-turns six (their compensated steps keep the series'
+// error apart from the last rounding).
+template <Level L, Unit U>
+using AsinDoubleOf = std::conditional_t<
+    L == Level::EP, std::conditional_t<U == Unit::Radian, AsinDouble5, AsinDouble6>,
+    std::conditional_t<L == Level::LA, AsinDouble12, AsinDouble13>>;
 template <Level L, Unit U>
 constexpr bool kCompOf = L == Level::HA || U == Unit::Pi;
 template <Fn F, Unit U, Level L, class V>
 BRENN_VEC V DoubleAngleOf(V x) {
     AngleState<V> st;
     RootStep(x, st);
-    TailStep<AsinDoubleOf<L>, kCompOf<L, U>, false>(st);
+    TailStep<AsinDoubleOf<L, U>, kCompOf<L, U>, false>(st);
     return AngleStep<F, U, kCompOf<L, U>, L == Level::EP>(st);
 }
 template <Fn F, Unit U, Level L>
@@ -235,7 +235,7 @@ BRENN_VEC int AnglesRound(const V* x, V* y) {
     }
 #pragma GCC unroll 8
     for (int k = 0; k < 8; ++k)
-        TailStep<AsinDoubleOf<L>, kComp, false>(st[k]);
+        TailStep<AsinDoubleOf<L, U>, kComp, false>(st[k]);
 #pragma GCC unroll 8
     for (int k = 0; k < 8; ++k)
         y[k] = AngleStep<F, U, kComp, L == Level::EP>(st[k]);

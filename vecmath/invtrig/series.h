@@ -23,8 +23,9 @@ struct AsinSingleLA {
     static BRENN_VEC __m128 Tail(__m128 w, __m128 u) { return Mul(Mul(u, w), Horner(w, kP)); }
 };
 
-// From tools/invtrig/asin_double.sollya: six terms (relative error 2^-31.8; double EP,
-// and single HA in double), twelve (2^-55.9, double LA), thirteen (2^-59.9, double HA).
+// From tools/invtrig/asin_double.sollya: six terms (relative error 2^-31.8; the
+// pi-scaled double EP, and the pi-scaled single in double), twelve (2^-55.9, double LA),
+// thirteen (2^-59.9, double HA).
 template <class Set>
 struct DoubleSeries {
     static BRENN_VEC __m128d Tail(__m128d w, __m128d u) {
@@ -49,6 +50,22 @@ struct AsinDouble13Set {
         0x1.613c1e6f4a2fp-7,  0x1.e5fbe8857f6f5p-9, 0x1.639a895132223p-6, -0x1.57fad0e39eaf7p-6,
         0x1.0b45e9f8e6b15p-5};
 };
+// Double EP: five terms by Horner's rule (tools/invtrig/asin_double_ep.sollya), fitted
+// to the error the result takes from them: relative below the fold, and doubled against
+// pi/2 - 2 asin(s) above it, where that is the smaller (2^-27.2 either way; the plain
+// relative fit leaves 2^-26.6 in the folded Asin near |x| = 1/2).
+struct AsinDouble5Set {
+    static constexpr double kP[] = {0x1.5555e5ec0cfb9p-3, 0x1.32f95f0296042p-4,
+                                    0x1.7545fe6a26482p-5, 0x1.84e354ba5e95dp-6,
+                                    0x1.5f4ba3fb224b6p-5};
+};
+template <class Set>
+struct DoubleSeriesHorner {
+    static BRENN_VEC __m128d Tail(__m128d w, __m128d u) {
+        return Mul(Mul(u, w), Horner(w, Set::kP));
+    }
+};
+using AsinDouble5 = DoubleSeriesHorner<AsinDouble5Set>;
 using AsinDouble6 = DoubleSeries<AsinDouble6Set>;
 using AsinDouble12 = DoubleSeries<AsinDouble12Set>;
 using AsinDouble13 = DoubleSeries<AsinDouble13Set>;
