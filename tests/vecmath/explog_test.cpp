@@ -219,6 +219,10 @@ void CheckExpLimits() {
             // the first arguments whose result is +0.
             for (T v : Arguments<T>(e.firstNonZero, e.firstNormal + wide, 0, 4000, 2000))
                 x.push_back(v);
+            // Densely around the first normal result, where the vector path's window ends.
+            const T near = std::fabs(e.firstNormal) * (sizeof(T) == 4 ? T(0x1p-16) : T(0x1p-26));
+            for (T v : Arguments<T>(e.firstNormal - near, e.firstNormal + near, 2000, 2000, 100))
+                x.push_back(v);
             T below = e.firstNonZero;
             for (int i = 0; i < 4; ++i)
                 x.push_back(below = std::nextafter(below, -T(INFINITY)));

