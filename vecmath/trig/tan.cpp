@@ -9,7 +9,7 @@
  * terms fitted the same way, in single, with a true division. Single HA widens the
  * argument to double (pi/2 in two parts) and takes the double EP set, double EP pi/2 in three parts, double LA in four with a
  * longer set (tools/trig/tan_quotient.sollya); double LA also keeps the remainder's low
- * part and the roundings of s and c, and corrects the quotient by them (AccurateQuotient).
+ * part and the roundings of s and c, and corrects the quotient by them (QuotientLA).
  * The single kernels and double EP reduce x with its sign (n, r and the quotient odd in
  * x), the others |x|, the sign put back at the end. The single short path holds to 8256, the
  * double one to 2^24. Every kernel runs rounds of sixteen elements with one range test,
@@ -131,22 +131,22 @@ BRENN_TRIG_HOT void ReduceWide(const __m128* a, const __m128* n, __m128* r) {
 }
 
 // Double LA: s/c as above, with what the plain quotient rounds away put back. The
-// remainder is r + rl (the third part's product subtracted with its error kept, then
-// renormalised), rl entering u = r^2 + 2 r rl and s = r + (rl + r u S). The roundings ds
-// and dc of the sums s = r + t and c = 1 + u C' are carried, and the quotient q0 (s/c, or
-// c/s for n odd) is corrected by its relative error ds/s - dc/c, the reciprocals taken
-// from the bits (one integer subtraction, good to 12%, on a correction of an ulp or
-// two). The plain quotient's three roundings and the remainder's add up to 2.9 ulp;
-// corrected, 1.6.
+// remainder is r + rl (the third part's product subtracted with its error kept, the
+// fourth's added to that error, then renormalised), rl entering s = r + (rl + r u S)
+// only. The roundings ds of s = r + t and dc of c = 1 + m (m = u C', both by exact
+// differences) are carried, and the quotient q0 (s/c, or -c/s for n odd) corrected by
+// its relative error ds/s - dc/c (the opposite for n odd), the reciprocals from the bits
+// (one integer subtraction, good to 12%, on a correction of an ulp or two). The plain
+// quotient's three roundings and the remainder's add up to 2.5 ulp; corrected, 1.6.
 constexpr uint64_t kRecipBits = 0x7FDE623822FC16E6ull;
 BRENN_TRIG_HOT __m128d RoughRecip(__m128d v) {
     return AsFloat(Sub(Set<uint64_t>(kRecipBits), AsInt(v)));
 }
 template <int M>
-BRENN_TRIG_HOT void AccurateQuotient(const __m128d* a, const __m128d* n, const __m128d* odd,
-                                     const double (&piHalf)[4], __m128d* q) {
+BRENN_TRIG_HOT void QuotientLA(const __m128d* a, const __m128d* n, const __m128d* odd,
+                               const double (&piHalf)[4], __m128d* q) {
     using S = TanFitLA;
-    __m128d r[M], rl[M], u[M], p[M], s[M], ds[M], c[M], dc[M];
+    __m128d r[M], rl[M], u[M], s[M], c[M], m[M];
     BRENN_EACH(k, M) {
         __m128d r1 = Sub(Sub(a[k], Mul(n[k], Set<double>(piHalf[0]))),
                          Mul(n[k], Set<double>(piHalf[1]))); // exact
@@ -155,23 +155,27 @@ BRENN_TRIG_HOT void AccurateQuotient(const __m128d* a, const __m128d* n, const _
         FastTwoSum(r1, Mul(n[k], Set<double>(-piHalf[2])), h, e);
         FastTwoSum(h, Sub(e, Mul(n[k], Set<double>(piHalf[3]))), r[k], rl[k]);
     }
-    BRENN_EACH(k, M) u[k] = Add(Mul(r[k], r[k]), Mul(Add(r[k], r[k]), rl[k]));
-    HornerAll<M>(u, S::kS, p);
+    BRENN_EACH(k, M) u[k] = Mul(r[k], r[k]);
+    HornerAll<M>(u, S::kS, s);
+    __m128d ds[M];
     BRENN_EACH(k, M) {
-        __m128d t = Add(rl[k], Mul(Mul(r[k], u[k]), p[k]));
+        __m128d t = Add(rl[k], Mul(Mul(r[k], u[k]), s[k]));
         FastTwoSum(r[k], t, s[k], ds[k]);
     }
-    // C' = (C - 1) / u, then c = 1 + u C' with its rounding.
-    BRENN_EACH(k, M) p[k] = MulAdd(u[k], Set<double>(S::kC[4]), Set<double>(S::kC[3]));
+    BRENN_EACH(k, M) m[k] = MulAdd(u[k], Set<double>(S::kC[4]), Set<double>(S::kC[3]));
 #pragma GCC unroll 4
     for (int i = 2; i >= 1; --i)
-        BRENN_EACH(k, M) p[k] = MulAdd(u[k], p[k], Set<double>(S::kC[i]));
-    BRENN_EACH(k, M) FastTwoSum(Set<double>(1), Mul(u[k], p[k]), c[k], dc[k]);
+        BRENN_EACH(k, M) m[k] = MulAdd(u[k], m[k], Set<double>(S::kC[i]));
+    BRENN_EACH(k, M) m[k] = Mul(u[k], m[k]);
+    BRENN_EACH(k, M) c[k] = Add(Set<double>(1), m[k]);
+    // n odd (odd holds the sign bit alone): -c/s, whose relative error is the opposite.
     BRENN_EACH(k, M) {
-        __m128d q0 = Div(IfThenElse(odd[k], c[k], s[k]), IfThenElse(odd[k], s[k], c[k]));
-        __m128d d = Sub(Mul(ds[k], RoughRecip(s[k])), Mul(dc[k], RoughRecip(c[k])));
-        // n odd (odd holds the sign bit alone): -c/s, whose relative error is the opposite.
-        q[k] = Add(Xor(q0, odd[k]), Mul(q0, d));
+        __m128d top = IfThenElse(odd[k], c[k], s[k]);
+        __m128d bot = IfThenElse(odd[k], s[k], c[k]);
+        __m128d q0 = Xor(Div(top, bot), And(odd[k], SignMask<double>()));
+        __m128d ndc = Sub(Sub(c[k], Set<double>(1)), m[k]);
+        __m128d d = Xor(Add(Mul(ds[k], RoughRecip(s[k])), Mul(ndc, RoughRecip(c[k]))), odd[k]);
+        q[k] = Add(q0, Mul(q0, d));
     }
 }
 
@@ -189,7 +193,7 @@ inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
     BRENN_EACH(k, M) odd[k] = AsFloat(ShiftLeft<8 * sizeof(T) - 1>(AsInt(t[k])));
     BRENN_EACH(k, M) n[k] = Sub(t[k], shifter);
     if constexpr (std::is_same_v<Sides, TanFitLA>) {
-        AccurateQuotient<M>(a, n, odd, piHalf, q);
+        QuotientLA<M>(a, n, odd, piHalf, q);
         return;
     }
     BRENN_EACH(k, M) r[k] = Sub(a[k], Mul(n[k], Set<T>(piHalf[0])));
