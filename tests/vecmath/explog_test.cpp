@@ -765,10 +765,10 @@ TEST(ExpLog, DoubleLogarithmsAtTheirSplitAndRows) {
         }
 }
 
-// The double logarithms split two registers at once on their high words in the main
-// stage: each lane of a round, special or at the ends of the window (by its high word and
-// by its low one), gives what it gives alone, and the special lanes that raise nothing
-// alone raise nothing there either.
+// The double logarithms (Log1p on 1 + x) split two registers at once on their high words
+// in the main stage: each lane of a round, special or at the ends of the window (by its
+// high word and by its low one), gives what it gives alone, and the special lanes that
+// raise nothing alone raise nothing there either.
 TEST(ExpLog, DoubleLogarithmsSplitByPairs) {
     ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
     auto d = [](uint64_t b) { return std::bit_cast<double>(b); };
@@ -778,16 +778,17 @@ TEST(ExpLog, DoubleLogarithmsSplitByPairs) {
                             d(0x0000000000000001ull), d(0x7FEFFFFFFFFFFFFFull),
                             d(0x7FEFFFFF00000000ull), d(0x3FEFFFFFFFFFFFFFull),
                             d(0x3FFFFE0000000000ull), d(0x3FFFFDFFFFFFFFFFull),
-                            d(0x8010000000000000ull)};
+                            d(0x8010000000000000ull), -1.0 + 0x1p-43, -1.0 + 0x1p-44,
+                            d(0x7FCFFBFFFFFFFFFFull), d(0x7FCFFC0000000000ull), 0x1p-60};
     std::mt19937_64 gen(5);
     constexpr int kLen = 40;
-    for (RowIndex row : kLogRowsD)
+    for (RowIndex row : {frame::Row_dLn, frame::Row_dLog10, frame::Row_dLog2, frame::Row_dLog1p})
         for (int slot : kSlots)
             for (int k = 0; k < int(std::size(quiet) + std::size(edges)); ++k)
                 for (int at = 0; at < 16; ++at) {
                     alignas(16) double in[kLen], y[kLen];
-                    for (double& v : in) // positive normals of every binade
-                        v = d(0x0010000000000000ull + gen() % 0x7FE0000000000000ull);
+                    for (double& v : in) // positive, 2^-63 to 2^705 (Log1p's r^2 normal)
+                        v = d(0x3C00000000000000ull + gen() % 0x3000000000000000ull);
                     const bool q = k < int(std::size(quiet));
                     in[at] = q ? quiet[k] : edges[k - std::size(quiet)];
                     in[at + 16] = in[at];

@@ -187,12 +187,12 @@ inline __m128d InverseOfField(I64x2 e) {
     return AsFloat(Sub(Set<uint64_t>(uint64_t(2 * F::kBias) << F::kMantBits), I64x2{held}));
 }
 
+// ln(1 + x) from the split of u = 1 + x: k, mh = 1 + j/512 (LA, HA), s = 2^-k held, and
+// the row of mh at ra (lane 0) and rb (lane 1).
 template <Level L>
-inline __m128d Log1pOf(__m128d x, __m128d& special) {
-    using F = Format<double>;
+inline __m128d Log1pFrom(__m128d x, __m128d k, __m128d mh, __m128d s, const double* ra,
+                         const double* rb) {
     const __m128d one = Set<double>(1.0);
-    const __m128d u = Add(one, x);
-    special = RangeTest(u, kLog1pWindow);
     const __m128d xs = SafeArgument(x);
     if constexpr (L == Level::EP) {
         // The rows alone (LogRowsEP's reduction on u): u's fraction rounded to 9 bits by
@@ -201,17 +201,9 @@ inline __m128d Log1pOf(__m128d x, __m128d& special) {
         // S = s*rcp (exact): u's own rounding does not reach r. (S - 1) is exact for
         // k up to 10 and x*S rounds once; at the row of 1 (S = 1) r is x itself.
         using K = LogConst<double>;
-        const I64x2 u1 = Add(AsInt(u), Set<uint64_t>(1ull << (F::kMantBits - 10)));
-        const I64x2 off = And(ShiftRight<F::kMantBits - 9 - 5>(u1), Set<uint64_t>(511ull << 5));
-        const char* rows = reinterpret_cast<const char*>(lnRows);
         __m128d rcp, t;
-        LoadTransposed(
-            reinterpret_cast<const double*>(rows + uint64_t(_mm_cvtsi128_si64(off.v))),
-            reinterpret_cast<const double*>(rows + uint64_t(_mm_extract_epi64(off.v, 1))), rcp, t);
-        const I64x2 e1 = And(u1, Set<uint64_t>(F::kExpField));
-        __m128d sr = Mul(InverseOfField(e1), rcp);
-        __m128d k = Sub(AsFloat(Or(ShiftRight<F::kMantBits>(e1), AsInt(Set<double>(0x1p52)))),
-                        Set<double>(0x1p52 + F::kBias));
+        LoadTransposed(ra, rb, rcp, t);
+        __m128d sr = Mul(s, rcp);
         __m128d r = Add(Sub(sr, one), Mul(xs, sr));
         // r + r^2*(c2 + c3*r), the core's EP form: its leading coefficient is 1, so that
         // tiny x come out as x itself.
@@ -223,9 +215,10 @@ inline __m128d Log1pOf(__m128d x, __m128d& special) {
     // exact for |k| <= 43 (mh on the 2^-9 grid; beyond, k > 43 and its rounding is far
     // below the result's last place) and x*2^-k is exact, so that the rounding of u
     // itself does not reach r.
-    I64x2 u1;
-    LnReduction red = LnReduceBits(u, u1);
-    __m128d s = InverseOfField(And(u1, Set<uint64_t>(F::kExpField)));
+    LnReduction red;
+    LoadLnRows(ra, rb, red);
+    red.k = k;
+    red.mh = mh;
     red.ml = Add(Sub(s, red.mh), Mul(xs, s));
     __m128d h, r, small;
     LnCore3From<L>(red, h, r, small);
@@ -240,13 +233,73 @@ inline __m128d Log1pOf(__m128d x, __m128d& special) {
     }
 }
 
+// One register: u's fraction rounded to 9 bits by adding half of 2^-9 to its bits, the
+// row's byte offset two integer steps from the sum, k its exponent.
+template <Level L>
+inline __m128d Log1pOf(__m128d x, __m128d& special) {
+    using F = Format<double>;
+    const __m128d u = Add(Set<double>(1.0), x);
+    special = RangeTest(u, kLog1pWindow);
+    const I64x2 u1 = Add(AsInt(u), Set<uint64_t>(1ull << (F::kMantBits - 10)));
+    static_assert(sizeof(lnRows[0]) == 32, "rows of 32 bytes");
+    const I64x2 off = And(ShiftRight<F::kMantBits - 9 - 5>(u1), Set<uint64_t>(511ull << 5));
+    const char* rows = reinterpret_cast<const char*>(lnRows);
+    const I64x2 e1 = And(u1, Set<uint64_t>(F::kExpField));
+    __m128d k = Sub(AsFloat(Or(ShiftRight<F::kMantBits>(e1), AsInt(Set<double>(0x1p52)))),
+                    Set<double>(0x1p52 + F::kBias));
+    __m128d mh = AsFloat(Or(And(u1, Set<uint64_t>(0x000FF80000000000ull)), Set<uint64_t>(F::kOne)));
+    return Log1pFrom<L>(
+        x, k, mh, InverseOfField(e1),
+        reinterpret_cast<const double*>(rows + uint64_t(_mm_cvtsi128_si64(off.v))),
+        reinterpret_cast<const double*>(rows + uint64_t(_mm_extract_epi64(off.v, 1))));
+}
+
+// 2^-k for a pair's four exponent fields, held as InverseOfField holds them.
+inline void InversePair(const LogPair& p, __m128d& s0, __m128d& s1) {
+    const I32x4 held = Max(Min(p.e, Set<int32_t>(0x7FC00000)), Set<int32_t>(980 << 20));
+    const __m128 d = _mm_castsi128_ps(Sub(Set<uint32_t>(0x7FE00000u), held).v);
+    const __m128 z = _mm_setzero_ps();
+    s0 = _mm_castps_pd(_mm_unpacklo_ps(z, d));
+    s1 = _mm_castps_pd(_mm_unpackhi_ps(z, d));
+}
+
+// A round of sixteen, u = 1 + x split two registers at once on their high words
+// (log_core.h SplitPair, with the window's high words), the same values as Log1pOf.
+template <Level L>
+inline int Log1pWide(const __m128d* x, __m128d* y) {
+    static_assert(kLog1pWindow.offset << 32 == 0 && uint32_t(kLog1pWindow.limit) == 0xFFFFFFFFu,
+                  "a window on the high words");
+    constexpr uint32_t kOff = uint32_t(kLog1pWindow.offset >> 32);
+    constexpr uint32_t kLim = uint32_t(kLog1pWindow.limit >> 32);
+    int bits = 0;
+#pragma GCC unroll 4
+    for (int q = 0; q < 4; ++q) {
+        const __m128d one = Set<double>(1.0);
+        LogPair p = SplitPair<5, kOff, kLim>(Add(one, x[2 * q]), Add(one, x[2 * q + 1]));
+        bits |= p.special << (4 * q);
+        __m128d mh0, mh1, s0, s1;
+        PairCentres(p, mh0, mh1);
+        InversePair(p, s0, s1);
+        y[2 * q] = Log1pFrom<L>(x[2 * q], p.k[0], mh0, s0, PairRow<0>(lnRows, p),
+                                PairRow<1>(lnRows, p));
+        y[2 * q + 1] = Log1pFrom<L>(x[2 * q + 1], p.k[1], mh1, s1, PairRow<2>(lnRows, p),
+                                    PairRow<3>(lnRows, p));
+    }
+    return bits;
+}
+
 template <class Tp, Level L>
 struct Log1pBody {
     using T = Tp;
     using V = Vec<T>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Log1p);
-    static constexpr int kRound = sizeof(T) == 8 && L != Level::EP ? 16 : 8;
-    static int EvalWide(const V* x, V* y) { return EvalByRegister<Log1pBody>(x, y); }
+    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
+    static int EvalWide(const V* x, V* y) {
+        if constexpr (sizeof(T) == 8)
+            return Log1pWide<L>(x, y);
+        else
+            return EvalByRegister<Log1pBody>(x, y);
+    }
     static V Eval(V x, V& special) { return Log1pOf<L>(x, special); }
     static int Scalar(const T* a, T* y) { return Log1pScalar(a, y); }
 };

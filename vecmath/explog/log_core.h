@@ -172,22 +172,25 @@ struct LogPair {
     int special;     // a bit a lane: x0's two, then x1's
     __m128d k[2], m[2];
     I32x4 h;         // the high words of x's bits plus half of 2^-9's
+    I32x4 e;         // their exponent fields (bits 20 to 30)
     uint64_t off[2]; // the rows' byte offsets, x0's and x1's, two 32-bit words each
 };
-template <int S>
+// The window is taken on the high words, offset and limit as a Range64's high words
+// (its limit's low word all ones): by default the positive normals, 0x00100000 to
+// 0x7FEFFFFF, moved to the bottom of the signed words, all others above the limit.
+template <int S, uint32_t WinOffset = 0x7FF00000u, uint32_t WinLimit = 0xFFDFFFFFu>
 BRENN_VEC LogPair SplitPair(__m128d x0, __m128d x1) {
     LogPair p;
     const I32x4 hi{_mm_castps_si128(
         _mm_shuffle_ps(_mm_castpd_ps(x0), _mm_castpd_ps(x1), _MM_SHUFFLE(3, 1, 3, 1)))};
-    // The positive normals' high words, 0x00100000 to 0x7FEFFFFF, moved to the bottom of
-    // the signed words: all others land above the limit.
-    const I32x4 t = Add(hi, Set<uint32_t>(0x7FF00000u));
-    p.special = MaskBits(Gt(t, Opaque(Set<uint32_t>(0xFFDFFFFFu))));
+    const I32x4 t = Add(hi, Set<uint32_t>(WinOffset));
+    p.special = MaskBits(Gt(t, Opaque(Set<uint32_t>(WinLimit))));
     p.h = Add(hi, Set<int32_t>(1 << 10));
     const I32x4 off = And(ShiftRight<11 - S>(p.h), Set<int32_t>(511 << S));
     p.off[0] = uint64_t(_mm_cvtsi128_si64(off.v));
     p.off[1] = uint64_t(_mm_extract_epi64(off.v, 1));
     const I32x4 e = And(p.h, Set<uint32_t>(0x7FF00000u));
+    p.e = e;
     const I32x4 ki = Sub(ShiftRight<20>(e), Set<int32_t>(1023));
     p.k[0] = _mm_cvtepi32_pd(ki.v);
     p.k[1] = _mm_cvtepi32_pd(_mm_shuffle_epi32(ki.v, 0xEE));
