@@ -23,6 +23,15 @@
 namespace brenn::vm {
 namespace {
 
+// The scalar routine of single Pow kept out of line in its flattened kernels, compiled as
+// it was when the frame called it from a function of its own: which of two NaN operands
+// x*y passes on rests on the order the compiler gives the product. (Single Powr, a
+// stand-by row, keeps the frame's calls.)
+template <PowDomain D, class T>
+[[gnu::noinline]] int PowScalarApart(T x, T y, T* r) {
+    return PowScalar<D>(x, y, r);
+}
+
 template <class Tp, Level L, PowDomain D>
 struct PowBody {
     using T = Tp;
@@ -30,7 +39,12 @@ struct PowBody {
     static constexpr const char* kName =
         D == PowDomain::Real ? ZAR_ERROR_NAME_OF(T, Pow) : ZAR_ERROR_NAME_OF(T, Powr);
     static BRENN_VEC V Eval(V a, V b, V& special) { return PowOf<L>(a, b, special); }
-    static int Scalar(const T* a, const T* b, T* y) { return PowScalar<D>(*a, *b, y); }
+    static int Scalar(const T* a, const T* b, T* y) {
+        if constexpr (sizeof(T) == 4 && D == PowDomain::Real)
+            return PowScalarApart<D>(*a, *b, y);
+        else
+            return PowScalar<D>(*a, *b, y);
+    }
     // Double rounds of sixteen, each step over the round's eight registers.
     static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
     static BRENN_VEC int EvalWide(const V* a, const V* b, V* y) { return PowWide<L>(a, b, y); }
@@ -47,7 +61,7 @@ using PowrBody = PowBody<T, L, PowDomain::NonNegative>;
 using namespace brenn::vm;
 
 extern "C" {
-ZAR_LEVEL_KERNELS(s, Pow, Binary, PowRealBody)
+BRENN_FLAT_LEVEL_KERNELS(s, Pow, Binary, PowRealBody)
 BRENN_FLAT_LEVEL_KERNELS(d, Pow, Binary, PowRealBody)
 ZAR_LEVEL_KERNELS(s, Powr, Binary, PowrBody)
 BRENN_FLAT_LEVEL_KERNELS(d, Powr, Binary, PowrBody)
