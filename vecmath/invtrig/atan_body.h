@@ -190,17 +190,23 @@ BRENN_VEC AtanWideState AtanWideQuotient(__m128d a) {
     const __m128d one = Set<double>(1.0);
     const __m128d quarter = Set<double>(Quarter<double, U>::kHi);
     __m128d above = AsFloat(Gt(AsInt(a), AsInt(Set<double>(kTanThreeEighths))));
-    __m128d fold = AndNot(above, AsFloat(Gt(AsInt(a), AsInt(Set<double>(kTanEighth)))));
-    __m128d num = IfThenElse(fold, Sub(a, one), IfThenElse(above, Neg(one), a));
-    __m128d den = IfThenElse(fold, Add(a, one), IfThenElse(above, a, one));
-    __m128d base = IfThenElse(fold, quarter, IfThenElseZero(above, Add(quarter, quarter)));
+    __m128d over = AsFloat(Gt(AsInt(a), AsInt(Set<double>(kTanEighth))));
+    // num = c*a - e and den = c + e*a, c = 0 above tan(3pi/8) and 1 below, e = 1 above
+    // tan(pi/8) and 0 below: a/1, (a - 1)/(a + 1) or -1/a, the products by masks (exact).
+    __m128d num = Sub(AndNot(above, a), And(over, one));
+    __m128d den = Add(AndNot(above, one), And(over, a));
+    __m128d base = Add(And(over, quarter), And(above, quarter));
     return {Div(num, den), base};
 }
 template <Unit U>
 BRENN_VEC __m128d AtanWideAngle(AtanWideState s) {
     using S = AtanDouble5Set;
     __m128d q = s.q;
-    __m128d l = Mul(q, Mul(Mul(q, q), Estrin(Mul(q, q), S::kP)));
+    // Double EP (radians, the only one in radians here) by Horner's rule: its rounds of
+    // sixteen are bound by the operations, not the chain; the pi-scaled single rows keep
+    // Estrin's scheme.
+    __m128d z = Mul(q, q);
+    __m128d l = Mul(q, Mul(z, U == Unit::Radian ? Horner(z, S::kP) : Estrin(z, S::kP)));
     if constexpr (U == Unit::Pi)
         return Add(s.base, Mul(Add(q, l), Set<double>(InvPi<double>::kHi)));
     else
