@@ -172,7 +172,7 @@ BRENN_TRIG_HOT void QuotientLA(const __m128d* a, const __m128d* n, const __m128d
     BRENN_EACH(k, M) {
         __m128d top = IfThenElse(odd[k], c[k], s[k]);
         __m128d bot = IfThenElse(odd[k], s[k], c[k]);
-        __m128d q0 = Xor(Div(top, bot), And(odd[k], SignMask<double>()));
+        __m128d q0 = Xor(Div(top, bot), odd[k]);
         __m128d ndc = Sub(Sub(c[k], Set<double>(1)), m[k]);
         __m128d d = Xor(Add(Mul(ds[k], RoughRecip(s[k])), Mul(ndc, RoughRecip(c[k]))), odd[k]);
         q[k] = Add(q0, Mul(q0, d));
@@ -258,15 +258,14 @@ BRENN_TRIG_HOT void TanSums(const int32_t* J, const __m128d* rh, const __m128d* 
         tt[k] = Add(rl[k], Mul(Mul(rh[k], u), Horner(u, kTanTaylor)));
     }
     BRENN_EACH(k, M) {
+        __m128d p = Mul(ah[k], rh[k]);
         __m128d pl = Add(Mul(ah[k], tt[k]), Mul(al[k], Add(rh[k], tt[k])));
-        __m128d ph, pe0;
-        FastTwoSum(Mul(ah[k], rh[k]), pl, ph, pe0);
-        // 1 - ph and its rounding (1 - dh is exact, |ph| < 1/2), less pe0.
-        dh[k] = Sub(Set<double>(1), ph);
-        dl[k] = Sub(Sub(Sub(Set<double>(1), dh[k]), ph), pe0);
+        // 1 - p and its rounding (1 - dh is exact, |p| < 1/2), less pl.
+        dh[k] = Sub(Set<double>(1), p);
+        dl[k] = Sub(Sub(Sub(Set<double>(1), dh[k]), p), pl);
         // |tan A| >= tan(pi/64) > pi/128 >= |rh|, or tan A = 0: the fast sum is exact.
         FastTwoSum(ah[k], rh[k], nh[k], nl[k]);
-        FastTwoSum(nh[k], Add(nl[k], Add(al[k], tt[k])), nh[k], nl[k]);
+        nl[k] = Add(nl[k], Add(al[k], tt[k]));
     }
     BRENN_EACH(k, M) {
         th[k] = IfThenElse(odd[k], dh[k], nh[k]);
@@ -274,7 +273,9 @@ BRENN_TRIG_HOT void TanSums(const int32_t* J, const __m128d* rh, const __m128d* 
         bh[k] = IfThenElse(odd[k], nh[k], dh[k]);
         bl[k] = IfThenElse(odd[k], nl[k], dl[k]);
     }
-    BRENN_EACH(k, M) rb[k] = Div(Set<double>(1), bh[k]);
+    // The pairs are not renormalised (a low part may reach 2^-11 of its head): the
+    // reciprocal is of the bottom's rounded sum.
+    BRENN_EACH(k, M) rb[k] = Div(Set<double>(1), Add(bh[k], bl[k]));
     // The quotient's head cut to 26 bits, qh, and the bottom's, bhh: th - qh bhh is exact
     // (qh bhh has 52 bits and lies within about 2^-24 of th), and so is qh times the rest
     // of bh (53 bits); what is left of the top, about 2^-25 of th, is divided by the
