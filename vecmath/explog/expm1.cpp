@@ -3,12 +3,13 @@
  * Single HA widens to double and runs on the table of 128: e^x - 1 = (S - 1) + S*p(r),
  * S = 2^m*2^(j/128), |r| <= ln2/256, degree 3, rounded once to single (Expm1Table128).
  * Single LA and EP use no table, in single: x = n*ln2 + r, |r| <= ln2/2, and
- * e^x - 1 = (2^n - 1) + 2^n*p(r), one rounding (Expm1NoTable), degree 6 and 4.
+ * e^x - 1 = (2^n - 1) + 2^n*p(r), one rounding (Expm1NoTable), degree 6 and 4; EP with
+ * ln2 in one part and as 2^n*p - (1 - 2^n), which keeps the sign of -0 (Expm1EP).
  * The double kernels reduce on the table of 256 (exp_core256.h's step; the rows
  * 2^(j/256) = Thi*(1 + d) of expRelTable256): e^x - 1 = 2^m*Thi*e^(r + d) - 1. HA
  * (degree 5) carries the first difference and its sum with the leading part of the
  * product exactly (Expm1On256Exact), LA (degree 5) rounds the same sums (Expm1On256),
- * EP (degree 3) takes the high parts alone (Expm1On256Plain).
+ * EP (degree 3) takes the high parts alone (Expm1EP, the form of single EP).
  * The scalar routines run the table core of exp_core.h: e^x - 1 = 2^m*T*(1 + p) - 1 with
  * the subtraction of 1 placed by m so that nothing cancels: for -1 <= m <= 52,
  * 2^m*((Thi - 2^-m) + s), the inner difference exact; for m > 52, 2^m*(Thi + (s - 2^-m));
@@ -210,15 +211,47 @@ inline __m128d Expm1On256(__m128d x) {
     return Add(a, Mul(e.big, Add(e.r, e.q)));
 }
 
-// EP: the high parts only, one-part step, degree 3: (S - 1) + S*p.
-inline __m128d Expm1On256Plain(__m128d x) {
-    using S = ExpStep256;
-    __m128d t = Expm1Steps(x);
-    __m128d n = Sub(t, Set<double>(Format<double>::kShifter));
-    __m128d r = Sub(x, Mul(n, Set<double>(S::kStepHi + S::kStepLo)));
-    __m128d p = Add(r, Mul(Mul(r, r), Estrin(r, Expm1Table256::kC3)));
-    __m128d big = ScaleByLowWord<8>(GatherColumn(expRelTable256, AsInt(t), 255), t);
-    return Add(Sub(big, Set<double>(1.0)), Mul(big, p));
+// The EP forms, single and double: x = (N*m + j)*ln2/N + r (N = 1 in single, 256 in
+// double on the high parts of the table of 256), ln2/N in one part (n times it rounds
+// by 2^-18.4 of the result in single, 2^-44 in double), S = 2^m*2^(j/N), p(r) =
+// r*(1 + r*(c2 + c3*r + ...)) ~ e^r - 1, and e^x - 1 = S*p - (1 - S). Where n = 0, r is x
+// itself and so is p for tiny x (1 + r*Q rounds to 1), denormals included; -0 gives
+// p = -0 and -0 - (+0) = -0, so that no sign is put back (the sum S*p + (S - 1) gave +0
+// there; every other result of the difference is the sum's). It does not cancel: where
+// S*p and 1 - S meet with the same sign, |S*p| is below half of |1 - S| or S = 1. The
+// coefficients are the base-e ones, single degree 4 and double degree 3.
+template <class T>
+struct Expm1Plain;
+template <>
+struct Expm1Plain<float> {
+    static constexpr float kInvStep = Expm1Wide<float>::kInvLn2;
+    static constexpr float kStep = 0x1.62e43p-1f;
+    static constexpr const auto& kC = Expm1Wide<float>::kC4;
+};
+template <>
+struct Expm1Plain<double> {
+    static constexpr double kInvStep = ExpStep256::kInvStep;
+    static constexpr double kStep = ExpStep256::kStepHi + ExpStep256::kStepLo;
+    static constexpr const auto& kC = Expm1Table256::kC3;
+};
+inline __m128 Expm1Scale(__m128 t) {
+    return ScaleByLowWord<0>(Set<float>(1), t);
+}
+inline __m128d Expm1Scale(__m128d t) {
+    return ScaleByLowWord<8>(GatherColumn(expRelTable256, AsInt(t), 255), t);
+}
+template <class V>
+inline V Expm1EP(V x) {
+    using T = ElemOf<V>;
+    using C = Expm1Plain<T>;
+    const V shifter = Set<T>(Format<T>::kShifter);
+    const V one = Set<T>(1);
+    V t = Add(Mul(x, Set<T>(C::kInvStep)), shifter);
+    V n = Sub(t, shifter);
+    V r = Sub(x, Mul(n, Set<T>(C::kStep)));
+    V p = Mul(r, Add(one, Mul(r, Horner(r, C::kC))));
+    V s = Expm1Scale(t);
+    return Sub(Mul(s, p), Sub(one, s));
 }
 
 // By precision and level: the range window on |x| (in single 86.6433945, where 2^n
@@ -262,18 +295,16 @@ inline double Expm1Value(double x) {
 
 // Vector values by level: single HA widens its lanes to double, runs the form on the
 // table of 128 and rounds once, single LA and EP run the degree-6 and degree-4 forms in
-// single;
-// double on the table of 256, HA carried exactly, LA with fewer carries, EP plain.
-// e^x - 1 has the
-// sign of x, which these forms give to every result but that of -0: x's sign bit is
-// put back.
+// single; double on the table of 256, HA carried exactly, LA with fewer carries, EP
+// plain. e^x - 1 has the sign of x, which the HA and LA forms give to every result but
+// that of -0: x's sign bit is put back (the EP form keeps it).
 template <Level L>
 inline __m128 Expm1Of(__m128 x) {
     __m128 y;
     if constexpr (L == Level::LA) {
         y = Expm1NoTable(x, Expm1Wide<float>::kC6);
     } else if constexpr (L == Level::EP) {
-        y = Expm1NoTable(x, Expm1Wide<float>::kC4);
+        return Expm1EP(x);
     } else {
         __m128d lo = Expm1Table128(WidenLower(x));
         __m128d hi = Expm1Table128(WidenUpper(x));
@@ -288,7 +319,7 @@ inline __m128d Expm1Of(__m128d x) {
     else if constexpr (L == Level::LA)
         return Or(Expm1On256(x), SignBit(x));
     else
-        return Or(Expm1On256Plain(x), SignBit(x));
+        return Expm1EP(x);
 }
 
 template <class Tp, Level L>
