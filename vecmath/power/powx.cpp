@@ -96,20 +96,33 @@ struct PowxBody : PowxCommon<Tp> {
             return PowOf<L>(x, bv, special);
     }
     // Double rounds of sixteen, each step over the round's eight registers (PowRound).
-    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
+    // Single LA and HA too, register by register: the frame's quad evaluation was a call
+    // a register out of line, where a round's four registers stay in the round's loop.
+    static constexpr int kRound = sizeof(T) == 8 || L != Level::EP ? 16 : 8;
     BRENN_VEC int EvalWide(const V* x, V* y) const {
-        V xs[8], bs[8];
+        if constexpr (sizeof(T) == 4) {
+            int bits = 0;
+#pragma GCC unroll 4
+            for (int k = 0; k < 4; ++k) {
+                V special;
+                y[k] = Eval(x[k], special);
+                bits |= MaskBits(special) << (4 * k);
+            }
+            return bits;
+        } else {
+            V xs[8], bs[8];
 #pragma GCC unroll 8
-        for (int k = 0; k < 8; ++k) {
-            xs[k] = Integer ? Abs(x[k]) : x[k];
-            bs[k] = bv;
+            for (int k = 0; k < 8; ++k) {
+                xs[k] = Integer ? Abs(x[k]) : x[k];
+                bs[k] = bv;
+            }
+            const int bits = PowWide<L>(xs, bs, y);
+            if constexpr (Integer)
+#pragma GCC unroll 8
+                for (int k = 0; k < 8; ++k)
+                    y[k] = Or(y[k], And(x[k], oddSign));
+            return bits;
         }
-        const int bits = PowWide<L>(xs, bs, y);
-        if constexpr (Integer)
-#pragma GCC unroll 8
-            for (int k = 0; k < 8; ++k)
-                y[k] = Or(y[k], And(x[k], oddSign));
-        return bits;
     }
 };
 
