@@ -18,8 +18,8 @@
  * +0 and denormal results (underflow). Error mode 0x2000 blends overflow and
  * underflow lanes. Rounds of sixteen elements, the range tested once a round (wide.h).
  *
- * Measured (brenn_accuracy, full run): sExp2 HA 0.503 ulp, LA 1.33 ulp, EP 12.7 bits;
- * sExp10 HA 0.504 ulp, LA 1.32 ulp, EP 12.7 bits; dExp2 HA 0.71 ulp, LA 1.79 ulp, EP
+ * Measured (brenn_accuracy, full run): sExp2 HA 0.516 ulp, LA 1.33 ulp, EP 12.7 bits;
+ * sExp10 HA 0.541 ulp, LA 1.32 ulp, EP 12.7 bits; dExp2 HA 0.71 ulp, LA 1.79 ulp, EP
  * 30.2 bits; dExp10 HA 0.71 ulp, LA 1.77 ulp, EP 30.2 bits (250000 samples). */
 #include <bit>
 #include <cstdint>
@@ -126,8 +126,9 @@ inline __m128d CoreOf(__m128d x) {
 // relative to it), r the rest of x in base B, |r| <= log_B(2)/256, p ~ B^r - 1, and
 // B^x = 2^(n >> 7) * (T + T*(Tl + p)), the power of two added to the exponent field.
 // Inside the range windows the result is normal, so the integer addition is the scaling.
-// Polynomials by tools/explog/exp2_10_single.sollya (degree 3; Exp2 2^-37.8 absolute,
-// Exp10 2^-35.5): with the final rounding the kernels stay near 0.5 ulp.
+// Polynomials by tools/explog/exp2_10_single.sollya (degree 2, 2^-30.1 absolute, a
+// sixtieth of the last place at most): with the final rounding the kernels stay near
+// 0.5 ulp (Exp2 0.516, Exp10 0.55 with its step's rounding).
 template <Base B>
 struct SingleCore;
 template <>
@@ -135,18 +136,17 @@ struct SingleCore<Base::Two> {
     // 1.375 * 2^16: its last place is 2^-7, so x + kShifter leaves 128*x rounded in the
     // low bits, and r = x - (t - kShifter) exactly.
     static constexpr float kShifter = 0x1.6p+16f;
-    static constexpr float kC[] = {0x1.62e43p-1f, 0x1.ebfbfp-3f, 0x1.c515fep-5f};
+    static constexpr float kC[] = {0x1.62e446p-1f, 0x1.ebfbf4p-3f};
 };
 template <>
 struct SingleCore<Base::Ten> {
     // 1.375 * 2^23, whose bits end in seven zeros too; 128*log2(10), and log10(2)/128 in
-    // three parts, the first two of 10 bits: for |n| below 2^14 both products are exact
-    // and so is the difference (x - n*h1) - n*h2, which leaves only n*h3's rounding (a
-    // two-part step would round n*lo near 0.03, 2^-30, a twentieth of an ulp).
+    // two parts, the head of 10 bits: for |n| below 2^14 n*head and x - n*head are exact,
+    // and n*lo, near 0.03 at most, rounds by 2^-30 (a twentieth of an ulp).
     static constexpr float kShifter = 0x1.6p+23f;
     static constexpr float kInvStep = 0x1.a934fp+8f;
-    static constexpr float kStep[] = {0x1.348p-9f, -0x1.f68p-20f, 0x1.427de8p-31f};
-    static constexpr float kC[] = {0x1.26bb1cp1f, 0x1.535258p1f, 0x1.ff97a6p0f};
+    static constexpr float kStep[] = {0x1.348p-9f, -0x1.f657bp-20f};
+    static constexpr float kC[] = {0x1.26bb2ep1f, 0x1.53525ap1f};
 };
 
 // The shifted t (x + shifter for Exp2, whose last place is then the step; x*C::kInvStep +
