@@ -26,6 +26,7 @@
 #include "frame/kernels.h"
 #include "vecmath/arith/ranges.h"
 #include "vecmath/complex/exact.h"
+#include "vecmath/explog/flat.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/frame/scalar.h"
@@ -288,5 +289,6 @@ struct HypotBody {
 using namespace brenn::vm;
 
 extern "C" {
-ZAR_ROW_KERNELS(Hypot, Binary, HypotBody)
+ZAR_LEVEL_KERNELS(s, Hypot, Binary, HypotBody)
+BRENN_FLAT_LEVEL_KERNELS(d, Hypot, Binary, HypotBody)
 }
