@@ -85,7 +85,8 @@ struct Limits<double, Base::Ten> {
 // d = x - n*log_B(2)/256 (exact for Exp2), p(d) ~ B^d - 1 fitted in the function's own
 // base, so that no product with ln B rounds on the way, and
 // B^x = 2^m*(Thi + (Thi*p + Tlo)). Degree 4 (tools/explog/exp_double256.sollya, 2^-48
-// relative, of a p below 2^-9.5), evaluated as d*((c1 + c2*d) + d^2*(c3 + c4*d)).
+// relative, of a p below 2^-9.5), evaluated as d*((c1 + c2*d) + d^2*(c3 + c4*d)) for
+// Exp10 and as d*(c1 + d*(c2 + d*(c3 + c4*d))) for Exp2.
 template <Base B>
 struct DoublePoly;
 template <>
@@ -116,7 +117,9 @@ inline __m128d CoreOf(__m128d x) {
         __m128d n = Sub(t, shifter);
         d = Sub(Sub(x, Mul(n, Set<double>(C::kStepHi))), Mul(n, Set<double>(C::kStepLo)));
     }
-    __m128d p = Mul(d, Estrin(d, DoublePoly<B>::kC));
+    // Exp2 by Horner's rule (its exact reduction leaves the chain short: one operation
+    // fewer), Exp10 by Estrin's scheme after its longer reduction.
+    __m128d p = Mul(d, B == Base::Two ? Horner(d, DoublePoly<B>::kC) : Estrin(d, DoublePoly<B>::kC));
     // Inside the windows (|x| to 1022 and 307) y*2^m is normal: m goes into the
     // exponent field by an integer addition.
     return ScaleByLowWord<8>(ExpJoin256(t, p), t);
