@@ -419,8 +419,12 @@ BRENN_VEC __m128 Atan2Of(__m128 a, __m128 b, __m128 special) {
 template <Unit U, Level L, bool Fast = false>
 BRENN_VEC __m128d Atan2Of(__m128d a, __m128d b, __m128d special) {
     const __m128d one = Set<double>(1.0);
-    return AngleOf < U, DoubleSeriesOf<L>,
-           L == Level::HA || U == Unit::Pi > (IfThenElse(special, one, a), IfThenElse(special, one, b));
+    // The row's own EP kernel takes the five terms by Horner's rule (fewer operations;
+    // the complex Arg and Ln keep Estrin's scheme).
+    using S = std::conditional_t<Fast && L == Level::EP && U == Unit::Radian,
+                                 DoubleSeriesHorner<AtanDouble5Set>, DoubleSeriesOf<L>>;
+    return AngleOf<U, S, L == Level::HA || U == Unit::Pi>(IfThenElse(special, one, a),
+                                                          IfThenElse(special, one, b));
 }
 
 // The vector range of Atan2's magnitudes: [2^-125, 2^123] in single, by the whole bits,
@@ -449,11 +453,23 @@ constexpr auto kRangeOf<float, Level::HA, Unit::Radian, true> = kRangeHA;
 // Atan2's special values (C99 Annex F) in the unit's half turn, and the other pairs by
 // the compensated double steps: single pairs as they are, double ones scaled by a
 // common power of two unless the quotient is so small that it is the result.
-template <Unit U, class T>
+template <Unit U, class T, bool AFirst = false>
 int Atan2Scalar(const T* pa, const T* pb, T* y) {
     T a = *pa, b = *pb;
     if (__builtin_isnan(a) || __builtin_isnan(b)) {
-        *y = a + b;
+        // AFirst: a's NaN where a is one, else b's, quieted, and the invalid flag for a
+        // signalling one, what a + b gives with a as the first operand, whichever order
+        // the compiler puts the operands of a + b in (the flattened double kernels).
+        if constexpr (AFirst) {
+            if (__builtin_isnan(a)) {
+                *y = a + a;
+                Keep(Keep(b) + Keep(T(0)));
+            } else {
+                *y = b + b;
+            }
+        } else {
+            *y = a + b;
+        }
         return status::kNone;
     }
     constexpr double kHalf = U == Unit::Pi ? 1.0 : 3.141592653589793;
@@ -534,7 +550,9 @@ struct Atan2Body {
                      HeldRangeTest(b, kRangeOf<T, L, U, Fast>));
         return Atan2Of<U, L, Fast>(a, b, special);
     }
-    static int Scalar(const T* a, const T* b, T* y) { return Atan2Scalar<U>(a, b, y); }
+    static int Scalar(const T* a, const T* b, T* y) {
+        return Atan2Scalar<U, T, Fast && sizeof(T) == 8>(a, b, y);
+    }
 
     // Double: N pairs of registers, each step of the angle over all of them before the
     // next (the same arithmetic as Eval's, register by register).
