@@ -199,6 +199,33 @@ void MixedMatchesAlone(const char* row) {
 // The double rounds test the high words of their lanes against the limit's: a lane at 2^24
 // or a little above it sends its round register by register, one just below does not.
 // Either way each lane, at the seam or ordinary beside it, gets the bits it gets alone.
+// Double Tan HA carries the addition formula's sides and their quotient in two doubles:
+// x = k pi/2 + j pi/64 + r with r from the whole interval down to 2^-40 of it (beside the
+// poles and zeros for j = 0, beside the table's nodes otherwise), up to the short path's
+// limit, keeps to 0.6 ulp.
+TEST(Trig, DoubleTangentHAAcrossTheTable) {
+    std::mt19937_64 gen(29);
+    std::uniform_real_distribution<double> unit(-1.0, 1.0);
+    std::vector<double> x;
+    for (int i = 0; i < 20000; ++i) {
+        long k = long(gen() % 10680707); // k pi/2 below 2^24
+        int j = int(gen() % 33) - 16;
+        long double r = unit(gen) * std::ldexp(1.0, -int(gen() % 41)) * 0.0245L;
+        long double v = (32 * k + j) * 0.0490873852123405193027287003637422327L + r;
+        x.push_back(double(i % 2 ? -v : v));
+    }
+    std::vector<double> y = Call("dTan", 1, x);
+    int bad = 0;
+    for (size_t i = 0; i < x.size() && bad < 5; ++i) {
+        double err = UlpError(y[i], tanl((long double)x[i]));
+        if (err > 0.6) {
+            ++bad;
+            ADD_FAILURE() << "x = " << std::hexfloat << x[i] << " error " << std::defaultfloat
+                          << err;
+        }
+    }
+}
+
 TEST(Trig, DoubleSeamLanesMatchElementsAlone) {
     const double seam[] = {std::nextafter(16777216.0, 0.0), 16777216.0,
                            std::nextafter(16777216.0, 2e7), 16777216.0 * (1 + 0x1p-21),
