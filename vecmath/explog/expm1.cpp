@@ -161,13 +161,13 @@ inline __m128d Scale256(__m128d t) {
     return AsFloat(ShiftLeft<Format<double>::kMantBits>(BitCast<I64x2>(e)));
 }
 
-// For HA and LA: S, rh = x - n*stepHi (exact), rl = -n*stepLo + d and q = r^2*Q(r),
-// degree 5, for r = rh + rl (RowInPoly) or r = rh - n*stepLo: then the polynomial does
-// not wait for the row, and d*r, a tenth of the last place at most (near 0), is lost.
+// For HA and LA: S, rh = x - n*stepHi (exact), rn = n*stepLo - d, r = rh - rn and
+// q = r^2*Q(r), degree 5 (d joins the polynomial's argument). The low part is held
+// negated so that x = -0 gives r = -0 - (+0) = -0; every other r is rh + (-n*stepLo + d)
+// to the bit.
 struct Expm1Reduced {
-    __m128d big, rh, rl, r, q;
+    __m128d big, rh, rn, r, q;
 };
-template <bool RowInPoly>
 inline Expm1Reduced Expm1Reduce256(__m128d x) {
     using S = ExpStep256;
     Expm1Reduced e;
@@ -179,9 +179,8 @@ inline Expm1Reduced Expm1Reduce256(__m128d x) {
     __m128d th = InterleaveLower(row0, row1), d = InterleaveUpper(row0, row1);
     e.big = Mul(Scale256(t), th);
     e.rh = Sub(x, Mul(n, Set<double>(S::kStepHi)));
-    __m128d rl = Mul(n, Set<double>(-S::kStepLo));
-    e.rl = Add(rl, d);
-    e.r = Add(e.rh, RowInPoly ? e.rl : rl);
+    e.rn = Sub(Mul(n, Set<double>(S::kStepLo)), d);
+    e.r = Sub(e.rh, e.rn);
     e.q = Mul(Mul(e.r, e.r), Estrin(e.r, Expm1Table256::kC5));
     return e;
 }
@@ -192,23 +191,26 @@ inline Expm1Reduced Expm1Reduce256(__m128d x) {
 // wherever the head cancels (m = 0 or -1, j near 0), so that only the last addition
 // rounds at the result's scale.
 inline __m128d Expm1On256Exact(__m128d x) {
-    Expm1Reduced e = Expm1Reduce256<true>(x);
+    Expm1Reduced e = Expm1Reduce256(x);
     __m128d a, ea, s, es;
     TwoSum(e.big, Set<double>(-1.0), a, ea);
     FastTwoSum(a, e.rh, s, es);
-    __m128d lo = Add(Mul(e.big, Add(e.rl, e.q)), Mul(a, e.rh));
+    __m128d lo = Add(Mul(e.big, Sub(e.q, e.rn)), Mul(a, e.rh));
     return Add(s, Add(Add(es, ea), lo));
 }
 
-// LA: (S - 1) + S*p with p = r + q, d in the polynomial's argument (r = rh + (rl + d)).
-// a = S - 1 is exact for -1 <= m <= 52 and rounds only beyond, far from any
-// cancellation; where a and S*p have opposite signs (j near 0 or 256) |S*p| is at most
-// half of |a| but where a is 0, which gives p itself: the rounding of r, of S*p and of
-// the sum, under 2 ulps in all.
+// LA: S*p - (1 - S) with p = r + q, d in the polynomial's argument (r = rh - rn).
+// 1 - S is exact for -1 <= m <= 52 and rounds only beyond, far from any cancellation;
+// where 1 - S and S*p have the same sign (j near 0 or 256) |S*p| is at most half of
+// |1 - S| but where S is 1, which gives p itself: the rounding of r, of S*p and of the
+// difference, under 2 ulps in all. The sign of -0 is kept with no step of its own: r is
+// -0 there, q (never negative) goes through a maximum with -0, which gives -0 for q = 0
+// and q itself otherwise, so that p = -0 and -0 - (+0) = -0; every other result is the
+// sum (S - 1) + S*p to the bit.
 inline __m128d Expm1On256(__m128d x) {
-    Expm1Reduced e = Expm1Reduce256<true>(x);
-    __m128d a = Sub(e.big, Set<double>(1.0));
-    return Add(a, Mul(e.big, Add(e.r, e.q)));
+    Expm1Reduced e = Expm1Reduce256(x);
+    __m128d q = Max(e.q, Set<double>(-0.0)); // the second operand where both are zeros
+    return Sub(Mul(e.big, Add(e.r, q)), Sub(Set<double>(1.0), e.big));
 }
 
 // The EP forms, single and double: x = (N*m + j)*ln2/N + r (N = 1 in single, 256 in
@@ -296,8 +298,8 @@ inline double Expm1Value(double x) {
 // Vector values by level: single HA widens its lanes to double, runs the form on the
 // table of 128 and rounds once, single LA and EP run the degree-6 and degree-4 forms in
 // single; double on the table of 256, HA carried exactly, LA with fewer carries, EP
-// plain. e^x - 1 has the sign of x, which the HA and LA forms give to every result but
-// that of -0: x's sign bit is put back (the EP form keeps it).
+// plain. e^x - 1 has the sign of x, which the HA form gives to every result but that
+// of -0: x's sign bit is put back (the LA and EP forms keep it).
 template <Level L>
 inline __m128 Expm1Of(__m128 x) {
     __m128 y;
@@ -317,7 +319,7 @@ inline __m128d Expm1Of(__m128d x) {
     if constexpr (L == Level::HA)
         return Or(Expm1On256Exact(x), SignBit(x));
     else if constexpr (L == Level::LA)
-        return Or(Expm1On256(x), SignBit(x));
+        return Expm1On256(x);
     else
         return Expm1EP(x);
 }
