@@ -671,6 +671,33 @@ TEST(ExpLog, ExponentialsTestTheirRangeOnceARound) {
     CheckSpecialPlaces<double>(frame::Row_dExpm1, 708.0);
 }
 
+// Single Expm1 takes every argument up to 88.375 at LA and EP (and to the last finite
+// result at HA) in the vector path, where 2^n reaches 2^127 on the positive side and +0
+// on the negative one: every float of both bands within the level's bound, element by
+// element and in one long call.
+TEST(ExpLog, SingleExpm1OverTheWholeWindow) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    std::vector<float> x;
+    for (float v = 86.0f; v <= 0x1.62e42ep+6f; v = std::nextafter(v, 100.0f))
+        x.push_back(v), x.push_back(-v);
+    for (int slot : kSlots) {
+        std::vector<float> y(x.size());
+        K<float>(frame::Row_sExpm1, slot)(int(x.size()), x.data(), y.data());
+        int shown = 0;
+        for (size_t i = 0; i < x.size(); ++i) {
+            double err = UlpError(y[i], expm1l(x[i]));
+            if (!(err <= LevelBound<float>(slot)) && shown++ < 5)
+                ADD_FAILURE() << "slot " << slot << " x " << std::hexfloat << x[i] << " y " << y[i];
+        }
+        for (float v : {88.375f, std::nextafter(88.375f, 100.0f), 88.0f, -88.375f, -87.0f}) {
+            int status;
+            float one = Call(frame::Row_sExpm1, slot, v, &status);
+            EXPECT_EQ(status, 0) << slot << " " << v;
+            EXPECT_LE(UlpError(one, expm1l(v)), LevelBound<float>(slot)) << slot << " " << v;
+        }
+    }
+}
+
 // Expm1 gives every result the sign of x: -0 stays -0, tiny and denormal x are x itself,
 // in both precisions and every slot, through the vector path.
 TEST(ExpLog, Expm1KeepsTheSignAndTinyArguments) {
