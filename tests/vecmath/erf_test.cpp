@@ -2,6 +2,7 @@
 // where the bodies change path (grid ends, the mirrored side's hold, the scaled rows, the
 // range tests), the edge values with their statuses, NaNs, the caller's MXCSR, vectors
 // with special lanes against one element at a time, and the printed table rows.
+#include <cfenv>
 #include <cfloat>
 #include <cmath>
 #include <gtest/gtest.h>
@@ -102,6 +103,27 @@ void ExpectEdges(const std::vector<Edge<T>>& cases) {
                     << RowOf<T>(e.f) << " slot " << slot << " x " << e.x << " got " << y;
             EXPECT_EQ(st, e.status) << RowOf<T>(e.f) << " slot " << slot << " x " << e.x;
         }
+}
+
+// Double Erf EP: the short expansion around each grid point j/128 holds 33 bits at the
+// widest offsets (half a step either side) over the whole grid, where a term left out of
+// R (t^2 or u) would lose eight or more; tiny arguments, whose d^2 would underflow, raise
+// no flag beyond inexact (while the result is normal) and come out as x*2/sqrt(pi).
+TEST(ErfRows, DoubleShortExpansionOverTheGrid) {
+    std::vector<double> x;
+    for (int j = 0; j < 768; j += 3)
+        for (double off : {-0.5, -0.3, 0.0001, 0.2, 0.4999})
+            if (j + off > 0) x.push_back((j + off) / 128);
+    std::vector<double> y(x.size());
+    As<Unary<double>>(Slot("dErf", kSlotEP))(int(x.size()), x.data(), y.data());
+    for (size_t i = 0; i < x.size(); ++i)
+        EXPECT_LE(fabsl((y[i] - erfl(x[i])) / erfl(x[i])), 0x1p-33L) << "x " << x[i];
+    for (double t : {0x1p-1000, -0x1p-600, 0x1p-300, 0x1p-257, -0x1p-255}) {
+        std::feclearexcept(FE_ALL_EXCEPT);
+        const double v = Call(Fn::Erf, kSlotEP, t);
+        EXPECT_FALSE(std::fetestexcept(FE_UNDERFLOW | FE_INVALID | FE_OVERFLOW)) << t;
+        EXPECT_LE(fabsl((v - erfl(t)) / erfl(t)), 0x1p-33L) << t;
+    }
 }
 
 TEST(ErfRows, EdgeValuesAndStatuses) {
