@@ -7,11 +7,12 @@
  * (tools/trig/tan_single_ep.sollya), with a true division. Single LA reduces the same way
  * (a remainder below 2^-9 is redone in double) and takes s = r and c = C(r^2) of five
  * terms fitted the same way, in single, with a true division. Single HA widens the
- * argument to double (pi/2 in two parts) and takes the double EP set, double EP pi/2 in three parts, double LA in four with a
- * longer set (tools/trig/tan_quotient.sollya); double LA also keeps the remainder's low
- * part and the roundings of s and c, and corrects the quotient by them (QuotientLA).
- * The single kernels and double EP reduce x with its sign (n, r and the quotient odd in
- * x), the others |x|, the sign put back at the end. The single short path holds to 8256, the
+ * argument to double (pi/2 in two parts) and takes the double EP set; double EP reduces
+ * with pi/2 in three parts, double LA in four with a longer set
+ * (tools/trig/tan_quotient.sollya), and double LA also keeps the remainder's low part and
+ * the roundings of s and c, and corrects the quotient by them (QuotientLA). The single
+ * kernels and double EP reduce x with its sign (n, r and the quotient odd in x), the
+ * others |x|, the sign put back at the end. The single short path holds to 8256, the
  * double one to 2^24. Every kernel runs rounds of sixteen elements with one range test,
  * its registers' chains interleaved (double HA's table steps too, TanSums).
  *
@@ -243,8 +244,8 @@ constexpr uint64_t kHead26 = 0xFFFFFFFFF8000000ull; // keeps 26 significant bits
 template <int M>
 BRENN_TRIG_HOT void TanSums(const int32_t* J, const __m128d* rh, const __m128d* rl, __m128d* y,
                             const __m128d* t = nullptr) {
-    __m128d odd[M], ah[M], al[M], tt[M], dh[M], dl[M], nh[M], nl[M], th[M], tl[M], bh[M],
-        bl[M], rb[M], q[M];
+    __m128d odd[M], ah[M], al[M], tt[M], dh[M], dl[M], nh[M], nl[M], th[M], tl[M], bh[M], bl[M],
+        rb[M], q[M];
     BRENN_EACH(k, M) {
         const int i0 = J[2 * k] + 16, i1 = J[2 * k + 1] + 16;
         odd[k] = t ? AsFloat(ShiftLeft<58>(Add(AsInt(t[k]), Set<uint64_t>(16))))
