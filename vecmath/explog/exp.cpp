@@ -8,9 +8,9 @@
  * LA N = 1024 and a cubic, HA N = 256 in two parts and degree 4 (exp_core256.h); EP
  * 2^(x*log2e) on the table of 128 and a quadratic in base 2 (exp_core.h Exp2Table128,
  * the form of dExp2 EP; x*log2e rounds by 2^-44.5 of the result).
- * Range test on |x| (87.33654 in single, 708.39 in double, inside the last normal
- * results); the special lanes, overflow, underflow and denormal results go to the
- * scalar routine, which works from the double core of exp_scalar.h. In error mode
+ * Range test on x from -87.33654 to 88.72 in single (inside the last normal results
+ * below, just inside the last finite ones above), on |x| to 708.39 in double; the
+ * special lanes, overflow, underflow and denormal results go to the scalar routine, which works from the double core of exp_scalar.h. In error mode
  * 0x2000 overflow and underflow lanes are settled by blends (exp_fixup.h). Rounds of
  * sixteen elements, the range tested once a round (wide.h), every level flattened.
  *
@@ -36,7 +36,10 @@ template <class T>
 struct ExpWindow;
 template <>
 struct ExpWindow<float> {
-    static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x42AEAC4Fu}; // |x| to 87.33654
+    // -87.33654 to 88.72: below, the results near the least normal and the denormal
+    // ones; above, the last arguments whose results are finite (n = 128 with q < 1, whose
+    // exponent field 126 + 128 still holds them; q is at least 2^-14 below 1 up to 88.72).
+    static constexpr SplitWindow32 kWindow = {0x42B170A4u, 0xC2AEAC4Fu};
 };
 template <>
 struct ExpWindow<double> {

@@ -13,7 +13,8 @@
  * exp_core.h; the product's rounding 2^-44.5 of the result).
  * Single LA and EP: no table, B^x = 2^n*(1 + p(r)), |r| <= log_B(2)/2 (NoTableOf below);
  * Exp10 EP as Exp2 EP of x*log2(10).
- * Range tests: |x| above 126 (Exp2) or 37.93 (Exp10) in single, 1022 or 307 in double;
+ * Range tests: x outside [-126, 127.99] (Exp2) or [-37.93, 38.53] (Exp10) in single,
+ * |x| above 1022 or 307 in double;
  * the scalar routines take the rest with the limits of each format: overflow (reported),
  * +0 and denormal results (underflow). Error mode 0x2000 blends overflow and
  * underflow lanes. Rounds of sixteen elements, the range tested once a round (wide.h).
@@ -60,14 +61,18 @@ struct BaseConst<Base::Ten> {
 // +0 below kUnder) by precision and base.
 template <class T, Base B>
 struct Limits;
+// In single the windows reach up to just below the last finite result (x from -126 to
+// 127.99 for Exp2, -37.93 to 38.53 for Exp10, wide.h SplitWindow32): there n >> 7 (or n)
+// is 128 with a significand below 1, 2^-14 below it at least, whose exponent field
+// 126 + 128 still holds the result.
 template <>
 struct Limits<float, Base::Two> {
-    static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x42FC0000u}; // |x| to 126
+    static constexpr SplitWindow32 kWindow = {0x42FFFAE1u, 0xC2FC0000u};
     static constexpr float kOver = 128.0f, kUnder = -150.0f;
 };
 template <>
 struct Limits<float, Base::Ten> {
-    static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x4217B818u}; // |x| to 37.93
+    static constexpr SplitWindow32 kWindow = {0x421A1EB8u, 0xC217B818u};
     static constexpr float kOver = 0x1.344136p+5f, kUnder = -0x1.693c6ap+5f;
 };
 template <>

@@ -9,6 +9,10 @@
 #ifndef BRENN_VECMATH_EXPLOG_WIDE_H
 #define BRENN_VECMATH_EXPLOG_WIDE_H
 
+#include <stdint.h>
+
+#include <type_traits>
+
 #include "vecmath/frame/vec.h"
 
 namespace brenn::vm {
@@ -67,19 +71,62 @@ template <class W>
 constexpr bool kMagnitudeWindow = W::kWindow.offset == 0 &&
                                   (W::kWindow.mask == 0x7FFFFFFFu ||
                                    W::kWindow.mask == 0x7FFFFFFFFFFFFFFFull);
+// The unsigned maximum of 32-bit lanes (SSE4.1 pmaxud), for the fold of a split window.
+inline I32x4 MaxUnsigned(I32x4 a, I32x4 b) {
+    return I32x4{_mm_max_epu32(a.v, b.v)};
+}
 } // namespace wide_detail
+
+// A window of unequal ends on single x, for rows whose vector path reaches further on
+// one side than on the other: a lane is special when x is above hi or below lo (lo < 0
+// < hi), infinite or NaN. On the bits: a positive x above hi is a signed integer above
+// bits(hi), and a negative x below lo an unsigned one above bits(lo) (NaNs and
+// infinities of either sign the same), so that a round folds its registers by a signed
+// and an unsigned maximum (positive lanes never pass the unsigned limit, negative ones
+// never the signed), two operations a register as the magnitude's and-mask and maximum.
+struct SplitWindow32 {
+    uint32_t hi, lo; // bits(hi) and bits(lo)
+};
+inline __m128 RangeTest(__m128 x, SplitWindow32 w) {
+    const I32x4 sign = Set<int32_t>(INT32_MIN);
+    I32x4 b = AsInt(x);
+    I32x4 above = Gt(b, Set<int32_t>(int32_t(w.hi)));
+    I32x4 below = Gt(Xor(b, sign), Set<int32_t>(int32_t(w.lo ^ 0x80000000u)));
+    return AsFloat(Or(above, below));
+}
+
+template <class B>
+inline bool AnyOutside(const Vec<typename B::T>* x) {
+    using T = typename B::T;
+    constexpr int N = 16 / kLanes<T>;
+    if constexpr (std::is_same_v<std::remove_cv_t<decltype(B::kWindow)>, SplitWindow32>) {
+        static_assert(sizeof(T) == 4, "split windows are single");
+        I32x4 high = AsInt(x[0]), low = AsInt(x[0]);
+#pragma GCC unroll 8
+        for (int k = 1; k < N; ++k) {
+            high = Max(high, AsInt(x[k]));
+            low = wide_detail::MaxUnsigned(low, AsInt(x[k]));
+        }
+        const I32x4 sign = Set<int32_t>(INT32_MIN);
+        I32x4 out = Or(Gt(high, Set<int32_t>(int32_t(B::kWindow.hi))),
+                       Gt(Xor(low, sign), Set<int32_t>(int32_t(B::kWindow.lo ^ 0x80000000u))));
+        return MaskBits(out) != 0;
+    } else {
+        static_assert(wide_detail::kMagnitudeWindow<B>, "a window on |x| alone");
+        I32x4 fold = wide_detail::MagnitudeBits(x[0]);
+#pragma GCC unroll 8
+        for (int k = 1; k < N; ++k)
+            fold = Max(fold, wide_detail::MagnitudeBits(x[k]));
+        return MaskBits(Gt(fold, wide_detail::FoldLimit<T>(B::kWindow))) != 0;
+    }
+}
 
 template <class B>
 inline int EvalTestOnce(const Vec<typename B::T>* x, Vec<typename B::T>* y) {
     using T = typename B::T;
     constexpr int L = kLanes<T>;
     constexpr int N = 16 / L;
-    static_assert(wide_detail::kMagnitudeWindow<B>, "a window on |x| alone");
-    I32x4 fold = wide_detail::MagnitudeBits(x[0]);
-#pragma GCC unroll 8
-    for (int k = 1; k < N; ++k)
-        fold = Max(fold, wide_detail::MagnitudeBits(x[k]));
-    if (__builtin_expect(MaskBits(Gt(fold, wide_detail::FoldLimit<T>(B::kWindow))) != 0, 0)) {
+    if (__builtin_expect(AnyOutside<B>(x), 0)) {
         int bits = 0;
 #pragma GCC unroll 8
         for (int k = 0; k < N; ++k) {
