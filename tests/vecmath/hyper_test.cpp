@@ -276,6 +276,31 @@ TEST(Hyper, SpecialLanesRaiseNoFlags) {
             }
 }
 
+// Long calls of dCosh whose rounds mix arguments near the top of the vector range with
+// small ones (below 21.49, where e^-a still counts): every lane within its level, and no
+// flag but inexact, in particular no underflow from e^-a at the top of the range.
+TEST(Hyper, CoshRoundsMixingLargeAndSmallArguments) {
+    std::vector<double> x;
+    for (int i = 0; i < 200; ++i) {
+        double top = 700.0 + 10.47 * (i % 37) / 36; // 700 to 710.47
+        double small = (i % 23) * 0.97 - 0.5;       // -0.5 to 20.84
+        x.push_back(i % 11 == 4 ? small : (i % 2 ? -top : top));
+    }
+    for (int slot : kSlots) {
+        CsrScope csr(0x1F80);
+        std::vector<double> y(x.size());
+        K<double>("dCosh", slot)(int(x.size()), x.data(), y.data());
+        EXPECT_EQ(_mm_getcsr() & 0x3F & ~0x20u, 0u) << "slot " << slot;
+        for (size_t i = 0; i < x.size(); ++i) {
+            long double ref = coshl(x[i]);
+            if (slot == kSlotEP)
+                EXPECT_LE(fabsl((y[i] - ref) / ref), 0x1p-26L) << x[i];
+            else
+                EXPECT_LE(UlpError(y[i], ref), slot == kSlotHA ? 1.0 : 4.0) << x[i];
+        }
+    }
+}
+
 // The overflow report names the element and takes the callback's result.
 int gIndex, gCode;
 int Record(ErrorRecord* r) {

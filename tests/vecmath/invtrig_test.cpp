@@ -312,6 +312,39 @@ TEST(InvTrig, Atan2SpecialValues) {
     }
 }
 
+// dAtan2 with a NaN on either side gives the first argument's NaN where it has one, else
+// the second's, quieted, and raises invalid only for a signalling one, at every slot and
+// whatever the kernel's inlining does to the order of the scalar routine's sum; in a
+// round, beside ordinary lanes.
+TEST(InvTrig, Atan2NaNOfTheFirstArgument) {
+    auto nanOf = [](uint64_t bits) { return __builtin_bit_cast(double, bits); };
+    const double qa = nanOf(0x7FF8000000000A11ull), qb = nanOf(0xFFF8000000000B22ull);
+    const double sb = nanOf(0x7FF0000000000B33ull);
+    struct Case {
+        double a, b;
+        uint64_t want;
+        bool invalid;
+    };
+    const Case cases[] = {{qa, qb, 0x7FF8000000000A11ull, false},
+                          {qb, qa, 0xFFF8000000000B22ull, false},
+                          {2.0, qb, 0xFFF8000000000B22ull, false},
+                          {qa, -3.0, 0x7FF8000000000A11ull, false},
+                          {qa, sb, 0x7FF8000000000A11ull, true},
+                          {sb, 1.0, 0x7FF8000000000B33ull, true}};
+    for (const Case& c : cases)
+        for (int slot = 0; slot < kSlots; ++slot) {
+            std::vector<double> a(20, 0.75), b(20, -1.25);
+            a[9] = c.a, b[9] = c.b;
+            CsrScope csr(0x1F80);
+            std::vector<double> y = Call2("dAtan2", slot, a, b);
+            EXPECT_EQ(Bits(y[9]), c.want) << "slot " << slot << " " << std::hexfloat << c.a << " "
+                                          << c.b;
+            EXPECT_EQ((_mm_getcsr() & 1) != 0, c.invalid) << "slot " << slot;
+            EXPECT_TRUE(SameValue(y[3], double(atan2l(0.75L, -1.25L))) ||
+                        WithinLevel(slot, y[3], atan2l(0.75L, -1.25L)));
+        }
+}
+
 // Pairs of every sign and exponent, so huge and tiny ratios, denormals and the vector
 // range's edges in all four quadrants.
 template <class T>
