@@ -3,6 +3,7 @@
 // bit pattern of b (the slot it reaches, the name a report carries, the general body one
 // bit away), and the special values of the roots, Pow3o2 and Hypot.
 #include <cfloat>
+#include <cfenv>
 #include <cmath>
 #include <cstring>
 #include <gtest/gtest.h>
@@ -406,6 +407,36 @@ void CheckPowxTable() {
 TEST(Power, PowxDispatchTable) {
     CheckPowxTable<float>();
     CheckPowxTable<double>();
+}
+
+// The general body of single Powx against single Pow with b in every lane: a finite b
+// that is not an integer (which leaves b untested in the lanes; flags the same too) and an
+// infinite or NaN one, on long calls that mix ordinary x with every special kind; values
+// and statuses the same.
+TEST(Power, SinglePowxGeneralBodyMatchesPow) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    constexpr int n = 67;
+    std::vector<float> a(n), bs(n), y(n), z(n);
+    const float odd[] = {0.0f, -0.0f, INFINITY, -INFINITY, NAN, -2.5f, 1e-40f, 1.0f, -1.0f};
+    for (int i = 0; i < n; ++i)
+        a[i] = i % 5 == 0 ? odd[(i / 5) % 9] : 0.3f + 0.71f * float(i);
+    for (float b : {2.75f, -1.25f, 0.1f, 41.5f, INFINITY, -INFINITY, NAN})
+        for (int slot : kSlots) {
+            for (float& v : bs)
+                v = b;
+            std::feclearexcept(FE_ALL_EXCEPT);
+            Powx<float>(slot)(n, a.data(), b, y.data());
+            const int fx = std::fetestexcept(FE_ALL_EXCEPT), sx = brenn_zar_kernel_GetErrStatus();
+            brenn_zar_kernel_SetErrStatus(0);
+            std::feclearexcept(FE_ALL_EXCEPT);
+            As<Binary<float>>(Raw(frame::Row_sPow, slot))(n, a.data(), bs.data(), z.data());
+            const int fp = std::fetestexcept(FE_ALL_EXCEPT), sp = brenn_zar_kernel_GetErrStatus();
+            brenn_zar_kernel_SetErrStatus(0);
+            for (int i = 0; i < n; ++i)
+                EXPECT_TRUE(SameValue(y[i], z[i])) << "b=" << b << " slot " << slot << " a=" << a[i];
+            EXPECT_EQ(sx, sp) << "b=" << b;
+            if (std::isfinite(b)) EXPECT_EQ(fx, fp) << "b=" << b << " slot " << slot;
+        }
 }
 
 // The negative powers whose positive power overflows or is denormal still come out right.

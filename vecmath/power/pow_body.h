@@ -109,15 +109,18 @@ BRENN_VEC __m128d PowSingleHalf(__m128d m, __m128d k, __m128d y, const double* r
     return ScaleByLowWord<10>(Add(row, Mul(row, u)), n);
 }
 
-template <Level L>
+// `FiniteY`: y finite in every lane (Powx's general body with a finite b), so that only x
+// is tested and y stays as it is: a special lane runs on x = 1, where ln x and w are 0.
+template <Level L, bool FiniteY = false>
 BRENN_VEC __m128 PowOf(__m128 x, __m128 y, __m128& special) {
     if constexpr (L == Level::EP) {
         return PowSingleEP(x, y, special);
     } else {
         using F = Format<float>;
-        __m128 sxy = Or(LogSpecial(x), RangeTest(y, PowRanges<float>::kY));
+        __m128 sxy = LogSpecial(x);
+        if constexpr (!FiniteY) sxy = Or(sxy, RangeTest(y, PowRanges<float>::kY));
         x = IfThenElse(sxy, Set<float>(1.0f), x);
-        y = IfThenZeroElse(sxy, y);
+        if constexpr (!FiniteY) y = IfThenZeroElse(sxy, y);
         const I32x4 b = AsInt(x);
         I32x4 mant = And(b, Set<uint32_t>(F::kMant));
         __m128 m = AsFloat(Or(mant, Set<uint32_t>(F::kOne)));
@@ -194,7 +197,7 @@ BRENN_VEC int PowWide(const __m128d* x, const __m128d* y, __m128d* v) {
     return bits;
 }
 
-template <Level L>
+template <Level L, bool FiniteY = false>
 BRENN_VEC __m128d PowOf(__m128d x, __m128d y, __m128d& special) {
     __m128d v;
     PowRound<L, 1>(&x, &y, &v, &special);

@@ -83,17 +83,20 @@ struct PowxCommon {
     int Scalar(const T* a, T* y) const { return PowScalar<PowDomain::Real>(*a, b, y); }
 };
 
-template <class Tp, Level L, bool Integer = false>
+// `FiniteB` (b neither infinite nor NaN, every integer b among them): single LA and HA
+// test x alone and keep b as it is in every lane.
+template <class Tp, Level L, bool Integer = false, bool FiniteB = true>
 struct PowxBody : PowxCommon<Tp> {
     using T = Tp;
     using V = Vec<T>;
     V bv;
     V oddSign = Zero<T>();
     BRENN_VEC V Eval(V x, V& special) const {
+        constexpr bool finite = FiniteB && sizeof(T) == 4;
         if constexpr (Integer)
-            return Or(PowOf<L>(Abs(x), bv, special), And(x, oddSign));
+            return Or(PowOf<L, finite>(Abs(x), bv, special), And(x, oddSign));
         else
-            return PowOf<L>(x, bv, special);
+            return PowOf<L, finite>(x, bv, special);
     }
     // Double rounds of sixteen, each step over the round's eight registers (PowRound).
     // Single LA and HA too, register by register: the frame's quad evaluation was a call
@@ -309,7 +312,10 @@ void PowxRun(int n, const T* a, T b, T* y) {
         RunUnary(PowxBody<T, L, true>{{b}, Set<T>(b), oddSign}, n, a, y);
         return;
     }
-    RunUnary(PowxBody<T, L>{{b}, Set<T>(b)}, n, a, y);
+    if (__builtin_isfinite(b))
+        RunUnary(PowxBody<T, L>{{b}, Set<T>(b)}, n, a, y);
+    else
+        RunUnary(PowxBody<T, L, false, false>{{b}, Set<T>(b)}, n, a, y);
 }
 
 } // namespace
