@@ -13,7 +13,7 @@
  * on the rows alone, r = (S - 1) + x*S with S = 2^-k*rcp, and the cubic); HA carries h + r exactly
  * before the small terms are added. Its window on u runs from 2^-43 to below
  * 2^1021 - 2^1011; the rest goes to the scalar routine. Special lanes run without a blend
- * on the range test: x and 2^-k are held by integer steps where they meet products.
+ * on the range test: 2^-k (and x at LA and HA) held by integer steps where they meet products.
  * Measured (brenn_accuracy, worst of its inputs): sLog1p EP 11.5 bits, LA 1.66 ulp,
  * HA 0.50 ulp; dLog1p EP 32.6 bits, LA 0.84 ulp, HA 0.66 ulp.
  * Scalar routine: x = -1 gives -inf with the singularity status, x below -1 (and -inf)
@@ -176,24 +176,27 @@ inline __m128d SafeArgument(__m128d x) {
     b = _mm_min_epi32(b, _mm_set_epi32(0x7FEFFFFF, 0x7FFFFFFF, 0x7FEFFFFF, 0x7FFFFFFF));
     return _mm_castsi128_pd(b);
 }
-// 2^-k for u's exponent field e (bits 52 to 62 of e, the rest 0), e held between 980 and
-// 2044: inside the window it is there already, and the special lanes' fields beyond
-// (0 for u = 0, to 2047) give 2^43 to 2^-1021, normal numbers whose products with
-// SafeArgument's x, and the powers of r after them, raise nothing.
+// 2^-k for u's exponent field e (bits 52 to 62 of e, the rest 0): inside the window
+// (fields 980 to 2044) as it is; the special lanes' fields above it give 2^-1021 and those
+// below it (u below 2^-43, or a positive NaN whose fraction of ones the rounding to the
+// row carries past the exponent field, leaving 0) 2^-1020: e - 980 held by an unsigned
+// minimum, so that the lanes below wrap to the top. Normal numbers whose products with
+// SafeArgument's x (at most 2^1024, or about -1 where u is below 2^-43), and the powers of
+// r after them, raise nothing.
+constexpr uint32_t kFieldLow = 980u << 20, kFieldSpan = 0x7FC00000u - kFieldLow;
 inline __m128d InverseOfField(I64x2 e) {
     using F = Format<double>;
-    __m128i held = _mm_min_epi32(e.v, _mm_set_epi32(0x7FC00000, 0, 0x7FC00000, 0));
-    held = _mm_max_epi32(held, _mm_set_epi32(980 << 20, 0, 980 << 20, 0));
-    return AsFloat(Sub(Set<uint64_t>(uint64_t(2 * F::kBias) << F::kMantBits), I64x2{held}));
+    __m128i t = _mm_sub_epi32(e.v, _mm_set_epi32(int32_t(kFieldLow), 0, int32_t(kFieldLow), 0));
+    t = _mm_min_epu32(t, _mm_set_epi32(int32_t(kFieldSpan), 0, int32_t(kFieldSpan), 0));
+    return AsFloat(Sub(Set<uint64_t>((uint64_t(2 * F::kBias) << F::kMantBits) -
+                                     (uint64_t(kFieldLow) << 32)),
+                       I64x2{t}));
 }
 
-// ln(1 + x) from the split of u = 1 + x: k, mh = 1 + j/512 (LA, HA), s = 2^-k held, and
-// the row of mh at ra (lane 0) and rb (lane 1).
 template <Level L>
 inline __m128d Log1pFrom(__m128d x, __m128d k, __m128d mh, __m128d s, const double* ra,
                          const double* rb) {
     const __m128d one = Set<double>(1.0);
-    const __m128d xs = SafeArgument(x);
     if constexpr (L == Level::EP) {
         // The rows alone (LogRowsEP's reduction on u): u's fraction rounded to 9 bits by
         // adding half of 2^-9 to its bits, the row j and k from the sum, and
@@ -203,8 +206,12 @@ inline __m128d Log1pFrom(__m128d x, __m128d k, __m128d mh, __m128d s, const doub
         using K = LogConst<double>;
         __m128d rcp, t;
         LoadTransposed(ra, rb, rcp, t);
+        // x itself, unheld: S is a normal number (s from 2^43 to 2^-1021), so that x*S
+        // raises nothing of its own, and +-inf give r = +-inf, r^2*(c2 + c3*r) of r's
+        // sign (c3 > 0) and the sums no inf - inf.
+        static_assert(K::kCoreEP[1] > 0, "c3*r of r's sign");
         __m128d sr = Mul(s, rcp);
-        __m128d r = Add(Sub(sr, one), Mul(xs, sr));
+        __m128d r = Add(Sub(sr, one), Mul(x, sr));
         // r + r^2*(c2 + c3*r), the core's EP form: its leading coefficient is 1, so that
         // tiny x come out as x itself.
         __m128d p = Add(r, Mul(Mul(r, r), Horner(r, K::kCoreEP)));
@@ -215,6 +222,7 @@ inline __m128d Log1pFrom(__m128d x, __m128d k, __m128d mh, __m128d s, const doub
     // exact for |k| <= 43 (mh on the 2^-9 grid; beyond, k > 43 and its rounding is far
     // below the result's last place) and x*2^-k is exact, so that the rounding of u
     // itself does not reach r.
+    const __m128d xs = SafeArgument(x);
     LnReduction red;
     LoadLnRows(ra, rb, red);
     red.k = k;
@@ -256,8 +264,8 @@ inline __m128d Log1pOf(__m128d x, __m128d& special) {
 
 // 2^-k for a pair's four exponent fields, held as InverseOfField holds them.
 inline void InversePair(const LogPair& p, __m128d& s0, __m128d& s1) {
-    const I32x4 held = Max(Min(p.e, Set<int32_t>(0x7FC00000)), Set<int32_t>(980 << 20));
-    const __m128 d = _mm_castsi128_ps(Sub(Set<uint32_t>(0x7FE00000u), held).v);
+    const __m128i t = _mm_min_epu32(Sub(p.e, Set<uint32_t>(kFieldLow)).v, _mm_set1_epi32(int32_t(kFieldSpan)));
+    const __m128 d = _mm_castsi128_ps(Sub(Set<uint32_t>(0x7FE00000u - kFieldLow), I32x4{t}).v);
     const __m128 z = _mm_setzero_ps();
     s0 = _mm_castps_pd(_mm_unpacklo_ps(z, d));
     s1 = _mm_castps_pd(_mm_unpackhi_ps(z, d));
