@@ -107,9 +107,8 @@ TEST(ExpLog, ExpAtTheEdgesOfTheDoubleRange) {
 }
 
 // Where each exponential leaves the normal range, in both precisions and every slot. At
-// the top: arguments up to the last one with a finite result (in single a spread over
-// the last 2 and the last floats one by one, in double a spread over the last
-// hundredth and the last ulps one by one),
+// the top: arguments up to the last one with a finite result (a spread over the last 2
+// and the last floats or doubles one by one),
 // and the first arguments above it. At the bottom: results around the smallest normal,
 // through the denormals, to the first argument whose result is +0. Each element alone,
 // so that its status and flags are its own. The limits are exact: the arguments whose
@@ -208,9 +207,10 @@ std::string ExpLimitFault(const ExpLimits<T>& e, int slot, T x) {
 template <class T>
 void CheckExpLimits() {
     ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
-    // In single the top band reaches below the old windows' ends (87.34, 126, 37.93),
-    // past the whole stretch the vector path now takes up to the last finite result.
-    const T wide = sizeof(T) == 4 ? T(2) : T(0.01);
+    // The top band reaches below the old windows' ends (87.34, 126, 37.93; 708.4, 1022,
+    // 307, 708), past the whole stretch the vector path now takes up to the last finite
+    // result.
+    const T wide = T(2);
     for (const ExpLimits<T>& e : ExpLimitRows<T>()) {
         std::vector<T> x = Arguments<T>(e.lastFinite - wide, e.lastFinite, 20000, 4000, 500);
         T above = e.lastFinite;

@@ -9,7 +9,7 @@
  * 2^(x*log2e) on the table of 128 and a quadratic in base 2 (exp_core.h Exp2Table128,
  * the form of dExp2 EP; x*log2e rounds by 2^-44.5 of the result).
  * Range test on x from -87.33654 to 88.72 in single (inside the last normal results
- * below, just inside the last finite ones above), on |x| to 708.39 in double; the
+ * below, just inside the last finite ones above), -708.39 to 709.77 in double; the
  * special lanes, overflow, underflow and denormal results go to the scalar routine, which works from the double core of exp_scalar.h. In error mode
  * 0x2000 overflow and underflow lanes are settled by blends (exp_fixup.h). Rounds of
  * sixteen elements, the range tested once a round (wide.h), every level flattened.
@@ -43,7 +43,9 @@ struct ExpWindow<float> {
 };
 template <>
 struct ExpWindow<double> {
-    static constexpr Range64 kWindow = {0x7FFFFFFFFFFFFFFFull, 0ull, 0x4086232AFFFFFFFFull};
+    // By high words: -708.396 (inside the last normal results) to 709.770 (m <= 1023 at
+    // every level, the result below 2^1024).
+    static constexpr SplitWindowHigh kWindow = {0x40862E28u, 0xC086232Au};
 };
 
 int ExpScalar(const float* a, float* y) {

@@ -14,7 +14,7 @@
  * Single LA and EP: no table, B^x = 2^n*(1 + p(r)), |r| <= log_B(2)/2 (NoTableOf below);
  * Exp10 EP as Exp2 EP of x*log2(10).
  * Range tests: x outside [-126, 127.99] (Exp2) or [-37.93, 38.53] (Exp10) in single,
- * |x| above 1022 or 307 in double;
+ * (-1022, 1023.99] or [-307.6, 308.25] in double;
  * the scalar routines take the rest with the limits of each format: overflow (reported),
  * +0 and denormal results (underflow). Error mode 0x2000 blends overflow and
  * underflow lanes. Rounds of sixteen elements, the range tested once a round (wide.h).
@@ -75,14 +75,18 @@ struct Limits<float, Base::Ten> {
     static constexpr SplitWindow32 kWindow = {0x421A1EB8u, 0xC217B818u};
     static constexpr float kOver = 0x1.344136p+5f, kUnder = -0x1.693c6ap+5f;
 };
+// In double by high words (wide.h SplitWindowHigh): Exp2 from just above -1022 to
+// 1023.99, Exp10 from -307.6 (above the least normal result, 10^-307.65) to 308.25; m is
+// at most 1023 at every level at the top, at least -1022 with a significand of 1 or more
+// at the bottom.
 template <>
 struct Limits<double, Base::Two> {
-    static constexpr Range64 kWindow = {0x7FFFFFFFFFFFFFFFull, 0ull, 0x408FF00000000000ull};
+    static constexpr SplitWindowHigh kWindow = {0x408FFFEBu, 0xC08FEFFFu};
     static constexpr double kOver = 1024.0, kUnder = -1075.0;
 };
 template <>
 struct Limits<double, Base::Ten> {
-    static constexpr Range64 kWindow = {0x7FFFFFFFFFFFFFFFull, 0ull, 0x4073300000000000ull};
+    static constexpr SplitWindowHigh kWindow = {0x40734400u, 0xC0733999u};
     static constexpr double kOver = 0x1.34413509f79ffp+8, kUnder = -0x1.439b746e36b52p+8;
 };
 
@@ -125,8 +129,8 @@ inline __m128d CoreOf(__m128d x) {
     // Exp2 by Horner's rule (its exact reduction leaves the chain short: one operation
     // fewer), Exp10 by Estrin's scheme after its longer reduction.
     __m128d p = Mul(d, B == Base::Two ? Horner(d, DoublePoly<B>::kC) : Estrin(d, DoublePoly<B>::kC));
-    // Inside the windows (|x| to 1022 and 307) y*2^m is normal: m goes into the
-    // exponent field by an integer addition.
+    // Inside the windows y*2^m is normal: m goes into the exponent field by an integer
+    // addition.
     return ScaleByLowWord<8>(ExpJoin256(t, p), t);
 }
 // The single forms run in single: n = round(128*x/log_B(2)) by a shifter whose bits end
@@ -264,8 +268,8 @@ inline __m128d OnePartOf(__m128d x) {
     __m128d d = RestOf<B, C>(x, Set<double>(Format<double>::kShifter * kScale), t);
     __m128d tv = OnePartRows<Log2N>(t);
     __m128d p = Mul(d, Horner(d, C::kC));
-    // Inside the windows (|x| to 1022 and 307) the result is normal: m goes into the
-    // exponent field by an integer addition.
+    // Inside the windows the result is normal: m goes into the exponent field by an
+    // integer addition.
     return ScaleByLowWord<Log2N>(Add(tv, Mul(tv, p)), t);
 }
 

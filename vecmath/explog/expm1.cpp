@@ -16,8 +16,8 @@
  * for m <= -2, 2^m*(Thi + s) - 1, the result then being near -1. Here s = Thi*p + Tlo.
  * For small |x| (m = 0, j = 0) this is p itself, whose polynomial is fitted for relative
  * error; degree 6 (EP 4), at HA th*r and the middle sum carried exactly.
- * Range test |x| above 708 (double) or 88.375 (single LA and EP, n <= 127; at HA
- * 88.7228394, the last finite result); the scalar routine gives +inf above the overflow limit (an overflow),
+ * Range test x outside [-708, 709.77] (double, by high words) or |x| above 88.375
+ * (single LA and EP, n <= 127; at HA 88.7228394, the last finite result); the scalar routine gives +inf above the overflow limit (an overflow),
  * -1 for large negative x, e^x itself above 709 (where the core's scale 2^m would pass
  * 2^1022), and the core's value otherwise. Error mode 0x2000 blends the overflow lanes to +inf. Rounds of sixteen
  * elements, the range tested once a round (wide.h).
@@ -259,8 +259,8 @@ inline V Expm1EP(V x) {
 // By precision and level: the range window on |x| (in single 88.375 at LA and EP, below
 // 127.5*ln2, so that n <= 127 and 2^n is finite: 2^n*p + (2^n - 1) is below 1.42*2^127;
 // down to -88.375 n >= -127, where 2^n as formed is +0 and the result -1, as it is; at
-// HA, whose S is a double, the last argument with a finite result, 88.7228394; 708 in
-// double), and the table core's degree and whether its middle sum is carried exactly,
+// HA, whose S is a double, the last argument with a finite result, 88.7228394; in
+// double by high words from -708 to 709.77, where 2^m is at most 2^1023), and the table core's degree and whether its middle sum is carried exactly,
 // for the double HA kernel and for the scalar routines (degree 6, EP degree 4).
 template <class T>
 struct Expm1Const;
@@ -277,7 +277,7 @@ struct Expm1Const<float> {
 template <>
 struct Expm1Const<double> {
     template <Level L>
-    static constexpr Range64 kWindow = {0x7FFFFFFFFFFFFFFFull, 0ull, 0x4086200000000000ull};
+    static constexpr SplitWindowHigh kWindow = {0x40862E28u, 0xC0862000u};
     template <Level L>
     static constexpr bool kExact = L == Level::HA;
     template <Level L>

@@ -87,30 +87,60 @@ inline I32x4 MaxUnsigned(I32x4 a, I32x4 b) {
 struct SplitWindow32 {
     uint32_t hi, lo; // bits(hi) and bits(lo)
 };
-inline __m128 RangeTest(__m128 x, SplitWindow32 w) {
+// The same on double lanes by their high words: every x whose high word is at most hi
+// (read signed) or, below zero, at most lo (read unsigned) is inside; the low words are
+// held to limits no word passes (0x7FFFFFFF signed, 0xFFFFFFFF unsigned).
+struct SplitWindowHigh {
+    uint32_t hi, lo; // the high words of the ends
+};
+namespace wide_detail {
+// The limits of a split window over the 32-bit lanes of a register: the signed one and
+// the unsigned one moved to signed order (its sign bit flipped).
+inline I32x4 AboveLimit(SplitWindow32 w) {
+    return Set<int32_t>(int32_t(w.hi));
+}
+inline I32x4 BelowLimit(SplitWindow32 w) {
+    return Set<int32_t>(int32_t(w.lo ^ 0x80000000u));
+}
+inline I32x4 AboveLimit(SplitWindowHigh w) {
+    return BitCast<I32x4>(Set<uint64_t>((uint64_t(w.hi) << 32) | 0x7FFFFFFFu));
+}
+inline I32x4 BelowLimit(SplitWindowHigh w) {
+    return BitCast<I32x4>(Set<uint64_t>((uint64_t(w.lo ^ 0x80000000u) << 32) | 0x7FFFFFFFu));
+}
+template <class W>
+inline I32x4 Outside(I32x4 above, I32x4 below, W w) {
     const I32x4 sign = Set<int32_t>(INT32_MIN);
-    I32x4 b = AsInt(x);
-    I32x4 above = Gt(b, Set<int32_t>(int32_t(w.hi)));
-    I32x4 below = Gt(Xor(b, sign), Set<int32_t>(int32_t(w.lo ^ 0x80000000u)));
-    return AsFloat(Or(above, below));
+    return Or(Gt(above, AboveLimit(w)), Gt(Xor(below, sign), BelowLimit(w)));
+}
+template <class W>
+constexpr bool kSplitWindow = std::is_same_v<std::remove_cv_t<decltype(W::kWindow)>, SplitWindow32> ||
+                              std::is_same_v<std::remove_cv_t<decltype(W::kWindow)>, SplitWindowHigh>;
+} // namespace wide_detail
+inline __m128 RangeTest(__m128 x, SplitWindow32 w) {
+    return AsFloat(wide_detail::Outside(AsInt(x), AsInt(x), w));
+}
+// The high words' verdict spread over each whole lane (pshufd), so that the mask blends
+// and zeroes the whole double.
+inline __m128d RangeTest(__m128d x, SplitWindowHigh w) {
+    I32x4 b = BitCast<I32x4>(AsInt(x));
+    I32x4 m = wide_detail::Outside(b, b, w);
+    return BitCast<__m128d>(I32x4{_mm_shuffle_epi32(m.v, _MM_SHUFFLE(3, 3, 1, 1))});
 }
 
 template <class B>
 inline bool AnyOutside(const Vec<typename B::T>* x) {
     using T = typename B::T;
     constexpr int N = 16 / kLanes<T>;
-    if constexpr (std::is_same_v<std::remove_cv_t<decltype(B::kWindow)>, SplitWindow32>) {
-        static_assert(sizeof(T) == 4, "split windows are single");
-        I32x4 high = AsInt(x[0]), low = AsInt(x[0]);
+    if constexpr (wide_detail::kSplitWindow<B>) {
+        I32x4 high = BitCast<I32x4>(AsInt(x[0])), low = high;
 #pragma GCC unroll 8
         for (int k = 1; k < N; ++k) {
-            high = Max(high, AsInt(x[k]));
-            low = wide_detail::MaxUnsigned(low, AsInt(x[k]));
+            I32x4 b = BitCast<I32x4>(AsInt(x[k]));
+            high = Max(high, b);
+            low = wide_detail::MaxUnsigned(low, b);
         }
-        const I32x4 sign = Set<int32_t>(INT32_MIN);
-        I32x4 out = Or(Gt(high, Set<int32_t>(int32_t(B::kWindow.hi))),
-                       Gt(Xor(low, sign), Set<int32_t>(int32_t(B::kWindow.lo ^ 0x80000000u))));
-        return MaskBits(out) != 0;
+        return MaskBits(wide_detail::Outside(high, low, B::kWindow)) != 0;
     } else {
         static_assert(wide_detail::kMagnitudeWindow<B>, "a window on |x| alone");
         I32x4 fold = wide_detail::MagnitudeBits(x[0]);
