@@ -651,6 +651,26 @@ TEST(Power, DoubleHypotAcrossTheSingleRange) {
         }
 }
 
+// Single Hypot HA where the squares are denormal in single but their sum is not: the
+// residual that corrects the single root stays in double's range, within 0.55 ulp, in a
+// long call and alone.
+TEST(Power, SingleHypotWithDenormalSquares) {
+    const float pairs[][2] = {{-9.9510894e-20f, 4.45072122e-20f}, {1.0e-19f, 1.0e-19f},
+                              {7.7e-20f, -3.1e-21f},              {1.1e-15f, 2.0e-23f},
+                              {3.3e-30f, 0.0f},                   {1.5e-22f, 8.0e-23f}};
+    std::vector<float> a(64, 1.5f), b(64, 2.5f), y(64);
+    for (int k = 0; k < 6; ++k)
+        a[5 + 9 * k] = pairs[k][0], b[5 + 9 * k] = pairs[k][1];
+    As<Binary<float>>(Raw(frame::Row_sHypot, frame::SlotHA))(64, a.data(), b.data(), y.data());
+    for (int i = 0; i < 64; ++i)
+        EXPECT_LE(UlpError(y[i], hypotl(a[i], b[i])), 0.55) << "a=" << a[i] << " b=" << b[i];
+    for (const auto& p : pairs) {
+        int st;
+        const float v = Call2<float>(frame::Row_sHypot, frame::SlotHA, p[0], p[1], &st);
+        EXPECT_LE(UlpError(v, hypotl(p[0], p[1])), 0.55) << "a=" << p[0] << " b=" << p[1];
+    }
+}
+
 // Hypot: an infinity beats a NaN in either place, a NaN otherwise, +0 for two zeros,
 // overflow and denormal results without a status.
 TEST(Power, HypotSpecialValues) {

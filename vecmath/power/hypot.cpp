@@ -40,6 +40,10 @@ template <>
 struct HypotRanges<float> {
     // |x| infinite or NaN.
     static constexpr Range32 kNotFinite{0x7FFFFFFFu, 0u, 0x7F7FFFFFu};
+    // HA's single sum s below 2^-100 (zero included), within 2^-12 of the overflow or
+    // beyond (as the root's window), or NaN: below 2^-100 the residual a^2 + b^2 - r^2,
+    // rounded to single, would lose bits to the denormal range.
+    static constexpr Range32 kSingleSum{0xFFFFFFFFu, 0x72800000u, 0xF1FFF000u};
 };
 template <>
 struct HypotRanges<double> {
@@ -101,14 +105,14 @@ inline __m128 HypotOf(__m128 a, __m128 b, __m128& special) {
         __m128 e = Sub(Set<float>(0.5f), Mul(g, Mul(Set<float>(0.5f), r)));
         return Add(g, Mul(g, e));
     }
-    // HA: where every lane's single s = a^2 + b^2 is a positive normal, its single
+    // HA: where every lane's single s = a^2 + b^2 is at least 2^-100 and finite, its single
     // root r (one sqrtps where a double root takes two sqrtpd for four lanes) and the
     // correction d/(2r) with d = a^2 + b^2 - r^2 in double: the three squares are exact
     // there, their sum rounded by 2^-53 and the difference exact. d rounded to single
     // and 1/(2r) to 2^-11 are ample for a correction of an ulp or two, so r + d/(2r)
     // rounded once in single is within 0.5 ulp and 2^-10 of one.
     const __m128 s = Add(Mul(a, a), Mul(b, b));
-    if (__builtin_expect(MaskBits(RangeTest(s, ArithRanges<float>::kRoot)) == 0, 1)) {
+    if (__builtin_expect(MaskBits(RangeTest(s, HypotRanges<float>::kSingleSum)) == 0, 1)) {
         special = Zero<float>();
         const __m128 r = Sqrt(s);
         auto residual = [](__m128d x, __m128d z, __m128d q) {
