@@ -11,16 +11,17 @@
  * Double LA: the same reduction on the one-part table of 1024 rows and a cubic (OnePartOf
  * below); double EP: 2^(x*log2(B)) on the table of 128 and a quadratic (Exp2Table128 of
  * exp_core.h; the product's rounding 2^-44.5 of the result).
- * Single LA and EP: no table, B^x = 2^n*(1 + p(r)), |r| <= log_B(2)/2 (NoTableOf below);
- * Exp10 EP as Exp2 EP of x*log2(10).
+ * Single LA: the single HA form on the table's high parts alone, T + T*p (CoreOf below).
+ * Single EP: no table, 2^x = 2^n*(1 + p(f)), |f| <= 1/2 (Exp2NoTable below); Exp10 EP as
+ * Exp2 EP of x*log2(10).
  * Range tests: x outside [-126, 127.99] (Exp2) or [-37.93, 38.53] (Exp10) in single,
  * (-1022, 1023.99] or [-307.6, 308.25] in double;
  * the scalar routines take the rest with the limits of each format: overflow (reported),
  * +0 and denormal results (underflow). Error mode 0x2000 blends overflow and
  * underflow lanes. Rounds of sixteen elements, the range tested once a round (wide.h).
  *
- * Measured (brenn_accuracy, full run): sExp2 HA 0.516 ulp, LA 1.33 ulp, EP 12.7 bits;
- * sExp10 HA 0.541 ulp, LA 1.32 ulp, EP 12.7 bits; dExp2 HA 0.71 ulp, LA 1.79 ulp, EP
+ * Measured (brenn_accuracy, full run): sExp2 HA 0.516 ulp, LA 1.00 ulp, EP 12.7 bits;
+ * sExp10 HA 0.541 ulp, LA 1.03 ulp, EP 12.7 bits; dExp2 HA 0.71 ulp, LA 1.79 ulp, EP
  * 30.2 bits; dExp10 HA 0.71 ulp, LA 1.77 ulp, EP 30.2 bits (250000 samples). */
 #include <bit>
 #include <cstdint>
@@ -180,7 +181,9 @@ inline V RestOf(V x, V shifter, V& t) {
     }
 }
 
-template <Base B>
+// LA (WithLow false) takes the table's high part alone, T + T*p: its rounding, half an
+// ulp at most, joins the result's (one operation fewer than HA).
+template <Base B, bool WithLow = true>
 inline __m128 CoreOf(__m128 x) {
     using C = SingleCore<B>;
     __m128 t;
@@ -188,112 +191,54 @@ inline __m128 CoreOf(__m128 x) {
     __m128 tv, tl;
     GatherPairs(single::expTable128, AsInt(t), 0x7F, tv, tl);
     __m128 p = Mul(r, Horner(r, C::kC));
-    __m128 y = Add(Mul(Add(p, tl), tv), tv);
+    __m128 y = Add(Mul(WithLow ? Add(p, tl) : p, tv), tv);
     // (bits(t) >> 7) << 23 is floor(n/128) << 23: the shifter's bits leave the word.
     static_assert(((std::bit_cast<uint32_t>(C::kShifter) >> 7) << 23) == 0);
     return ScaleByLowWord<7>(y, t);
 }
 
-// Without a table (single LA and EP): n = round(x*log2(B)) by the format's
-// shifter, r = x - n*log_B(2) (exact for Exp2; Exp10 with log10(2) in two parts, the
-// product with the head exact; at EP Exp2 of x*log2(10)),
-// and B^x = 2^n*(1 + p(r)), p ~ B^r - 1 on |r| <= log_B(2)/2 (LA by Estrin's scheme, EP's
-// cubic by Horner's, an operation fewer), by
-// tools/explog/exp2_10_notable.sollya: single LA degree 6 (2^-28 absolute), single EP
-// degree 3 (2^-13).
+// Without a table (single EP): n = round(x) by the format's shifter, f = x - n exactly,
+// and 2^x = 2^n*(1 + f*q(f)), q's cubic by Horner's rule (tools/explog/exp2_10_notable.sollya,
+// 2^-13); Exp10 EP as Exp2 EP of x*log2(10), the product rounded (2^-18 of the exponent,
+// 2^-18.5 of the result).
 template <class T, Base B>
 struct NoTable;
 template <>
 struct NoTable<float, Base::Two> {
-    static constexpr float kLA[] = {0x1.62e43p-1f,  0x1.ebfbep-3f,   0x1.c6af72p-5f,
-                                    0x1.3b2a44p-7f, 0x1.5f0dccp-10f, 0x1.44292ap-13f};
     static constexpr float kEP[] = {0x1.62dfa4p-1f, 0x1.f013ecp-3f, 0x1.ca909ap-5f};
 };
 template <>
 struct NoTable<float, Base::Ten> {
-    static constexpr float kInvStep = SingleCore<Base::Ten>::kInvStep * 0x1p-7f;
-    // log10(2) in two parts, the head of 12 bits (n*head and x - n*head exact for
-    // |n| <= 126); n times the tail rounds by 2^-31 at most, a thirtieth of an ulp.
-    static constexpr float kStep[] = {0x1.344p-2f, 0x1.3509f8p-18f};
-    static constexpr float kLA[] = {0x1.26bb1cp1f, 0x1.53524ep1f,  0x1.046f98p1f,
-                                    0x1.2bd572p0f, 0x1.156d3ep-1f, 0x1.aac9ep-3f};
-    // EP: 10^x as 2^(x*log2(10)), the product rounded (2^-18 of the exponent, 2^-18.5
-    // of the result) and Exp2's cubic.
     static constexpr float kLog2Ten = 0x1.a934fp1f;
 };
-template <Base B, class V, class T, size_t N>
-inline V NoTableOf(V x, const T (&c)[N]) {
+template <class V, class T, size_t N>
+inline V Exp2NoTable(V x, const T (&c)[N]) {
     V t;
-    V r = RestOf<B, NoTable<T, B>>(x, Set<T>(Format<T>::kShifter), t);
-    V y = Add(Set<T>(1), Mul(r, N > 3 ? Estrin(r, c) : Horner(r, c)));
+    V r = RestOf<Base::Two, NoTable<T, Base::Two>>(x, Set<T>(Format<T>::kShifter), t);
+    V y = Add(Set<T>(1), Mul(r, Horner(r, c)));
     return ScaleByLowWord<0>(y, t);
 }
-
-// Double LA on the one-part table of 1024: n = round(N*x/log_B(2)) (N = 2^Log2N), d the
-// rest of x in base B, |d| <= log_B(2)/(2N), B^x = 2^(n >> Log2N)*(T + T*p(d)) with T =
-// 2^((n & (N-1))/N) rounded to double and p(d) = d*(c1 + c2*d + c3*d^2), by
-// tools/explog/exp2_10_double.sollya (2^-53; the table's rounding and the last two
-// roundings make the error, as in dExp LA). For Exp2 d is exact (the shifter scaled by
-// 2^-Log2N); Exp10 takes the step in two parts, the head of 32 bits (n*head exact).
-// Double EP is 2^(x*log2(B)) on the table of 128 (exp_core.h Exp2Table128).
-template <Base B, int Log2N>
-struct OnePart;
-template <>
-struct OnePart<Base::Two, 10> {
-    static constexpr double kC[] = {0x1.62e42fefa39fp-1, 0x1.ebfbe0397248cp-3,
-                                    0x1.c6b08d503cea5p-5};
-};
-template <>
-struct OnePart<Base::Ten, 10> {
-    static constexpr double kInvStep = 0x1.a934f0979a371p11;
-    static constexpr double kStep[] = {0x1.3441350ap-12, -0x1.0c0219dc1da99p-49};
-    static constexpr double kC[] = {0x1.26bb1bbb55516p1, 0x1.53524ca0d3802p1,
-                                    0x1.047059172c3a9p1};
-};
-
-// T for the two lanes of t (n in the low word): one load a lane.
-template <int Log2N>
-inline __m128d OnePartRows(__m128d t) {
-    static_assert(Log2N == 10);
-    double lane0 = expTable1024[LowWord<0>(AsInt(t)) & 1023];
-    double lane1 = expTable1024[LowWord<1>(AsInt(t)) & 1023];
-    return SetLanes(lane0, lane1);
-}
-
-template <Base B, int Log2N>
-inline __m128d OnePartOf(__m128d x) {
-    using C = OnePart<B, Log2N>;
-    constexpr double kScale = B == Base::Two ? 1.0 / (1 << Log2N) : 1.0;
-    __m128d t;
-    __m128d d = RestOf<B, C>(x, Set<double>(Format<double>::kShifter * kScale), t);
-    __m128d tv = OnePartRows<Log2N>(t);
-    __m128d p = Mul(d, Horner(d, C::kC));
-    // Inside the windows the result is normal: m goes into the exponent field by an
-    // integer addition.
-    return ScaleByLowWord<Log2N>(Add(tv, Mul(tv, p)), t);
-}
-
 // log2(10) for double EP, which takes 2^(x*log2(10)) (exp_core.h Exp2Table128).
 constexpr double kLog2Ten = 0x1.a934f0979a371p+1;
 
 // The form of a level: single HA and double HA on the cores with two-part tables,
-// double LA and EP on the one-part tables, single LA and EP without a table.
+// single LA on the single core's high parts, double LA and EP on the one-part tables,
+// single EP without a table.
 template <Base B, Level L, class V>
 inline V ValueOf(V x) {
     using T = ElemOf<V>;
     if constexpr (L == Level::HA)
         return CoreOf<B>(x);
+    else if constexpr (sizeof(T) == 4 && L == Level::LA)
+        return CoreOf<B, false>(x);
     else if constexpr (sizeof(T) == 8 && L == Level::EP)
         return Exp2Table128(B == Base::Two ? x : Mul(x, Set<double>(kLog2Ten)));
     else if constexpr (sizeof(T) == 8)
         return OnePartOf<B, 10>(x);
-    else if constexpr (L == Level::EP && B == Base::Ten)
-        return NoTableOf<Base::Two>(Mul(x, Set<float>(NoTable<T, B>::kLog2Ten)),
-                                    NoTable<T, Base::Two>::kEP);
-    else if constexpr (L == Level::EP)
-        return NoTableOf<B>(x, NoTable<T, B>::kEP);
+    else if constexpr (B == Base::Ten)
+        return Exp2NoTable(Mul(x, Set<float>(NoTable<T, B>::kLog2Ten)), NoTable<T, Base::Two>::kEP);
     else
-        return NoTableOf<B>(x, NoTable<T, B>::kLA);
+        return Exp2NoTable(x, NoTable<T, B>::kEP);
 }
 
 // e^(x*c) for the scalar routines, with the product x*c carried in two parts.
