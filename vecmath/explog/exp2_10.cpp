@@ -218,6 +218,50 @@ inline V Exp2NoTable(V x, const T (&c)[N]) {
     V y = Add(Set<T>(1), Mul(r, Horner(r, c)));
     return ScaleByLowWord<0>(y, t);
 }
+// Double LA on the one-part table of 1024: n = round(N*x/log_B(2)) (N = 2^Log2N), d the
+// rest of x in base B, |d| <= log_B(2)/(2N), B^x = 2^(n >> Log2N)*(T + T*p(d)) with T =
+// 2^((n & (N-1))/N) rounded to double and p(d) = d*(c1 + c2*d + c3*d^2), by
+// tools/explog/exp2_10_double.sollya (2^-53; the table's rounding and the last two
+// roundings make the error, as in dExp LA). For Exp2 d is exact (the shifter scaled by
+// 2^-Log2N); Exp10 takes the step in two parts, the head of 32 bits (n*head exact).
+// Double EP is 2^(x*log2(B)) on the table of 128 (exp_core.h Exp2Table128).
+template <Base B, int Log2N>
+struct OnePart;
+template <>
+struct OnePart<Base::Two, 10> {
+    static constexpr double kC[] = {0x1.62e42fefa39fp-1, 0x1.ebfbe0397248cp-3,
+                                    0x1.c6b08d503cea5p-5};
+};
+template <>
+struct OnePart<Base::Ten, 10> {
+    static constexpr double kInvStep = 0x1.a934f0979a371p11;
+    static constexpr double kStep[] = {0x1.3441350ap-12, -0x1.0c0219dc1da99p-49};
+    static constexpr double kC[] = {0x1.26bb1bbb55516p1, 0x1.53524ca0d3802p1,
+                                    0x1.047059172c3a9p1};
+};
+
+// T for the two lanes of t (n in the low word): one load a lane.
+template <int Log2N>
+inline __m128d OnePartRows(__m128d t) {
+    static_assert(Log2N == 10);
+    double lane0 = expTable1024[LowWord<0>(AsInt(t)) & 1023];
+    double lane1 = expTable1024[LowWord<1>(AsInt(t)) & 1023];
+    return SetLanes(lane0, lane1);
+}
+
+template <Base B, int Log2N>
+inline __m128d OnePartOf(__m128d x) {
+    using C = OnePart<B, Log2N>;
+    constexpr double kScale = B == Base::Two ? 1.0 / (1 << Log2N) : 1.0;
+    __m128d t;
+    __m128d d = RestOf<B, C>(x, Set<double>(Format<double>::kShifter * kScale), t);
+    __m128d tv = OnePartRows<Log2N>(t);
+    __m128d p = Mul(d, Horner(d, C::kC));
+    // Inside the windows the result is normal: m goes into the exponent field by an
+    // integer addition.
+    return ScaleByLowWord<Log2N>(Add(tv, Mul(tv, p)), t);
+}
+
 // log2(10) for double EP, which takes 2^(x*log2(10)) (exp_core.h Exp2Table128).
 constexpr double kLog2Ten = 0x1.a934f0979a371p+1;
 
