@@ -186,20 +186,10 @@ inline void RootFromSingle(__m128d s0, __m128d s1, __m128d& y0, __m128d& y1) {
 }
 
 template <Level L>
-inline __m128d HypotOf(__m128d a, __m128d b, __m128d& special) {
+inline __m128d HypotDouble(__m128d a, __m128d b, __m128d& special) {
     using F = Format<double>;
     using R = HypotRanges<double>;
     const __m128d one = Set<double>(1.0);
-    if constexpr (L == Level::EP) {
-        // The order of the operands does not matter here: s as it stands, tested alone.
-        const __m128d s = Add(Mul(a, a), Mul(b, b));
-        if (__builtin_expect(MaskBits(RangeTest(s, R::kSingleRoot)) == 0, 1)) {
-            special = Zero<double>();
-            __m128d y, unused;
-            RootFromSingle(s, s, y, unused);
-            return y;
-        }
-    }
     __m128d ax = Abs(a), bx = Abs(b);
     // The larger both ways round, so that a NaN in either shows (maxpd returns its
     // second operand when one is NaN).
@@ -220,6 +210,29 @@ inline __m128d HypotOf(__m128d a, __m128d b, __m128d& special) {
     const __m128d down = AsFloat(Sub(Set<int64_t>(int64_t(2 * F::kBias) << F::kMantBits), field));
     const __m128d up = AsFloat(field);
     return Mul(HypotScaled<L>(Mul(big, down), Mul(small, down)), up);
+}
+
+template <Level L>
+inline __m128d HypotOf(__m128d a, __m128d b, __m128d& special) {
+    if constexpr (L == Level::EP) {
+        // The order of the operands does not matter here: s as it stands, tested alone.
+        // A lane whose sum lies in single's range takes the single root whatever its
+        // neighbour holds (so that an element's result does not depend on where it
+        // stands); the others the double path.
+        using R = HypotRanges<double>;
+        const __m128d s = Add(Mul(a, a), Mul(b, b));
+        const __m128d out = RangeTest(s, R::kSingleRoot);
+        __m128d y, unused;
+        if (__builtin_expect(MaskBits(out) == 0, 1)) {
+            special = Zero<double>();
+            RootFromSingle(s, s, y, unused);
+            return y;
+        }
+        const __m128d inside = IfThenElse(out, Set<double>(1.0), s);
+        RootFromSingle(inside, inside, y, unused);
+        return IfThenElse(out, HypotDouble<L>(a, b, special), y);
+    }
+    return HypotDouble<L>(a, b, special);
 }
 
 template <class Tp, Level L>

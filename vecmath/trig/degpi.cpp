@@ -75,11 +75,9 @@ inline __m128d OnMagnitude(__m128d a) {
     // one rounded product (a cosine is 1 there anyway).
     constexpr bool scaled = L == Level::HA && Tiny && F != Fn::Cos;
     const __m128d tiny = Lt(a, Set<double>(0x1p-900));
-    if constexpr (scaled) {
-        // the plain path where no lane needs the scaling (all but rare registers)
-        if (MaskBits(tiny) == 0) return OnMagnitude<U, F, L, false>(a);
-        a = IfThenElse(tiny, Mul(a, Set<double>(0x1p512)), a);
-    }
+    // Every register takes the same path, so that an element's result does not depend on
+    // its neighbours.
+    if constexpr (scaled) a = IfThenElse(tiny, Mul(a, Set<double>(0x1p512)), a);
     __m128d t = Add(Mul(a, Set<double>(C::kScale)), shifter);
     alignas(16) int32_t J[2] = {LowWord<0>(AsInt(t)), LowWord<1>(AsInt(t))};
     __m128d d = Sub(a, Mul(Sub(t, shifter), Set<double>(C::kStep)));
