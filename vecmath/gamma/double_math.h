@@ -70,10 +70,9 @@ namespace brenn::vm::gamma::dbl {
 
 [[gnu::always_inline]] inline double SinPi(double r) {
     // by tools/gamma/sinpi_double.sollya
-    static constexpr double kS[8] = {0x1.921fb54442d17p1,   -0x1.4abbce625bd4bp2,
-                                     0x1.466bc67750a3fp1,   -0x1.32d2cce1612b5p-1,
-                                     0x1.507832417bce6p-4,  -0x1.e3062119b6071p-8,
-                                     0x1.e89c7aa14122dp-12, -0x1.625b1709dece6p-16};
+    static constexpr double kS[8] = {
+        0x1.921fb54442d17p1,  -0x1.4abbce625bd4bp2,  0x1.466bc67750a3fp1,   -0x1.32d2cce1612b5p-1,
+        0x1.507832417bce6p-4, -0x1.e3062119b6071p-8, 0x1.e89c7aa14122dp-12, -0x1.625b1709dece6p-16};
     double s = r * r;
     double s2 = s * s;
     double s4 = s2 * s2;

@@ -271,25 +271,21 @@ struct HypotBody {
                     RootFromSingle(s[k], s[k + 1], y[k], y[k + 1]);
                 return 0;
             }
-            int bits = 0;
-            for (int k = 0; k < 8; ++k) {
-                V special;
-                y[k] = HypotOf<L>(a[k], b[k], special);
-                bits |= MaskBits(special) << (2 * k);
-            }
-            return bits;
-        }
-        V big[8], small[8], wide = Zero<double>();
+        } else {
+            V big[8], small[8], wide = Zero<double>();
 #pragma GCC unroll 8
-        for (int k = 0; k < 8; ++k) {
-            V ax = Abs(a[k]), bx = Abs(b[k]);
-            big[k] = Max(ax, bx), small[k] = Min(ax, bx);
-            wide = Or(wide, Or(RangeTest(big[k], R::kPlain), RangeTest(Max(bx, ax), R::kPlain)));
+            for (int k = 0; k < 8; ++k) {
+                V ax = Abs(a[k]), bx = Abs(b[k]);
+                big[k] = Max(ax, bx), small[k] = Min(ax, bx);
+                wide =
+                    Or(wide, Or(RangeTest(big[k], R::kPlain), RangeTest(Max(bx, ax), R::kPlain)));
+            }
+            if (__builtin_expect(MaskBits(wide) == 0, 1)) {
+                HypotScaled<L, 8>(big, small, y);
+                return 0;
+            }
         }
-        if (__builtin_expect(MaskBits(wide) == 0, 1)) {
-            HypotScaled<L, 8>(big, small, y);
-            return 0;
-        }
+        // Register by register, the round's fast form having failed.
         int bits = 0;
         for (int k = 0; k < 8; ++k) {
             V special;
