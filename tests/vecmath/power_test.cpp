@@ -8,6 +8,7 @@
 #include <cstring>
 #include <gtest/gtest.h>
 #include <limits>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -512,6 +513,51 @@ TEST(Power, SingleCbrtOverEveryBinade) {
                         << SlotName(slot) << " x=" << x;
                 }
     }
+}
+
+// Single Cbrt EP is its fixed cubic in the significand, by Horner's rule in single, times
+// the scale of the exponent's remainder, the exponent divided by 3 and the sign put on:
+// bit for bit on random normals of every binade and at the ends of the range, in one
+// long call. At 1.0 the cubic gives 1.0000505, not 1.
+float CbrtEPSteps(float x) {
+    uint32_t b;
+    std::memcpy(&b, &x, 4);
+    const int t = int((b >> 23) & 0xFF) - 127;
+    const int j = ((t % 3) + 3) % 3, q = (t - j) / 3;
+    const uint32_t mb = (b & 0x7FFFFFu) | 0x3F800000u;
+    float m;
+    std::memcpy(&m, &mb, 4);
+    const float c3 = 0x1.7c2498p-6f, c2 = -0x1.4edfdp-3f, c1 = 0x1.2d1762p-1f,
+                c0 = 0x1.1ac61p-1f;
+    float p = c3 * m;
+    p = p + c2;
+    p = p * m;
+    p = p + c1;
+    p = p * m;
+    p = p + c0;
+    const float scale[] = {1.0f, 0x1.428a3p0f, 0x1.965feap0f};
+    const float v = std::ldexp(p * scale[j], q);
+    return std::copysign(v, x);
+}
+
+TEST(Power, SingleCbrtEPIsItsStatedCubic) {
+    std::mt19937 gen(1234);
+    std::vector<float> a;
+    for (int i = 0; i < 300000; ++i) {
+        uint32_t b = (gen() & 0x807FFFFFu) | ((1 + gen() % 254) << 23);
+        float x;
+        std::memcpy(&x, &b, 4);
+        a.push_back(x);
+    }
+    for (float x : {1.0f, -1.0f, 8.0f, -8.0f, 2.0f, 4.0f, 0x1.fffffep0f, FLT_MIN, -FLT_MIN,
+                    FLT_MAX, -FLT_MAX, 0x1.fffffep-126f})
+        a.push_back(x);
+    std::vector<float> y(a.size());
+    As<Unary<float>>(Raw(frame::Row_sCbrt, frame::SlotEP))(int(a.size()), a.data(), y.data());
+    for (size_t i = 0; i < a.size(); ++i)
+        ASSERT_EQ(Bits(y[i]), Bits(CbrtEPSteps(a[i]))) << "x=" << a[i];
+    int st;
+    EXPECT_EQ(Call1<float>(frame::Row_sCbrt, frame::SlotEP, 1.0f, &st), 0x1.000352p0f);
 }
 
 // The double roots in long calls over every significand band of the seed and each

@@ -181,18 +181,18 @@ BRENN_VEC __m128d RootOf(__m128d ax) {
 // multiplies serves), so that the high half is q' and bits 10 and 11 of the low one are j;
 // M = m * 2^j by j put into m's exponent field, and the seed's scale 2^(-j/3) by a byte
 // shuffle of a four-entry table on those bits. Then the series in single (LA, within
-// about 2 ulp; EP takes the seed's products alone, 13 bits, or for Cbrt a cubic in m of
-// its own) or, `Wide`, a fitted line in place of its first two terms on widened lanes,
+// about 2 ulp; EP takes the seed's products alone, 13 bits, or for Cbrt its fixed cubic
+// in m) or, `Wide`, a fitted line in place of its first two terms on widened lanes,
 // rounded once to single (HA).
 constexpr float kRootSeedS[] = {0x1.ab85acp0f, -0x1.2c4234p0f, 0x1.641702p-1f, -0x1.c519b2p-3f,
                                 0x1.d47154p-6f};
 // 2^(-j/3) for j = 0, 1, 2 (the fourth entry unused).
 alignas(16) constexpr float kRootScaleS[4] = {1.0f, 0x1.965feap-1f, 0x1.428a3p-1f, 1.0f};
 
-// Cbrt's single EP: m^(1/3) on [1, 2] as a cubic, fitted by tools/power/cbrt_single_ep.sollya
-// (relative error 2^-13.75), times 2^(j/3): the root of M without the seed's square and
-// its product with M.
-constexpr float kCbrtEPS[] = {0x1.1b0ba8p-1f, 0x1.2c9a46p-1f, -0x1.4dc31ep-3f, 0x1.7a8d5ep-6f};
+// Cbrt's single EP: p = ((c3*m + c2)*m + c1)*m + c0, the body's fixed cubic for m^(1/3) on
+// [1, 2] (0x3F0D6308, 0x3F168BB1, 0xBE276FE8, 0x3CBE124C), by Horner's rule from c3 down,
+// times 2^(j/3): the root of M without the seed's square and its product with M.
+constexpr float kCbrtEPS[] = {0x1.1ac61p-1f, 0x1.2d1762p-1f, -0x1.4edfdp-3f, 0x1.7c2498p-6f};
 // 2^(j/3 - 43) for j = 0, 1, 2 (the fourth entry unused): the offset of q' taken with the
 // scale, exactly, so that q' goes into the exponent field as it is.
 alignas(16) constexpr float kCbrtScaleS[4] = {0x1p-43f, 0x1.428a3p-43f, 0x1.965feap-43f, 0x1p-43f};
@@ -209,7 +209,7 @@ inline __m128 RootOf(__m128 ax) {
     const __m128 m = AsFloat(Or(mant, Set<uint32_t>(F::kOne)));
     __m128 v;
     if constexpr (R == Root::Cbrt && Terms == 0 && !Wide) {
-        v = Mul(Estrin(m, kCbrtEPS), AsFloat(LookupFourBySecondByte(AsInt(Load(kCbrtScaleS)), jbits)));
+        v = Mul(Horner(m, kCbrtEPS), AsFloat(LookupFourBySecondByte(AsInt(Load(kCbrtScaleS)), jbits)));
         return AsFloat(Add(AsInt(v), ShiftLeft<F::kMantBits>(qd)));
     }
     // M = m * 2^j: bits 10 and 11 of jbits moved to 23 and 24 and added to m's exponent.
