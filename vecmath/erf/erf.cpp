@@ -45,14 +45,14 @@ struct ErfGridSingle : ErfGridLA {
 constexpr SeriesCut kCutHA{5, 4, 2, 1}, kCutLA{5, 4, 2, 1, true};
 constexpr SeriesCut kCutSingleHA{2, 1, 0, 0}, kCutSingleLA{2, 1, 0, 0}, kCutSingleEP{0, 0, 0, 0};
 
-// The EP expansion; |x| held at the limit by its bits, the lanes held OR-ed on beyond.
-// erf(xj + d) = V + w*(1 + R), w = d*D, with R = -t + (2/3)t^2 - u/3 + (1/2)t*u + ... in
-// t = xj*d and u = d^2, taken as R = g*(P0 + P1*g) with g = d*(xj + d/3) = t + u/3: its t*u
-// term is (4/9)t*u, the difference below 2^-34 of erf as the rest left out. d/3 is 0
-// below 2^-256, so that tiny arguments do not underflow (R is 0 there).
+// The EP expansion around the nearest grid point xj = j/128 (|x| held at the limit by its
+// bits, the lanes held OR-ed on beyond): t = xj*d, u = d^2 (0 while a is not above 2^-256,
+// so that tiny arguments do not underflow), R = t*P + u*Q with P, Q the Taylor terms of
+// erf(xj + d) in t (-1, 2/3; -1/3, 1/2), slightly tuned; erf = V + (w + R*w), w = d*D, and x's sign OR-ed on.
 BRENN_VEC __m128d ErfShort(__m128d x, __m128d& beyond) {
     constexpr double kLimit = 5.9921875;
-    constexpr double kP1 = 2.0 / 3, kP0 = -1.0;
+    constexpr double kP1 = 0.6666678110767819, kP0 = -1.0000014305126206;
+    constexpr double kQ1 = 0.5000019073510884, kQ0 = -0.33333504994947405;
     __m128d ax = Abs(x);
     __m128d lim = Set<double>(kLimit);
     __m128d held = AsFloat(Gt(AsInt(ax), AsInt(lim)));
@@ -61,13 +61,16 @@ BRENN_VEC __m128d ErfShort(__m128d x, __m128d& beyond) {
     __m128d s = Add(a, Set<double>(kShifter128));
     __m128d xj = Sub(s, Set<double>(kShifter128));
     __m128d d = Sub(a, xj);
-    __m128d d3 = IfThenZeroElse(Lt(a, Set<double>(0x1p-256)), Mul(d, Set<double>(1.0 / 3)));
-    __m128d g = Mul(d, Add(xj, d3));
+    __m128d t = Mul(xj, d);
+    __m128d dz = IfThenZeroElse(Le(a, Set<double>(0x1p-256)), d); // d*d would raise underflow
+    __m128d u = Mul(dz, dz);
     I64x2 row = AsInt(s);
     __m128d v, deriv;
     LoadTransposed(erfRows[uint32_t(LowWord<0>(row))], erfRows[uint32_t(LowWord<1>(row))], v,
                    deriv);
-    __m128d r = Mul(g, MulAdd(Set<double>(kP1), g, Set<double>(kP0)));
+    __m128d p = MulAdd(Set<double>(kP1), t, Set<double>(kP0));
+    __m128d q = MulAdd(Set<double>(kQ1), t, Set<double>(kQ0));
+    __m128d r = Add(Mul(t, p), Mul(u, q));
     __m128d w = Mul(d, deriv);
     return Or(Add(v, Add(w, Mul(r, w))), SignBit(x));
 }
