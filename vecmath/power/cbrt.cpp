@@ -8,7 +8,7 @@
  * series at HA, with the seed rounded so that its powers and products are exact, and a
  * fitted cubic in place of the series at LA and a fitted line at EP, in rounds of sixteen
  * that take each step over their eight registers (RootRound). dInvCbrt has one kernel, at
- * HA, for the three slots.
+ * HA, for the three slots; dCbrt one for LA and EP, LA's cubic, and HA's own.
  *
  * Special lanes: zeros, infinities, NaN, and denormals. Cbrt gives +-0 and +-inf
  * themselves; InvCbrt the signed infinity for a zero (singularity status in double, no
@@ -41,7 +41,8 @@ struct RootRanges<double> {
 };
 
 // The double step of each level: the exact series at HA, the cubic at LA, at EP the
-// line (27.9 bits for Cbrt, 29.1 for Pow2o3; dInvCbrt keeps its one kernel, at HA).
+// line (29.1 bits for Pow2o3; dCbrt's EP slot is its LA kernel, dInvCbrt keeps its one
+// kernel, at HA).
 template <Level L>
 inline constexpr int kRootTerms = L == Level::HA ? 4 : L == Level::LA ? 3 : 2;
 
@@ -146,7 +147,8 @@ using namespace brenn::vm;
 
 extern "C" {
 ZAR_LEVEL_KERNELS(s, Cbrt, Unary, CbrtBody)
-ZAR_LEVEL_KERNELS(d, Cbrt, Unary, CbrtBody)
+ZAR_KERNEL_OF(d, Cbrt, LaEp, Unary, CbrtBody<double, Level::LA>)
+ZAR_KERNEL_OF(d, Cbrt, HA, Unary, CbrtBody<double, Level::HA>)
 ZAR_LEVEL_KERNELS(s, InvCbrt, Unary, InvCbrtBody)
 ZAR_KERNEL_OF(d, InvCbrt, All, Unary, InvCbrtBody<double, Level::HA>)
 ZAR_ROW_KERNELS(Pow2o3, Unary, Pow2o3Body)
