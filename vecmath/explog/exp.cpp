@@ -2,21 +2,23 @@
  *
  * sExp: EP works in base 2 (y = x*log2e split by the shifter, cubic in the fraction,
  * 2^n put in by an integer add on the exponent field); LA reduces in base e with a
- * two-part ln 2 and a degree-5 polynomial; HA reduces by ln2/128 with the 128-entry
- * table and a second-order correction, 2^m added to the exponent field as in EP.
+ * two-part ln 2 and a degree-5 polynomial, 2^n put in the same way; HA reduces by
+ * ln2/128 with the 128-entry table and a second-order correction, 2^m as a float scale.
  * dExp: n and j from x*N/ln2 by the shifter; T*(1 + p(r)) with the table of N entries:
  * LA N = 1024 and a cubic, HA N = 256 in two parts and degree 4 (exp_core256.h); EP
  * 2^(x*log2e) on the table of 128 and a quadratic in base 2 (exp_core.h Exp2Table128,
  * the form of dExp2 EP; x*log2e rounds by 2^-44.5 of the result).
- * Range test on x from -87.33654 to 88.72 in single (inside the last normal results
- * below, just inside the last finite ones above), -708.39 to 709.77 in double; the
- * special lanes, overflow, underflow and denormal results go to the scalar routine, which works from the double core of exp_scalar.h. In error mode
- * 0x2000 overflow and underflow lanes are settled by blends (exp_fixup.h). Rounds of
- * sixteen elements, the range tested once a round (wide.h), every level flattened.
+ * Range test on |x| above 87.33654 in single (a little inside the last normal results),
+ * on x from -708.39 to 709.77 in double; the special lanes, overflow, underflow and
+ * denormal results go to the scalar routines: in single one for LA and EP in single
+ * arithmetic and one for HA on the body's table, in double from the double core of
+ * exp_scalar.h. In error mode 0x2000 overflow and underflow lanes are settled by blends
+ * (exp_fixup.h). Rounds of sixteen elements, the range tested once a round (wide.h),
+ * every level flattened.
  *
- * Measured (brenn_accuracy, full run): sExp LA 2.13 ulp, HA 0.55 ulp, EP 13.2 bits;
+ * Measured (brenn_accuracy, 2*10^6 samples): sExp LA 2.76 ulp, HA 0.55 ulp, EP 12.4 bits;
  * dExp LA 1.79 ulp, HA 0.67 ulp, EP 30.2 bits.
- * The polynomials come from tools/explog/exp_single.sollya, exp_double.sollya (LA) and
+ * The double polynomials come from tools/explog/exp_double.sollya (LA) and
  * exp2_10_double.sollya (EP). */
 #include "frame/kernels.h"
 #include "vecmath/explog/exp_core.h"
@@ -31,28 +33,23 @@
 namespace brenn::vm {
 namespace {
 
-// The range window on |x|, inside the last normal results.
-template <class T>
+// The range window: on |x| in single, bits(|x|) above 0x42AEAC4F (87.33654, a little
+// inside the last normal results), the same at every level (HA's test, bits(|x|) at
+// least 0x42AEAC50, is this one).
+template <class T, Level L>
 struct ExpWindow;
-template <>
-struct ExpWindow<float> {
-    // -87.33654 to 88.72: below, the results near the least normal and the denormal
-    // ones; above, the last arguments whose results are finite (n = 128 with q < 1, whose
-    // exponent field 126 + 128 still holds them; q is at least 2^-14 below 1 up to 88.72).
-    static constexpr SplitWindow32 kWindow = {0x42B170A4u, 0xC2AEAC4Fu};
+template <Level L>
+struct ExpWindow<float, L> {
+    static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x42AEAC4Fu};
 };
-template <>
-struct ExpWindow<double> {
+template <Level L>
+struct ExpWindow<double, L> {
     // By high words: -708.396 (inside the last normal results) to 709.770 (m <= 1023 at
     // every level, the result below 2^1024).
     static constexpr SplitWindowHigh kWindow = {0x40862E28u, 0xC086232Au};
 };
 
-int ExpScalar(const float* a, float* y) {
-    using K = ExpLimits<float>;
-    return ExpScalarFinish<float>(*a, y, K::kOver, K::kUnder,
-                                  [](float x) { return float(ExpScalarCore(double(x))); });
-}
+template <Level L>
 int ExpScalar(const double* a, double* y) {
     using K = ExpLimits<double>;
     double x = *a;
@@ -65,16 +62,18 @@ int ExpScalar(const double* a, double* y) {
                                    [](double v) { return ExpScalarCore(v); });
 }
 
-// Single EP: 2^(x*log2e) as 2^n * q(f), the cubic q for 2^f on |f| <= 1/2, 2^n put in
-// by an integer add on the exponent field.
-constexpr float kLog2eS = 0x1.715476p+0f;
-// Fitted by tools/explog/exp_single.sollya (EP).
-constexpr float kExp2Cubic[] = {0x1p+0f, 0x1.62f5fap-1f, 0x1.f00c4cp-3f, 0x1.c2a254p-5f};
-// Single LA: base e, ln 2 in two parts, degree 5 on |r| <= ln2/2.
-constexpr float kLn2HiS = 0x1.62e4p-1f, kLn2LoS = 0x1.7f7d1cp-20f;
-// Fitted by tools/explog/exp_single.sollya (LA).
-constexpr float kExpQuintic[] = {0x1p+0f,       0x1.fffff6p-1f, 0x1.fffdc6p-2f,
-                                 0x1.555a8p-3f, 0x1.573a1ap-5f, 0x1.0f9f9cp-7f};
+// Single EP: y = x*log2e, t = y + shifter, n = t - shifter, r = y - n (|r| <= 1/2),
+// q = ((c3*r + c2)*r + c1)*r + 1 ~ 2^r, and 2^n*q by adding t's low bits shifted into
+// the exponent field to q's bits. About 13 good bits: e is not the nearest float to
+// e^1 here.
+constexpr float kLog2eS = 0x1.715476p+0f; // 0x3FB8AA3B
+constexpr float kExpEP[] = {0x1p+0f, 0x1.62e844p-1f, 0x1.efacd4p-3f, 0x1.c6b056p-5f};
+// Single LA: the same t and n, the rest in base e with ln 2 in two parts (the head ends
+// in eight zero bits, so that n*head is exact for |n| <= 2^16), and degree 5 on
+// |r| <= ln2/2.
+constexpr float kLn2HiS = 0x1.62e4p-1f, kLn2LoS = 0x1.7f7d1cp-20f; // 0x3F317200, 0x35BFBE8E
+constexpr float kExpLA[] = {0x1p+0f,       0x1.fffffcp-1f, 0x1.fffe68p-2f,
+                            0x1.555958p-3f, 0x1.570724p-5f, 0x1.0fb3fcp-7f};
 // Single HA: ln2/128 steps with the 128-entry table. The shifter is 1.375 * 2^23, whose
 // bits end in seven zeros (see below); the step is in two parts, negated.
 constexpr float kShifter128S = 0x1.6p+23f, kInvStep128S = 0x1.715476p+7f;
@@ -94,12 +93,12 @@ inline __m128 ExpOf(__m128 x) {
         __m128 yy = Mul(x, Set<float>(kLog2eS));
         __m128 t = Add(yy, shifter);
         __m128 r = Sub(yy, Sub(t, shifter));
-        return ScaleByLowBits(Horner(r, kExp2Cubic), t);
+        return ScaleByLowBits(Horner(r, kExpEP), t);
     } else if constexpr (L == Level::LA) {
         __m128 t = Add(Mul(x, Set<float>(kLog2eS)), shifter);
         __m128 n = Sub(t, shifter);
         __m128 r = Sub(Sub(x, Mul(n, Set<float>(kLn2HiS))), Mul(n, Set<float>(kLn2LoS)));
-        return ScaleByLowBits(Horner(r, kExpQuintic), t);
+        return ScaleByLowBits(Horner(r, kExpLA), t);
     } else {
         const __m128 shifter128 = Set<float>(kShifter128S);
         __m128 t = Add(Mul(x, Set<float>(kInvStep128S)), shifter128);
@@ -107,20 +106,111 @@ inline __m128 ExpOf(__m128 x) {
         __m128 r = Add(Add(x, Mul(n, Set<float>(kNegStepHiS))), Mul(n, Set<float>(kNegStepLoS)));
         // The shifter's bits end in seven zeros, so the index is bits(t) & 0x7F, masked in
         // the scalar unit (the vector pipes are the busy ones), and the binary exponent
-        // (bits(t) - bits(shifter)) >> 7 shifted left 23 is (bits(t) >> 7) << 23: the
-        // shifter's part leaves the word.
+        // (bits(t) - bits(shifter)) >> 7 is bits(t) >> 7 once shifted into the exponent
+        // field: the shifter's part leaves the word.
         // Rows of (T, Tl) pairs, Tl relative to T, transposed into a T and a Tl register.
         __m128 tv, tl;
         GatherPairs(single::expTable128, AsInt(t), 0x7F, tv, tl);
         __m128 s = Add(Add(r, tl), Mul(Set<float>(0.5f), Mul(r, r)));
         __m128 p = Add(Mul(s, tv), tv);
-        // 2^m put in by an integer add on p's exponent field, not by a multiplication with
-        // a scale: inside the range test the result is normal (at the lowest n that passes,
-        // m = -126 comes with p above 1), so the two are the same.
-        I32x4 k = ShiftLeft<Format<float>::kMantBits>(ShiftRight<7>(AsInt(t)));
+        // 2^m as a float scale, multiplied in (inside the window p*2^m is normal: at its
+        // lower end, x = -87.33654, m = -126 comes with r > 0).
         static_assert(((0x4B300000u >> 7) << 23) == 0);
-        return AsFloat(Add(AsInt(p), k));
+        I32x4 k = ShiftLeft<Format<float>::kMantBits>(
+            Add(ShiftRight<7>(AsInt(t)), Set<int32_t>(Format<float>::kBias)));
+        return Mul(p, AsFloat(k));
     }
+}
+
+// The single scalar routine of LA and EP, in single: the body of LA with its own
+// polynomial, 2^n applied through the exponent field in one of three ways.
+int ExpScalarLaEp(const float* a, float* y) {
+    using K = ExpLimits<float>;
+    const float x = *a;
+    const uint32_t b = BitsOf(x);
+    if ((b & 0x7F800000u) == 0x7F800000u) {
+        *y = b == 0xFF800000u ? 0.0f : x * x; // -inf to +0; +inf stays, NaN quieted
+        return status::kNone;
+    }
+    if (x > K::kOver) {
+        volatile float big = std::numeric_limits<float>::max();
+        *y = big * big;
+        return status::kOverflow;
+    }
+    if (x < K::kUnder) {
+        volatile float tiny = std::numeric_limits<float>::denorm_min();
+        *y = tiny * tiny;
+        return status::kUnderflow;
+    }
+    constexpr float kShifter = 0x1.8p+23f;
+    const float t = 0x1.715476p+0f * x + kShifter; // 1.442695
+    const float n = t - kShifter;
+    const float r = x - n * 0x1.62e4p-1f - n * 0x1.7f7d1cp-20f; // 0.69314575, 1.4286068e-6
+    // 1.0000001, 0.0083811125, 0.041917525, 0.16666326, 0.4999887
+    constexpr float c0 = 0x1.000002p+0f;
+    const float p =
+        c0 +
+        ((((0x1.12a1dep-7f * r + 0x1.57636cp-5f) * r + 0x1.55538cp-3f) * r + 0x1.fffd0ap-2f) * r +
+         c0) *
+            r;
+    const int ni = int(n);
+    auto field = [](int e) { return FloatOf(uint32_t(e & 255) << 23); };
+    if (x < -0x1.5d589ep+6f) { // -87.33654: the result denormal or near it
+        *y = p * field(ni - 69) * 0x1p-60f;
+        return status::kUnderflow;
+    }
+    if (ni < -127 || ni > 127) {
+        *y = p * field(ni + 126) * 2.0f;
+        return status::kNone;
+    }
+    *y = p * field(ni + 127);
+    return status::kNone;
+}
+
+// The single scalar routine of HA: the body's reduction and table in single, the
+// correction and the power of two applied in double, so that a denormal result is
+// rounded once.
+int ExpScalarHA(const float* a, float* y) {
+    const float x = *a;
+    const uint32_t b = BitsOf(x), mag = b & 0x7FFFFFFFu;
+    if (mag > 0x7F800000u) {
+        *y = x + x;
+        return status::kNone;
+    }
+    if (mag == 0x7F800000u) {
+        *y = b >> 31 ? 0.0f : x;
+        return status::kNone;
+    }
+    if (int32_t(b) > 0x42B17218) {
+        volatile float big = std::numeric_limits<float>::max();
+        *y = big * big;
+        return status::kOverflow;
+    }
+    if (b > BitsOf(ExpLimits<float>::kUnder)) {
+        volatile float tiny = std::numeric_limits<float>::denorm_min();
+        *y = tiny * tiny;
+        return status::kUnderflow;
+    }
+    const float t = x * kInvStep128S + kShifter128S;
+    const float n = kShifter128S - t;
+    const float r = (x + n * kNegStepHiS) + n * kNegStepLoS;
+    const int32_t bt = int32_t(BitsOf(t));
+    const float* row = single::expTable128[bt & 0x7F];
+    // From r on in double: rounded to single first, p's error and the rounding into a
+    // denormal result would add up (0.74 ulp at -87.96).
+    const double rd = r, th = row[0];
+    const double s = (rd + row[1]) + 0.5 * (rd * rd);
+    const double p = s * th + th;
+    const int m = (bt - int32_t(BitsOf(kShifter128S))) >> 7;
+    const float v = float(p * DoubleOf(uint64_t(m + 1023) << 52));
+    *y = v;
+    if (__builtin_isinf(v)) return status::kOverflow; // 88.7228394 itself
+    return v < std::numeric_limits<float>::min() ? status::kUnderflow : status::kNone;
+}
+
+template <Level L>
+int ExpScalar(const float* a, float* y) {
+    return L == Level::HA ? ExpScalarHA(a, y) : ExpScalarLaEp(a, y);
 }
 
 // Double EP: 2^(x*log2e) on the table of 128 (exp_core.h Exp2Table128).
@@ -167,7 +257,7 @@ struct ExpBody {
     using V = Vec<T>;
     using K = ExpLimits<T>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Exp);
-    static constexpr auto kWindow = ExpWindow<T>::kWindow;
+    static constexpr auto kWindow = ExpWindow<T, L>::kWindow;
     static constexpr int kRound = 16;
     static int EvalWide(const V* x, V* y) { return EvalTestOnce<ExpBody>(x, y); }
     static V Value(V x) { return ExpOf<L>(x); }
@@ -176,7 +266,7 @@ struct ExpBody {
         x = IfThenZeroElse(special, x); // special lanes run on 0: no flags of their own
         return ExpOf<L>(x);
     }
-    static int Scalar(const T* a, T* y) { return ExpScalar(a, y); }
+    static int Scalar(const T* a, T* y) { return ExpScalar<L>(a, y); }
     static int FixNoError(const V* x, V* y, int bits) {
         return FixExpLimits<T>(x, y, bits, K::kOver, K::kUnder);
     }

@@ -1,0 +1,188 @@
+// The exponential bodies against plain scalar transcriptions of their steps, bit for bit:
+// the constants, the tables, the order of the roundings and the range windows may not
+// drift for speed. Each body over a few hundred thousand random arguments across its
+// window in one long call (so that every round's fast path runs), the window's edges
+// element by element, and the values the single scalar routines give at their limits.
+#include <bit>
+#include <cfloat>
+#include <cmath>
+#include <cstdint>
+#include <gtest/gtest.h>
+#include <random>
+#include <vector>
+
+#include "frame/dispatch.h"
+#include "tests/vecmath/kernels.h"
+#include "vecmath/explog/explog_tables.h"
+
+namespace brenn::test {
+namespace {
+
+using frame::RowIndex;
+namespace vm = brenn::vm;
+
+template <class T>
+Unary<T> K(RowIndex row, int slot) {
+    return reinterpret_cast<Unary<T>>((&BrennDispatchTable[row].kernelLA)[slot]);
+}
+
+float F(uint32_t b) {
+    return std::bit_cast<float>(b);
+}
+double D(uint64_t b) {
+    return std::bit_cast<double>(b);
+}
+uint32_t B(float x) {
+    return std::bit_cast<uint32_t>(x);
+}
+uint64_t B(double x) {
+    return std::bit_cast<uint64_t>(x);
+}
+
+// n random arguments uniform on [lo, hi] with the edges and zeros among them.
+template <class T>
+std::vector<T> Uniform(T lo, T hi, int n, unsigned seed) {
+    std::mt19937_64 g(seed);
+    std::uniform_real_distribution<T> u(lo, hi);
+    std::vector<T> x = {lo, hi, T(0), -T(0), std::nextafter(lo, hi), std::nextafter(hi, lo)};
+    while (int(x.size()) < n)
+        x.push_back(u(g));
+    return x;
+}
+
+// The kernel of (row, slot) on x in one call against ref element by element, bit for bit,
+// status 0 throughout.
+template <class T, class Ref>
+void ExpectSteps(RowIndex row, int slot, const std::vector<T>& x, Ref ref) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    std::vector<T> y(x.size());
+    brenn_zar_kernel_SetErrStatus(0);
+    K<T>(row, slot)(int(x.size()), x.data(), y.data());
+    EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 0) << frame::kRowInfo[row].name << " " << slot;
+    int shown = 0;
+    for (size_t i = 0; i < x.size(); ++i) {
+        T want = ref(x[i]);
+        if (B(y[i]) != B(want) && shown++ < 5)
+            ADD_FAILURE() << frame::kRowInfo[row].name << " slot " << slot << " x " << std::hexfloat
+                          << x[i] << " got " << y[i] << " want " << want;
+    }
+}
+
+// ---- sExp ----
+
+constexpr float kShifterS = 0x1.8p+23f; // 0x4B400000
+
+// EP: y = x*log2e, t = y + shifter, n = t - shifter, r = y - n, the cubic, and the bits
+// of t shifted left 23 added to those of p.
+float SExpEP(float x) {
+    float y = x * F(0x3FB8AA3B);
+    float t = y + kShifterS;
+    float n = t - kShifterS;
+    float r = y - n;
+    float p = ((F(0x3D63582B) * r + F(0x3E77D66A)) * r + F(0x3F317422)) * r + 1.0f;
+    return F((B(t) << 23) + B(p));
+}
+
+float SExpLA(float x) {
+    float t = x * F(0x3FB8AA3B) + kShifterS;
+    float n = t - kShifterS;
+    float r = x - n * F(0x3F317200) - n * F(0x35BFBE8E);
+    float p = F(0x3C07D9FE);
+    for (uint32_t c : {0x3D2B8392u, 0x3E2AACACu, 0x3EFFFF34u, 0x3F7FFFFEu, 0x3F800000u})
+        p = p * r + F(c);
+    return F((B(t) << 23) + B(p));
+}
+
+float SExpHA(float x) {
+    float t = x * F(0x4338AA3B) + 11534336.0f;
+    float n = 11534336.0f - t;
+    float r = x + n * F(0x3BB18000) + n * F(0xB5DE8083);
+    const float* row = vm::single::expTable128[B(t) & 0x7F];
+    float s = (r + row[1]) + 0.5f * r * r;
+    float p = s * row[0] + row[0];
+    float scale = F((((B(t) >> 7) + 127) << 23));
+    return p * scale;
+}
+
+TEST(ExpSteps, SingleExpBodies) {
+    const float edge = F(0x42AEAC4F);
+    std::vector<float> x = Uniform(-edge, edge, 300000, 1);
+    ExpectSteps(frame::Row_sExp, frame::SlotEP, x, SExpEP);
+    ExpectSteps(frame::Row_sExp, frame::SlotLA, x, SExpLA);
+    ExpectSteps(frame::Row_sExp, frame::SlotHA, x, SExpHA);
+    // EP's eleven-odd bits: e^1 is not the nearest float to e.
+    EXPECT_NE(CallUnary(K<float>(frame::Row_sExp, frame::SlotEP), 1.0f), float(M_E));
+    EXPECT_EQ(CallUnary(K<float>(frame::Row_sExp, frame::SlotEP), 1.0f), SExpEP(1.0f));
+}
+
+// Single scalar routine of LA and EP: the stated ladder, its polynomial and the three
+// ways of applying 2^n.
+float SExpScalarLaEp(float x, int* status) {
+    float t = 1.442695f * x + kShifterS;
+    float n = t - kShifterS;
+    float r = x - n * 0.69314575f - n * 1.4286068e-6f;
+    float p = 1.0000001f +
+              ((((0.0083811125f * r + 0.041917525f) * r + 0.16666326f) * r + 0.4999887f) * r +
+               1.0000001f) *
+                  r;
+    int k = int(n);
+    *status = 0;
+    if (x < -87.33654f) {
+        *status = 4;
+        return p * F(uint32_t((k - 69) & 255) << 23) * 8.6736174e-19f;
+    }
+    if (k < -127 || k > 127) return p * F(uint32_t((k + 126) & 255) << 23) * 2.0f;
+    return p * F(uint32_t((k + 127) & 255) << 23);
+}
+
+TEST(ExpSteps, SingleExpWindowAndScalarRoutines) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    const float in = F(0x42AEAC4F), out = F(0x42AEAC50);
+    for (int slot : {frame::SlotLA, frame::SlotHA, frame::SlotEP}) {
+        auto k = K<float>(frame::Row_sExp, slot);
+        int status;
+        // The window's last arguments take the body, the next ones the scalar routine: a
+        // denormal result below, status 4; a normal one above, status 0.
+        for (float v : {in, -in}) {
+            float y = CallUnary(k, v, &status);
+            EXPECT_EQ(status, 0) << slot << " " << v;
+            EXPECT_EQ(B(y), B(slot == frame::SlotHA ? SExpHA(v) : slot == frame::SlotLA ? SExpLA(v) : SExpEP(v)));
+        }
+        CallUnary(k, -out, &status);
+        EXPECT_EQ(status, 4) << slot;
+        EXPECT_LT(CallUnary(k, -out, &status), FLT_MIN);
+        CallUnary(k, out, &status);
+        EXPECT_EQ(status, 0) << slot;
+        // The limits: 88.72283172607422 the last finite, -103.97207641601562 the last
+        // non-zero result.
+        EXPECT_TRUE(std::isfinite(CallUnary(k, F(0x42B17217), &status)));
+        EXPECT_EQ(status, 0);
+        EXPECT_EQ(CallUnary(k, F(0x42B17218), &status), INFINITY);
+        EXPECT_EQ(status, 3);
+        EXPECT_GT(CallUnary(k, F(0xC2CFF1B4), &status), 0.0f);
+        EXPECT_EQ(status, 4);
+        EXPECT_EQ(B(CallUnary(k, F(0xC2CFF1B5), &status)), 0u);
+        EXPECT_EQ(status, 4);
+        EXPECT_EQ(CallUnary(k, -INFINITY, &status), 0.0f);
+        EXPECT_EQ(status, 0);
+    }
+    // LA and EP share the scalar routine: its value over both bands outside the window.
+    std::vector<float> x;
+    for (float v = out; v <= F(0x42B17217); v = std::nextafter(v, 100.0f))
+        x.push_back(v);
+    for (float v = -out; v >= F(0xC2CFF1B4); v = std::nextafter(v, -200.0f))
+        x.push_back(v);
+    for (int slot : {frame::SlotLA, frame::SlotEP}) {
+        int shown = 0;
+        for (float v : x) {
+            int status, want;
+            float y = CallUnary(K<float>(frame::Row_sExp, slot), v, &status);
+            float w = SExpScalarLaEp(v, &want);
+            if ((B(y) != B(w) || status != want) && shown++ < 5)
+                ADD_FAILURE() << slot << " x " << std::hexfloat << v << " got " << y << " want " << w;
+        }
+    }
+}
+
+} // namespace
+} // namespace brenn::test
