@@ -1,6 +1,6 @@
 // Generates vecmath/explog/explog_tables.cpp, the constant tables of the exponential
 // and logarithm kernels, from MPFR at 256 bits:
-//   exp tables: 2^(j/N) for N = 128 in single (a high part and the rest relative to it),
+//   exp tables: 2^(j/N) for N = 64 and 128 in single (a high part and the rest relative to it),
 //   N = 64, 128 and 256 in double (a high part and the rounded rest), N = 256 with the
 //   rest relative to the high part, and N = 1024 (double, one part);
 //   log rows: for the centres c = 1 + j/512, j = 0..512, a reciprocal of c rounded to
@@ -207,6 +207,7 @@ int main(int argc, char** argv) {
                       "#include \"vecmath/explog/explog_tables.h\"\n\n"
                       "namespace brenn::vm {\n\n");
     std::fprintf(out, "namespace single {\n\n");
+    ExpTableF(out, "expTable64", 64);
     ExpTableF(out, "expTable128", 128);
     std::fprintf(out, "} // namespace single\n\n");
     ExpTableD(out, "expTable64", 64, true);
