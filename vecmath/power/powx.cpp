@@ -14,10 +14,9 @@
  *                    integer b on |x|, x's sign put back for odd b, so that negative x
  *                    do not leave the vector.
  * The slots are those of the kernel's own level. At HA only -1, 0.5, -0.5 and 1.5 are
- * taken apart; every other b runs the general body, which is within an ulp where the
- * chains are not, but for 2, whose square x*x is correctly rounded: it runs as a body of
- * its own, the lanes outside the normal range left to the general body's scalar routine. A dispatched kernel reports under its own name ("vsInv", ...), and a
- * slot without a kernel leaves b to the general body. */
+ * taken apart; every other b, 2 included, runs the general body, which is within an ulp
+ * where the chains are not. A dispatched kernel reports under its own name ("vsInv", ...),
+ * and a slot without a kernel leaves b to the general body. */
 #include <string.h>
 
 #include <limits>
@@ -126,24 +125,6 @@ struct PowxBody : PowxCommon<Tp> {
                     y[k] = Or(y[k], And(x[k], oddSign));
             return bits;
         }
-    }
-};
-
-// b = 2 at HA: x*x, the correctly rounded square and so the best x^2 there is. Lanes whose
-// square is not a normal number (zero, denormal, overflow, NaN or infinity) go to the
-// general body's scalar routine for its value and status. The window on the square's bits
-// (the high word in double): below the least normal or above the largest finite.
-template <class T>
-inline constexpr Range32 kNormalSquare = sizeof(T) == 4
-                                             ? Range32{0x7FFFFFFFu, 0x7F800000u, 0xFEFFFFFFu}
-                                             : Range32{0x7FFFFFFFu, 0x7FF00000u, 0xFFDFFFFFu};
-template <class Tp>
-struct SquareBody : PowxCommon<Tp> {
-    using V = Vec<Tp>;
-    BRENN_VEC V Eval(V x, V& special) const {
-        V y = Mul(x, x);
-        special = RangeTest(y, kNormalSquare<Tp>);
-        return y;
     }
 };
 
@@ -300,8 +281,6 @@ void PowxRun(int n, const T* a, T b, T* y) {
             call = PowxCall::InvSqrt;
         else if (is(T(1.5)))
             call = PowxCall::Pow3o2;
-        else if (is(T(2)))
-            return RunUnary(SquareBody<T>{{b}}, n, a, y);
         else
             dispatched = false;
     }
