@@ -11,8 +11,9 @@
 //   the rows of the double Log10 and Log2: for c = 1 + j/512 a reciprocal rounded
 //   to 10 bits, a = c times it less 1 (exact), and T = -log_B of the reciprocal plus
 //   a*log_B(e) in two parts as above;
-//   the rows of the single Log10 and Log2 HA: for c = 1 + j/512 the reciprocal of lnRows
-//   and -log_B of it rounded to double, a 16-byte row.
+//   the rows of the double Log2 EP: for c = 1 + j/512 the reciprocal of lnRows
+//   and -log_B of it rounded to double, a 16-byte row;
+//   the rows of the single HA logarithms: -log_B(t/64), t = 48..96, in two singles.
 //   gen_explog_tables OUT
 #include <cstdio>
 #include <mpfr.h>
@@ -192,6 +193,36 @@ void LogBaseRowsF(FILE* out, const char* name, long n, int base) {
     mpfr_clears(c, rcp, l, (mpfr_ptr)0);
 }
 
+// Rows of the single HA logarithms on a reciprocal of m rounded to 2^-6: for t = 48..96,
+// row t - 48, T = -log_B(t/64) as a high part on the grid of 2^-14 (so that k times the
+// head of log_B(2), on the same grid, plus the high part is exact in single) and the
+// rounded rest, two singles a row. base 0 is e.
+void LogRecipRowsF(FILE* out, const char* name, int base) {
+    mpfr_t l, t;
+    mpfr_inits2(kPrec, l, t, (mpfr_ptr)0);
+    std::fprintf(out, "alignas(16) const float %s[49][2] = {\n", name);
+    for (long j = 48; j <= 96; ++j) {
+        mpfr_set_si(l, j, MPFR_RNDN);
+        mpfr_div_si(l, l, 64, MPFR_RNDN);
+        if (base == 2)
+            mpfr_log2(l, l, MPFR_RNDN);
+        else if (base == 10)
+            mpfr_log10(l, l, MPFR_RNDN);
+        else
+            mpfr_log(l, l, MPFR_RNDN);
+        mpfr_neg(l, l, MPFR_RNDN);
+        mpfr_mul_2si(t, l, 14, MPFR_RNDN);
+        mpfr_rint(t, t, MPFR_RNDN);
+        mpfr_div_2si(t, t, 14, MPFR_RNDN);
+        float hi = mpfr_get_flt(t, MPFR_RNDN);
+        mpfr_sub(l, l, t, MPFR_RNDN);
+        float lo = mpfr_get_flt(l, MPFR_RNDN);
+        std::fprintf(out, "    {%a, %a},\n", hi + 0.0f, lo + 0.0f);
+    }
+    std::fprintf(out, "};\n\n");
+    mpfr_clears(l, t, (mpfr_ptr)0);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -209,6 +240,9 @@ int main(int argc, char** argv) {
     std::fprintf(out, "namespace single {\n\n");
     ExpTableF(out, "expTable64", 64);
     ExpTableF(out, "expTable128", 128);
+    LogRecipRowsF(out, "lnRecipRows", 0);
+    LogRecipRowsF(out, "log10RecipRows", 10);
+    LogRecipRowsF(out, "log2RecipRows", 2);
     std::fprintf(out, "} // namespace single\n\n");
     ExpTableD(out, "expTable64", 64, true);
     ExpTableD(out, "expTable128", 128, true);

@@ -2,6 +2,9 @@
  * tools/explog/gen_explog_tables (MPFR) into explog_tables.cpp.
  *   single::expTable64[j], single::expTable128[j] = 2^(j/N) as a single high part and
  *                          the rest relative to it;
+ *   single::lnRecipRows[j], log10RecipRows[j], log2RecipRows[j] = for t = 48 + j:
+ *                          -log_B(t/64) as a high part on the 2^-14 grid and the rest,
+ *                          the rows of the single HA logarithms;
  *   expTable64[j], expTable128[j], expTable256[j] = 2^(j/N) as a double high part and
  *                          the rounded rest;
  *   expRelTable256[j]      = 2^(j/256) as a double high part and the rest relative to
@@ -26,6 +29,9 @@ namespace brenn::vm {
 namespace single {
 extern const float expTable64[64][2];
 extern const float expTable128[128][2];
+extern const float lnRecipRows[49][2];
+extern const float log10RecipRows[49][2];
+extern const float log2RecipRows[49][2];
 }
 extern const double expTable64[64][2];
 extern const double expTable128[128][2];
