@@ -34,35 +34,50 @@ struct PowRanges<double> {
 // |w| above 708.39: e^w leaves the range of the table form's scaling.
 constexpr Range64 kPowW{0x7FFFFFFFFFFFFFFFull, 0ull, 0x4086232AFFFFFFFFull};
 
-// Single EP, all in single: ln x by the split around 2/3 and the seven-term Q of
-// ln(1 + r) = r + r^2*Q(r), k*ln2 in two parts; w = y*ln x, within 2^-16 of 1 for the
-// |w| that pass; e^w = 2^n * P(w - n*ln2) with the cubic P, 2^n put into the exponent
-// field by an integer add. |w| above 87.3 (results near or beyond the range) goes to the
-// scalar routine, as do the lanes that are not positive normal x or finite y.
-// The two sets are this body's long-standing ones (Q as sLn LA had it, P a cubic for e^r
-// on |r| <= ln2/2), kept bit for bit; both run by Estrin's scheme, whose shorter chains
-// measured about 15 % faster than Horner's rule.
+// Single EP, all in single, with the body's fixed constants: ln x by the split around 2/3,
+// p = r + r^2*Q(r) by Horner's rule from Q's top, and k*ln2 in two parts, the low one
+// first (0x35BFBE8E, then 0x3F317200); w = y*ln x; e^w as t = w*log2(e) + 1.5*2^23,
+// n = t - 1.5*2^23, r = w - n*ln2 and P(r) = 1 + r*(c1 + r*(c2 + r*c3)), 2^n put into the
+// exponent field by adding t's bits shifted up 23 to P's. |w| above 87.3007812
+// (0x42AE9A00: results near or beyond the range) goes to the scalar routine, as do the
+// lanes that are not positive normal x or finite y. Q is sLn LA's seven terms for Pow,
+// a shorter set of six for Powx (`Short`).
 constexpr float kPowLnQ[] = {-0x1p-1f,       0x1.555dcep-2f, -0x1.000c3ap-2f, 0x1.95f702p-3f,
                              -0x1.5126bp-3f, 0x1.5b70d6p-3f, -0x1.36d444p-3f};
+constexpr float kPowxLnQ[] = {-0x1p-1f,       0x1.555a06p-2f,  -0x1.fe1e1ep-3f,
+                              0x1.96c58p-3f, -0x1.84968cp-3f, 0x1.566a18p-3f};
+// 1.00011802 (0x3F8003DE), 0.503705382 (0x3F00F2D6), 0.165419281 (0x3E2963AC).
 constexpr float kPowExpP[] = {0x1p+0f, 0x1.0007bcp+0f, 0x1.01e5acp-1f, 0x1.52c758p-3f};
 constexpr Range32 kPowWSingle{0x7FFFFFFFu, 0u, 0x42AE9A00u};
+struct PowSingleConst {
+    static constexpr float kLn2Hi = 0x1.62e4p-1f;      // 0x3F317200
+    static constexpr float kLn2Lo = 0x1.7f7d1cp-20f;   // 0x35BFBE8E
+    static constexpr float kLog2e = 0x1.715476p+0f;    // 1.44269502
+    static constexpr float kLn2 = 0x1.62e43p-1f;       // 0.693147182
+};
 
+template <bool Short = false>
 inline __m128 PowSingleEP(__m128 x, __m128 y, __m128& special) {
-    using K = LogConst<float>;
+    using K = PowSingleConst;
     __m128 sxy = Or(LogSpecial(x), RangeTest(y, PowRanges<float>::kY));
     x = IfThenElse(sxy, Set<float>(1.0f), x);
     y = IfThenZeroElse(sxy, y);
     __m128 r, k;
     LogSplit(x, r, k);
-    __m128 p = Add(r, Mul(Mul(r, r), Estrin(r, kPowLnQ)));
+    __m128 q;
+    if constexpr (Short)
+        q = Horner(r, kPowxLnQ);
+    else
+        q = Horner(r, kPowLnQ);
+    __m128 p = Add(r, Mul(Mul(r, r), q));
     __m128 ln = Add(Add(Mul(k, Set<float>(K::kLn2Lo)), p), Mul(k, Set<float>(K::kLn2Hi)));
     __m128 w = Mul(y, ln);
     __m128 sw = RangeTest(w, kPowWSingle);
     w = IfThenZeroElse(sw, w);
     const __m128 shifter = Set<float>(Format<float>::kShifter);
-    __m128 t = Add(Mul(w, Set<float>(0x1.715476p+0f)), shifter);
+    __m128 t = Add(Mul(w, Set<float>(K::kLog2e)), shifter);
     __m128 n = Sub(t, shifter);
-    __m128 e = Estrin(Sub(w, Mul(n, Set<float>(K::kLn2))), kPowExpP);
+    __m128 e = Horner(Sub(w, Mul(n, Set<float>(K::kLn2))), kPowExpP);
     special = Or(sxy, sw);
     return AsFloat(Add(ShiftLeft<Format<float>::kMantBits>(AsInt(t)), AsInt(e)));
 }
@@ -111,10 +126,11 @@ BRENN_VEC __m128d PowSingleHalf(__m128d m, __m128d k, __m128d y, const double* r
 
 // `FiniteY`: y finite in every lane (Powx's general body with a finite b), so that only x
 // is tested and y stays as it is: a special lane runs on x = 1, where ln x and w are 0.
-template <Level L, bool FiniteY = false>
+// `Powx`: the general body of Powx, whose EP takes the shorter logarithm.
+template <Level L, bool FiniteY = false, bool Powx = false>
 BRENN_VEC __m128 PowOf(__m128 x, __m128 y, __m128& special) {
     if constexpr (L == Level::EP) {
-        return PowSingleEP(x, y, special);
+        return PowSingleEP<Powx>(x, y, special);
     } else {
         using F = Format<float>;
         __m128 sxy = LogSpecial(x);
@@ -197,7 +213,7 @@ BRENN_VEC int PowWide(const __m128d* x, const __m128d* y, __m128d* v) {
     return bits;
 }
 
-template <Level L, bool FiniteY = false>
+template <Level L, bool FiniteY = false, bool Powx = false>
 BRENN_VEC __m128d PowOf(__m128d x, __m128d y, __m128d& special) {
     __m128d v;
     PowRound<L, 1>(&x, &y, &v, &special);

@@ -93,9 +93,9 @@ struct PowxBody : PowxCommon<Tp> {
     BRENN_VEC V Eval(V x, V& special) const {
         constexpr bool finite = FiniteB && sizeof(T) == 4;
         if constexpr (Integer)
-            return Or(PowOf<L, finite>(Abs(x), bv, special), And(x, oddSign));
+            return Or(PowOf<L, finite, true>(Abs(x), bv, special), And(x, oddSign));
         else
-            return PowOf<L, finite>(x, bv, special);
+            return PowOf<L, finite, true>(x, bv, special);
     }
     // Double rounds of sixteen, each step over the round's eight registers (PowRound).
     // Single LA and HA too, register by register: the frame's quad evaluation was a call
