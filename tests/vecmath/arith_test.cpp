@@ -3,6 +3,8 @@
 // rows, and the accuracy of each level of Sqrt, Inv, InvSqrt and Div over random
 // inputs across the whole range.
 #include <cfloat>
+#include <cmath>
+#include <immintrin.h>
 #include <gtest/gtest.h>
 #include <random>
 #include <vector>
@@ -293,8 +295,10 @@ void CheckAccuracy(const char* row, long double (*ref)(long double, long double)
             worst = std::max(worst, UlpError(y[i], r));
             worstRelative = std::max(worstRelative, double(fabsl((y[i] - r) / r)));
         }
-        if (slot == 2) EXPECT_LE(worstRelative, limit[slot]) << row << " EP";
-        else EXPECT_LE(worst, limit[slot]) << row << " slot " << slot;
+        if (slot == 2)
+            EXPECT_LE(worstRelative, limit[slot]) << row << " EP";
+        else
+            EXPECT_LE(worst, limit[slot]) << row << " slot " << slot;
     }
 }
 
@@ -315,6 +319,236 @@ TEST(Elementary, EachLevelMeetsItsAccuracy) {
     CheckAccuracy<double>("dInv", invRef, false, false, dbl);
     CheckAccuracy<double>("dInvSqrt", rsqrtRef, false, true, dblRsqrt);
     CheckAccuracy<double>("dDiv", divRef, true, false, dbl);
+    brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);
+}
+
+// The steps of the root and reciprocal bodies, written out one element at a time from
+// the approximate instructions, against the kernels bit for bit: random inputs across
+// each body's window, and the window's edges, outside of which the result is the
+// correctly rounded one of the scalar routine.
+namespace steps {
+
+float Rcp(float x) {
+    return _mm_cvtss_f32(_mm_rcp_ss(_mm_set_ss(x)));
+}
+float Rsqrt(float x) {
+    return _mm_cvtss_f32(_mm_rsqrt_ss(_mm_set_ss(x)));
+}
+
+int BiasedExponent(double x) {
+    return int((Bits(x) >> 52) & 0x7FF);
+}
+// 2^k for k in the normal range.
+double Pow2(int k) {
+    return __builtin_bit_cast(double, uint64_t(k + 1023) << 52);
+}
+// The significand cut to single's 23 bits, in [1, 2).
+float SignificandOf(double x) {
+    return __builtin_bit_cast(float, uint32_t((Bits(x) >> 29) & 0x7FFFFF) | 0x3F800000u);
+}
+// 1/x to 12 bits: the estimate of the significand, scaled by the exponent, x's sign.
+double RecipSeed(double x) {
+    return std::copysign(double(Rcp(SignificandOf(x))) * Pow2(1023 - BiasedExponent(x)), x);
+}
+// 1/sqrt(x) to 12 bits: x = m * 2^(2q), m in [0.5, 2) by the exponent's parity.
+double RootSeed(double x) {
+    int E = BiasedExponent(x);
+    float m = SignificandOf(x) * ((E & 1) ? 1.0f : 0.5f);
+    return double(Rsqrt(m)) * Pow2(511 - (E >> 1));
+}
+
+const double c1 = 0.49999999999997785, c2 = 0.37500000000001366, c3 = 0.31250016501874495,
+             c4 = 0.27343754675366555;
+
+double DInv(double x, int slot) {
+    if (slot == 1) return 1.0 / x;
+    double r = RecipSeed(x);
+    double e = 1.0 - x * r;
+    double t = e * e;
+    double s = e + t;
+    if (slot == 0) s = s + s * t;
+    return r + r * s;
+}
+double DDiv(double a, double b, int slot) {
+    return slot == 1 ? a / b : a * DInv(b, slot);
+}
+
+double DSqrt(double x, int slot) {
+    if (slot == 2) {
+        double r = RootSeed(x);
+        double g = x * r;
+        double e = 1.0 - g * r;
+        return g + (g * e) * (c1 + e * c2);
+    }
+    double r = double(Rsqrt(float(x)));
+    double g = x * r;
+    double e = 1.0 - g * r;
+    double y = g + (g * e) * (c1 + e * (c2 + e * (c3 + e * c4)));
+    if (slot == 0) return y;
+    double hi = y * y, lo = std::fma(y, y, -hi);
+    double d = (x - hi) - lo;
+    return y + d * (r * (0.5 + 0.25 * e));
+}
+
+template <class T>
+T Goldschmidt(T x, T r, int steps) {
+    T g = x * r, h = T(0.5) * r;
+    T e = T(0.5) - g * h;
+    if (steps == 2) {
+        T g1 = g + g * e;
+        h = h + h * e;
+        g = g1;
+        e = T(0.5) - g * h;
+    }
+    return g + g * e;
+}
+float SSqrt(float x, int slot) {
+    float r = Rsqrt(x);
+    if (slot == 2) return x * r;
+    if (slot == 0) return Goldschmidt(x, r, 1);
+    return float(Goldschmidt(double(x), double(r), 2));
+}
+
+template <class T>
+T Newton(T x, T r) {
+    return (T(-0.5) * r) * (x * r * r - T(3));
+}
+float SInvSqrt(float x, int slot) {
+    float r = Rsqrt(x);
+    if (slot == 2) return r;
+    if (slot == 0) return Newton(x, r);
+    return float(Newton(double(x), Newton(double(x), double(r))));
+}
+
+float SDiv(float a, float b, int slot) {
+    if (slot == 1) return a / b;
+    float r = Rcp(b);
+    if (slot == 0) r = r * (2.0f - b * r);
+    return a * r;
+}
+
+// Uniform bit patterns of magnitude in [lo, hi), of either sign where asked.
+template <class T>
+std::vector<T> Window(int n, T lo, T hi, bool signs, uint32_t seed) {
+    std::mt19937_64 g(seed);
+    auto bl = Bits(lo), bh = Bits(hi);
+    std::vector<T> v(n);
+    for (T& x : v) {
+        auto b = decltype(bl)(bl + g() % (bh - bl));
+        x = __builtin_bit_cast(T, b);
+        if (signs && (g() & 1)) x = -x;
+    }
+    return v;
+}
+
+template <class T>
+void ExpectUnarySteps(const char* row, int slot, const std::vector<T>& in, T (*steps)(T, int),
+                      T (*exact)(T)) {
+    std::vector<T> y(in.size());
+    As<Unary<T>>(Slot(row, slot))(int(in.size()), in.data(), y.data());
+    int bad = 0;
+    for (size_t i = 0; i < in.size() && bad < 5; ++i) {
+        T want = exact ? exact(in[i]) : steps(in[i], slot);
+        if (!SameValue(y[i], want))
+            ++bad, ADD_FAILURE() << row << " slot " << slot << " of " << in[i] << " ("
+                                 << std::hexfloat << in[i] << ") gave " << y[i] << ", want " << want
+                                 << std::defaultfloat;
+    }
+}
+
+} // namespace steps
+
+TEST(ElementarySteps, DoubleReciprocalAndQuotientChains) {
+    brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_IGNORE);
+    // The seed's window: |x| from the least normal to below 2^1022.
+    std::vector<double> x = steps::Window<double>(300000, DBL_MIN, 0x1p1022, true, 21);
+    for (double v : {DBL_MIN, 1.0, 3.0, 0x1.fffffffffffffp+1021, 0x1.0000000000001p-1022})
+        x.push_back(v), x.push_back(-v);
+    for (int slot = 0; slot < 3; ++slot)
+        steps::ExpectUnarySteps<double>("dInv", slot, x, steps::DInv, nullptr);
+    // Outside it, the division.
+    std::vector<double> out = {0x1p1022, -0x1p1022, DBL_MAX, std::nextafter(DBL_MIN, 0.0), 5e-324};
+    for (int slot = 0; slot < 3; ++slot)
+        steps::ExpectUnarySteps<double>("dInv", slot, out, nullptr, [](double v) { return 1 / v; });
+    // Quotients: a and b both in the window, a times the reciprocal; either outside,
+    // the division (the quotient near overflow or underflow included).
+    const int n = 200000;
+    std::vector<double> a = steps::Window<double>(n, 0x1p-500, 0x1p500, true, 22);
+    std::vector<double> b = steps::Window<double>(n, 0x1p-500, 0x1p500, true, 23);
+    const double ea[] = {0x1.8p1022, 3.0, 0x1p-1030, 3.0, 0x1p1021, 0x1p-1021, DBL_MIN};
+    const double eb[] = {3.0, 0x1.8p1022, 3.0, 0x1p-1030, 0x1p-1, 0x1p1, 0x1.fffffffffffffp1021};
+    a.insert(a.end(), std::begin(ea), std::end(ea));
+    b.insert(b.end(), std::begin(eb), std::end(eb));
+    std::vector<double> y(a.size());
+    for (int slot = 0; slot < 3; ++slot) {
+        As<Binary<double>>(Slot("dDiv", slot))(int(a.size()), a.data(), b.data(), y.data());
+        for (size_t i = 0; i < a.size(); ++i) {
+            bool inside = std::fabs(a[i]) >= DBL_MIN && std::fabs(a[i]) < 0x1p1022 &&
+                          std::fabs(b[i]) >= DBL_MIN && std::fabs(b[i]) < 0x1p1022;
+            double want = inside ? steps::DDiv(a[i], b[i], slot) : a[i] / b[i];
+            ASSERT_TRUE(SameValue(y[i], want)) << "dDiv slot " << slot << " of " << a[i] << ", "
+                                               << b[i] << ": " << y[i] << ", want " << want;
+        }
+    }
+    brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);
+}
+
+TEST(ElementarySteps, SingleQuotientTestsBothOperands) {
+    brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_IGNORE);
+    const int n = 200000;
+    std::vector<float> a = steps::Window<float>(n, FLT_MIN, 0x1p126f, true, 24);
+    std::vector<float> b = steps::Window<float>(n, FLT_MIN, 0x1p126f, true, 25);
+    // a outside its window with b inside: the true quotient, also where a*rcp(b) would
+    // overflow or come out denormal; a inside with the quotient beyond the range: the
+    // product as it rounds.
+    const float ea[] = {0x1.8p126f, 0x1p-127f, 0.0f, -0.0f, 0x1.fffffep125f, 0x1p-125f, 3.0f};
+    const float eb[] = {0x1p1f, 0x1p-1f, 3.0f, 3.0f, 0x1p-2f, 0x1p2f, 3.0f};
+    a.insert(a.end(), std::begin(ea), std::end(ea));
+    b.insert(b.end(), std::begin(eb), std::end(eb));
+    std::vector<float> y(a.size());
+    for (int slot = 0; slot < 3; ++slot) {
+        As<Binary<float>>(Slot("sDiv", slot))(int(a.size()), a.data(), b.data(), y.data());
+        for (size_t i = 0; i < a.size(); ++i) {
+            bool inside = std::fabs(a[i]) >= FLT_MIN && std::fabs(a[i]) < 0x1p126f;
+            float want = inside ? steps::SDiv(a[i], b[i], slot) : a[i] / b[i];
+            ASSERT_TRUE(SameValue(y[i], want)) << "sDiv slot " << slot << " of " << a[i] << ", "
+                                               << b[i] << ": " << y[i] << ", want " << want;
+        }
+    }
+    // EP of 1 by 3: the estimate's product, not the nearest single to 1/3.
+    float one = 1, three = 3, q;
+    As<Binary<float>>(Slot("sDiv", 2))(1, &one, &three, &q);
+    EXPECT_NE(q, 1.0f / 3.0f);
+    brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);
+}
+
+TEST(ElementarySteps, RootChains) {
+    brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_IGNORE);
+    auto sqrtd = [](double v) { return std::sqrt(v); };
+    // dSqrt LA and HA: x narrowed to single, so from 2^-126 to below 2^127.
+    std::vector<double> narrow = steps::Window<double>(300000, 0x1p-126, 0x1p127, false, 26);
+    for (double v : {0x1p-126, 0x1.fffffffffffffp126, 1.0, 2.0, 0x1.fffffffp-1})
+        narrow.push_back(v);
+    // EP: every positive normal.
+    std::vector<double> all = steps::Window<double>(300000, DBL_MIN, DBL_MAX, false, 27);
+    for (double v : {DBL_MIN, DBL_MAX, 0x1p-1021, 0x1p1023, 1.0})
+        all.push_back(v);
+    for (int slot : {0, 1})
+        steps::ExpectUnarySteps<double>("dSqrt", slot, narrow, steps::DSqrt, nullptr);
+    steps::ExpectUnarySteps<double>("dSqrt", 2, all, steps::DSqrt, nullptr);
+    const std::vector<double> beyond = {std::nextafter(0x1p-126, 0.0), 0x1p127, 0x1p200, 1e-300};
+    for (int slot : {0, 1})
+        steps::ExpectUnarySteps<double>("dSqrt", slot, beyond, nullptr, +sqrtd);
+    // The single bodies on every positive normal below the last few.
+    std::vector<float> xs = steps::Window<float>(300000, FLT_MIN, 0x1.ffe000p127f, false, 28);
+    for (float v : {FLT_MIN, 1.0f, 2.0f, 4.0f, 0x1.ffdffep127f})
+        xs.push_back(v);
+    for (int slot = 0; slot < 3; ++slot) {
+        steps::ExpectUnarySteps<float>("sSqrt", slot, xs, steps::SSqrt, nullptr);
+        steps::ExpectUnarySteps<float>("sInvSqrt", slot, xs, steps::SInvSqrt, nullptr);
+    }
+    // EP of 4 is the estimate's product, in a call of one element too.
+    EXPECT_EQ(CallUnary(As<Unary<float>>(Slot("sSqrt", 2)), 4.0f), steps::SSqrt(4.0f, 2));
     brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);
 }
 

@@ -4,19 +4,21 @@
  * step e = 2 - x*r, y = r*e (within 4 ulp); both in the hand-tuned layout, whose scalar
  * routine covers every input. HA the correctly rounded division, special only for 0.
  * sDiv: the level's reciprocal of b times a; HA the correctly rounded division. At EP and
- * LA, a lane whose quotient reaches 2^(emax-1) (or is not finite) goes to the scalar
- * routine, so that a result near overflow is the true quotient.
- * dInv and dDiv: the correctly rounded division at every level, each level a kernel of
- * its own. A double reciprocal chain (a seed on the significand with the exponent
- * apart, then the series in the residual) takes about twice the division
- * instruction's time or more: dDiv 4.8 ticks an element at LA and 3.8 at EP, dInv 3.0
- * and 2.5, against 1.5 and 1.3 for the instruction.
+ * LA, b and a are both tested with sInv's window: either zero, denormal, at or above
+ * 2^126, infinite or NaN sends the lane to the scalar routine.
+ * dInv: at EP and LA the seed of the approximate reciprocal on the significand, the
+ * exponent apart (seed.h), the residual e = 1 - x*r in double and the refinement
+ * r + r*s with s the series e + e^2 (EP, within 2^-33) or e + e^2 + e^3 + e^4 (LA,
+ * within about 1.5 ulp); the lanes outside the seed's window divide. HA the correctly
+ * rounded division. dDiv: a times dInv's reciprocal of b at EP and LA, with the same
+ * tests on b and on a as sDiv; HA the division.
  *
  * Scalar routines: a division; Inv of +-0 and Div by 0 give the signed infinity with
  * status 2, 0/0 gives NaN with status 1; overflow and underflow of a reciprocal are
  * not reported. */
 #include "frame/kernels.h"
 #include "vecmath/arith/ranges.h"
+#include "vecmath/arith/seed.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 
@@ -66,11 +68,30 @@ int InvScalarS(const float* a, float* y) {
     return x == 0 ? status::kSingularity : status::kNone;
 }
 
-// Single: the divisor's special lanes made NaN, then its estimate (and step).
+// Double, from the seed r (seed.h): e = 1 - x*r, t = e*e, s = e + t, at LA s = s + s*t
+// (e + e^2 + e^3 + e^4, two roundings fewer than by Horner's rule), then r + r*s. The
+// seed's relative error is below 1.5*2^-12, so the series left out is below 2^-33 at
+// EP and 2^-55 at LA.
+template <Level L>
+inline __m128d Refine(__m128d x, __m128d r) {
+    __m128d e = Sub(Set<double>(1.0), Mul(x, r));
+    __m128d t = Mul(e, e);
+    __m128d s = Add(e, t);
+    if constexpr (L == Level::LA) s = Add(s, Mul(s, t));
+    return Add(r, Mul(r, s));
+}
+
+// The divisor's special lanes made NaN (x and its seed NaN: the chain raises nothing on
+// them), then its estimate and the level's steps.
 template <Level L>
 inline __m128 Reciprocal(__m128 b, __m128 special) {
     __m128 bb = NaNWhere(special, b);
     return Refine<L>(bb, ApproxRecip(bb));
+}
+template <Level L>
+inline __m128d Reciprocal(__m128d b, __m128d special) {
+    __m128d bb = NaNWhere(special, b);
+    return Refine<L>(bb, ReciprocalSeed(bb));
 }
 
 // The single reciprocal at EP and LA: the estimate (and step) of x as it is; sInv runs
@@ -101,8 +122,8 @@ int InvLane(const double* a, double* y) {
     return InvScalar(a, y);
 }
 
-// HA, and every level in double, is the correctly rounded division, special only for a
-// zero divisor.
+// HA is the correctly rounded division, special only for a zero divisor; the double EP
+// and LA chains have the seed's window.
 template <class Tp, Level L>
 struct InvBody {
     using T = Tp;
@@ -110,9 +131,12 @@ struct InvBody {
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Inv);
     static constexpr Layout kLayout = L == Level::HA ? Layout::Split : InvLayout<T>::kApprox;
     static V Eval(V x, V& special) {
-        if constexpr (L == Level::HA || sizeof(T) == 8) {
+        if constexpr (L == Level::HA) {
             special = ZeroLanes(x);
             return Div(Set<T>(1), NaNWhere(special, x));
+        } else if constexpr (sizeof(T) == 8) {
+            special = RangeTest(x, ArithRanges<T>::kRecip);
+            return Reciprocal<L>(x, special);
         } else {
             special = RangeTest(x, ArithRanges<T>::kRecip);
             return InvOf<L>(x);
@@ -121,23 +145,21 @@ struct InvBody {
     static int Scalar(const T* a, T* y) { return InvLane<L>(a, y); }
 };
 
-// Div: in single at EP and LA the level's reciprocal of b times a, and a quotient near
-// overflow (or not finite) goes to the scalar routine as well, so that it is the true
-// quotient; HA, and every level in double, the correctly rounded division.
+// Div: at EP and LA the level's reciprocal of b times a, special where b or a is outside
+// the reciprocal's window (both made NaN there); HA the correctly rounded division.
 template <class Tp, Level L>
 struct DivBody {
     using T = Tp;
     using V = Vec<T>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Div);
     static V Eval(V a, V b, V& special) {
-        if constexpr (L == Level::HA || sizeof(T) == 8) {
+        if constexpr (L == Level::HA) {
             special = ZeroLanes(b);
             return Div(a, NaNWhere(special, b));
         } else {
-            special = RangeTest(b, ArithRanges<T>::kRecip);
-            V q = Mul(a, Reciprocal<L>(b, special));
-            special = Or(special, RangeTest(q, ArithRanges<T>::kBigQuotient));
-            return q;
+            special =
+                Or(RangeTest(b, ArithRanges<T>::kRecip), RangeTest(a, ArithRanges<T>::kRecip));
+            return Mul(NaNWhere(special, a), Reciprocal<L>(b, special));
         }
     }
     static int Scalar(const T* a, const T* b, T* y) { return DivScalar(a, b, y); }

@@ -1,8 +1,8 @@
 /* InvSqrt, single and double.
  *
  * sInvSqrt: EP the approximate root reciprocal as it stands (about 11.4 bits); LA one
- * Newton step y = (-0.5*r)*(x*r*r - 3) (within 4 ulp); HA a step of second order in
- * double from the same seed, rounded once to single (within 0.5 ulp and a little).
+ * Newton step y = (-0.5*r)*(x*r*r - 3) (within 4 ulp); HA that step twice, in double
+ * on the widened x and r, rounded once to single.
  * dInvSqrt: LA and EP share one kernel, the seed on the significand with the exponent
  * apart and the series of (1 - e)^(-1/2) to fourth order (within 2 ulp); HA the seed
  * cut short so that the residual is exact, and the series to fifth order (within 0.5
@@ -40,31 +40,26 @@ int InvSqrtScalar(const T* a, T* y) {
         [](T x) { return T(InvSqrtAccurate(double(x))); });
 }
 
-// HA single in double: the rsqrtps seed r of x itself (x is a single in range, so no
-// narrowing), widened, and one correction of second order in e = 1 - x*r^2, written in
-// p = x*r^2 as (1 - e)^(-1/2) ~ 1 + e/2 + 3e^2/8 = 1.875 - p*(1.25 - 0.375*p). With
-// |e| below 2^-10.4 the cut leaves about 2^-32, so the one rounding to single is within
-// 0.5 + 2^-8 ulp.
-inline __m128d InvSqrtStepD(__m128d x, __m128d r) {
-    __m128d p = Mul(Mul(x, r), r);
-    __m128d q = Sub(Set<double>(1.25), Mul(Set<double>(0.375), p));
-    return Mul(r, Sub(Set<double>(1.875), Mul(p, q)));
+// One Newton step for 1/sqrt(x) from r: (-0.5*r)*(x*r*r - 3).
+template <class V>
+inline V NewtonStep(V x, V r) {
+    using T = ElemOf<V>;
+    V t = Sub(Mul(Mul(x, r), r), Set<T>(3.0));
+    return Mul(Mul(Set<T>(-0.5), r), t);
 }
 
-// Single, from the estimate r: EP r as it stands; LA one Newton step
-// (-0.5*r)*(x*r*r - 3); HA the step above in double.
+// Single, from the estimate r: EP r as it stands; LA one Newton step; HA two. The two
+// steps in single leave up to 1.57 ulp (each step's roundings, a few of them near an
+// ulp of the result, add up), so HA runs them in double on the widened x and r and
+// rounds once to single: within 0.5 ulp and about 2^-18.
 template <Level L>
 inline __m128 InvRootOf(__m128 x, __m128 special) {
-    if constexpr (L == Level::HA) {
-        __m128 xx = NaNWhere(special, x);
-        __m128 r = ApproxRecipSqrt(xx);
-        return Narrow(InvSqrtStepD(WidenLower(xx), WidenLower(r)),
-                      InvSqrtStepD(WidenUpper(xx), WidenUpper(r)));
-    }
     __m128 r = NaNWhere(special, ApproxRecipSqrt(x));
     if constexpr (L == Level::EP) return r;
-    __m128 t = Sub(Mul(Mul(x, r), r), Set<float>(3.0f));
-    return Mul(Mul(Set<float>(-0.5f), r), t);
+    if constexpr (L == Level::LA) return NewtonStep(x, r);
+    __m128d xl = WidenLower(x), xh = WidenUpper(x);
+    return Narrow(NewtonStep(xl, NewtonStep(xl, WidenLower(r))),
+                  NewtonStep(xh, NewtonStep(xh, WidenUpper(r))));
 }
 
 // The exact series of (1 - e)^(-1/2) beyond 1, to e^5, for the double HA chain.

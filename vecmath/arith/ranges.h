@@ -20,19 +20,18 @@ struct ArithRanges<float> {
     static constexpr Range32 kInvRoot{0xFFFFFFFFu, 0x7F800000u, 0xFEFFF001u};
     // |x| zero, denormal, at least 2^126, infinite or NaN: 1/x stays normal otherwise.
     static constexpr Range32 kRecip{0x7FFFFFFFu, 0x7F800000u, 0xFDFFFFFFu};
-    // Quotients at or above 2^125, infinite or NaN.
-    static constexpr Range32 kBigQuotient{0x7FFFFFFFu, 0u, 0x7DFFFFFFu};
 };
 
 template <>
 struct ArithRanges<double> {
     static constexpr Range32 kRoot{0xFFFFFFFFu, 0x7FF00000u, 0xFFDFFFFFu};
+    // Positive x from 2^-126 to below 2^127, which narrow to positive normal singles:
+    // the window of the chains seeded on x narrowed to single.
+    static constexpr Range32 kNarrowRoot{0xFFFFFFFFu, 0x47F00000u, 0x8FCFFFFFu};
     // Positive normals below 2^995, where the exact products of the HA chain have room.
     static constexpr Range32 kInvRoot{0xFFFFFFFFu, 0x7FF00000u, 0xFE0FFFFFu};
     // |x| zero, denormal, at least 2^1022, infinite or NaN.
     static constexpr Range32 kRecip{0x7FFFFFFFu, 0x7FF00000u, 0xFFBFFFFFu};
-    // Quotients at or above 2^1021, infinite or NaN.
-    static constexpr Range32 kBigQuotient{0x7FFFFFFFu, 0u, 0x7FBFFFFFu};
 };
 
 } // namespace brenn::vm

@@ -1,16 +1,21 @@
 /* Sqrt, single and double, three levels.
  *
- * sSqrt: EP x*rsqrt(x) (about 11.4 bits); LA one Goldschmidt step on that seed (within
- * 4 ulp); HA the correctly rounded root instruction. dSqrt: the correctly rounded root
- * instruction at every level, each level a kernel of its own: a seed on the significand
- * and the series of (1 - e)^(-1/2) took 6.4 ticks an element at LA and 5.0 at EP,
- * against 2.2 for the instruction. Lanes that are not positive normals go to the scalar routine;
- * their body result is made a quiet NaN first so that they raise no flag of their own.
+ * sSqrt, from r = rsqrt(x) (special lanes NaN): EP g = x*r (about 11.4 bits); LA one
+ * Goldschmidt step on g and h = r/2; HA that step twice, h corrected in between, in
+ * double on the widened x and r, rounded once to single.
+ * dSqrt: LA the estimate of x narrowed to single, widened, g = x*r, e = 1 - g*r and
+ * y = g + g*e*P(e), P the series of (1 - e)^(-1/2) after its 1 to fourth order; HA that
+ * chain and one correction by the exact residual x - y*y; both for x from 2^-126 to
+ * below 2^127, where the narrowing keeps x a normal single. EP the seed on the
+ * significand with the exponent apart (seed.h), then the series to second order, for
+ * every positive normal x. Lanes outside the windows go to the scalar routine; their
+ * body result is made a quiet NaN first so that they raise no flag of their own.
  *
  * Scalar routine: -inf and negatives give NaN with status 1; -0 gives -0, +inf and NaN
  * themselves (NaN quieted), denormals their correctly rounded root, all with status 0. */
 #include "frame/kernels.h"
 #include "vecmath/arith/ranges.h"
+#include "vecmath/arith/seed.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 
@@ -42,30 +47,81 @@ int SqrtScalar(const T* a, T* y) {
     return status::kNone;
 }
 
-// Single EP and LA from the root reciprocal estimate r (special lanes NaN): x*r, and at
-// LA one Goldschmidt step with h = r/2.
-template <Level L>
-inline __m128 RootOf(__m128 x, __m128 special) {
-    __m128 r = NaNWhere(special, ApproxRecipSqrt(x));
-    __m128 g = Mul(x, r);
-    if constexpr (L == Level::EP) return g;
-    __m128 h = Mul(Set<float>(0.5f), r);
-    __m128 e = Sub(Set<float>(0.5f), Mul(g, h));
+// Goldschmidt from x and r ~ 1/sqrt(x): g = x*r, h = r/2, e = 0.5 - g*h, then g + g*e;
+// with two steps, h + h*e is taken between them and e formed again.
+template <int Steps, class V>
+inline V Goldschmidt(V x, V r) {
+    using T = ElemOf<V>;
+    const V half = Set<T>(0.5);
+    V g = Mul(x, r);
+    V h = Mul(half, r);
+    V e = Sub(half, Mul(g, h));
+    if constexpr (Steps == 2) {
+        V g1 = Add(g, Mul(g, e));
+        h = Add(h, Mul(h, e));
+        g = g1;
+        e = Sub(half, Mul(g, h));
+    }
     return Add(g, Mul(g, e));
 }
 
-// HA, and every level in double, is the correctly rounded root instruction.
+// Single from the root reciprocal estimate r (special lanes NaN): EP g = x*r; LA one
+// Goldschmidt step; HA two. The two steps in single leave up to 1.47 ulp (the rounding
+// of g*h near 0.5 alone is a quarter of an ulp of the root, and the first step's
+// errors go through the second unmended), so HA runs them in double on the widened x
+// and r and rounds once to single: within 0.5 ulp and about 2^-19.
+template <Level L>
+inline __m128 RootOf(__m128 x, __m128 special) {
+    __m128 r = NaNWhere(special, ApproxRecipSqrt(x));
+    if constexpr (L == Level::EP) return Mul(x, r);
+    if constexpr (L == Level::LA) return Goldschmidt<1>(x, r);
+    return Narrow(Goldschmidt<2>(WidenLower(x), WidenLower(r)),
+                  Goldschmidt<2>(WidenUpper(x), WidenUpper(r)));
+}
+
+// Double. LA and HA: r the estimate of x narrowed to single, widened; g = x*r, e =
+// 1 - g*r, y = g + g*e*(c1 + e*(c2 + e*(c3 + e*c4))). HA then y + d*h with h = r*(0.5 +
+// 0.25*e), 1/(2 sqrt(x)) to about 2^-21, and d = x - y*y from y's top 26 bits yh and
+// the rest yl: (x - yh*yh) - 2*yh*yl is exact (the products have at most 53 bits, the
+// first difference cancels), and yl*yl rounds below 2^-100 of x. The correction, an
+// ulp or two, is then good to 2^-20 ulp before the one rounding. EP: r the seed on the
+// significand, the same g and e, y = g + g*e*(c1 + e*c2), within 2^-32.
+template <Level L>
+inline __m128d RootOf(__m128d x, __m128d special) {
+    const __m128d one = Set<double>(1.0);
+    __m128d xx = NaNWhere(special, x);
+    if constexpr (L == Level::EP) {
+        __m128d r = RootSeed(xx);
+        __m128d g = Mul(xx, r);
+        __m128d e = Sub(one, Mul(g, r));
+        __m128d p = Add(Set<double>(kRootSeries[0]), Mul(e, Set<double>(kRootSeries[1])));
+        return Add(g, Mul(Mul(g, e), p));
+    } else {
+        __m128d r = WidenLower(ApproxRecipSqrt(Narrow(xx, xx)));
+        __m128d g = Mul(xx, r);
+        __m128d e = Sub(one, Mul(g, r));
+        __m128d y = Add(g, Mul(Mul(g, e), Horner(e, kRootSeries)));
+        if constexpr (L == Level::LA) return y;
+        __m128d yh = And(y, SplatBits<double>(0xFFFFFFFFF8000000ull));
+        __m128d yl = Sub(y, yh);
+        __m128d d = Sub(Sub(Sub(xx, Mul(yh, yh)), Mul(Add(yh, yh), yl)), Mul(yl, yl));
+        __m128d h = Mul(r, Add(Set<double>(0.5), Mul(Set<double>(0.25), e)));
+        return Add(y, Mul(d, h));
+    }
+}
+
+template <class T, Level L>
+constexpr Range32 kSqrtWindow = sizeof(T) == 8 && L != Level::EP ? ArithRanges<double>::kNarrowRoot
+                                                                 : ArithRanges<T>::kRoot;
+
 template <class Tp, Level L>
 struct SqrtBody {
     using T = Tp;
     using V = Vec<T>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Sqrt);
     static V Eval(V x, V& special) {
-        special = RangeTest(x, ArithRanges<T>::kRoot);
-        if constexpr (L == Level::HA || sizeof(T) == 8)
-            return Sqrt(NaNWhere(special, x));
-        else
-            return RootOf<L>(x, special);
+        special = RangeTest(x, kSqrtWindow<T, L>);
+        return RootOf<L>(x, special);
     }
     static int Scalar(const T* a, T* y) { return SqrtScalar(a, y); }
 };
