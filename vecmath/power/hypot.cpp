@@ -1,12 +1,9 @@
 /* Hypot, single and double: sqrt(a^2 + b^2) without overflow or underflow on the way.
  *
- * Single HA: the single root of the single sum of squares, corrected once by the
- * residual taken in double (below); registers where that sum overflows, underflows or
- * is zero in some lane run in double on widened lanes, where the squares are exact and
- * cannot overflow: one rounded sum and the root, rounded once more to single. Within
- * about 0.5 ulp. Single LA and EP: the sum of squares in single and the root from the
- * reciprocal root estimate, refined once at LA, as Sqrt does at those levels; lanes
- * whose sum overflows, underflows or is zero go to the scalar routine.
+ * Single: the sum of squares in single and the root from the reciprocal root estimate,
+ * refined as Sqrt does at the level (EP none, LA one Goldschmidt step, HA two, HA's in
+ * double on the widened operands, within about 0.5 ulp); lanes whose single sum
+ * overflows, underflows or is zero go to the scalar routine.
  * Double: where the larger of a register's operands all lie in [2^-400, 2^400), the
  * squares and their tails need no scaling and are taken as they stand; a register with
  * a lane outside (or an infinity or NaN) scales both by 2^-e for the exponent e of the
@@ -36,15 +33,6 @@ namespace {
 
 template <class T>
 struct HypotRanges;
-template <>
-struct HypotRanges<float> {
-    // |x| infinite or NaN.
-    static constexpr Range32 kNotFinite{0x7FFFFFFFu, 0u, 0x7F7FFFFFu};
-    // HA's single sum s below 2^-100 (zero included), within 2^-12 of the overflow or
-    // beyond (as the root's window), or NaN: below 2^-100 the residual a^2 + b^2 - r^2,
-    // rounded to single, would lose bits to the denormal range.
-    static constexpr Range32 kSingleSum{0xFFFFFFFFu, 0x72800000u, 0xF1FFF000u};
-};
 template <>
 struct HypotRanges<double> {
     // |x| outside [2^-400, 2^400), infinite or NaN (the high word of |x|).
@@ -90,45 +78,88 @@ inline __m128d SquareTail(__m128d x, __m128d xx) {
     return Add(Add(Sub(Mul(s.hi, s.hi), xx), Mul(Add(s.hi, s.hi), s.lo)), Mul(s.lo, s.lo));
 }
 
+// Two Goldschmidt steps from s and r ~ 1/sqrt(s), h = r/2 corrected between them.
+template <class V>
+BRENN_VEC V GoldschmidtTwice(V s, V r) {
+    using T = ElemOf<V>;
+    const V half = Set<T>(T(0.5));
+    V g = Mul(s, r);
+    V h = Mul(half, r);
+    V e = Sub(half, Mul(g, h));
+    V g1 = Add(g, Mul(g, e));
+    h = Add(h, Mul(h, e));
+    g = g1;
+    e = Sub(half, Mul(g, h));
+    return Add(g, Mul(g, e));
+}
+
+// s = a^2 + b^2 in single (lanes where it is not a positive normal, overflow and underflow
+// among them, are special), r = rsqrt(s), then Sqrt's refinement at the level: EP g = s*r;
+// LA one Goldschmidt step with h = r/2; HA two, h corrected in between. HA runs its two
+// steps in double, on s taken again from the widened operands (exact squares, one
+// rounding), and rounds once to single: the two steps in single leave up to 1.71 ulp,
+// and in double from the single s still 1.10 (s's own rounding is a quarter ulp of the
+// root); so they are within 0.5 ulp.
+// M registers of single HA at once, each step over all of them before the next: the
+// special-lane masks, then the roots.
+template <int M>
+BRENN_VEC void HypotHASteps(const __m128* a, const __m128* b, __m128* y, __m128* special) {
+    __m128 r[M], av[M], bv[M];
+#pragma GCC unroll 4
+    for (int k = 0; k < M; ++k) {
+        __m128 s = Add(Mul(a[k], a[k]), Mul(b[k], b[k]));
+        special[k] = RangeTest(s, ArithRanges<float>::kRoot);
+        r[k] = ApproxRecipSqrt(IfThenElse(special[k], Set<float>(1.0f), s));
+        av[k] = IfThenZeroElse(special[k], a[k]);
+        bv[k] = IfThenElse(special[k], Set<float>(1.0f), b[k]);
+    }
+    __m128d lo[M], hi[M];
+#pragma GCC unroll 4
+    for (int k = 0; k < M; ++k) {
+        const __m128d al = WidenLower(av[k]), bl = WidenLower(bv[k]);
+        const __m128d ah = WidenUpper(av[k]), bh = WidenUpper(bv[k]);
+        lo[k] = GoldschmidtTwice(Add(Mul(al, al), Mul(bl, bl)), WidenLower(r[k]));
+        hi[k] = GoldschmidtTwice(Add(Mul(ah, ah), Mul(bh, bh)), WidenUpper(r[k]));
+    }
+#pragma GCC unroll 4
+    for (int k = 0; k < M; ++k)
+        y[k] = Narrow(lo[k], hi[k]);
+}
+
+// s = a^2 + b^2 in single (lanes where it is not a positive normal, overflow and underflow
+// among them, are special), r = rsqrt(s), then Sqrt's refinement at the level: EP g = s*r;
+// LA one Goldschmidt step with h = r/2; HA two, h corrected in between. HA runs its two
+// steps in double, on s taken again from the widened operands (exact squares, one
+// rounding), and rounds once to single: the two steps in single leave up to 1.71 ulp,
+// and in double from the single s still 1.10 (s's own rounding is a quarter ulp of the
+// root); so they are within 0.5 ulp.
 template <Level L>
 inline __m128 HypotOf(__m128 a, __m128 b, __m128& special) {
-    if constexpr (L != Level::HA) {
-        // LA and EP in single: s = a^2 + b^2 (lanes where it is not a positive normal,
-        // overflow and underflow among them, are special), then s*rsqrt(s), and at LA
-        // one Goldschmidt step with h = rsqrt(s)/2.
-        __m128 s = Add(Mul(a, a), Mul(b, b));
-        special = RangeTest(s, ArithRanges<float>::kRoot);
-        s = IfThenElse(special, Set<float>(1.0f), s);
-        __m128 r = ApproxRecipSqrt(s);
-        __m128 g = Mul(s, r);
-        if constexpr (L == Level::EP) return g;
-        __m128 e = Sub(Set<float>(0.5f), Mul(g, Mul(Set<float>(0.5f), r)));
-        return Add(g, Mul(g, e));
+    if constexpr (L == Level::HA) {
+        __m128 y;
+        HypotHASteps<1>(&a, &b, &y, &special);
+        return y;
     }
-    // HA: where every lane's single s = a^2 + b^2 is at least 2^-100 and finite, its single
-    // root r (one sqrtps where a double root takes two sqrtpd for four lanes) and the
-    // correction d/(2r) with d = a^2 + b^2 - r^2 in double: the three squares are exact
-    // there, their sum rounded by 2^-53 and the difference exact. d rounded to single
-    // and 1/(2r) to 2^-11 are ample for a correction of an ulp or two, so r + d/(2r)
-    // rounded once in single is within 0.5 ulp and 2^-10 of one.
-    const __m128 s = Add(Mul(a, a), Mul(b, b));
-    if (__builtin_expect(MaskBits(RangeTest(s, HypotRanges<float>::kSingleSum)) == 0, 1)) {
-        special = Zero<float>();
-        const __m128 r = Sqrt(s);
-        auto residual = [](__m128d x, __m128d z, __m128d q) {
-            return Sub(Add(Mul(x, x), Mul(z, z)), Mul(q, q));
-        };
-        const __m128 d = Narrow(residual(WidenLower(a), WidenLower(b), WidenLower(r)),
-                                residual(WidenUpper(a), WidenUpper(b), WidenUpper(r)));
-        return Add(r, Mul(d, ApproxRecip(Add(r, r))));
-    }
-    // Otherwise all in double on widened lanes, where the squares are exact and cannot
-    // overflow: one rounded sum and the root, rounded once more to single.
-    using R = HypotRanges<float>;
-    special = Or(RangeTest(a, R::kNotFinite), RangeTest(b, R::kNotFinite));
-    a = IfThenZeroElse(special, a);
-    b = IfThenZeroElse(special, b);
-    return Narrow(HypotWide(WidenLower(a), WidenLower(b)), HypotWide(WidenUpper(a), WidenUpper(b)));
+    __m128 s = Add(Mul(a, a), Mul(b, b));
+    special = RangeTest(s, ArithRanges<float>::kRoot);
+    s = IfThenElse(special, Set<float>(1.0f), s);
+    const __m128 r = ApproxRecipSqrt(s);
+    const __m128 half = Set<float>(0.5f);
+    const __m128 g = Mul(s, r);
+    if constexpr (L == Level::EP) return g;
+    const __m128 e = Sub(half, Mul(g, Mul(half, r)));
+    return Add(g, Mul(g, e));
+}
+
+// A round of sixteen single elements at HA: the special-lane bits, bit j for element j.
+BRENN_VEC int HypotHARound(const __m128* a, const __m128* b, __m128* y) {
+    __m128 special[4];
+    HypotHASteps<4>(a, b, y, special);
+    int bits = 0;
+#pragma GCC unroll 4
+    for (int k = 0; k < 4; ++k)
+        bits |= MaskBits(special[k]) << (4 * k);
+    return bits;
 }
 
 // The root of x^2 + z^2 for x >= z >= 0 with x in [2^-400, 2^400) (or scaled into
@@ -245,10 +276,14 @@ struct HypotBody {
     // in the plain range, HypotScaled over all of them; otherwise register by
     // register. EP too, its roots four lanes at a time from single. (LA, a sum and a root
     // a register, is faster in rounds of eight.)
-    static constexpr int kRound = sizeof(T) == 8 && L != Level::LA ? 16 : 8;
+    // Single HA in rounds of sixteen too: the four registers' eight double chains of
+    // the two steps side by side.
+    static constexpr int kRound = L == Level::HA || (sizeof(T) == 8 && L != Level::LA) ? 16 : 8;
     static BRENN_VEC int EvalWide(const V* a, const V* b, V* y) {
         using R = HypotRanges<double>;
-        if constexpr (L == Level::EP) {
+        if constexpr (sizeof(T) == 4) {
+            return HypotHARound(a, b, y);
+        } else if constexpr (L == Level::EP) {
             // The round's eight registers of sums from single roots where every lane's sum
             // lies in single's range; otherwise register by register. The range by the
             // least and the largest high word of the round (a NaN with its sign bit set is
