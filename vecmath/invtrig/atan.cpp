@@ -5,9 +5,9 @@
  * t in [0, 1]; where |a| is the larger (the swapped lanes) the angle is pi/2 - atan(t),
  * where b is negative it is pi less that, and the sign of a goes on at the end.
  *
- * Single EP and LA run in single: t by the reciprocal estimate (EP: of b alone for Atan,
- * -1/|x|, and one Newton step for Atan2) or a division (LA)
- * and one polynomial on [0, 1] (EP five terms in two halves, LA eight in two chains).
+ * Single EP and LA run in single: t by the reciprocal estimate (Atan EP: -1/|x| as it
+ * stands; Atan LA and Atan2 EP: with one Newton step) or a division (Atan2 LA), and one
+ * polynomial on [0, 1] (EP five terms in two halves, LA eight in two chains).
  * Single Atan and Atan2 HA run the fold of the double steps below in single, n - d and
  * n + d as exact pairs, the quotient's error from its exact residual and the base joined
  * by an exact sum (atan_body.h); Atan2 HA keeps its lanes to magnitudes in [2^-50, 2^50)

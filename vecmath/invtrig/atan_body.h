@@ -117,16 +117,22 @@ template <Unit U, Level L>
 BRENN_VEC __m128 AtanSingle(__m128 x) {
     __m128 a = Abs(x);
     __m128 big = AsFloat(Gt(AsInt(a), Set<uint32_t>(Format<float>::kOne)));
-    __m128 r;
+    __m128 t;
     if constexpr (L == Level::EP) {
-        r = Or(ApproxRecip(a), SignMask<float>());
+        t = IfThenElse(big, Or(ApproxRecip(a), SignMask<float>()), a);
     } else {
-        // -1/a by a division, fewer instructions than an estimate and its Newton step;
-        // the other lanes divide by 1 (a zero must not raise divide-by-zero). Infinity
-        // gives t = -0, so pi/2.
-        r = Div(Set<float>(-1.0f), IfThenElse(big, a, Set<float>(1.0f)));
+        // -1/a from the estimate r0 and one Newton step, r0*(r0*a - 2). The step runs on
+        // the larger of a and 1 by the bits (a zero would meet the estimate's infinity;
+        // a NaN stays one), and an infinity, set apart by its bits, on the largest float
+        // (its bits less one): the estimate is 0 there, t = -0 and the angle pi/2.
+        const I32x4 one = Set<uint32_t>(Format<float>::kOne);
+        I32x4 ai = AsInt(a);
+        I32x4 inf = Eq(ai, Set<uint32_t>(Format<float>::kExpField));
+        __m128 d = AsFloat(Add(Max(ai, one), inf));
+        __m128 r0 = ApproxRecip(d);
+        __m128 r = Mul(r0, Sub(Mul(r0, d), Set<float>(2.0f)));
+        t = IfThenElse(big, r, a);
     }
-    __m128 t = IfThenElse(big, r, a);
     __m128 z = Mul(t, t);
     __m128 p = Mul(t, L == Level::EP ? AtanSingleEP(z) : AtanSingleLA(z));
     if constexpr (U == Unit::Pi) p = Mul(p, Set<float>(InvPi<float>::kHi));
