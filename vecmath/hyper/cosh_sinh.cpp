@@ -4,15 +4,16 @@
  * the shifter, r = a - n*ln2 (two parts); the scales e1 = 2^(n-1) and e2 = 2^(-n-1) made
  * by integer addition on the exponent field of 0.5; S(r) ~ sinh r and C(r) ~ cosh r - 1;
  * with P = e1 + e2 and M = e1 - e2, cosh = P + (C*P + M*S) and sinh = M + (C*M + P*S),
- * x's sign OR-ed back. LA has the longer pair, EP the shorter one. Both run up to 89.41,
- * the scales a half smaller and the result doubled, so that no lane below that point
- * leaves the vector path.
+ * x's sign OR-ed back. LA has the longer pair and runs up to 87.3365326, where n reaches
+ * 126 (the lanes from there on go to the scalar routine). EP has the shorter pair and
+ * runs up to 89.41, its scales a half smaller and the result doubled, so that no lane
+ * below that point leaves its vector path.
  * Single HA: one reduction by ln2/64 and a table row of 2^(j/64) and 2^(-j/64) a lane, in
  * single arithmetic with the leading sum split exactly (HyperSingleHA below).
  * Double: the halves of e^a from the exponential's table of 64 (hyper_core.h); HA sums the
  * heads exactly; Cosh LA and EP take e^-a/2 as 1/(4A) from A = e^a/2 alone.
- * Range test on |x|: from 89.41 (single LA and EP), 89.4160 (single HA: the overflow
- * point) or 710.4702 (double) up, and infinities and NaN, to the scalar routine
+ * Range test on |x|: from 87.3365326 (single LA), 89.41 (single EP), 89.4160 (single HA:
+ * the overflow point) or 710.4702 (double) up, and infinities and NaN, to the scalar routine
  * (hyper_scalar.h), which settles overflow with status 3.
  *
  * Measured (brenn_accuracy): see the rows' lines in docs/accuracy.md. */
@@ -31,10 +32,12 @@ template <class T>
 struct CoshWindow;
 template <>
 struct CoshWindow<float> {
-    // HA: |x| >= 89.4159927, where single Cosh and Sinh overflow; LA and EP: |x| >= 89.41,
-    // where their error stays clear of that point. Sinh's windows also take |x| below 2^-125:
-    // denormals for their underflow flag, and the least normals, whose halves in the
-    // bodies below would be denormal (the scalar routine returns x).
+    // HA: |x| >= 89.4159927, where single Cosh and Sinh overflow; EP: |x| >= 89.41,
+    // where its error stays clear of that point. Sinh's HA and EP windows also take |x|
+    // below 2^-125: denormals for their underflow flag, and the least normals, whose
+    // halves in those bodies would be denormal (the scalar routine returns x).
+    // LA, Cosh and Sinh alike: |x| >= 87.3365326 (0x42AEAC4E).
+    static constexpr Range32 kWindowLA = {0x7FFFFFFFu, 0u, 0x42AEAC4Du};
     static constexpr Range32 kWindowHA = {0x7FFFFFFFu, 0u, 0x42B2D4FCu};
     static constexpr Range32 kSinhWindowHA = {0x7FFFFFFFu, 0x7F000000u, 0xC1B2D4FCu};
     static constexpr Range32 kWindowEP = {0x7FFFFFFFu, 0u, 0x42B2D1EBu};
@@ -70,11 +73,11 @@ inline __m128 HeldRangeTest(__m128 x, Range32 w) {
     return AsFloat(Gt(bits, Opaque(Set<uint32_t>(w.limit))));
 }
 
-// The single both-exponentials body on a = |x| (special lanes zero). It runs on up to
-// 89.41, where n reaches 129 and 2^(n-1) leaves the format: the scales are made a half
-// smaller, 2^(n-2) and 2^(-n-2) (held at 0 from n = 125 on, where it no longer counts),
-// and the result doubled, exactly. (With the scales 2^(n-1), LA left the lanes from
-// 87.34 on, one in 40 of the ordinary range, to the scalar routine.)
+// The single both-exponentials body on a = |x| (special lanes zero). LA: the scales
+// e1 = 2^(n-1) and e2 = 2^(-n-1) as bits(0.5) +- (n << 23), for a below 87.3365326 (n at
+// most 126, e2 then 0). EP runs on up to 89.41, where n reaches 129 and 2^(n-1) leaves the
+// format: its scales are made a half smaller, 2^(n-2) and 2^(-n-2) (held at 0 from n = 125
+// on, where it no longer counts), and the result doubled, exactly.
 template <Fn F, Level L>
 inline __m128 BothExps(__m128 a) {
     const __m128 shifter = Set<float>(Format<float>::kShifter);
@@ -88,9 +91,16 @@ inline __m128 BothExps(__m128 a) {
     // The shifter's low bits hold n; shifted into the exponent field, the shifter's own
     // bits leave the word.
     I32x4 nf = ShiftLeft<Format<float>::kMantBits>(AsInt(t));
-    const I32x4 quarter = Set<uint32_t>(0x3E800000u);
-    __m128 e1 = AsFloat(Add(quarter, nf));
-    __m128 e2 = AsFloat(Max(Sub(quarter, nf), Set<int32_t>(0)));
+    __m128 e1, e2;
+    if constexpr (L == Level::EP) {
+        const I32x4 quarter = Set<uint32_t>(0x3E800000u);
+        e1 = AsFloat(Add(quarter, nf));
+        e2 = AsFloat(Max(Sub(quarter, nf), Set<int32_t>(0)));
+    } else {
+        const I32x4 half = Set<uint32_t>(0x3F000000u);
+        e1 = AsFloat(Add(half, nf));
+        e2 = AsFloat(Sub(half, nf));
+    }
     __m128 r2 = Mul(r, r);
     __m128 s, c;
     if constexpr (L == Level::EP) {
@@ -106,7 +116,8 @@ inline __m128 BothExps(__m128 a) {
         y = Add(p, Add(Mul(c, p), Mul(m, s)));
     else
         y = Add(m, Add(Mul(c, m), Mul(p, s)));
-    return Add(y, y);
+    if constexpr (L == Level::EP) y = Add(y, y);
+    return y;
 }
 
 // The double path on a = |x| in [0, 710.4702]: HA exact sums, HA and LA the degree-5 tail
@@ -295,7 +306,9 @@ struct HyperBody {
         constexpr bool sinh = F == Fn::Sinh;
         if constexpr (sizeof(T) == 8)
             special = RangeTest(x, CoshWindow<T>::kWindow);
-        else if constexpr (L != Level::HA)
+        else if constexpr (L == Level::LA)
+            special = HeldRangeTest(x, W::kWindowLA);
+        else if constexpr (L == Level::EP)
             special = HeldRangeTest(x, sinh ? W::kSinhWindowEP : W::kWindowEP);
         else
             special = HeldRangeTest(x, sinh ? W::kSinhWindowHA : W::kWindowHA);
