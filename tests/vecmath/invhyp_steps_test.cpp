@@ -249,5 +249,90 @@ TEST(InvHypSteps, Atan2EPAsItsSteps) {
     EXPECT_EQ(Bits(sy[3]), 0x3FC90FDBu);
 }
 
+// ---- Asinh, Acosh, Atanh EP ----
+
+// e*ln2 + P(m), P of degree 4 with c0 first.
+float LnByFields(float s, const float (&c)[5]) {
+    uint32_t b = Bits(s);
+    float e = float(int32_t(b >> 23) - 127);
+    float m = F((b & 0x007FFFFFu) | 0x3F800000u);
+    return e * F(0x3F317218u) + ((((c[4] * m + c[3]) * m + c[2]) * m + c[1]) * m + c[0]);
+}
+constexpr float kAsinhLn[] = {-0x1.d09788p0f, 0x1.841c2ep1f, -1.69454777f, 0.551397383f,
+                              -0.0743431002f};
+constexpr float kAcoshLn[] = {-0x1.d2e5c8p0f, 0x1.864decp1f, -0x1.b3fb2ep0f, 0x1.1a2934p-1f,
+                              -0.0736413747f};
+
+float AsinhEP(float x) {
+    float a = std::fabs(x), q = a * a;
+    float y;
+    if (a <= F(0x3F99999Au)) {
+        y = a + a * q * (-0.163027272f + q * (0.056370344f - 0.011921552f * q));
+    } else if (Bits(a) > 0x5F7FFFFFu) {
+        y = LnByFields(a, kAsinhLn) + F(0x3F317218u); // ln(2a): the square left out
+    } else {
+        float p = 1.0f + q;
+        y = LnByFields(a + p * Rsqrt(p), kAsinhLn);
+    }
+    return WithSignOf(y, x);
+}
+
+float AcoshEP(float x) {
+    if (x == 1.0f) return 0.0f; // outside the body's window: the scalar routine's value
+    bool near = x < 1.5f;
+    float u = near ? x - 1.0f : x * x - 1.0f;
+    float r = Rsqrt(u), g = u * r;
+    float s = -0.5f * g * (g * r - 3.0f);
+    if (near) return s * (1.41419041f + u * (-0.116985172f + u * 0.0215848032f));
+    return LnByFields(x + s, kAcoshLn);
+}
+
+float AtanhEP(float x) {
+    float a = std::fabs(x), x2 = x * x;
+    float y;
+    if (x2 < 0.25f) {
+        y = a + a * x2 * (0.327951103f + x2 * 0.263935477f);
+    } else {
+        float w = (1.0f + a) * Rcp(1.0f - a);
+        uint32_t b = Bits(w);
+        float e = float(int32_t(b >> 23) - 127);
+        float f = F((b & 0x007FFFFFu) | 0x3F800000u) - 1.0f;
+        y = e * 0.346573591f +
+            f * (0.499970585f +
+                 f * (-0.24844794f + f * (0.15290828f + f * (-0.0782667622f + f * 0.0204208214f))));
+    }
+    return WithSignOf(y, x);
+}
+
+TEST(InvHypSteps, InverseHyperbolicEPAsTheirSteps) {
+    ExpectSteps("sAsinh", kEP,
+                Inputs(0.0f, 1.5f, true, {0.0f, -0.0f, 1.2f, F(0x3F99999Au), F(0x3F99999Bu)}),
+                AsinhEP);
+    ExpectSteps("sAsinh", kEP,
+                Inputs(1.5f, 1e30f, true,
+                       {F(0x5F7FFFFFu), F(0x5F800000u), -F(0x5F800001u), 0x1.fffffep127f}),
+                AsinhEP);
+    std::vector<float> acoshEdges = {F(0x3F800001u), F(0x3FBFFFFFu), 1.5f, 0x1p63f, F(0x5F7FFFFFu)};
+    ExpectSteps("sAcosh", kEP, Inputs(1.0f, 1.5f, false, acoshEdges), AcoshEP);
+    ExpectSteps("sAcosh", kEP, Inputs(1.5f, 1e19f, false, {}), AcoshEP);
+    ExpectSteps("sAtanh", kEP,
+                Inputs(0.0f, 1.0f, true, {0.0f, -0.0f, 0.5f, -0.5f, F(0x3EFFFFFFu), F(0x3F7FFFFFu)}),
+                AtanhEP);
+    // The ends: acosh(1) = 0, below 1 NaN with status 1; atanh(+-1) = +-inf with status 2,
+    // beyond NaN with status 1.
+    int st;
+    EXPECT_EQ(CallUnary(As<Unary<float>>(Slot("sAcosh", kEP)), 1.0f, &st), 0.0f);
+    EXPECT_EQ(st, 0);
+    EXPECT_TRUE(std::isnan(CallUnary(As<Unary<float>>(Slot("sAcosh", kEP)), 0.5f, &st)));
+    EXPECT_EQ(st, 1);
+    Unary<float> atanh = As<Unary<float>>(Slot("sAtanh", kEP));
+    EXPECT_EQ(CallUnary(atanh, 1.0f, &st), INFINITY);
+    EXPECT_EQ(st, 2);
+    EXPECT_EQ(CallUnary(atanh, -1.0f, &st), -INFINITY);
+    EXPECT_EQ(st, 2);
+    EXPECT_TRUE(std::isnan(CallUnary(atanh, 1.5f, &st)));
+    EXPECT_EQ(st, 1);
+}
+
 } // namespace
 } // namespace brenn::test

@@ -91,7 +91,7 @@ inline __m128 AcoshSingleEP(__m128 x) {
     __m128 g = Mul(u, r);
     __m128 s = Mul(Mul(Set<float>(-0.5f), g), Sub(Mul(g, r), Set<float>(3.0f)));
     __m128 yn = Mul(s, Horner(u, kAcoshNearEP));
-    return IfThenElse(near, yn, LnByFields(Add(x, s)));
+    return IfThenElse(near, yn, LnByFields<kLnSignificandAcosh>(Add(x, s)));
 }
 
 // Single LA and HA on widened lanes: for a single x, (x - 1)*(x + 1) is exact in double,

@@ -11,17 +11,23 @@
 
 namespace brenn::vm {
 
-// ln(m) on [1, 2], fitted by tools/hyper/log_single_ep.sollya (degree 4, 2^-14).
-constexpr float kLnSignificand[] = {-0x1.bde544p0f, 0x1.691c4ep1f, -0x1.784e4cp0f, 0x1.c9e9c8p-2f,
-                                    -0x1.cf706ep-5f};
+// ln(m) on [1, 2] by degree 4, c0 first, one set a body. Asinh's c2, c3, c4 are
+// -1.69454777, 0.551397383, -0.0743431002 and Acosh's c4 -0.0736413747; the lower terms
+// are fitted to them by tools/hyper/log_single_ep.sollya (absolute error 2^-12.0 and
+// 2^-12.6).
+constexpr float kLnSignificandAsinh[] = {-0x1.d09788p0f, 0x1.841c2ep1f, -0x1.b1cde2p0f,
+                                         0x1.1a50c2p-1f, -0x1.308264p-4f};
+constexpr float kLnSignificandAcosh[] = {-0x1.d2e5c8p0f, 0x1.864decp1f, -0x1.b3fb2ep0f,
+                                         0x1.1a2934p-1f, -0x1.2da294p-4f};
 
-// ln s for positive normal s.
+// ln s for positive normal s: e*ln2 + P(m), e the exponent and m the significand.
+template <const float (&kP)[5]>
 inline __m128 LnByFields(__m128 s) {
     using F = Format<float>;
     I32x4 b = AsInt(s);
     __m128 e = ToFloat(Sub(ShiftRight<F::kMantBits>(b), Set<int32_t>(F::kBias)));
     __m128 m = AsFloat(Or(And(b, Set<uint32_t>(F::kMant)), Set<uint32_t>(F::kOne)));
-    return Add(Mul(e, Set<float>(LogConst<float>::kLn2)), Horner(m, kLnSignificand));
+    return Add(Mul(e, Set<float>(LogConst<float>::kLn2)), Horner(m, kP));
 }
 
 // Q of ln(1 + r) = r + r^2*Q(r) on r in [-1/3, 1/3], fitted by
