@@ -10,9 +10,9 @@
  *   0.5, -0.5        the Sqrt and InvSqrt slots
  *   1/3, -1/3, 2/3   (their rounded bit patterns) the Cbrt, InvCbrt and Pow2o3 slots
  *   1.5              the Pow3o2 slot
- *   otherwise        the general body of Pow (pow_body.h) with b in every lane; for an
- *                    integer b on |x|, x's sign put back for odd b, so that negative x
- *                    do not leave the vector.
+ *   otherwise        the general body of Pow (pow_body.h) with b in every lane (x that
+ *                    are not positive normals, negative x among them, go to the scalar
+ *                    routine).
  * The slots are those of the kernel's own level. At HA only -1, 0.5, -0.5 and 1.5 are
  * taken apart; every other b, 2 included, runs the general body, which is within an ulp
  * where the chains are not. A dispatched kernel reports under its own name ("vsInv", ...),
@@ -69,8 +69,6 @@ UnaryKernel<double> SlotOf<double>(PowxCall c, int slot) {
 
 // The general body: Pow's, with b in every lane, the head taken to the output's 16-byte
 // boundary (its input need not share the output's alignment: a is read, y written).
-// `Integer` for an integer b: the body runs on |x|, so that negative x stay in the
-// vector, and x's sign goes back on for odd b (oddSign the sign mask, else 0).
 // What the Powx bodies share: the name, the layout and the general body's scalar routine.
 template <class Tp>
 struct PowxCommon {
@@ -84,18 +82,14 @@ struct PowxCommon {
 
 // `FiniteB` (b neither infinite nor NaN, every integer b among them): single LA and HA
 // test x alone and keep b as it is in every lane.
-template <class Tp, Level L, bool Integer = false, bool FiniteB = true>
+template <class Tp, Level L, bool FiniteB = true>
 struct PowxBody : PowxCommon<Tp> {
     using T = Tp;
     using V = Vec<T>;
     V bv;
-    V oddSign = Zero<T>();
     BRENN_VEC V Eval(V x, V& special) const {
         constexpr bool finite = FiniteB && sizeof(T) == 4;
-        if constexpr (Integer)
-            return Or(PowOf<L, finite, true>(Abs(x), bv, special), And(x, oddSign));
-        else
-            return PowOf<L, finite, true>(x, bv, special);
+        return PowOf<L, finite, true>(x, bv, special);
     }
     // Double rounds of sixteen, each step over the round's eight registers (PowRound).
     // Single LA and HA too, register by register: the frame's quad evaluation was a call
@@ -112,18 +106,11 @@ struct PowxBody : PowxCommon<Tp> {
             }
             return bits;
         } else {
-            V xs[8], bs[8];
+            V bs[8];
 #pragma GCC unroll 8
-            for (int k = 0; k < 8; ++k) {
-                xs[k] = Integer ? Abs(x[k]) : x[k];
+            for (int k = 0; k < 8; ++k)
                 bs[k] = bv;
-            }
-            const int bits = PowWide<L>(xs, bs, y);
-            if constexpr (Integer)
-#pragma GCC unroll 8
-                for (int k = 0; k < 8; ++k)
-                    y[k] = Or(y[k], And(x[k], oddSign));
-            return bits;
+            return PowWide<L>(x, bs, y);
         }
     }
 };
@@ -286,15 +273,10 @@ void PowxRun(int n, const T* a, T b, T* y) {
     }
     if (dispatched)
         if (UnaryKernel<T> k = SlotOf<T>(call, slot)) return k(n, a, y);
-    if (const int c = IntegerClass(b)) {
-        const Vec<T> oddSign = c == 1 ? SignMask<T>() : Zero<T>();
-        RunUnary(PowxBody<T, L, true>{{b}, Set<T>(b), oddSign}, n, a, y);
-        return;
-    }
     if (__builtin_isfinite(b))
         RunUnary(PowxBody<T, L>{{b}, Set<T>(b)}, n, a, y);
     else
-        RunUnary(PowxBody<T, L, false, false>{{b}, Set<T>(b)}, n, a, y);
+        RunUnary(PowxBody<T, L, false>{{b}, Set<T>(b)}, n, a, y);
 }
 
 } // namespace
