@@ -1,5 +1,5 @@
 /* The scalar routines of Cosh, Sinh and Tanh, one text for both precisions, run in
- * double on the exponential's scalar core (exp_scalar.h): the lanes the vector bodies
+ * double on a table exponential of their own (HyperExpScalar): the lanes the vector bodies
  * leave (exponent all ones, and for Cosh and Sinh the arguments near overflow) come
  * here. Thresholds in this order:
  *   exponent all ones   Cosh x*x, Sinh x + x, Tanh 1 with x's sign or the NaN;
@@ -8,7 +8,9 @@
  *   |x| >= the overflow point of the format: infinity (Sinh with x's sign), status 3;
  *   |x| >= 21.487562597358306, where e^-|x| is below the last bit: e^|x|/2 alone,
  *                       its scaling split in two inside the core;
- *   below               (e^|x| +- e^-|x|)/2, Sinh by its series under 1/2. */
+ *   below               (e^|x| +- e^-|x|)/2, Sinh by its series under 1/2, where the
+ *                       difference would cancel (no lane of the vector bodies comes here
+ *                       below 1/2). */
 #ifndef BRENN_VECMATH_HYPER_HYPER_SCALAR_H
 #define BRENN_VECMATH_HYPER_HYPER_SCALAR_H
 
@@ -36,11 +38,34 @@ struct HyperLimits<double> {
 // Above this e^-a adds nothing to e^a/2 in double.
 constexpr double kOneExpEnough = 0x1.57cd0e702682p+4; // 21.487562597358306
 
-// e^a/2 for a in [0, 711]: the core on a - ln2, ln2 in the core's two parts (a - the head
-// is exact for a >= 1, as the head ends at 2^-37).
+// The routines' own exponential, e^(x + xl) for x in [-711, 711]: n = rint(x*64/ln2) by
+// the shifter, r = x - n*ln2hi/64 - n*ln2lo/64 + xl, the table of 64 in high and low
+// parts at j = n mod 64 (e^-x takes it at -j), e^r - 1 = r + r^2*(1/2 + r*(c3 + ...)) with
+// their own coefficients, and the power of two applied in two halves, so that it stays
+// inside the double range.
+struct HyperExpPoly {
+    static constexpr double kC[] = {0.5, 0.1666666666665788, 0.04166666666677052,
+                                    0.008333341995140497, 0.0013888870459233254};
+};
+inline double HyperExpScalar(double x, double xl = 0.0) {
+    using S = ExpStep64;
+    constexpr double kShifter = Format<double>::kShifter;
+    double t = x * S::kInvStep + kShifter;
+    double n = t - kShifter;
+    double r = (x - n * S::kStepHi) - n * S::kStepLo + xl;
+    int ni = int(n);
+    int j = ni & 63, m = (ni - j) / 64;
+    double p = r + r * r * HornerScalar<HyperExpPoly>(r);
+    double y = expTable64[j][0] + (expTable64[j][0] * p + expTable64[j][1]);
+    int m1 = m / 2;
+    return y * Pow2D(m1) * Pow2D(m - m1);
+}
+
+// e^a/2 for a in [0, 711]: the exponential of a - ln2, ln2 in the reduction's two parts
+// (a - the head is exact for a >= 1, as the head ends at 2^-37).
 inline double HalfExpScalar(double a) {
     constexpr double kLn2Hi = 64 * ExpStep64::kStepHi, kLn2Lo = 64 * ExpStep64::kStepLo;
-    return ExpScalarCore(a - kLn2Hi, -kLn2Lo);
+    return HyperExpScalar(a - kLn2Hi, -kLn2Lo);
 }
 
 // The series of sinh on |x| <= 1/2, by a scalar Horner over the vector's coefficients.
@@ -72,7 +97,7 @@ inline int CoshScalar(const T* in, T* y) {
     if (a >= kOneExpEnough)
         *y = T(HalfExpScalar(a));
     else
-        *y = T(0.5 * (ExpScalarCore(a) + ExpScalarCore(-a)));
+        *y = T(0.5 * (HyperExpScalar(a) + HyperExpScalar(-a)));
     return status::kNone;
 }
 
@@ -102,7 +127,7 @@ inline int SinhScalar(const T* in, T* y) {
     else if (a < kSinhSeriesEnd)
         v = SinhSeriesScalar(a);
     else
-        v = 0.5 * (ExpScalarCore(a) - ExpScalarCore(-a));
+        v = 0.5 * (HyperExpScalar(a) - HyperExpScalar(-a));
     *y = T(std::copysign(v, double(x)));
     return status::kNone;
 }
