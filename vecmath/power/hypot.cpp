@@ -27,6 +27,7 @@
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/frame/scalar.h"
+#include "vecmath/power/root_core.h"
 
 namespace brenn::vm {
 namespace {
@@ -78,28 +79,6 @@ inline __m128d SquareTail(__m128d x, __m128d xx) {
     return Add(Add(Sub(Mul(s.hi, s.hi), xx), Mul(Add(s.hi, s.hi), s.lo)), Mul(s.lo, s.lo));
 }
 
-// Two Goldschmidt steps from s and r ~ 1/sqrt(s), h = r/2 corrected between them.
-template <class V>
-BRENN_VEC V GoldschmidtTwice(V s, V r) {
-    using T = ElemOf<V>;
-    const V half = Set<T>(T(0.5));
-    V g = Mul(s, r);
-    V h = Mul(half, r);
-    V e = Sub(half, Mul(g, h));
-    V g1 = Add(g, Mul(g, e));
-    h = Add(h, Mul(h, e));
-    g = g1;
-    e = Sub(half, Mul(g, h));
-    return Add(g, Mul(g, e));
-}
-
-// s = a^2 + b^2 in single (lanes where it is not a positive normal, overflow and underflow
-// among them, are special), r = rsqrt(s), then Sqrt's refinement at the level: EP g = s*r;
-// LA one Goldschmidt step with h = r/2; HA two, h corrected in between. HA runs its two
-// steps in double, on s taken again from the widened operands (exact squares, one
-// rounding), and rounds once to single: the two steps in single leave up to 1.71 ulp,
-// and in double from the single s still 1.10 (s's own rounding is a quarter ulp of the
-// root); so they are within 0.5 ulp.
 // M registers of single HA at once, each step over all of them before the next: the
 // special-lane masks, then the roots.
 template <int M>

@@ -1,8 +1,10 @@
 /* Pow3o2, single and double: x^(3/2) as x * sqrt(x).
  *
- * Single HA: in double on widened lanes, rounded once (a result beyond the single range
- * becomes infinity with the flag and no status); single LA and EP: x*sqrt(x) in single,
- * rounded twice (within about 1 ulp), an overflow the same. Double HA: s = sqrt(x) rounded, its
+ * Single: x times the root from the reciprocal root estimate r, refined as Sqrt does at
+ * the level: EP x*(x*r); LA x times one Goldschmidt step, in single; HA two steps, h
+ * corrected in between, and the product in double on widened lanes, rounded once (a
+ * result beyond the single range becomes infinity with the flag and no status).
+ * Zeros and denormals go to the scalar routine, as for Sqrt. Double HA: s = sqrt(x) rounded, its
  * error (x - s*s)/(2s) from the exact square and a reciprocal estimate, and
  * x*(s + that) with x*s in two parts: within about 0.5 ulp. Double LA and EP: x*sqrt(x)
  * rounded twice, within about 1 ulp.
@@ -14,6 +16,7 @@
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/frame/scalar.h"
+#include "vecmath/power/root_core.h"
 
 namespace brenn::vm {
 namespace {
@@ -22,8 +25,9 @@ template <class T>
 struct Pow3o2Ranges;
 template <>
 struct Pow3o2Ranges<float> {
-    // Sign bit set, +inf or NaN.
-    static constexpr Range32 kSpecial{0xFFFFFFFFu, 0x80000000u, 0xFF7FFFFFu};
+    // Positive normals pass, but for the last few below the largest finite (Sqrt's
+    // window); zeros, denormals, negatives, +inf and NaN are special.
+    static constexpr Range32 kSpecial{0xFFFFFFFFu, 0x7F800000u, 0xFEFFF000u};
 };
 template <>
 struct Pow3o2Ranges<double> {
@@ -61,14 +65,22 @@ inline __m128d Pow3o2Of(__m128d x) {
     return Add(ph, Add(pl, Mul(x, ds)));
 }
 
+// Single, x a positive normal. HA's two steps and product run in double and round once:
+// in single they leave about 2 ulp (the steps alone up to 1.5, as Sqrt's), beyond the
+// level's bound.
 template <Level L>
 inline __m128 Pow3o2Lanes(__m128 x) {
-    // LA and EP: x*sqrt(x) in single, two roundings.
-    if constexpr (L != Level::HA) return Mul(x, Sqrt(x));
-    // HA: the single value from the double product: s and x*s rounded in double lose
-    // nothing a single result can see.
-    __m128d lo = WidenLower(x), hi = WidenUpper(x);
-    return Narrow(Mul(lo, Sqrt(lo)), Mul(hi, Sqrt(hi)));
+    const __m128 r = ApproxRecipSqrt(x);
+    if constexpr (L == Level::EP) return Mul(x, Mul(x, r));
+    if constexpr (L == Level::LA) {
+        const __m128 half = Set<float>(0.5f);
+        const __m128 g = Mul(x, r);
+        const __m128 e = Sub(half, Mul(g, Mul(half, r)));
+        return Mul(x, Add(g, Mul(g, e)));
+    }
+    const __m128d lo = WidenLower(x), hi = WidenUpper(x);
+    return Narrow(Mul(lo, GoldschmidtTwice(lo, WidenLower(r))),
+                  Mul(hi, GoldschmidtTwice(hi, WidenUpper(r))));
 }
 template <Level L>
 inline __m128d Pow3o2Lanes(__m128d x) {
