@@ -1,17 +1,24 @@
-// The scalar routines of Cosh and Sinh held to their steps: thresholds in their order
+// The steps of the hyperbolic rows that need the library's tables, written out here and
+// compared bit for bit. The scalar routines of Cosh and Sinh: thresholds in their order
 // (exponent all ones, denormals, 2^-53, the overflow point, 21.487562597358306) and the
 // table exponential in double, n = rint(|x|*64/ln2) by the shifter, r in two parts, the
 // table of 2^(j/64) in high and low parts at j and at -j, and the routines' own
-// polynomial, written out here and compared bit for bit in double, where a change of a
-// coefficient's last bits shows (a single result would round it away).
+// polynomial, compared in double, where a change of a coefficient's last bits shows (a
+// single result would round it away). Single Tanh LA and EP: the row from the input's
+// bits, the row's cubic or line in double, the sign, one narrowing.
+#include <algorithm>
 #include <cfloat>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <random>
+#include <vector>
 
+#include "frame/dispatch.h"
+#include "tests/vecmath/kernels.h"
 #include "vecmath/explog/explog_tables.h"
 #include "vecmath/frame/status.h"
 #include "vecmath/hyper/hyper_scalar.h"
+#include "vecmath/hyper/hyper_tables.h"
 
 namespace brenn::test {
 namespace {
@@ -71,6 +78,51 @@ TEST(InvHypSteps, CoshSinhScalarRoutinesAsTheirSteps) {
     float den = -1e-40f;
     EXPECT_EQ(vm::SinhScalar(&den, &fy), vm::status::kNone);
     EXPECT_EQ(fy, den);
+}
+
+
+// Row k of the 134: (bits & 0x7FF80000) - 0x3CF80000 clamped to [0, 133 rows], by 2^19.
+float TanhSteps(float x, bool ep) {
+    int32_t d = int32_t(Bits(x) & 0x7FF80000u) - 0x3CF80000;
+    int k = std::min(std::max(d, 0), 133 << 19) >> 19;
+    double a = std::fabs(double(x));
+    if (a > 10.0) a = 0.0; // the last row's constant gives 1
+    double y;
+    if (ep) {
+        y = vm::tanhRowsEP[k][1] * a + vm::tanhRowsEP[k][0];
+    } else {
+        const double* c = vm::tanhRowsLA[k];
+        y = ((c[3] * a + c[2]) * a + c[1]) * a + c[0];
+    }
+    return float(std::copysign(y, double(x)));
+}
+
+TEST(InvHypSteps, TanhAsItsSteps) {
+    EXPECT_EQ(vm::tanhRowsLA[0][0], 0.0); // small arguments keep their leading term
+    EXPECT_EQ(vm::tanhRowsLA[0][1], 1.0);
+    std::mt19937 gen(3);
+    std::uniform_real_distribution<float> e(-30.0f, 4.5f);
+    std::vector<float> x;
+    for (int i = 0; i < 300000; ++i) {
+        float v = std::exp2(e(gen)); // every row, 2^-30 to 22
+        x.push_back(gen() & 1 ? -v : v);
+    }
+    for (float v : {0.0f, -0.0f, 1e-40f, 0x1p-5f, 9.99999905f, 10.0f, 10.5f, -10.5f, 1e30f})
+        x.push_back(v);
+    for (int slot : {frame::SlotLA, frame::SlotEP}) {
+        auto k = reinterpret_cast<Unary<float>>((&BrennDispatchTable[frame::Row_sTanh].kernelLA)[slot]);
+        std::vector<float> y(x.size());
+        brenn_zar_kernel_SetErrStatus(0);
+        k(int(x.size()), x.data(), y.data());
+        EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 0);
+        int bad = 0;
+        for (size_t i = 0; i < x.size() && bad < 5; ++i) {
+            float want = TanhSteps(x[i], slot == frame::SlotEP);
+            if (Bits(y[i]) != Bits(want))
+                ++bad, ADD_FAILURE() << "slot " << slot << std::hexfloat << " x = " << x[i]
+                                     << ": got " << y[i] << ", steps give " << want;
+        }
+    }
 }
 
 } // namespace
