@@ -394,7 +394,7 @@ template <class T>
 T Goldschmidt(T x, T r, int steps) {
     T g = x * r, h = T(0.5) * r;
     T e = T(0.5) - g * h;
-    if (steps == 2) {
+    for (int k = 1; k < steps; ++k) {
         T g1 = g + g * e;
         h = h + h * e;
         g = g1;
@@ -425,6 +425,22 @@ float SDiv(float a, float b, int slot) {
     float r = Rcp(b);
     if (slot == 0) r = r * (2.0f - b * r);
     return a * r;
+}
+
+// The single Sqrt scalar routine for a positive finite x: x in double (a denormal times
+// 2^200), M = m * 2^p for m in [1, 2) and p the exponent's parity, the seed
+// 1/sqrt((1 + i/256) * 2^p) at m's top eight bits i (through long double, which rounds
+// all 512 seeds as the table has them), three Goldschmidt steps, the root scaled by 2^q.
+float SSqrtScalar(float x) {
+    double xd = x;
+    int scale = 0;
+    if (x < FLT_MIN) xd *= 0x1p200, scale = -100;
+    int e = BiasedExponent(xd) - 1023, p = e & 1, q = (e - p) / 2 + scale;
+    double m =
+        __builtin_bit_cast(double, (Bits(xd) & 0x000FFFFFFFFFFFFFull) | 0x3FF0000000000000ull);
+    int i = int((Bits(xd) >> 44) & 0xFF);
+    double seed = double(1.0L / sqrtl((256.0L + i) / 256.0L * (p ? 2 : 1)));
+    return float(Goldschmidt(m * (p ? 2.0 : 1.0), seed, 3) * Pow2(q));
 }
 
 // Uniform bit patterns of magnitude in [lo, hi), of either sign where asked.
@@ -549,6 +565,35 @@ TEST(ElementarySteps, RootChains) {
     }
     // EP of 4 is the estimate's product, in a call of one element too.
     EXPECT_EQ(CallUnary(As<Unary<float>>(Slot("sSqrt", 2)), 4.0f), steps::SSqrt(4.0f, 2));
+    brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);
+}
+
+TEST(ElementarySteps, SingleSqrtScalarRoutine) {
+    brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_IGNORE);
+    // Every 13th positive denormal and every value above the body's window: the routine's
+    // steps bit for bit and the correctly rounded root, at every level (the routine is
+    // the same for all three).
+    std::vector<float> x;
+    for (uint32_t b = 1; b < 0x00800000u; b += 13)
+        x.push_back(__builtin_bit_cast(float, b));
+    for (uint32_t b = 0x7F7FF001u; b < 0x7F800000u; ++b)
+        x.push_back(__builtin_bit_cast(float, b));
+    std::vector<float> y(x.size());
+    for (int slot = 0; slot < 3; ++slot) {
+        As<Unary<float>>(Slot("sSqrt", slot))(int(x.size()), x.data(), y.data());
+        for (size_t i = 0; i < x.size(); ++i) {
+            float want = steps::SSqrtScalar(x[i]);
+            ASSERT_EQ(Bits(y[i]), Bits(want)) << "sSqrt slot " << slot << " of " << x[i];
+            ASSERT_EQ(y[i], float(std::sqrt(double(x[i]))))
+                << "sSqrt slot " << slot << " of " << x[i];
+        }
+    }
+    // One element a call, the status too: the smallest denormal, the largest, the top.
+    for (float v : {FLT_TRUE_MIN, std::nextafter(FLT_MIN, 0.0f), FLT_MAX}) {
+        int st = -1;
+        EXPECT_EQ(CallUnary(As<Unary<float>>(Slot("sSqrt", 1)), v, &st), steps::SSqrtScalar(v));
+        EXPECT_EQ(st, 0);
+    }
     brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);
 }
 
