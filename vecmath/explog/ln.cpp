@@ -1,16 +1,15 @@
 /* Ln, single and double, three levels each.
  *
- * sLn: the branch-free split (log_core.h) around 2/3 (LA, HA) or 1/sqrt(2) (EP), then
- * r*P(r) with P of 4 coefficients (EP) or r + r^2*Q(r) with Q of 8 (LA) or 9 (HA), plus
- * k*ln2 (in two parts at HA, with the sums carried exactly so that only the last one
- * rounds). x = 1 gives k = 0 and r = 0: exactly +0 at every level.
+ * sLn: the branch-free split (log_core.h) around 2/3, then p = r + r^2*Q(r) with Q of 4
+ * (EP), 7 (LA) or 9 (HA) coefficients by Horner's rule, plus k*ln2 (at HA in two parts,
+ * the low one first). x = 1 gives k = 0 and r = 0: exactly +0 at every level.
  * dLn: the 513-row reciprocal table with |r| <= 2^-10 (log_core.h); EP on the rows alone
  * (LogRowsEP: the row found by two integer steps, r = m*rcp - 1, a cubic, no low parts);
  * LA and HA degree 5 with ln 2 and the table logarithm in two parts,
  * the tail summed before the exact head: the table's 2^-42 grid leaves no cheaper
  * form within 4 ulp, so LA is the same arithmetic.
- * Measured (brenn_accuracy, worst of its inputs): sLn EP 11.5 bits, LA 1.57 ulp, HA
- * 0.83 ulp; dLn EP 32.7 bits, LA and HA 0.91 ulp.
+ * Measured (brenn_accuracy, worst of its inputs): sLn EP 12.8 bits, LA 3.93 ulp, HA
+ * 0.97 ulp (LA and HA every float of [1/4, 4)); dLn EP 32.7 bits, LA and HA 0.91 ulp.
  * Scalar routines: log_scalar.h (zero: -inf, singularity; negative: NaN, domain;
  * denormals their correct logarithm). */
 #include "frame/kernels.h"
@@ -22,48 +21,33 @@
 namespace brenn::vm {
 namespace {
 
-// Q(r) of the single body at LA and HA, on r in [-1/3, 1/3), both fitted by
-// tools/explog/ln_single.sollya (LA about 2^-25.1). At HA the two low coefficients
-// are Horner steps after the seven high ones.
-constexpr float kLnLA[] = {-0x1.ffffd6p-2f, 0x1.5554fcp-2f, -0x1.00144ep-2f, 0x1.99d398p-3f,
-                           -0x1.5038e4p-3f, 0x1.1eaacap-3f, -0x1.3b0c36p-3f, 0x1.1f1bb8p-3f};
-constexpr float kLnHALow[] = {-0x1p-1f, 0x1.555502p-2f};
-constexpr float kLnHAHigh[] = {-0x1.ffff14p-3f, 0x1.99d1c6p-3f, -0x1.559804p-3f, 0x1.1ec0dp-3f,
-                               -0x1.f3a788p-4f, 0x1.1ec6ep-3f,  -0x1.06cedcp-3f};
+// Q(r) of the single body, ln(1 + r) = r + r^2*Q(r) on r in [-1/3, 1/3), by Horner's
+// rule from the top at every level: EP four coefficients (LogConst), LA seven, HA nine,
+// -0.5 first.
+constexpr float kLnLA[] = {-0x1p-1f,       0x1.555dcep-2f,  -0x1.000c3ap-2f, 0x1.95f702p-3f,
+                           -0x1.5126bp-3f, 0x1.5b70d6p-3f,  -0x1.36d444p-3f};
+constexpr float kLnHA[] = {-0x1p-1f,        0x1.555506p-2f, -0x1.fffefp-3f,  0x1.99d028p-3f,
+                           -0x1.559dccp-3f, 0x1.1ed718p-3f, -0x1.f3113cp-4f, 0x1.1e66bap-3f,
+                           -0x1.08059p-3f};
 
-// Single: the split around 2/3 and r + r^2*Q(r) + k*ln2. LA uses Estrin's scheme, so
-// that the chain is four steps deep and not eight: the body is bound by that latency,
-// not by the arithmetic.
+// Single: the split around 2/3 (k = 0 for x near 1, r = m - 1 exact), p = r + r^2*Q(r)
+// and p + k*ln2; at HA ln 2 in two parts, the low one first, (k*ln2lo + p) + k*ln2hi,
+// so that k*ln2hi (exact for |k| < 2^8) meets the rest in the last addition only.
 template <Level L>
 inline __m128 LnOf(__m128 x) {
     using K = LogConst<float>;
     __m128 r, k;
-    I32x4 ki;
-    LogSplit(x, r, k, ki, L == Level::EP ? K::kCentreEP : 0x3F2AAAABu);
+    LogSplit(x, r, k);
+    const __m128 r2 = Mul(r, r);
     if constexpr (L == Level::EP) {
-        return Add(Mul(r, Horner(r, K::kLnEP)), Mul(k, Set<float>(K::kLn2)));
+        __m128 p = Add(r, Mul(r2, Horner(r, K::kLnEP)));
+        return Add(p, Mul(k, Set<float>(K::kLn2)));
     } else if constexpr (L == Level::LA) {
-        // k*ln2 + r first, beside the polynomial: the chain after r^2*Q is one sum.
-        __m128 head = Add(Mul(k, Set<float>(K::kLn2)), r);
-        return Add(head, Mul(Mul(r, r), Estrin(r, kLnLA)));
+        __m128 p = Add(r, Mul(r2, Horner(r, kLnLA)));
+        return Add(p, Mul(k, Set<float>(K::kLn2)));
     } else {
-        // The seven high coefficients by Estrin's scheme (their rounding is scaled down
-        // by r^2), the two low ones by Horner steps, so that Q's error is about the last
-        // step's half ulp while the chain stays short.
-        __m128 r2 = Mul(r, r);
-        __m128 q = MulAdd(r, Estrin(r, kLnHAHigh), Set<float>(kLnHALow[1]));
-        q = MulAdd(r, q, Set<float>(kLnHALow[0]));
-        // k*ln2hi + r is carried exactly with its rounding error (|k*ln2hi| is above |r|
-        // whenever k is not 0, and for k = 0 the sum is r itself), and r^2*Q and
-        // k*ln2lo join that error, so that only the last addition rounds at the result's
-        // scale: near x = 2/3, where p = r + r^2*Q is of the result's size, two roundings
-        // would otherwise reach an ulp. Carrying the sum at r rather than at p takes one
-        // exact step, not two.
-        __m128 s, e;
-        FastTwoSum(Mul(k, Set<float>(K::kLn2Hi)), r, s, e);
-        // The terms that are ready early are summed first: r^2*Q ends the longest chain.
-        __m128 lo = Add(Add(e, Mul(k, Set<float>(K::kLn2Lo))), Mul(r2, q));
-        return Add(s, lo);
+        __m128 p = Add(r, Mul(r2, Horner(r, kLnHA)));
+        return Add(Add(Mul(k, Set<float>(K::kLn2Lo)), p), Mul(k, Set<float>(K::kLn2Hi)));
     }
 }
 

@@ -1,20 +1,19 @@
 /* Log1p, single and double, three levels each.
  *
- * Single: LA on u = 1 + x split around 2/3 (log_core.h) with a fitted Q of eight
- * coefficients, ln(1 + x) = ln u + c/u, c = x - (u - 1) the rounding of u (from x held
- * by its bits where the special lanes would raise a flag, beside the split); EP without
- * the correction, on r = x itself where the split's k is 0 (around 1/sqrt(2): x in
- * [-0.29, 0.41)) and the polynomial of sLn EP; HA in double lanes on u = 1 + x summed in double
- * (exact from x = 2^-29 up), split and reduced there by the rows of lnRows (LnOfDoubleSum). The
- * range test is the logarithm's, on u: it fires for x at or below -1, infinite or NaN; no blend on
- * it stands in front of any body. Tiny x come out as x itself (LA: u = 1, r = 0, c = x; EP and HA:
- * x where |x| is below 2^-30 or 2^-29). Double: the logarithm core's reduction of u = 1 + x for k
+ * Single: on u = 1 + x split around 2/3 (log_core.h); EP and LA p = r + r^2*Q(r) with
+ * Q of sLn at EP or of eight coefficients at LA, ln u = p + k*ln2; HA on a reciprocal of
+ * m rounded to 2^-6 and its table (LogByRecip); at every level c/u added last, c the
+ * rounding of u (Fast2Sum with the larger of 1 and x first, on x held by its bits where
+ * the special lanes would raise a flag). The range test is the logarithm's, on u: it
+ * fires for x at or below -1, infinite or NaN; no blend on it stands in front of any
+ * body. Tiny x come out as x itself (u = 1, r = 0, c = x).
+ * Double: the logarithm core's reduction of u = 1 + x for k
  * and the row, its low part taken from x itself as (2^-k - mh) + x*2^-k (degree 5 at LA and HA; EP
  * on the rows alone, r = (S - 1) + x*S with S = 2^-k*rcp, and the cubic); HA carries h + r exactly
  * before the small terms are added. Its window on u runs from 2^-43 to below
  * 2^1021 - 2^1011; the rest goes to the scalar routine. Special lanes run without a blend
  * on the range test: 2^-k (and x at LA and HA) held by integer steps where they meet products.
- * Measured (brenn_accuracy, worst of its inputs): sLog1p EP 11.5 bits, LA 1.66 ulp,
+ * Measured (brenn_accuracy, worst of its inputs): sLog1p EP 12.8 bits, LA 1.68 ulp,
  * HA 0.50 ulp; dLog1p EP 32.6 bits, LA 0.84 ulp, HA 0.66 ulp.
  * Scalar routine: x = -1 gives -inf with the singularity status, x below -1 (and -inf)
  * NaN with the domain status, NaN and +inf themselves. */
@@ -57,97 +56,52 @@ template <class T>
 struct Log1pConst;
 template <>
 struct Log1pConst<float> {
-    // Q(r) of ln(1 + r) = r + r^2*Q(r) at LA, on r in [-1/3, 1/3); fitted by
-    // tools/explog/log1p_single.sollya.
-    static constexpr float kLA[] = {-0x1p-1f,        0x1.555528p-2f,  -0x1.000b1cp-2f,
-                                    0x1.99c32ep-3f,  -0x1.515a6ap-3f, 0x1.1f9552p-3f,
-                                    -0x1.35b3e2p-3f, 0x1.1b0d6ep-3f};
+    // Q(r) of ln(1 + r) = r + r^2*Q(r) at LA, on r in [-1/3, 1/3), by Horner's rule:
+    // -0.5, 0.333332658, -0.250042379, 0.200079203, -0.164723262, 0.140423089,
+    // -0.151221797, 0.138202384.
+    static constexpr float kLA[] = {-0.5f,         0.333332658f, -0.250042379f,
+                                    0.200079203f,  -0.164723262f, 0.140423089f,
+                                    -0.151221797f, 0.138202384f};
 };
 
-// ln(1 + x) for two double lanes x from single ones (x above -1, 1 + x exact or far
-// below the result's last place): u = 1 + x split in double, x = 2^k*m, m in [1, 2), the
-// row of lnRows for m rounded to 9 fraction bits, whose byte offset the vector forms in
-// the low word of each lane, so that it is an address as it is moved out; then
-// (k*ln2hi + T) + r + r^2*(c2 + c3*r), r = m*rcp - 1 (about 2^-33, the core's EP form).
-inline __m128d LnOfDoubleSum(__m128d x) {
-    using F = Format<double>;
-    using K = LogConst<double>;
-    const I64x2 ub = AsInt(Add(Set<double>(1.0), x));
-    const I64x2 mant = And(ub, Set<uint64_t>(F::kMant));
-    __m128d m = AsFloat(Or(mant, Set<uint64_t>(F::kOne)));
-    __m128d k = Sub(AsFloat(Or(ShiftRight<F::kMantBits>(ub), AsInt(Set<double>(0x1p52)))),
-                    Set<double>(0x1p52 + F::kBias));
-    static_assert(sizeof(lnRows[0]) == 32, "rows of 32 bytes");
-    const I64x2 off = And(ShiftRight<F::kMantBits - 9 - 5>(Add(mant, Set<uint64_t>(1ull << 42))),
-                          Set<uint64_t>(~31ull));
-    const char* rows = reinterpret_cast<const char*>(lnRows);
-    __m128d rcp, t;
-    LoadTransposed(reinterpret_cast<const double*>(rows + uint64_t(_mm_cvtsi128_si64(off.v))),
-                   reinterpret_cast<const double*>(rows + uint64_t(_mm_extract_epi64(off.v, 1))),
-                   rcp, t);
-    __m128d r = Sub(Mul(m, rcp), Set<double>(1.0));
-    // The head and r summed beside r^2*Q, so that the chain after r is three steps.
-    __m128d head = Add(Add(Mul(k, Set<double>(K::kLn2Hi)), t), r);
-    return Add(head, Mul(Mul(r, r), Horner(r, K::kCoreEP)));
-}
-
-// Single: LA ln u by the split around 2/3 with c/u; EP by the split around 1/sqrt(2) on
-// r = x where its k is 0; HA in double on a double sum (LnOfDoubleSum).
+// Single: ln u + c/u on u = 1 + x split around 2/3: EP and LA p = r + r^2*Q(r) (Q of sLn
+// at EP, eight coefficients at LA) and p + k*ln2, then c/u added last; HA on a reciprocal
+// of m (log_core.h LogByRecip), c/u joining its small terms. c, the rounding of u, by
+// Fast2Sum with the larger of 1 and x first: x - (u - 1) for |x| < 1, else 1 - (u - x).
+// Both come from x held by its high bits (+inf and positive NaNs to the largest single by
+// a signed minimum, x at or below -1, -inf and negative NaNs among them, to just above -1
+// by an unsigned one), so that inf - inf and 0/0 raise no flag of their own where the
+// scalar routine raises none; every other x stays, and no blend on the range test stands
+// in front of the body. u is held at 2^125 in the quotient alone: beyond it c/u (c is at
+// most 1 there) would come out denormal and raise underflow, and either quotient is far
+// below half an ulp of ln u (above 86), so that the sum is the same. Tiny x give u = 1,
+// r = 0, k = 0 and c = x: x itself, its sign put back for -0.
 template <Level L>
 inline __m128 Log1pOf(__m128 x, __m128& special) {
     using K = LogConst<float>;
-    special = LogSpecial(Add(Set<float>(1.0f), x));
+    const __m128 one = Set<float>(1.0f);
+    const __m128 u = Add(one, x);
+    special = LogSpecial(u);
+    const __m128i b = _mm_min_epi32(AsInt(x).v, _mm_set1_epi32(0x7F7FFFFF));
+    const __m128 xc = AsFloat(I32x4{_mm_min_epu32(b, _mm_set1_epi32(int32_t(0xBF7FFFFFu)))});
+    const __m128 uc = Add(one, xc);
+    const __m128 below = AsFloat(Gt(Set<int32_t>(0x3F800000), AsInt(Abs(xc))));
+    const __m128 c = IfThenElse(below, Sub(xc, Sub(uc, one)), Sub(one, Sub(uc, xc)));
+    const __m128 cu = Div(c, Min(uc, Set<float>(0x1p125f)));
     if constexpr (L == Level::HA) {
-        // In double, u = 1 + x is exact for a single x from 2^-29 up to 2^53 (at most 53
-        // bits from 2^0 down to x's last place), and beyond 2^53 its rounding is far
-        // below the result's last place. Below 2^-29, log1p(x) is within 2^-30 of x,
-        // relatively, and x is the rounded result.
-        // Special lanes run as they are, off the range test's path: +-inf and x below -1
-        // give finite k and m and a row, a quiet NaN stays quiet, and a signalling one
-        // raises the invalid flag that its scalar routine raises too.
-        __m128d y[2];
-#pragma GCC unroll 2
-        for (int h = 0; h < 2; ++h)
-            y[h] = LnOfDoubleSum(h == 0 ? WidenLower(x) : WidenUpper(x));
-        // |x| below 2^-29 by its bits (a float compare would signal on a quiet NaN).
-        __m128 tiny = AsFloat(Gt(Set<int32_t>(0x31000000), AsInt(Abs(x))));
-        return IfThenElse(tiny, x, Narrow(y[0], y[1]));
-    } else if constexpr (L == Level::EP) {
-        // No correction for u's rounding: where the split's k is 0 (x in [c - 1, 2c - 1),
-        // c = 1/sqrt(2)), r = m - 1 = u - 1 would lose x's low bits, and r = x is exact;
-        // elsewhere |x| > 0.29 and u's rounding is 2^-24 of u, far below 11 bits. Special lanes
-        // meet only 1 + x and integer steps (k is not 0 there), no blend in front of the
-        // body; |x| below 2^-30 keeps r = m - 1 = 0 (r^2 would underflow) and gives x.
-        __m128 u = Add(Set<float>(1.0f), x);
-        __m128 r, k;
-        I32x4 ki;
-        LogSplit(u, r, k, ki, K::kCentreEP);
-        const I32x4 tiny = Gt(Set<int32_t>(0x30800000), AsInt(Abs(x))); // |x| < 2^-30
-        r = IfThenElse(AsFloat(AndNot(tiny, Eq(ki, Set<int32_t>(0)))), x, r);
-        __m128 p = Mul(r, Horner(r, K::kLnEP));
-        return IfThenElse(AsFloat(tiny), x, Add(p, Mul(k, Set<float>(K::kLn2))));
+        __m128 m, k;
+        LogSplitM(u, m, k);
+        return Or(LogByRecip<LogRecipE, true>(m, k, cu), SignBit(x));
     } else {
-        // ln u + c/u, the split on u = 1 + x itself, in front of the body. c, the rounding
-        // of u, comes beside it as xc - (uc - 1) (exact for every x above -1: 1 and x on
-        // u's grid below 2^24, Fast2Sum's order for |x| < 2) from x held by its high bits:
-        // +inf and positive NaNs to the largest single by a signed minimum, x at or below
-        // -1 (-inf and negative NaNs among them) to just above -1 by an unsigned one, so
-        // that inf - inf and 0/0 raise no flag of their own where the scalar routine
-        // raises none; every other x stays, and no blend on the range test stands in front
-        // of the body. Tiny x give u = 1, r = 0 and c = x: x itself, its sign put back for
-        // -0.
-        const __m128 one = Set<float>(1.0f);
-        __m128 u = Add(one, x);
         __m128 r, k;
         LogSplit(u, r, k);
-        const __m128i b = _mm_min_epi32(AsInt(x).v, _mm_set1_epi32(0x7F7FFFFF));
-        const __m128 xc = AsFloat(I32x4{_mm_min_epu32(b, _mm_set1_epi32(int32_t(0xBF7FFFFFu)))});
-        const __m128 uc = Add(one, xc);
-        const __m128 c = Sub(xc, Sub(uc, one));
-        __m128 p = Add(r, Mul(Mul(r, r), Estrin(r, Log1pConst<float>::kLA)));
-        // The division measured faster than c*2^-k*(1 - r) from the split's k.
-        __m128 corr = Add(Div(c, uc), Mul(k, Set<float>(K::kLn2Lo)));
-        return Or(Add(Add(p, corr), Mul(k, Set<float>(K::kLn2Hi))), SignBit(x));
+        const __m128 r2 = Mul(r, r);
+        __m128 p;
+        if constexpr (L == Level::EP)
+            p = Add(r, Mul(r2, Horner(r, K::kLnEP)));
+        else
+            p = Add(r, Mul(r2, Horner(r, Log1pConst<float>::kLA)));
+        return Or(Add(Add(p, Mul(k, Set<float>(K::kLn2))), cu), SignBit(x));
     }
 }
 

@@ -32,13 +32,11 @@ struct LogConst<float> {
     // ln 2 rounded, and in two parts whose head times k (|k| < 2^8) is exact.
     static constexpr float kLn2 = 0x1.62e43p-1f;
     static constexpr float kLn2Hi = 0x1.62e4p-1f, kLn2Lo = 0x1.7f7d1cp-20f;
-    // EP (sLn, sLog1p, sLog10, sLog2): the split around 1/sqrt(2) instead, so that where
-    // k*log(2) and the polynomial cancel (x just above 2c or below c) neither is more
-    // than the result, and P(r) of ln(1 + r) = r*P(r) on r in [c - 1, 2c - 1), four
-    // coefficients, fitted by tools/explog/ln_single.sollya (EP): about 2^-11.48.
-    static constexpr uint32_t kCentreEP = 0x3F3504F3u; // 1/sqrt(2) rounded
-    static constexpr float kLnEP[] = {0x1.ffd96cp-1f, -0x1.010bf6p-1f, 0x1.6ae48ap-2f,
-                                      -0x1.d14aeep-3f};
+    // EP (sLn, sLog1p): Q(r) of ln(1 + r) = r + r^2*Q(r) on the split around 2/3,
+    // r in [-1/3, 1/3), Horner's rule from the top: -0.5, 0x3EAA7160, 0xBE88E8FE,
+    // 0x3E612933 (about 2^-11.6 with the roundings; the level asks for 11 bits).
+    static constexpr float kLnEP[] = {-0x1p-1f, 0x1.54e2cp-2f, -0x1.11d1fcp-2f,
+                                      0x1.c25266p-3f};
 };
 
 template <>
@@ -95,6 +93,84 @@ inline void LogSplit(__m128 x, __m128& r, __m128& k, I32x4& ki, uint32_t centre 
 inline void LogSplit(__m128 x, __m128& r, __m128& k) {
     I32x4 ki;
     LogSplit(x, r, k, ki);
+}
+
+// Single HA on a reciprocal: x = 2^k * m by the split around 2/3, m in [2/3, 4/3); rcpps
+// of m rounded to 2^-6 by roundps, rc = t/64 (t from 48 to 96, whatever the estimate's
+// low bits), is the reducer and t - 48 the row. m*rc - 1 = (mh*rc - 1) + ml*rc with mh m's
+// top 17 bits: mh*rc and the difference are exact, and so is the sum, r: m*rc lies on
+// the grid of 2^-30 (2^-29 above 1) and |r| <= (4/3)/128 + 1.5*2^-12 < 2^-6.5.
+// log_B x = H + c*r + r^2*Q(r) + (k*log_B(2)lo + Tlo), H = k*log_B(2)hi + Thi exact (both
+// on the 2^-14 grid), c = log_B(e) in a 12-bit head and the rest: c*r's head ch*rh (rh
+// r's top 12 bits) is exact, H + ch*rh by Fast2Sum (H is 0, or at least |log_B(65/64)|,
+// above |c*r|), and the rest, at most 2^-6 of the result, joins the error. About 0.52 ulp.
+struct LogRecipE {
+    static constexpr const float (*kRows)[2] = single::lnRecipRows;
+    static constexpr float kPerKHi = 0x1.62e8p-1f, kPerKLo = -0x1.e8082ep-16f;
+    static constexpr float kCHi = 1.0f, kCLo = 0.0f;
+    // Q(r), fitted by tools/explog/log_single_rcp.sollya.
+    static constexpr float kQ[] = {-0x1p-1f, 0x1.555aa6p-2f, -0x1.0004b2p-2f};
+};
+struct LogRecip10 {
+    static constexpr const float (*kRows)[2] = single::log10RecipRows;
+    static constexpr float kPerKHi = 0x1.344p-2f, kPerKLo = 0x1.3509f8p-18f;
+    static constexpr float kCHi = 0x1.bccp-2f, kCLo = -0x1.09d5b2p-15f;
+    static constexpr float kQ[] = {-0x1.bcb7bp-3f, 0x1.287f14p-3f, -0x1.bd25bcp-4f};
+};
+struct LogRecip2 {
+    static constexpr const float (*kRows)[2] = single::log2RecipRows;
+    static constexpr float kPerKHi = 1.0f, kPerKLo = 0.0f;
+    static constexpr float kCHi = 0x1.716p+0f, kCLo = -0x1.7135a8p-13f;
+    static constexpr float kQ[] = {-0x1.71546ep-1f, 0x1.ec7848p-2f, -0x1.73dcbp-2f};
+};
+
+// m and k of the split around 2/3 (LogSplit's, before r = m - 1).
+inline void LogSplitM(__m128 x, __m128& m, __m128& k) {
+    using F = Format<float>;
+    const I32x4 c = Set<uint32_t>(0x3F2AAAABu);
+    I32x4 d = Sub(AsInt(x), c);
+    k = ToFloat(ShiftRightSigned<F::kMantBits>(d));
+    m = AsFloat(Add(And(d, Set<uint32_t>(F::kMant)), c));
+}
+
+// log_B of 2^k * m (above), with `extra` added to the small terms (Log1p's c/u; zero
+// elsewhere). Any m in [2/3, 4/3) gives a row, so special lanes need no blend.
+template <class B, bool kExtra = false>
+BRENN_VEC __m128 LogByRecip(__m128 m, __m128 k, __m128 extra = _mm_setzero_ps()) {
+    const __m128 one = Set<float>(1.0f);
+    const __m128 t = RoundEven(Mul(ApproxRecip(m), Set<float>(64.0f)));
+    const __m128 rc = Mul(t, Set<float>(0x1p-6f));
+    // The rows' byte offsets from the table's row 48, t*8, formed in the vector and
+    // taken out two at a time (each word widens to an address as it is moved).
+    const I32x4 off = ShiftLeft<3>(TruncToInt(t));
+    const uint64_t o01 = uint64_t(_mm_cvtsi128_si64(off.v));
+    const uint64_t o23 = uint64_t(_mm_extract_epi64(off.v, 1));
+    const char* base = reinterpret_cast<const char*>(B::kRows) - 48 * sizeof(B::kRows[0]);
+    __m128 thi, tlo;
+    LoadTransposed(reinterpret_cast<const float*>(base + uint32_t(o01)),
+                   reinterpret_cast<const float*>(base + (o01 >> 32)),
+                   reinterpret_cast<const float*>(base + uint32_t(o23)),
+                   reinterpret_cast<const float*>(base + (o23 >> 32)), thi, tlo);
+    const __m128 mh = And(m, AsFloat(Set<uint32_t>(0xFFFFFF80u)));
+    const __m128 ml = Sub(m, mh);
+    const __m128 r = Add(Sub(Mul(mh, rc), one), Mul(ml, rc)); // exact
+    const __m128 h = B::kPerKHi == 1.0f ? Add(k, thi) : Add(Mul(k, Set<float>(B::kPerKHi)), thi);
+    const __m128 low = B::kPerKLo == 0.0f ? tlo : Add(Mul(k, Set<float>(B::kPerKLo)), tlo);
+    const __m128 q = Mul(Mul(r, r), Horner(r, B::kQ));
+    __m128 s, e, rest;
+    if constexpr (B::kCHi == 1.0f) {
+        FastTwoSum(h, r, s, e);
+        rest = Add(Add(e, low), q);
+    } else {
+        const __m128 rh = And(r, AsFloat(Set<uint32_t>(0xFFFFF000u)));
+        const __m128 rl = Sub(r, rh);
+        const __m128 ch = Set<float>(B::kCHi);
+        FastTwoSum(h, Mul(rh, ch), s, e);
+        const __m128 lin = Add(Mul(rl, ch), Mul(r, Set<float>(B::kCLo)));
+        rest = Add(Add(Add(e, lin), low), q);
+    }
+    if constexpr (kExtra) rest = Add(rest, extra);
+    return Add(s, rest);
 }
 
 // The reduction of the double core for positive normal x, two lanes: x = 2^k * m,
