@@ -427,20 +427,39 @@ float SDiv(float a, float b, int slot) {
     return a * r;
 }
 
-// The single Sqrt scalar routine for a positive finite x: x in double (a denormal times
-// 2^200), M = m * 2^p for m in [1, 2) and p the exponent's parity, the seed
-// 1/sqrt((1 + i/256) * 2^p) at m's top eight bits i (through long double, which rounds
-// all 512 seeds as the table has them), three Goldschmidt steps, the root scaled by 2^q.
-float SSqrtScalar(float x) {
+// The single Sqrt and InvSqrt scalar routines for a positive finite x: x in double (a
+// denormal times 2^200), M = m * 2^p for m in [1, 2) and p the exponent's parity, the
+// seed r = 1/sqrt((1 + i/256) * 2^p) at m's top eight bits i (through long double, which
+// rounds all 512 seeds as the table has them); g = M*r, h = r/2 and three Goldschmidt
+// steps; the root g * 2^q, the reciprocal root 2h * 2^-q.
+struct RootParts {
+    double g, h;
+    int q;
+};
+RootParts SingleRootSteps(float x) {
     double xd = x;
     int scale = 0;
     if (x < FLT_MIN) xd *= 0x1p200, scale = -100;
-    int e = BiasedExponent(xd) - 1023, p = e & 1, q = (e - p) / 2 + scale;
+    int e = BiasedExponent(xd) - 1023, p = e & 1;
     double m =
         __builtin_bit_cast(double, (Bits(xd) & 0x000FFFFFFFFFFFFFull) | 0x3FF0000000000000ull);
     int i = int((Bits(xd) >> 44) & 0xFF);
-    double seed = double(1.0L / sqrtl((256.0L + i) / 256.0L * (p ? 2 : 1)));
-    return float(Goldschmidt(m * (p ? 2.0 : 1.0), seed, 3) * Pow2(q));
+    double r = double(1.0L / sqrtl((256.0L + i) / 256.0L * (p ? 2 : 1)));
+    double mm = m * (p ? 2.0 : 1.0), g = mm * r, h = 0.5 * r;
+    for (int k = 0; k < 3; ++k) {
+        double d = 0.5 - g * h;
+        g = g + g * d;
+        h = h + h * d;
+    }
+    return {g, h, (e - p) / 2 + scale};
+}
+float SSqrtScalar(float x) {
+    RootParts s = SingleRootSteps(x);
+    return float(s.g * Pow2(s.q));
+}
+float SInvSqrtScalar(float x) {
+    RootParts s = SingleRootSteps(x);
+    return float(2 * s.h * Pow2(-s.q));
 }
 
 // Uniform bit patterns of magnitude in [lo, hi), of either sign where asked.
@@ -568,30 +587,40 @@ TEST(ElementarySteps, RootChains) {
     brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);
 }
 
-TEST(ElementarySteps, SingleSqrtScalarRoutine) {
+TEST(ElementarySteps, SingleRootScalarRoutines) {
     brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_IGNORE);
-    // Every 13th positive denormal and every value above the body's window: the routine's
-    // steps bit for bit and the correctly rounded root, at every level (the routine is
-    // the same for all three).
+    // Every 13th positive denormal and every value above the bodies' windows: the
+    // routine's steps bit for bit and the correctly rounded root and reciprocal root, at
+    // every level (the routines are the same for all three).
     std::vector<float> x;
     for (uint32_t b = 1; b < 0x00800000u; b += 13)
         x.push_back(__builtin_bit_cast(float, b));
-    for (uint32_t b = 0x7F7FF001u; b < 0x7F800000u; ++b)
+    for (uint32_t b = 0x7F7FF002u; b < 0x7F800000u; ++b)
         x.push_back(__builtin_bit_cast(float, b));
     std::vector<float> y(x.size());
     for (int slot = 0; slot < 3; ++slot) {
         As<Unary<float>>(Slot("sSqrt", slot))(int(x.size()), x.data(), y.data());
         for (size_t i = 0; i < x.size(); ++i) {
-            float want = steps::SSqrtScalar(x[i]);
-            ASSERT_EQ(Bits(y[i]), Bits(want)) << "sSqrt slot " << slot << " of " << x[i];
+            ASSERT_EQ(Bits(y[i]), Bits(steps::SSqrtScalar(x[i])))
+                << "sSqrt slot " << slot << " of " << x[i];
             ASSERT_EQ(y[i], float(std::sqrt(double(x[i]))))
                 << "sSqrt slot " << slot << " of " << x[i];
+        }
+        As<Unary<float>>(Slot("sInvSqrt", slot))(int(x.size()), x.data(), y.data());
+        for (size_t i = 0; i < x.size(); ++i) {
+            ASSERT_EQ(Bits(y[i]), Bits(steps::SInvSqrtScalar(x[i])))
+                << "sInvSqrt slot " << slot << " of " << x[i];
+            ASSERT_EQ(y[i], float(1.0L / sqrtl(x[i])))
+                << "sInvSqrt slot " << slot << " of " << x[i];
         }
     }
     // One element a call, the status too: the smallest denormal, the largest, the top.
     for (float v : {FLT_TRUE_MIN, std::nextafter(FLT_MIN, 0.0f), FLT_MAX}) {
         int st = -1;
         EXPECT_EQ(CallUnary(As<Unary<float>>(Slot("sSqrt", 1)), v, &st), steps::SSqrtScalar(v));
+        EXPECT_EQ(st, 0);
+        EXPECT_EQ(CallUnary(As<Unary<float>>(Slot("sInvSqrt", 0)), v, &st),
+                  steps::SInvSqrtScalar(v));
         EXPECT_EQ(st, 0);
     }
     brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);

@@ -10,9 +10,11 @@
  *
  * Scalar routine: +-0 gives the signed infinity with status 2; -inf and negatives NaN
  * with status 1; +inf gives +0, NaN itself; denormals and values near the top of the
- * range their result through scaling by powers of two, status 0. */
+ * range, status 0, in single from the table's seed and Goldschmidt steps as Sqrt's
+ * routine (root_scalar.h), in double by the accurate chain with scaling. */
 #include "frame/kernels.h"
 #include "vecmath/arith/ranges.h"
+#include "vecmath/arith/root_scalar.h"
 #include "vecmath/arith/seed.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
@@ -33,11 +35,21 @@ inline double InvSqrtAccurate(double x) {
     return GetLane(AccurateInvSqrt(Set<double>(x))) * scale;
 }
 
-template <class T>
-int InvSqrtScalar(const T* a, T* y) {
+// Double: other x through the accurate chain with scaling.
+int InvSqrtScalar(const double* a, double* y) {
     return PoleAtZeroScalar(
-        *a, y, [](T x) { return T(1) / Keep(x); }, T(0),
-        [](T x) { return T(InvSqrtAccurate(double(x))); });
+        *a, y, [](double x) { return 1 / Keep(x); }, 0.0,
+        [](double x) { return InvSqrtAccurate(x); });
+}
+// Single: other x (denormals, the top of the range) as for Sqrt, 2h * 2^-q from the
+// table's seed and Goldschmidt steps in double (root_scalar.h), narrowed once.
+int InvSqrtScalar(const float* a, float* y) {
+    return PoleAtZeroScalar(
+        *a, y, [](float x) { return 1 / Keep(x); }, 0.0f,
+        [](float x) {
+            RootParts parts = SingleRootSteps(x);
+            return float(2 * parts.h * TwoTo(-parts.q));
+        });
 }
 
 // One Newton step for 1/sqrt(x) from r: (-0.5*r)*(x*r*r - 3).

@@ -18,7 +18,7 @@
 #include "frame/kernels.h"
 #include "vecmath/arith/ranges.h"
 #include "vecmath/arith/seed.h"
-#include "vecmath/arith/sqrt_tables.h"
+#include "vecmath/arith/root_scalar.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 
@@ -68,17 +68,8 @@ int SqrtScalar(const double* a, double* y) {
 }
 
 // Single: the exponent field all ones gives x + x (+inf, NaN quieted), or NaN with status
-// 1 for -inf; +-0 gives itself; negatives NaN with status 1. Otherwise x in double (a
-// denormal times 2^200) is m * 2^(2q + p), m in [1, 2) and p the exponent's low bit; the
-// seed r = 1/sqrt(M) of M = m * 2^p (m times the parity's constant row) from the table
-// at m's top eight bits, then Goldschmidt on M and r, and the root M^(1/2) * 2^q narrowed
-// once. One step from the eight-bit seed leaves 2^-17.4 (68 ulp of the single result);
-// two, as in the HA body, 2^-34, within 0.5 ulp and 2^-11 but 304 of the inputs that
-// come here misrounded (the HA level is correctly rounded); three leave the roundings
-// of double alone, and every such input (all denormals, the top 4095) gets its
-// correctly rounded root.
-inline constexpr double kParityRow[2] = {1.0, 2.0};
-
+// 1 for -inf; +-0 gives itself; negatives NaN with status 1; other x the root from the
+// table's seed and Goldschmidt steps in double (root_scalar.h), narrowed once.
 int SqrtScalar(const float* a, float* y) {
     float x = *a;
     uint32_t bits = BitsOf(x);
@@ -98,19 +89,8 @@ int SqrtScalar(const float* a, float* y) {
         *y = Keep(0.0f) / Keep(0.0f);
         return status::kDomain;
     }
-    double xd = x;
-    int scale = 0;
-    if ((bits & Format<float>::kExpField) == 0) {
-        xd *= 0x1p200; // 1.6069380442589903e60
-        scale = -100;
-    }
-    uint64_t b = BitsOf(xd);
-    int e = int(b >> 52) - 1023;
-    int p = e & 1, q = (e - p) / 2 + scale;
-    double m = FromBits<double>((b & Format<double>::kMant) | Format<double>::kOne);
-    double r = kSqrtSeeds[256 * p + int((b >> 44) & 0xFF)];
-    double root = GetLane(Goldschmidt<3>(Set<double>(m * kParityRow[p]), Set<double>(r)));
-    *y = float(root * FromBits<double>(uint64_t(q + 1023) << 52));
+    RootParts parts = SingleRootSteps(x);
+    *y = float(parts.g * TwoTo(parts.q));
     return status::kNone;
 }
 
