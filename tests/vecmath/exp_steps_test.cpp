@@ -184,5 +184,172 @@ TEST(ExpSteps, SingleExpWindowAndScalarRoutines) {
     }
 }
 
+
+// ---- sExp2, sExp10: one kernel for every level ----
+
+float SExp2(float x) {
+    float t = x + 196608.0f;
+    float n = t - 196608.0f;
+    float r = x - n;
+    float p = r * (F(0x3E75FDFC) * r + F(0x3F317243));
+    const float* row = vm::single::expTable64[B(t) & 0x3F];
+    float y = (p + row[1]) * row[0] + row[0];
+    return F(B(y) + ((B(t) >> 6) << 23));
+}
+
+float SExp10(float x) {
+    float t = x * F(0x43D49A78) + kShifterS;
+    float n = t - kShifterS;
+    float r = x - n * F(0x3B1A4000) - n * F(0xB5FB2BD8);
+    float p = r * (F(0x4029A929) * r + F(0x40135D97));
+    const float* row = vm::single::expTable128[B(t) & 0x7F];
+    float y = (p + row[1]) * row[0] + row[0];
+    return F(B(y) + ((B(t) >> 7) << 23));
+}
+
+// One kernel in all three slots, the body's value bit for bit across the window and at
+// its last arguments (126.0, 37.9297791).
+template <class Ref>
+void ExpectOneKernel(RowIndex row, float edge, Ref ref, unsigned seed) {
+    auto k = K<float>(row, frame::SlotHA);
+    EXPECT_EQ(k, K<float>(row, frame::SlotLA));
+    EXPECT_EQ(k, K<float>(row, frame::SlotEP));
+    ExpectSteps(row, frame::SlotHA, Uniform(-edge, edge, 300000, seed), ref);
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    for (float v : {edge, -edge}) {
+        int status;
+        EXPECT_EQ(B(CallUnary(k, v, &status)), B(ref(v))) << v;
+        EXPECT_EQ(status, 0);
+    }
+}
+
+TEST(ExpSteps, SingleExp2AndExp10) {
+    ExpectOneKernel(frame::Row_sExp2, 126.0f, SExp2, 2);
+    ExpectOneKernel(frame::Row_sExp10, F(0x4217B818), SExp10, 3);
+    // Exact at integers inside the window.
+    auto k = K<float>(frame::Row_sExp2, frame::SlotHA);
+    for (int i = -126; i <= 126; ++i)
+        EXPECT_EQ(CallUnary(k, float(i)), std::ldexp(1.0f, i)) << i;
+    // Just below the windows the results are denormal: the scalar routine's, status 4.
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    int status;
+    EXPECT_EQ(CallUnary(k, -126.5f, &status), float(exp2l(-126.5L)));
+    EXPECT_EQ(status, 4);
+    float y = CallUnary(K<float>(frame::Row_sExp10, frame::SlotHA), -38.0f, &status);
+    EXPECT_EQ(status, 4);
+    EXPECT_LE(UlpError(y, exp10l(-38.0L)), 1.0);
+}
+
+
+// ---- dExp ----
+
+constexpr double kShifterD = 0x1.8p+52;
+
+// EP: 128/ln 2, ln2/128 in one part, T*(1 + r + c*r^2) on the table of 128's high parts.
+double DExpEP(double x) {
+    double t = x * D(0x40671547652B82FEull) + kShifterD;
+    double n = t - kShifterD;
+    double r = x - n * D(0x3F762E42FEFA39EFull);
+    double q = (D(0x3FDFFFFC2808F7E8ull) * r + 1.0) * r + 1.0;
+    int64_t k = int64_t(n);
+    return std::ldexp(vm::expTable128[k & 127][0] * q, int(k >> 7));
+}
+
+// LA: 1024/ln 2, ln2/1024 in two parts, degree 3 on the one-part table of 1024.
+double DExpLA(double x) {
+    double t = x * D(0x40971547652B82FEull) + kShifterD;
+    double n = t - kShifterD;
+    double r = x - n * D(0x3F462E42FEC00000ull) - n * D(0x3D5D1CF79ABC9E3Bull);
+    double p = r + r * r * (0.50000000357965391 + r * 0.16666666666666669);
+    int64_t k = int64_t(n);
+    double T = vm::expTable1024[k & 1023];
+    return std::ldexp(T + T * p, int(k >> 10));
+}
+
+// HA: 64/ln 2, ln2/64 in two parts, degree 5 on the two-part table of 64.
+double DExpHA(double x) {
+    double t = x * D(0x40571547652B82FEull) + kShifterD;
+    double n = t - kShifterD;
+    double r = x - n * D(0x3F862E42FEFA0000ull) - n * D(0x3D1CF79ABC9E3B3Aull);
+    double h = 0.0083333341644141103;
+    for (double c : {0.041666723686623851, 0.16666666666677971, 0.49999999999947747})
+        h = h * r + c;
+    double p = r + r * r * h;
+    int64_t k = int64_t(n);
+    const double* row = vm::expTable64[k & 63];
+    return std::ldexp(row[0] + (row[0] * p + row[1]), int(k >> 6));
+}
+
+TEST(ExpSteps, DoubleExpBodies) {
+    const double edge = D(0x4086232AFFFFFFFFull);
+    std::vector<double> x = Uniform(-edge, edge, 300000, 4);
+    ExpectSteps(frame::Row_dExp, frame::SlotEP, x, DExpEP);
+    ExpectSteps(frame::Row_dExp, frame::SlotLA, x, DExpLA);
+    ExpectSteps(frame::Row_dExp, frame::SlotHA, x, DExpHA);
+    // Past the window's high word the scalar routine: the results just below the least
+    // normal one are denormal, status 4.
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    for (int slot : {frame::SlotLA, frame::SlotHA, frame::SlotEP}) {
+        int status;
+        double y = CallUnary(K<double>(frame::Row_dExp, slot), -708.5, &status);
+        EXPECT_EQ(status, 4) << slot;
+        EXPECT_LE(UlpError(y, expl(-708.5L)), 1.0) << slot;
+        CallUnary(K<double>(frame::Row_dExp, slot), D(0x4086232B00000000ull), &status);
+        EXPECT_EQ(status, 0) << slot;
+    }
+}
+
+
+// ---- dExp2, dExp10: one kernel for every level, the single layout in double ----
+
+double DExp2(double x) {
+    const double sh = 0x1.8p+52 * 0x1p-6;
+    double t = x + sh;
+    double r = x - (t - sh);
+    double h = 0x1.5d86c1b63892bp-10;
+    for (double c : {0x1.3b2ad318a479fp-7, 0x1.c6b08d707d06dp-5, 0x1.ebfbdff82a2c3p-3,
+                     0x1.62e42fefa39efp-1})
+        h = h * r + c;
+    double p = r * h;
+    int64_t k = int64_t((t - sh) * 64);
+    const double* row = vm::expTable64[k & 63];
+    return std::ldexp(row[0] + (row[0] * p + row[1]), int(k >> 6));
+}
+
+double DExp10(double x) {
+    double t = x * 0x1.a934f0979a371p+8 + kShifterD;
+    double n = t - kShifterD;
+    double r = x - n * 0x1.3441350ap-9 - n * -0x1.0c0219dc1da99p-46;
+    double h = 0x1.1457f0fb90cc4p-1;
+    for (double c : {0x1.2bd7673f39d41p+0, 0x1.0470591c9b9fap+1, 0x1.53524c73ce8eep+1,
+                     0x1.26bb1bbb55516p+1})
+        h = h * r + c;
+    double p = r * h;
+    int64_t k = int64_t(n);
+    const double* row = vm::expTable128[k & 127];
+    return std::ldexp(row[0] + (row[0] * p + row[1]), int(k >> 7));
+}
+
+TEST(ExpSteps, DoubleExp2AndExp10) {
+    for (RowIndex row : {frame::Row_dExp2, frame::Row_dExp10}) {
+        EXPECT_EQ(K<double>(row, frame::SlotHA), K<double>(row, frame::SlotLA));
+        EXPECT_EQ(K<double>(row, frame::SlotHA), K<double>(row, frame::SlotEP));
+    }
+    const double e2 = D(0x408FEFFFFFFFFFFFull), e10 = D(0x40733A70FFFFFFFFull);
+    ExpectSteps(frame::Row_dExp2, frame::SlotHA, Uniform(-e2, e2, 300000, 5), DExp2);
+    ExpectSteps(frame::Row_dExp10, frame::SlotHA, Uniform(-e10, e10, 300000, 6), DExp10);
+    // Exact at integers, and from the windows' ends on the scalar routine's denormals.
+    auto k2 = K<double>(frame::Row_dExp2, frame::SlotHA);
+    for (int i = -1021; i <= 1021; i += 7)
+        EXPECT_EQ(CallUnary(k2, double(i)), std::ldexp(1.0, i)) << i;
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    int status;
+    EXPECT_EQ(CallUnary(k2, -1022.5, &status), double(exp2l(-1022.5L)));
+    EXPECT_EQ(status, 4);
+    double y = CallUnary(K<double>(frame::Row_dExp10, frame::SlotHA), -307.66, &status);
+    EXPECT_EQ(status, 4);
+    EXPECT_LE(UlpError(y, expl((long double)(-307.66) * 2.30258509299404568402L)), 1.0);
+}
+
 } // namespace
 } // namespace brenn::test

@@ -5,9 +5,8 @@
  * two-part ln 2 and a degree-5 polynomial, 2^n put in the same way; HA reduces by
  * ln2/128 with the 128-entry table and a second-order correction, 2^m as a float scale.
  * dExp: n and j from x*N/ln2 by the shifter; T*(1 + p(r)) with the table of N entries:
- * LA N = 1024 and a cubic, HA N = 256 in two parts and degree 4 (exp_core256.h); EP
- * 2^(x*log2e) on the table of 128 and a quadratic in base 2 (exp_core.h Exp2Table128,
- * the form of dExp2 EP; x*log2e rounds by 2^-44.5 of the result).
+ * LA N = 1024, ln 2 in two parts and a cubic; HA N = 64 in two parts, ln 2 in two
+ * parts and degree 5; EP N = 128 (the high parts), ln 2 in one part and 1 + r + c*r^2.
  * Range test on |x| above 87.33654 in single (a little inside the last normal results),
  * on x from -708.39 to 709.77 in double; the special lanes, overflow, underflow and
  * denormal results go to the scalar routines: in single one for LA and EP in single
@@ -18,11 +17,9 @@
  *
  * Measured (brenn_accuracy, 2*10^6 samples): sExp LA 2.76 ulp, HA 0.55 ulp, EP 12.4 bits;
  * dExp LA 1.79 ulp, HA 0.67 ulp, EP 30.2 bits.
- * The double polynomials come from tools/explog/exp_double.sollya (LA) and
- * exp2_10_double.sollya (EP). */
+ * Every coefficient is the family's given one; none is fitted here. */
 #include "frame/kernels.h"
 #include "vecmath/explog/exp_core.h"
-#include "vecmath/explog/exp_core256.h"
 #include "vecmath/explog/exp_fixup.h"
 #include "vecmath/explog/exp_scalar.h"
 #include "vecmath/explog/flat.h"
@@ -44,9 +41,9 @@ struct ExpWindow<float, L> {
 };
 template <Level L>
 struct ExpWindow<double, L> {
-    // By high words: -708.396 (inside the last normal results) to 709.770 (m <= 1023 at
-    // every level, the result below 2^1024).
-    static constexpr SplitWindowHigh kWindow = {0x40862E28u, 0xC086232Au};
+    // In double on the high word of |x|, above 0x4086232A (708.39, inside the last normal
+    // results).
+    static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x4086232Au};
 };
 
 template <Level L>
@@ -213,19 +210,31 @@ int ExpScalar(const float* a, float* y) {
     return L == Level::HA ? ExpScalarHA(a, y) : ExpScalarLaEp(a, y);
 }
 
-// Double EP: 2^(x*log2e) on the table of 128 (exp_core.h Exp2Table128).
-constexpr double kLog2e = 0x1.71547652b82fep+0;
+// Double EP: ln2/128 steps with ln 2 in one part, the table of 128 (its high parts) and
+// T*(1 + r + c*r^2).
+constexpr double kInvStep128 = 0x1.71547652b82fep+7, kStep128 = 0x1.62e42fefa39efp-8;
+constexpr double kExpEpC = 0x1.ffffc2808f7e8p-2; // 0.49999908361121337
 // Double LA: ln2/1024 steps in two parts, r + r^2*(c2 + r*c3), the table of 1024.
 constexpr double kInvStep1024 = 0x1.71547652b82fep+10, kStep1024Hi = 0x1.62e42fec00000p-11,
                  kStep1024Lo = 0x1.d1cf79abc9e3bp-42;
-// c2 and c3, fitted by tools/explog/exp_double.sollya (LA).
-constexpr double kExpLaC[] = {0x1.00000021f6929p-1, 0x1.55555559fd862p-3};
+constexpr double kExpLaC[] = {0x1.0000001ebfbe0p-1, 0x1.5555555555556p-3};
+// Double HA: ln2/64 steps in two parts (exp_core.h ExpStep64), the two-part table of 64
+// and degree 5, r + r^2*(c2 + r*(c3 + r*(c4 + r*c5))).
+// 0.49999999999947747, 0.16666666666677971, 0.041666723686623851, 0.0083333341644141103
+constexpr double kExpHaC[] = {0x1.fffffffffdb3bp-2, 0x1.555555555653ep-3, 0x1.555573f218b93p-5,
+                              0x1.111112d9f549bp-7};
 
 template <Level L>
 inline __m128d ExpOf(__m128d x) {
     const __m128d shifter = Set<double>(Format<double>::kShifter);
     if constexpr (L == Level::EP) {
-        return Exp2Table128(Mul(x, Set<double>(kLog2e)));
+        __m128d t = Add(Mul(x, Set<double>(kInvStep128)), shifter);
+        __m128d n = Sub(t, shifter);
+        __m128d r = Sub(x, Mul(n, Set<double>(kStep128)));
+        const __m128d one = Set<double>(1.0);
+        __m128d q = Add(Mul(Add(Mul(Set<double>(kExpEpC), r), one), r), one);
+        __m128d tv = GatherColumn(expTable128, AsInt(t), 127);
+        return ScaleByLowWord<7>(Mul(tv, q), t);
     } else if constexpr (L == Level::LA) {
         __m128d t = Add(Mul(x, Set<double>(kInvStep1024)), shifter);
         __m128d n = Sub(t, shifter);
@@ -238,16 +247,16 @@ inline __m128d ExpOf(__m128d x) {
         __m128d y = Add(tv, Mul(tv, p));
         return ScaleByLowWord<10>(y, t);
     } else {
-        // The table of 256 in two parts (exp_core256.h) and degree 4.
-        using S = ExpStep256;
+        using S = ExpStep64;
         __m128d t = Add(Mul(x, Set<double>(S::kInvStep)), shifter);
         __m128d n = Sub(t, shifter);
         __m128d r = Sub(Sub(x, Mul(n, Set<double>(S::kStepHi))), Mul(n, Set<double>(S::kStepLo)));
-        __m128d r2 = Mul(r, r);
-        __m128d q = Add(Add(Set<double>(S::kC[0]), Mul(r, Set<double>(S::kC[1]))),
-                        Mul(r2, Set<double>(S::kC[2])));
-        __m128d p = Add(r, Mul(r2, q));
-        return ScaleByLowWord<8>(ExpJoin256(t, p), t);
+        __m128d p = Add(r, Mul(Mul(r, r), Horner(r, kExpHaC)));
+        __m128d th, tl;
+        ExpRows64(t, th, tl);
+        // Inside the window 2^m*y is normal: m goes into the exponent field by an integer
+        // addition.
+        return ScaleByLowWord<6>(Add(th, Add(Mul(th, p), tl)), t);
     }
 }
 
@@ -263,7 +272,7 @@ struct ExpBody {
     static V Value(V x) { return ExpOf<L>(x); }
     static V Eval(V x, V& special) {
         special = RangeTest(x, kWindow);
-        x = IfThenZeroElse(special, x); // special lanes run on 0: no flags of their own
+        x = IfThenElse(special, Zero<T>(), x); // special lanes run on 0: no flags of their own
         return ExpOf<L>(x);
     }
     static int Scalar(const T* a, T* y) { return ExpScalar<L>(a, y); }

@@ -101,25 +101,6 @@ inline __m128 ScaleByLowWord(__m128 y, __m128 t) {
     return AsFloat(Add(AsInt(y), ShiftLeft<Format<float>::kMantBits>(m)));
 }
 
-// 2^y on the table of 128 (expTable128's high parts), the double EP form of Exp, Exp2
-// and Exp10 (of y = x*log2(B), whose rounding is 2^-44 of the exponent at most, 2^-44.5
-// of the result): n = round(128y) by the shifter scaled by 2^-7 (its last place is 2^-7),
-// d = y - n/128 exactly, |d| <= 1/256, and 2^y = 2^(n >> 7)*(T + T*d*(c1 + c2*d)), T =
-// 2^((n & 127)/128) rounded to double; the quadratic by tools/explog/exp2_10_double.sollya
-// (2^-30.1 relative). For -1022 <= y <= 1022 the result is normal (at n >> 7 = -1022,
-// d >= 0): the power goes into the exponent field by an integer addition.
-constexpr double kExp2Quad128[] = {0x1.62e4453e132b5p-1, 0x1.ebfbdff313cfep-3};
-inline __m128d Exp2Table128(__m128d y) {
-    const __m128d shifter = Set<double>(Format<double>::kShifter * 0x1p-7);
-    __m128d t = Add(y, shifter);
-    __m128d d = Sub(y, Sub(t, shifter));
-    const double* row0 = expTable128[LowWord<0>(AsInt(t)) & 127];
-    const double* row1 = expTable128[LowWord<1>(AsInt(t)) & 127];
-    __m128d tv = LoadLanes(row0, row1);
-    __m128d p = Mul(d, Horner(d, kExp2Quad128));
-    return ScaleByLowWord<7>(Add(tv, Mul(tv, p)), t);
-}
-
 // e^x from the shifted t and the reduced r: 2^m*(Thi + (Thi*p + Tlo)), |m| <= 1022.
 template <ExpDegree D>
 inline __m128d ExpAssemble64(__m128d t, __m128d r) {

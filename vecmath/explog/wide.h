@@ -162,7 +162,9 @@ inline int EvalTestOnce(const Vec<typename B::T>* x, Vec<typename B::T>* y) {
         for (int k = 0; k < N; ++k) {
             Vec<T> special = RangeTest(x[k], B::kWindow);
             bits |= MaskBits(special) << (k * L);
-            y[k] = B::Value(IfThenZeroElse(special, x[k])); // special lanes run on 0
+            // Special lanes run on 0, by the mask's sign bit: a double window on the high
+            // word leaves the low word's mask clear.
+            y[k] = B::Value(IfThenElse(special, Zero<T>(), x[k]));
         }
         return bits;
     }
