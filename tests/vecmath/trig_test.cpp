@@ -6,6 +6,7 @@
 #include <cfloat>
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <gtest/gtest.h>
 #include <random>
 #include <string>
@@ -362,25 +363,100 @@ TEST(Trig, SingleTangentOfTinyArgumentsIsItself) {
     }
 }
 
-// EP's cosine gives +-1 exactly within 2^-12 of a multiple of pi (its test for cos 0 = 1
-// reads the remainder's square): the floats nearest k pi that lie within 2^-13 of it, in
-// rounds of ordinary lanes, get (-1)^k.
-TEST(Trig, SingleCosineEPIsOneNearMultiplesOfPi) {
-    std::vector<float> x;
-    std::vector<float> want;
-    for (int k = 1; k * 3.14159265358979323846L < 10000; ++k) {
-        long double m = k * 3.14159265358979323846264338327950288L;
-        float v = float(m);
-        if (fabsl((long double)v - m) >= 0x1p-13L) continue;
-        x.push_back(k % 3 ? v : -v);
-        want.push_back(k % 2 ? -1.0f : 1.0f);
-        x.push_back(0.3f * float(k % 7)); // an ordinary lane beside it
-        want.push_back(NAN);
+// The single sine and cosine short path, step by step in scalar arithmetic: a = |x|,
+// t = a/pi (+ 1/2 for cosine) + 1.5 * 2^23, the sign from t's low bit, n = t - 1.5 * 2^23
+// (- 1/2), r = a - n pi with pi in three single parts (HA: in double, two parts; LA: the
+// same in double where the single remainder's square is below 2^-18), the level's series,
+// and sine's sign of x. Cosine below 2^-12 is 1.0 at LA and EP.
+uint32_t F2U(float v) {
+    uint32_t u;
+    memcpy(&u, &v, 4);
+    return u;
+}
+float U2F(uint32_t u) {
+    float v;
+    memcpy(&v, &u, 4);
+    return v;
+}
+float SinCosSteps(int slot, bool cosine, float x) {
+    const float shifter = 12582912.0f, invPi = U2F(0x3EA2F983);
+    const float p0 = U2F(0x40490000), p1 = U2F(0x3A7DA000), p2 = U2F(0x34222169);
+    const double d0 = 0x1.921fb5444p1, d1 = 0x1.68c234c4c6629p-38;
+    float a = std::fabs(x);
+    float t = a * invPi;
+    if (cosine) t = t + 0.5f;
+    t = t + shifter;
+    uint32_t sign = F2U(t) << 31;
+    float n = t - shifter;
+    if (cosine) n = n - 0.5f;
+    float p;
+    if (slot == 1) {
+        const double c[] = {-0x1.55554bc836587p-3, 0.0083330662460856901, -0.00019809602902257352,
+                            0x1.5dbdf0e4c7deep-19};
+        double r = (double(a) - double(n) * d0) - double(n) * d1, u = r * r;
+        double q = c[3];
+        for (int i = 2; i >= 0; --i)
+            q = u * q + c[i];
+        p = float(r * (u * q + 1.0));
+    } else {
+        float r = ((a - n * p0) - n * p1) - n * p2, u = r * r;
+        if (slot == 2) {
+            p = r * (U2F(0x3F7FF87C) +
+                     u * (U2F(cosine ? 0xBE29E73F : 0xBE29E72F) + u * U2F(0x3BF84524)));
+        } else {
+            if (F2U(u) < 0x36800000u) {
+                r = float((double(a) - double(n) * d0) - double(n) * d1);
+                u = r * r;
+            }
+            const float c[] = {-0x1.55554cp-3f, 0x1.110edap-7f, -0x1.9f70fp-13f, 0x1.5dc908p-19f};
+            float q = c[3];
+            for (int i = 2; i >= 0; --i)
+                q = u * q + c[i];
+            p = r + r * u * q;
+        }
+        if (cosine && a < 0x1p-12f) return 1.0f;
     }
-    ASSERT_GT(x.size(), 1000u);
-    std::vector<float> c = Call("sCos", 2, x);
-    for (size_t i = 0; i < x.size(); i += 2)
-        EXPECT_EQ(c[i], want[i]) << std::hexfloat << x[i];
+    if (!cosine) sign ^= F2U(x) & 0x80000000u;
+    return U2F(F2U(p) ^ sign);
+}
+
+// Every slot of sSin, sCos and sSinCos against those steps, bit for bit: random arguments
+// over the whole short path (uniform, and by exponent down to the denormals), the floats
+// beside multiples of pi/2, zeros, and the limit 10000 itself.
+TEST(Trig, SingleSinCosFollowTheirSteps) {
+    std::mt19937 gen(41);
+    std::uniform_real_distribution<float> wide(-10000.0f, 10000.0f);
+    std::vector<float> x = {0.0f, -0.0f, 10000.0f, -10000.0f, 0x1p-149f, 0x1p-12f, 0x1.fffffep-13f};
+    for (int i = 0; i < 200000; ++i)
+        x.push_back(wide(gen));
+    for (int i = 0; i < 100000; ++i) {
+        float v = std::ldexp(1.0f + float(gen() & 0x7FFFFF) * 0x1p-23f, int(gen() % 163) - 149);
+        if (std::fabs(v) <= 10000.0f) x.push_back(i % 2 ? -v : v);
+    }
+    for (int k = 1; k * 1.5707963267948966 < 10000; ++k) {
+        float m = float(k * 1.5707963267948966L);
+        for (float v : {std::nextafter(m, 0.0f), m, std::nextafter(m, 2e4f)})
+            x.push_back(k % 2 ? v : -v);
+    }
+    for (int slot = 0; slot < kSlots; ++slot) {
+        std::vector<float> s = Call("sSin", slot, x), c = Call("sCos", slot, x);
+        std::vector<float> s2(x.size()), c2(x.size());
+        As<TwoRes<float>>(Slot("sSinCos", slot))(int(x.size()), x.data(), s2.data(), c2.data());
+        int bad = 0;
+        for (size_t i = 0; i < x.size() && bad < 5; ++i) {
+            float ws = SinCosSteps(slot, false, x[i]), wc = SinCosSteps(slot, true, x[i]);
+            if (F2U(s[i]) != F2U(ws) || F2U(c[i]) != F2U(wc) || F2U(s2[i]) != F2U(ws) ||
+                F2U(c2[i]) != F2U(wc)) {
+                ++bad;
+                ADD_FAILURE() << "slot " << slot << " x = " << std::hexfloat << x[i] << " sin "
+                              << s[i] << " / " << s2[i] << " want " << ws << ", cos " << c[i]
+                              << " / " << c2[i] << " want " << wc;
+            }
+        }
+    }
+    // EP's sine of 1 is its series on 1 - 0 pi, not the nearest float to sin 1.
+    EXPECT_EQ(F2U(Call("sSin", 2, std::vector<float>{1.0f})[0]), F2U(SinCosSteps(2, false, 1.0f)));
+    EXPECT_NE(Call("sSin", 2, std::vector<float>{1.0f})[0], float(sinl(1.0L)));
 }
 
 // The double cosines within 2^-28 of k pi round to (-1)^k, at every level (EP and LA give

@@ -1,16 +1,18 @@
 /* Sin, Cos and SinCos in single, three levels.
  *
- * Short path (|x| <= 10000): sine takes x with its sign, n = round(x/pi) by the shifter
- * and r = x - n pi, both odd in x, and sin x = (-1)^n sin r; cosine takes a = |x|,
- * n = floor(a/pi) + 1/2 (the half-integer nearest a/pi; floor's parity from its sum with
- * 1.5 * 2^22) and cos a = -(-1)^floor(a/pi) sin(a - n pi), reduced as n pi - a for the
- * minus sign. r lies in [-pi/2, pi/2]; an odd series in r.
+ * Short path (|x| <= 10000): sine takes x with its sign, t = x/pi + shifter, n = t - shifter
+ * and r = x - n pi, all odd in x (the same bits as reducing |x| and putting the sign of x
+ * back), and sin x = (-1)^n sin r with (-1)^n from the low bit of t. Cosine takes a = |x|,
+ * cos a = sin(a + pi/2): t = (a/pi + 1/2) + shifter, the half-integer n = (t - shifter) - 1/2,
+ * r = a - n pi and cos a = (-1)^(n + 1/2) sin r. r lies in [-pi/2, pi/2]; an odd series in r.
  * EP: pi in three single parts, the first two short so that their products with n are
- * exact, and a three-term series (tools/trig/sin_single_ep.sollya). LA: the same
- * reduction, good to 2^-35 absolute, except where a remainder below 2^-9 is seen (a lane
- * near a multiple of pi, by its square): then r in double with pi in two parts, narrowed
- * to single; a five-term single series (tools/trig/sin_single.sollya). HA: r in double always and
- * r (1 + u P(u)) in double, P by Estrin's scheme (tools/trig/sin_single_ha.sollya).
+ * exact, and r (c1 + u (c3 + u c5)), sine and cosine each with its own c3
+ * (tools/trig/sin_single_ep.sollya). LA: the same reduction, good to 2^-35 absolute; a
+ * remainder below 2^-9 (a lane near a multiple of pi, seen by its square) is redone in
+ * double with pi in two parts and narrowed to single, since the single one alone misses
+ * the level there (40 ulp at 250000 inputs); a five-term single series
+ * (tools/trig/sin_single.sollya). HA: r in double with pi in two parts and
+ * r (1 + u (c3 + u (c5 + u (c7 + u c9)))) in double (tools/trig/sin_single_ha.sollya).
  *
  * Measured (brenn_accuracy, 250000 inputs a row): EP 13.2 bits in sSin, sCos and
  * sSinCos; LA 1.79 ulp (sSin), 1.72 ulp (sCos), 1.85 ulp (sSinCos); HA 0.600 ulp (sSin,
@@ -18,9 +20,9 @@
  *
  * Lanes above 10000 in a block take the vector large path of reduce.h as well, and its
  * results are kept for them by mask: the block stays in vector code. Cosine of
- * arguments below 2^-12 is the constant 1.0 at LA and EP (exact at 0; EP gives +-1
- * within 2^-12 of every multiple of pi); HA's rounding gives 1.0 below 2^-13 by itself.
- * Infinity and NaN go to the scalar routine (NaN with status::kDomain for an infinity). */
+ * arguments below 2^-12 is the constant 1.0 at LA and EP (the series at pi/2 is not
+ * exactly 1); HA's double value rounds to 1.0 there by itself. Infinity and NaN go to the
+ * scalar routine (NaN with status::kDomain for an infinity). */
 #include "frame/kernels.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/explog/flat.h"
@@ -32,35 +34,31 @@ namespace {
 
 constexpr uint32_t kLimitS = 0x461C4000; // 10000.0, as bits: the large path above
 
-// The short path's constants. pi in three parts for EP: the first two of 8 and 11
-// significant bits, so that their products with n (13 bits at most) are exact; pi in two
-// double parts for LA and HA, the first with its low 18 bits clear.
-constexpr float kInvPi = 0x1.45f306p-2f;
+// The short path's constants. pi in three parts: the first two of 8 and 11 significant
+// bits, so that their products with n (13 bits at most, 14 with cosine's half) are exact;
+// pi in two double parts for HA and LA's redone lanes, the first with its low 18 bits
+// clear.
+constexpr float kInvPi = 0x1.45f306p-2f; // 0x3EA2F983
+// Bits 0x40490000, 0x3A7DA000, 0x34222169; double 0x400921FB54440000, 0x3D968C234C4C6629.
 constexpr float kPiEP[] = {0x1.92p1f, 0x1.fb4p-11f, 0x1.4442d2p-23f};
 constexpr double kPiD[] = {0x1.921fb5444p1, 0x1.68c234c4c6629p-38};
 // Below it cosine rounds to 1.0 in single.
 constexpr float kCosOne = 0x1p-12f;
 constexpr uint32_t kCosOneBits = 0x39800000; // kCosOne's bits
-// Within 2^-12 of a multiple of pi cosine rounds to +-1 in single: there r, reduced to
-// n pi - a, is within 2^-12 of +-pi/2, and its square at least (pi/2 - 2^-12)^2, whose
-// bits (rounded down) these are.
-constexpr uint32_t kCosOneSqBits = 0x401DDD55;
-// floor(a/pi) added to 1.5 * 2^22 (whose last bit is 1/2): the sum is exact, and its bit 1
-// is the parity of floor(a/pi).
-constexpr float kHalfShifter = 0x1.8p22f;
 
 // The odd series on r in [-pi/2, pi/2], each as the coefficients of a polynomial in
 // u = r^2, lowest degree first.
-// EP: sin r ~ r (c1 + c3 u + c5 u^2) in single coefficients, relative error minimised
-// over [-pi/2, pi/2]. tools/trig/sin_single_ep.sollya.
-constexpr float kSinEP[] = {0x1.fff1d2p-1f, -0x1.53e2e6p-3f, 0x1.f24394p-8f};
+// EP: sin r ~ r (c1 + c3 u + c5 u^2) in single coefficients (0x3F7FF87C, 0xBE29E72F,
+// 0x3BF84524); cosine's set differs in c3 (0xBE29E73F). tools/trig/sin_single_ep.sollya.
+constexpr float kSinEP[] = {0x1.fff0f8p-1f, -0x1.53ce5ep-3f, 0x1.f08a48p-8f};
+constexpr float kCosEP[] = {0x1.fff0f8p-1f, -0x1.53ce7ep-3f, 0x1.f08a48p-8f};
 // LA: sin r ~ r + r u (c3 + c5 u + c7 u^2 + c9 u^3) in single coefficients.
 // tools/trig/sin_single.sollya.
 constexpr float kSinLA[] = {-0x1.55554cp-3f, 0x1.110edap-7f, -0x1.9f70fp-13f, 0x1.5dc908p-19f};
-// HA: the same form in double coefficients, evaluated in double.
-// tools/trig/sin_single_ha.sollya.
-constexpr double kSinHA[] = {-0x1.55554bc8365d6p-3, 0x1.110ed3804ca79p-7, -0x1.9f6ffeea6416ep-13,
-                             0x1.5dbdf0e395368p-19};
+// HA: r (1 + u (c3 + c5 u + c7 u^2 + c9 u^3)) in double coefficients, evaluated in double
+// (c3 0xBFC55554BC836587, c9 0x3EC5DBDF0E4C7DEE). tools/trig/sin_single_ha.sollya.
+constexpr double kSinHA[] = {-0x1.55554bc836587p-3, 0x1.110ed3804ca96p-7, -0x1.9f6ffeea73463p-13,
+                             0x1.5dbdf0e4c7deep-19};
 
 // q[k] = c[0] + u[k] (c[1] + u[k] (...)) for a round's N registers, each step over all
 // of them before the next, so that the chains interleave.
@@ -75,23 +73,14 @@ BRENN_TRIG_HOT void HornerEach(const V* u, const C (&c)[M], V* q) {
     }
 }
 
-// The same four-term polynomial by Estrin's scheme, (c0 + c1 u) + u^2 (c2 + c3 u): a
-// chain of three steps after u, where Horner's takes six.
-template <int N, class V, class C>
-BRENN_TRIG_HOT void EstrinEach(const V* u, const C (&c)[4], V* q) {
-    using T = ElemOf<V>;
-    V hi[N], u2[N];
-    BRENN_EACH(k, N) u2[k] = Mul(u[k], u[k]);
-    BRENN_EACH(k, N) hi[k] = MulAdd(u[k], Set<T>(T(c[3])), Set<T>(T(c[2])));
-    BRENN_EACH(k, N) q[k] = MulAdd(u[k], Set<T>(T(c[1])), Set<T>(T(c[0])));
-    BRENN_EACH(k, N) q[k] = MulAdd(u2[k], hi[k], q[k]);
-}
-
-// EP: r P(r^2).
+// EP: r P(u), P sine's or cosine's set.
 template <int N>
-BRENN_TRIG_HOT void SeriesEP(const __m128* r, const __m128* u, __m128* p) {
+BRENN_TRIG_HOT void SeriesEP(const __m128* r, const __m128* u, bool cosine, __m128* p) {
     __m128 q[N];
-    HornerEach<0, N>(u, kSinEP, q);
+    if (cosine)
+        HornerEach<0, N>(u, kCosEP, q);
+    else
+        HornerEach<0, N>(u, kSinEP, q);
     BRENN_EACH(k, N) p[k] = Mul(r[k], q[k]);
 }
 // LA: r + r u P(u) in single, from u = r^2.
@@ -101,44 +90,29 @@ BRENN_TRIG_HOT void SeriesOdd(const __m128* r, const __m128* u, const C (&c)[M],
     HornerEach<0, N>(u, c, q);
     BRENN_EACH(k, N) p[k] = Add(r[k], Mul(Mul(r[k], u[k]), q[k]));
 }
-// HA: in double, P by Estrin's scheme; in double either form's roundings are far below the
-// single result's. Sine takes r (1 + u P(u)), which keeps the sign of a zero r (r + r u P(u)
-// would turn -0 into +0); cosine, whose r is never zero, r + (r u) P(u), with r u taken
-// beside P and two steps fewer after it.
+// HA: r (1 + u P(u)) in double, P by Horner's rule; it keeps the sign of a zero r.
 template <int N>
-BRENN_TRIG_HOT void SeriesHA(const __m128d* r, bool cosine, __m128d* p) {
-    __m128d u[N], q[N], ru[N];
+BRENN_TRIG_HOT void SeriesHA(const __m128d* r, __m128d* p) {
+    __m128d u[N], q[N];
     BRENN_EACH(k, N) u[k] = Mul(r[k], r[k]);
-    if (cosine) BRENN_EACH(k, N) ru[k] = Mul(r[k], u[k]);
-    EstrinEach<N>(u, kSinHA, q);
-    if (cosine) {
-        BRENN_EACH(k, N) p[k] = Add(r[k], Mul(ru[k], q[k]));
-    } else {
-        BRENN_EACH(k, N) q[k] = MulAdd(u[k], q[k], Set<double>(1.0));
-        BRENN_EACH(k, N) p[k] = Mul(r[k], q[k]);
-    }
+    HornerEach<0, N>(u, kSinHA, q);
+    BRENN_EACH(k, N) q[k] = MulAdd(u[k], q[k], Set<double>(1.0));
+    BRENN_EACH(k, N) p[k] = Mul(r[k], q[k]);
 }
 
-// r = a - n pi in single with pi in three parts (their negation, n pi - a, with flip).
-// The first two differences are exact (n has at most 13 bits, 14 with cosine's half, and
-// a - n P0 is a short multiple of a's ulp); the third product rounds, and the parts stop
-// 2^-48 short of pi: at most 2^-35 in all below the limit.
-template <int N, bool kFlip>
+// r = a - n pi in single with pi in three parts. The first two differences are exact (n
+// has at most 13 bits, 14 with cosine's half, and a - n P0 is a short multiple of a's
+// ulp); the third product rounds, and the parts stop 2^-48 short of pi: at most 2^-35 in
+// all below the limit.
+template <int N>
 BRENN_TRIG_HOT void ReduceS(const __m128* a, const __m128* n, __m128* r) {
-    if constexpr (kFlip) {
-        BRENN_EACH(k, N) r[k] = Sub(Mul(n[k], Set<float>(kPiEP[0])), a[k]);
-        BRENN_EACH(k, N) r[k] = Add(r[k], Mul(n[k], Set<float>(kPiEP[1])));
-        BRENN_EACH(k, N) r[k] = Add(r[k], Mul(n[k], Set<float>(kPiEP[2])));
-    } else {
-        BRENN_EACH(k, N) r[k] = Sub(a[k], Mul(n[k], Set<float>(kPiEP[0])));
-        BRENN_EACH(k, N) r[k] = Sub(r[k], Mul(n[k], Set<float>(kPiEP[1])));
-        BRENN_EACH(k, N) r[k] = Sub(r[k], Mul(n[k], Set<float>(kPiEP[2])));
-    }
+    BRENN_EACH(k, N) r[k] = Sub(a[k], Mul(n[k], Set<float>(kPiEP[0])));
+    BRENN_EACH(k, N) r[k] = Sub(r[k], Mul(n[k], Set<float>(kPiEP[1])));
+    BRENN_EACH(k, N) r[k] = Sub(r[k], Mul(n[k], Set<float>(kPiEP[2])));
 }
 
-// r = a - n pi (n pi - a with flip) in double, lanes 0-1 of register k in r[2k], 2-3 in
-// r[2k+1].
-template <int N, bool kFlip>
+// r = a - n pi in double, lanes 0-1 of register k in r[2k], 2-3 in r[2k+1].
+template <int N>
 BRENN_TRIG_HOT void ReduceD(const __m128* a, const __m128* n, __m128d* r) {
     const __m128d ph = Set<double>(kPiD[0]), pl = Set<double>(kPiD[1]);
     __m128d ad[2 * N], nd[2 * N];
@@ -148,75 +122,59 @@ BRENN_TRIG_HOT void ReduceD(const __m128* a, const __m128* n, __m128d* r) {
         nd[2 * k] = WidenLower(n[k]);
         nd[2 * k + 1] = WidenUpper(n[k]);
     }
-    if constexpr (kFlip)
-        BRENN_EACH(k, 2 * N) r[k] = Add(Sub(Mul(nd[k], ph), ad[k]), Mul(nd[k], pl));
-    else
-        BRENN_EACH(k, 2 * N) r[k] = Sub(Sub(ad[k], Mul(nd[k], ph)), Mul(nd[k], pl));
+    BRENN_EACH(k, 2 * N) r[k] = Sub(Sub(ad[k], Mul(nd[k], ph)), Mul(nd[k], pl));
 }
 
 // sin(x) (cosine = false) or cos(x) (true) by the short path for N registers, each step
 // over all of them before the next. Sine takes x as it is: n = round(x/pi) and r = x - n pi
 // are odd in x, so sin x = (-1)^n sin r keeps the sign of x (and of a zero) with no step
-// of its own. Cosine takes a = |x|: n = floor(a/pi) + 1/2, the half-integer nearest to
-// a/pi, and cos a = -(-1)^floor(a/pi) sin(a - n pi), the minus sign taken by reducing
-// to n pi - a. Lanes above the limit are the large path's: with kClamp they are clamped
-// and raise no flag here; without, the caller has seen that there are none (then the
-// clamp changes nothing).
+// of its own. Cosine takes a = |x|: t = (a/pi + 1/2) + shifter, the half-integer
+// n = (t - shifter) - 1/2 and cos a = sin(a + pi/2) = (-1)^(n + 1/2) sin(a - n pi), the
+// sign from t's low bit. Lanes above the limit are the large path's: with kClamp they are
+// clamped and raise no flag here; without, the caller has seen that there are none (then
+// the clamp changes nothing).
 template <Level L, int N, bool kClamp>
 BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p) {
     __m128 a[N], sign[N], n[N];
     bool nearZero = false;
     const __m128 limit = SplatBits<float>(kLimitS);
+    const __m128 shifter = Set<float>(Format<float>::kShifter);
     BRENN_EACH(k, N) a[k] = x[k];
     if (kClamp) {
         BRENN_EACH(k, N) a[k] = Min(a[k], limit);
         if (!cosine) BRENN_EACH(k, N) a[k] = Max(a[k], Neg(limit));
     }
-    if (cosine) {
-        __m128 f[N], t[N];
-        BRENN_EACH(k, N) f[k] = Floor(Mul(a[k], Set<float>(kInvPi)));
-        BRENN_EACH(k, N) t[k] = Add(f[k], Set<float>(kHalfShifter));
-        BRENN_EACH(k, N) sign[k] = AsFloat(ShiftLeft<30>(AsInt(t[k])));
-        BRENN_EACH(k, N) n[k] = Add(f[k], Set<float>(0.5f));
-    } else {
-        const __m128 shifter = Set<float>(Format<float>::kShifter);
+    {
         __m128 t[N];
-        BRENN_EACH(k, N) t[k] = Add(Mul(a[k], Set<float>(kInvPi)), shifter);
+        BRENN_EACH(k, N) t[k] = Mul(a[k], Set<float>(kInvPi));
+        if (cosine) BRENN_EACH(k, N) t[k] = Add(t[k], Set<float>(0.5f));
+        BRENN_EACH(k, N) t[k] = Add(t[k], shifter);
         BRENN_EACH(k, N) sign[k] = AsFloat(ShiftLeft<31>(AsInt(t[k])));
         BRENN_EACH(k, N) n[k] = Sub(t[k], shifter);
+        if (cosine) BRENN_EACH(k, N) n[k] = Sub(n[k], Set<float>(0.5f));
     }
-    bool tiny = false; // LA cosine: a lane below 2^-12 (below)
-    if (cosine && L == Level::LA) {
+    bool tiny = false; // LA and EP cosine: a lane below 2^-12 (below)
+    if (cosine && L != Level::HA) {
         I32x4 least = AsInt(a[0]);
         BRENN_EACH(k, N - 1) least = Min(least, AsInt(a[k + 1]));
         tiny = MaskBits(Lt(least, Set<uint32_t>(kCosOneBits))) != 0;
     }
-    __m128 u[N]; // r^2, EP and LA
     if constexpr (L == Level::EP) {
-        __m128 r[N];
-        if (cosine)
-            ReduceS<N, true>(a, n, r);
-        else
-            ReduceS<N, false>(a, n, r);
+        __m128 r[N], u[N];
+        ReduceS<N>(a, n, r);
         BRENN_EACH(k, N) u[k] = Mul(r[k], r[k]);
-        SeriesEP<N>(r, u, p);
+        SeriesEP<N>(r, u, cosine, p);
     } else if constexpr (L == Level::LA) {
         // The single reduction is good to 2^-35 absolute; only a remainder below 2^-9
         // (u below 2^-18: a lane near a multiple of pi, a few in a thousand) needs the
         // double one, and only those lanes take it.
-        __m128 r[N];
-        if (cosine)
-            ReduceS<N, true>(a, n, r);
-        else
-            ReduceS<N, false>(a, n, r);
+        __m128 r[N], u[N];
+        ReduceS<N>(a, n, r);
         BRENN_EACH(k, N) u[k] = Mul(r[k], r[k]);
         nearZero = AnyNearZeroSq<N>(u);
         if (__builtin_expect(nearZero, 0)) {
             __m128d rd[2 * N];
-            if (cosine)
-                ReduceD<N, true>(a, n, rd);
-            else
-                ReduceD<N, false>(a, n, rd);
+            ReduceD<N>(a, n, rd);
             __m128 wide[N];
             BRENN_EACH(k, N) wide[k] = Narrow(rd[2 * k], rd[2 * k + 1]);
             TakeNearZeroSq<N>(r, u, wide);
@@ -224,12 +182,9 @@ BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p) {
         SeriesOdd<N>(r, u, kSinLA, p);
     } else {
         __m128d r[2 * N];
-        if (cosine)
-            ReduceD<N, true>(a, n, r);
-        else
-            ReduceD<N, false>(a, n, r);
+        ReduceD<N>(a, n, r);
         __m128d pd[2 * N];
-        SeriesHA<2 * N>(r, cosine, pd);
+        SeriesHA<2 * N>(r, pd);
         BRENN_EACH(k, N) p[k] = Narrow(pd[2 * k], pd[2 * k + 1]);
     }
     BRENN_EACH(k, N) p[k] = Xor(p[k], sign[k]);
@@ -239,30 +194,12 @@ BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p) {
     if (L == Level::LA && !cosine && __builtin_expect(nearZero, 0))
         BRENN_EACH(k, N) p[k] = IfThenElse(Eq(x[k], Zero<float>()), SignBit(x[k]), p[k]);
     // cos of tiny arguments: exactly 1.0, as the rounded value is. Such lanes are rare:
-    // one compare a round, the blend only when it fires. LA: a below 2^-12, on the least
-    // magnitude of the registers, taken before the reduction rather than here (1.64 ->
-    // 1.61 ticks an element). EP: a within 2^-12 of any multiple of pi (0 among them)
-    // gets +-1 with the series' sign, on the greatest square u, which is at hand, so that
-    // a need not be kept to the end (measured 1.22 -> 1.16 ticks an element; at LA, whose
-    // squares are replaced on the near-zero path, the same test measured slower, 1.62 ->
-    // 1.73). HA needs none: its double value is within 2^-27 of cos a, so that below 2^-13
-    // it rounds to 1.0 (and at 0, where the series at pi/2 is within 2^-27 of 1).
-    if (cosine && L == Level::LA) {
-        if (__builtin_expect(tiny, 0)) {
-            BRENN_EACH(k, N) {
-                p[k] = IfThenElse(Lt(a[k], Set<float>(kCosOne)), Set<float>(1.0f), p[k]);
-            }
-        }
-    }
-    if (cosine && L == Level::EP) {
-        I32x4 most = AsInt(u[0]);
-        BRENN_EACH(k, N - 1) most = Max(most, AsInt(u[k + 1]));
-        const I32x4 limit = Set<uint32_t>(kCosOneSqBits - 1);
-        if (__builtin_expect(MaskBits(Gt(most, limit)) != 0, 0)) {
-            BRENN_EACH(k, N) {
-                __m128 one = Or(And(p[k], SignMask<float>()), Set<float>(1.0f));
-                p[k] = IfThenElse(AsFloat(Gt(AsInt(u[k]), limit)), one, p[k]);
-            }
+    // one compare a round on the least magnitude, the blend only when it fires. HA needs
+    // none: its double value is within 2^-27 of cos a, so that below 2^-13 it rounds to
+    // 1.0 (and at 0, where the series at pi/2 is within 2^-27 of 1).
+    if (cosine && L != Level::HA && __builtin_expect(tiny, 0)) {
+        BRENN_EACH(k, N) {
+            p[k] = IfThenElse(Lt(a[k], Set<float>(kCosOne)), Set<float>(1.0f), p[k]);
         }
     }
 }
