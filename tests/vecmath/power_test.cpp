@@ -516,6 +516,33 @@ TEST(Power, SinglePowAndPowxEPAreTheirStatedSteps) {
     EXPECT_EQ(st, 0);
 }
 
+// Double Pow EP, its logarithm in two parts: near the ends of the range (|w| to 708) and
+// with x next to 1 and |y| up to 2^50, within 2^-32 of x^y; Powx's general body gives the
+// same bits.
+TEST(Power, DoublePowEPKeepsTheLogarithmsLowPart) {
+    std::mt19937_64 gen(3);
+    std::uniform_real_distribution<double> u(0.0, 1.0);
+    std::vector<double> a, b;
+    for (int i = 0; i < 20000; ++i) {
+        const double x = i % 2 ? 0.5 + 1.5 * u(gen) : 1.0 + (u(gen) - 0.5) * 0x1p-40;
+        const double w = (u(gen) * 2.0 - 1.0) * 700.0;
+        a.push_back(x);
+        b.push_back(w / std::log(x));
+    }
+    std::vector<double> y(a.size());
+    As<Binary<double>>(Raw(frame::Row_dPow, frame::SlotEP))(int(a.size()), a.data(), b.data(),
+                                                           y.data());
+    for (size_t i = 0; i < a.size(); ++i) {
+        const long double want = powl((long double)a[i], (long double)b[i]);
+        ASSERT_LE(fabsl((y[i] - want) / want), 0x1p-32L) << "x=" << a[i] << " y=" << b[i];
+    }
+    for (size_t i = 0; i < 64; ++i) {
+        double v;
+        Powx<double>(frame::SlotEP)(1, &a[i], b[i], &v);
+        EXPECT_EQ(Bits(v), Bits(y[i])) << i;
+    }
+}
+
 // The general body of single Powx against single Pow with b in every lane: a finite b
 // that is not an integer (which leaves b untested in the lanes; flags the same too) and an
 // infinite or NaN one, on long calls that mix ordinary x with every special kind; values

@@ -1,10 +1,12 @@
 /* Pow and Powr, single and double, three levels each: one body (pow_body.h) and the
  * scalar routine of pow_scalar.h; Powr differs only in its scalar routine's domain.
  *
- * Double LA and HA carry ln x in two parts and w = y*ln x as an exact product plus its
- * tail, then e^w by the table of 256 with a degree-4 polynomial (exp_core256.h, LA as HA);
- * double EP takes ln x in one double (r rounded once, the Taylor quartic, heads only)
- * and the Taylor cubic of the exponential (pow_core.h PowWEP, PowExpEP). Single
+ * Double carries ln x in two parts and w = y*ln x as an exact product plus its tail at
+ * every level: LA and HA with the whole logarithm to about 2^-66 and e^w by the table of
+ * 256 with a degree-4 polynomial (exp_core256.h, LA as HA); EP with the exact head of
+ * ln x times y in two parts and the rest, r rounded once with its Taylor quartic, in the
+ * tail, e^w by the table of 64 and the Taylor cubic, the tail added to the reduced
+ * argument (pow_core.h PowWEP, PowExpEP). Single
  * HA and LA split x on the single bits and run in double lanes: the cubic logarithm
  * from lnRows (HA with the rows' low parts), w in one double, e^w by the table of 1024
  * with 1 + u + u^2/2 (HA) or 1 + u (LA); single EP stays in single (pow_body.h).

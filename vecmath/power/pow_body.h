@@ -164,7 +164,7 @@ BRENN_VEC __m128 PowOf(__m128 x, __m128 y, __m128& special) {
 template <Level L, int M>
 BRENN_VEC void PowRound(const __m128d* x, const __m128d* y, __m128d* v, __m128d* special) {
     using R = PowRanges<double>;
-    __m128d ys[M], wh[M], wl[M], sw[M];
+    __m128d ys[M], wh[M], wl[M], sw[M], ph[M];
     LnReduction red[M];
 #pragma GCC unroll 8
     for (int k = 0; k < M; ++k) {
@@ -174,10 +174,12 @@ BRENN_VEC void PowRound(const __m128d* x, const __m128d* y, __m128d* v, __m128d*
     }
 #pragma GCC unroll 8
     for (int k = 0; k < M; ++k) {
-        if constexpr (L == Level::EP)
-            wh[k] = PowWEP(ys[k], red[k]);
-        else
+        if constexpr (L == Level::EP) {
+            PowWEP(ys[k], red[k], ph[k], wl[k]);
+            wh[k] = Add(ph[k], wl[k]);
+        } else {
             PowW<L, false>(ys[k], red[k], wh[k], wl[k]);
+        }
     }
 #pragma GCC unroll 8
     for (int k = 0; k < M; ++k) {
@@ -188,7 +190,7 @@ BRENN_VEC void PowRound(const __m128d* x, const __m128d* y, __m128d* v, __m128d*
     if constexpr (L == Level::EP) {
 #pragma GCC unroll 8
         for (int k = 0; k < M; ++k)
-            v[k] = PowExpEP(wh[k]);
+            v[k] = PowExpEP(wh[k], IfThenZeroElse(sw[k], ph[k]), IfThenZeroElse(sw[k], wl[k]));
     } else {
         __m128d t[M], r[M];
 #pragma GCC unroll 8

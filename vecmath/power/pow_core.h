@@ -11,8 +11,8 @@
  * may be denormal, that of the table of 64 (exp_core.h) with degree 6.
  * The single scalar routine needs less: w = y * ln x in one double, with the degree-5
  * logarithm of the double core (the single vector kernels have their own, shorter form
- * in pow_body.h); double EP has a short form of its own (PowWEP, PowExpEP: about 33
- * bits). */
+ * in pow_body.h); double EP has a short form of its own, ln x in two parts too (PowWEP,
+ * PowExpEP: about 34 bits). */
 #ifndef BRENN_VECMATH_POWER_POW_CORE_H
 #define BRENN_VECMATH_POWER_POW_CORE_H
 
@@ -111,30 +111,34 @@ inline __m128d ExpHiLoWide(__m128d wh, __m128d wl) {
     return Mul(Mul(v, PowerOfTwo(m1)), PowerOfTwo(Sub(m, m1)));
 }
 
-// Double EP: w = y * ln x in one double, within about 2^-33 of |w| for every |w| that
-// passes. r = m*rcp - 1 rounded once (2^-53, within 2^-43 of ln x where a row's head
-// is not 0, exact where it is) and ln(1 + r) by its Taylor quartic (r^5/5 left out,
-// 2^-42 of r on |r| <= 2^-10); the low parts of k*ln2 and of the row stay, since the
-// heads cancel for x just below 1.
+// Double EP: w = y * ln x carried in two parts, ln x = h + l with the head h = k*ln2hi +
+// (the row's head) exact and l = r + r^2*P(r) + (k*ln2lo + the row's tail), r = m*rcp - 1
+// rounded once (2^-53, within 2^-43 of ln x where the head is not 0, exact where it is)
+// and P the Taylor cubic's terms (r^5/5 left out, 2^-42 of r on |r| <= 2^-10): y*h
+// exactly as ph + pl, and wl = pl + y*l; wh = ph + y*l (rounded) serves the reduction's
+// index alone, its argument taken from ph and wl (PowExpEP).
 constexpr double kPowLnTaylor[] = {-0.5, 1.0 / 3, -0.25};
-inline __m128d PowWEP(__m128d y, const LnReduction& red) {
+inline void PowWEP(__m128d y, const LnReduction& red, __m128d& ph, __m128d& wl) {
     using K = LogConst<double>;
     __m128d r = Sub(Mul(Add(red.mh, red.ml), red.rcp), Set<double>(1.0));
     __m128d h = Add(Mul(red.k, Set<double>(K::kLn2Hi)), red.th);
     __m128d tail = Add(Mul(red.k, Set<double>(K::kLn2Lo)), red.tl);
-    __m128d t = Add(Mul(Mul(r, r), Horner(r, kPowLnTaylor)), tail);
-    return Mul(y, Add(h, Add(r, t)));
+    __m128d l = Add(r, Add(Mul(Mul(r, r), Horner(r, kPowLnTaylor)), tail));
+    __m128d pl;
+    TwoProductCut(y, h, ph, pl);
+    wl = Add(pl, Mul(y, l));
 }
 
-// e^w for double EP, |w| <= 708.39: the table of 64 with the Taylor cubic (r^4/24 left
-// out, 2^-34.6 on |r| <= ln2/128), ln2/64 in one double and the rows' low parts left
-// out (each below 2^-43).
+// e^(ph + wl) for double EP, |ph + wl| <= 708.39: the table of 64 with the Taylor cubic
+// (r^4/24 left out, 2^-34.6 on |r| <= ln2/128), ln2/64 in one double, the index from
+// w = ph + wl rounded and the reduced argument (ph - n*ln2/64) + wl, the rows' low parts
+// left out (each below 2^-43).
 constexpr double kPowExpTaylor[] = {0.5, 1.0 / 6};
-inline __m128d PowExpEP(__m128d w) {
+inline __m128d PowExpEP(__m128d w, __m128d ph, __m128d wl) {
     using S = ExpStep64;
     const __m128d shifter = Set<double>(Format<double>::kShifter);
     __m128d t = Add(Mul(w, Set<double>(S::kInvStep)), shifter);
-    __m128d r = Sub(w, Mul(Sub(t, shifter), Set<double>(S::kStepHi + S::kStepLo)));
+    __m128d r = Add(Sub(ph, Mul(Sub(t, shifter), Set<double>(S::kStepHi + S::kStepLo))), wl);
     __m128d th, tl;
     ExpRows64(t, th, tl);
     __m128d p = Add(r, Mul(Mul(r, r), Horner(r, kPowExpTaylor)));
@@ -146,7 +150,6 @@ inline __m128d PowExpEP(__m128d w) {
 // `red` is the logarithm core's reduction of x.
 template <Level L, bool Single>
 inline void PowW(__m128d y, const LnReduction& red, __m128d& wh, __m128d& wl) {
-    static_assert(Single || L != Level::EP, "double EP has PowWEP");
     if constexpr (Single) {
         // The single scalar routine: the degree-5 core (L is HA there).
         __m128d h, l;
