@@ -2,6 +2,11 @@
  * working type W wider than the result: long double (the x87 extended format, 64-bit
  * significand) for the double rows, double for the single rows.
  *
+ * LGamma:
+ *   ln Gamma on [0.75, 2.25] by three expansions, near 1, near the minimum 1.46163214...
+ *   and near 2 (LnGammaInterval); from 0 to 8 the recurrence toward that interval; from
+ *   8 on Stirling's form (x - 1/2) ln x - x + ln sqrt(2 pi) + S(x).
+ * TGamma:
  *   H(z) = (Gamma(1 + z) - 1) / (z (z - 1)) on [0, 1], four polynomials split at 1/4,
  *   1/2 and 3/4 (x = 1.25, 1.5, 1.75). With it Gamma(x) - 1 has a relative error of
  *   the working precision on (0, 3], zeros at 1 and 2 included, which LGamma needs:
@@ -70,6 +75,12 @@ inline double InvPi(double) {
 inline double HalfLn2PiLessHalf(double) {
     return GammaData<double>::kHalfLn2PiLessHalf;
 }
+[[gnu::always_inline]] inline long double HalfLn2Pi(long double) {
+    return Join(GammaData<long double>::kHalfLn2Pi2);
+}
+inline double HalfLn2Pi(double) {
+    return GammaData<double>::kHalfLn2Pi;
+}
 [[gnu::always_inline]] inline long double Ln2Lo(long double) {
     return Join(GammaData<long double>::kLn2Lo2);
 }
@@ -101,18 +112,6 @@ template <class W>
     return Poly(t, HPoly(W(), i));
 }
 
-// Gamma(x) - 1 for x in (0, 3], to the working precision relative to itself.
-template <class W>
-[[gnu::always_inline]] inline W GammaMinusOne(W x) {
-    if (x < 1) return (1 - x) * (1 - x * H(x)) / x;
-    if (x <= 2) {
-        W z = x - 1;
-        return z * (z - 1) * H(z);
-    }
-    W z = x - 2;
-    return z * (1 + (z * z - 1) * H(z));
-}
-
 // Gamma(x) for 1 <= x below the Stirling point. The recurrence goes two steps at a
 // time: (x - 1)(x - 2) apart from the running product, which then takes one
 // multiplication where single steps took two (and in double, for the single rows, the
@@ -139,30 +138,62 @@ template <class W>
     return GammaFromOne(x);
 }
 
-// S(x), the correction series, for x at or above the Stirling point.
-template <class W>
-[[gnu::always_inline]] inline W StirlingSeries(W x) {
-    W r = 1 / x;
-    return r * Poly(r * r, GammaData<W>::kStirling);
-}
-[[gnu::always_inline]] inline long double StirlingSeries(long double x) {
-    long double r = 1 / x;
-    return r * Poly(r * r, GammaData<long double>::kStirlingP);
-}
-// S in double, by the SSE unit beside the x87 work, where an absolute error of 2^-58
-// will do (S is below 1/96 from 8 on): TGamma's exponent and LGamma's positive axis,
-// not the reflection, whose difference of logarithms can be small.
+// S(x) = sum B_2k / (2k (2k - 1) x^(2k - 1)) from the Stirling point on, in double, by
+// the SSE unit beside the x87 work, where an absolute error of 2^-58 will do (S is below
+// 1/96 from 8 on, and ln Gamma above 6; on the negative axis the reflection's terms
+// cancel only near the zeros, which lgamma_zeros.h covers up to -17).
 template <class W>
 [[gnu::always_inline]] inline W StirlingSeriesDouble(W x) {
     double r = 1 / static_cast<double>(x);
     return r * Poly(r * r, GammaData<W>::kStirlingD);
 }
 
-// ln Gamma(x) for x at or above the Stirling point (any size: from 2^64 on S is lost in
-// the rounding and the main term alone remains), S(x) given.
+// ln Gamma on the interval [0.75, 2.25] by its three expansions (gamma_data.h): near 1,
+// z P1(z) with z = x - 1, up to 1.25; near the minimum x0 = 1.46163214..., Pm(x - x0),
+// below 1.75; near 2, z P2(z) with z = x - 2. The zeros at 1 and 2 keep the relative
+// accuracy of the polynomials; x - 1, x - 2 and x - x0 are exact.
+[[gnu::always_inline]] inline long double LnGammaInterval(long double x) {
+    using D = GammaData<long double>;
+    if (x <= 1.25L) {
+        long double z = x - 1;
+        return z * Poly(z, D::kLnNear1P);
+    }
+    if (x < 1.75L) return Poly(x - Join(D::kLnMinAt2), D::kLnMinP);
+    long double z = x - 2;
+    return z * Poly(z, D::kLnNear2P);
+}
+[[gnu::always_inline]] inline double LnGammaInterval(double x) {
+    using D = GammaData<double>;
+    if (x <= 1.25) {
+        double z = x - 1;
+        return z * Poly(z, D::kLnNear1);
+    }
+    if (x < 1.75) return Poly(x - D::kLnMinAt, D::kLnMin);
+    double z = x - 2;
+    return z * Poly(z, D::kLnNear2);
+}
+
+// ln Gamma(x) for 0 < x below LGamma's Stirling point, by the recurrence toward the
+// interval: below it one step up, ln Gamma(x) = ln Gamma(x + 1) - ln x; above it down,
+// ln Gamma(x) = ln Gamma(x - k) + ln((x - 1)(x - 2)...(x - k)), the factors exact and
+// their product under one logarithm.
 template <class W>
-[[gnu::always_inline]] inline W LnGammaStirling(W x, W s) {
-    return (x - W(0.5)) * (Log(x) - 1) + (HalfLn2PiLessHalf(W()) + s);
+[[gnu::always_inline]] inline W LnGammaBelowStirling(W x) {
+    if (x < W(0.75)) return LnGammaInterval(x + 1) - Log(x);
+    if (x <= W(2.25)) return LnGammaInterval(x);
+    W p = 1;
+    do {
+        x -= 1;
+        p *= x;
+    } while (x > W(2.25));
+    return LnGammaInterval(x) + Log(p);
+}
+
+// ln Gamma(x) by Stirling's form, (x - 1/2) ln x - x + ln sqrt(2 pi) + S(x), S(x) given
+// (from 2^64 on S is lost in the rounding and the main terms alone remain).
+template <class W>
+[[gnu::always_inline]] inline W LnGammaStirlingForm(W x, W s) {
+    return ((x - W(0.5)) * Log(x) - x) + (HalfLn2Pi(W()) + s);
 }
 
 // The exponent of x, 2^e <= x < 2^(e + 1), for x in [1, 2^1023), from x rounded to

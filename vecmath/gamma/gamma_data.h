@@ -50,15 +50,40 @@ struct GammaData<long double> {
          -0x1.e56496c0e2abd66p-11L, 0x1.03b1410ffe7619c8p-11L, -0x1.1514824b0e959af6p-12L,
          0x1.1c8db859c29816b2p-13L, -0x1.416551d0fc71a3f2p-14L, 0x1.235f281d6dec2b06p-13L},
     };
-    // LGamma's positive axis takes Stirling's form (with kStirlingD) from 8 on.
+    // LGamma takes Stirling's form (with kStirlingD) from 8 on in magnitude.
     static constexpr long double kLnStirlingFrom = 8;
-    // Stirling's form from 12 on, with eight terms B_2k / (2k (2k - 1)) of the
-    // correction series (the first left out is below 2^-63 of ln Gamma there).
+    // ln Gamma on [0.75, 2.25] (gamma_core.h LnGammaInterval), by
+    // tools/gamma/lgamma_core.sollya: near 1, z P1(z) on |z| <= 1/4 (2^-65.7 relative);
+    // near the minimum, Pm(x - kLnMinAt) on [1.25, 1.75] (2^-65.2); near 2, z P2(z) on
+    // |z| <= 1/4 (2^-65.2). The coefficients from the fifth on are doubles.
+    static constexpr long double kLnNear1[22] = {
+        -0x1.2788cfc6fb618f4ap-1L, 0x1.a51a6625307d3232p-1L, -0x1.9a4d55beab2d6abep-2L,
+        0x1.151322ac7d847aaep-2L,  -0x1.a8b9c17aa6254p-3L,   0x1.5b40cb100c492p-3L,
+        -0x1.2703a1dcdca94p-3L,    0x1.010b36af74cafp-3L,    -0x1.c806707963005p-4L,
+        0x1.9a01e393f698fp-4L,     -0x1.748c2fd8e592ap-4L,   0x1.556ad2a42ad5bp-4L,
+        -0x1.3b1e23143b088p-4L,    0x1.2497739a6b2a5p-4L,    -0x1.1103cb61f7986p-4L,
+        0x1.ffe2609018888p-5L,     -0x1.e412b9b4f4153p-5L,   0x1.c94e5867ee8f5p-5L,
+        -0x1.969ea2d9f212ap-5L,    0x1.816d40d764d86p-5L,    -0x1.0ee2481db461dp-4L,
+        0x1.03d3919c64e22p-4L};
+    static constexpr long double kLnMin[20] = {
+        -0x1.f19b9bcc38a41c1ep-4L, 0x1.66b69bb8891421ecp-66L, 0x1.ef72bc8ee38aba52p-2L,
+        -0x1.2e4278dc6bc239c8p-3L, 0x1.08b4294d503bbp-4L,     -0x1.0c9a8df5131b4p-5L,
+        0x1.266e797a0282dp-6L,     -0x1.51f9f9500a95ep-7L,    0x1.8fce02baeaa62p-8L,
+        -0x1.e2f1a413734ep-9L,     0x1.28311d2697585p-9L,     -0x1.6f9770dd2d1bcp-10L,
+        0x1.cc7380b0e76ddp-11L,    -0x1.229298332bac2p-11L,   0x1.70e3c1a813b5ep-12L,
+        -0x1.d613d53d093fbp-13L,   0x1.2f65fd4cfc05fp-13L,    -0x1.985edb868a5a7p-14L,
+        0x1.03f3e07942751p-14L,    -0x1.8a0878b35780ep-16L};
+    static constexpr long double kLnNear2[18] = {
+        0x1.b0ee6072093ce16cp-2L, 0x1.4a34cc4a60fa646p-2L, -0x1.13e001a557605f62p-4L,
+        0x1.51322ac7d8488272p-6L, -0x1.e404fc218fd93p-8L,  0x1.7add6eadb4d31p-9L,
+        -0x1.38ac5c2b38093p-10L,  0x1.0b36af89267efp-11L,  -0x1.d3fd4dba80688p-13L,
+        0x1.a127ac3254a3ap-14L,   -0x1.78ddc13e82fdcp-15L, 0x1.581001a3fc19cp-16L,
+        -0x1.3ce6e8ff23565p-17L,  0x1.2502cf78eacafp-18L,  -0x1.0b74af7c80c3cp-19L,
+        0x1.153f7b311fd5cp-20L,   -0x1.57eeea39e4949p-21L, -0x1.2daca8aed1099p-24L};
+    static constexpr long double kLnMinAt = 0x1.762d86356be3f6e2p0L;
+    // TGamma takes Stirling's form from 12 on.
     static constexpr long double kStirlingFrom = 12;
-    static constexpr long double kStirling[8] = {
-        1.0L / 12,   -1.0L / 360,      1.0L / 1260, -1.0L / 1680,
-        1.0L / 1188, -691.0L / 360360, 1.0L / 156,  -3617.0L / 122400,
-    };
+    static constexpr long double kHalfLn2Pi = 0.918938533204672741780329736405617639861L;
     static constexpr long double kHalfLn2PiLessHalf = 0.41893853320467274178032973640561764L;
     static constexpr long double kPi = 3.14159265358979323846264338327950288L;
     static constexpr long double kInvPi = 0.318309886183790671537767526745028724L;
@@ -74,15 +99,20 @@ struct GammaData<long double> {
 
     // The sets as the x87 code loads them (ext_const.h): in H the terms from t^3 on and in
     // the sine those from r^9 on are below 2^-62 of the sum with their coefficients
-    // rounded to double; S is summed in double (gamma_core.h).
+    // rounded to double; S is summed in double (gamma_core.h). The LGamma sets were
+    // fitted with their coefficients from the fifth on in double.
     static constexpr auto kHP = SplitPolys<3>(kH);
-    static constexpr auto kStirlingP = SplitPoly<0>(kStirling);
     // The series in double from 8 on, eleven terms (the first left out is below 2^-60).
     static constexpr double kStirlingD[11] = {
         1.0 / 12,         -1.0 / 360,         1.0 / 1260,      -1.0 / 1680,
         1.0 / 1188,       -691.0 / 360360,    1.0 / 156,       -3617.0 / 122400,
         43867.0 / 244188, -174611.0 / 125400, 854513.0 / 63756};
     static constexpr auto kSinPiP = SplitPoly<4>(kSinPi);
+    static constexpr auto kLnNear1P = SplitPoly<4>(kLnNear1);
+    static constexpr auto kLnMinP = SplitPoly<4>(kLnMin);
+    static constexpr auto kLnNear2P = SplitPoly<4>(kLnNear2);
+    static constexpr Ext2 kLnMinAt2 = Split2(kLnMinAt);
+    static constexpr Ext2 kHalfLn2Pi2 = Split2(kHalfLn2Pi);
     static constexpr Ext2 kHalfLn2PiLessHalf2 = Split2(kHalfLn2PiLessHalf);
     static constexpr Ext2 kPi2 = Split2(kPi);
     static constexpr Ext2 kInvPi2 = Split2(kInvPi);
@@ -106,11 +136,30 @@ struct GammaData<double> {
          0x1.7eed7fc95605ap-6, -0x1.5b2808e81bfbbp-7, 0x1.94bca14a3b6d2p-8, -0x1.a90a68986d82ep-9,
          0x1.cd450ed67e808p-10},
     };
+    // LGamma's expansions as above in double, by tools/gamma/lgamma_core.sollya (2^-43.8,
+    // 2^-42.2, 2^-46.2 relative).
+    static constexpr double kLnNear1[14] = {
+        -0x1.2788cfc6fb766p-1, 0x1.a51a6625300b3p-1, -0x1.9a4d55bdac386p-2, 0x1.151322ad5fb5dp-2,
+        -0x1.a8b9c376f2d84p-3, 0x1.5b40cb1d1822p-3,  -0x1.2702e4676ebfp-3,  0x1.010ae80da2a3p-3,
+        -0x1.c8496705ba632p-4, 0x1.9a2c1d5b2072dp-4, -0x1.6e85add1a8002p-4, 0x1.50cabc0499f31p-4,
+        -0x1.7e943c96b0937p-4, 0x1.5ed4118975a8bp-4};
+    static constexpr double kLnMin[12] = {
+        -0x1.f19b9bcc38936p-4, -0x1.36b58c17cf9f6p-40, 0x1.ef72bc8ed2b66p-2,
+        -0x1.2e4278cdfe71ap-3, 0x1.08b429650134dp-4,   -0x1.0c9aa67e622f3p-5,
+        0x1.266e937fffa5fp-6,  -0x1.51e8b06a0b693p-7,  0x1.8f99d0e8849cep-8,
+        -0x1.e83f20e983409p-9, 0x1.3494d701b0001p-9,   -0x1.2af7e6b7c3b7dp-10};
+    static constexpr double kLnNear2[11] = {
+        0x1.b0ee6072093eap-2,   0x1.4a34cc4a61ed5p-2,  -0x1.13e001a56f0a1p-4,
+        0x1.51322ab4d086fp-6,   -0x1.e404fb4eee73cp-8, 0x1.7adda4006e93dp-9,
+        -0x1.38ad0848baf9cp-10, 0x1.0b1843d5fd8dap-11, -0x1.d37ef0fc0a1d3p-13,
+        0x1.b045e2e1ba7a5p-14,  -0x1.8dd35a574ba49p-15};
+    static constexpr double kLnMinAt = 0x1.762d86356be3fp0;
     // Stirling's form from 8 on, four terms of the correction series (2^-37 there).
     static constexpr double kStirlingFrom = 8;
     static constexpr double kLnStirlingFrom = 8;
     static constexpr double kStirling[4] = {1.0 / 12, -1.0 / 360, 1.0 / 1260, -1.0 / 1680};
     static constexpr const double (&kStirlingD)[4] = kStirling;
+    static constexpr double kHalfLn2Pi = 0.91893853320467274178;
     static constexpr double kHalfLn2PiLessHalf = 0.41893853320467274178;
     static constexpr double kPi = 3.14159265358979323846;
     static constexpr double kInvPi = 0.31830988618379067154;

@@ -2,13 +2,15 @@
  * element through the scalar routine, which works in a wider format (gamma_core.h):
  * x87 extended for double, double for single.
  *
- *   (0, 3]: ln(1 + (Gamma(x) - 1)), the difference from gamma_core.h, so that the zeros
- *   at 1 and 2 keep their relative accuracy (1 and 2 themselves give +0);
- *   (3, Stirling point): the logarithm of Gamma(x) by the recurrence;
- *   above: Stirling's form with its correction series. Past the largest finite result
+ *   (0, 8): the interval [0.75, 2.25] by its expansions near 1, near the minimum at
+ *   1.46163214... and near 2 (1 and 2 themselves give +0); below it one step of the
+ *   recurrence up, above it the recurrence down with its product under one logarithm;
+ *   from 8 on: Stirling's form (x - 1/2) ln x - x + ln sqrt(2 pi) + 1/(12x) -
+ *   1/(360x^3) + ..., its correction series in double. Past the largest finite result
  *   (x beyond 2.55e305, 4.08e36 in single) +inf, status 3.
- *   x < 0: ln(pi / |sin(pi x) Gamma(1 - x)|), reflection; near the zeros of the
- *   function on the negative axis the local forms of lgamma_zeros.h take over.
+ *   x < 0: ln(pi / (|x| |sin(pi x)|)) - ln Gamma(|x|), reflection, the sine in the wider
+ *   format; near the zeros of the function on the negative axis the local forms of
+ *   lgamma_zeros.h take over. From 2^52 (2^23) in magnitude every x is an integer.
  *   Zero and the negative integers are poles: +inf, status 2. Both infinities give +inf;
  *   NaN comes back quieted.
  * The kernel runs the x87 unit at 64-bit precision, rounding to nearest, and puts the
@@ -28,17 +30,12 @@ namespace {
 template <class T>
 [[gnu::noinline]] T LnGammaSmall(T x) {
     using W = gamma::Wide<T>;
-    return static_cast<T>(gamma::Log1p(gamma::GammaMinusOne(W(x))));
-}
-template <class T>
-[[gnu::noinline]] T LnGammaMiddle(T x) {
-    using W = gamma::Wide<T>;
-    return static_cast<T>(gamma::Log(gamma::GammaFromOne(W(x))));
+    return static_cast<T>(gamma::LnGammaBelowStirling(W(x)));
 }
 template <class T>
 [[gnu::noinline]] T LnGammaLarge(T x) {
     using W = gamma::Wide<T>;
-    return static_cast<T>(gamma::LnGammaStirling(W(x), gamma::StirlingSeriesDouble(W(x))));
+    return static_cast<T>(gamma::LnGammaStirlingForm(W(x), gamma::StirlingSeriesDouble(W(x))));
 }
 
 // Near a zero x0 of the negative axis the reflection's result is a small difference of
@@ -63,25 +60,24 @@ template <class T>
     return false;
 }
 
-// x < 0 by reflection, ln(pi / |sin(pi x) Gamma(1 - x)|): with Gamma(1 - x) by the
-// recurrence while 1 - x is below the Stirling point, above it as the difference of
-// ln(pi / |sin(pi x)|) and Stirling's form. The quotient by pi is a product with 1/pi
-// inside the logarithm, negated (a division's latency is three products').
+// x < 0 by reflection, ln(pi / (|x| |sin(pi x)|)) - ln Gamma(|x|), with ln Gamma(|x|)
+// as on the positive axis: below the Stirling point (Near) or by Stirling's form (Far).
 template <class T>
 [[gnu::noinline]] T LnGammaReflectNear(T x) {
     using W = gamma::Wide<T>;
     bool negative;
     W s = gamma::SinPi<T, W>(x, negative);
-    return static_cast<T>(-gamma::Log(s * gamma::GammaFromOne(1 - W(x)) * gamma::InvPi(W())));
+    W ax = -W(x);
+    return static_cast<T>(gamma::Log(gamma::Pi(W()) / (ax * s)) - gamma::LnGammaBelowStirling(ax));
 }
 template <class T>
 [[gnu::noinline]] T LnGammaReflectFar(T x) {
     using W = gamma::Wide<T>;
     bool negative;
     W s = gamma::SinPi<T, W>(x, negative);
-    W y = 1 - W(x);
-    return static_cast<T>(-(gamma::Log(s * gamma::InvPi(W())) +
-                            gamma::LnGammaStirling(y, gamma::StirlingSeries(y))));
+    W ax = -W(x);
+    return static_cast<T>(gamma::Log(gamma::Pi(W()) / (ax * s)) -
+                          gamma::LnGammaStirlingForm(ax, gamma::StirlingSeriesDouble(ax)));
 }
 
 template <class T>
@@ -106,15 +102,13 @@ int LGammaOf(T x, T* y) {
     T v;
     double near;
     if (x > 0) {
-        if (x <= 3)
+        if (x < D::kLnStirlingFrom)
             v = LnGammaSmall(x);
-        else if (x < D::kLnStirlingFrom)
-            v = LnGammaMiddle(x);
         else
             v = LnGammaLarge(x);
     } else if (NearZero(x, near)) {
         v = static_cast<T>(near);
-    } else if (1 - x < D::kStirlingFrom) { // near the point 1 - x is exact
+    } else if (-x < D::kLnStirlingFrom) {
         v = LnGammaReflectNear(x);
     } else {
         v = LnGammaReflectFar(x);
