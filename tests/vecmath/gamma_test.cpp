@@ -268,6 +268,27 @@ TEST(Gamma, TGammaOverflowLimit) {
     }
 }
 
+// Double TGamma below 2^-1000 in magnitude is 1/x, rounded once, down to the denormals
+// whose reciprocal overflows (status 3); from 2^-1000 on the routine's own form, which
+// rounds to the same there.
+TEST(Gamma, TGammaOfTinyArgumentsIsTheReciprocal) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    for (double x : {0x1.fffffffffffffp-1001, 0x1.8p-1010, 1e-305, 0x1p-1022, 0x1p-1023,
+                     0x1.8p-1024, 0x1p-1000})
+        for (double v : {x, -x})
+            for (int slot : kSlots) {
+                int st;
+                double y = Call("dTGamma", slot, v, &st);
+                EXPECT_TRUE(SameValue(y, 1 / v)) << v << " got " << y;
+                EXPECT_EQ(st, 0) << v;
+            }
+    for (double x : {0x1p-1024, 0x1p-1074}) {
+        int st;
+        EXPECT_EQ(Call("dTGamma", 1, -x, &st), -INFINITY);
+        EXPECT_EQ(st, 3);
+    }
+}
+
 // TGamma between the negative poles keeps the sign of its interval and its size.
 TEST(Gamma, TGammaSignsBetweenNegativePoles) {
     for (int n = 1; n < 30; ++n)

@@ -2,6 +2,7 @@
  * the scalar routine, which works in a wider format (gamma_core.h): x87 extended for
  * double, double for single.
  *
+ *   |x| below 2^-1000 in double: 1/x.
  *   x > 0: Gamma(x) from [1, 2] by the recurrence below the Stirling point, by
  *   exp(ln Gamma) above it; above 171.62437695630274 (35.0401001 in single) +inf,
  *   status 3; a denormal x whose 1/x passes the range overflows the same way.
@@ -73,6 +74,12 @@ int TGammaOf(T x, T* y) {
     if (x == 0) {
         *y = Keep(T(1)) / x;
         return status::kSingularity;
+    }
+    // Below 2^-1000 (9.332636185032189e-302, 1/1.0715086071862673e+301) Gamma(x) is 1/x
+    // to the last bit of a double; from the denormals on 1/x overflows.
+    if (sizeof(T) == 8 && __builtin_fabs(x) < T(0x1p-1000)) {
+        *y = 1 / x;
+        return __builtin_isinf(*y) ? status::kOverflow : status::kNone;
     }
     if (x > 0) {
         if (x > Lim::kOverflow) {
