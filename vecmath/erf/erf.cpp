@@ -48,7 +48,8 @@ constexpr SeriesCut kCutSingleHA{2, 1, 0, 0}, kCutSingleLA{2, 1, 0, 0}, kCutSing
 // The EP expansion around the nearest grid point xj = j/128 (|x| held at the limit by its
 // bits, the lanes held OR-ed on beyond): t = xj*d, u = d^2 (0 while a is not above 2^-256,
 // so that tiny arguments do not underflow), R = t*P + u*Q with P, Q the Taylor terms of
-// erf(xj + d) in t (-1, 2/3; -1/3, 1/2), slightly tuned; erf = V + (w + R*w), w = d*D, and x's sign OR-ed on.
+// erf(xj + d) in t (-1, 2/3; -1/3, 1/2), slightly tuned; erf = V + (w + R*w), w = d*D,
+// and x's sign OR-ed on.
 BRENN_VEC __m128d ErfShort(__m128d x, __m128d& beyond) {
     constexpr double kLimit = 5.9921875;
     constexpr double kP1 = 0.6666678110767819, kP0 = -1.0000014305126206;
