@@ -3,7 +3,7 @@
  * EP and LA: for sine n = round(x/pi) by the shifter, the low bit of the rounded value
  * the sign (-1)^n, r = x - n pi (EP on x with its sign, LA on |x|); for cosine the
  * half-integer n = floor(|x|/pi) + 1/2 and r = n pi - |x|; pi in three parts (EP) or
- * four (LA), and an odd series of five (EP) or nine (LA) terms on [-pi/2, pi/2]
+ * four (LA), and an odd series of five (EP) or eight (LA) terms on [-pi/2, pi/2]
  * (tools/trig/sin_double_ep.sollya, sin_double_la.sollya), its polynomial in r^2 by
  * Estrin's scheme (LA: all but the two lowest terms), EP's as r (1 + u P(u)).
  * HA: the table method at pi/64, j = round(|x| 64/pi), r = |x| - j pi/64 in three parts
@@ -21,8 +21,8 @@
  * (each step over several registers at a time, so that their chains interleave: four for
  * HA's table, all eight for the pi reduction).
  *
- * Measured (brenn_accuracy, 250000 inputs a row): EP 27.3 bits in dSin, dCos and
- * dSinCos; LA 1.63 ulp (dSin), 1.71 ulp (dCos), 0.976 ulp (dSinCos); HA 0.534 ulp
+ * Measured (brenn_accuracy, 250000 inputs a row): EP 27.1 bits in dSin, dCos and
+ * dSinCos; LA 3.01 ulp (dSin), 3.12 ulp (dCos), 0.976 ulp (dSinCos); HA 0.534 ulp
  * (dSin), 0.527 ulp (dCos), 0.532 ulp (dSinCos). */
 #include <bit>
 
@@ -45,17 +45,16 @@ constexpr double kInvPi = 0x1.45f306dc9c883p-2;
 constexpr double kPiEP[] = {0x1.921fb4p1, 0x1.4442dp-23, 0x1.8469898cc517p-47};
 constexpr double kPiLA[] = {0x1.921fb4p1, 0x1.4442dp-23, 0x1.846988p-47, 0x1.8cc51701b839ap-71};
 
-// sin r ~ r + r u P(u), u = r^2, on [-pi/2, pi/2], relative error minimised; P's
-// coefficients lowest degree first. EP: tools/trig/sin_double_ep.sollya.
-constexpr double kSinEP[] = {-0x1.55554bc836622p-3, 0x1.110ed3804d202p-7, -0x1.9f6ffeea74e89p-13,
-                             0x1.5dbdf0e45aa83p-19};
-// LA: tools/trig/sin_double_la.sollya, in two parts: the two low coefficients by Horner
-// steps after the six high ones by Estrin's scheme (all eight by Estrin's measured 2.16
-// ulp, this 1.71, as Horner's rule alone).
-constexpr double kSinLALow[] = {-0x1.5555555555555p-3, 0x1.11111111110c9p-7};
-constexpr double kSinLAHigh[] = {-0x1.a01a01a014eb7p-13, 0x1.71de3a52aac68p-19,
-                                 -0x1.ae6454d968e2fp-26, 0x1.6123ce53b3e2ep-33,
-                                 -0x1.ae43dd545dacp-41,  0x1.883c3146a7f29p-49};
+// sin r ~ r + r u P(u), u = r^2, on [-pi/2, pi/2]; P's coefficients lowest degree first.
+// EP: five terms (tools/trig/sin_double_ep.sollya measures the set: 2^-27.1).
+constexpr double kSinEP[] = {-0.16666658839437162, 0.0083330466452487071, -0.00019808085361787,
+                             2.6022725384193179e-06};
+// LA: eight terms (tools/trig/sin_double_la.sollya: 2^-52.3), in two parts: the two low
+// coefficients by Horner steps after the five high ones by Estrin's scheme.
+constexpr double kSinLALow[] = {-0.16666666666666186, 0.0083333333332855416};
+constexpr double kSinLAHigh[] = {-0.00019841269825056256, 2.7557316600552628e-06,
+                                 -2.5051880273862881e-08, 1.6048095404959637e-10,
+                                 -7.3733445331106646e-13};
 
 // Within 2^-27 of a multiple of pi cosine rounds to +-1: there r, reduced to n pi - a, is
 // within 2^-27 of +-pi/2, and its square at least (pi/2 - 2^-27)^2, whose bits (rounded

@@ -10,11 +10,11 @@
  * (tools/trig/sin_single_ep.sollya). LA: the same reduction, good to 2^-35 absolute; a
  * remainder below 2^-9 (a lane near a multiple of pi, seen by its square) is redone in
  * double with pi in two parts and narrowed to single, since the single one alone misses
- * the level there (40 ulp at 250000 inputs); a five-term single series
- * (tools/trig/sin_single.sollya). HA: r in double with pi in two parts and
+ * the level there (some 400 ulp at the floats nearest the multiples of pi); a five-term
+ * single series (tools/trig/sin_single.sollya). HA: r in double with pi in two parts and
  * r (1 + u (c3 + u (c5 + u (c7 + u c9)))) in double (tools/trig/sin_single_ha.sollya).
  *
- * Measured (brenn_accuracy, 250000 inputs a row): EP 13.2 bits in sSin, sCos and
+ * Measured (brenn_accuracy, 250000 inputs a row): EP 12.7 bits in sSin, sCos and
  * sSinCos; LA 1.79 ulp (sSin), 1.72 ulp (sCos), 1.85 ulp (sSinCos); HA 0.600 ulp (sSin,
  * sCos), 0.601 ulp (sSinCos).
  *
