@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstring>
 #include <gtest/gtest.h>
+#include <immintrin.h>
 #include <random>
 #include <string>
 #include <vector>
@@ -346,7 +347,7 @@ TEST(Trig, SingleCosineOfTinyArgumentsIsOne) {
 
 // tan x rounds to x below 2^-12 (x^3/3 is below a quarter ulp): every binade from the
 // least denormal up to 2^-13, both signs, inside rounds of ordinary lanes, comes back as
-// x itself at LA (its quotient r / C(r^2) has C(0) = 1) and HA.
+// x itself at LA (its sides r (1 + u S(u)) and C(u) with C(0) = 1) and HA.
 TEST(Trig, SingleTangentOfTinyArgumentsIsItself) {
     std::mt19937 gen(23);
     std::vector<float> x;
@@ -457,6 +458,74 @@ TEST(Trig, SingleSinCosFollowTheirSteps) {
     // EP's sine of 1 is its series on 1 - 0 pi, not the nearest float to sin 1.
     EXPECT_EQ(F2U(Call("sSin", 2, std::vector<float>{1.0f})[0]), F2U(SinCosSteps(2, false, 1.0f)));
     EXPECT_NE(Call("sSin", 2, std::vector<float>{1.0f})[0], float(sinl(1.0L)));
+}
+
+// The single tangent's short path at EP and LA, step by step: a = |x|, t = a 2/pi +
+// 1.5 * 2^23, n = t - 1.5 * 2^23 (odd from t's low bit), r = a - n pi/2 with pi/2 in three
+// single parts (LA: in double, two parts, where the single remainder's square is below
+// 2^-18), the sides s and c, and s/c or -c/s: EP by the reciprocal estimate after one
+// Newton step, LA by division. The sign of x last.
+float TanSteps(int slot, float x) {
+    const float shifter = 12582912.0f;
+    float a = std::fabs(x);
+    float t = a * U2F(0x3F22F983) + shifter;
+    bool odd = F2U(t) & 1;
+    float n = t - shifter;
+    float r = ((a - n * U2F(0x3FC90000)) - n * U2F(0x39FDA000)) - n * U2F(0x33A22169);
+    float u = r * r, s, c;
+    if (slot == 2) {
+        s = r * (U2F(0x3F7FFFFC) + u * U2F(0xBDC433B4));
+        c = 1.0f + u * (U2F(0xBEDBB7AB) + u * U2F(0x3C1F336B));
+    } else {
+        if (F2U(u) < 0x36800000u) {
+            r = float((double(a) - double(n) * 0x1.921fb5444p0) -
+                      double(n) * 0x1.68c234c4c6629p-39);
+            u = r * r;
+        }
+        s = r * (u * (-0x1.c71c78p-4f + u * 0x1.156b6ap-10f) + 1.0f);
+        c = 1.0f + u * (-0x1.c71c72p-2f + u * 0x1.04104ap-6f);
+    }
+    float top = odd ? -c : s, bot = odd ? s : c, q;
+    if (slot == 2) {
+        float y = _mm_cvtss_f32(_mm_rcp_ss(_mm_set_ss(bot)));
+        y = y * (2.0f - bot * y);
+        q = top * y;
+    } else {
+        q = top / bot;
+    }
+    return U2F(F2U(q) ^ (F2U(x) & 0x80000000u));
+}
+
+// sTan at EP and LA against those steps, bit for bit: random arguments over the short
+// path (uniform, and by exponent down to the denormals), the floats beside multiples of
+// pi/4 (zeros, poles and the quadrants' seams), zeros and the limit 8256.
+TEST(Trig, SingleTanFollowsItsSteps) {
+    std::mt19937 gen(43);
+    std::uniform_real_distribution<float> wide(-8256.0f, 8256.0f);
+    std::vector<float> x = {0.0f, -0.0f, 8256.0f, -8256.0f, 0x1p-149f, 0x1p-12f, 1.0f};
+    for (int i = 0; i < 200000; ++i)
+        x.push_back(wide(gen));
+    for (int i = 0; i < 100000; ++i) {
+        float v = std::ldexp(1.0f + float(gen() & 0x7FFFFF) * 0x1p-23f, int(gen() % 163) - 149);
+        if (std::fabs(v) <= 8256.0f) x.push_back(i % 2 ? -v : v);
+    }
+    for (int k = 1; k * 0.78539816339744831 < 8256; ++k) {
+        float m = float(k * 0.78539816339744831L);
+        for (float v : {std::nextafter(m, 0.0f), m, std::nextafter(m, 2e4f)})
+            x.push_back(k % 2 ? v : -v);
+    }
+    for (int slot : {0, 2}) {
+        std::vector<float> y = Call("sTan", slot, x);
+        int bad = 0;
+        for (size_t i = 0; i < x.size() && bad < 5; ++i) {
+            float want = TanSteps(slot, x[i]);
+            if (F2U(y[i]) != F2U(want)) {
+                ++bad;
+                ADD_FAILURE() << "slot " << slot << " x = " << std::hexfloat << x[i] << " got "
+                              << y[i] << " want " << want;
+            }
+        }
+    }
 }
 
 // The double sine and cosine pi reductions at EP and LA, step by step: sine takes

@@ -1,20 +1,23 @@
 /* Tan in single and double, three levels.
  *
  * Short path, one form for every slot but double HA: n = round(a 2/pi) by the shifter,
- * r = a - n pi/2 with pi/2 in parts, then s/c or, for n odd, -c/s. Single EP reduces in
- * single with pi/2 in three parts (the first two short, so that their products with n are
- * exact) and takes s = r and c = C(r^2), three terms fitted to r cot r
- * (tools/trig/tan_single_ep.sollya), with a true division. Single LA reduces the same way
- * (a remainder below 2^-9 is redone in double) and takes s = r and c = C(r^2) of five
- * terms fitted the same way, in single, with a true division. Single HA widens the
- * argument to double (pi/2 in two parts) and takes the double EP set; double EP reduces
- * with pi/2 in three parts, double LA in four with a longer set
- * (tools/trig/tan_quotient.sollya), and double LA also keeps the remainder's low part and
- * the roundings of s and c, and corrects the quotient by them (QuotientLA). The single
- * kernels and double EP reduce x with its sign (n, r and the quotient odd in x), the
- * others |x|, the sign put back at the end. The single short path holds to 8256, the
- * double one to 2^24. Every kernel runs rounds of sixteen elements with one range test,
- * its registers' chains interleaved (double HA's table steps too, TanSums).
+ * r = a - n pi/2 with pi/2 in parts, then the quotient s/c or, for n odd, -c/s, with
+ * s = r S(u) and c = C(u), u = r^2. Single EP reduces in single with pi/2 in three parts
+ * (the first two short, so that their products with n are exact), takes S and C of two
+ * and three terms as given (tools/trig/tan_single_ep.sollya) and the quotient as the top
+ * times the bottom's estimated reciprocal after one Newton step. Single LA reduces the same
+ * way (a remainder below 2^-9 is redone in double: in single alone near the multiples of
+ * pi/2 it misses the level) and divides; its S has a term more than EP's (three, the first
+ * 1), since the two-term form is itself 2^-21.5 off tan, beyond LA's bound
+ * (tools/trig/tan_quotient.sollya). Single HA widens the argument to double (pi/2 in two
+ * parts) and takes the double EP set of the same three-by-three shape; double EP reduces
+ * with pi/2 in three parts, double LA in four with a longer set, and double LA also keeps
+ * the remainder's low part and the roundings of s and c, and corrects the quotient by
+ * them (QuotientLA). The single kernels and double EP reduce x with its sign (n, r and
+ * the quotient odd in x, the reciprocal estimate too), the others |x|, the sign put back
+ * at the end. The single short path holds to 8256, the double one to 2^24. Every kernel
+ * runs rounds of sixteen elements with one range test, its registers' chains interleaved
+ * (double HA's table steps too, TanSums).
  *
  * Double HA: the reduction of the table method by pi/64 (x = n pi/2 + j pi/64 + r,
  * |j| <= 16), tan(j pi/64) from a table of 32 rows (tan_table.cpp) and tan r by its
@@ -24,7 +27,7 @@
  * large reduction of reduce.h in the same block, which gives the same J and r, and every
  * kernel finishes those by TanSum.
  *
- * Measured (brenn_accuracy, 250000 inputs a row): sTan EP 15.6 bits, LA 2.27 ulp,
+ * Measured (brenn_accuracy, 250000 inputs a row): sTan EP 20.7 bits, LA 3.03 ulp,
  * HA 0.522 ulp; dTan EP 29.3 bits, LA 1.62 ulp, HA 0.513 ulp. */
 #include <bit>
 
@@ -61,14 +64,21 @@ struct TanShort<double> {
                                            0x1.8cc51701b839ap-72};
 };
 
-// Single EP: tan r ~ r / C(u), u = r^2, on [-pi/4, pi/4], C of three terms fitted to
-// r cot r for relative error (2^-15.6): the quotient's numerator is r itself.
-// tools/trig/tan_single_ep.sollya.
-constexpr float kTanCot[] = {0x1.fffd66p-1f, -0x1.54c9fcp-2f, -0x1.8f7ab8p-6f};
-// The quotient's sides, s = r + r u S(u) and c = C(u) with C(0) = 1, as sets of
-// coefficients in u, lowest degree first: c a Pade denominator of tan, s fitted to it.
-// tools/trig/tan_quotient.sollya. Double EP (and single HA, in double): s/c good to 29
-// bits on [-pi/4, pi/4]; double LA: 54 bits.
+// The quotient's sides, s = r S(u) and c = C(u) with C(0) = 1, as sets of coefficients
+// in u, lowest degree first. Single EP, as given: S of two terms (0x3F7FFFFC, 0xBDC433B4),
+// C of three (1, 0xBEDBB7AB, 0x3C1F336B), 2^-21.5 on [-pi/4, pi/4]
+// (tools/trig/tan_single_ep.sollya).
+struct TanRationalEP {
+    static constexpr float kS[] = {0x1.fffff8p-1f, -0x1.886768p-4f};
+    static constexpr float kC[] = {1.0f, -0x1.b76f56p-2f, 0x1.3e66d6p-7f};
+};
+// The sets of s = r (1 + u S(u)), c a Pade denominator of tan, s fitted to it
+// (tools/trig/tan_quotient.sollya). Single LA, in single: 29 bits; double EP (and single
+// HA, in double): 29 bits; double LA: 54 bits.
+struct TanFitSingleLA {
+    static constexpr float kS[] = {-0x1.c71c78p-4f, 0x1.156b6ap-10f};
+    static constexpr float kC[] = {1.0f, -0x1.c71c72p-2f, 0x1.04104ap-6f};
+};
 struct TanFitEP {
     static constexpr double kS[] = {-0x1.c71c76d5e4acbp-4, 0x1.156aaf598c586p-10};
     static constexpr double kC[] = {1.0, -0x1.c71c71c71c71cp-2, 0x1.04104104103ffp-6};
@@ -78,16 +88,6 @@ struct TanFitLA {
                                     -0x1.29f6b20709292p-16};
     static constexpr double kC[] = {1.0, -0x1.ddddddddddddep-2, 0x1.a41a41a41a44bp-6,
                                     -0x1.45e5d2ba4606bp-12, 0x1.08db48f28a525p-21};
-};
-// Single EP: r / C(u) above.
-struct TanCotEP {
-    static constexpr const float (&kC)[3] = kTanCot;
-};
-// Single LA: r / C(u) with C of five terms, the first 1, fitted the same way (2^-27.3:
-// tan r = r exactly for tiny r, and a zero keeps its sign). tools/trig/tan_single_ep.sollya.
-struct TanCotSingleLA {
-    static constexpr float kC[] = {1.0f, -0x1.555542p-2f, -0x1.6c28b8p-6f, -0x1.12c8aep-9f,
-                                   -0x1.041086p-12f};
 };
 
 // q[k] = c[0] + u[k] (c[1] + u[k] (...)) for M registers, each step over all of them
@@ -101,17 +101,16 @@ BRENN_TRIG_HOT void HornerAll(const V* u, const C (&c)[D], V* q) {
         BRENN_EACH(k, M) q[k] = MulAdd(u[k], q[k], Set<T>(T(c[i])));
 }
 
-// The two sides of the quotient, tan r ~ s / c: r and the single EP C(u), or the two
-// series of a set.
+// The two sides of the quotient, tan r ~ s / c: EP's s = r S(u), or the sets' r (1 + u S(u)).
 template <int M, class Sides, class V>
 BRENN_TRIG_HOT void SidesOf(const V* r, const V* u, V* s, V* c) {
     using T = ElemOf<V>;
-    if constexpr (std::is_same_v<Sides, TanCotEP> || std::is_same_v<Sides, TanCotSingleLA>) {
-        BRENN_EACH(k, M) s[k] = r[k];
+    if constexpr (std::is_same_v<Sides, TanRationalEP>) {
+        HornerAll<M>(u, Sides::kS, c);
+        BRENN_EACH(k, M) s[k] = Mul(r[k], c[k]);
         HornerAll<M>(u, Sides::kC, c);
     } else {
-        // In double, s = r (1 + u S(u)): its roundings are far below the result's, and a
-        // zero r keeps its sign (r + r u S(u) turns -0 into +0).
+        // s = r (1 + u S(u)): a zero r keeps its sign (r + r u S(u) turns -0 into +0).
         HornerAll<M>(u, Sides::kS, c);
         BRENN_EACH(k, M) s[k] = Mul(r[k], MulAdd(u[k], c[k], Set<T>(1)));
         HornerAll<M>(u, Sides::kC, c);
@@ -202,7 +201,7 @@ inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
     for (size_t i = 1; i < P; ++i)
         BRENN_EACH(k, M) r[k] = Sub(r[k], Mul(n[k], Set<T>(piHalf[i])));
     BRENN_EACH(k, M) u[k] = Mul(r[k], r[k]);
-    if constexpr (std::is_same_v<Sides, TanCotSingleLA>) {
+    if constexpr (std::is_same_v<Sides, TanFitSingleLA>) {
         // The single reduction is good to 2^-35 absolute; a remainder below 2^-9 (its
         // square below 2^-18: a lane near a multiple of pi/2, a few in a thousand) takes
         // the double one, and only such a lane.
@@ -213,11 +212,18 @@ inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
         }
     }
     SidesOf<M, Sides>(r, u, s, c);
-    // n odd: -c/s.
+    // n odd: -c/s. Single EP: the top times the bottom's reciprocal, its estimate y after
+    // one Newton step y (2 - b y).
     BRENN_EACH(k, M) {
         V top = IfThenElse(odd[k], Neg(c[k]), s[k]);
         V bot = IfThenElse(odd[k], s[k], c[k]);
-        q[k] = Div(top, bot);
+        if constexpr (std::is_same_v<Sides, TanRationalEP>) {
+            V y = ApproxRecip(bot);
+            y = Mul(y, Sub(Set<T>(2), Mul(bot, y)));
+            q[k] = Mul(top, y);
+        } else {
+            q[k] = Div(top, bot);
+        }
     }
 }
 
@@ -307,9 +313,9 @@ BRENN_TRIG_HOT void ShortTan(const __m128* x, __m128* p) {
     const __m128 limit = Set<float>(kLimitS);
     BRENN_EACH(k, N) as[k] = kClamp ? Max(Min(x[k], limit), Neg(limit)) : x[k];
     if constexpr (L == Level::EP) {
-        QuadrantTan<N, TanCotEP>(as, TanShort<float>::kPiHalf, p);
+        QuadrantTan<N, TanRationalEP>(as, TanShort<float>::kPiHalf, p);
     } else if constexpr (L == Level::LA) {
-        QuadrantTan<N, TanCotSingleLA>(as, TanShort<float>::kPiHalf, p);
+        QuadrantTan<N, TanFitSingleLA>(as, TanShort<float>::kPiHalf, p);
     } else {
         __m128d ad[2 * N], q[2 * N];
         BRENN_EACH(k, N) {
