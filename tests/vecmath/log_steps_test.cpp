@@ -17,6 +17,7 @@
 #include "frame/dispatch.h"
 #include "tests/vecmath/kernels.h"
 #include "vecmath/explog/explog_tables.h"
+#include "vecmath/explog/scalar_log.h"
 
 namespace brenn::test {
 namespace {
@@ -240,6 +241,23 @@ TEST(LogSteps, EdgesOfTheSingleBodies) {
         EXPECT_EQ(CallUnary(l1p, 1e-30f, &st), 1e-30f) << slot;
         EXPECT_EQ(st, 0);
         EXPECT_EQ(Bits(CallUnary(l1p, -0.0f)), 0x80000000u) << slot;
+    }
+}
+
+// The scalar logarithm near 1 (|x - 1| not above 2^-7): r + r^2*P(r) on r = x - 1 alone,
+// P's seven coefficients from the top by Horner's rule.
+TEST(LogSteps, ScalarLogarithmNearOne) {
+    const double c[] = {-0.1250214602960357,  0.1428756883852146,   -0.1666666651884978,
+                        0.19999999911565072,  -0.25000000000003386, 0.33333333333334386,
+                        -0.5};
+    std::mt19937_64 g(5);
+    std::uniform_real_distribution<double> r(-0x1p-7, 0x1p-7);
+    for (int i = 0; i < 200000; ++i) {
+        double x = 1.0 + r(g), d = x - 1.0;
+        double p = c[0];
+        for (int j = 1; j < 7; ++j)
+            p = c[j] + d * p;
+        ASSERT_EQ(Bits(__qesdLn(x)), Bits(d + d * d * p)) << std::hexfloat << x;
     }
 }
 

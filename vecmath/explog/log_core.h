@@ -443,16 +443,17 @@ inline __m128 LnOfSingleLanes(__m128 x, Half half) {
 // above 2^-7) a degree-8 polynomial on r = x - 1 alone; elsewhere x = 2^k*m, m in [1, 2),
 // the row of lnTable128 for m's interval, r = (c*rcp - 1) + (m - c)*rcp with the first
 // product exact, the same polynomial, and k*ln2 and the row's logarithm in two parts
-// whose heads add exactly. Within 0.8 ulp of double (measured).
-// Coefficients c2..c8 of ln(1 + r) = r + r^2*P(r) on |r| <= 2^-7, fitted by
-// tools/explog/ln_scalar.sollya.
-constexpr double kLnScalarPoly[] = {-0x1p-1,
-                                    0x1.55555555555a9p-2,
-                                    -0x1.0000000000074p-2,
-                                    0x1.99999989bfa7ep-3,
-                                    -0x1.5555554387e92p-3,
-                                    0x1.24991e45c1cd4p-3,
-                                    -0x1.0006ba760b4d3p-3};
+// whose heads add exactly. Within 0.69 ulp of double (measured).
+// Coefficients c2..c8 of ln(1 + r) = r + r^2*P(r) on |r| <= 2^-7, as given:
+// -0.5, 0.33333333333334386, -0.25000000000003386, 0.19999999911565072,
+// -0.1666666651884978, 0.1428756883852146, -0.1250214602960357.
+constexpr double kLnScalarPoly[] = {-0.5,
+                                    0.33333333333334386,
+                                    -0.25000000000003386,
+                                    0.19999999911565072,
+                                    -0.1666666651884978,
+                                    0.1428756883852146,
+                                    -0.1250214602960357};
 inline double LnPolyScalar(double r) {
     const double* c = kLnScalarPoly;
     double p = c[6];
