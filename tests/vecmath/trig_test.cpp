@@ -752,12 +752,14 @@ TEST(Trig, DegreesAndPiUnits) {
     for (int slot = 0; slot < kSlots; ++slot) {
         EXPECT_EQ(Call("sSind", slot, std::vector<float>{180, 360, 540, -180}),
                   (std::vector<float>{0, 0, 0, 0}));
+        // EP's series at the single pi/2 is 1 + 2^-23: its cosine of 0 and sine of 90 degrees.
+        const float one = slot == 2 ? 0x1.000002p0f : 1.0f;
         EXPECT_EQ(Call("sCosd", slot, std::vector<float>{0, 90, 180, 270}),
-                  (std::vector<float>{1, 0, -1, 0}));
+                  (std::vector<float>{one, 0, -one, 0}));
         EXPECT_EQ(Call("sTand", slot, std::vector<float>{45, -45, 135}),
                   (std::vector<float>{1, -1, -1}));
         EXPECT_EQ(Call("sSinpi", slot, std::vector<float>{1, 0.5, 1.5, 4194304}),
-                  (std::vector<float>{0, 1, -1, 0}));
+                  (std::vector<float>{0, one, -one, 0}));
         EXPECT_EQ(Call("dSind", slot, std::vector<double>{180, 90, 1e300 - 1e300 + 720}),
                   (std::vector<double>{0, 1, 0}));
         EXPECT_EQ(Call("dCospi", slot, std::vector<double>{0, 0.5, 1, 0x1p60}),
@@ -771,6 +773,91 @@ TEST(Trig, DegreesAndPiUnits) {
     Specials<double>("dCosd");
     Specials<double>("dSinpi");
     brenn_zar_kernel_SetMode(BRENN_MODE_ERRMODE_DEFAULT);
+}
+
+// The single sines, cosines and tangents of degrees and units of pi, step by step:
+// a = |x|, t = a/180 (a) (+ 1/2 for cosine) + 1.5 * 2^23, k = t - 1.5 * 2^23 (- 1/2),
+// r = a - 180 k (a - k); the series on r in radians (EP and LA: r times the single pi/180
+// or pi; HA: r, the product and the series in double), with (-1)^k from t's low bit; the
+// tangent as the series at r over the series at 90 - |r| (1/2 - |r|), at HA in double.
+// The sign of x last for sine and tangent.
+double UnitSeriesHA(bool degrees, double r) {
+    const double c[] = {-0x1.55554bc836587p-3, 0x1.110ed3804ca96p-7, -0x1.9f6ffeea73463p-13,
+                        0x1.5dbdf0e4c7deep-19};
+    double rr = r * (degrees ? 0x1.1df46a2529d39p-6 : 0x1.921fb54442d18p+1), u = rr * rr;
+    double q = c[3];
+    for (int i = 2; i >= 0; --i)
+        q = u * q + c[i];
+    return rr * (u * q + 1.0);
+}
+float UnitSeries(int slot, bool degrees, float r) {
+    float rr = r * U2F(degrees ? 0x3C8EFA35 : 0x40490FDB), u = rr * rr;
+    if (slot == 2) return rr * (u * (u * U2F(0x3BF831A5) + U2F(0xBE29F1BE)) + 1.0f);
+    const float c[] = {-0x1.55554cp-3f, 0x1.110edap-7f, -0x1.9f70fp-13f, 0x1.5dc908p-19f};
+    float q = c[3];
+    for (int i = 2; i >= 0; --i)
+        q = u * q + c[i];
+    return rr + rr * u * q;
+}
+float UnitSteps(int slot, bool degrees, Fn fn, float x) {
+    const float shifter = 12582912.0f, quarter = degrees ? 90.0f : 0.5f;
+    float a = std::fabs(x);
+    float t = degrees ? a * U2F(0x3BB60B61) : a;
+    if (fn == Fn::Cos) t = t + 0.5f;
+    t = t + shifter;
+    float k = t - shifter;
+    if (fn == Fn::Cos) k = k - 0.5f;
+    float p;
+    if (slot == 1) {
+        double r = degrees ? double(a) - double(k) * 180.0 : double(a) - double(k);
+        double s = UnitSeriesHA(degrees, r);
+        if (fn == Fn::Tan) s = s / UnitSeriesHA(degrees, quarter - std::fabs(r));
+        p = float(s);
+    } else {
+        float r = degrees ? a - k * 180.0f : a - k;
+        p = UnitSeries(slot, degrees, r);
+        if (fn == Fn::Tan) p = p / UnitSeries(slot, degrees, quarter - std::fabs(r));
+    }
+    uint32_t sign = fn == Fn::Tan ? 0 : F2U(t) << 31;
+    if (fn != Fn::Cos) sign ^= F2U(x) & 0x80000000u;
+    return U2F(F2U(p) ^ sign);
+}
+
+// Every slot of the six single rows against those steps, bit for bit: random arguments up
+// to the limit (uniform, by exponent, whole numbers and quarter multiples of the half
+// period) and the limit itself.
+TEST(Trig, SingleDegreesAndPiUnitsFollowTheirSteps) {
+    std::mt19937 gen(47);
+    for (bool degrees : {true, false}) {
+        const float limit = degrees ? 16777306.0f : 4194304.0f;
+        const float half = degrees ? 180.0f : 1.0f;
+        std::uniform_real_distribution<float> wide(-limit, limit), near(-4 * half, 4 * half);
+        std::vector<float> x = {0.0f, -0.0f, limit, -limit, 0x1p-149f, half, half / 2};
+        for (int i = 0; i < 60000; ++i) {
+            x.push_back(wide(gen));
+            x.push_back(near(gen));
+            float v = std::ldexp(1.0f + float(gen() & 0x7FFFFF) * 0x1p-23f, int(gen() % 173) - 149);
+            if (std::fabs(v) <= limit) x.push_back(i % 2 ? -v : v);
+            x.push_back(float(int(gen() % 4096) - 2048) * half / 4);
+            x.push_back(std::round(wide(gen)));
+        }
+        const char* rows[3] = {degrees ? "sSind" : "sSinpi", degrees ? "sCosd" : "sCospi",
+                               degrees ? "sTand" : "sTanpi"};
+        const Fn fns[3] = {Fn::Sin, Fn::Cos, Fn::Tan};
+        for (int f = 0; f < 3; ++f)
+            for (int slot = 0; slot < kSlots; ++slot) {
+                std::vector<float> y = Call(rows[f], slot, x);
+                int bad = 0;
+                for (size_t i = 0; i < x.size() && bad < 5; ++i) {
+                    float want = UnitSteps(slot, degrees, fns[f], x[i]);
+                    if (F2U(y[i]) != F2U(want)) {
+                        ++bad;
+                        ADD_FAILURE() << rows[f] << " slot " << slot << " x = " << std::hexfloat
+                                      << x[i] << " got " << y[i] << " want " << want;
+                    }
+                }
+            }
+    }
 }
 
 // Near zero the double HA sines and tangents of degrees and of units of pi take the

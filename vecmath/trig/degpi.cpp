@@ -1,24 +1,40 @@
 /* Sind, Cosd, Tand (arguments in degrees) and Sinpi, Cospi, Tanpi (in units of pi), in
- * single and double, three levels: one body for all twelve rows.
+ * single and double, three levels.
  *
- * The reduction is exact: j = round(|x| 64/180) (or round(|x| 64)), and
- * d = |x| - j * 2.8125 (or j / 64) is exact, since the step is a short binary number
- * and d is the difference of two close numbers (or |x| itself for j = 0). Only then is
- * d turned into radians, by pi/180 (or pi) in two parts, and the result is
- * sin(j pi/64 + d') from the table, cosine at j + 32, tangent as their quotient. So
- * whole multiples of 180 degrees (of pi) give zeros exactly, and 0 gives cos = 1.
- * Single works in double, two lanes at a time; HA carries the conversion to radians and
- * the table product exactly. No fitted set: the table of sin and cos at multiples of
- * pi/64 and the short Taylor series of reduce.h are all there is.
+ * Single: a whole multiple of the half period taken off by the shifter:
+ * k = round(|x|/180) (or round(|x|)), r = |x| - 180 k (or |x| - k), exact in single below
+ * the limit, and sin x = (-1)^k sin r; cosine takes the half-integer
+ * k = round(|x|/180 + 1/2) - 1/2, so that cos x = sin(x + 90) = (-1)^(k + 1/2) sin r (its
+ * r rounds where |x| is below a quarter period).
+ * r in [-90, 90] (or [-1/2, 1/2]) is turned into radians by pi/180 (pi) in single and an
+ * odd series applied: at EP r (1 + u (c3 + u c5)) as given (tools/trig/sin_single_ep.sollya
+ * measures it), at LA the single sine's LA series on the single product. Tangent: r from
+ * sine's reduction (tan has the half period), the series at r and at 90 - |r| (1/2 - |r|)
+ * as sine and cosine, and their quotient. HA holds to its bound only in double from the
+ * reduction's difference on: r = |x| - 180 k again in double (exact there, where in single
+ * the cosine's half-integer k makes it round), times pi/180 (pi) in double (the single
+ * constant alone is 2^-27 off, 2^-25 for pi), the single sine's HA series in double and the
+ * tangent's quotient in double, narrowed once. So whole multiples of 180 degrees (of pi)
+ * give zeros exactly, and 90 degrees a cosine of zero.
+ *
+ * Double: j = round(|x| 64/180) (or round(|x| 64)), and d = |x| - j * 2.8125 (or j / 64)
+ * is exact, since the step is a short binary number and d is the difference of two close
+ * numbers (or |x| itself for j = 0). Only then is d turned into radians, by pi/180 (or
+ * pi) in two parts, and the result is sin(j pi/64 + d') from the table, cosine at j + 32,
+ * tangent as their quotient. HA carries the conversion to radians and the table product
+ * exactly. No fitted set: the table of sin and cos at multiples of pi/64 and the short
+ * Taylor series of reduce.h are all there is.
  *
  * Above the limit (single: 16777306 degrees, 4194304 units of pi; double: 2^45) the
  * scalar routine takes |x| modulo the period by fmod, which is exact, and runs the same
  * body on the remainder. Infinity gives NaN with the domain status, NaN itself none.
  *
- * Measured (brenn_accuracy, 250000 inputs a row): single, every row at every level,
- * 0.500 ulp (24.0 bits). Double, EP (bits) / LA (ulp) / HA (ulp): dSind 52.1 / 1.267 /
- * 0.531, dCosd 52.2 / 1.196 / 0.542, dTand 51.5 / 1.398 / 0.517, dSinpi 52.2 / 1.288 /
- * 0.534, dCospi 52.2 / 1.352 / 0.522, dTanpi 51.6 / 1.340 / 0.507. */
+ * Measured (brenn_accuracy, 250000 inputs a row), EP (bits) / LA (ulp) / HA (ulp):
+ * single, sSind 12.2 / 1.67 / 0.599, sCosd 12.2 / 1.72 / 0.599, sTand 12.9 / 2.91 / 0.630,
+ * sSinpi 12.2 / 1.89 / 0.601, sCospi 12.2 / 1.95 / 0.599, sTanpi 12.9 / 3.11 / 0.630;
+ * double, dSind 52.1 / 1.267 / 0.531, dCosd 52.2 / 1.196 / 0.542, dTand 51.5 / 1.398 /
+ * 0.517, dSinpi 52.2 / 1.288 / 0.534, dCospi 52.2 / 1.352 / 0.522, dTanpi 51.6 / 1.340 /
+ * 0.507. */
 #include <bit>
 #include <cmath>
 #include <limits>
@@ -140,24 +156,106 @@ inline __m128d OnMagnitude(__m128d a) {
     return IfThenElse(tiny, direct, q);
 }
 
-// Four single magnitudes as two double registers, or two double magnitudes as they are.
+// The single constants a unit: 1/180 (0x3BB60B61) and 180, or none and 1; pi/180
+// (0x3C8EFA35) or pi (0x40490FDB) in single, and in double for HA; a quarter period.
+template <Unit U>
+struct UnitSingle;
+template <>
+struct UnitSingle<Unit::Degree> {
+    static constexpr float kInv = 0x1.6c16c2p-8f;
+    static constexpr float kStep = 180.0f;
+    static constexpr float kRad = 0x1.1df46ap-6f;
+    static constexpr double kRadD = 0x1.1df46a2529d39p-6;
+    static constexpr float kQuarter = 90.0f;
+};
+template <>
+struct UnitSingle<Unit::Pi> {
+    static constexpr float kInv = 1.0f;
+    static constexpr float kStep = 1.0f;
+    static constexpr float kRad = 0x1.921fb6p1f;
+    static constexpr double kRadD = 0x1.921fb54442d18p+1;
+    static constexpr float kQuarter = 0.5f;
+};
+
+// The odd series on r, in the unit, at the level: sin(r in radians) for r within a
+// quarter period.
+// EP: c3 0xBE29F1BE, c5 0x3BF831A5 after c1 = 1.
+constexpr float kSinUnitEP[] = {-0x1.53e37cp-3f, 0x1.f0634ap-8f};
+// LA and HA: the single sine's sets (sincos_single.cpp; tools/trig/sin_single.sollya and
+// sin_single_ha.sollya).
+constexpr float kSinUnitLA[] = {-0x1.55554cp-3f, 0x1.110edap-7f, -0x1.9f70fp-13f, 0x1.5dc908p-19f};
+constexpr double kSinUnitHA[] = {-0x1.55554bc836587p-3, 0x1.110ed3804ca96p-7,
+                                 -0x1.9f6ffeea73463p-13, 0x1.5dbdf0e4c7deep-19};
+
+// sin of r in the unit (|r| at most a quarter period) at EP and LA: r times the single
+// pi/180 (pi), and the series in single.
+template <Unit U, Level L>
+inline __m128 SeriesInUnit(__m128 r) {
+    __m128 rr = Mul(r, Set<float>(UnitSingle<U>::kRad));
+    __m128 u = Mul(rr, rr);
+    if constexpr (L == Level::EP) return Mul(rr, MulAdd(u, Horner(u, kSinUnitEP), Set<float>(1)));
+    return Add(rr, Mul(Mul(rr, u), Horner(u, kSinUnitLA)));
+}
+// HA, in double: r times pi/180 (pi) in double and the series in double.
+template <Unit U>
+inline __m128d SeriesInUnitHA(__m128d r) {
+    __m128d rr = Mul(r, Set<double>(UnitSingle<U>::kRadD));
+    __m128d u = Mul(rr, rr);
+    return Mul(rr, MulAdd(u, Horner(u, kSinUnitHA), Set<double>(1.0)));
+}
+
+// The function of r, reduced, and k's parity as a sign (t's low bit), at EP and LA in
+// single; at HA the difference a - step k again in double, where it is exact (in single it
+// rounds for the cosine's half-integer k, a below a quarter period: up to 1.1 ulp at
+// HA), and the series and the tangent's quotient in double (the quotient of two rounded
+// single values reached 2.3 ulp), narrowed once.
+template <Unit U, Fn F, Level L>
+inline __m128 OfReduced(__m128 a, __m128 k, __m128 r, __m128 t) {
+    using C = UnitSingle<U>;
+    const __m128 sign = AsFloat(ShiftLeft<31>(AsInt(t)));
+    if constexpr (L == Level::HA) {
+        const __m128d ad[2] = {WidenLower(a), WidenUpper(a)},
+                      kd[2] = {WidenLower(k), WidenUpper(k)};
+        __m128d p[2];
+#pragma GCC unroll 2
+        for (int i = 0; i < 2; ++i) {
+            __m128d rd = U == Unit::Degree ? Sub(ad[i], Mul(kd[i], Set<double>(C::kStep)))
+                                           : Sub(ad[i], kd[i]);
+            p[i] = SeriesInUnitHA<U>(rd);
+            if constexpr (F == Fn::Tan)
+                p[i] = Div(p[i], SeriesInUnitHA<U>(Sub(Set<double>(C::kQuarter), Abs(rd))));
+        }
+        __m128 q = Narrow(p[0], p[1]);
+        return F == Fn::Tan ? q : Xor(q, sign);
+    } else {
+        if constexpr (F == Fn::Tan)
+            return Div(SeriesInUnit<U, L>(r),
+                       SeriesInUnit<U, L>(Sub(Set<float>(C::kQuarter), Abs(r))));
+        return Xor(SeriesInUnit<U, L>(r), sign);
+    }
+}
+
+// The function of four single magnitudes, at most the limit (16777306 or 4194304; the
+// scalar routine's lanes are clamped), without the sign of x.
 template <Unit U, Fn F, Level L>
 inline __m128 OnMagnitudes(__m128 a) {
-    __m128d p0 = OnMagnitude<U, F, L, false>(WidenLower(a));
-    __m128d p1 = OnMagnitude<U, F, L, false>(WidenUpper(a));
-    return Narrow(p0, p1);
+    using C = UnitSingle<U>;
+    const __m128 shifter = Set<float>(Format<float>::kShifter);
+    a = Min(a, AsFloat(Set<uint32_t>(UnitConst<U>::kLimitS)));
+    __m128 t = U == Unit::Degree ? Mul(a, Set<float>(C::kInv)) : a;
+    if constexpr (F == Fn::Cos) t = Add(t, Set<float>(0.5f));
+    t = Add(t, shifter);
+    __m128 k = Sub(t, shifter);
+    if constexpr (F == Fn::Cos) k = Sub(k, Set<float>(0.5f));
+    __m128 r = L == Level::HA      ? a
+               : U == Unit::Degree ? Sub(a, Mul(k, Set<float>(C::kStep)))
+                                   : Sub(a, k);
+    return OfReduced<U, F, L>(a, k, r, t);
 }
+
 template <Unit U, Fn F, Level L>
 inline __m128d OnMagnitudes(__m128d a) {
     return OnMagnitude<U, F, L>(a);
-}
-
-// A double result as a register of the row's type (the scalar routine's, lane 0).
-inline __m128 InType(__m128d p, __m128) {
-    return Narrow(p, p);
-}
-inline __m128d InType(__m128d p, __m128d) {
-    return p;
 }
 
 // Sine and tangent are odd, cosine even.
@@ -194,7 +292,7 @@ struct Body {
         if (!(std::fabs(x) <= std::numeric_limits<T>::max())) return InfNanScalar(a, y);
         // |x| modulo the period, exactly, then the body on that one value.
         double r = std::fmod(std::fabs(double(x)), UnitConst<U>::kPeriod);
-        V p = InType(OnMagnitude<U, F, L>(Set<double>(r)), V{});
+        V p = OnMagnitudes<U, F, L>(Set<T>(T(r))); // r is exact in T
         *y = GetLane(ApplySign<F>(p, Set<T>(x)));
         return status::kNone;
     }
