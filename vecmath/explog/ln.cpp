@@ -5,9 +5,10 @@
  * the low one first). x = 1 gives k = 0 and r = 0: exactly +0 at every level.
  * dLn: the 513-row reciprocal table with |r| <= 2^-10 (log_core.h); EP on the rows alone
  * (LogRowsEP: the row found by two integer steps, r = m*rcp - 1, a cubic, no low parts);
- * LA and HA degree 5 with ln 2 and the table logarithm in two parts,
- * the tail summed before the exact head: the table's 2^-42 grid leaves no cheaper
- * form within 4 ulp, so LA is the same arithmetic.
+ * LA and HA degree 5 with ln 2 and the table logarithm in two parts, the tail summed
+ * before the exact head (the table's 2^-42 grid leaves no cheaper form within 4 ulp, so
+ * LA is the same arithmetic); HA with its own polynomial by Horner's rule, LA with the
+ * core's by Estrin's scheme.
  * Measured (brenn_accuracy, worst of its inputs): sLn EP 12.8 bits, LA 3.93 ulp, HA
  * 0.97 ulp (LA and HA every float of [1/4, 4)); dLn EP 32.7 bits, LA and HA 0.91 ulp.
  * Scalar routines: log_scalar.h (zero: -inf, singularity; negative: NaN, domain;
@@ -61,7 +62,7 @@ inline __m128d LnOf(__m128d x) {
     } else {
         __m128d h, l;
         I64x2 x1;
-        LnCoreFrom<L>(LnReduceBits(x, x1), h, l);
+        LnCoreFrom<L, true>(LnReduceBits(x, x1), h, l);
         return Add(h, l);
     }
 }
@@ -95,7 +96,7 @@ struct LnBody {
 #pragma GCC unroll 2
                 for (int j = 0; j < 2; ++j) {
                     __m128d h, l;
-                    LnCoreFrom<L>(red[j], h, l);
+                    LnCoreFrom<L, true>(red[j], h, l);
                     y[2 * q + j] = Add(h, l);
                 }
             }

@@ -57,6 +57,10 @@ struct LogConst<double> {
                                      0x1.5555615667e09p-2};
     static constexpr double kCore[] = {-0x1.ffffffffffcabp-2, 0x1.555555555512dp-2,
                                        -0x1.00000d54efc6fp-2, 0x1.9999b38894dd2p-3};
+    // dLn HA: P(r) as given, -0.49999999999995254, 0.33333333333327408,
+    // -0.25000019886943392, 0.20000019344205111, by Horner's rule.
+    static constexpr double kLnHA[] = {-0.49999999999995254, 0.33333333333327408,
+                                       -0.25000019886943392, 0.20000019344205111};
 };
 
 // The lanes that are not positive normals. The window's limit is kept from the
@@ -357,8 +361,9 @@ BRENN_VEC void LnReducePair(const LogPair& p, LnReduction& r0, LnReduction& r1) 
 }
 
 // ln x = h + r + t from the reduction, h exact and |t| << |r|: the three terms for the
-// exact scaling. EP: cubic and no low parts (about 2^-33).
-template <Level L>
+// exact scaling. EP: cubic and no low parts (about 2^-33). kOwnHA: dLn HA's own
+// polynomial (kLnHA by Horner's rule) in place of the core's at HA.
+template <Level L, bool kOwnHA = false>
 BRENN_VEC void LnCore3From(const LnReduction& red, __m128d& h, __m128d& r, __m128d& t) {
     using K = LogConst<double>;
     // mh*rcp - 1 from the row (a), the same value the product and difference give.
@@ -371,7 +376,11 @@ BRENN_VEC void LnCore3From(const LnReduction& red, __m128d& h, __m128d& r, __m12
         t = Mul(r2, p);
     } else {
         // Estrin's scheme: two independent pairs joined by r^2.
-        __m128d p = Estrin(r, K::kCore);
+        __m128d p;
+        if constexpr (kOwnHA && L == Level::HA)
+            p = Horner(r, K::kLnHA);
+        else
+            p = Estrin(r, K::kCore);
         h = Add(Mul(red.k, Set<double>(K::kLn2Hi)), red.th);
         __m128d tail = Add(Mul(red.k, Set<double>(K::kLn2Lo)), red.tl);
         t = Add(Mul(r2, p), tail);
@@ -384,10 +393,10 @@ inline void LnCore3(__m128d x, __m128d& h, __m128d& r, __m128d& t) {
 }
 
 // ln x = h + l from the reduction.
-template <Level L>
+template <Level L, bool kOwnHA = false>
 BRENN_VEC void LnCoreFrom(const LnReduction& red, __m128d& h, __m128d& l) {
     __m128d r, t;
-    LnCore3From<L>(red, h, r, t);
+    LnCore3From<L, kOwnHA>(red, h, r, t);
     l = Add(r, t);
 }
 
