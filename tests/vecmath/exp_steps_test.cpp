@@ -351,5 +351,47 @@ TEST(ExpSteps, DoubleExp2AndExp10) {
     EXPECT_LE(UlpError(y, expl((long double)(-307.66) * 2.30258509299404568402L)), 1.0);
 }
 
+
+// ---- sExpm1: one kernel for every level, the single steps in double lanes ----
+
+float SExpm1(float x) {
+    double xd = x;
+    double t = xd * double(F(0x42B8AA3B)) + kShifterD;
+    double n = t - kShifterD;
+    double r = xd - n * double(F(0x3C318000)) - n * double(F(0xB65E8083));
+    int64_t k = int64_t(n);
+    const float* row = vm::single::expTable64[k & 63];
+    double p = r + r * r * (double(F(0x3F00000F)) + double(F(0x3E2AAABF)) * r);
+    double q = p + row[1];
+    double s = std::ldexp(double(row[0]), int(k >> 6));
+    float y = float((s - 1.0) + s * q);
+    return F(B(y) | (B(x) & 0x80000000u));
+}
+
+TEST(ExpSteps, SingleExpm1) {
+    const RowIndex row = frame::Row_sExpm1;
+    auto k = K<float>(row, frame::SlotHA);
+    EXPECT_EQ(k, K<float>(row, frame::SlotLA));
+    EXPECT_EQ(k, K<float>(row, frame::SlotEP));
+    const float edge = F(0x42AD496B); // 86.6433945
+    std::vector<float> x = Uniform(-edge, edge, 200000, 7);
+    for (float v : Uniform(-1.0f, 1.0f, 100000, 8)) // where S - 1 and S*q cancel
+        x.push_back(v);
+    ExpectSteps(row, frame::SlotHA, x, SExpm1);
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    int status;
+    EXPECT_EQ(B(CallUnary(k, -0.0f, &status)), 0x80000000u);
+    // Beyond the window: -1 for large negative x, the scalar routine's value up to the
+    // last finite result, status 0.
+    for (float v : {-std::nextafter(edge, 100.0f), -100.0f, -1e30f}) {
+        EXPECT_EQ(CallUnary(k, v, &status), -1.0f) << v;
+        EXPECT_EQ(status, 0);
+    }
+    for (float v : {std::nextafter(edge, 100.0f), 88.0f, F(0x42B17217)}) {
+        EXPECT_LE(UlpError(CallUnary(k, v, &status), expm1l(v)), 1.0) << v;
+        EXPECT_EQ(status, 0);
+    }
+}
+
 } // namespace
 } // namespace brenn::test

@@ -1,10 +1,8 @@
-/* Expm1, single and double, three levels each.
+/* Expm1, single and double.
  *
- * Single HA widens to double and runs on the table of 128: e^x - 1 = (S - 1) + S*p(r),
- * S = 2^m*2^(j/128), |r| <= ln2/256, degree 3, rounded once to single (Expm1Table128).
- * Single LA and EP use no table, in single: x = n*ln2 + r, |r| <= ln2/2, and
- * e^x - 1 = (2^n - 1) + 2^n*p(r), one rounding (Expm1NoTable), degree 6 and 4; EP with
- * ln2 in one part and as 2^n*p - (1 - 2^n), which keeps the sign of -0 (Expm1EP).
+ * Single, one kernel for every level: the table of 64, e^x - 1 = (S - 1) + S*(p + Tl),
+ * S = 2^m*2^(j/64), |r| <= ln2/128, degree 3 with the single constants, the steps in
+ * double lanes and rounded once to single (Expm1Table64).
  * The double kernels reduce on the table of 256 (exp_core256.h's step; the rows
  * 2^(j/256) = Thi*(1 + d) of expRelTable256): e^x - 1 = 2^m*Thi*e^(r + d) - 1. HA
  * (degree 5) carries the first difference and its sum with the leading part of the
@@ -16,16 +14,15 @@
  * for m <= -2, 2^m*(Thi + s) - 1, the result then being near -1. Here s = Thi*p + Tlo.
  * For small |x| (m = 0, j = 0) this is p itself, whose polynomial is fitted for relative
  * error; degree 6 (EP 4), at HA th*r and the middle sum carried exactly.
- * Range test x outside [-708, 709.77] (double, by high words) or |x| above 88.375
- * (single LA and EP, n <= 127; at HA 88.7228394, the last finite result); the scalar routine gives +inf above the overflow limit (an overflow),
+ * Range test x outside [-708, 709.77] (double, by high words) or |x| above 86.6433945
+ * (single); the scalar routine gives +inf above the overflow limit (an overflow),
  * -1 for large negative x, e^x itself above 709 (where the core's scale 2^m would pass
  * 2^1022), and the core's value otherwise. Error mode 0x2000 blends the overflow lanes to +inf. Rounds of sixteen
  * elements, the range tested once a round (wide.h).
  *
- * Measured (brenn_accuracy, full run): sExpm1 HA 0.502 ulp, LA 1.36 ulp, EP 15.1 bits;
- * dExpm1 LA 1.00 ulp, HA 0.50 ulp, EP 35.2 bits. The polynomials: without a table
- * tools/explog/expm1_notable.sollya, on the table of 256 expm1_double256.sollya, the
- * scalar core's tools/explog/expm1_double.sollya. */
+ * Measured (brenn_accuracy, full run): sExpm1 0.605 ulp; dExpm1 LA 1.00 ulp, HA 0.50 ulp,
+ * EP 35.2 bits. The polynomials: on the table of 256 tools/explog/expm1_double256.sollya,
+ * the scalar core's tools/explog/expm1_double.sollya. */
 #include "frame/kernels.h"
 #include "vecmath/explog/exp_core.h"
 #include "vecmath/explog/exp_core256.h"
@@ -78,63 +75,6 @@ inline __m128d Expm1Core(__m128d x) {
     // Below 2^-60 the result is x itself; this also keeps the sign of -0.
     __m128d tiny = Lt(Abs(x), Set<double>(0x1p-60));
     return IfThenElse(tiny, x, y);
-}
-
-// The single kernels. HA in double lanes on the table of 128 (expTable128's high parts):
-// x = (128m + j)*ln2/128 + r, |r| <= ln2/256, S = 2^m*2^(j/128) by an integer addition on
-// the row's exponent field (normal for |m| <= 126), and e^x - 1 = (S - 1) + S*p(r),
-// p(r) = r + r^2*(c2 + c3*r) fitted for relative error (2^-32.25) by
-// tools/explog/expm1_single_table.sollya. S - 1 is exact for -1 <= m <= 52, where the
-// sum can cancel (j near 0 or 128, |result| >= 2^-8.5 there unless m = j = 0, which
-// gives p itself); its rounding elsewhere, and n*step's one part (2^-46.5), are far below
-// a single's last place.
-struct Expm1Single128 {
-    static constexpr double kInvStep = 0x1.71547652b82fep7, kStep = 0x1.62e42fefa39efp-8;
-    static constexpr double kC[] = {0x1.000007afac448p-1, 0x1.55555867fb70ap-3};
-};
-inline __m128d Expm1Table128(__m128d x) {
-    using C = Expm1Single128;
-    const __m128d shifter = Set<double>(Format<double>::kShifter);
-    __m128d t = Add(Mul(x, Set<double>(C::kInvStep)), shifter);
-    __m128d n = Sub(t, shifter);
-    __m128d r = Sub(x, Mul(n, Set<double>(C::kStep)));
-    const double* row0 = expTable128[LowWord<0>(AsInt(t)) & 127];
-    const double* row1 = expTable128[LowWord<1>(AsInt(t)) & 127];
-    __m128d s = ScaleByLowWord<7>(LoadLanes(row0, row1), t);
-    __m128d p = Add(r, Mul(Mul(r, r), Horner(r, C::kC)));
-    return Add(Sub(s, Set<double>(1.0)), Mul(s, p));
-}
-
-// LA and EP in single without a table: x = n*ln2 + r with |r| <= ln2/2, p(r) ~ e^r - 1
-// by Estrin's scheme, and e^x - 1 = (2^n - 1) + 2^n*p: 2^n*p is exact and 2^n - 1 is
-// exact for |n| <= 24 (beyond, its rounding is below the result's last place), so the
-// sum is the one rounding. It does not cancel (n = 1: 1 + 2p >= 0.42; n = -1:
-// -1/2 + p/2 <= -0.29), so one formula serves every n, with no branches to blend; n = 0
-// gives p itself, fitted for relative error.
-template <class T>
-struct Expm1Wide;
-// Single LA and EP in single: ln2 in two parts, the head of 16 bits (n*head exact for
-// |n| <= 125), and degree 6 (2^-26) and degree 4 (2^-15.5).
-template <>
-struct Expm1Wide<float> {
-    static constexpr float kInvLn2 = 0x1.715476p0f;
-    static constexpr float kLn2Hi = 0x1.62e4p-1f, kLn2Lo = 0x1.7f7d1cp-20f;
-    static constexpr float kC6[] = {0x1.fffffep-2f, 0x1.5554bp-3f, 0x1.555716p-5f, 0x1.12278ep-7f,
-                                    0x1.6b7338p-10f};
-    static constexpr float kC4[] = {0x1.00022ap-1f, 0x1.57084ap-3f, 0x1.54dedep-5f};
-};
-
-template <class V, class T, size_t N>
-inline V Expm1NoTable(V x, const T (&c)[N]) {
-    using W = Expm1Wide<T>;
-    const V shifter = Set<T>(Format<T>::kShifter);
-    V t = Add(Mul(x, Set<T>(W::kInvLn2)), shifter);
-    V n = Sub(t, shifter);
-    V r = Sub(Sub(x, Mul(n, Set<T>(W::kLn2Hi))), Mul(n, Set<T>(W::kLn2Lo)));
-    V p = Add(r, Mul(Mul(r, r), Estrin(r, c)));
-    // 2^n: n in the low word of each lane of t moved into the exponent field of 1
-    V scale = ScaleByLowWord<0>(Set<T>(1), t);
-    return Add(Mul(scale, p), Sub(scale, Set<T>(1)));
 }
 
 // On the table of 256 (expRelTable256, the step of exp_core256.h): x = (256m + j)*ln2/256
@@ -213,32 +153,22 @@ inline __m128d Expm1On256(__m128d x) {
     return Sub(Mul(e.big, Add(e.r, q)), Sub(Set<double>(1.0), e.big));
 }
 
-// The EP forms, single and double: x = (N*m + j)*ln2/N + r (N = 1 in single, 256 in
-// double on the high parts of the table of 256), ln2/N in one part (n times it rounds
-// by 2^-18.4 of the result in single, 2^-44 in double), S = 2^m*2^(j/N), p(r) =
+// The double EP form: x = (N*m + j)*ln2/N + r (N = 256, on the high parts of the table
+// of 256), ln2/N in one part (n times it rounds by 2^-44 of the result), S = 2^m*2^(j/N), p(r) =
 // r*(1 + r*(c2 + c3*r + ...)) ~ e^r - 1, and e^x - 1 = S*p - (1 - S). Where n = 0, r is x
 // itself and so is p for tiny x (1 + r*Q rounds to 1), denormals included; -0 gives
 // p = -0 and -0 - (+0) = -0, so that no sign is put back (the sum S*p + (S - 1) gave +0
 // there; every other result of the difference is the sum's). It does not cancel: where
 // S*p and 1 - S meet with the same sign, |S*p| is below half of |1 - S| or S = 1. The
-// coefficients are the base-e ones, single degree 4 and double degree 3.
+// coefficients are the base-e ones, degree 3.
 template <class T>
 struct Expm1Plain;
-template <>
-struct Expm1Plain<float> {
-    static constexpr float kInvStep = Expm1Wide<float>::kInvLn2;
-    static constexpr float kStep = 0x1.62e43p-1f;
-    static constexpr const auto& kC = Expm1Wide<float>::kC4;
-};
 template <>
 struct Expm1Plain<double> {
     static constexpr double kInvStep = ExpStep256::kInvStep;
     static constexpr double kStep = ExpStep256::kStepHi + ExpStep256::kStepLo;
     static constexpr const auto& kC = Expm1Table256::kC3;
 };
-inline __m128 Expm1Scale(__m128 t) {
-    return ScaleByLowWord<0>(Set<float>(1), t);
-}
 inline __m128d Expm1Scale(__m128d t) {
     return ScaleByLowWord<8>(GatherColumn(expRelTable256, AsInt(t), 255), t);
 }
@@ -256,19 +186,52 @@ inline V Expm1EP(V x) {
     return Sub(Mul(s, p), Sub(one, s));
 }
 
-// By precision and level: the range window on |x| (in single 88.375 at LA and EP, below
-// 127.5*ln2, so that n <= 127 and 2^n is finite: 2^n*p + (2^n - 1) is below 1.42*2^127;
-// down to -88.375 n >= -127, where 2^n as formed is +0 and the result -1, as it is; at
-// HA, whose S is a double, the last argument with a finite result, 88.7228394; in
-// double by high words from -708 to 709.77, where 2^m is at most 2^1023), and the table core's degree and whether its middle sum is carried exactly,
-// for the double HA kernel and for the scalar routines (degree 6, EP degree 4).
+// The single kernel, one for every level, on the table of 64: t = x*64/ln2 + shifter,
+// n = t - shifter, r = (x - n*stepHi) - n*stepLo with ln2/64 in two parts, T = 2^(j/64) =
+// Thi*(1 + Tl) for j = n & 63 (single::expTable64), S = 2^m*Thi (m = n >> 6 added to the
+// row's exponent field), p = r + r^2*(c2 + c3*r) ~ e^r - 1, and e^x - 1 = S*(1 + q) - 1
+// with q = p + Tl, as (S - 1) + S*q.
+// The constants, the table and the polynomial are the single ones, but the steps run in
+// double lanes, rounded once to single at the end: in single, where S - 1 and S*q meet
+// with opposite signs (m = -1 or 0, j near 63 or 1), the roundings of r, p, q and S*q add
+// up to 1.47 ulp of the result (x = -0.0069), beyond the level's bound, even with the
+// order of the sums chosen by m. In double S - 1 is exact for every m of the window but
+// the lowest (S has the 24 bits of Thi) and no sum needs another order.
+struct Expm1Single64 {
+    static constexpr double kInvStep = 0x1.715476p+6f;                   // 92.3324814
+    static constexpr double kStepHi = 0x1.63p-7f, kStepLo = -0x1.bd0106p-19f; // 0x3C318000, 0xB65E8083
+    static constexpr double kC[] = {0x1.00001ep-1f, 0x1.55557ep-3f};      // 0.500000894, 0.16666697
+};
+inline __m128d Expm1Table64(__m128d x) {
+    using C = Expm1Single64;
+    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    const __m128d one = Set<double>(1.0);
+    __m128d t = Add(Mul(x, Set<double>(C::kInvStep)), shifter);
+    __m128d n = Sub(t, shifter);
+    __m128d r = Sub(Sub(x, Mul(n, Set<double>(C::kStepHi))), Mul(n, Set<double>(C::kStepLo)));
+    const float* row0 = single::expTable64[LowWord<0>(AsInt(t)) & 63];
+    const float* row1 = single::expTable64[LowWord<1>(AsInt(t)) & 63];
+    __m128d th = SetLanes(double(row0[0]), double(row1[0]));
+    __m128d tl = SetLanes(double(row0[1]), double(row1[1]));
+    __m128d p = Add(r, Mul(Mul(r, r), Add(Set<double>(C::kC[0]), Mul(Set<double>(C::kC[1]), r))));
+    __m128d q = Add(p, tl);
+    __m128d s = ScaleByLowWord<6>(th, t);
+    return Add(Sub(s, one), Mul(s, q));
+}
+inline __m128 Expm1Table64(__m128 x) {
+    return Narrow(Expm1Table64(WidenLower(x)), Expm1Table64(WidenUpper(x)));
+}
+
+// By precision and level: the range window on |x| (in single 86.6433945; in double by
+// high words from -708 to 709.77, where 2^m is at most 2^1023), and the table core's
+// degree and whether its middle sum is carried exactly, for the double HA kernel and for
+// the scalar routines (degree 6, EP degree 4).
 template <class T>
 struct Expm1Const;
 template <>
 struct Expm1Const<float> {
     template <Level L>
-    static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u,
-                                        L == Level::HA ? 0x42B17217u : 0x42B0C000u};
+    static constexpr Range32 kWindow = {0x7FFFFFFFu, 0u, 0x42AD496Bu}; // 86.6433945
     template <Level L>
     static constexpr bool kExact = false;
     template <Level L>
@@ -303,17 +266,8 @@ inline double Expm1Value(double x) {
 // of -0: x's sign bit is put back (the LA and EP forms keep it).
 template <Level L>
 inline __m128 Expm1Of(__m128 x) {
-    __m128 y;
-    if constexpr (L == Level::LA) {
-        y = Expm1NoTable(x, Expm1Wide<float>::kC6);
-    } else if constexpr (L == Level::EP) {
-        return Expm1EP(x);
-    } else {
-        __m128d lo = Expm1Table128(WidenLower(x));
-        __m128d hi = Expm1Table128(WidenUpper(x));
-        y = Narrow(lo, hi);
-    }
-    return Or(y, SignBit(x));
+    // e^x - 1 has the sign of x; the sums give it to every result but that of -0.
+    return Or(Expm1Table64(x), SignBit(x));
 }
 template <Level L>
 inline __m128d Expm1Of(__m128d x) {
@@ -371,6 +325,6 @@ struct Expm1Body {
 using brenn::vm::Expm1Body;
 
 extern "C" {
-BRENN_FLAT_LEVEL_KERNELS(s, Expm1, Unary, Expm1Body)
+BRENN_FLAT ZAR_KERNEL_OF(s, Expm1, All, Unary, Expm1Body<float, brenn::vm::Level::HA>)
 BRENN_FLAT_LEVEL_KERNELS(d, Expm1, Unary, Expm1Body)
 }
