@@ -41,6 +41,7 @@
 
 #include "frame/kernels.h"
 #include "vecmath/frame/kernel_frame.h"
+#include "vecmath/trig/sin_series_single.h"
 #include "vecmath/trig/level.h"
 #include "vecmath/trig/reduce.h"
 
@@ -181,11 +182,7 @@ struct UnitSingle<Unit::Pi> {
 // quarter period.
 // EP: c3 0xBE29F1BE, c5 0x3BF831A5 after c1 = 1.
 constexpr float kSinUnitEP[] = {-0x1.53e37cp-3f, 0x1.f0634ap-8f};
-// LA and HA: the single sine's sets (sincos_single.cpp; tools/trig/sin_single.sollya and
-// sin_single_ha.sollya).
-constexpr float kSinUnitLA[] = {-0x1.55554cp-3f, 0x1.110edap-7f, -0x1.9f70fp-13f, 0x1.5dc908p-19f};
-constexpr double kSinUnitHA[] = {-0x1.55554bc836587p-3, 0x1.110ed3804ca96p-7,
-                                 -0x1.9f6ffeea73463p-13, 0x1.5dbdf0e4c7deep-19};
+// LA and HA: the single sine's sets, kSinLA and kSinHA (sin_series_single.h).
 
 // sin of r in the unit (|r| at most a quarter period) at EP and LA: r times the single
 // pi/180 (pi), and the series in single.
@@ -194,14 +191,14 @@ inline __m128 SeriesInUnit(__m128 r) {
     __m128 rr = Mul(r, Set<float>(UnitSingle<U>::kRad));
     __m128 u = Mul(rr, rr);
     if constexpr (L == Level::EP) return Mul(rr, MulAdd(u, Horner(u, kSinUnitEP), Set<float>(1)));
-    return Add(rr, Mul(Mul(rr, u), Horner(u, kSinUnitLA)));
+    return Add(rr, Mul(Mul(rr, u), Horner(u, kSinLA)));
 }
 // HA, in double: r times pi/180 (pi) in double and the series in double.
 template <Unit U>
 inline __m128d SeriesInUnitHA(__m128d r) {
     __m128d rr = Mul(r, Set<double>(UnitSingle<U>::kRadD));
     __m128d u = Mul(rr, rr);
-    return Mul(rr, MulAdd(u, Horner(u, kSinUnitHA), Set<double>(1.0)));
+    return Mul(rr, MulAdd(u, Horner(u, kSinHA), Set<double>(1.0)));
 }
 
 // The function of r, reduced, and k's parity as a sign (t's low bit), at EP and LA in

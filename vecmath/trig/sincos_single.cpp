@@ -27,6 +27,7 @@
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/explog/flat.h"
 #include "vecmath/frame/level.h"
+#include "vecmath/trig/sin_series_single.h"
 #include "vecmath/trig/reduce.h"
 
 namespace brenn::vm::trig {
@@ -52,13 +53,7 @@ constexpr uint32_t kCosOneBits = 0x39800000; // kCosOne's bits
 // 0x3BF84524); cosine's set differs in c3 (0xBE29E73F). tools/trig/sin_single_ep.sollya.
 constexpr float kSinEP[] = {0x1.fff0f8p-1f, -0x1.53ce5ep-3f, 0x1.f08a48p-8f};
 constexpr float kCosEP[] = {0x1.fff0f8p-1f, -0x1.53ce7ep-3f, 0x1.f08a48p-8f};
-// LA: sin r ~ r + r u (c3 + c5 u + c7 u^2 + c9 u^3) in single coefficients.
-// tools/trig/sin_single.sollya.
-constexpr float kSinLA[] = {-0x1.55554cp-3f, 0x1.110edap-7f, -0x1.9f70fp-13f, 0x1.5dc908p-19f};
-// HA: r (1 + u (c3 + c5 u + c7 u^2 + c9 u^3)) in double coefficients, evaluated in double
-// (c3 0xBFC55554BC836587, c9 0x3EC5DBDF0E4C7DEE). tools/trig/sin_single_ha.sollya.
-constexpr double kSinHA[] = {-0x1.55554bc836587p-3, 0x1.110ed3804ca96p-7, -0x1.9f6ffeea73463p-13,
-                             0x1.5dbdf0e4c7deep-19};
+// LA and HA: kSinLA and kSinHA (sin_series_single.h).
 
 // q[k] = c[0] + u[k] (c[1] + u[k] (...)) for a round's N registers, each step over all
 // of them before the next, so that the chains interleave.
