@@ -8,16 +8,14 @@
  *   8 on Stirling's form (x - 1/2) ln x - x + ln sqrt(2 pi) + S(x).
  * TGamma:
  *   H(z) = (Gamma(1 + z) - 1) / (z (z - 1)) on [0, 1], four polynomials split at 1/4,
- *   1/2 and 3/4 (x = 1.25, 1.5, 1.75). With it Gamma(x) - 1 has a relative error of
- *   the working precision on (0, 3], zeros at 1 and 2 included, which LGamma needs:
- *     x in (0, 1):  Gamma(x) - 1 = (1 - x)(1 - x H(x)) / x
- *     x in [1, 2]:  Gamma(x) - 1 = z (z - 1) H(z),            z = x - 1
- *     x in (2, 3]:  Gamma(x) - 1 = z (1 + (z^2 - 1) H(z)),    z = x - 2
+ *   1/2 and 3/4 (x = 1.25, 1.5, 1.75):
+ *     x in (0, 1):  Gamma(x) = (1 + x (x - 1) H(x)) / x
+ *     x in [1, 2]:  Gamma(x) = 1 + z (z - 1) H(z),                z = x - 1
  *   From 2 up to the Stirling point the recurrence Gamma(x) = (x - 1) Gamma(x - 1)
  *   carries x down to [1, 2] (each x - k is exact in W).
- *   From the Stirling point on: ln Gamma(x) = (x - 1/2)(ln x - 1) + (ln sqrt(2 pi) - 1/2)
- *   + S(x), S(x) = sum B_2k / (2k (2k - 1) x^(2k - 1)), the asymptotic correction series
- *   with as many terms as the working precision needs at that point.
+ *   From the Stirling point on: Gamma(x) = exp((x - 1/2)(ln x - 1) + (ln sqrt(2 pi) -
+ *   1/2) + S(x)), S(x) = sum B_2k / (2k (2k - 1) x^(2k - 1)), the asymptotic correction
+ *   series with as many terms as the working precision needs at that point.
  *   Negative x by reflection: Gamma(x) = pi / (sin(pi x) Gamma(1 - x)), the sine taken
  *   on x - rint(x), which is exact. */
 #ifndef BRENN_VECMATH_GAMMA_GAMMA_CORE_H
