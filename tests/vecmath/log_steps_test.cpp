@@ -244,10 +244,11 @@ TEST(LogSteps, EdgesOfTheSingleBodies) {
     }
 }
 
-// dLn HA: x's fraction rounded to 9 bits picks the row j of lnRows (reciprocal, head and
+// dLn HA and EP: x's fraction rounded to 9 bits picks the row j of lnRows (reciprocal, head and
 // tail of -ln of it, a = mh*rcp - 1), m = x*2^-k, r = a + (m - mh)*rcp, and
 // (k*ln2hi + head) + (r + (r^2*P(r) + (k*ln2lo + tail))), P by Horner's rule.
-double LnHASteps(double x) {
+template <bool kEP>
+double LnSteps(double x) {
     const uint64_t xi = Bits(x), x1 = xi + (1ull << 42);
     const uint64_t e1 = x1 & 0x7FF0000000000000ull;
     const double* row = vm::lnRows[(x1 >> 43) & 511];
@@ -255,6 +256,10 @@ double LnHASteps(double x) {
     const double mh = std::bit_cast<double>((x1 & 0x000FF80000000000ull) | 0x3FF0000000000000ull);
     const double k = double(int(e1 >> 52) - 1023);
     const double r = row[3] + (m - mh) * row[0];
+    // EP: ln 2 as one head, no low parts, c2 as given and c3 = 1/3.
+    if (kEP)
+        return ((k * 0x1.62e42fefa4p-1 + row[1]) + r) +
+               (r * r) * (-0.49999999999924227 + r * 0x1.5555555555555p-2);
     const double p =
         -0.49999999999995254 +
         r * (0.33333333333327408 + r * (-0.25000019886943392 + r * 0.20000019344205111));
@@ -263,7 +268,7 @@ double LnHASteps(double x) {
     return h + (r + ((r * r) * p + tail));
 }
 
-TEST(LogSteps, DoubleLnAtHA) {
+TEST(LogSteps, DoubleLnAtHAAndEP) {
     ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
     std::mt19937_64 g(9);
     std::uniform_real_distribution<double> mid(0.5, 2.0);
@@ -274,17 +279,20 @@ TEST(LogSteps, DoubleLnAtHA) {
     }
     for (double v : {1.0, std::nextafter(1.0, 0.0), std::nextafter(1.0, 2.0), DBL_MIN, DBL_MAX})
         x.push_back(v);
-    auto k = reinterpret_cast<Unary<double>>((&BrennDispatchTable[frame::Row_dLn].kernelLA)[kHA]);
-    std::vector<double> y(x.size());
-    k(int(x.size()), x.data(), y.data());
-    int bad = 0;
-    for (size_t i = 0; i < x.size() && bad < 5; ++i)
-        if (Bits(y[i]) != Bits(LnHASteps(x[i]))) {
-            ++bad;
-            ADD_FAILURE() << std::hexfloat << x[i] << ": got " << y[i] << ", the steps give "
-                          << LnHASteps(x[i]);
-        }
-    EXPECT_EQ(Bits(y[x.size() - 5]), 0u); // ln 1 = +0
+    for (int slot : {kHA, kEP}) {
+        auto k = reinterpret_cast<Unary<double>>((&BrennDispatchTable[frame::Row_dLn].kernelLA)[slot]);
+        auto steps = slot == kEP ? LnSteps<true> : LnSteps<false>;
+        std::vector<double> y(x.size());
+        k(int(x.size()), x.data(), y.data());
+        int bad = 0;
+        for (size_t i = 0; i < x.size() && bad < 5; ++i)
+            if (Bits(y[i]) != Bits(steps(x[i]))) {
+                ++bad;
+                ADD_FAILURE() << "slot " << slot << " " << std::hexfloat << x[i] << ": got "
+                              << y[i] << ", the steps give " << steps(x[i]);
+            }
+        EXPECT_EQ(Bits(y[x.size() - 5]), 0u) << slot; // ln 1 = +0
+    }
 }
 
 // The scalar logarithm near 1 (|x - 1| not above 2^-7): r + r^2*P(r) on r = x - 1 alone,

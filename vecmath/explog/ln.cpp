@@ -3,9 +3,9 @@
  * sLn: the branch-free split (log_core.h) around 2/3, then p = r + r^2*Q(r) with Q of 4
  * (EP), 7 (LA) or 9 (HA) coefficients by Horner's rule, plus k*ln2 (at HA in two parts,
  * the low one first). x = 1 gives k = 0 and r = 0: exactly +0 at every level.
- * dLn: the 513-row reciprocal table with |r| <= 2^-10 (log_core.h); EP on the rows alone
- * (LogRowsEP: the row found by two integer steps, r = m*rcp - 1, a cubic, no low parts);
- * LA and HA degree 5 with ln 2 and the table logarithm in two parts, the tail summed
+ * dLn: the reciprocal rows of 1 + j/512 with |r| <= 2^-10 (log_core.h), the row found
+ * by x's fraction rounded to 9 bits (a carry moves into k); EP r in two terms and
+ * k*ln2 + T + r + r^2*(c2 + c3*r), no low parts; LA and HA degree 5 with ln 2 and the table logarithm in two parts, the tail summed
  * before the exact head (the table's 2^-42 grid leaves no cheaper form within 4 ulp, so
  * LA is the same arithmetic); HA with its own polynomial by Horner's rule, LA with the
  * core's by Estrin's scheme.
@@ -52,16 +52,27 @@ inline __m128 LnOf(__m128 x) {
     }
 }
 
+// Double EP on the core's reduction: r = a + ml*rcp in two terms (the products exact),
+// y = ((k*ln2 + T) + r) + r^2*(c2 + c3*r), ln 2 as one head 0x3FE62E42FEFA4000 (its
+// product with k and the sum with the row's head T are exact), c2 = -0.49999999999924227
+// as given, c3 = 1/3 rounded (with the rest about 2^-32).
+constexpr double kLn2EP = 0x1.62e42fefa4p-1;
+constexpr double kLnEPD[] = {-0.49999999999924227, 0x1.5555555555555p-2};
+BRENN_VEC __m128d LnEPFrom(const LnReduction& red) {
+    __m128d r = Add(red.a, Mul(red.ml, red.rcp));
+    __m128d head = Add(Add(Mul(red.k, Set<double>(kLn2EP)), red.th), r);
+    return Add(head, Mul(Mul(r, r), Horner(r, kLnEPD)));
+}
+
 // Double: the core's head and tail. Special lanes run as they are: the core's m and k
 // are in range for any bits.
 template <Level L>
 inline __m128d LnOf(__m128d x) {
+    I64x2 x1;
     if constexpr (L == Level::EP) {
-        using K = LogConst<double>;
-        return LogRowsEP<5>(x, lnRows, K::kLn2, K::kEP);
+        return LnEPFrom(LnReduceBits(x, x1));
     } else {
         __m128d h, l;
-        I64x2 x1;
         LnCoreFrom<L, true>(LnReduceBits(x, x1), h, l);
         return Add(h, l);
     }
@@ -83,9 +94,7 @@ struct LnBody {
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Ln);
     static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
     static int EvalWide(const V* x, V* y) {
-        if constexpr (sizeof(T) == 8 && L == Level::EP) {
-            return LogRowsEPWide<5>(x, y, lnRows, LogConst<double>::kLn2, LogConst<double>::kEP);
-        } else if constexpr (sizeof(T) == 8) {
+        if constexpr (sizeof(T) == 8) {
             int bits = 0;
 #pragma GCC unroll 4
             for (int q = 0; q < 4; ++q) {
@@ -95,9 +104,13 @@ struct LnBody {
                 LnReducePair(p, red[0], red[1]);
 #pragma GCC unroll 2
                 for (int j = 0; j < 2; ++j) {
-                    __m128d h, l;
-                    LnCoreFrom<L, true>(red[j], h, l);
-                    y[2 * q + j] = Add(h, l);
+                    if constexpr (L == Level::EP) {
+                        y[2 * q + j] = LnEPFrom(red[j]);
+                    } else {
+                        __m128d h, l;
+                        LnCoreFrom<L, true>(red[j], h, l);
+                        y[2 * q + j] = Add(h, l);
+                    }
                 }
             }
             return bits;

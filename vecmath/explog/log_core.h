@@ -51,10 +51,6 @@ struct LogConst<double> {
     // tools/explog/ln_double.sollya: EP degree 3 (about 2^-33 with the rest of the
     // core), LA and HA degree 5.
     static constexpr double kCoreEP[] = {-0x1.000005ffedcddp-1, 0x1.5555602210279p-2};
-    // EP on the rows alone (LogRowsEP): ln(1 + r) = r*(c1 + r*(c2 + r*c3)) on
-    // |r| <= 2^-10, fitted by tools/explog/ln_double.sollya (about 2^-34).
-    static constexpr double kEP[] = {0x1.fffffffffff66p-1, -0x1.0000060000f4ap-1,
-                                     0x1.5555615667e09p-2};
     static constexpr double kCore[] = {-0x1.ffffffffffcabp-2, 0x1.555555555512dp-2,
                                        -0x1.00000d54efc6fp-2, 0x1.9999b38894dd2p-3};
     // dLn HA: P(r) as given, -0.49999999999995254, 0.33333333333327408,
@@ -207,8 +203,8 @@ BRENN_VEC LnReduction LnReduce(__m128d x) {
 }
 
 // Double EP on the rows alone: log_B x for positive normal x from rows of 2^s bytes
-// whose first two doubles are a reciprocal of c = 1 + j/512 and -log_B of it (lnRows,
-// log10RowsF, log2RowsF). x's fraction is rounded to 9 bits by adding half of 2^-9 to its
+// whose first two doubles are a reciprocal of c = 1 + j/512 and -log_B of it (log2RowsF
+// for dLog2 EP). x's fraction is rounded to 9 bits by adding half of 2^-9 to its
 // bits, so that the row j (0 to 511) is in bits 43 to 51 of the sum, its byte offset a
 // shift and a mask away, and a carry out of the fraction lands in the exponent: k is the
 // sum's exponent and m = x*2^-k lies in [1 - 2^-10, 2 - 2^-10), so that x near 1 on
