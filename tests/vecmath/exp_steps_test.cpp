@@ -146,7 +146,9 @@ TEST(ExpSteps, SingleExpWindowAndScalarRoutines) {
         for (float v : {in, -in}) {
             float y = CallUnary(k, v, &status);
             EXPECT_EQ(status, 0) << slot << " " << v;
-            EXPECT_EQ(B(y), B(slot == frame::SlotHA ? SExpHA(v) : slot == frame::SlotLA ? SExpLA(v) : SExpEP(v)));
+            EXPECT_EQ(B(y), B(slot == frame::SlotHA   ? SExpHA(v)
+                              : slot == frame::SlotLA ? SExpLA(v)
+                                                      : SExpEP(v)));
         }
         CallUnary(k, -out, &status);
         EXPECT_EQ(status, 4) << slot;
@@ -179,11 +181,11 @@ TEST(ExpSteps, SingleExpWindowAndScalarRoutines) {
             float y = CallUnary(K<float>(frame::Row_sExp, slot), v, &status);
             float w = SExpScalarLaEp(v, &want);
             if ((B(y) != B(w) || status != want) && shown++ < 5)
-                ADD_FAILURE() << slot << " x " << std::hexfloat << v << " got " << y << " want " << w;
+                ADD_FAILURE() << slot << " x " << std::hexfloat << v << " got " << y << " want "
+                              << w;
         }
     }
 }
-
 
 // ---- sExp2, sExp10: one kernel for every level ----
 
@@ -239,7 +241,6 @@ TEST(ExpSteps, SingleExp2AndExp10) {
     EXPECT_EQ(status, 4);
     EXPECT_LE(UlpError(y, exp10l(-38.0L)), 1.0);
 }
-
 
 // ---- dExp ----
 
@@ -299,11 +300,10 @@ TEST(ExpSteps, DoubleExpBodies) {
     }
 }
 
-
 // The double scalar routine beyond the window, at every level: the top band to the last
 // finite result and the denormal results within half an ulp and a little (expl's own
-// error, larger up there), so that a denormal result is rounded once (scaled after a rounded sum, it is
-// off by up to 0.73 ulp), with statuses 0 and 4.
+// error, larger up there), so that a denormal result is rounded once (scaled after a rounded sum,
+// it is off by up to 0.73 ulp), with statuses 0 and 4.
 TEST(ExpSteps, DoubleExpScalarRoutine) {
     ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
     std::vector<double> top = Uniform(D(0x4086232B00000000ull), 709.78271289338397, 20000, 9);
@@ -330,8 +330,8 @@ double DExp2(double x) {
     double t = x + sh;
     double r = x - (t - sh);
     double h = 0x1.5d86c1b63892bp-10;
-    for (double c : {0x1.3b2ad318a479fp-7, 0x1.c6b08d707d06dp-5, 0x1.ebfbdff82a2c3p-3,
-                     0x1.62e42fefa39efp-1})
+    for (double c :
+         {0x1.3b2ad318a479fp-7, 0x1.c6b08d707d06dp-5, 0x1.ebfbdff82a2c3p-3, 0x1.62e42fefa39efp-1})
         h = h * r + c;
     double p = r * h;
     int64_t k = int64_t((t - sh) * 64);
@@ -344,8 +344,8 @@ double DExp10(double x) {
     double n = t - kShifterD;
     double r = x - n * 0x1.3441350ap-9 - n * -0x1.0c0219dc1da99p-46;
     double h = 0x1.1457f0fb90cc4p-1;
-    for (double c : {0x1.2bd7673f39d41p+0, 0x1.0470591c9b9fap+1, 0x1.53524c73ce8eep+1,
-                     0x1.26bb1bbb55516p+1})
+    for (double c :
+         {0x1.2bd7673f39d41p+0, 0x1.0470591c9b9fap+1, 0x1.53524c73ce8eep+1, 0x1.26bb1bbb55516p+1})
         h = h * r + c;
     double p = r * h;
     int64_t k = int64_t(n);
@@ -373,7 +373,6 @@ TEST(ExpSteps, DoubleExp2AndExp10) {
     EXPECT_EQ(status, 4);
     EXPECT_LE(UlpError(y, expl((long double)(-307.66) * 2.30258509299404568402L)), 1.0);
 }
-
 
 // ---- sExpm1: one kernel for every level, the single steps in double lanes ----
 

@@ -113,7 +113,7 @@ constexpr float kExpEP[] = {0x1p+0f, 0x1.62e844p-1f, 0x1.efacd4p-3f, 0x1.c6b056p
 // in eight zero bits, so that n*head is exact for |n| <= 2^16), and degree 5 on
 // |r| <= ln2/2.
 constexpr float kLn2HiS = 0x1.62e4p-1f, kLn2LoS = 0x1.7f7d1cp-20f; // 0x3F317200, 0x35BFBE8E
-constexpr float kExpLA[] = {0x1p+0f,       0x1.fffffcp-1f, 0x1.fffe68p-2f,
+constexpr float kExpLA[] = {0x1p+0f,        0x1.fffffcp-1f, 0x1.fffe68p-2f,
                             0x1.555958p-3f, 0x1.570724p-5f, 0x1.0fb3fcp-7f};
 // Single HA: ln2/128 steps with the 128-entry table. The shifter is 1.375 * 2^23, whose
 // bits end in seven zeros (see below); the step is in two parts, negated.

@@ -81,8 +81,8 @@ template <class T, Base B>
 struct Steps;
 template <>
 struct Steps<float, Base::Two> {
-    static constexpr float kShifter = 0x1.8p+17f;                    // 196608.0
-    static constexpr float kC[] = {0x1.62e486p-1f, 0x1.ebfbf8p-3f};   // 0.693149745, 0.240226686
+    static constexpr float kShifter = 0x1.8p+17f;                   // 196608.0
+    static constexpr float kC[] = {0x1.62e486p-1f, 0x1.ebfbf8p-3f}; // 0.693149745, 0.240226686
     static constexpr int kLog2N = 6;
     static constexpr const float (&kTable)[64][2] = single::expTable64;
 };
@@ -109,7 +109,7 @@ struct Steps<double, Base::Two> {
 template <>
 struct Steps<double, Base::Ten> {
     static constexpr double kShifter = 0x1.8p+52;
-    static constexpr double kInvStep = 0x1.a934f0979a371p+8;                   // 128/log10(2)
+    static constexpr double kInvStep = 0x1.a934f0979a371p+8;                     // 128/log10(2)
     static constexpr double kStep[] = {0x1.3441350ap-9, -0x1.0c0219dc1da99p-46}; // head 32 bits
     static constexpr double kC[] = {0x1.26bb1bbb55516p+1, 0x1.53524c73ce8eep+1,
                                     0x1.0470591c9b9fap+1, 0x1.2bd7673f39d41p+0,
@@ -207,8 +207,8 @@ template <class T, Level L>
 using Exp10Body = brenn::vm::ExpBaseBody<T, brenn::vm::Base::Ten, L>;
 
 extern "C" {
-BRENN_FLAT ZAR_KERNEL_OF(s, Exp2, All, Unary, Exp2Body<float, Level::HA>)
-BRENN_FLAT ZAR_KERNEL_OF(s, Exp10, All, Unary, Exp10Body<float, Level::HA>)
-BRENN_FLAT ZAR_KERNEL_OF(d, Exp2, All, Unary, Exp2Body<double, Level::HA>)
-BRENN_FLAT ZAR_KERNEL_OF(d, Exp10, All, Unary, Exp10Body<double, Level::HA>)
+BRENN_FLAT ZAR_KERNEL_OF(s, Exp2, All, Unary, Exp2Body<float, Level::HA>) BRENN_FLAT
+    ZAR_KERNEL_OF(s, Exp10, All, Unary, Exp10Body<float, Level::HA>) BRENN_FLAT
+    ZAR_KERNEL_OF(d, Exp2, All, Unary, Exp2Body<double, Level::HA>) BRENN_FLAT
+    ZAR_KERNEL_OF(d, Exp10, All, Unary, Exp10Body<double, Level::HA>)
 }

@@ -17,8 +17,8 @@
  * Range test x outside [-708, 709.77] (double, by high words) or |x| above 86.6433945
  * (single); the scalar routine gives +inf above the overflow limit (an overflow),
  * -1 for large negative x, e^x itself above 709 (where the core's scale 2^m would pass
- * 2^1022), and the core's value otherwise. Error mode 0x2000 blends the overflow lanes to +inf. Rounds of sixteen
- * elements, the range tested once a round (wide.h).
+ * 2^1022), and the core's value otherwise. Error mode 0x2000 blends the overflow lanes to +inf.
+ * Rounds of sixteen elements, the range tested once a round (wide.h).
  *
  * Measured (brenn_accuracy, full run): sExpm1 0.605 ulp; dExpm1 LA 1.00 ulp, HA 0.50 ulp,
  * EP 35.2 bits. The polynomials: on the table of 256 tools/explog/expm1_double256.sollya,
@@ -198,9 +198,10 @@ inline V Expm1EP(V x) {
 // order of the sums chosen by m. In double S - 1 is exact for every m of the window but
 // the lowest (S has the 24 bits of Thi) and no sum needs another order.
 struct Expm1Single64 {
-    static constexpr double kInvStep = 0x1.715476p+6f;                   // 92.3324814
-    static constexpr double kStepHi = 0x1.63p-7f, kStepLo = -0x1.bd0106p-19f; // 0x3C318000, 0xB65E8083
-    static constexpr double kC[] = {0x1.00001ep-1f, 0x1.55557ep-3f};      // 0.500000894, 0.16666697
+    static constexpr double kInvStep = 0x1.715476p+6f; // 92.3324814
+    static constexpr double kStepHi = 0x1.63p-7f,
+                            kStepLo = -0x1.bd0106p-19f;              // 0x3C318000, 0xB65E8083
+    static constexpr double kC[] = {0x1.00001ep-1f, 0x1.55557ep-3f}; // 0.500000894, 0.16666697
 };
 inline __m128d Expm1Table64(__m128d x) {
     using C = Expm1Single64;
@@ -326,5 +327,5 @@ using brenn::vm::Expm1Body;
 
 extern "C" {
 BRENN_FLAT ZAR_KERNEL_OF(s, Expm1, All, Unary, Expm1Body<float, brenn::vm::Level::HA>)
-BRENN_FLAT_LEVEL_KERNELS(d, Expm1, Unary, Expm1Body)
+    BRENN_FLAT_LEVEL_KERNELS(d, Expm1, Unary, Expm1Body)
 }

@@ -77,31 +77,19 @@ inline I32x4 MaxUnsigned(I32x4 a, I32x4 b) {
 }
 } // namespace wide_detail
 
-// A window of unequal ends on single x, for rows whose vector path reaches further on
-// one side than on the other: a lane is special when x is above hi or below lo (lo < 0
-// < hi), infinite or NaN. On the bits: a positive x above hi is a signed integer above
-// bits(hi), and a negative x below lo an unsigned one above bits(lo) (NaNs and
-// infinities of either sign the same), so that a round folds its registers by a signed
-// and an unsigned maximum (positive lanes never pass the unsigned limit, negative ones
-// never the signed), two operations a register as the magnitude's and-mask and maximum.
-struct SplitWindow32 {
-    uint32_t hi, lo; // bits(hi) and bits(lo)
-};
-// The same on double lanes by their high words: every x whose high word is at most hi
-// (read signed) or, below zero, at most lo (read unsigned) is inside; the low words are
-// held to limits no word passes (0x7FFFFFFF signed, 0xFFFFFFFF unsigned).
+// A window of unequal ends on double x, for rows whose vector path reaches further on
+// one side than on the other, by the high words: every x whose high word is at most hi
+// (read signed) or, below zero, at most lo (read unsigned) is inside (a positive x above
+// hi is a signed integer above it, a negative x below lo an unsigned one above it, NaNs
+// and infinities of either sign the same), so that a round folds its registers by a
+// signed and an unsigned maximum; the low words are held to limits no word passes
+// (0x7FFFFFFF signed, 0xFFFFFFFF unsigned).
 struct SplitWindowHigh {
     uint32_t hi, lo; // the high words of the ends
 };
 namespace wide_detail {
 // The limits of a split window over the 32-bit lanes of a register: the signed one and
 // the unsigned one moved to signed order (its sign bit flipped).
-inline I32x4 AboveLimit(SplitWindow32 w) {
-    return Set<int32_t>(int32_t(w.hi));
-}
-inline I32x4 BelowLimit(SplitWindow32 w) {
-    return Set<int32_t>(int32_t(w.lo ^ 0x80000000u));
-}
 inline I32x4 AboveLimit(SplitWindowHigh w) {
     return BitCast<I32x4>(Set<uint64_t>((uint64_t(w.hi) << 32) | 0x7FFFFFFFu));
 }
@@ -114,12 +102,9 @@ inline I32x4 Outside(I32x4 above, I32x4 below, W w) {
     return Or(Gt(above, AboveLimit(w)), Gt(Xor(below, sign), BelowLimit(w)));
 }
 template <class W>
-constexpr bool kSplitWindow = std::is_same_v<std::remove_cv_t<decltype(W::kWindow)>, SplitWindow32> ||
-                              std::is_same_v<std::remove_cv_t<decltype(W::kWindow)>, SplitWindowHigh>;
+constexpr bool kSplitWindow =
+    std::is_same_v<std::remove_cv_t<decltype(W::kWindow)>, SplitWindowHigh>;
 } // namespace wide_detail
-inline __m128 RangeTest(__m128 x, SplitWindow32 w) {
-    return AsFloat(wide_detail::Outside(AsInt(x), AsInt(x), w));
-}
 // The high words' verdict spread over each whole lane (pshufd), so that the mask blends
 // and zeroes the whole double.
 inline __m128d RangeTest(__m128d x, SplitWindowHigh w) {
