@@ -1,7 +1,7 @@
 /* Scalar exponential in double for the special lanes of the exponential family: 2^n
  * times a table value of 2^(j/64) times e^r - 1 by the degree-6 polynomial of the
- * vector core (exp_core.h), with the power of two applied in two multiplications so
- * that a denormal result is rounded once. Good to about half an ulp of double over the
+ * vector core (exp_core.h), with the power of two applied in two multiplications, or
+ * for a denormal result in a split that rounds it once. Good to about half an ulp of double over the
  * whole finite range, so that a single result rounded from it is within an ulp and a
  * double within one.
  * Also the limits and statuses every exponential shares. */
@@ -52,9 +52,18 @@ inline double ExpScalarCore(double x, double xl = 0.0) {
     int ni = int(n);
     int j = ni & 63, m = (ni - j) / 64;
     double p = ExpPoly6(r);
-    double y = expTable64[j][0] + (expTable64[j][0] * p + expTable64[j][1]);
-    int m1 = m / 2;
-    return y * Pow2D(m1) * Pow2D(m - m1);
+    double hi = expTable64[j][0], lo = expTable64[j][0] * p + expTable64[j][1];
+    if (m > -1022) { // the result normal (at m = -1022 it is denormal where T*(1 + p) < 1)
+        int m1 = m / 2;
+        return (hi + lo) * Pow2D(m1) * Pow2D(m - m1);
+    }
+    // A denormal result: the parts scaled by 2^(m + 60), the head rounded onto the
+    // denormal grid (2^-1014 there: 1.5*2^-962 added and subtracted), and head and rest
+    // scaled by 2^-60 apart, so that the result rounds once.
+    double scale = Pow2D(m + 60), hs = hi * scale, ls = lo * scale;
+    constexpr double kGrid = 0x1.8p-962;
+    double hr = (hs + kGrid) - kGrid;
+    return hr * 0x1p-60 + ((hs - hr) + ls) * 0x1p-60;
 }
 
 // The shared ending of every exponential's scalar routine in type T: NaN quieted, the
