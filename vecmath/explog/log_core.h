@@ -61,7 +61,9 @@ struct LogConst<double> {
 
 // The lanes that are not positive normals. The window's limit is kept from the
 // optimiser, which would otherwise compare with the limit plus one and negate (two
-// instructions, not one).
+// instructions, not one). In single, bits(x) + 0x7F800000 signed above 0xFEFFFFFF is
+// (bits(x) + 0x800000) signed below 0x1000000 moved by 2^31: the same lanes by the same
+// one compare, without the copy of the constant that the compare below it needs.
 template <class V>
 inline V LogSpecial(V x) {
     using T = ElemOf<V>;
