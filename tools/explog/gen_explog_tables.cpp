@@ -170,10 +170,10 @@ void LogBaseRows(FILE* out, const char* name, long n, int base) {
     mpfr_clears(c, a, l, e, rcp, (mpfr_ptr)0);
 }
 
-// Rows of the single Log10 and Log2 HA (in double lanes): for the centres c = 1 + j/512,
+// Rows of the double Log2 EP (on the rows alone): for the centres c = 1 + j/512,
 // j = 0..512, the reciprocal of lnRows (43 bits) and -log_B of it rounded, one 16-byte
-// load a lane. The single result needs no exact head: k*log_B(2) + the rounded row is
-// within 2^-52 of its value, and at the rows of 1 and 1/2 (x near 1) it is exact.
+// load a lane. The result needs no exact head: k*log_B(2) + the rounded row is within
+// 2^-52 of its value, and at the rows of 1 and 1/2 (x near 1) it is exact.
 void LogBaseRowsF(FILE* out, const char* name, long n, int base) {
     mpfr_t c, rcp, l;
     mpfr_inits2(kPrec, c, l, (mpfr_ptr)0);
@@ -253,7 +253,6 @@ int main(int argc, char** argv) {
     LogRows128(out, "lnTable128");
     LogBaseRows(out, "log10Rows", 512, 10);
     LogBaseRows(out, "log2Rows", 512, 2);
-    LogBaseRowsF(out, "log10RowsF", 512, 10);
     LogBaseRowsF(out, "log2RowsF", 512, 2);
     std::fprintf(out, "} // namespace brenn::vm\n");
     return std::fclose(out) == 0 ? 0 : 1;

@@ -19,8 +19,8 @@
  *   log10Rows[j], log2Rows[j] = for c = 1 + j/512, j < 512: a reciprocal of c to 10 bits,
  *                          a = c times it less 1 (exact), -log_B(reciprocal) + a*log_B(e)
  *                          as a high part on the 2^-42 grid and the rest;
- *   log10RowsF[j], log2RowsF[j] = for c = 1 + j/512: lnRows' reciprocal of c and
- *                          -log_B of it rounded, the rows of the single HA kernels. */
+ *   log2RowsF[j]           = for c = 1 + j/512: lnRows' reciprocal of c and -log2 of
+ *                          it rounded, the rows of the double Log2 EP kernel. */
 #ifndef BRENN_VECMATH_EXPLOG_EXPLOG_TABLES_H
 #define BRENN_VECMATH_EXPLOG_EXPLOG_TABLES_H
 
@@ -42,7 +42,6 @@ extern const double lnRows[513][4];
 extern const double lnTable128[128][3];
 extern const double log10Rows[512][4];
 extern const double log2Rows[512][4];
-extern const double log10RowsF[513][2];
 extern const double log2RowsF[513][2];
 
 } // namespace brenn::vm
