@@ -1,8 +1,10 @@
 /* ExpInt1, single and double: E1(x), the exponential integral. Double LA and HA is one
  * kernel, element by element through the scalar routine below in x87 extended; the EP
  * slot of both precisions and the LA and HA slot of single are vector kernels on double
- * lanes (expint1_vec.h) that leave to the scalar routine only the lanes whose result is
- * not normal or whose argument is not positive. The scalar routine works in a wider
+ * lanes (expint1_vec.h) that leave to the scalar routine only the lanes whose argument
+ * is not positive or lies beyond the lanes' limit (82 single, where results stay normal;
+ * 724 double, the vector form giving the denormal results from about 701.8 on and the
+ * frame their status 4). The scalar routine works in a wider
  * format: x87 extended for double, double for single (the C library's log and exp).
  *
  *   0 < x <= 1: E1(x) = -gamma - ln x + x S(x), S the exponential integral's own series
@@ -128,14 +130,15 @@ struct ExpInt1Body {
     static int Scalar(const T* a, T* y) { return ExpInt1Of(*a, y); }
 };
 
-// The lanes of the vector form (expint1_vec.h): results normal, the argument positive
-// (normal in double, any in single, whose lanes widen to normal doubles), tested on the
-// bits: single (0, 82], double [2^-1022, 701].
+// The lanes of the vector form (expint1_vec.h): the argument positive (normal in double,
+// any in single, whose lanes widen to normal doubles), tested on the bits: single
+// (0, 82], results normal; double [2^-1022, 724], results denormal from about 701.8 on,
+// whose underflow (status 4) the frame reports.
 template <class T>
 constexpr LaneRange<T> VectorLanes() {
     using U = decltype(LaneRange<T>::limit);
     const U lo = sizeof(T) == 4 ? U(1) : U(0x0010000000000000ull);
-    const U hi = sizeof(T) == 4 ? U(0x42A40000u) : U(0x4085E80000000000ull);
+    const U hi = sizeof(T) == 4 ? U(0x42A40000u) : U(0x4086A00000000000ull);
     const U sign = U(1) << (8 * sizeof(U) - 1);
     return {U(~U(0)), U(sign - lo), U(sign + (hi - lo))};
 }
@@ -148,6 +151,7 @@ struct ExpInt1VecBody {
     using V = Vec<T>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, ExpInt1);
     static constexpr X87Rule kX87 = X87Rule::Extended; // for the double element routine
+    static constexpr bool kUnderflowLanes = sizeof(T) == 8;
     static V Eval(V x, V& special) {
         special = RangeTest(x, VectorLanes<T>());
         V xs = IfThenElse(special, Set<T>(T(0.75)), x);

@@ -9,7 +9,9 @@
  *   (expint1_table.h, 16 cells a binade), the first five (2^-32) or three (2^-19.9), and
  *   e^-x by the exponential's core on the table of 64 with the quartic (2^-39.5).
  * A register whose lanes all lie on one side takes that side's form alone. The caller
- * keeps the lanes in [smallest normal, 701] (results normal): no lane needs a fix-up. */
+ * keeps the lanes in [smallest normal, 724]; from about 701.8 on the results are
+ * denormal (down to 2^-1054 at 724), given by the body with the status left to the
+ * caller. */
 #ifndef BRENN_VECMATH_GAMMA_EXPINT1_VEC_H
 #define BRENN_VECMATH_GAMMA_EXPINT1_VEC_H
 
@@ -50,7 +52,7 @@ inline __m128d ExpInt1Near(__m128d x) {
     return Sub(Sub(s, Set<double>(gamma::kEulerGamma)), Add(h, l));
 }
 
-// e^-x t G(t) for 1 < x <= 701.
+// e^-x t G(t) for 1 < x <= 724.
 template <ExpInt1Grade G>
 inline __m128d ExpInt1Tail(__m128d x) {
     __m128d t = Div(Set<double>(1.0), x);
@@ -69,17 +71,21 @@ inline __m128d ExpInt1Tail(__m128d x) {
     __m128d p = LoadLanes(r0 + N - 1, r1 + N - 1);
     for (int k = N - 2; k >= 0; --k)
         p = MulAdd(p, v, LoadLanes(r0 + k, r1 + k));
-    // e^-x on the table of 64.
+    // e^-x 2^60 on the table of 64, so that it stays normal up to the limit 724: the
+    // shifter carries 60 steps of 64 more (the same binade, the same rounding of n, the
+    // same index bits), taken off again with it for k. The factor 2^-60 goes on t p,
+    // exactly, so that the last product is the one rounding also of a denormal result
+    // (E1 is near 2^-1054 at 724).
     using S = ExpStep64;
-    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    const __m128d shifter = Set<double>(Format<double>::kShifter + 60 * 64);
     __m128d n = Add(Mul(x, Set<double>(-S::kInvStep)), shifter);
     __m128d k = Sub(n, shifter);
     __m128d r = Sub(Add(Mul(k, Set<double>(-S::kStepHi)), Neg(x)), Mul(k, Set<double>(S::kStepLo)));
     __m128d e = ExpAssemble64<ExpDegree::Four>(n, r);
-    return Mul(e, Mul(t, p));
+    return Mul(e, Mul(Mul(t, p), Set<double>(0x1p-60)));
 }
 
-// E1 on two lanes in [smallest normal, 701]; each form only where a lane needs it.
+// E1 on two lanes in [smallest normal, 724]; each form only where a lane needs it.
 template <ExpInt1Grade G>
 inline __m128d ExpInt1Lanes(__m128d x) {
     const __m128d one = Set<double>(1.0);
