@@ -15,6 +15,9 @@
 
 #include "frame/dispatch.h"
 #include "tests/vecmath/kernels.h"
+#include "vecmath/explog/explog_tables.h"
+#include "vecmath/power/pow_body.h"
+#include "vecmath/power/power_tables.h"
 
 namespace brenn::test {
 namespace {
@@ -513,6 +516,117 @@ TEST(Power, SinglePowAndPowxEPAreTheirStatedSteps) {
         EXPECT_EQ(st, 0);
     }
     EXPECT_EQ(CallPow<float>(false, frame::SlotEP, x, 130.0f, &st), INFINITY);
+    EXPECT_EQ(st, 0);
+}
+
+// Single Pow HA (and Powx's general body at HA) is its steps in double lanes: m in [1, 2)
+// from the bits, the single estimate of 1/m widened and rounded to a multiple of 2^-10
+// (q/1024), T = -ln(q/1024) from the row q - 512, r = m*q/1024 - 1, ln x = (k*ln2 + T) +
+// (r + r^2*Q(r)), w = y*ln x held to [-200, 200], e^w by the table of 1024 with
+// 1 + u + u^2/2, and the double narrowed once. The estimate is taken on this processor,
+// as the kernel takes it. The double before the narrowing is checked too: the narrowing
+// hides nearly every change of the logarithm's rows or polynomial.
+double SinglePowHAWideSteps(float x, float y) {
+    static const double kQ[] = {-0x1.ffffffffffe0dp-2, 0x1.555567ade28bap-2,
+                                -0x1.00001153e4dc5p-2};
+    const double kLn2 = 0x1.62e42fefa39efp-1, kShifter = 0x1.8p52;
+    const uint32_t bx = FloatBits(x);
+    const double k = double(int32_t(bx >> 23) - 127);
+    const float m = FloatOf((bx & 0x7FFFFFu) | 0x3F800000u);
+    const float e = _mm_cvtss_f32(_mm_rcp_ss(_mm_set_ss(m)));
+    const double q = std::nearbyint(double(e) * 1024.0);
+    const double r = double(m) * (q * 0x1p-10) - 1.0;
+    const double h = k * kLn2 + vm::powRcpLn[int(q) - 512];
+    const double t = (r * r) * ((kQ[2] * r + kQ[1]) * r + kQ[0]);
+    double w = double(y) * (h + (r + t));
+    w = std::max(std::min(w, 200.0), -200.0);
+    const double n = w * 0x1.71547652b82fep+10 + kShifter;
+    double u = w - (n - kShifter) * 0x1.62e42fefa39efp-11;
+    uint64_t nb;
+    std::memcpy(&nb, &n, 8);
+    const int32_t ni = int32_t(uint32_t(nb));
+    const double row = vm::expTable1024[ni & 1023];
+    u = u + (u * u) * 0.5;
+    double v = row + row * u;
+    uint64_t vb;
+    std::memcpy(&vb, &v, 8);
+    vb += uint64_t(int64_t(ni >> 10)) << 52;
+    std::memcpy(&v, &vb, 8);
+    return v;
+}
+float SinglePowHASteps(float x, float y) {
+    return float(SinglePowHAWideSteps(x, y));
+}
+uint64_t DoubleBits(double x) {
+    uint64_t b;
+    std::memcpy(&b, &x, 8);
+    return b;
+}
+
+TEST(Power, SinglePowAndPowxHAAreTheirStatedSteps) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    std::mt19937 gen(78);
+    std::uniform_real_distribution<float> ey(-30.0f, 30.0f);
+    std::vector<float> a, b;
+    for (int i = 0; i < 300000; ++i) {
+        a.push_back(FloatOf((gen() & 0x7FFFFFu) | ((1 + gen() % 254) << 23)));
+        b.push_back(i % 4 == 0 ? ey(gen) : ey(gen) / std::max(1.0f, std::fabs(std::log(a.back()))));
+    }
+    // Next to 1 with large |y| (the rows where k*ln2 + T vanishes), the binade edges,
+    // the smallest and largest normals, and y that takes w past the window either way.
+    for (float x : {1.0f, 0x1.fffffep-1f, 0x1.fffffcp-1f, 0x1.000002p0f, 0x1.000004p0f,
+                    0x1.001p0f, 0x1.ffep-1f, 2.0f, 0.5f, 0x1.fffffep0f, FLT_MIN, FLT_MAX})
+        for (float y : {1.0f, -1.0f, 3.5f, 0x1p-20f, 0.0f, 0x1p24f, -0x1p27f, 1e6f, 300.0f,
+                        -300.0f, 1e30f}) {
+            a.push_back(x);
+            b.push_back(y);
+        }
+    while (a.size() % 4) {
+        a.push_back(1.5f);
+        b.push_back(2.0f);
+    }
+    for (size_t i = 0; i < a.size(); i += 4) {
+        alignas(16) float m[4];
+        alignas(16) int32_t k[4];
+        alignas(16) double v[4];
+        for (int l = 0; l < 4; ++l) {
+            m[l] = FloatOf((FloatBits(a[i + l]) & 0x7FFFFFu) | 0x3F800000u);
+            k[l] = int32_t(FloatBits(a[i + l]) >> 23) - 127;
+        }
+        __m128d lo, hi;
+        vm::PowSingleHAWide(_mm_load_ps(m), vm::I32x4{_mm_load_si128((const __m128i*)k)},
+                            _mm_loadu_ps(&b[i]), lo, hi);
+        _mm_store_pd(v, lo);
+        _mm_store_pd(v + 2, hi);
+        for (int l = 0; l < 4; ++l)
+            ASSERT_EQ(DoubleBits(v[l]), DoubleBits(SinglePowHAWideSteps(a[i + l], b[i + l])))
+                << "x=" << a[i + l] << " y=" << b[i + l];
+    }
+    std::vector<float> y(a.size());
+    As<Binary<float>>(Raw(frame::Row_sPow, frame::SlotHA))(int(a.size()), a.data(), b.data(),
+                                                           y.data());
+    for (size_t i = 0; i < a.size(); ++i)
+        ASSERT_EQ(FloatBits(y[i]), FloatBits(SinglePowHASteps(a[i], b[i])))
+            << "x=" << a[i] << " y=" << b[i];
+    for (float bx : {0.37f, -2.25f, 7.1f, -0.001f, 19.5f}) {
+        std::vector<float> yx(a.size());
+        Powx<float>(frame::SlotHA)(int(a.size()), a.data(), bx, yx.data());
+        for (size_t i = 0; i < a.size(); ++i)
+            ASSERT_EQ(FloatBits(yx[i]), FloatBits(SinglePowHASteps(a[i], bx)))
+                << "x=" << a[i] << " b=" << bx;
+    }
+    // Next to 1, where ln x is all in r: within 0.6 ulp of x^y, the limits without status.
+    int st;
+    for (float x : {0x1.fffffep-1f, 0x1.000002p0f, 0x1.fffff0p-1f, 0x1.00001p0f})
+        for (float yy : {0x1p20f, -0x1p23f, 0x1.6p26f, -0x1.4p25f}) {
+            const float got = CallPow<float>(false, frame::SlotHA, x, yy, &st);
+            EXPECT_LE(UlpError(got, powl((long double)x, (long double)yy)), 0.6)
+                << "x=" << x << " y=" << yy;
+            EXPECT_EQ(st, 0);
+        }
+    EXPECT_EQ(CallPow<float>(false, frame::SlotHA, 2.0f, 130.0f, &st), INFINITY);
+    EXPECT_EQ(st, 0);
+    EXPECT_EQ(CallPow<float>(false, frame::SlotHA, 2.0f, -160.0f, &st), 0.0f);
     EXPECT_EQ(st, 0);
 }
 

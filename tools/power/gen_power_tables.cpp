@@ -3,6 +3,9 @@
 //   powLnRows[j] = for the centre c = 1 + j/512, j = 0..512: the reciprocal of c to 43
 //                  bits (the one lnRows holds) and -ln of that reciprocal rounded to one
 //                  double, so that a row is 16 bytes.
+//   powRcpLn[j]  = -ln(c) rounded to one double for c = (512 + j)/1024, j = 0..512: the
+//                  row of single Pow HA, whose j is the single estimate of 1/m rounded to
+//                  a multiple of 2^-10 (row 0 is ln 2 rounded, row 512 is 0).
 //   gen_power_tables OUT
 #include <cstdio>
 #include <mpfr.h>
@@ -31,6 +34,16 @@ int main(int argc, char** argv) {
         mpfr_neg(l, l, MPFR_RNDN);
         std::fprintf(out, "    {%a, %a},\n", mpfr_get_d(rcp, MPFR_RNDN),
                      mpfr_get_d(l, MPFR_RNDN) + 0.0);
+    }
+    std::fprintf(out, "};\n\n");
+    constexpr long steps = 1024;
+    std::fprintf(out, "alignas(16) const double powRcpLn[%ld] = {\n", steps / 2 + 1);
+    for (long q = steps / 2; q <= steps; ++q) {
+        mpfr_set_si(c, q, MPFR_RNDN);
+        mpfr_div_si(c, c, steps, MPFR_RNDN);
+        mpfr_log(l, c, MPFR_RNDN);
+        mpfr_neg(l, l, MPFR_RNDN);
+        std::fprintf(out, "    %a,\n", mpfr_get_d(l, MPFR_RNDN) + 0.0);
     }
     std::fprintf(out, "};\n\n} // namespace brenn::vm\n");
     mpfr_clears(c, rcp, l, (mpfr_ptr)0);

@@ -7,8 +7,10 @@
  * ln x times y in two parts and the rest, r rounded once with its Taylor quartic, in the
  * tail, e^w by the table of 64 and the Taylor cubic, the tail added to the reduced
  * argument (pow_core.h PowWEP, PowExpEP). Single
- * HA and LA split x on the single bits and run in double lanes: the cubic logarithm
- * from lnRows (HA with the rows' low parts), w in one double, e^w by the table of 1024
+ * HA and LA take m and k from the single bits and run in double lanes. HA's row is
+ * picked by the single estimate of 1/m rounded to a multiple of 2^-10 in double
+ * (powRcpLn, 513 rows), with a quadratic Q; LA's by m rounded to 9 fraction bits
+ * (powLnRows) with the cubic logarithm. w in one double, e^w by the table of 1024
  * with 1 + u + u^2/2 (HA) or 1 + u (LA); single EP stays in single (pow_body.h).
  * The double kernels are flattened: out of line the body was one call a register. Powx's
  * double rounds of sixteen take each step over their eight registers (PowRound);

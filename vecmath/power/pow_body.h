@@ -82,21 +82,13 @@ inline __m128 PowSingleEP(__m128 x, __m128 y, __m128& special) {
     return AsFloat(Add(ShiftLeft<Format<float>::kMantBits>(AsInt(t)), AsInt(e)));
 }
 
-// Single LA and HA in double lanes. x = 2^k * m is split on the single bits, four lanes
-// at once, m in [1, 2) and its row j of powLnRows (m rounded to 9 fraction bits: lnRows'
-// reciprocal and -ln of it in one double T); then, two lanes a half, r = m*rcp - 1 (m
-// has 24 bits: rounded below 2^-53, exact at rows 0 and 512, where x is near 1) and
-// ln x = (k*ln2 + T) + (r + r^2*Q(r)) with the cubic of the EP core (about 2^-35 of
-// ln x). k*ln2 + T is within 2^-53 of its size plus 2^-53 (the two roundings of ln 2 and
-// T), and exactly 0 at row 512 for k = -1 (T is ln 2 rounded): within 2^-43 of ln x
-// wherever it does not vanish. w = y*ln x in one double. e^w by the table of 1024:
-// n = w*1024/ln2 rounded, u = w - n*ln2/1024 (|u| <= 2^-11.47), 2^(n/1024) *
+// Single LA and HA in double lanes, narrowed once at the end. e^w as both levels take it
+// from w: n = w*1024/ln2 rounded, u = w - n*ln2/1024 (|u| <= 2^-11.47), 2^(n/1024) *
 // (1 + u + u^2/2) at HA (2^-37), (1 + u) at LA (2^-24), the power of two added to the
 // row's exponent field.
 // w is held to [-200, 200] first: beyond about 104 the single result is infinity or zero
 // either way, and the narrowing of e^(+-200) gives it with the flags the scalar routine
 // would raise (overflow or underflow, and inexact), so no lane leaves for w.
-// x must be a positive normal here: denormal x goes to the scalar routine.
 struct PowSingleStep {
     static constexpr double kInvStep = 0x1.71547652b82fep+10; // 1024/ln2
     static constexpr double kStep = 0x1.62e42fefa39efp-11;    // ln2/1024
@@ -104,6 +96,27 @@ struct PowSingleStep {
     static constexpr double kLn2 = 0x1.62e42fefa39efp-1;
 };
 
+template <Level L>
+BRENN_VEC __m128d PowSingleExp(__m128d w) {
+    using S = PowSingleStep;
+    w = Max(Min(w, Set<double>(S::kWLimit)), Set<double>(-S::kWLimit));
+    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    __m128d n = Add(Mul(w, Set<double>(S::kInvStep)), shifter);
+    __m128d u = Sub(w, Mul(Sub(n, shifter), Set<double>(S::kStep)));
+    __m128d row = Gather(expTable1024, AsInt(n), 1023);
+    if constexpr (L == Level::HA) u = Add(u, Mul(Mul(u, u), Set<double>(0.5)));
+    return ScaleByLowWord<10>(Add(row, Mul(row, u)), n);
+}
+
+// Single LA's logarithm: x = 2^k * m is split on the single bits, four lanes at once,
+// m in [1, 2) and its row j of powLnRows (m rounded to 9 fraction bits: lnRows'
+// reciprocal and -ln of it in one double T); then, two lanes a half, r = m*rcp - 1 (m
+// has 24 bits: rounded below 2^-53, exact at rows 0 and 512, where x is near 1) and
+// ln x = (k*ln2 + T) + (r + r^2*Q(r)) with the cubic of the EP core (about 2^-35 of
+// ln x). k*ln2 + T is within 2^-53 of its size plus 2^-53 (the two roundings of ln 2 and
+// T), and exactly 0 at row 512 for k = -1 (T is ln 2 rounded): within 2^-43 of ln x
+// wherever it does not vanish. w = y*ln x in one double.
+// x must be a positive normal here: denormal x goes to the scalar routine.
 template <Level L>
 BRENN_VEC __m128d PowSingleHalf(__m128d m, __m128d k, __m128d y, const double* ra,
                                 const double* rb) {
@@ -114,14 +127,45 @@ BRENN_VEC __m128d PowSingleHalf(__m128d m, __m128d k, __m128d y, const double* r
     __m128d r = Sub(Mul(m, rcp), Set<double>(1.0));
     __m128d h = Add(Mul(k, Set<double>(S::kLn2)), tv);
     __m128d t = Mul(Mul(r, r), Horner(r, K::kCoreEP));
-    __m128d w = Mul(y, Add(h, Add(r, t)));
-    w = Max(Min(w, Set<double>(S::kWLimit)), Set<double>(-S::kWLimit));
-    const __m128d shifter = Set<double>(Format<double>::kShifter);
-    __m128d n = Add(Mul(w, Set<double>(S::kInvStep)), shifter);
-    __m128d u = Sub(w, Mul(Sub(n, shifter), Set<double>(S::kStep)));
-    __m128d row = Gather(expTable1024, AsInt(n), 1023);
-    if constexpr (L == Level::HA) u = Add(u, Mul(Mul(u, u), Set<double>(0.5)));
-    return ScaleByLowWord<10>(Add(row, Mul(row, u)), n);
+    return PowSingleExp<L>(Mul(y, Add(h, Add(r, t))));
+}
+
+// Single HA's logarithm in double: x = 2^k * m, m in [1, 2) from the single bits; the
+// single estimate of 1/m (rcpps), widened, rounded to a multiple of 2^-10 (roundpd on
+// 1024 times it), is c = q/1024 with q in [512, 1024], and picks the row q - 512 of
+// powRcpLn, T = -ln(c) in one double. r = m*c - 1 is exact (m has 24 bits, c 11), and
+// |r| < 0.00135 (the estimate within 1.5*2^-12, the rounding within 2^-11 of it);
+// ln(1 + r) = r + r^2*Q(r) with Q of degree 2 (2^-42.5 relative, tools/power/
+// pow_log_single_ha.sollya). ln x = (k*ln2 + T) + (r + r^2*Q(r)): near x = 1 the first
+// part is exactly 0 (k = 0 with q = 1024, or k = -1 with q = 512, whose T is ln 2
+// rounded), elsewhere it is within 2^-52 of its size, so that ln x is within about 2^-41
+// of itself; w = y*ln x in one double, e^w by PowSingleExp.
+constexpr double kPowLnQHA[] = {-0x1.ffffffffffe0dp-2, 0x1.555567ade28bap-2,
+                                -0x1.00001153e4dc5p-2};
+
+BRENN_VEC __m128d PowSingleHAHalf(__m128d q, __m128d m, __m128d k, __m128d y, const double* ta,
+                                  const double* tb) {
+    using S = PowSingleStep;
+    __m128d r = Sub(Mul(m, Mul(q, Set<double>(0x1p-10))), Set<double>(1.0));
+    __m128d h = Add(Mul(k, Set<double>(S::kLn2)), LoadLanes(ta, tb));
+    __m128d t = Mul(Mul(r, r), Horner(r, kPowLnQHA));
+    return PowSingleExp<Level::HA>(Mul(y, Add(h, Add(r, t))));
+}
+
+// The four lanes of single HA before the narrowing, lanes 0-1 in lo and 2-3 in hi: m the
+// significands in [1, 2), k the exponents, y the exponents of the power.
+BRENN_VEC void PowSingleHAWide(__m128 m, I32x4 k, __m128 y, __m128d& lo, __m128d& hi) {
+    // 1024*e is exact in single, so it is scaled before the widening, four lanes at once,
+    // and its conversion to integers rounds to nearest even as roundpd does: the rows'
+    // q in one conversion for the four lanes.
+    const __m128 e = Mul(ApproxRecip(m), Set<float>(1024.0f));
+    const __m128d qlo = RoundEven(WidenLower(e));
+    const __m128d qhi = RoundEven(WidenUpper(e));
+    Indices at = IndicesOf(Sub(RoundToInt(e), Set<int32_t>(512)));
+    lo = PowSingleHAHalf(qlo, WidenLower(m), ToDoubleLower(k), WidenLower(y), powRcpLn + at.at[0],
+                         powRcpLn + at.at[1]);
+    hi = PowSingleHAHalf(qhi, WidenUpper(m), ToDoubleUpper(k), WidenUpper(y), powRcpLn + at.at[2],
+                         powRcpLn + at.at[3]);
 }
 
 // `FiniteY`: y finite in every lane (Powx's general body with a finite b), so that only x
@@ -141,6 +185,12 @@ BRENN_VEC __m128 PowOf(__m128 x, __m128 y, __m128& special) {
         I32x4 mant = And(b, Set<uint32_t>(F::kMant));
         __m128 m = AsFloat(Or(mant, Set<uint32_t>(F::kOne)));
         I32x4 k = Sub(ShiftRight<F::kMantBits>(b), Set<int32_t>(F::kBias));
+        if constexpr (L == Level::HA) {
+            __m128d lo, hi;
+            PowSingleHAWide(m, k, y, lo, hi);
+            special = sxy;
+            return Narrow(lo, hi);
+        }
         // The row's offset in doubles, 2j: the index shifted one place less, its low bit
         // cleared.
         I32x4 j2 =
