@@ -126,7 +126,7 @@ void ExpectNear(bool lgamma, T x, double ulps) {
 }
 
 // Both sides of every place the routines change path: the pieces of [1, 2] at 1.25,
-// 1.5, 1.75, the reductions at 1, 2, 3, the Stirling points (8 in single; in double 8
+// 1.46163214... (double), 1.5, 1.75 (single), the reductions at 1, 2, 3, the Stirling points (8 in single; in double 8
 // for LGamma, 12 for TGamma and the reflection), near the overflow limits, tiny
 // arguments and reflection.
 TEST(Gamma, ValuesWhereThePathsMeet) {
@@ -249,6 +249,53 @@ void ExpectLGammaPaths(double bound) {
 TEST(Gamma, LGammaOverItsPaths) {
     ExpectLGammaPaths<double>(0.55);
     ExpectLGammaPaths<float>(0.51);
+}
+
+// TGamma on [1, 2] through the four pieces of H (double: split at 1.25, the minimum
+// 1.46163214... and 1.5; single: 1.25, 1.5, 1.75), below 1 where H serves (1 + x (x - 1)
+// H(x)) / x, and one and two steps of the recurrence above 2: random arguments in each
+// piece and the arguments next to each split, within 0.51 ulp of the extended library's
+// value (a piece on the wrong side of its split, or off by a coefficient, is far more).
+template <class T>
+void ExpectTGammaPieces(const std::vector<double>& splits) {
+    const char* row = RowName<T>(false);
+    std::mt19937_64 gen(sizeof(T) * 104729);
+    std::vector<double> ends = {1.0};
+    ends.insert(ends.end(), splits.begin(), splits.end());
+    ends.push_back(2.0);
+    double worst = 0;
+    auto check = [&](const std::vector<T>& x) {
+        std::vector<T> y(x.size());
+        K<T>(row, 1)(int(x.size()), x.data(), y.data());
+        for (size_t i = 0; i < x.size(); ++i) {
+            double e = UlpError(y[i], tgammal(x[i]));
+            worst = std::max(worst, e);
+            EXPECT_LE(e, 0.51) << row << " x " << x[i] << " got " << y[i];
+        }
+    };
+    for (double shift : {-1.0, 0.0, 1.0, 2.0})
+        for (size_t p = 0; p + 1 < ends.size(); ++p) {
+            std::uniform_real_distribution<double> u(ends[p] + shift, ends[p + 1] + shift);
+            std::vector<T> x(10000);
+            for (T& v : x)
+                v = T(u(gen));
+            check(x);
+            if (ends[p] + shift <= 0) continue; // 0 is the pole
+            std::vector<T> edge;
+            T at = T(ends[p] + shift);
+            for (int k = 0; k < 4; ++k) {
+                edge.push_back(at);
+                edge.push_back(std::nextafter(at, T(-1)));
+                at = std::nextafter(at, T(4));
+            }
+            check(edge);
+        }
+    std::printf("%s worst %.3f ulp on the interval's pieces\n", row, worst);
+}
+
+TEST(Gamma, TGammaOnTheIntervalPieces) {
+    ExpectTGammaPieces<double>({1.25, 1.4616321449683622, 1.5});
+    ExpectTGammaPieces<float>({1.25, 1.5, 1.75});
 }
 
 // The last argument with a finite TGamma and the first past it, in both precisions

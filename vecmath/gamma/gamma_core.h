@@ -7,8 +7,9 @@
  *   and near 2 (LnGammaInterval); from 0 to 8 the recurrence toward that interval; from
  *   8 on Stirling's form (x - 1/2) ln x - x + ln sqrt(2 pi) + S(x).
  * TGamma:
- *   H(z) = (Gamma(1 + z) - 1) / (z (z - 1)) on [0, 1], four polynomials split at 1/4,
- *   1/2 and 3/4 (x = 1.25, 1.5, 1.75):
+ *   H(z) = (Gamma(1 + z) - 1) / (z (z - 1)) on [0, 1], four polynomials, split at
+ *   x = 1.25, the minimum 1.46163214... and 1.5 in extended (z = 1/4, x0 - 1, 1/2), at
+ *   x = 1.25, 1.5, 1.75 in double:
  *     x in (0, 1):  Gamma(x) = (1 + x (x - 1) H(x)) / x
  *     x in [1, 2]:  Gamma(x) = 1 + z (z - 1) H(z),                z = x - 1
  *   From 2 up to the Stirling point the recurrence Gamma(x) = (x - 1) Gamma(x - 1)
@@ -85,9 +86,6 @@ inline double HalfLn2Pi(double) {
 inline double Ln2Lo(double) {
     return GammaData<double>::kLn2Lo;
 }
-inline const auto& HPoly(long double, int i) {
-    return GammaData<long double>::kHP.row[i];
-}
 inline const auto& HPoly(double, int i) {
     return GammaData<double>::kH[i];
 }
@@ -101,13 +99,23 @@ inline const auto& HPoly(double, int i) {
     return dbl::SinPi(r);
 }
 
-// H(z) for z in [0, 1]: the piece's polynomial in z less the piece's centre.
-template <class W>
-[[gnu::always_inline]] inline W H(W z) {
+// H(z) for z in [0, 1]: the piece's polynomial in z less the piece's centre (each
+// difference exact). Extended: split at 1/4, the minimum's x0 - 1 and 1/2.
+[[gnu::always_inline]] inline long double H(long double z) {
+    using D = GammaData<long double>;
+    if (z < 0.5L) {
+        if (z < 0.25L) return Poly(z - 0.125L, D::kHP0);
+        if (z < D::kMinLessOne) return Poly(z - 0.35546875L, D::kHP1);
+        return Poly(z - 0.48046875L, D::kHP2);
+    }
+    return Poly(z - 0.75L, D::kHP3);
+}
+// Double, for the single rows: split at 1/4, 1/2 and 3/4.
+[[gnu::always_inline]] inline double H(double z) {
     int i = static_cast<int>(z * 4);
     i = i > 3 ? 3 : i;
-    W t = z - W(2 * i + 1) / 8;
-    return Poly(t, HPoly(W(), i));
+    double t = z - double(2 * i + 1) / 8;
+    return Poly(t, HPoly(double(), i));
 }
 
 // Gamma(x) for 1 <= x below the Stirling point. The recurrence goes two steps at a

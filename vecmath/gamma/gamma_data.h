@@ -26,30 +26,36 @@ struct GammaData;
 
 template <>
 struct GammaData<long double> {
-    // H(z) = (Gamma(1 + z) - 1) / (z (z - 1)) on [i/4, (i+1)/4], polynomials in
-    // z - (2i + 1)/8, by tools/gamma/gamma_core.sollya (degree 14, 2^-61.5 relative).
-    static constexpr long double kH[4][15] = {
-        {0x1.10b5f35993ed2a16p-1L, -0x1.3abefa012bc424cep-2L, 0x1.6820a76bb89ad18ap-2L,
-         -0x1.3318204db09e7866p-2L, 0x1.19701e6028d68e26p-2L, -0x1.f4fea62d146cdb14p-3L,
-         0x1.bf5ee82b28b67d22p-3L, -0x1.8e4468b1a2f1eb06p-3L, 0x1.625fbd5870f822cep-3L,
-         -0x1.3b28795369bf1934p-3L, 0x1.1837b462972e7032p-3L, -0x1.f1c918ab8ce2572ap-4L,
-         0x1.ba6c1e0232e8a792p-4L, -0x1.9c78dc6bd2739a64p-4L, 0x1.70399df2ec75eea8p-4L},
-        {0x1.e55811d564176414p-2L, -0x1.650d136ccacbcc26p-3L, 0x1.9c56a82f1c9cfc74p-3L,
-         -0x1.08987bce46021904p-3L, 0x1.9df2382e863da558p-4L, -0x1.2a0163d21f167a7cp-4L,
-         0x1.b63aa6f04504c26cp-5L, -0x1.3f2474253bf9e844p-5L, 0x1.d137574bfcf6bce4p-6L,
-         -0x1.52a594eaf3210666p-6L, 0x1.ece08f159986beeap-7L, -0x1.666f9618e08a62e8p-7L,
-         0x1.04d0063fbf23e23p-7L, -0x1.876bfdaa98b5947p-8L, 0x1.19ff0246a4cd0cdp-8L},
-        {0x1.c3dfb5a5eccb4c7p-2L, -0x1.7be0a46cd9d79c72p-4L, 0x1.11547809ad5abe06p-3L,
-         -0x1.f3b6bd97539dccaep-5L, 0x1.6edba71ab1ad3234p-5L, -0x1.ad6ab7ad8276acfep-6L,
-         0x1.1049badc562730d6p-6L, -0x1.4df55b45125848p-7L, 0x1.9d25d9dd639dbb8cp-8L,
-         -0x1.fcf7e74cd5fe39f6p-9L, 0x1.399a3a0831a0307ap-9L, -0x1.821e765620188cb2p-10L,
-         0x1.daf32ca275332384p-11L, -0x1.2b4992f49014c2dap-11L, 0x1.807e2bfb16bfc178p-12L},
-        {0x1.b3da85adc8fa1c26p-2L, -0x1.1f613c048372d4ecp-5L, 0x1.9e8f0961d199f696p-4L,
-         -0x1.d3417f49a110454cp-6L, 0x1.7eed7dbc60407d7p-6L, -0x1.5b2b432a39b2a96ep-7L,
-         0x1.94c1d3b1a142361ep-8L, -0x1.a4befad1ccac61b6p-9L, 0x1.c7cdad6ce2f9874ap-10L,
-         -0x1.e56496c0e2abd66p-11L, 0x1.03b1410ffe7619c8p-11L, -0x1.1514824b0e959af6p-12L,
-         0x1.1c8db859c29816b2p-13L, -0x1.416551d0fc71a3f2p-14L, 0x1.235f281d6dec2b06p-13L},
-    };
+    // H(z) = (Gamma(1 + z) - 1) / (z (z - 1)) in four pieces, split where x = 1 + z is
+    // 1.25, the minimum 1.46163214... and 1.5: z in [0, 1/4], [1/4, x0 - 1], [x0 - 1, 1/2],
+    // [1/2, 1], polynomials in z less 1/8, 0.35546875, 0.48046875, 3/4, by
+    // tools/gamma/gamma_core.sollya (degrees 14, 13, 8, 18; relative 2^-61.5, 2^-64.2,
+    // 2^-64.8, 2^-66.2), fitted with the coefficients from the fourth (the last piece:
+    // the fifth) on in double, as the x87 code loads them.
+    static constexpr long double kH0[15] = {
+        0x1.10b5f35993ed2a16p-1L, -0x1.3abefa012bc424ccp-2L, 0x1.6820a76bb89ad18ap-2L,
+        -0x1.3318204db09e8p-2L, 0x1.19701e6028d69p-2L, -0x1.f4fea62d1458p-3L,
+        0x1.bf5ee82b28ae3p-3L, -0x1.8e4468b1b0b4p-3L, 0x1.625fbd5877e8p-3L, -0x1.3b28794eb1989p-3L,
+        0x1.1837b45fd8ffbp-3L, -0x1.f1c91a4b1056bp-4L, 0x1.ba6c1f0bc8ec8p-4L,
+        -0x1.9c78c01ad4b14p-4L, 0x1.70398a94681fdp-4L};
+    static constexpr long double kH1[14] = {
+        0x1.e8e9165aa66055f6p-2L, -0x1.75779624334443ep-3L, 0x1.ac53c4f198ce5db4p-3L,
+        -0x1.1959bdd34e10fp-3L, 0x1.bc58499c7b725p-4L, -0x1.4502e75f25e73p-4L,
+        0x1.e474cc0cbafeap-5L, -0x1.65ed65b278911p-5L, 0x1.089a356f982e1p-5L,
+        -0x1.86c3b31c00ec4p-6L, 0x1.20669e9ac50b4p-6L, -0x1.a9afc2cd9b19p-7L,
+        0x1.40fcfef11f05ep-7L, -0x1.d8be2dee6ca9p-8L};
+    static constexpr long double kH2[9] = {
+        0x1.d4aa4ace850b2874p-2L, -0x1.16042a36c67709fp-3L, 0x1.54de34e28f07dcbcp-3L,
+        -0x1.7f2e3090738c1p-4L, 0x1.1fafdae17d8f2p-4L, -0x1.7c3f59b82e514p-5L,
+        0x1.051bbe162f1a6p-5L, -0x1.60f9b47fa6ae6p-6L, 0x1.dd4616466f7a1p-7L};
+    static constexpr long double kH3[19] = {
+        0x1.ba06ca045f2952dap-2L, -0x1.fb38e791192f6fa4p-5L, 0x1.d449cf652eac2e66p-4L,
+        -0x1.5926336c11cc4228p-5L, 0x1.03a4161713a14p-5L, -0x1.0e6317cdea9e3p-6L,
+        0x1.454b170ba01cbp-7L, -0x1.6fb72f293fbdcp-8L, 0x1.a7e987e803b76p-9L,
+        -0x1.e49b0b70df08p-10L, 0x1.156d1eb28b093p-10L, -0x1.3d45f0398f641p-11L,
+        0x1.6abd1d09a7af2p-12L, -0x1.9ed37f6f3736ap-13L, 0x1.de5d6ba22f201p-14L,
+        -0x1.0d88d299d8f17p-14L, 0x1.da4ada45d0da8p-16L, -0x1.8a74c620d0e81p-16L,
+        0x1.6bf81007a7c1p-15L};
     // LGamma takes Stirling's form (with kStirlingD) from 8 on in magnitude.
     static constexpr long double kLnStirlingFrom = 8;
     // ln Gamma on [0.75, 2.25] (gamma_core.h LnGammaInterval), by
@@ -97,11 +103,16 @@ struct GammaData<long double> {
     static constexpr long double kLn2Hi = 0x1.6p-1L;
     static constexpr long double kLn2Lo = 0.00564718055994530941723212145817656808L;
 
-    // The sets as the x87 code loads them (ext_const.h): in H the terms from t^3 on and in
-    // the sine those from r^9 on are below 2^-62 of the sum with their coefficients
-    // rounded to double; S is summed in double (gamma_core.h). The LGamma sets were
+    // The sets as the x87 code loads them (ext_const.h): H's as fitted; in the sine the
+    // terms from r^9 on are below 2^-62 of the sum with their coefficients rounded to
+    // double; S is summed in double (gamma_core.h). The LGamma sets were
     // fitted with their coefficients from the fifth on in double.
-    static constexpr auto kHP = SplitPolys<3>(kH);
+    static constexpr auto kHP0 = SplitPoly<3>(kH0);
+    static constexpr auto kHP1 = SplitPoly<3>(kH1);
+    static constexpr auto kHP2 = SplitPoly<3>(kH2);
+    static constexpr auto kHP3 = SplitPoly<4>(kH3);
+    // The split at the minimum, x0 - 1 rounded to double.
+    static constexpr long double kMinLessOne = 0.4616321449683622L;
     // The series in double from 8 on, eleven terms (the first left out is below 2^-60).
     static constexpr double kStirlingD[11] = {
         1.0 / 12,         -1.0 / 360,         1.0 / 1260,      -1.0 / 1680,
@@ -121,7 +132,8 @@ struct GammaData<long double> {
 
 template <>
 struct GammaData<double> {
-    // H as above, by tools/gamma/gamma_core.sollya (degree 8, 2^-36.7 relative).
+    // H as above on [i/4, (i + 1)/4] (x = 1.25, 1.5, 1.75 the splits), polynomials in
+    // z - (2i + 1)/8, by tools/gamma/gamma_core.sollya (degree 8, 2^-36.7 relative).
     static constexpr double kH[4][9] = {
         {0x1.10b5f35994526p-1, -0x1.3abef9fb78b0fp-2, 0x1.6820a7605356ap-2, -0x1.33183347ceabp-2,
          0x1.1970372907f4cp-2, -0x1.f4dc949b50c68p-3, 0x1.bf3a490c82a88p-3, -0x1.998e6601e2006p-3,
