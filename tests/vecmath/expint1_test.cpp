@@ -5,14 +5,20 @@
 // long double), the caller's x87 control word and MXCSR, and every length and alignment
 // against one element at a time.
 #include <cfloat>
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 #include <gtest/gtest.h>
 #include <limits>
 #include <random>
 #include <vector>
 #include <xmmintrin.h>
 
+#include "frame/dispatch.h"
 #include "tests/vecmath/kernels.h"
+#include "vecmath/explog/explog_tables.h"
+#include "vecmath/gamma/expint1_table.h"
 
 namespace brenn::test {
 namespace {
@@ -25,9 +31,12 @@ const char* Row() {
     return sizeof(T) == 4 ? "sExpInt1" : "dExpInt1";
 }
 
+// From the dispatch table itself: this program links the kernels' objects statically, to
+// reach their tables (the row symbols are not looked up).
 template <class T>
 Unary<T> K(int slot) {
-    return As<Unary<T>>(Slot(Row<T>(), slot));
+    const frame::RowIndex row = sizeof(T) == 4 ? frame::Row_sExpInt1 : frame::Row_dExpInt1;
+    return reinterpret_cast<Unary<T>>((&BrennDispatchTable[row].kernelLA)[slot]);
 }
 
 // E1(x) for x > 0 in long double: the power series up to 2, the continued fraction
@@ -174,6 +183,60 @@ void ExpectControlsKept() {
 TEST(ExpInt1, CallersControlWordAndCsrComeBack) {
     ExpectControlsKept<float>();
     ExpectControlsKept<double>();
+}
+
+// Double EP for 1 < x <= 724, the steps of the vector form one at a time in double:
+// t = 1/x, the cell of t (16 a binade) and its centre c, G(t) by the cell's first five
+// Taylor coefficients in v = t - c (Horner); e^-x 2^60 by the reduction of the double
+// exponential on its table of 64 (64/ln2, ln2/64 in two parts, the shifter carrying 60
+// steps of 64 more) and that exponential's quintic; e^-x t G(t) as (e^-x 2^60)((t G) 2^-60).
+double ExpInt1TailSteps(double x) {
+    double t = 1.0 / x;
+    uint64_t b;
+    memcpy(&b, &t, sizeof b);
+    const int row = 16 * (1022 - int(b >> 52)) + int((b >> 48) & 15);
+    uint64_t cb = (b & 0xFFFF000000000000ull) | 0x0000800000000000ull;
+    double c;
+    memcpy(&c, &cb, sizeof c);
+    const double v = t - c;
+    const double* g = vm::gamma::kExpInt1Tail[row];
+    double p = g[4];
+    for (int k = 3; k >= 0; --k)
+        p = p * v + g[k];
+    const double shifter = 0x1.8p52 + 60 * 64;
+    const double n = x * -0x1.71547652b82fep+6 + shifter;
+    const double k = n - shifter;
+    const double r = (k * -0x1.62e42fefa0000p-7 + -x) - k * 0x1.cf79abc9e3b3ap-46;
+    const long long ki = static_cast<long long>(k);
+    const double th = vm::expTable64[ki & 63][0], tl = vm::expTable64[ki & 63][1];
+    const double q = r + (r * r) * (0x1.fffffffffdb3bp-2 +
+                                    r * (0x1.555555555653ep-3 +
+                                         r * (0x1.555573f218b93p-5 + r * 0x1.111112d9f549bp-7)));
+    const double e = (th + (th * q + tl)) * std::ldexp(1.0, int((ki - (ki & 63)) / 64) + 60);
+    return e * ((t * p) * 0x1p-60);
+}
+
+TEST(ExpInt1, DoubleEpTailIsItsStepsBitForBit) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    std::mt19937_64 gen(1);
+    std::uniform_real_distribution<double> u(0.0, std::log(724.0));
+    std::vector<double> x;
+    for (int i = 0; i < 300000; ++i)
+        x.push_back(std::min(724.0, std::nextafter(std::exp(u(gen)), 800.0)));
+    // the edges of the cells of t (16 a binade) and of the binades, 1's neighbour, 724
+    for (int j = 16; j < 16 * 11; ++j) {
+        double edge = 1.0 / std::ldexp(1.0 + (j % 16) / 16.0, -(j / 16));
+        if (edge > 1.0 && edge <= 724.0)
+            for (double d : {std::nextafter(edge, 0.0), edge, std::nextafter(edge, 800.0)})
+                x.push_back(d);
+    }
+    x.push_back(std::nextafter(1.0, 2.0));
+    x.push_back(724.0);
+    std::vector<double> y(x.size());
+    K<double>(kSlotEP)(int(x.size()), x.data(), y.data());
+    for (size_t i = 0; i < x.size(); ++i)
+        ASSERT_TRUE(SameValue(y[i], ExpInt1TailSteps(x[i])))
+            << "x " << x[i] << " got " << y[i] << " steps " << ExpInt1TailSteps(x[i]);
 }
 
 // Double EP, the vector lanes' top from 701 to the limit 724, where the results turn

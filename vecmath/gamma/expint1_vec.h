@@ -7,7 +7,9 @@
  *   (about 2^-33);
  *   1 < x: E1(x) = e^-x t G(t), t = 1/x, G by the Taylor coefficients of its cell of t
  *   (expint1_table.h, 16 cells a binade), the first five (2^-32) or three (2^-19.9), and
- *   e^-x by the exponential's core on the table of 64 with the quartic (2^-39.5).
+ *   e^-x by the double exponential's reduction on its table of 64 (64/ln2, ln2/64 in two
+ *   parts), with that exponential's quintic (2^-51), or the core's quartic (2^-39.5) for
+ *   the single EP slot.
  * A register whose lanes all lie on one side takes that side's form alone. The caller
  * keeps the lanes in [smallest normal, 724]; from about 701.8 on the results are
  * denormal (down to 2^-1054 at 724), given by the body with the status left to the
@@ -29,6 +31,10 @@ template <ExpInt1Grade G>
 struct ExpInt1Vec;
 template <>
 struct ExpInt1Vec<ExpInt1Grade::Fine> {
+    // The exponential's quintic of its table of 64 (the double exponential at HA):
+    // p(r) = r + r^2 (c2 + r (c3 + r (c4 + r c5))), relative 2^-51 on |r| <= ln2/128.
+    static constexpr double kExpC[] = {0x1.fffffffffdb3bp-2, 0x1.555555555653ep-3,
+                                       0x1.555573f218b93p-5, 0x1.111112d9f549bp-7};
     // S(x), lowest degree first; fitted by tools/gamma/expint1_ep.sollya (double).
     static constexpr double kS[] = {
         0x1.fffffffdcb2cfp-1, -0x1.fffffc92bf387p-3,  0x1.c71b932055ef8p-5, -0x1.554013e2f8adp-7,
@@ -37,6 +43,8 @@ struct ExpInt1Vec<ExpInt1Grade::Fine> {
 };
 template <>
 struct ExpInt1Vec<ExpInt1Grade::Coarse> {
+    // The quartic of the exponential's core (2^-39.5; exp_core.h).
+    static constexpr auto& kExpC = ExpTail<ExpDegree::Four>::kC;
     // Fitted by tools/gamma/expint1_ep.sollya (single).
     static constexpr double kS[] = {0x1.fffec7e49c382p-1, -0x1.ff5e73fc24d54p-3,
                                     0x1.b9f43779da56p-5, -0x1.f5dfb14d681d2p-8};
@@ -81,7 +89,10 @@ inline __m128d ExpInt1Tail(__m128d x) {
     __m128d n = Add(Mul(x, Set<double>(-S::kInvStep)), shifter);
     __m128d k = Sub(n, shifter);
     __m128d r = Sub(Add(Mul(k, Set<double>(-S::kStepHi)), Neg(x)), Mul(k, Set<double>(S::kStepLo)));
-    __m128d e = ExpAssemble64<ExpDegree::Four>(n, r);
+    __m128d th, tl;
+    ExpRows64(n, th, tl);
+    __m128d q = Add(r, Mul(Mul(r, r), Horner(r, ExpInt1Vec<G>::kExpC)));
+    __m128d e = Mul(Add(th, Add(Mul(th, q), tl)), ExpScale64(n));
     return Mul(e, Mul(Mul(t, p), Set<double>(0x1p-60)));
 }
 
