@@ -9,7 +9,8 @@
  *
  *   0 < x <= 1: E1(x) = -gamma - ln x + x S(x), S the exponential integral's own series
  *   (21 terms in extended, 12 in double); E1 is at least 0.219 here, so the logarithm's
- *   absolute error stays small next to it, also where ln x is near 0.
+ *   absolute error stays small next to it, also where ln x is near 0; in extended,
+ *   x in [0.96875, 1.0625] takes a polynomial of its own about 1.015625 instead.
  *   x > 1: E1(x) = e^-x t G(t), t = 1/x, G(t) = x e^x E1(x) by its Taylor polynomial
  *   about the centre of t's cell (16 cells a binade, t down to 2^-10; 14 terms in
  *   extended, 7 in double). Both sets of constants come from tools/gamma/gen_expint1.py.
@@ -43,6 +44,21 @@ namespace {
 constexpr auto kSeriesP = gamma::SplitPoly<5>(gamma::kExpInt1SeriesL);
 constexpr auto kTailP = gamma::SplitPolys<3>(gamma::kExpInt1TailL);
 constexpr gamma::Ext2 kEulerGamma2 = gamma::Split2(gamma::kEulerGammaL);
+
+// E1 on [0.96875, 1.0625], where ln x is near 0: a polynomial in x - 1.015625 (exact), by
+// tools/gamma/expint1_near_one.sollya (degree 12, 2^-64.8 relative), fitted with the
+// coefficients from the fourth on in double.
+constexpr long double kNearOneL[13] = {
+    0x1.b5b52dc70beebfc8p-3L, -0x1.6d299d682a5e7842p-2L, 0x1.6a5a8688d755f67ap-2L,
+    -0x1.2ab68ad4ddeddp-2L,   0x1.d79b3e4362cf5p-3L,     -0x1.79911936db374p-3L,
+    0x1.36d00f569ed44p-3L,    -0x1.06750aa307aaep-3L,    0x1.c444c5df3a8c8p-4L,
+    -0x1.8bd505aab1a37p-4L,   0x1.5f52091a079fcp-4L,     -0x1.3bcd21ec0138dp-4L,
+    0x1.9f7ab8a5d382ep-5L};
+constexpr auto kNearOneP = gamma::SplitPoly<3>(kNearOneL);
+
+[[gnu::noinline]] double NearOneOf(double x) {
+    return static_cast<double>(gamma::Poly(static_cast<long double>(x) - 1.015625L, kNearOneP));
+}
 
 // -gamma - ln x + x S(x) for 0 < x <= 1.
 [[gnu::always_inline]] inline long double NearZero(long double x) {
@@ -116,7 +132,11 @@ int ExpInt1Of(T x, T* y) {
         *y = Keep(kTiny) * kTiny;
         return status::kUnderflow;
     }
-    T v = x <= 1 ? NearZeroOf(x) : TailOf(x);
+    T v;
+    if constexpr (sizeof(T) == 8)
+        v = x >= 0.96875 && x <= 1.0625 ? NearOneOf(x) : x <= 1 ? NearZeroOf(x) : TailOf(x);
+    else
+        v = x <= 1 ? NearZeroOf(x) : TailOf(x);
     *y = v;
     return v < kTiny ? status::kUnderflow : status::kNone;
 }
