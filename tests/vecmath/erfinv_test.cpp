@@ -2,14 +2,18 @@
 // the rows change (the binades of 1 - |x| and their sixteenths, t = 1 exactly, the last
 // double below 1, tiny and denormal arguments), the ends of the domain with their
 // statuses, NaNs, the caller's MXCSR, and vectors with special lanes against single
-// elements.
+// elements; the double EP against its steps, evaluated one element at a time.
 #include <cfloat>
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 #include <gtest/gtest.h>
+#include <random>
 #include <vector>
 #include <xmmintrin.h>
 
 #include "tests/vecmath/kernels.h"
+#include "vecmath/erf/erfinv_tables.h"
 
 namespace brenn::test {
 namespace {
@@ -150,6 +154,64 @@ void ExpectVectorsAndCsr() {
 TEST(ErfInvRows, VectorsAsElementsAndCallerCsrKept) {
     ExpectVectorsAndCsr<float>();
     ExpectVectorsAndCsr<double>();
+}
+
+// The double EP's steps: t = 1 - min(|x|, 0x3FEFFFFFFFFFFFFF), the row of t's top 16
+// bits from t = 2^-53 on, c = (t & 0x3FFF000000000000) | 0x0000800000000000, v = t - c,
+// P = ((A*v + B)*v + C)*v + D, x*P.
+double ErfInvCubicSteps(double x) {
+    double t = 1.0 - std::fmin(std::fabs(x), 0x1.fffffffffffffp-1);
+    uint64_t bits;
+    std::memcpy(&bits, &t, 8);
+    const double* r = brenn::vm::erfInvRowsCubic[(bits >> 48) - (1023 - 53) * 16];
+    uint64_t cb = (bits & 0x3FFF000000000000ull) | 0x0000800000000000ull;
+    double c;
+    std::memcpy(&c, &cb, 8);
+    double v = t - c;
+    double p = ((r[0] * v + r[1]) * v + r[2]) * v + r[3];
+    return x * p;
+}
+
+// Random arguments over every binade of 1 - |x| (uniform in |x| and uniform in
+// log t), and the row joins: bit for bit, and (one in eight) within 2^-26 or an ulp
+// of a denormal result.
+TEST(ErfInvRows, DoubleEpIsTheCubicOfItsRows) {
+    auto k = As<Unary<double>>(Slot("dErfInv", kSlotEP));
+    std::mt19937_64 gen(20261129);
+    std::uniform_real_distribution<double> unit(0.0, 1.0), logt(-53.0, 0.0);
+    std::vector<double> xs;
+    for (int i = 0; i < 300000; ++i) {
+        double a = i % 2 ? unit(gen) : 1.0 - std::exp2(logt(gen));
+        if (a >= 1.0) a = 0x1.fffffffffffffp-1;
+        xs.push_back(i % 4 < 2 ? a : -a);
+    }
+    for (int e = -53; e <= -1; ++e)
+        for (int j = 0; j < 16; ++j) {
+            double a = 1.0 - std::ldexp(1 + j / 16.0, e);
+            for (double b : {a, std::nextafter(a, 0.0), std::nextafter(a, 1.0)})
+                if (b > 0 && b < 1) xs.push_back(b);
+        }
+    for (double a : {0.0, 0x1p-1074, 0x1p-54, 0x1p-53, 2.9103830456733704e-11, 0.5,
+                     0x1.fffffffffffffp-1})
+        xs.push_back(a);
+    std::vector<double> ys(xs.size());
+    k(int(xs.size()), xs.data(), ys.data());
+    int off = 0, wide = 0;
+    for (size_t i = 0; i < xs.size(); ++i) {
+        double want = ErfInvCubicSteps(xs[i]);
+        if (!SameValue(ys[i], want) && off++ < 10)
+            ADD_FAILURE() << "x " << xs[i] << " got " << ys[i] << " steps give " << want;
+        if (i % 8) continue;
+        long double ref = Ref(xs[i]);
+        if (ref != 0 && fabsl((ys[i] - ref) / ref) > 0x1p-26L && UlpError(ys[i], ref) > 1 &&
+            wide++ < 10)
+            ADD_FAILURE() << "x " << xs[i] << " got " << ys[i] << " relative "
+                          << double(fabsl((ys[i] - ref) / ref));
+    }
+    EXPECT_EQ(off, 0);
+    EXPECT_EQ(wide, 0);
+    // Tiny arguments run on the row of t = 1: x times the constant's P(1).
+    EXPECT_TRUE(SameValue(Call(kSlotEP, 0x1p-1074), ErfInvCubicSteps(0x1p-1074)));
 }
 
 } // namespace

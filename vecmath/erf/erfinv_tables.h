@@ -5,7 +5,8 @@
  * with erfinv(x) = x*P(t), highest degree first:
  *   erfInvRowsEP  degree 5;
  *   erfInvRowsLA  degree 9;
- *   erfInvRowsHA  degree 10, then the remainder of the constant term. */
+ *   erfInvRowsHA  degree 10, then the remainder of the constant term;
+ *   erfInvRowsCubic degree 3, the double EP's rows (2^-27 relative). */
 #ifndef BRENN_VECMATH_ERF_ERFINV_TABLES_H
 #define BRENN_VECMATH_ERF_ERFINV_TABLES_H
 
@@ -14,6 +15,7 @@ namespace brenn::vm {
 extern const double erfInvRowsEP[849][6];
 extern const double erfInvRowsLA[849][10];
 extern const double erfInvRowsHA[849][12];
+extern const double erfInvRowsCubic[849][4];
 
 } // namespace brenn::vm
 
