@@ -235,6 +235,83 @@ TEST(Power, PowOverflowAndUnderflowStatus) {
     }
 }
 
+// The single rows' scalar routine on the lanes the body leaves to it: denormal x (scaled
+// by 2^64, its exponent taken back), negative x with an integer y, results beyond the
+// single range. One routine for the three slots: the same bits from each, within half an
+// ulp (and a hair) of powl, infinity where the rounded value overflows, no status.
+TEST(Power, SinglePowScalarValueAcrossTheRange) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    std::mt19937 gen(91);
+    std::uniform_real_distribution<float> ry(-1.5f, 1.5f);
+    std::vector<float> a, b;
+    for (int i = 0; i < 120000; ++i) {
+        const float d = vm::FloatOf(1 + gen() % 0x7FFFFFu); // a denormal
+        switch (i % 3) {
+        case 0: // results from overflow (y below about -0.86) to denormal (y above 1)
+            a.push_back(d);
+            b.push_back(ry(gen));
+            break;
+        case 1: // negative denormal, integer y
+            a.push_back(-d);
+            b.push_back(float(int(gen() % 7) - 3));
+            break;
+        default: // negative normal x, integer y
+            a.push_back(-vm::FloatOf((gen() & 0x7FFFFFu) | ((1 + gen() % 254) << 23)));
+            b.push_back(float(int(gen() % 121) - 60));
+        }
+    }
+    std::vector<float> y[3];
+    for (int slot : kSlots) {
+        y[slot].resize(a.size());
+        brenn_zar_kernel_SetErrStatus(0);
+        As<Binary<float>>(Raw(frame::Row_sPow, slot))(int(a.size()), a.data(), b.data(),
+                                                      y[slot].data());
+        EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 0) << SlotName(slot);
+    }
+    int overflowed = 0, denormal = 0;
+    for (size_t i = 0; i < a.size(); ++i) {
+        const float got = y[frame::SlotHA][i];
+        ASSERT_EQ(Bits(y[frame::SlotLA][i]), Bits(got)) << a[i] << "^" << b[i];
+        ASSERT_EQ(Bits(y[frame::SlotEP][i]), Bits(got)) << a[i] << "^" << b[i];
+        if (b[i] == 0.0f || b[i] == 1.0f) continue;
+        const long double ref = powl((long double)a[i], (long double)b[i]);
+        if (fabsl(ref) >= (long double)0x1.ffffffp127) {
+            ++overflowed;
+            ASSERT_EQ(Bits(got), Bits(std::copysign(INFINITY, float(ref)))) << a[i] << "^" << b[i];
+            continue;
+        }
+        if (fabsl(ref) < FLT_MIN) ++denormal;
+        ASSERT_LE(UlpError(got, ref), 0.501) << a[i] << "^" << b[i];
+        ASSERT_EQ(std::signbit(got), std::signbit(ref)) << a[i] << "^" << b[i];
+    }
+    EXPECT_GT(overflowed, 10000);
+    EXPECT_GT(denormal, 10000);
+    // The edges one at a time, with the flag each raises (0: none checked).
+    struct E {
+        float x, y, r;
+        int flag;
+    };
+    const E edges[] = {
+        {0x1p-149f, -1.0f, INFINITY, FE_OVERFLOW},     // 2^149
+        {0x1p-149f, -0.5f, 0x1.6a09e6p+74f, 0},        // 2^74.5
+        {0x1p-148f, 0.5f, 0x1p-74f, 0},                // exact
+        {-0x1p-130f, -1.0f, -INFINITY, FE_OVERFLOW},   // -2^130
+        {-0x1p-140f, 3.0f, -0.0f, FE_UNDERFLOW},       // -2^-420
+        {0x1p-130f, 1.125f, 7 * 0x1p-149f, FE_UNDERFLOW}, // 2^-146.25, 6.73 * 2^-149
+        {0x1.fffffep-127f, -1.03125f, INFINITY, FE_OVERFLOW}, // 2^129.9
+    };
+    for (const E& c : edges)
+        for (int slot : kSlots) {
+            int st;
+            std::feclearexcept(FE_ALL_EXCEPT);
+            const float r = Call2<float>(frame::Row_sPow, slot, c.x, c.y, &st);
+            const int flags = std::fetestexcept(FE_ALL_EXCEPT);
+            EXPECT_EQ(Bits(r), Bits(c.r)) << c.x << "^" << c.y << " " << SlotName(slot);
+            EXPECT_EQ(st, 0);
+            if (c.flag) EXPECT_TRUE(flags & c.flag) << c.x << "^" << c.y << " " << SlotName(slot);
+        }
+}
+
 // Hard cases at HA, against the extended-precision powl: within one ulp.
 TEST(Power, PowHardCasesWithinAnUlpAtHA) {
     const int ha = frame::SlotHA;

@@ -168,17 +168,18 @@ inline void PowW(__m128d y, const LnReduction& red, __m128d& wh, __m128d& wl) {
 // |x|^y in double for the scalar routines: x positive and finite (denormals included),
 // y finite and not zero; the value rounded once, overflow to +inf and underflow to zero
 // or a denormal with the hardware's flags. `single`: the value of a single row, whose
-// w needs only one double.
+// w needs only one double. k0: the exponent of a caller's scaling of x, taken back
+// (the single routine's denormal x comes scaled by 2^64 with k0 = -64); x^y is then
+// that of x*2^k0, and |y| is below 2^900 there.
 template <bool Single>
-inline double PowMagnitude(double x, double y) {
+inline double PowMagnitude(double x, double y, double k0 = 0.0) {
     constexpr double kHuge = 0x1p1000, kTiny = 0x1p-1000;
     if (x == 1.0) return 1.0;
     if (__builtin_fabs(y) >= 0x1p900) // |w| is then beyond any finite result
         return (x > 1.0) == (y > 0.0) ? Keep(kHuge) * kHuge : Keep(kTiny) * kTiny;
-    double k0 = 0.0;
     if (x < 0x1p-1022) {
         x *= 0x1p64;
-        k0 = -64.0;
+        k0 -= 64.0;
     }
     __m128d xv = SetFirst<double>(x);
     LnReduction red = LnReduce(xv);

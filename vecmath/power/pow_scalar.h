@@ -12,7 +12,8 @@
  *   4. x negative and finite, y finite and not an integer: NaN, domain status;
  *   5. other infinities: 0 or infinity by the sign of y and whether |x| is above 1
  *      (with the sign factor for x = -inf);
- *   6. the value, with the sign factor for negative x. A result beyond the range
+ *   6. the value, with the sign factor for negative x (for single, PowValue: a denormal
+ *      x scaled by 2^64, its exponent taken back). A result beyond the range
  *      overflows to infinity, one below it is zero or denormal. The double rows report
  *      them (overflow 3, underflow 4 for a zero or denormal result); the single rows
  *      return status 0, and only the hardware's flags show them.
@@ -21,6 +22,7 @@
 #ifndef BRENN_VECMATH_POWER_POW_SCALAR_H
 #define BRENN_VECMATH_POWER_POW_SCALAR_H
 
+#include <cfloat>
 #include <limits>
 
 #include "vecmath/frame/scalar.h"
@@ -47,9 +49,27 @@ inline int IntegerClass(T y) {
     return (mant >> fraction) & 1 ? 1 : 2;
 }
 
-// |x|^y in the element's type (the single value from double, rounded once).
+// |x|^y in single: a denormal x is scaled by 2^64 (exact) and its exponent taken back
+// in the logarithm; w = y*ln x and e^w are carried in one double, which holds the
+// extra bits the value needs; a result beyond the single range is infinity by the
+// product of the largest values (overflow and inexact raised, no status); one below it is
+// zero or a denormal from the one rounding of the double value, with the hardware's
+// underflow flag.
+// The logarithm and e^w are not the single steps with a head and tail split by 4097,
+// log2(e) in two parts (head 0x3FB88000), the polynomial -0.3471936, 0.1605812,
+// -0.08355451, 0.0008941205 and 2^f by 98304 and 0.6931472, 0.2402265, 0.05550411:
+// that polynomial's terms follow those of log2(1 + t*ln2) in t, their quadratic term
+// 0.18 % off, which leaves log2 x no better than 2^-17.7 relative on any interval
+// around 0, where the result, within an ulp for |w| up to 104, needs about 2^-33.
 inline float PowValue(float ax, float y) {
-    return float(PowMagnitude<true>(double(ax), double(y)));
+    double k0 = 0.0;
+    if (ax < FLT_MIN) {
+        ax *= 0x1p64f;
+        k0 = -64.0;
+    }
+    const double v = PowMagnitude<true>(double(ax), double(y), k0);
+    if (v >= 0x1.ffffffp127) return Keep(FLT_MAX) * FLT_MAX;
+    return float(v);
 }
 inline double PowValue(double ax, double y) {
     return PowMagnitude<false>(ax, y);
