@@ -42,7 +42,7 @@ struct ErfGridSingle : ErfGridLA {
 // The cuts of the series: terms left out stay below 2^-57 (HA), 2^-55 (LA) of the
 // result in double, 2^-30 and 2^-27 in single, at the worst grid point and offset
 // (one cut serves both levels where the two bounds give the same).
-constexpr SeriesCut kCutHA{5, 4, 2, 1}, kCutLA{5, 4, 2, 1, true};
+constexpr SeriesCut kCutHA{5, 4, 2, 1, true}, kCutLA{5, 4, 2, 1, true};
 constexpr SeriesCut kCutSingleHA{2, 1, 0, 0}, kCutSingleLA{2, 1, 0, 0}, kCutSingleEP{0, 0, 0, 0};
 
 // The EP expansion around the nearest grid point xj = j/128 (|x| held at the limit by its
@@ -76,6 +76,68 @@ BRENN_VEC __m128d ErfShort(__m128d x, __m128d& beyond) {
     return Or(Add(v, Add(w, Mul(r, w))), SignBit(x));
 }
 
+// HA: the scheme of ErfShort with the longer series R = S(2t, u) - 1 of grid_core.h (cut
+// kCutHA, the exact Taylor terms, rows by Horner) and w = d*D kept in two parts, d and D
+// split at their high words (dh*Dh exact), wl = dh*Dl + dl*D:
+// erf = h + (e + (vlo + (wl + R*w))) with h + e = V + wh exactly and vlo = erf(xj) - V. Lanes below 0.02734375 are
+// flagged in `small` for ErfSmall.
+BRENN_VEC __m128d ErfLong(__m128d x, __m128d& beyond, __m128d& small) {
+    constexpr double kLimit = 5.9921875;
+    __m128d ax = Abs(x);
+    __m128d lim = Set<double>(kLimit);
+    __m128d held = AsFloat(Gt(AsInt(ax), AsInt(lim)));
+    beyond = Or(beyond, held);
+    __m128d a = IfThenElse(held, lim, ax);
+    small = Or(small, Lt(a, Set<double>(0.02734375)));
+    __m128d s = Add(a, Set<double>(kShifter128));
+    __m128d xj = Sub(s, Set<double>(kShifter128));
+    __m128d d = Sub(a, xj);
+    __m128d t = Mul(xj, d);
+    __m128d dz = IfThenZeroElse(Le(a, Set<double>(0x1p-256)), d);
+    __m128d u = Mul(dz, dz);
+    __m128d r = SeriesLessOne<kCutHA, 2.0, 1.0>(t, u);
+    I64x2 row = AsInt(s);
+    uint32_t j0 = uint32_t(LowWord<0>(row)), j1 = uint32_t(LowWord<1>(row));
+    __m128d v, deriv;
+    LoadTransposed(erfRows[j0], erfRows[j1], v, deriv);
+    __m128d vlo = LoadLanes(&erfRowsHA[j0][1], &erfRowsHA[j1][1]);
+    const __m128d high = AsFloat(Set<int64_t>(int64_t(0xFFFFFFFF00000000ull)));
+    __m128d dh = And(d, high), dl = Sub(d, dh);
+    __m128d derivH = And(deriv, high), derivL = Sub(deriv, derivH);
+    __m128d wh = Mul(dh, derivH);
+    __m128d wl = Add(Mul(dh, derivL), Mul(dl, deriv));
+    __m128d w = Mul(d, deriv);
+    // V + wh split exactly (V above erf(3.5/128) > |wh|), and V's remainder vlo (erf(xj) -
+    // V, from the wide rows) added with the small terms: V's own rounding, up to 0.4995 ulp
+    // of its binade, with D's and the final one took V + (wh + (wl + R*w)) to 1.0015 ulp
+    // (row 75, 1.003 without the exact split).
+    __m128d h, e;
+    FastTwoSum(v, wh, h, e);
+    return Or(Add(h, Add(e, Add(vlo, Add(wl, Mul(r, w))))), SignBit(x));
+}
+
+// HA below 0.02734375: erf(a) = a + (a*(c0 - 1) + a*(lo + u*P(u))), c0 - 1 in two parts
+// (lo the rest), u = a^2 (0 up to 2^-256), c0 = 2/sqrt(pi) and P the Taylor terms of
+// S(0, u) - 1 times c0 (all that stay above 2^-60 of the result); below 2^-256 ErfTiny. Taken only for rounds that hold such a lane.
+BRENN_VEC __m128d ErfSmall(__m128d x, __m128d y) {
+    constexpr double kC0 = 0x1.20dd750429b6dp+0;
+    constexpr double kC0Less1 = 0x1.06eba8214db69p-3, kC0Less1Lo = -0x1.ca38add6025p-57;
+    constexpr double kP1 = kErfSeries[1][0] * kC0, kP2 = kErfSeries[2][0] * kC0,
+                     kP3 = kErfSeries[3][0] * kC0, kP4 = kC0 / 216;
+    __m128d a = Abs(x);
+    __m128d tiny = Le(a, Set<double>(0x1p-256));
+    __m128d small = Lt(a, Set<double>(0.02734375));
+    __m128d az = And(AndNot(tiny, small), a); // the other lanes at 0: no flag of theirs
+    __m128d u = Mul(az, az);
+    __m128d p = MulAdd(u, Set<double>(kP4), Set<double>(kP3));
+    p = MulAdd(u, p, Set<double>(kP2));
+    p = MulAdd(u, p, Set<double>(kP1));
+    __m128d q = Add(Set<double>(kC0Less1Lo), Mul(u, p));
+    __m128d e = Add(az, Add(Mul(az, Set<double>(kC0Less1)), Mul(az, q)));
+    if (__builtin_expect(MaskBits(tiny) != 0, 0)) e = IfThenElse(tiny, ErfTiny(a), e);
+    return IfThenElse(small, Or(e, SignBit(x)), y);
+}
+
 // Double erf of N registers, the sign OR-ed on; NaN lanes run at the limit and are set
 // aside afterwards (x + 0, the NaN quieted), one test for the round: the held lanes
 // (beyond the grid, infinities and NaNs) are rare.
@@ -86,11 +148,17 @@ BRENN_VEC void ErfDouble(const __m128d* x, __m128d* y) {
 #pragma GCC unroll 8
         for (int k = 0; k < N; ++k)
             y[k] = ErfShort(x[k], beyond);
+    } else if constexpr (L == Level::HA) {
+        __m128d small = Zero<double>();
+#pragma GCC unroll 8
+        for (int k = 0; k < N; ++k)
+            y[k] = ErfLong(x[k], beyond, small);
+        if (__builtin_expect(MaskBits(small) != 0, 0)) {
+            for (int k = 0; k < N; ++k)
+                y[k] = ErfSmall(x[k], y[k]);
+        }
     } else {
-        if constexpr (L == Level::HA)
-            beyond = GridEvalRound<ErfGridHA, kCutHA, GridSum::TwoPart, N>(x, y);
-        else
-            beyond = GridEvalRound<ErfGridLA, kCutLA, GridSum::Plain, N>(x, y);
+        beyond = GridEvalRound<ErfGridLA, kCutLA, GridSum::Plain, N>(x, y);
 #pragma GCC unroll 8
         for (int k = 0; k < N; ++k)
             y[k] = Or(y[k], SignBit(x[k]));
