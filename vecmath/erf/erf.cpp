@@ -5,8 +5,10 @@
  * EP: the short expansion around the nearest grid point j/128 with the row (V, D) of
  * erfRows: t = xj*d, u = d^2 (0 below 2^-256), R = t*P + u*Q with P, Q the Taylor
  * terms of erf(xj + d) in t, slightly tuned; erf = V + (w + R*w), w = d*D, and x's sign
- * OR-ed on. LA and HA: grid_core.h's series of S(tau, u), LA adding up V + (w + w*S1),
- * HA on the row pairs of erfRowsHA with the exact product and sums (0.5x ulp). Single
+ * OR-ed on. LA: the same with grid_core.h's longer series of S(tau, u) - 1 (u^3 left
+ * out), V + (w + w*S1). HA: the same rows, a longer series still, w in two parts split at
+ * the high words, V + wh summed exactly and V's remainder added (ErfLong), and a path of
+ * its own below 0.02734375 (ErfSmall). Single
  * runs every level on single lanes (grid_single.h, the single rows; HA's last sum on
  * double lanes with erfRows), the grid held at 3.9296875, from where erf is 1 in single.
  * |x| is held at the grid's end by its bits, so that a NaN lane runs there and raises
@@ -39,10 +41,10 @@ struct ErfGridSingle : ErfGridLA {
     static constexpr double kLimitSingle = 3.9296875;
 };
 
-// The cuts of the series: terms left out stay below 2^-57 (HA), 2^-55 (LA) of the
-// result in double, 2^-30 and 2^-27 in single, at the worst grid point and offset
+// The cuts of the series: terms left out stay below 2^-57 (HA), 2^-50 (LA, the u^3 term
+// -u^3/42 at most 2^-53 of S) of the result in double, 2^-30 and 2^-27 in single, at the worst grid point and offset
 // (one cut serves both levels where the two bounds give the same).
-constexpr SeriesCut kCutHA{5, 4, 2, 1, true}, kCutLA{5, 4, 2, 1, true};
+constexpr SeriesCut kCutHA{5, 4, 2, 1, true}, kCutLA{5, 4, 2, 0, true};
 constexpr SeriesCut kCutSingleHA{2, 1, 0, 0}, kCutSingleLA{2, 1, 0, 0}, kCutSingleEP{0, 0, 0, 0};
 
 // The EP expansion around the nearest grid point xj = j/128 (|x| held at the limit by its
