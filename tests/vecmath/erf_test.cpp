@@ -113,9 +113,9 @@ void ExpectEdges(const std::vector<Edge<T>>& cases) {
 // Double Erf EP, step by step in scalar code: the nearest grid point by the shifter 2^45,
 // d, t = xj*d, u = d^2 (0 up to 2^-256), P, Q and R = t*P + u*Q with the tuned Taylor
 // terms, erf = V + (w + R*w) with w = d*D, x's sign on the sum.
-double ErfShortSteps(double x) {
+double ErfShortSteps(double x, double limit = 5.9921875) {
     const double ax = fabs(x);
-    const double a = ax > 5.9921875 ? 5.9921875 : ax;
+    const double a = ax > limit ? limit : ax;
     const double s = a + 0x1p45;
     const double xj = s - 0x1p45;
     const double d = a - xj;
@@ -297,6 +297,42 @@ TEST(ErfRows, DoubleLongExpansionAsStated) {
         }
         EXPECT_LE(worst, 0.6) << "row " << j;
     }
+}
+
+// Single Erf EP: the same steps in double with the grid held at 3.9296875, rounded to
+// single, on random arguments, the rows' offsets, the hold and denormals (no flag but
+// inexact where the result is normal); beyond the hold the result is 1.
+TEST(ErfRows, SingleShortExpansionInDouble) {
+    std::mt19937 gen(20261131);
+    std::uniform_real_distribution<float> wide(-4.5f, 4.5f), expo(-125, 0);
+    std::vector<float> x;
+    for (int i = 0; i < 300000; ++i)
+        x.push_back(wide(gen));
+    for (int i = 0; i < 20000; ++i)
+        x.push_back((i & 1 ? -1 : 1) * exp2f(expo(gen)));
+    for (int j = 0; j < 504; ++j)
+        for (float off : {-0.5f, -0x1p-10f, 0.0f, 0x1p-12f, 0.49f})
+            if (j + off >= 0) x.push_back((j + off) / 128);
+    for (float e : {3.9296875f, 3.9296877f, 6.0f, 1e30f, float(INFINITY), 0.0f})
+        for (float v : {e, -e})
+            x.push_back(v);
+    std::vector<float> y(x.size());
+    std::feclearexcept(FE_ALL_EXCEPT);
+    As<Unary<float>>(Slot("sErf", kSlotEP))(int(x.size()), x.data(), y.data());
+    EXPECT_FALSE(std::fetestexcept(FE_UNDERFLOW | FE_INVALID | FE_OVERFLOW | FE_DIVBYZERO));
+    for (float e : {0x1p-149f, 0x1.8p-140f, 0x1p-126f}) // results denormal or near
+        for (float v : {e, -e}) {
+            x.push_back(v);
+            y.push_back(Call(Fn::Erf, kSlotEP, v));
+        }
+    int wrong = 0;
+    for (size_t i = 0; i < x.size(); ++i) {
+        if (SameValue(y[i], float(ErfShortSteps(x[i], 3.9296875)))) continue;
+        if (++wrong <= 10) ADD_FAILURE() << "x " << x[i] << " got " << y[i];
+    }
+    EXPECT_EQ(wrong, 0);
+    EXPECT_EQ(Call(Fn::Erf, kSlotEP, 3.9296877f), 1.0f);
+    EXPECT_EQ(Call(Fn::Erf, kSlotEP, -6.0f), -1.0f);
 }
 
 TEST(ErfRows, EdgeValuesAndStatuses) {

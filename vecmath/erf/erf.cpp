@@ -8,9 +8,10 @@
  * OR-ed on. LA: the same with grid_core.h's longer series of S(tau, u) - 1 (u^3 left
  * out), V + (w + w*S1). HA: the same rows, a longer series still, w in two parts split at
  * the high words, V + wh summed exactly and V's remainder added (ErfLong), and a path of
- * its own below 0.02734375 (ErfSmall). Single
- * runs every level on single lanes (grid_single.h, the single rows; HA's last sum on
- * double lanes with erfRows), the grid held at 3.9296875, from where erf is 1 in single.
+ * its own below 0.02734375 (ErfSmall). Single EP is the double EP on the widened lanes,
+ * the grid held at 3.9296875, from where erf is 1 in single. Single LA and HA run on single
+ * lanes (grid_single.h, the single rows; HA's last sum on double lanes with erfRows),
+ * the grid held at the same point.
  * |x| is held at the grid's end by its bits, so that a NaN lane runs there and raises
  * nothing; NaN lanes are set aside after the body, one test a register or round. HA and
  * double LA run rounds of sixteen, each step over the round's registers
@@ -52,8 +53,8 @@ constexpr SeriesCut kCutSingleHA{2, 1, 0, 0}, kCutSingleLA{2, 1, 0, 0}, kCutSing
 // so that tiny arguments do not underflow), R = t*P + u*Q with P, Q the Taylor terms of
 // erf(xj + d) in t (-1, 2/3; -1/3, 1/2), slightly tuned; erf = V + (w + R*w), w = d*D,
 // and x's sign OR-ed on.
+template <double kLimit = 5.9921875>
 BRENN_VEC __m128d ErfShort(__m128d x, __m128d& beyond) {
-    constexpr double kLimit = 5.9921875;
     constexpr double kP1 = 0.6666678110767819, kP0 = -1.0000014305126206;
     constexpr double kQ1 = 0.5000019073510884, kQ0 = -0.33333504994947405;
     __m128d ax = Abs(x);
@@ -176,6 +177,18 @@ BRENN_VEC void ErfDouble(const __m128d* x, __m128d* y) {
 // one test a round) taken aside afterwards: x + 0, the NaN quieted.
 template <Level L, int N>
 BRENN_VEC void ErfSingle(const __m128* x, __m128* y) {
+    if constexpr (L == Level::EP) { // in double, the grid held at 3.9296875
+        __m128d beyond = Zero<double>();
+#pragma GCC unroll 4
+        for (int k = 0; k < N; ++k)
+            y[k] = Narrow(ErfShort<3.9296875>(WidenLower(x[k]), beyond),
+                          ErfShort<3.9296875>(WidenUpper(x[k]), beyond));
+        if (__builtin_expect(MaskBits(beyond) != 0, 0)) {
+            for (int k = 0; k < N; ++k)
+                y[k] = IfThenElse(Unordered(x[k], x[k]), Add(x[k], Zero<float>()), y[k]);
+        }
+        return;
+    }
     constexpr SeriesCut cut = L == Level::EP   ? kCutSingleEP
                               : L == Level::LA ? kCutSingleLA
                                                : kCutSingleHA;
