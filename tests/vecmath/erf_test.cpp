@@ -299,8 +299,8 @@ TEST(ErfRows, DoubleLongExpansionAsStated) {
     }
 }
 
-// Single Erf EP: the same steps in double with the grid held at 3.9296875, rounded to
-// single, on random arguments, the rows' offsets, the hold and denormals (no flag but
+// Single Erf EP and LA: the double steps (EP's with the grid held at 3.9296875), rounded
+// to single, on random arguments, the rows' offsets, the hold and denormals (no flag but
 // inexact where the result is normal); beyond the hold the result is 1.
 TEST(ErfRows, SingleShortExpansionInDouble) {
     std::mt19937 gen(20261131);
@@ -329,6 +329,13 @@ TEST(ErfRows, SingleShortExpansionInDouble) {
     for (size_t i = 0; i < x.size(); ++i) {
         if (SameValue(y[i], float(ErfShortSteps(x[i], 3.9296875)))) continue;
         if (++wrong <= 10) ADD_FAILURE() << "x " << x[i] << " got " << y[i];
+    }
+    EXPECT_EQ(wrong, 0);
+    As<Unary<float>>(Slot("sErf", kSlotLA))(int(x.size()), x.data(), y.data());
+    wrong = 0;
+    for (size_t i = 0; i < x.size(); ++i) {
+        if (SameValue(y[i], float(ErfLASteps(x[i])))) continue;
+        if (++wrong <= 10) ADD_FAILURE() << "LA x " << x[i] << " got " << y[i];
     }
     EXPECT_EQ(wrong, 0);
     EXPECT_EQ(Call(Fn::Erf, kSlotEP, 3.9296877f), 1.0f);

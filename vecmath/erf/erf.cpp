@@ -8,10 +8,10 @@
  * OR-ed on. LA: the same with grid_core.h's longer series of S(tau, u) - 1 (u^3 left
  * out), V + (w + w*S1). HA: the same rows, a longer series still, w in two parts split at
  * the high words, V + wh summed exactly and V's remainder added (ErfLong), and a path of
- * its own below 0.02734375 (ErfSmall). Single EP is the double EP on the widened lanes,
- * the grid held at 3.9296875, from where erf is 1 in single. Single LA and HA run on single
- * lanes (grid_single.h, the single rows; HA's last sum on double lanes with erfRows),
- * the grid held at the same point.
+ * its own below 0.02734375 (ErfSmall). Single EP and LA are the double EP (the grid held
+ * at 3.9296875, from where erf is 1 in single) and LA bodies on the widened lanes. Single
+ * HA runs on single lanes (grid_single.h, the single rows; its last sum on double lanes
+ * with erfRows), the grid held at 3.9296875.
  * |x| is held at the grid's end by its bits, so that a NaN lane runs there and raises
  * nothing; NaN lanes are set aside after the body, one test a register or round. HA and
  * double LA run rounds of sixteen, each step over the round's registers
@@ -187,6 +187,18 @@ BRENN_VEC void ErfSingle(const __m128* x, __m128* y) {
             for (int k = 0; k < N; ++k)
                 y[k] = IfThenElse(Unordered(x[k], x[k]), Add(x[k], Zero<float>()), y[k]);
         }
+        return;
+    } else if constexpr (L == Level::LA) { // the double LA body on the widened lanes
+        __m128d xd[2 * N], yd[2 * N];
+#pragma GCC unroll 4
+        for (int k = 0; k < N; ++k) {
+            xd[2 * k] = WidenLower(x[k]);
+            xd[2 * k + 1] = WidenUpper(x[k]);
+        }
+        ErfDouble<L, 2 * N>(xd, yd);
+#pragma GCC unroll 4
+        for (int k = 0; k < N; ++k)
+            y[k] = Narrow(yd[2 * k], yd[2 * k + 1]);
         return;
     }
     constexpr SeriesCut cut = L == Level::EP   ? kCutSingleEP
