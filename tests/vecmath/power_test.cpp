@@ -11,7 +11,6 @@
 #include <random>
 #include <string>
 #include <vector>
-#include <emmintrin.h>
 #include <xmmintrin.h>
 
 #include "frame/dispatch.h"
@@ -639,110 +638,6 @@ uint64_t DoubleBits(double x) {
     uint64_t b;
     std::memcpy(&b, &x, 8);
     return b;
-}
-
-// Single LA: EP's steps in double lanes with LA's Q and E (pow_body.h), written out one
-// element at a time; |w| above 87.3007812 leaves the body. Pow, Powx's general body and
-// Powr run the same body.
-double SinglePowLAW(float x, float y) {
-    const uint32_t d = FloatBits(x) - 0x3F2AAAABu;
-    const double k = double(int32_t(d) >> 23);
-    const double r = double(FloatOf((d & 0x7FFFFFu) + 0x3F2AAAABu) - 1.0f);
-    double h = vm::kPowLnQLA[10];
-    for (int i = 9; i >= 0; --i)
-        h = h * r + vm::kPowLnQLA[i];
-    const double p = r + (r * r) * h;
-    const double ln = (k * double(FloatOf(0x35BFBE8Eu)) + p) + k * double(FloatOf(0x3F317200u));
-    return double(y) * ln;
-}
-double SinglePowLAValue(double w) {
-    const double shifter = 0x1.8p52;
-    const double t = w * 0x1.71547652b82fep0 + shifter;
-    const double n = t - shifter;
-    const double r = w - n * 0x1.62e42fefa39efp-1;
-    double e = vm::kPowExpLA[6];
-    for (int i = 5; i >= 0; --i)
-        e = e * r + vm::kPowExpLA[i];
-    uint64_t tb, eb;
-    std::memcpy(&tb, &t, 8);
-    std::memcpy(&eb, &e, 8);
-    const uint64_t vb = (tb << 52) + eb;
-    double v;
-    std::memcpy(&v, &vb, 8);
-    return v;
-}
-float SinglePowLASteps(double w) {
-    return float(SinglePowLAValue(w));
-}
-
-TEST(Power, SinglePowLAIsItsStatedSteps) {
-    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
-    std::mt19937 gen(78);
-    std::uniform_real_distribution<float> ey(-100.0f, 100.0f);
-    std::vector<float> a, b;
-    for (int i = 0; i < 300000; ++i) {
-        a.push_back(FloatOf((gen() & 0x7FFFFFu) | ((1 + gen() % 254) << 23)));
-        b.push_back(i % 4 == 0 ? ey(gen) : ey(gen) / std::max(1.0f, std::fabs(std::log(a.back()))));
-    }
-    // Near 1, at the split's ends (2/3 and 4/3), binade edges, and w at the window's limit
-    // (2^126 = e^87.34, 2^-125.9 beyond it; 2^125.9 inside).
-    for (float x : {1.0f, 0x1.fffffep-1f, 0x1.000002p0f, 0x1.555554p-1f, 0x1.555556p-1f,
-                    0x1.555554p0f, 0x1.555556p0f, 2.0f, 0.5f, FLT_MIN, FLT_MAX})
-        for (float y : {1.0f, -1.0f, 3.5f, 0x1p-20f, 0.0f, 125.9f, -125.9f, 126.0f}) {
-            a.push_back(x);
-            b.push_back(y);
-        }
-    int kept = 0, out = 0;
-    for (RowIndex row : {frame::Row_sPow, frame::Row_sPowr}) {
-        std::vector<float> y(a.size());
-        As<Binary<float>>(Raw(row, frame::SlotLA))(int(a.size()), a.data(), b.data(), y.data());
-        for (size_t i = 0; i < a.size(); ++i) {
-            const double w = SinglePowLAW(a[i], b[i]);
-            if (std::fabs(w) > 87.30078125) {
-                // The scalar routine's: within half an ulp and a hair, or infinity.
-                ++out;
-                const long double ref = powl((long double)a[i], (long double)b[i]);
-                if (fabsl(ref) < (long double)0x1.ffffffp127)
-                    ASSERT_LE(UlpError(y[i], ref), 0.501) << a[i] << "^" << b[i];
-                continue;
-            }
-            ++kept;
-            ASSERT_EQ(FloatBits(y[i]), FloatBits(SinglePowLASteps(w)))
-                << "x=" << a[i] << " y=" << b[i];
-        }
-    }
-    EXPECT_GT(kept, 400000);
-    EXPECT_GT(out, 10000);
-    // The double lanes before the narrowing, two elements a call: bit for bit too.
-    for (size_t i = 0; i + 1 < a.size(); i += 2) {
-        double r[2], k[2], w[2];
-        for (int j = 0; j < 2; ++j) {
-            const uint32_t d = FloatBits(a[i + j]) - 0x3F2AAAABu;
-            k[j] = double(int32_t(d) >> 23);
-            r[j] = double(FloatOf((d & 0x7FFFFFu) + 0x3F2AAAABu) - 1.0f);
-            w[j] = SinglePowLAW(a[i + j], b[i + j]);
-        }
-        if (std::fabs(w[0]) > 87.30078125 || std::fabs(w[1]) > 87.30078125) continue;
-        __m128d sw;
-        const __m128d v = vm::PowSingleLAHalf(_mm_set_pd(r[1], r[0]), _mm_set_pd(k[1], k[0]),
-                                              _mm_set_pd(double(b[i + 1]), double(b[i])), sw);
-        double got[2];
-        _mm_storeu_pd(got, v);
-        for (int j = 0; j < 2; ++j)
-            ASSERT_EQ(Bits(got[j]), Bits(SinglePowLAValue(w[j])))
-                << "x=" << a[i + j] << " y=" << b[i + j];
-    }
-    // Powx's general body: one b a call.
-    for (float bx : {0.37f, -2.25f, 7.1f, -0.001f, 19.5f}) {
-        std::vector<float> yx(a.size());
-        Powx<float>(frame::SlotLA)(int(a.size()), a.data(), bx, yx.data());
-        for (size_t i = 0; i < a.size(); ++i) {
-            const double w = SinglePowLAW(a[i], bx);
-            if (std::fabs(w) > 87.30078125) continue;
-            ASSERT_EQ(FloatBits(yx[i]), FloatBits(SinglePowLASteps(w)))
-                << "x=" << a[i] << " b=" << bx;
-        }
-    }
 }
 
 TEST(Power, SinglePowAndPowxHAAreTheirStatedSteps) {

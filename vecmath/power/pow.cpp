@@ -7,15 +7,15 @@
  * ln x times y in two parts and the rest, r rounded once with its Taylor quartic, in the
  * tail, e^w by the table of 64 and the Taylor cubic, the tail added to the reduced
  * argument (pow_core.h PowWEP, PowExpEP). Single
- * HA takes m and k from the single bits and runs in double lanes: its row is picked by
- * the single estimate of 1/m rounded to a multiple of 2^-10 in double (powRcpLn, 513
- * rows), with a quadratic Q; w in one double, e^w by the table of 1024 with
- * 1 + u + u^2/2. Single EP runs the body's steps in single; single LA the same steps in
- * double lanes with a longer Q and E fitted to LA (pow_body.h).
+ * HA and LA take m and k from the single bits and run in double lanes. HA's row is
+ * picked by the single estimate of 1/m rounded to a multiple of 2^-10 in double
+ * (powRcpLn, 513 rows), with a quadratic Q; LA's by m rounded to 9 fraction bits
+ * (powLnRows) with the cubic logarithm. w in one double, e^w by the table of 1024
+ * with 1 + u + u^2/2 (HA) or 1 + u (LA); single EP stays in single (pow_body.h).
  * The double kernels are flattened: out of line the body was one call a register. Powx's
  * double rounds of sixteen take each step over their eight registers (PowRound);
  * Pow's frame takes two inputs a register and has no such round.
- * Measured (brenn_accuracy, full run): sPow HA 0.500 ulp, LA 0.553 ulp, EP 12.7 bits;
+ * Measured (brenn_accuracy, full run): sPow HA 0.500 ulp, LA 1.41 ulp, EP 12.7 bits;
  * dPow HA and LA 0.55 ulp (a denormal result), EP 34.7 bits. */
 #include "frame/kernels.h"
 #include "vecmath/explog/flat.h"

@@ -82,9 +82,10 @@ inline __m128 PowSingleEP(__m128 x, __m128 y, __m128& special) {
     return AsFloat(Add(ShiftLeft<Format<float>::kMantBits>(AsInt(t)), AsInt(e)));
 }
 
-// Single HA in double lanes, narrowed once at the end. e^w from w: n = w*1024/ln2
-// rounded, u = w - n*ln2/1024 (|u| <= 2^-11.47), 2^(n/1024) * (1 + u + u^2/2) (2^-37),
-// the power of two added to the row's exponent field.
+// Single LA and HA in double lanes, narrowed once at the end. e^w as both levels take it
+// from w: n = w*1024/ln2 rounded, u = w - n*ln2/1024 (|u| <= 2^-11.47), 2^(n/1024) *
+// (1 + u + u^2/2) at HA (2^-37), (1 + u) at LA (2^-24), the power of two added to the
+// row's exponent field.
 // w is held to [-200, 200] first: beyond about 104 the single result is infinity or zero
 // either way, and the narrowing of e^(+-200) gives it with the flags the scalar routine
 // would raise (overflow or underflow, and inexact), so no lane leaves for w.
@@ -107,64 +108,33 @@ BRENN_VEC __m128d PowSingleExp(__m128d w) {
     return ScaleByLowWord<10>(Add(row, Mul(row, u)), n);
 }
 
-// Single LA: EP's steps in double lanes. The split around 2/3 in single (r = m - 1 and
-// k exact), widened; ln x = (k*ln2lo + (r + r^2*Q(r))) + k*ln2hi with the two parts of
-// ln 2 (0x3F317200, 0x35BFBE8E); w = y*ln x; t = w*log2(e) + 1.5*2^52, n = t - 1.5*2^52,
-// r' = w - n*ln2 and P(r') = 1 + r'*E(r'); the result's bits are bits(t) shifted up 52
-// plus bits(P), narrowed once. |w| above 87.3007812 goes to the scalar routine, as in EP.
-// What differs from EP: the precision (double) and Q and E, fitted to LA by
-// tools/power/pow_single_la.sollya (Q of degree 10, 2^-32.2 relative; E of degree 5,
-// 2^-28.9). In single with sLn LA's seven-term Q the body measures 1822 ulp (12.7 bits);
-// with that single logarithm and w, e^w in double 198 ulp; with the seven-term Q in
-// double 193 ulp: the logarithm's error is multiplied by |w|, so LA's 4 ulp needs ln x to
-// about 2^-29, which seven terms on [-1/3, 1/3] do not give.
-constexpr double kPowLnQLA[] = {
-    -0x1.ffffffff1cf82p-2, 0x1.5555569761a1p-2,  -0x1.000002bb881e3p-2, 0x1.9997d94ccc52ep-3,
-    -0x1.5552d2e84b603p-3, 0x1.24e91d3ef0ee3p-3, -0x1.0066ffad02a23p-3, 0x1.b98af229f8762p-4,
-    -0x1.8b308d12594e9p-4, 0x1.e7b340fa9114ep-4, -0x1.c70a559f1a2a8p-4};
-constexpr double kPowExpLA[] = {0x1p0,
-                                0x1.0000008a70d6ep0,
-                                0x1.fffffc1af2433p-2,
-                                0x1.555418ed518a5p-3,
-                                0x1.5558234dc7eap-5,
-                                0x1.1267c0b87f762p-7,
-                                0x1.6ae6f5a624c8fp-10};
-// |w| above 87.3007812 (0x42AE9A00 in single).
-constexpr Range64 kPowWSingleLA{0x7FFFFFFFFFFFFFFFull, 0ull, 0x4055D34000000000ull};
-struct PowSingleLAConst {
-    static constexpr double kLog2e = 0x1.71547652b82fep0;
-    static constexpr double kLn2 = 0x1.62e42fefa39efp-1;
-};
-
-// Two lanes of single LA: r and k from the split, and y, all widened; sw marks |w| beyond.
-BRENN_VEC __m128d PowSingleLAHalf(__m128d r, __m128d k, __m128d y, __m128d& sw) {
-    using K = PowSingleConst;
-    using C = PowSingleLAConst;
-    __m128d p = Add(r, Mul(Mul(r, r), Horner(r, kPowLnQLA)));
-    __m128d ln = Add(Add(Mul(k, Set<double>(K::kLn2Lo)), p), Mul(k, Set<double>(K::kLn2Hi)));
-    __m128d w = Mul(y, ln);
-    sw = RangeTest(w, kPowWSingleLA);
-    w = IfThenZeroElse(sw, w);
-    const __m128d shifter = Set<double>(Format<double>::kShifter);
-    __m128d t = Add(Mul(w, Set<double>(C::kLog2e)), shifter);
-    __m128d n = Sub(t, shifter);
-    __m128d e = Horner(Sub(w, Mul(n, Set<double>(C::kLn2))), kPowExpLA);
-    return AsFloat(Add(ShiftLeft<Format<double>::kMantBits>(AsInt(t)), AsInt(e)));
-}
-
-template <bool FiniteY>
-BRENN_VEC __m128 PowSingleLA(__m128 x, __m128 y, __m128& special) {
-    __m128 sxy = LogSpecial(x);
-    if constexpr (!FiniteY) sxy = Or(sxy, RangeTest(y, PowRanges<float>::kY));
-    x = IfThenElse(sxy, Set<float>(1.0f), x);
-    if constexpr (!FiniteY) y = IfThenZeroElse(sxy, y);
-    __m128 r, k;
-    LogSplit(x, r, k);
-    __m128d swl, swh;
-    __m128d lo = PowSingleLAHalf(WidenLower(r), WidenLower(k), WidenLower(y), swl);
-    __m128d hi = PowSingleLAHalf(WidenUpper(r), WidenUpper(k), WidenUpper(y), swh);
-    special = Or(sxy, NarrowMask(swl, swh));
-    return Narrow(lo, hi);
+// Single LA does not run EP's body with sLn LA's seven-term Q: measured with the
+// accuracy tool (250000 random pairs and the special pairs), that body gives 1822 ulp
+// (12.7 bits); with its single logarithm kept and w and e^w taken in double, 198 ulp;
+// with the split and the seven-term Q evaluated in double, 193 ulp. The error of ln x is
+// multiplied by |w| (up to 104), so LA's 4 ulp needs ln x to about 2^-30 relative, which
+// no polynomial on the split's [-1/3, 1/3] of that degree gives. LA therefore keeps the
+// form below, a table of rows and a short polynomial in double lanes (1.41 ulp).
+// Single LA's logarithm: x = 2^k * m is split on the single bits, four lanes at once,
+// m in [1, 2) and its row j of powLnRows (m rounded to 9 fraction bits: lnRows'
+// reciprocal and -ln of it in one double T); then, two lanes a half, r = m*rcp - 1 (m
+// has 24 bits: rounded below 2^-53, exact at rows 0 and 512, where x is near 1) and
+// ln x = (k*ln2 + T) + (r + r^2*Q(r)) with the cubic of the EP core (about 2^-35 of
+// ln x). k*ln2 + T is within 2^-53 of its size plus 2^-53 (the two roundings of ln 2 and
+// T), and exactly 0 at row 512 for k = -1 (T is ln 2 rounded): within 2^-43 of ln x
+// wherever it does not vanish. w = y*ln x in one double.
+// x must be a positive normal here: denormal x goes to the scalar routine.
+template <Level L>
+BRENN_VEC __m128d PowSingleHalf(__m128d m, __m128d k, __m128d y, const double* ra,
+                                const double* rb) {
+    using K = LogConst<double>;
+    using S = PowSingleStep;
+    __m128d rcp, tv;
+    LoadTransposed(ra, rb, rcp, tv);
+    __m128d r = Sub(Mul(m, rcp), Set<double>(1.0));
+    __m128d h = Add(Mul(k, Set<double>(S::kLn2)), tv);
+    __m128d t = Mul(Mul(r, r), Horner(r, K::kCoreEP));
+    return PowSingleExp<L>(Mul(y, Add(h, Add(r, t))));
 }
 
 // Single HA's logarithm in double: x = 2^k * m, m in [1, 2) from the single bits; the
@@ -212,8 +182,6 @@ template <Level L, bool FiniteY = false, bool Powx = false>
 BRENN_VEC __m128 PowOf(__m128 x, __m128 y, __m128& special) {
     if constexpr (L == Level::EP) {
         return PowSingleEP<Powx>(x, y, special);
-    } else if constexpr (L == Level::LA) {
-        return PowSingleLA<FiniteY>(x, y, special);
     } else {
         using F = Format<float>;
         __m128 sxy = LogSpecial(x);
@@ -224,8 +192,23 @@ BRENN_VEC __m128 PowOf(__m128 x, __m128 y, __m128& special) {
         I32x4 mant = And(b, Set<uint32_t>(F::kMant));
         __m128 m = AsFloat(Or(mant, Set<uint32_t>(F::kOne)));
         I32x4 k = Sub(ShiftRight<F::kMantBits>(b), Set<int32_t>(F::kBias));
-        __m128d lo, hi;
-        PowSingleHAWide(m, k, y, lo, hi);
+        if constexpr (L == Level::HA) {
+            __m128d lo, hi;
+            PowSingleHAWide(m, k, y, lo, hi);
+            special = sxy;
+            return Narrow(lo, hi);
+        }
+        // The row's offset in doubles, 2j: the index shifted one place less, its low bit
+        // cleared.
+        I32x4 j2 =
+            And(ShiftRight<F::kMantBits - 10>(Add(mant, Set<int32_t>(1 << (F::kMantBits - 10)))),
+                Set<int32_t>(~1));
+        Indices at = IndicesOf(j2);
+        const double* rows = powLnRows[0];
+        __m128d lo = PowSingleHalf<L>(WidenLower(m), ToDoubleLower(k), WidenLower(y),
+                                      rows + uint32_t(at.at[0]), rows + uint32_t(at.at[1]));
+        __m128d hi = PowSingleHalf<L>(WidenUpper(m), ToDoubleUpper(k), WidenUpper(y),
+                                      rows + uint32_t(at.at[2]), rows + uint32_t(at.at[3]));
         special = sxy;
         return Narrow(lo, hi);
     }
