@@ -34,17 +34,14 @@ struct ErfGridLA {
     static constexpr bool kMirrorPositive = false;
     static constexpr double kScaleFrom = 0;
 };
-struct ErfGridHA : ErfGridLA {
-    static constexpr const double (*kRows)[4] = erfRowsHA;
-};
 struct ErfGridSingle : ErfGridLA {
     static constexpr const float (*kRowsSingle)[4] = erfRowsSingle;
     static constexpr double kLimitSingle = 3.9296875;
 };
 
-// The cuts of the series: terms left out stay below 2^-57 (HA), 2^-50 (LA, the u^3 term
-// -u^3/42 at most 2^-53 of S) of the result in double, 2^-30 and 2^-27 in single, at the worst grid point and offset
-// (one cut serves both levels where the two bounds give the same).
+// The cuts of the series: terms left out stay below 2^-57 (HA), 2^-50 (LA, the u^3 term -u^3/42 at
+// most 2^-53 of S) of the result in double, 2^-30 and 2^-27 in single, at the worst grid point and
+// offset (one cut serves both levels where the two bounds give the same).
 constexpr SeriesCut kCutHA{5, 4, 2, 1, true}, kCutLA{5, 4, 2, 0, true};
 constexpr SeriesCut kCutSingleHA{2, 1, 0, 0}, kCutSingleLA{2, 1, 0, 0}, kCutSingleEP{0, 0, 0, 0};
 
@@ -79,11 +76,10 @@ BRENN_VEC __m128d ErfShort(__m128d x, __m128d& beyond) {
     return Or(Add(v, Add(w, Mul(r, w))), SignBit(x));
 }
 
-// HA: the scheme of ErfShort with the longer series R = S(2t, u) - 1 of grid_core.h (cut
-// kCutHA, the exact Taylor terms, rows by Horner) and w = d*D kept in two parts, d and D
-// split at their high words (dh*Dh exact), wl = dh*Dl + dl*D:
-// erf = h + (e + (vlo + (wl + R*w))) with h + e = V + wh exactly and vlo = erf(xj) - V. Lanes below 0.02734375 are
-// flagged in `small` for ErfSmall.
+// HA: the scheme of ErfShort with the longer series R = S(2t, u) - 1 of grid_core.h (cut kCutHA,
+// the exact Taylor terms, rows by Horner) and w = d*D kept in two parts, d and D split at their
+// high words (dh*Dh exact), wl = dh*Dl + dl*D: erf = h + (e + (vlo + (wl + R*w))) with h + e = V +
+// wh exactly and vlo = erf(xj) - V. Lanes below 0.02734375 are flagged in `small` for ErfSmall.
 BRENN_VEC __m128d ErfLong(__m128d x, __m128d& beyond, __m128d& small) {
     constexpr double kLimit = 5.9921875;
     __m128d ax = Abs(x);
@@ -119,9 +115,10 @@ BRENN_VEC __m128d ErfLong(__m128d x, __m128d& beyond, __m128d& small) {
     return Or(Add(h, Add(e, Add(vlo, Add(wl, Mul(r, w))))), SignBit(x));
 }
 
-// HA below 0.02734375: erf(a) = a + (a*(c0 - 1) + a*(lo + u*P(u))), c0 - 1 in two parts
-// (lo the rest), u = a^2 (0 up to 2^-256), c0 = 2/sqrt(pi) and P the Taylor terms of
-// S(0, u) - 1 times c0 (all that stay above 2^-60 of the result); below 2^-256 ErfTiny. Taken only for rounds that hold such a lane.
+// HA below 0.02734375: erf(a) = a + (a*(c0 - 1) + a*(lo + u*P(u))), c0 - 1 in two parts (lo the
+// rest), u = a^2 (0 up to 2^-256), c0 = 2/sqrt(pi) and P the Taylor terms of S(0, u) - 1 times c0
+// (all that stay above 2^-60 of the result); below 2^-256 ErfTiny. Taken only for rounds that hold
+// such a lane.
 BRENN_VEC __m128d ErfSmall(__m128d x, __m128d y) {
     constexpr double kC0 = 0x1.20dd750429b6dp+0;
     constexpr double kC0Less1 = 0x1.06eba8214db69p-3, kC0Less1Lo = -0x1.ca38add6025p-57;

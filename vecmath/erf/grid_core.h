@@ -12,10 +12,8 @@
  * taken in t = xj*d and v = d^2 with tau's and u's scales in the coefficients (SeriesPart).
  *
  * The other side of Erfc and CdfNorm is 2 - erfc(|x|) and 1 - Q(x): their lanes take
- * K - F with K - V split exactly (FastTwoSum, V being at most 1). Two ways to add up:
- *   TwoPart (HA, erf only): V + d + d*g, g = D (1 + S1) - 1, with V + d split
- *            exactly and the rest (Vlo, d*g) added last; below 2^-256 ErfTiny;
- *   Plain   (LA, EP): V + w*(1 + S1), w = D*d.
+ * K - F with K - V split exactly (FastTwoSum, V being at most 1). The sum is
+ * V + w*(1 + S1), w = D*d (D = dh + dl on four-double rows).
  * (Double Erfc and CdfNorm at LA and HA have a body of their own, tail_double.h.)
  * Rows from kScaleFrom on are times 2^128; the sum is multiplied by 2^-128 there, exactly
  * while the result is normal; lanes whose result would not be are the kernels' special
@@ -31,7 +29,7 @@
 
 namespace brenn::vm {
 
-enum class GridSum { TwoPart, Plain };
+enum class GridSum { Plain };
 
 // Numbers of coefficients kept of P0 .. P3 (P0 from tau^1 on), and whether the rows go
 // by Horner's rule (double LA, whose sixteen-element rounds hide the longer chain) or
@@ -146,7 +144,7 @@ BRENN_VEC __m128d GridEvalRound(const __m128d* x, __m128d* y) {
         beyond = AsFloat(Gt(AsInt(ax), AsInt(lim)));
         return IfThenElse(beyond, lim, ax);
     };
-    __m128d anyBeyond = Zero<double>(), anyTiny = Zero<double>();
+    __m128d anyBeyond = Zero<double>();
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k) {
         __m128d mirror, beyond;
@@ -159,7 +157,6 @@ BRENN_VEC __m128d GridEvalRound(const __m128d* x, __m128d* y) {
         // d^2, u / kUScale; below 2^-256 0, so that tiny arguments raise no underflow
         // of their own.
         __m128d tiny = Lt(a, Set<double>(0x1p-256));
-        if constexpr (Sum == GridSum::TwoPart) anyTiny = Or(anyTiny, tiny);
         u[k] = IfThenZeroElse(tiny, Mul(d[k], d[k]));
     }
 #pragma GCC unroll 8
@@ -186,35 +183,14 @@ BRENN_VEC __m128d GridEvalRound(const __m128d* x, __m128d* y) {
             kk = IfThenElse(mirror, Set<double>(G::kMirror), kk);
         }
         __m128d vs = Xor(v, flip);
-        if constexpr (Sum == GridSum::TwoPart) {
-            static_assert(W == 4 && G::kMirror == 0, "two parts: erf's wide rows");
-            // erf = v + d + d*g, g = D (1 + S1) - 1 with D = dh + dl (dh - 1 exact): v + d
-            // is kept in two parts, so that D's rounding and the product's weigh only g's
-            // share of the result, about a ninth near 0.
-            __m128d g = Add(Sub(deriv, Set<double>(1.0)), Add(dl, Mul(Add(deriv, dl), s1[k])));
-            __m128d h, e;
-            FastTwoSum(v, d[k], h, e); // v = 0 or v >= erf(1/128) > |d|
-            y[k] = Add(h, Add(e, Add(vlo, Mul(d[k], g))));
-        } else {
-            if constexpr (W == 4) deriv = Add(deriv, dl);
-            __m128d w = Mul(deriv, d[k]);
-            __m128d c = Add(w, Mul(w, s1[k]));
-            y[k] = Add(Add(kk, vs), Xor(c, flip));
-        }
+        if constexpr (W == 4) deriv = Add(deriv, dl);
+        __m128d w = Mul(deriv, d[k]);
+        __m128d c = Add(w, Mul(w, s1[k]));
+        y[k] = Add(Add(kk, vs), Xor(c, flip));
         if constexpr (G::kScaleFrom != 0) {
             __m128d xj = Sub(sh[k], Set<double>(G::kShifter));
             y[k] = Mul(y[k], IfThenElse(Lt(xj, Set<double>(G::kScaleFrom)), Set<double>(1.0),
                                         Set<double>(0x1p-128)));
-        }
-    }
-    if constexpr (Sum == GridSum::TwoPart) {
-        if (__builtin_expect(MaskBits(anyTiny) != 0, 0)) {
-#pragma GCC unroll 8
-            for (int k = 0; k < N; ++k) {
-                __m128d mirror, beyond;
-                __m128d a = held(x[k], mirror, beyond);
-                y[k] = IfThenElse(Lt(a, Set<double>(0x1p-256)), ErfTiny(a), y[k]);
-            }
         }
     }
     return anyBeyond;
