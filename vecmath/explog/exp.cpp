@@ -48,17 +48,14 @@ struct ExpWindow<double, L> {
 
 // The double scalar routine: the special values, 1 + x for |x| below 2^-52 (a biased
 // exponent below 971), the limits, then the table of 64 with ln2/64 in two parts and
-// degree 6. A denormal result: the two parts scaled by 2^(m + 60) (exact), the head
+// degree 6 (ExpRoutineParts, exp_scalar.h). A denormal result: the two parts scaled by 2^(m + 60) (exact), the head
 // rounded to the denormal grid by a split (C = 1.5*2^-962 added and subtracted: its last
 // place is the grid's, 2^-1014 before the final 2^-60), and the head and the rest scaled
 // by 2^-60 apart: the head exactly, the rest (below a grid step and a half) rounded to
 // the grid, so that the result rounds once.
-constexpr double kExpScalarC[] = {0.5, 0.1666666666665788, 0.04166666666677052,
-                                  0.008333341995140497, 0.0013888870459233254};
 template <Level L>
 int ExpScalar(const double* a, double* y) {
     using K = ExpLimits<double>;
-    using S = ExpStep64;
     const double x = *a;
     const uint64_t b = BitsOf(x);
     const unsigned e = unsigned(b >> 52) & 0x7FF;
@@ -80,16 +77,7 @@ int ExpScalar(const double* a, double* y) {
         *y = tiny * tiny;
         return status::kUnderflow;
     }
-    constexpr double kShifter = Format<double>::kShifter;
-    const double t = x * S::kInvStep + kShifter;
-    const double n = t - kShifter;
-    const double r = x - n * S::kStepHi - n * S::kStepLo;
-    double h = kExpScalarC[4];
-    for (int i = 3; i >= 0; --i)
-        h = h * r + kExpScalarC[i];
-    const double p = r + r * r * h;
-    const int k = int(n), j = k & 63, m = k >> 6;
-    const double hi = expTable64[j][0], lo = expTable64[j][0] * p + expTable64[j][1];
+    const auto [hi, lo, m] = ExpRoutineParts(x);
     if (x >= -0x1.6232bdd7abcd2p+9) { // -708.3964185322641: a normal result
         const int m1 = m / 2;         // 2^m in two steps: m reaches 1024
         *y = (hi + lo) * Pow2D(m1) * Pow2D(m - m1);

@@ -41,6 +41,29 @@ inline double Pow2D(int e) {
     return DoubleOf(uint64_t(e + Format<double>::kBias) << Format<double>::kMantBits);
 }
 
+// The scalar routines' own exponential on the table of 64 (double Exp's, and Cosh's and
+// Sinh's): x + xl = (64 m + j) ln2/64 + r with ln2/64 in two parts, e^r - 1 =
+// r + r^2 (1/2 + r (c3 + ...)) with the routines' coefficients, and
+// e^(x + xl) = (hi + lo) 2^m, hi the table's head. The caller applies 2^m.
+struct ExpRoutinePoly {
+    static constexpr double kC[] = {0.5, 0.1666666666665788, 0.04166666666677052,
+                                    0.008333341995140497, 0.0013888870459233254};
+};
+struct ExpParts64 {
+    double hi, lo;
+    int m;
+};
+inline ExpParts64 ExpRoutineParts(double x, double xl = 0.0) {
+    using S = ExpStep64;
+    constexpr double kShifter = Format<double>::kShifter;
+    double t = x * S::kInvStep + kShifter;
+    double n = t - kShifter;
+    double r = (x - n * S::kStepHi) - n * S::kStepLo + xl;
+    int k = int(n), j = k & 63;
+    double p = r + r * r * HornerScalar<ExpRoutinePoly>(r);
+    return {expTable64[j][0], expTable64[j][0] * p + expTable64[j][1], (k - j) / 64};
+}
+
 // e^(x + xl) for x in [-746, 710], the pair x + xl being the argument in two parts
 // (xl may be 0); the result rounded once, denormal or not.
 inline double ExpScalarCore(double x, double xl = 0.0) {

@@ -38,27 +38,12 @@ struct HyperLimits<double> {
 // Above this e^-a adds nothing to e^a/2 in double.
 constexpr double kOneExpEnough = 0x1.57cd0e702682p+4; // 21.487562597358306
 
-// The routines' own exponential, e^(x + xl) for x in [-711, 711]: n = rint(x*64/ln2) by
-// the shifter, r = x - n*ln2hi/64 - n*ln2lo/64 + xl, the table of 64 in high and low
-// parts at j = n mod 64 (e^-x takes it at -j), e^r - 1 = r + r^2*(1/2 + r*(c3 + ...)) with
-// their own coefficients, and the power of two applied in two halves, so that it stays
-// inside the double range.
-struct HyperExpPoly {
-    static constexpr double kC[] = {0.5, 0.1666666666665788, 0.04166666666677052,
-                                    0.008333341995140497, 0.0013888870459233254};
-};
+// The routines' own exponential (ExpRoutineParts), e^(x + xl) for x in [-711, 711], the
+// power of two applied in two halves, so that it stays inside the double range.
 inline double HyperExpScalar(double x, double xl = 0.0) {
-    using S = ExpStep64;
-    constexpr double kShifter = Format<double>::kShifter;
-    double t = x * S::kInvStep + kShifter;
-    double n = t - kShifter;
-    double r = (x - n * S::kStepHi) - n * S::kStepLo + xl;
-    int ni = int(n);
-    int j = ni & 63, m = (ni - j) / 64;
-    double p = r + r * r * HornerScalar<HyperExpPoly>(r);
-    double y = expTable64[j][0] + (expTable64[j][0] * p + expTable64[j][1]);
-    int m1 = m / 2;
-    return y * Pow2D(m1) * Pow2D(m - m1);
+    ExpParts64 e = ExpRoutineParts(x, xl);
+    int m1 = e.m / 2;
+    return (e.hi + e.lo) * Pow2D(m1) * Pow2D(e.m - m1);
 }
 
 // e^a/2 for a in [0, 711]: the exponential of a - ln2, ln2 in the reduction's two parts
