@@ -481,14 +481,8 @@ void ExpectUnarySteps(const char* row, int slot, const std::vector<T>& in, T (*s
                       T (*exact)(T)) {
     std::vector<T> y(in.size());
     As<Unary<T>>(Slot(row, slot))(int(in.size()), in.data(), y.data());
-    int bad = 0;
-    for (size_t i = 0; i < in.size() && bad < 5; ++i) {
-        T want = exact ? exact(in[i]) : steps(in[i], slot);
-        if (!SameValue(y[i], want))
-            ++bad, ADD_FAILURE() << row << " slot " << slot << " of " << in[i] << " ("
-                                 << std::hexfloat << in[i] << ") gave " << y[i] << ", want " << want
-                                 << std::defaultfloat;
-    }
+    ExpectEachElement(std::string(row) + " slot " + std::to_string(slot), in, y,
+                      [&](T v) { return exact ? exact(v) : steps(v, slot); });
 }
 
 } // namespace steps

@@ -32,12 +32,6 @@ float F(uint32_t b) {
 double D(uint64_t b) {
     return std::bit_cast<double>(b);
 }
-uint32_t B(float x) {
-    return std::bit_cast<uint32_t>(x);
-}
-uint64_t B(double x) {
-    return std::bit_cast<uint64_t>(x);
-}
 
 // n random arguments uniform on [lo, hi] with the edges and zeros among them.
 template <class T>
@@ -59,13 +53,8 @@ void ExpectSteps(RowIndex row, int slot, const std::vector<T>& x, Ref ref) {
     brenn_zar_kernel_SetErrStatus(0);
     K<T>(row, slot)(int(x.size()), x.data(), y.data());
     EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 0) << frame::kRowInfo[row].name << " " << slot;
-    int shown = 0;
-    for (size_t i = 0; i < x.size(); ++i) {
-        T want = ref(x[i]);
-        if (B(y[i]) != B(want) && shown++ < 5)
-            ADD_FAILURE() << frame::kRowInfo[row].name << " slot " << slot << " x " << std::hexfloat
-                          << x[i] << " got " << y[i] << " want " << want;
-    }
+    ExpectEachElement(std::string(frame::kRowInfo[row].name) + " slot " + std::to_string(slot), x,
+                      y, ref, true);
 }
 
 // ---- sExp ----
@@ -80,7 +69,7 @@ float SExpEP(float x) {
     float n = t - kShifterS;
     float r = y - n;
     float p = ((F(0x3D63582B) * r + F(0x3E77D66A)) * r + F(0x3F317422)) * r + 1.0f;
-    return F((B(t) << 23) + B(p));
+    return F((Bits(t) << 23) + Bits(p));
 }
 
 float SExpLA(float x) {
@@ -90,17 +79,17 @@ float SExpLA(float x) {
     float p = F(0x3C07D9FE);
     for (uint32_t c : {0x3D2B8392u, 0x3E2AACACu, 0x3EFFFF34u, 0x3F7FFFFEu, 0x3F800000u})
         p = p * r + F(c);
-    return F((B(t) << 23) + B(p));
+    return F((Bits(t) << 23) + Bits(p));
 }
 
 float SExpHA(float x) {
     float t = x * F(0x4338AA3B) + 11534336.0f;
     float n = 11534336.0f - t;
     float r = x + n * F(0x3BB18000) + n * F(0xB5DE8083);
-    const float* row = vm::single::expTable128[B(t) & 0x7F];
+    const float* row = vm::single::expTable128[Bits(t) & 0x7F];
     float s = (r + row[1]) + 0.5f * r * r;
     float p = s * row[0] + row[0];
-    float scale = F((((B(t) >> 7) + 127) << 23));
+    float scale = F((((Bits(t) >> 7) + 127) << 23));
     return p * scale;
 }
 
@@ -146,9 +135,9 @@ TEST(ExpSteps, SingleExpWindowAndScalarRoutines) {
         for (float v : {in, -in}) {
             float y = CallUnary(k, v, &status);
             EXPECT_EQ(status, 0) << slot << " " << v;
-            EXPECT_EQ(B(y), B(slot == frame::SlotHA   ? SExpHA(v)
-                              : slot == frame::SlotLA ? SExpLA(v)
-                                                      : SExpEP(v)));
+            EXPECT_EQ(Bits(y), Bits(slot == frame::SlotHA   ? SExpHA(v)
+                                    : slot == frame::SlotLA ? SExpLA(v)
+                                                            : SExpEP(v)));
         }
         CallUnary(k, -out, &status);
         EXPECT_EQ(status, 4) << slot;
@@ -163,7 +152,7 @@ TEST(ExpSteps, SingleExpWindowAndScalarRoutines) {
         EXPECT_EQ(status, 3);
         EXPECT_GT(CallUnary(k, F(0xC2CFF1B4), &status), 0.0f);
         EXPECT_EQ(status, 4);
-        EXPECT_EQ(B(CallUnary(k, F(0xC2CFF1B5), &status)), 0u);
+        EXPECT_EQ(Bits(CallUnary(k, F(0xC2CFF1B5), &status)), 0u);
         EXPECT_EQ(status, 4);
         EXPECT_EQ(CallUnary(k, -INFINITY, &status), 0.0f);
         EXPECT_EQ(status, 0);
@@ -180,7 +169,7 @@ TEST(ExpSteps, SingleExpWindowAndScalarRoutines) {
             int status, want;
             float y = CallUnary(K<float>(frame::Row_sExp, slot), v, &status);
             float w = SExpScalarLaEp(v, &want);
-            if ((B(y) != B(w) || status != want) && shown++ < 5)
+            if ((Bits(y) != Bits(w) || status != want) && shown++ < 5)
                 ADD_FAILURE() << slot << " x " << std::hexfloat << v << " got " << y << " want "
                               << w;
         }
@@ -194,9 +183,9 @@ float SExp2(float x) {
     float n = t - 196608.0f;
     float r = x - n;
     float p = r * (F(0x3E75FDFC) * r + F(0x3F317243));
-    const float* row = vm::single::expTable64[B(t) & 0x3F];
+    const float* row = vm::single::expTable64[Bits(t) & 0x3F];
     float y = (p + row[1]) * row[0] + row[0];
-    return F(B(y) + ((B(t) >> 6) << 23));
+    return F(Bits(y) + ((Bits(t) >> 6) << 23));
 }
 
 float SExp10(float x) {
@@ -204,9 +193,9 @@ float SExp10(float x) {
     float n = t - kShifterS;
     float r = x - n * F(0x3B1A4000) - n * F(0xB5FB2BD8);
     float p = r * (F(0x4029A929) * r + F(0x40135D97));
-    const float* row = vm::single::expTable128[B(t) & 0x7F];
+    const float* row = vm::single::expTable128[Bits(t) & 0x7F];
     float y = (p + row[1]) * row[0] + row[0];
-    return F(B(y) + ((B(t) >> 7) << 23));
+    return F(Bits(y) + ((Bits(t) >> 7) << 23));
 }
 
 // One kernel in all three slots, the body's value bit for bit across the window and at
@@ -220,7 +209,7 @@ void ExpectOneKernel(RowIndex row, float edge, Ref ref, unsigned seed) {
     ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
     for (float v : {edge, -edge}) {
         int status;
-        EXPECT_EQ(B(CallUnary(k, v, &status)), B(ref(v))) << v;
+        EXPECT_EQ(Bits(CallUnary(k, v, &status)), Bits(ref(v))) << v;
         EXPECT_EQ(status, 0);
     }
 }
@@ -403,7 +392,7 @@ float SExpm1(float x) {
     double q = p + row[1];
     double s = std::ldexp(double(row[0]), int(k >> 6));
     float y = float((s - 1.0) + s * q);
-    return F(B(y) | (B(x) & 0x80000000u));
+    return F(Bits(y) | (Bits(x) & 0x80000000u));
 }
 
 TEST(ExpSteps, SingleExpm1) {
@@ -418,7 +407,7 @@ TEST(ExpSteps, SingleExpm1) {
     ExpectSteps(row, frame::SlotHA, x, SExpm1);
     ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
     int status;
-    EXPECT_EQ(B(CallUnary(k, -0.0f, &status)), 0x80000000u);
+    EXPECT_EQ(Bits(CallUnary(k, -0.0f, &status)), 0x80000000u);
     // Beyond the window: -1 for large negative x, the scalar routine's value up to the
     // last finite result, status 0.
     for (float v : {-std::nextafter(edge, 100.0f), -100.0f, -1e30f}) {

@@ -60,15 +60,7 @@ void ExpectSteps(const std::string& row, int slot, const std::vector<float>& x, 
     brenn_zar_kernel_SetErrStatus(0);
     As<Unary<float>>(Slot(row, slot))(int(x.size()), x.data(), y.data());
     EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 0) << row << " slot " << slot;
-    int bad = 0;
-    for (size_t i = 0; i < x.size() && bad < 5; ++i) {
-        float want = steps(x[i]);
-        if (!SameValue(y[i], want)) {
-            ++bad;
-            ADD_FAILURE() << row << " slot " << slot << " x = " << std::hexfloat << x[i]
-                          << ": got " << y[i] << ", steps give " << want;
-        }
-    }
+    ExpectEachElement(row + " slot " + std::to_string(slot), x, y, steps);
 }
 
 // ---- Atan ----

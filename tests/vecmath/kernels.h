@@ -54,6 +54,21 @@ bool SameValue(T a, T b) {
     return Bits(a) == Bits(b);
 }
 
+// Each y[i] against want(x[i]) bit for bit (NaN as NaN; with nanBits a NaN's bits too),
+// the first five differences reported under `what`.
+template <class T, class Want>
+void ExpectEachElement(const std::string& what, const std::vector<T>& x, const std::vector<T>& y,
+                       Want want, bool nanBits = false) {
+    int shown = 0;
+    for (size_t i = 0; i < x.size() && shown < 5; ++i) {
+        T w = want(x[i]);
+        if (nanBits ? Bits(y[i]) == Bits(w) : SameValue(y[i], w)) continue;
+        ++shown;
+        ADD_FAILURE() << what << " x = " << std::hexfloat << x[i] << ": got " << y[i] << ", want "
+                      << w << std::defaultfloat;
+    }
+}
+
 // Distance in ulps of the format (denormal spacing below the normal range).
 template <class T>
 double UlpError(T got, long double ref) {

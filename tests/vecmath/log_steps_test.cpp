@@ -112,15 +112,8 @@ void ExpectSteps(frame::RowIndex row, int slot, const std::vector<float>& x,
     auto k = Kernel(row, slot);
     std::vector<float> y(x.size());
     k(int(x.size()), x.data(), y.data());
-    int bad = 0;
-    for (size_t i = 0; i < x.size() && bad < 5; ++i) {
-        float want = steps(x[i]);
-        if (!SameValue(y[i], want)) {
-            ++bad;
-            ADD_FAILURE() << row << " slot " << slot << " x = " << std::hexfloat << x[i]
-                          << ": got " << y[i] << ", the steps give " << want;
-        }
-    }
+    ExpectEachElement(std::string(frame::kRowInfo[row].name) + " slot " + std::to_string(slot), x, y,
+                      steps);
 }
 
 // The HA reduction: rc = round(rcpps(m)*64)/64, the row t - 48 of -log_B(rc) in two
