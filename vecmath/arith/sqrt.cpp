@@ -16,6 +16,7 @@
  * the range) from a table of seeds and Goldschmidt steps in double; other doubles the
  * root instruction. */
 #include "frame/kernels.h"
+#include "vecmath/arith/goldschmidt.h"
 #include "vecmath/arith/ranges.h"
 #include "vecmath/arith/seed.h"
 #include "vecmath/arith/root_scalar.h"
@@ -24,24 +25,6 @@
 
 namespace brenn::vm {
 namespace {
-
-// Goldschmidt from x and r ~ 1/sqrt(x): g = x*r, h = r/2, e = 0.5 - g*h, then g + g*e;
-// with more steps, h + h*e is taken between them and e formed again.
-template <int Steps, class V>
-inline V Goldschmidt(V x, V r) {
-    using T = ElemOf<V>;
-    const V half = Set<T>(0.5);
-    V g = Mul(x, r);
-    V h = Mul(half, r);
-    V e = Sub(half, Mul(g, h));
-    for (int k = 1; k < Steps; ++k) {
-        V g1 = Add(g, Mul(g, e));
-        h = Add(h, Mul(h, e));
-        g = g1;
-        e = Sub(half, Mul(g, h));
-    }
-    return Add(g, Mul(g, e));
-}
 
 // Double: -inf and negatives NaN with status 1; -0, +inf and NaN themselves (NaN
 // quieted); denormals and the top of the range the root instruction, correctly rounded.

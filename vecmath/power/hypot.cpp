@@ -21,13 +21,13 @@
 #include <type_traits>
 
 #include "frame/kernels.h"
+#include "vecmath/arith/goldschmidt.h"
 #include "vecmath/arith/ranges.h"
 #include "vecmath/complex/exact.h"
 #include "vecmath/explog/flat.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/frame/scalar.h"
-#include "vecmath/power/root_core.h"
 
 namespace brenn::vm {
 namespace {
@@ -97,8 +97,8 @@ BRENN_VEC void HypotHASteps(const __m128* a, const __m128* b, __m128* y, __m128*
     for (int k = 0; k < M; ++k) {
         const __m128d al = WidenLower(av[k]), bl = WidenLower(bv[k]);
         const __m128d ah = WidenUpper(av[k]), bh = WidenUpper(bv[k]);
-        lo[k] = GoldschmidtTwice(Add(Mul(al, al), Mul(bl, bl)), WidenLower(r[k]));
-        hi[k] = GoldschmidtTwice(Add(Mul(ah, ah), Mul(bh, bh)), WidenUpper(r[k]));
+        lo[k] = Goldschmidt<2>(Add(Mul(al, al), Mul(bl, bl)), WidenLower(r[k]));
+        hi[k] = Goldschmidt<2>(Add(Mul(ah, ah), Mul(bh, bh)), WidenUpper(r[k]));
     }
 #pragma GCC unroll 4
     for (int k = 0; k < M; ++k)
@@ -123,11 +123,8 @@ inline __m128 HypotOf(__m128 a, __m128 b, __m128& special) {
     special = RangeTest(s, ArithRanges<float>::kRoot);
     s = IfThenElse(special, Set<float>(1.0f), s);
     const __m128 r = ApproxRecipSqrt(s);
-    const __m128 half = Set<float>(0.5f);
-    const __m128 g = Mul(s, r);
-    if constexpr (L == Level::EP) return g;
-    const __m128 e = Sub(half, Mul(g, Mul(half, r)));
-    return Add(g, Mul(g, e));
+    if constexpr (L == Level::EP) return Mul(s, r);
+    return Goldschmidt<1>(s, r);
 }
 
 // A round of sixteen single elements at HA: the special-lane bits, bit j for element j.

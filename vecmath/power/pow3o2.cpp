@@ -14,11 +14,11 @@
  * estimate has no seed, done in extended precision, where the result may overflow or be
  * denormal without a status. */
 #include "frame/kernels.h"
+#include "vecmath/arith/goldschmidt.h"
 #include "vecmath/arith/seed.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/frame/scalar.h"
-#include "vecmath/power/root_core.h"
 
 namespace brenn::vm {
 namespace {
@@ -99,15 +99,10 @@ template <Level L>
 inline __m128 Pow3o2Lanes(__m128 x) {
     const __m128 r = ApproxRecipSqrt(x);
     if constexpr (L == Level::EP) return Mul(x, Mul(x, r));
-    if constexpr (L == Level::LA) {
-        const __m128 half = Set<float>(0.5f);
-        const __m128 g = Mul(x, r);
-        const __m128 e = Sub(half, Mul(g, Mul(half, r)));
-        return Mul(x, Add(g, Mul(g, e)));
-    }
+    if constexpr (L == Level::LA) return Mul(x, Goldschmidt<1>(x, r));
     const __m128d lo = WidenLower(x), hi = WidenUpper(x);
-    return Narrow(Mul(lo, GoldschmidtTwice(lo, WidenLower(r))),
-                  Mul(hi, GoldschmidtTwice(hi, WidenUpper(r))));
+    return Narrow(Mul(lo, Goldschmidt<2>(lo, WidenLower(r))),
+                  Mul(hi, Goldschmidt<2>(hi, WidenUpper(r))));
 }
 template <Level L>
 inline __m128d Pow3o2Lanes(__m128d x) {

@@ -175,23 +175,6 @@ BRENN_VEC __m128d RootOf(__m128d ax) {
     return v;
 }
 
-// The square root's refinement of the power rows (Hypot, Pow3o2) at HA: two
-// Goldschmidt steps from s and r ~ 1/sqrt(s): g = s*r, h = r/2, e = 0.5 - g*h, g + g*e,
-// h + h*e taken between them and e formed again.
-template <class V>
-BRENN_VEC V GoldschmidtTwice(V s, V r) {
-    using T = ElemOf<V>;
-    const V half = Set<T>(T(0.5));
-    V g = Mul(s, r);
-    V h = Mul(half, r);
-    V e = Sub(half, Mul(g, h));
-    V g1 = Add(g, Mul(g, e));
-    h = Add(h, Mul(h, e));
-    g = g1;
-    e = Sub(half, Mul(g, h));
-    return Add(g, Mul(g, e));
-}
-
 // The single-lane form, positive normal |x|, all in integer lanes up to the seed: the
 // biased exponent plus 2 (3 to 256) is kd = 3q' + j with q' = q + 43, and kd*0x5556 =
 // q'*2^16 + (2q' + 21846j) in 16-bit halves (the low half below 2^16: one pair of 16-bit
