@@ -1,9 +1,9 @@
 /* Hypot, single and double: sqrt(a^2 + b^2) without overflow or underflow on the way.
  *
- * Single: the sum of squares in single and the root from the reciprocal root estimate,
- * refined as Sqrt does at the level (EP none, LA one Goldschmidt step, HA two, HA's in
- * double on the widened operands, within about 0.5 ulp); lanes whose single sum
- * overflows, underflows or is zero go to the scalar routine.
+ * Single: the sum of squares in single; EP and LA the root from the reciprocal root
+ * estimate, refined as Sqrt does (EP none, LA one Goldschmidt step); HA its rounded root
+ * r corrected once from the residual of the exact squares in double, within about 0.5
+ * ulp. Lanes whose single sum overflows, underflows or is zero go to the scalar routine.
  * Double: where the larger of a register's operands all lie in [2^-400, 2^400), the
  * squares and their tails need no scaling and are taken as they stand; a register with
  * a lane outside (or an infinity or NaN) scales both by 2^-e for the exponent e of the
@@ -80,38 +80,43 @@ inline __m128d SquareTail(__m128d x, __m128d xx) {
 }
 
 // M registers of single HA at once, each step over all of them before the next: the
-// special-lane masks, then the roots.
+// special-lane masks, the roots and estimates in single, then the residuals in double.
+// Special lanes take s = 1; their double residuals stay quiet (an infinite or NaN operand
+// gives an infinite or NaN c, and an overflowing one an overflow the single s raised).
 template <int M>
 BRENN_VEC void HypotHASteps(const __m128* a, const __m128* b, __m128* y, __m128* special) {
-    __m128 r[M], av[M], bv[M];
+    __m128 r[M], h[M], c[M];
 #pragma GCC unroll 4
     for (int k = 0; k < M; ++k) {
         __m128 s = Add(Mul(a[k], a[k]), Mul(b[k], b[k]));
         special[k] = RangeTest(s, ArithRanges<float>::kRoot);
-        r[k] = ApproxRecipSqrt(IfThenElse(special[k], Set<float>(1.0f), s));
-        av[k] = IfThenZeroElse(special[k], a[k]);
-        bv[k] = IfThenElse(special[k], Set<float>(1.0f), b[k]);
+        s = IfThenElse(special[k], Set<float>(1.0f), s);
+        r[k] = Sqrt(s);
+        h[k] = Mul(ApproxRecipSqrt(s), Set<float>(0.5f));
     }
-    __m128d lo[M], hi[M];
 #pragma GCC unroll 4
     for (int k = 0; k < M; ++k) {
-        const __m128d al = WidenLower(av[k]), bl = WidenLower(bv[k]);
-        const __m128d ah = WidenUpper(av[k]), bh = WidenUpper(bv[k]);
-        lo[k] = Goldschmidt<2>(Add(Mul(al, al), Mul(bl, bl)), WidenLower(r[k]));
-        hi[k] = Goldschmidt<2>(Add(Mul(ah, ah), Mul(bh, bh)), WidenUpper(r[k]));
+        auto residual = [](__m128d a, __m128d b, __m128d r) {
+            return Sub(Add(Mul(a, a), Mul(b, b)), Mul(r, r));
+        };
+        const __m128d dl = residual(WidenLower(a[k]), WidenLower(b[k]), WidenLower(r[k]));
+        const __m128d dh = residual(WidenUpper(a[k]), WidenUpper(b[k]), WidenUpper(r[k]));
+        c[k] = Narrow(Mul(dl, WidenLower(h[k])), Mul(dh, WidenUpper(h[k])));
     }
 #pragma GCC unroll 4
     for (int k = 0; k < M; ++k)
-        y[k] = Narrow(lo[k], hi[k]);
+        y[k] = Add(r[k], c[k]);
 }
 
 // s = a^2 + b^2 in single (lanes where it is not a positive normal, overflow and underflow
-// among them, are special), r = rsqrt(s), then Sqrt's refinement at the level: EP g = s*r;
-// LA one Goldschmidt step with h = r/2; HA two, h corrected in between. HA runs its two
-// steps in double, on s taken again from the widened operands (exact squares, one
-// rounding), and rounds once to single: the two steps in single leave up to 1.71 ulp,
-// and in double from the single s still 1.10 (s's own rounding is a quarter ulp of the
-// root); so they are within 0.5 ulp.
+// among them, are special), then EP g = s*rsqrt(s); LA Sqrt's one Goldschmidt step with
+// h = r/2. HA departs from Sqrt's two steps (in single they leave up to 1.71 ulp; run in
+// double on the exact sum they were right but cost twelve double operations a pair of
+// lanes): r = sqrt(s) rounded and r + c, c = d/(2r) for the residual d = a^2 + b^2 - r^2
+// in double, where the squares and r^2 are exact and the sum rounds once (2^-53), with
+// 1/(2r) from the estimate (2^-11.4 of c, which is within about 2 ulps of r: 2^-10 ulp),
+// c rounded to single and one addition rounding: within 0.501 ulp, no sqrtpd. c stays
+// a normal single: d is a multiple of about 2^-53 s, so |c| >= 2^-54 r > 2^-118.
 template <Level L>
 inline __m128 HypotOf(__m128 a, __m128 b, __m128& special) {
     if constexpr (L == Level::HA) {
@@ -252,8 +257,8 @@ struct HypotBody {
     // in the plain range, HypotScaled over all of them; otherwise register by
     // register. EP too, its roots four lanes at a time from single. (LA, a sum and a root
     // a register, is faster in rounds of eight.)
-    // Single HA in rounds of sixteen too: the four registers' eight double chains of
-    // the two steps side by side.
+    // Single HA in rounds of sixteen too: the four registers' roots, then their eight
+    // double residuals, side by side.
     static constexpr int kRound = L == Level::HA || (sizeof(T) == 8 && L != Level::LA) ? 16 : 8;
     static BRENN_VEC int EvalWide(const V* a, const V* b, V* y) {
         using R = HypotRanges<double>;
