@@ -8,29 +8,37 @@
  * Single EP and LA run in single: t by the reciprocal estimate (Atan EP: -1/|x| as it
  * stands; Atan LA and Atan2 EP: with one Newton step) or a division (Atan2 LA), and one
  * polynomial on [0, 1] (EP five terms in two halves, LA eight in two chains).
- * Single Atan and Atan2 HA run the fold of the double steps below in single, n - d and
+ * Atan in radians at double LA/HA (one kernel) and single HA runs a table reduction
+ * (atan_tables.h): c is a = |x| with its significand cut to a few bits (4 in double, 5 in
+ * single) for a in [2^-5, 2^5) ([2^-6, 2^6) in single), so that a - c is exact, and
+ * atan(a) = atan(c) + atan(u), u = (a - c)/(1 + a c), |u| at most 2^-5 (2^-6): atan(c)
+ * from the table in two parts, atan(u) a short odd series (four terms in double, two in
+ * single), the head of atan(c) and u joined by the fast exact sum. Below the table u = a,
+ * above it u = -1/a and atan(c) is pi/2. One division and no correction of it: its
+ * rounding reaches the result scaled by |u|/atan(a), below a twelfth.
+ * Single Atan2 HA runs the fold of the double steps below in single, n - d and
  * n + d as exact pairs, the quotient's error from its exact residual and the base joined
- * by an exact sum (atan_body.h); Atan2 HA keeps its lanes to magnitudes in [2^-50, 2^50)
+ * by an exact sum (atan_body.h); it keeps its lanes to magnitudes in [2^-50, 2^50)
  * for that (the complex Arg's single HA keeps the double steps). The double steps, which
  * the pi-scaled single LA and HA take on widened lanes,
  * fold once more at tan(pi/8): t = (n - d)/(n + d), a quarter turn added, and a short
- * odd series on [-tan(pi/8), tan(pi/8)]; Atan's own form of them (b = 1; single HA and
- * pi-scaled LA, double at every level) puts the sign in the quotient, -1/a or
- * (a - 1)/(a + 1), with no swap and no flip. Double HA (Atan's one kernel for LA and HA)
- * and the pi-scaled double rows carry the quotient's error from its exact residual and
- * join the base exactly (common.h); without them the quotient's rounding near the fold
- * (|x| just below 1/2, where a - 1 is not exact) costs up to 1.4 ulp. Double LA Atan2
- * goes without.
+ * odd series on [-tan(pi/8), tan(pi/8)]; Atan's own form of them (b = 1; pi-scaled LA and
+ * HA, double EP) puts the sign in the quotient, -1/a or (a - 1)/(a + 1), with no swap and
+ * no flip. Double Atan2 HA and the pi-scaled double rows carry the quotient's error from
+ * its exact residual and join the base exactly (common.h); without them the quotient's
+ * rounding near the fold (|x| just below 1/2, where a - 1 is not exact) costs up to 1.4
+ * ulp. Double LA Atan2 goes without.
  *
- * Atan has no range test: infinity gives pi/2 through t = 1/inf = 0, NaN passes. Atan2
- * sends zeros, infinities, NaN and magnitudes outside [2^-125, 2^123] in single
- * ([2^-50, 2^50) at HA; [2^-500, 2^500) in double) to the scalar routine, which gives
- * the special values of C99 Annex F and, for the others, the compensated double steps (in double
- * after both arguments are scaled by one power of two). Nothing is reported.
+ * Atan has no range test: infinity gives pi/2 through t = 1/inf = 0 (-1/inf in the
+ * table's top row), NaN passes. Atan2 sends zeros, infinities, NaN and magnitudes outside
+ * [2^-125, 2^123] in single ([2^-50, 2^50) at HA; [2^-500, 2^500) in double) to the
+ * scalar routine, which gives the special values of C99 Annex F and, for the others, the
+ * compensated double steps (in double after both arguments are scaled by one power of
+ * two). Nothing is reported.
  *
  * Measured (brenn_accuracy, 250000 inputs a row), LA / HA in ulp, EP in bits: sAtan
- * 2.62 / 0.585 / 12.3, sAtan2 2.16 / 0.524 / 14.9, sAtanpi 0.510 / 0.510 / 12.3,
- * sAtan2pi 0.507 / 0.507 / 14.9; dAtan 0.621 (one kernel) / 30.5, dAtan2 0.961 / 0.582 /
+ * 2.62 / 0.511 / 12.3, sAtan2 2.16 / 0.524 / 14.9, sAtanpi 0.510 / 0.510 / 12.3,
+ * sAtan2pi 0.507 / 0.507 / 14.9; dAtan 0.531 (one kernel) / 30.5, dAtan2 0.961 / 0.582 /
  * 30.5, dAtanpi 0.743 / 0.743 / 30.5, dAtan2pi 0.692 / 0.692 / 30.5. */
 #include "frame/kernels.h"
 #include "vecmath/explog/flat.h"

@@ -8,6 +8,7 @@
 
 #include "vecmath/explog/wide.h"
 #include "vecmath/frame/kernel_frame.h"
+#include "vecmath/invtrig/atan_tables.h"
 #include "vecmath/invtrig/common.h"
 #include "vecmath/invtrig/series.h"
 
@@ -223,11 +224,11 @@ BRENN_VEC __m128d AtanWide(__m128d a) {
     return AtanWideAngle<U>(AtanWideQuotient<U>(a));
 }
 
-// Atan's folds on a = |x|, both precisions: the lanes above tan(pi/8) and above
-// tan(3pi/8), and the signed quotient's n and d as exact pairs, a/1, (a - 1)/(a + 1) or
-// -1/a. The fast sums from -1 and 1 are exact across the fold (a - 1 is exact above 1/2)
-// and run on the fold's lanes only, the others on 0 (-1 and 1, no error; an infinity
-// must not make inf - inf).
+// Atan's folds on a = |x| (the pi-scaled double LA and HA): the lanes above tan(pi/8)
+// and above tan(3pi/8), and the signed quotient's n and d as exact pairs, a/1,
+// (a - 1)/(a + 1) or -1/a. The fast sums from -1 and 1 are exact across the fold (a - 1
+// is exact above 1/2) and run on the fold's lanes only, the others on 0 (-1 and 1, no
+// error; an infinity must not make inf - inf).
 template <class V>
 struct AtanFold {
     V over, above, nh, nl, dh, dl;
@@ -247,13 +248,8 @@ BRENN_VEC AtanFold<V> AtanFoldOf(V a) {
     return f;
 }
 
-// Single Atan HA in single arithmetic, four lanes a register: AtanWide's folds, base and
-// signed quotient, the quotient qh by divps and its error from an exact residual, the tail
-// q*z*P(z) by the double steps' five-term series rounded to single (its fit, 2^-30.5, is
-// far below the tail's own roundings), and the base joined by the fast exact sum. Over
-// the fold's range the fast sums give a - 1 and a + 1 exactly (either the sum is exact
-// itself or 1 is the larger). d is held at 2^64 in the residual: beyond, the correction
-// is nothing to the result, and an infinite d must not meet a zero.
+// Single Atan2 HA's series: the double steps' five terms rounded to single (their fit,
+// 2^-30.5, is far below the tail's own roundings).
 constexpr float kAtanSingleHA[] = {float(AtanDouble5Set::kP[0]), float(AtanDouble5Set::kP[1]),
                                    float(AtanDouble5Set::kP[2]), float(AtanDouble5Set::kP[3]),
                                    float(AtanDouble5Set::kP[4])};
@@ -286,17 +282,6 @@ BRENN_VEC __m128 AngleSingleHA(__m128 base, __m128 lo, __m128 flip, __m128 nh, _
     return Add(y, Add(e, Add(lo, Xor(t, flip))));
 }
 
-BRENN_VEC __m128 AtanSingleHA(__m128 x) {
-    using Q = Quarter<float, Unit::Radian>;
-    const auto [over, above, nh, nl, dh, dl] = AtanFoldOf(Abs(x));
-    const __m128 dmax = Set<float>(0x1p64f);
-    __m128 dm = IfThenElse(AsFloat(Gt(AsInt(dh), AsInt(dmax))), dmax, dh);
-    __m128 k = IfThenElse(above, Set<float>(2), And(over, Set<float>(1.0f)));
-    return Or(AngleSingleHA(Mul(k, Set<float>(Q::kHi)), Mul(k, Set<float>(kQuarterTailS)),
-                            Zero<float>(), nh, nl, dh, dl, dm),
-              SignBit(x));
-}
-
 // Single Atan2 HA in single arithmetic, four lanes a register: the magnitudes swapped so
 // that n <= d, the fold at tan(pi/8) to (n - d)/(n + d) with both as exact pairs (fast
 // sums, d the larger; on the other lanes they run on 0 and give n/d), and AngleSingleHA.
@@ -327,18 +312,78 @@ BRENN_VEC __m128 InDouble(__m128 a, __m128 b) {
                   AngleOf<U, AtanDouble5Set, false, true>(WidenUpper(a), WidenUpper(b)));
 }
 
+// Atan by the table (atan_tables.h), double (the one LA and HA kernel) and single HA: the
+// row of a = |x| from its exponent and top k bits (the bits shifted down, less the first
+// row's, held to [0, N + 1] by integer min and max: a NaN takes the top row and comes out
+// of the quotient), u = ((a & mask) - c)/((1 & mask) + a c) by one division: a/1, the
+// exact (a - c)/(1 + a c) or -1/a (an infinity gives -0, the angle pi/2), |u| <= 2^-5
+// (2^-6 in single); then atan(a) = hi + u + (lo + u^3 P(u^2)), hi + u by the fast exact
+// sum (hi is 0 or above |u|). The quotient's rounding, 1.5 ulp of u at most, moves the
+// result by |u|/atan(a) of it, below 1/12 (1/25 in single) of an ulp of the result.
+// In two steps, the row and quotient, then the angle, for the double rounds.
+template <class T>
+struct AtanTableState {
+    Vec<T> x, u, hi, lo;
+};
+BRENN_VEC void AtanRowOf(__m128d a, __m128d& mask, __m128d& c, __m128d& hi, __m128d& lo) {
+    I32x4 i = BitCast<I32x4>(ShiftRight<48>(AsInt(a)));
+    i = Min(Max(Sub(i, Set<int32_t>((1023 - 5) * 16 - 1)), Zero<int32_t>()), Set<int32_t>(161));
+    GatherPairs(atanRowsD, BitCast<I64x2>(i), -1, mask, c, 0);
+    GatherPairs(atanRowsD, BitCast<I64x2>(i), -1, hi, lo, 2);
+}
+BRENN_VEC void AtanRowOf(__m128 a, __m128& mask, __m128& c, __m128& hi, __m128& lo) {
+    I32x4 i = ShiftRight<18>(AsInt(a));
+    i = Min(Max(Sub(i, Set<int32_t>((127 - 6) * 32 - 1)), Zero<int32_t>()), Set<int32_t>(385));
+    Indices r = IndicesOf(i);
+    LoadTransposed(atanRowsS[r.at[0]], atanRowsS[r.at[1]], atanRowsS[r.at[2]], atanRowsS[r.at[3]],
+                   mask, c, hi, lo);
+}
+template <class V>
+BRENN_VEC AtanTableState<ElemOf<V>> AtanTableQuotient(V x) {
+    using T = ElemOf<V>;
+    V a = Abs(x), mask, c;
+    AtanTableState<T> s;
+    AtanRowOf(a, mask, c, s.hi, s.lo);
+    s.x = x;
+    s.u = Div(Sub(And(a, mask), c), Add(And(mask, Set<T>(T(1))), Mul(a, c)));
+    return s;
+}
+template <class T>
+BRENN_VEC Vec<T> AtanTableAngle(const AtanTableState<T>& s) {
+    using V = Vec<T>;
+    V z = Mul(s.u, s.u);
+    V t = Mul(Mul(s.u, z), Horner(z, AtanTableSeries<T>::kP));
+    V y, e;
+    FastTwoSum(s.hi, s.u, y, e);
+    return Or(Add(y, Add(e, Add(s.lo, t))), SignBit(s.x));
+}
+template <class V>
+BRENN_VEC V AtanByTable(V x) {
+    return AtanTableAngle(AtanTableQuotient(x));
+}
+template <int N>
+BRENN_VEC void AtanTableRound(const __m128d* x, __m128d* y) {
+    AtanTableState<double> s[N];
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k)
+        s[k] = AtanTableQuotient(x[k]);
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k)
+        y[k] = AtanTableAngle(s[k]);
+}
+
 template <Unit U, Level L>
 BRENN_VEC __m128 AtanOf(__m128 x) {
     if constexpr (kInSingle<U, L>) {
         return AtanSingle<U, L>(x);
     } else if constexpr (U == Unit::Radian) {
-        return AtanSingleHA(x);
+        return AtanByTable(x);
     } else {
         __m128 a = Abs(x);
         return Or(Narrow(AtanWide<U>(WidenLower(a)), AtanWide<U>(WidenUpper(a))), SignBit(x));
     }
 }
-// Double Atan LA and HA, compensated, on a = |x| with AtanWide's one signed quotient
+// Double Atanpi LA and HA, compensated, on a = |x| with AtanWide's one signed quotient
 // (AtanFoldOf) and the base of 0, 1 or 2 quarter turns; no swap, no flip. The residual is
 // AngleOf's with b = 1; the sign goes back on at the end. In three steps, so that a round
 // can take each over all its registers before the next (AtanUnitRound): the quotient,
@@ -406,6 +451,8 @@ template <Unit U, Level L>
 BRENN_VEC __m128d AtanOf(__m128d x) {
     if constexpr (L == Level::EP)
         return Or(AtanWide<U>(Abs(x)), SignBit(x));
+    else if constexpr (U == Unit::Radian)
+        return AtanByTable(x);
     else
         return AtanUnit<U>(x);
 }
@@ -538,6 +585,8 @@ struct AtanBody {
         if constexpr (sizeof(T) == 8) {
             if constexpr (L == Level::EP)
                 AtanWideRound<U, 8>(x, y);
+            else if constexpr (U == Unit::Radian)
+                AtanTableRound<8>(x, y);
             else
                 AtanUnitRound<U, 8>(x, y);
             return 0;

@@ -86,6 +86,21 @@ struct AtanDouble11Set {
 using AtanDouble5 = DoubleSeries<AtanDouble5Set>;
 using AtanDouble11 = DoubleSeries<AtanDouble11Set>;
 
+// From tools/invtrig/atan_table.sollya, on the reduced argument of Atan's table
+// (atan_tables.h): atan(u) ~ u + u^3 P(u^2), four terms in double for |u| <= 2^-5
+// (relative error 2^-62.3), two in single for |u| <= 2^-6 (2^-40.3).
+template <class T>
+struct AtanTableSeries;
+template <>
+struct AtanTableSeries<double> {
+    static constexpr double kP[] = {-0x1.55555555554eep-2, 0x1.99999997a2a57p-3,
+                                    -0x1.249231619209fp-3, 0x1.c639f409ee9f5p-4};
+};
+template <>
+struct AtanTableSeries<float> {
+    static constexpr float kP[] = {-0x1.555556p-2f, 0x1.99a176p-3f};
+};
+
 // Single atan on [0, 1] as P(z), z = t^2, atan(t) ~ t P(z). EP: two halves side by side,
 // (e0 z^2 + e1) z^2 + e2 + z (o0 z^2 + o1) (0x3CBEDCD4, 0x3E3D1CD1, 0x3F7FFDE4,
 // 0xBDBA3A94, 0xBEA9C8F7).
