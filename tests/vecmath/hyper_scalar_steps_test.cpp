@@ -80,6 +80,50 @@ TEST(InvHypSteps, CoshSinhScalarRoutinesAsTheirSteps) {
     EXPECT_EQ(fy, den);
 }
 
+// Single LA beyond its window, from 87.3365326 up to the overflow point, takes the
+// scalar routine's value in the vector path: every float of that band, both signs, in
+// long calls where band lanes sit beside window lanes and overflowing ones in every
+// position, comes out as the routine gives it, bit for bit, and only the overflowing
+// lanes report (status 3, the last of them).
+TEST(InvHypSteps, CoshSinhLABeyondTheWindowAsTheScalarRoutine) {
+    std::vector<float> x;
+    for (uint32_t b = 0x42AEAC4Eu; b <= 0x42B2D4FCu; ++b) {
+        float v = __builtin_bit_cast(float, b);
+        x.push_back(b & 1 ? -v : v);
+        if (b % 7 == 0) x.push_back(b % 3 ? 1.5f : -30.0f); // a window lane between
+    }
+    for (const char* row : {"sCosh", "sSinh"}) {
+        const bool sinh = row[1] == 'S';
+        auto k = reinterpret_cast<Unary<float>>(
+            BrennDispatchTable[sinh ? frame::Row_sSinh : frame::Row_sCosh].kernelLA);
+        auto routine = [&](float v) {
+            float y;
+            EXPECT_EQ(sinh ? vm::SinhScalar(&v, &y) : vm::CoshScalar(&v, &y), vm::status::kNone);
+            return y;
+        };
+        std::vector<float> y(x.size());
+        brenn_zar_kernel_SetErrStatus(0);
+        k(int(x.size()), x.data(), y.data());
+        EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 0) << row;
+        for (size_t i = 0; i < x.size(); ++i)
+            if (std::fabs(x[i]) > 87.0f)
+                ASSERT_EQ(Bits(y[i]), Bits(routine(x[i]))) << row << " " << x[i];
+        // Overflowing lanes among band lanes: infinity with status 3, the band unchanged.
+        std::vector<float> mixed = {88.0f, -90.0f, 89.0f,  87.5f, 89.4159851f,
+                                    1e30f, -88.7f, 2.0f, 89.3f};
+        std::vector<float> ym(mixed.size());
+        brenn_zar_kernel_SetErrStatus(0);
+        k(int(mixed.size()), mixed.data(), ym.data());
+        EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), vm::status::kOverflow) << row;
+        for (size_t i = 0; i < mixed.size(); ++i) {
+            float a = std::fabs(mixed[i]);
+            if (a >= 89.4159927f)
+                EXPECT_EQ(ym[i], std::copysign(INFINITY, sinh ? mixed[i] : 1.0f)) << row;
+            else if (a > 87.3365326f)
+                EXPECT_EQ(Bits(ym[i]), Bits(routine(mixed[i]))) << row << " " << mixed[i];
+        }
+    }
+}
 
 // Row k of the 134: (bits & 0x7FF80000) - 0x3CF80000 clamped to [0, 133 rows], by 2^19.
 float TanhSteps(float x, bool ep) {

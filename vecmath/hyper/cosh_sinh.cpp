@@ -5,7 +5,8 @@
  * by integer addition on the exponent field of 0.5; S(r) ~ sinh r and C(r) ~ cosh r - 1;
  * with P = e1 + e2 and M = e1 - e2, cosh = P + (C*P + M*S) and sinh = M + (C*M + P*S),
  * x's sign OR-ed back. LA has the longer pair and runs up to 87.3365326, where n reaches
- * 126 (the lanes from there on go to the scalar routine). EP has the shorter pair and
+ * 126 (the lanes from there up to the overflow point take the scalar routine's value in
+ * the body, UpperBandLA; those beyond, the routine). EP has the shorter pair and
  * runs up to 89.41, its scales a half smaller and the result doubled, so that no lane
  * below that point leaves its vector path.
  * Single HA: one reduction by ln2/64 and a table row of 2^(j/64) and 2^(-j/64) a lane, in
@@ -285,6 +286,26 @@ inline __m128 HyperSingleHA(__m128 a) {
     return Add(y, y);
 }
 
+// Single LA beyond its window, from 87.3365326 up to the overflow point: the lanes of
+// `band` take the scalar routine's value, e^a/2 by HalfExpScalar narrowed, here, so that
+// only the lanes beyond (overflow, infinities and NaN) take the frame's special-lane path
+// (the round's results through memory, lane by lane, and back). On arguments across the
+// range about one lane in 40 falls in this band; sCosh LA at n = 10^6, 2.86 -> 2.55
+// ticks an element.
+__attribute__((noinline)) __m128 UpperBandLA(__m128 x, __m128 y, __m128 band) {
+    int bits = MaskBits(band);
+    if (!bits) return y;
+    alignas(16) float xs[4], ys[4];
+    StoreAligned(xs, x);
+    StoreAligned(ys, y);
+    do {
+        int i = __builtin_ctz(bits);
+        ys[i] = float(HalfExpScalar(std::fabs(double(xs[i]))));
+        bits &= bits - 1;
+    } while (bits);
+    return LoadAligned(ys);
+}
+
 template <Fn F, Level L>
 inline __m128 HyperOf(__m128 a) {
     if constexpr (L == Level::HA)
@@ -314,6 +335,12 @@ struct HyperBody {
             special = HeldRangeTest(x, sinh ? W::kSinhWindowHA : W::kWindowHA);
         V a = IfThenZeroElse(special, Abs(x)); // special lanes run on 0
         V y = HyperOf<F, L>(a);
+        if constexpr (sizeof(T) == 4 && L == Level::LA)
+            if (__builtin_expect(MaskBits(special) != 0, 0)) {
+                V over = HeldRangeTest(x, CoshWindow<float>::kWindowHA);
+                y = UpperBandLA(x, y, AndNot(over, special));
+                special = over;
+            }
         if constexpr (F == Fn::Sinh) y = Or(y, SignBit(x));
         return y;
     }
