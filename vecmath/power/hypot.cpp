@@ -71,12 +71,15 @@ inline __m128d HypotWide(__m128d a, __m128d b) {
     return Sqrt(Add(Mul(a, a), Mul(b, b)));
 }
 
-// x^2 - xx for xx = x*x rounded: from x's halves with the low 27 bits masked off, whose
-// products are exact but for that of the low halves (rounded by 2^-104 of x^2, far
-// below what the root's correction needs).
-inline __m128d SquareTail(__m128d x, __m128d xx) {
+// x^2 as hi^2 + (hi + x)*lo for x = hi + lo, hi x's leading 26 bits (the low 27 masked
+// off): hi^2 is exact, and the second part, 2^-24 of x^2 at most, rounds twice by 2^-53
+// of itself. The first part goes back as it is, the second rounded.
+struct SquareParts {
+    __m128d head, tail;
+};
+inline SquareParts SquareInParts(__m128d x) {
     const auto s = cx::SplitByMask(x);
-    return Add(Add(Sub(Mul(s.hi, s.hi), xx), Mul(Add(s.hi, s.hi), s.lo)), Mul(s.lo, s.lo));
+    return {Mul(s.hi, s.hi), Mul(Add(s.hi, x), s.lo)};
 }
 
 // M registers of single HA at once, each step over all of them before the next: the
@@ -144,12 +147,13 @@ BRENN_VEC int HypotHARound(const __m128* a, const __m128* b, __m128* y) {
 }
 
 // The root of x^2 + z^2 for x >= z >= 0 with x in [2^-400, 2^400) (or scaled into
-// [1, 2)). HA: x^2 = xx + SquareTail and r^2 = rr + SquareTail exactly for r = sqrt(s)
-// rounded, s = xx + zz; z^2 rounded (at most a quarter ulp of the sum away). Then
-// r + d/(2r) with d = x^2 + z^2 - r^2: xx - rr is exact (rr lies within a factor 2 of
-// xx), and adding zz cancels to a few ulps of s, exactly (Sterbenz) or with zz itself
-// that small; |d/(2r)| is within about 1.5 ulp of r, so that 1/(2r) to 2^-6 adds at most
-// 0.03 ulp: within about 0.55 ulp in all.
+// [1, 2)). HA: r = sqrt(s) rounded, s = x*x + z*z, and r + d/(2r) with the residual
+// d = x^2 + z^2 - r^2 from SquareInParts of x and r (z^2 rounded: at most a quarter ulp
+// of the sum away): the heads are multiples of the square of x's last kept bit, and
+// their difference (about z^2) is below 2^52 of it, so exact; adding z^2 cancels it to
+// about the size of the tails, and the tails' difference rounds by 2^-77 of s. |d/(2r)| is within
+// about 1.5 ulp of r, so that 1/(2r) to 2^-6 adds at most 0.03 ulp: within about 0.6 ulp
+// in all.
 template <Level L, int M>
 BRENN_VEC void HypotScaled(const __m128d* x, const __m128d* z, __m128d* y) {
     if constexpr (L != Level::HA) {
@@ -163,11 +167,10 @@ BRENN_VEC void HypotScaled(const __m128d* x, const __m128d* z, __m128d* y) {
     // first, their corrections wait in the scheduler; measured 5 % slower)
 #pragma GCC unroll 8
     for (int k = 0; k < M; ++k) {
-        const __m128d xx = Mul(x[k], x[k]), zz = Mul(z[k], z[k]);
-        const __m128d r = Sqrt(Add(xx, zz));
-        const __m128d rr = Mul(r, r);
-        __m128d d = Add(Sub(xx, rr), zz);
-        d = Add(d, Sub(SquareTail(x[k], xx), SquareTail(r, rr)));
+        const __m128d zz = Mul(z[k], z[k]);
+        const __m128d r = Sqrt(Add(Mul(x[k], x[k]), zz));
+        const SquareParts xp = SquareInParts(x[k]), rp = SquareInParts(r);
+        const __m128d d = Add(Add(Sub(xp.head, rp.head), zz), Sub(xp.tail, rp.tail));
         // 1/(2r) from the bits (within 12 %) and one Newton step (1.5 %).
         const __m128d r2 = Add(r, r);
         __m128d h = AsFloat(Sub(Set<int64_t>(0x7FDE623822FC16E6ll), AsInt(r2)));
@@ -288,14 +291,21 @@ struct HypotBody {
                 return 0;
             }
         } else {
-            V big[8], small[8], wide = Zero<double>();
+            // The plain range by the least and the largest high word of the larger operands
+            // (the 32-bit maximum of |a| and |b|, whose high word is the larger one's, NaN
+            // above infinity; their low words mix in but MaskBits reads the high ones).
+            V big[8], small[8];
+            I32x4 least, most;
 #pragma GCC unroll 8
             for (int k = 0; k < 8; ++k) {
                 V ax = Abs(a[k]), bx = Abs(b[k]);
                 big[k] = Max(ax, bx), small[k] = Min(ax, bx);
-                wide =
-                    Or(wide, Or(RangeTest(big[k], R::kPlain), RangeTest(Max(bx, ax), R::kPlain)));
+                const I32x4 high = Max(BitCast<I32x4>(ax), BitCast<I32x4>(bx));
+                least = k == 0 ? high : Min(least, high);
+                most = k == 0 ? high : Max(most, high);
             }
+            const V wide = Or(RangeTest(BitCast<V>(least), R::kPlain),
+                              RangeTest(BitCast<V>(most), R::kPlain));
             if (__builtin_expect(MaskBits(wide) == 0, 1)) {
                 HypotScaled<L, 8>(big, small, y);
                 return 0;
