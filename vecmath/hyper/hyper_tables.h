@@ -2,8 +2,10 @@
  * into hyper_tables.cpp. Row 0 holds [0, 2^-5), row k (1 to 132) the k-th sixteenth of a
  * binade from 2^-5 on, up to 10; row 133 is the constant 1.
  *   tanhRowsLA[k] = {c0, c1, c2, c3}, tanh(a) ~ ((c3*a + c2)*a + c1)*a + c0;
- *   tanhRowsHA[k] = {c0, ..., c4, 0, 0, 0}, the quartic likewise, in rows of 64 bytes;
  *   tanhRowsEP[k] = {c0, c1},         tanh(a) ~ c1*a + c0.
+ * The HA rows, 32 a binade: row 0 [0, 2^-5), row k (1 to 264) the k-th 32nd of a binade
+ * from 2^-5 on, up to 10; row 265 the argument 10:
+ *   tanhRowsHA[k] = {c, H, L, K}, the midpoint c, tanh(c) ~ H + L, K ~ 1 - tanh(c)^2.
  * And the exponential rows of the single HA Cosh and Sinh, j = 0..63:
  *   hyperExpRowsS[j] = {Thi, Tlo, Uhi, Ulo}, T = 2^(j/64) and U = 2^(-j/64), each as two
  *   singles whose sum is within 2^-48 of it. */
@@ -13,7 +15,7 @@
 namespace brenn::vm {
 
 extern const double tanhRowsLA[134][4];
-extern const double tanhRowsHA[134][8];
+extern const float tanhRowsHA[266][4];
 extern const double tanhRowsEP[134][2];
 extern const float hyperExpRowsS[64][4];
 

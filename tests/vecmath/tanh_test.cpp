@@ -1,0 +1,104 @@
+// Tanh at HA where its bodies change path. Single: the rows' points (each inside its own
+// interval, so that a - c is exact, with tanh(c) a single to 2^-12 ulp), every row's ends
+// and middle against long double, the constant rows near 1 and the rounding point 9.0109
+// among them, and small arguments, which come back as themselves without the underflow
+// flag.
+#include <cfloat>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <vector>
+#include <xmmintrin.h>
+
+#include "frame/dispatch.h"
+#include "tests/vecmath/kernels.h"
+#include "vecmath/hyper/hyper_tables.h"
+
+namespace brenn::test {
+namespace {
+
+constexpr int kRowsHA = 266;
+
+// The HA kernel of a row, from the library's dispatch table.
+template <class T>
+Unary<T> HA(int row) {
+    return reinterpret_cast<Unary<T>>((&BrennDispatchTable[row].kernelLA)[frame::SlotHA]);
+}
+
+float AsFloat(uint32_t b) {
+    return __builtin_bit_cast(float, b);
+}
+// The first argument of HA row k, 1 to 265 (265: the argument 10).
+uint32_t RowStart(int k) {
+    return 0x3D000000u + uint32_t(k - 1) * 0x40000u;
+}
+
+TEST(Tanh, SingleRowsHoldTheirPoints) {
+    EXPECT_EQ(vm::tanhRowsHA[0][0], 0.0f); // row 0: s itself
+    EXPECT_EQ(vm::tanhRowsHA[0][1], 0.0f);
+    EXPECT_EQ(vm::tanhRowsHA[0][2], 1.0f);
+    EXPECT_EQ(AsFloat(RowStart(kRowsHA - 1)), 10.0f);
+    EXPECT_EQ(vm::tanhRowsHA[kRowsHA - 1][1], 1.0f);
+    EXPECT_EQ(vm::tanhRowsHA[kRowsHA - 1][2], 0.0f);
+    int constants = 0;
+    for (int k = 1; k < kRowsHA - 1; ++k) {
+        const float* r = vm::tanhRowsHA[k];
+        EXPECT_GE(Bits(r[0]), RowStart(k)) << k;
+        EXPECT_LT(Bits(r[0]), RowStart(k + 1)) << k;
+        long double tau = tanhl(r[0]);
+        if (r[2] == 0) {
+            // A constant row: within 0.52 ulp over the whole interval.
+            ++constants;
+            EXPECT_GE(r[0], 8.75f) << k;
+            EXPECT_LE(UlpError(r[1], tanhl(AsFloat(RowStart(k)))), 0.52) << k;
+            EXPECT_LE(UlpError(r[1], tanhl(AsFloat(RowStart(k + 1) - 1))), 0.52) << k;
+        } else {
+            EXPECT_LE(UlpError(r[1], tau), 0x1p-12) << k;
+            EXPECT_LE(fabsl(r[2] - (1 - tau * tau)), 0x1p-24L * r[2]) << k;
+        }
+    }
+    EXPECT_EQ(constants, 5); // [8.75, 9), [9, 9.25), ..., [9.75, 10)
+}
+
+float TanhHA(float x) {
+    return CallUnary(HA<float>(frame::Row_sTanh), x);
+}
+
+// Both ends of every row and its middle, both signs, and the steps around the rounding
+// points near 1: within 0.55 ulp (the row's neglected rest and roundings are a few
+// hundredths).
+TEST(Tanh, SingleEveryRowWithinItsBound) {
+    std::vector<float> x;
+    for (int k = 1; k < kRowsHA; ++k)
+        for (uint32_t b : {RowStart(k) - 1, RowStart(k), RowStart(k) + 1, RowStart(k) + 0x20000u,
+                           RowStart(k) + 0x3FFFFu})
+            x.push_back(AsFloat(b));
+    for (float v : {8.664f, 8.66434f, 8.75f, 8.99999f, 9.0f, 9.01f, 9.0109f, 9.011f, 9.5f, 9.99999f,
+                    10.0f, 10.00001f, 12.0f})
+        x.push_back(v);
+    for (float v : x)
+        for (float s : {v, -v}) {
+            float y = TanhHA(s);
+            EXPECT_LE(UlpError(y, tanhl(s)), 0.55) << std::hexfloat << s << " got " << y;
+        }
+}
+
+// Below 2^-13 tanh rounds to its argument: zeros with their sign, denormals and the
+// smallest normals given back exactly, and no underflow flag (the short tanh's square is
+// not taken below 2^-40); above the cut the cube counts again.
+TEST(Tanh, SingleSmallArgumentsAsThemselves) {
+    const float small[] = {0.0f, FLT_TRUE_MIN, 5 * FLT_TRUE_MIN, 1e-40f, FLT_MIN, 0x1.8p-100f,
+                           0x1.fffffep-41f, 0x1p-40f, 0x1.000002p-40f, 0x1p-30f, 0x1.fffffep-14f};
+    for (float v : small)
+        for (float s : {v, -v}) {
+            CsrScope csr(0x1F80);
+            float y;
+            HA<float>(frame::Row_sTanh)(1, &s, &y);
+            EXPECT_EQ(_mm_getcsr() & 0x10, 0u) << std::hexfloat << s;
+            EXPECT_EQ(Bits(y), Bits(s)) << std::hexfloat << s;
+        }
+    for (float v : {0x1p-13f, 0x1.8p-9f, 0x1p-6f, 0x1.fffffep-6f, 0x1p-5f})
+        EXPECT_LE(UlpError(TanhHA(v), tanhl(v)), 0.55) << v;
+}
+
+} // namespace
+} // namespace brenn::test
