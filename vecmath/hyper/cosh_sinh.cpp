@@ -249,7 +249,7 @@ inline __m128 HyperSingleHA(__m128 a) {
     const __m128 shifter = Set<float>(Format<float>::kShifter);
     __m128 an = a;
     if constexpr (F == Fn::Sinh) // n = 0 below 1/8
-        an = IfThenZeroElse(AsFloat(Gt(Set<uint32_t>(kSinhSmallEndHA), AsInt(a))), a);
+        an = IfThenZeroElse(AsFloat(Gt(Opaque(Set<uint32_t>(kSinhSmallEndHA)), AsInt(a))), a);
     __m128 t = Add(Mul(an, Set<float>(kInvStepS)), shifter);
     __m128 n = Sub(t, shifter);
     __m128 r = Sub(Sub(a, Mul(n, Set<float>(kStepHiS))), Mul(n, Set<float>(kStepLoS)));
@@ -276,8 +276,9 @@ inline __m128 HyperSingleHA(__m128 a) {
         FastTwoSum(ah, bh, s, err);
         other = Sub(ah, bh);
         tails = Add(al, bl);
-    } else {
-        FastTwoSum(ah, Neg(bh), s, err);
+    } else { // FastTwoSum(ah, -bh) without the negation: the same exact steps
+        s = Sub(ah, bh);
+        err = Sub(Sub(ah, s), bh);
         other = Add(ah, bh);
         tails = Sub(al, bl);
     }
