@@ -2,7 +2,8 @@
 // interval, so that a - c is exact, with tanh(c) a single to 2^-12 ulp), every row's ends
 // and middle against long double, the constant rows near 1 and the rounding point 9.0109
 // among them, and small arguments, which come back as themselves without the underflow
-// flag.
+// flag. Double: the rows' midpoints and parts, every row's ends and middle against long
+// double, the rounding points 18.71 and 19.06 near 1, and small arguments.
 #include <cfloat>
 #include <cmath>
 #include <gtest/gtest.h>
@@ -98,6 +99,71 @@ TEST(Tanh, SingleSmallArgumentsAsThemselves) {
         }
     for (float v : {0x1p-13f, 0x1.8p-9f, 0x1p-6f, 0x1.fffffep-6f, 0x1p-5f})
         EXPECT_LE(UlpError(TanhHA(v), tanhl(v)), 0.55) << v;
+}
+
+constexpr int kRowsD = 297;
+
+double AsDouble(uint64_t b) {
+    return __builtin_bit_cast(double, b);
+}
+// The first argument of double row k, 1 to 296 (296: the argument 19.5), and half a row.
+uint64_t RowStartD(int k) {
+    return (uint64_t(0x3FA00000u) + uint64_t(k - 1) * 0x8000u) << 32;
+}
+constexpr uint64_t kHalfRowD = uint64_t(0x4000u) << 32;
+
+// Each row's point is its midpoint, H + L is tanh there (to the 64 bits long double has),
+// K = 1 - tanh^2 = 1/cosh^2.
+TEST(Tanh, DoubleRowsHoldTheirMidpoints) {
+    EXPECT_EQ(AsDouble(RowStartD(kRowsD - 1)), 19.5);
+    EXPECT_EQ(vm::tanhRowsD[kRowsD - 1][1], 1.0);
+    EXPECT_EQ(vm::tanhRowsD[kRowsD - 1][3], 0.0);
+    EXPECT_EQ(vm::tanhRowsD[0][1], 0.0);
+    EXPECT_EQ(vm::tanhRowsD[0][3], 1.0);
+    for (int k = 1; k < kRowsD - 1; ++k) {
+        const double* r = vm::tanhRowsD[k];
+        EXPECT_EQ(Bits(r[0]), RowStartD(k) + kHalfRowD) << k;
+        long double tau = tanhl((long double)r[0]);
+        EXPECT_LE(fabsl((long double)r[1] - tau), 0x1p-53L * r[1]) << k;
+        EXPECT_LE(fabsl(((long double)r[1] + r[2]) - tau), 0x1p-62L * r[1]) << k;
+        long double sech = 1 / coshl((long double)r[0]);
+        EXPECT_LE(fabsl(r[3] - sech * sech), 0x1p-50L * r[3]) << k;
+    }
+}
+
+double TanhHAD(double x) {
+    return CallUnary(HA<double>(frame::Row_dTanh), x);
+}
+
+// Both ends of every row and its middle, both signs, and the rounding points near 1
+// (1 - 2^-53 from 18.71 on, 1 from 19.06 on): within 0.55 ulp of long double's tanh
+// (whose own error is 2^-11 ulp of a double).
+TEST(Tanh, DoubleEveryRowWithinItsBound) {
+    std::vector<double> x;
+    for (int k = 1; k < kRowsD; ++k)
+        for (uint64_t b : {RowStartD(k) - 1, RowStartD(k), RowStartD(k) + 1,
+                           RowStartD(k) + kHalfRowD, RowStartD(k + 1) - 1})
+            x.push_back(AsDouble(b));
+    for (double v : {18.7149, 18.715, 19.0, 19.06, 19.0615, 19.062, 19.4999, 19.5, 20.0, 22.0, 1e300})
+        x.push_back(v);
+    for (double v : x)
+        for (double s : {v, -v}) {
+            double y = TanhHAD(s);
+            EXPECT_LE(UlpError(y, tanhl(s)), 0.55) << std::hexfloat << s << " got " << y;
+        }
+    EXPECT_EQ(TanhHAD(19.07), 1.0);
+    EXPECT_EQ(TanhHAD(-19.5), -1.0);
+    EXPECT_EQ(TanhHAD(18.8), 1 - 0x1p-53);
+}
+
+// Below 2^-27 tanh rounds to its argument: zeros with their sign, denormals and small
+// normals given back exactly; up to 2^-5 the short tanh is the result.
+TEST(Tanh, DoubleSmallArgumentsAsThemselves) {
+    for (double v : {0.0, 5e-324, 1e-310, DBL_MIN, 0x1.8p-600, 0x1p-300, 0x1.fffffffffffffp-28})
+        for (double s : {v, -v})
+            EXPECT_EQ(Bits(TanhHAD(s)), Bits(s)) << std::hexfloat << s;
+    for (double v : {0x1p-27, 0x1.8p-20, 0x1p-9, 0x1.fffffffffffffp-6, 0x1p-5})
+        EXPECT_LE(UlpError(TanhHAD(v), tanhl(v)), 0.55) << v;
 }
 
 } // namespace

@@ -5,7 +5,11 @@
  *   tanhRowsEP[k] = {c0, c1},         tanh(a) ~ c1*a + c0.
  * The HA rows, 32 a binade: row 0 [0, 2^-5), row k (1 to 264) the k-th 32nd of a binade
  * from 2^-5 on, up to 10; row 265 the argument 10:
- *   tanhRowsHA[k] = {c, H, L, K}, the midpoint c, tanh(c) ~ H + L, K ~ 1 - tanh(c)^2.
+ *   tanhRowsHA[k] = {c, H, K, 0}, c near the midpoint with tanh(c) a single H to 2^-12
+ *                   ulp, K ~ 1 - H^2 (from 8.75 on constants {midpoint, H, 0, 0}).
+ * The rows of the double Tanh, 32 a binade: row 0 [0, 2^-5), row k (1 to 295) the k-th
+ * 32nd of a binade from 2^-5 on, up to 19.5; row 296 the argument 19.5:
+ *   tanhRowsD[k] = {c, H, L, K}, the midpoint c, tanh(c) ~ H + L, K ~ 1 - tanh(c)^2.
  * And the exponential rows of the single HA Cosh and Sinh, j = 0..63:
  *   hyperExpRowsS[j] = {Thi, Tlo, Uhi, Ulo}, T = 2^(j/64) and U = 2^(-j/64), each as two
  *   singles whose sum is within 2^-48 of it. */
@@ -16,6 +20,7 @@ namespace brenn::vm {
 
 extern const double tanhRowsLA[134][4];
 extern const float tanhRowsHA[266][4];
+extern const double tanhRowsD[297][4];
 extern const double tanhRowsEP[134][2];
 extern const float hyperExpRowsS[64][4];
 

@@ -16,9 +16,13 @@
  * (exact: a and c share their exponent) by a short odd polynomial. The part after H is
  * under 1/64 of the result, so that its few roundings cost about a tenth of an ulp.
  * Row 0 (below 2^-5) has c = H = 0 and K = 1 and gives s itself.
- * Double, a held at 22, where tanh is 1 to the last bit: (E - 1)/(E + 1) from the one
- * exponential E = e^(2a) as a pair, the quotient corrected once at HA, and the Taylor
- * series below 1/16; rounds of sixteen take each step over their eight registers.
+ * Double HA, the same theorem on rows of doubles: a held at 19.5 (tanh is 1 to the last
+ * bit from 19.06 on) picks one of 32 rows a binade from the high word, {c, H, L, K} with
+ * the row's midpoint c, tanh(c) ~ H + L and K ~ 1 - tanh(c)^2; the result is
+ * H + (L + K*s/(1 + H*s)), s = tanh(a - c) by an odd polynomial of degree 11.
+ * Double LA and EP, a held at 22: (E - 1)/(E + 1) from the one exponential E = e^(2a) as
+ * a pair, and the Taylor series below 1/16; rounds of sixteen take each step over their
+ * eight registers.
  * Only exponents of all ones go to the scalar routine (1 with x's sign, or the NaN);
  * nothing is reported. */
 #include "frame/kernels.h"
@@ -100,11 +104,8 @@ constexpr double kTanhOne = 22.0;
 // One exponential, E = e^(2a) = 2^m*T[j]*(1 + p(r)) by the table of 64 (exp_core.h,
 // degree six), and tanh a = (E - 1)/(E + 1). E's head 2^m*Thi is exact and at least 1,
 // so its sums with -1 and +1 split exactly; the numerator is renormalised, since for
-// small m and j its head Thi - 1 and its tail are of one size. LA and EP take the
-// quotient of the rounded sums as it stands (within 2 ulp); HA corrects it once by the
-// remainder N - q*D, whose product q*Dhi is taken exactly from halves cut by a mask (26
-// and 27 bits times 26) and the rest of Dhi, and rem/D by the single reciprocal estimate
-// of Dhi (the correction is an ulp or two).
+// small m and j its head Thi - 1 and its tail are of one size. The quotient of the
+// rounded sums as it stands is within 2 ulp (LA and EP).
 // Below 1/16, where E - 1 would lose to cancellation what the roundings of r and of
 // Thi*p leave, the Taylor series of tanh to a^13 (the next term is 2^-65 of a).
 // In steps, so that a round can take each over all its registers: E, then the quotient,
@@ -127,7 +128,6 @@ BRENN_VEC Pair TanhExpStep(__m128d a) {
     e.lo = Mul(Add(Mul(th, p), tl), sc);
     return e;
 }
-template <bool kCorrect>
 BRENN_VEC __m128d TanhQuotientStep(const Pair& E) {
     const __m128d one = Set<double>(1.0);
     __m128d nh, nl, dh, dl, e;
@@ -135,14 +135,7 @@ BRENN_VEC __m128d TanhQuotientStep(const Pair& E) {
     FastTwoSum(nh, Add(e, E.lo), nh, nl);
     FastTwoSum(E.hi, one, dh, e);
     dl = Add(e, E.lo);
-    if constexpr (!kCorrect) return Div(Add(nh, nl), Add(dh, dl));
-    __m128d q = Div(nh, Add(dh, dl));
-    __m128d dhh, dhl, qh, ql;
-    CutHalves(dh, dhh, dhl);
-    CutHalves(q, qh, ql);
-    __m128d rem = Sub(Sub(Sub(nh, Mul(qh, dhh)), Mul(ql, dhh)), Mul(q, dhl));
-    rem = Add(rem, Sub(nl, Mul(q, dl)));
-    return Add(q, Mul(rem, RecipEstimate(dh)));
+    return Div(Add(nh, nl), Add(dh, dl));
 }
 // The lanes below 1/16 of y replaced by the series, in a register that has one.
 BRENN_VEC __m128d TanhSeriesBlend(__m128d a, __m128d y) {
@@ -155,21 +148,59 @@ BRENN_VEC __m128d TanhSeriesBlend(__m128d a, __m128d y) {
     return y;
 }
 
+// The double rows: 32 a binade from 2^-5 (high word 0x3FA00000) on, a held at 19.5.
+constexpr uint32_t kRowBaseD = 0x3F9F8000u;
+constexpr int kRowShiftD = 15;
+constexpr double kTanhHoldD = 19.5;
+// s(t) = t + t*u*Q(u) ~ tanh(t), u = t^2 (tools/hyper/tanh_double.sollya: relative error
+// 2^-69 below 2^-5, 2^-51.7 to 1/16, 2^-41 to 1/8, 2^-31.5 to 1/4).
+constexpr double kTanhQD[] = {-0x1.5555555555555p-2, 0x1.111111110ed7bp-3,
+                              -0x1.ba1ba139ce393p-5, 0x1.6649ebc7e567ep-6,
+                              -0x1.0f30904e4eae6p-7};
+
+// HA by the rows: tanh(c + t) = tau + K*s/(1 + tau*s), tau = H + L.
+BRENN_VEC __m128d TanhRowsD(__m128d x) {
+    __m128d a = Min(Abs(x), Set<double>(kTanhHoldD));
+    // The row's byte offset (rows of 32 bytes) in each high word.
+    I32x4 row = Sub(And(BitCast<I32x4>(AsInt(a)), Set<uint32_t>(0x7FFF8000u)),
+                    Set<uint32_t>(kRowBaseD));
+    row = ShiftRight<kRowShiftD - 5>(Max(row, Set<int32_t>(0)));
+    const char* base = reinterpret_cast<const char*>(tanhRowsD);
+    const double* r0 = reinterpret_cast<const double*>(base + uint32_t(ExtractLane<1>(row)));
+    const double* r1 = reinterpret_cast<const double*>(base + uint32_t(ExtractLane<3>(row)));
+    __m128d c, h, l, k;
+    LoadTransposed(r0, r1, c, h);
+    LoadTransposed(r0 + 2, r1 + 2, l, k);
+    __m128d t = Sub(a, c);
+    __m128d u = Mul(t, t);
+    __m128d s = Add(t, Mul(Mul(t, u), Horner(u, kTanhQD)));
+    __m128d rest = Div(Mul(k, s), Add(Set<double>(1.0), Mul(h, s)));
+    return Or(Add(h, Add(l, rest)), SignBit(x));
+}
+
 // One register: a register with only lanes below 1/16 skips the exponential.
 template <Level L>
 BRENN_VEC __m128d TanhOf(__m128d x) {
+    if constexpr (L == Level::HA) return TanhRowsD(x);
     __m128d a = Min(Abs(x), Set<double>(kTanhOne));
     __m128d y = a;
     if (MaskBits(Lt(a, Set<double>(kTanhSmallEnd))) != 3)
-        y = TanhQuotientStep<L == Level::HA>(TanhExpStep(a));
+        y = TanhQuotientStep(TanhExpStep(a));
     return Or(TanhSeriesBlend(a, y), SignBit(x));
 }
 
 // A double round of sixteen step by step over its eight registers, x's special lanes
 // already 0: the exponentials, then the quotients, then the series where a register
-// has a small lane (its test once a round, on the round's least |x|).
+// has a small lane (its test once a round, on the round's least |x|). At HA each
+// register goes through the rows, the compiler interleaving the eight.
 template <Level L>
 BRENN_VEC void TanhRound(const __m128d* x, __m128d* y) {
+    if constexpr (L == Level::HA) {
+#pragma GCC unroll 8
+        for (int k = 0; k < 8; ++k)
+            y[k] = TanhRowsD(x[k]);
+        return;
+    }
     __m128d a[8];
 #pragma GCC unroll 8
     for (int k = 0; k < 8; ++k)
@@ -183,7 +214,7 @@ BRENN_VEC void TanhRound(const __m128d* x, __m128d* y) {
         e[k] = TanhExpStep(a[k]);
 #pragma GCC unroll 8
     for (int k = 0; k < 8; ++k)
-        y[k] = TanhQuotientStep<L == Level::HA>(e[k]);
+        y[k] = TanhQuotientStep(e[k]);
     if (small) {
 #pragma GCC unroll 8
         for (int k = 0; k < 8; ++k)
