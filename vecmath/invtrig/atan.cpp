@@ -12,10 +12,10 @@
  * (atan_tables.h): c is a = |x| with its significand cut to a few bits (4 in double, 5 in
  * single) for a in [2^-5, 2^5) ([2^-6, 2^6) in single), so that a - c is exact, and
  * atan(a) = atan(c) + atan(u), u = (a - c)/(1 + a c), |u| at most 2^-5 (2^-6): atan(c)
- * from the table in two parts, atan(u) a short odd series (four terms in double, two in
- * single), the head of atan(c) and u joined by the fast exact sum. Below the table u = a,
- * above it u = -1/a and atan(c) is pi/2. One division and no correction of it: its
- * rounding reaches the result scaled by |u|/atan(a), below a twelfth.
+ * from the table in two parts, atan(u) a short odd series (four terms in double, one in
+ * single), the head of atan(c) and u joined by the fast exact sum in double. Below the
+ * table u = a, above it u = -1/a and atan(c) is pi/2. One division and no correction of
+ * it: its rounding reaches the result scaled by |u|/atan(a), below a twelfth.
  * Single Atan2 HA runs the fold of the double steps below in single, n - d and
  * n + d as exact pairs, the quotient's error from its exact residual and the base joined
  * by an exact sum (atan_body.h); it keeps its lanes to magnitudes in [2^-50, 2^50)
@@ -37,7 +37,7 @@
  * two). Nothing is reported.
  *
  * Measured (brenn_accuracy, 250000 inputs a row), LA / HA in ulp, EP in bits: sAtan
- * 2.62 / 0.511 / 12.3, sAtan2 2.16 / 0.524 / 14.9, sAtanpi 0.510 / 0.510 / 12.3,
+ * 2.62 / 0.525 / 12.3, sAtan2 2.16 / 0.524 / 14.9, sAtanpi 0.510 / 0.510 / 12.3,
  * sAtan2pi 0.507 / 0.507 / 14.9; dAtan 0.531 (one kernel) / 30.5, dAtan2 0.961 / 0.582 /
  * 30.5, dAtanpi 0.743 / 0.743 / 30.5, dAtan2pi 0.692 / 0.692 / 30.5. */
 #include "frame/kernels.h"

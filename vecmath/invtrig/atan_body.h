@@ -317,33 +317,41 @@ BRENN_VEC __m128 InDouble(__m128 a, __m128 b) {
 // row's, held to [0, N + 1] by integer min and max: a NaN takes the top row and comes out
 // of the quotient), u = ((a & mask) - c)/((1 & mask) + a c) by one division: a/1, the
 // exact (a - c)/(1 + a c) or -1/a (an infinity gives -0, the angle pi/2), |u| <= 2^-5
-// (2^-6 in single); then atan(a) = hi + u + (lo + u^3 P(u^2)), hi + u by the fast exact
-// sum (hi is 0 or above |u|). The quotient's rounding, 1.5 ulp of u at most, moves the
-// result by |u|/atan(a) of it, below 1/12 (1/25 in single) of an ulp of the result.
-// In two steps, the row and quotient, then the angle, for the double rounds.
+// (2^-6 in single); then atan(a) = hi + u + (lo + u^3 P(u^2)). The quotient's rounding,
+// 1.5 ulp of u at most, moves the result by |u|/atan(a) of it, below 1/12 (1/25 in
+// single) of an ulp of the result. Double joins hi and u by the fast exact sum (hi is 0
+// or above |u|); single adds u to the tail first and hi last, where the sum's rounding is
+// again scaled by |u|/atan(a) (over every single input: 0.549 ulp at most).
+// In two steps, the row and quotient, then the angle, for the rounds of sixteen.
 template <class T>
 struct AtanTableState {
     Vec<T> x, u, hi, lo;
 };
-BRENN_VEC void AtanRowOf(__m128d a, __m128d& mask, __m128d& c, __m128d& hi, __m128d& lo) {
-    I32x4 i = BitCast<I32x4>(ShiftRight<48>(AsInt(a)));
+BRENN_VEC void AtanRowOf(__m128d x, __m128d& mask, __m128d& c, __m128d& hi, __m128d& lo) {
+    I32x4 i = BitCast<I32x4>(ShiftRight<48>(AsInt(Abs(x))));
     i = Min(Max(Sub(i, Set<int32_t>((1023 - 5) * 16 - 1)), Zero<int32_t>()), Set<int32_t>(161));
     GatherPairs(atanRowsD, BitCast<I64x2>(i), -1, mask, c, 0);
     GatherPairs(atanRowsD, BitCast<I64x2>(i), -1, hi, lo, 2);
 }
-BRENN_VEC void AtanRowOf(__m128 a, __m128& mask, __m128& c, __m128& hi, __m128& lo) {
-    I32x4 i = ShiftRight<18>(AsInt(a));
-    i = Min(Max(Sub(i, Set<int32_t>((127 - 6) * 32 - 1)), Zero<int32_t>()), Set<int32_t>(385));
-    Indices r = IndicesOf(i);
-    LoadTransposed(atanRowsS[r.at[0]], atanRowsS[r.at[1]], atanRowsS[r.at[2]], atanRowsS[r.at[3]],
-                   mask, c, hi, lo);
+BRENN_VEC void AtanRowOf(__m128 x, __m128& mask, __m128& c, __m128& hi, __m128& lo) {
+    // The rows' byte offsets, sixteen times the index: the scalar unit adds them as they
+    // are (no widening, no scaling).
+    I32x4 i = And(ShiftRight<14>(AsInt(x)), Set<int32_t>(0x1FFF0));
+    i = Min(Max(Sub(i, Set<int32_t>(((127 - 6) * 32 - 1) * 16)), Zero<int32_t>()),
+            Set<int32_t>(385 * 16));
+    const char* rows = reinterpret_cast<const char*>(atanRowsS);
+    auto row = [rows](int32_t offset) {
+        return reinterpret_cast<const float*>(rows + uint32_t(offset));
+    };
+    LoadTransposed(row(ExtractLane<0>(i)), row(ExtractLane<1>(i)), row(ExtractLane<2>(i)),
+                   row(ExtractLane<3>(i)), mask, c, hi, lo);
 }
 template <class V>
 BRENN_VEC AtanTableState<ElemOf<V>> AtanTableQuotient(V x) {
     using T = ElemOf<V>;
     V a = Abs(x), mask, c;
     AtanTableState<T> s;
-    AtanRowOf(a, mask, c, s.hi, s.lo);
+    AtanRowOf(x, mask, c, s.hi, s.lo);
     s.x = x;
     s.u = Div(Sub(And(a, mask), c), Add(And(mask, Set<T>(T(1))), Mul(a, c)));
     return s;
@@ -353,6 +361,8 @@ BRENN_VEC Vec<T> AtanTableAngle(const AtanTableState<T>& s) {
     using V = Vec<T>;
     V z = Mul(s.u, s.u);
     V t = Mul(Mul(s.u, z), Horner(z, AtanTableSeries<T>::kP));
+    if constexpr (sizeof(T) == 4)
+        return Or(Add(s.hi, Add(s.u, Add(s.lo, t))), SignBit(s.x));
     V y, e;
     FastTwoSum(s.hi, s.u, y, e);
     return Or(Add(y, Add(e, Add(s.lo, t))), SignBit(s.x));
@@ -361,9 +371,9 @@ template <class V>
 BRENN_VEC V AtanByTable(V x) {
     return AtanTableAngle(AtanTableQuotient(x));
 }
-template <int N>
-BRENN_VEC void AtanTableRound(const __m128d* x, __m128d* y) {
-    AtanTableState<double> s[N];
+template <int N, class V>
+BRENN_VEC void AtanTableRound(const V* x, V* y) {
+    AtanTableState<ElemOf<V>> s[N];
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k)
         s[k] = AtanTableQuotient(x[k]);
@@ -579,10 +589,15 @@ struct AtanBody {
         return AtanOf<U, L>(x);
     }
     // Double rounds of sixteen, step by step through the round's eight registers
-    // (AtanUnitRound, AtanWideRound).
-    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
+    // (AtanUnitRound, AtanWideRound, AtanTableRound), and single HA's through its four.
+    static constexpr bool kTable =
+        U == Unit::Radian && L != Level::EP && (sizeof(T) == 8 || L == Level::HA);
+    static constexpr int kRound = sizeof(T) == 8 || kTable ? 16 : 8;
     static int EvalWide(const V* x, V* y) {
-        if constexpr (sizeof(T) == 8) {
+        if constexpr (sizeof(T) == 4 && kTable) {
+            AtanTableRound<4>(x, y);
+            return 0;
+        } else if constexpr (sizeof(T) == 8) {
             if constexpr (L == Level::EP)
                 AtanWideRound<U, 8>(x, y);
             else if constexpr (U == Unit::Radian)
