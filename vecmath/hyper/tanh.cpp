@@ -19,7 +19,7 @@
  * Double HA, the same theorem on rows of doubles: a held at 19.5 (tanh is 1 to the last
  * bit from 19.06 on) picks one of 32 rows a binade from the high word, {c, H, L, K} with
  * the row's midpoint c, tanh(c) ~ H + L and K ~ 1 - tanh(c)^2; the result is
- * H + (L + K*s/(1 + H*s)), s = tanh(a - c) by an odd polynomial of degree 11.
+ * H + (L + K*s/(1 + H*s)), s = tanh(a - c) by an odd polynomial of degree 9.
  * Double LA and EP, a held at 22: (E - 1)/(E + 1) from the one exponential E = e^(2a) as
  * a pair, and the Taylor series below 1/16; rounds of sixteen take each step over their
  * eight registers.
@@ -153,10 +153,10 @@ constexpr uint32_t kRowBaseD = 0x3F9F8000u;
 constexpr int kRowShiftD = 15;
 constexpr double kTanhHoldD = 19.5;
 // s(t) = t + t*u*Q(u) ~ tanh(t), u = t^2 (tools/hyper/tanh_double.sollya: relative error
-// 2^-69 below 2^-5, 2^-51.7 to 1/16, 2^-41 to 1/8, 2^-31.5 to 1/4).
-constexpr double kTanhQD[] = {-0x1.5555555555555p-2, 0x1.111111110ed7bp-3,
-                              -0x1.ba1ba139ce393p-5, 0x1.6649ebc7e567ep-6,
-                              -0x1.0f30904e4eae6p-7};
+// 2^-63.7 below 2^-5, 2^-47.5 to 1/16, 2^-37 to 1/8, 2^-26.9 to 1/4, where the part
+// after H is under 2^-13.6, 2^-24 and 2^-46 of the result).
+constexpr double kTanhQD[] = {-0x1.5555555555554p-2, 0x1.11111110fe215p-3,
+                              -0x1.ba1b9bf56e7dfp-5, 0x1.6606423dcfd1fp-6};
 
 // HA by the rows: tanh(c + t) = tau + K*s/(1 + tau*s), tau = H + L.
 BRENN_VEC __m128d TanhRowsD(__m128d x) {
