@@ -16,20 +16,17 @@
  * (exact: a and c share their exponent) by a short odd polynomial. The part after H is
  * under 1/64 of the result, so that its few roundings cost about a tenth of an ulp.
  * Row 0 (below 2^-5) has c = H = 0 and K = 1 and gives s itself.
- * Double HA, the same theorem on rows of doubles: a held at 19.5 (tanh is 1 to the last
- * bit from 19.06 on) picks one of 32 rows a binade from the high word, {c, H, L, K} with
- * the row's midpoint c, tanh(c) ~ H + L and K ~ 1 - tanh(c)^2; the result is
- * H + (L + K*s/(1 + H*s)), s = tanh(a - c) by an odd polynomial of degree 9.
- * Double LA and EP, a held at 22: (E - 1)/(E + 1) from the one exponential E = e^(2a) as
- * a pair, and the Taylor series below 1/16; rounds of sixteen take each step over their
- * eight registers.
+ * Double, the same theorem on rows of doubles: a held at 19.5 (tanh is 1 to the last bit
+ * from 19.06 on) picks one of 32 rows a binade from the high word, {c, H, L, K} with the
+ * row's midpoint c, tanh(c) ~ H + L and K ~ 1 - tanh(c)^2; the result is
+ * H + (L + K*s/(1 + H*s)) at HA and H + K*s/(1 + H*s) at LA and EP, s = tanh(a - c) by
+ * an odd polynomial of degree 9.
  * Only exponents of all ones go to the scalar routine (1 with x's sign, or the NaN);
  * nothing is reported. */
 #include "frame/kernels.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/hyper/quiet_body.h"
-#include "vecmath/hyper/hyper_core.h"
 #include "vecmath/hyper/hyper_scalar.h"
 #include "vecmath/hyper/hyper_tables.h"
 
@@ -98,56 +95,6 @@ inline __m128 TanhOf(__m128 x) {
     return Or(Narrow(lo, hi), SignBit(x));
 }
 
-// Above this tanh is 1 in double.
-constexpr double kTanhOne = 22.0;
-
-// One exponential, E = e^(2a) = 2^m*T[j]*(1 + p(r)) by the table of 64 (exp_core.h,
-// degree six), and tanh a = (E - 1)/(E + 1). E's head 2^m*Thi is exact and at least 1,
-// so its sums with -1 and +1 split exactly; the numerator is renormalised, since for
-// small m and j its head Thi - 1 and its tail are of one size. The quotient of the
-// rounded sums as it stands is within 2 ulp (LA and EP).
-// Below 1/16, where E - 1 would lose to cancellation what the roundings of r and of
-// Thi*p leave, the Taylor series of tanh to a^13 (the next term is 2^-65 of a).
-// In steps, so that a round can take each over all its registers: E, then the quotient,
-// then the series where a register has a lane below 1/16.
-constexpr double kTanhSmallEnd = 0x1p-4;
-constexpr double kTanhTaylor[] = {-1.0 / 3,    2.0 / 15,         -17.0 / 315,
-                                  62.0 / 2835, -1382.0 / 155925, 21844.0 / 6081075};
-
-// E = eh + el.
-BRENN_VEC Pair TanhExpStep(__m128d a) {
-    __m128d t, n;
-    __m128d r = Reduce64<Format<double>::kBias>(Add(a, a), t, n);
-    __m128d th, tl;
-    ExpRows64(t, th, tl);
-    __m128d sc = PowerOf(t);
-    // The tail by Estrin's scheme: the body is bound by its chain, not by its operations.
-    __m128d p = Add(r, Mul(Mul(r, r), Estrin(r, ExpTail<ExpDegree::Six>::kC)));
-    Pair e;
-    e.hi = Mul(th, sc);
-    e.lo = Mul(Add(Mul(th, p), tl), sc);
-    return e;
-}
-BRENN_VEC __m128d TanhQuotientStep(const Pair& E) {
-    const __m128d one = Set<double>(1.0);
-    __m128d nh, nl, dh, dl, e;
-    FastTwoSum(E.hi, Neg(one), nh, e);
-    FastTwoSum(nh, Add(e, E.lo), nh, nl);
-    FastTwoSum(E.hi, one, dh, e);
-    dl = Add(e, E.lo);
-    return Div(Add(nh, nl), Add(dh, dl));
-}
-// The lanes below 1/16 of y replaced by the series, in a register that has one.
-BRENN_VEC __m128d TanhSeriesBlend(__m128d a, __m128d y) {
-    const __m128d isSmall = Lt(a, Set<double>(kTanhSmallEnd));
-    if (MaskBits(isSmall)) {
-        __m128d z = Mul(a, a);
-        __m128d series = Add(a, Mul(Mul(a, z), Horner(z, kTanhTaylor)));
-        y = IfThenElse(isSmall, series, y);
-    }
-    return y;
-}
-
 // The double rows: 32 a binade from 2^-5 (high word 0x3FA00000) on, a held at 19.5.
 constexpr uint32_t kRowBaseD = 0x3F9F8000u;
 constexpr int kRowShiftD = 15;
@@ -158,8 +105,10 @@ constexpr double kTanhHoldD = 19.5;
 constexpr double kTanhQD[] = {-0x1.5555555555554p-2, 0x1.11111110fe215p-3,
                               -0x1.ba1b9bf56e7dfp-5, 0x1.6606423dcfd1fp-6};
 
-// HA by the rows: tanh(c + t) = tau + K*s/(1 + tau*s), tau = H + L.
-BRENN_VEC __m128d TanhRowsD(__m128d x) {
+// By the rows: tanh(c + t) = tau + K*s/(1 + tau*s), tau = H + L at HA, H alone at LA and
+// EP (|L| is half an ulp at most).
+template <Level L>
+BRENN_VEC __m128d TanhOf(__m128d x) {
     __m128d a = Min(Abs(x), Set<double>(kTanhHoldD));
     // The row's byte offset (rows of 32 bytes) in each high word.
     I32x4 row = Sub(And(BitCast<I32x4>(AsInt(a)), Set<uint32_t>(0x7FFF8000u)),
@@ -168,61 +117,24 @@ BRENN_VEC __m128d TanhRowsD(__m128d x) {
     const char* base = reinterpret_cast<const char*>(tanhRowsD);
     const double* r0 = reinterpret_cast<const double*>(base + uint32_t(ExtractLane<1>(row)));
     const double* r1 = reinterpret_cast<const double*>(base + uint32_t(ExtractLane<3>(row)));
-    __m128d c, h, l, k;
+    __m128d c, h, lo, k;
     LoadTransposed(r0, r1, c, h);
-    LoadTransposed(r0 + 2, r1 + 2, l, k);
+    LoadTransposed(r0 + 2, r1 + 2, lo, k);
     __m128d t = Sub(a, c);
     __m128d u = Mul(t, t);
     __m128d s = Add(t, Mul(Mul(t, u), Horner(u, kTanhQD)));
     __m128d rest = Div(Mul(k, s), Add(Set<double>(1.0), Mul(h, s)));
-    return Or(Add(h, Add(l, rest)), SignBit(x));
+    if constexpr (L == Level::HA) rest = Add(lo, rest);
+    return Or(Add(h, rest), SignBit(x));
 }
 
-// One register: a register with only lanes below 1/16 skips the exponential.
-template <Level L>
-BRENN_VEC __m128d TanhOf(__m128d x) {
-    if constexpr (L == Level::HA) return TanhRowsD(x);
-    __m128d a = Min(Abs(x), Set<double>(kTanhOne));
-    __m128d y = a;
-    if (MaskBits(Lt(a, Set<double>(kTanhSmallEnd))) != 3)
-        y = TanhQuotientStep(TanhExpStep(a));
-    return Or(TanhSeriesBlend(a, y), SignBit(x));
-}
-
-// A double round of sixteen step by step over its eight registers, x's special lanes
-// already 0: the exponentials, then the quotients, then the series where a register
-// has a small lane (its test once a round, on the round's least |x|). At HA each
-// register goes through the rows, the compiler interleaving the eight.
+// A double round of sixteen: each register through the rows, the compiler interleaving
+// the eight (the special lanes already 0, the range tested once for the round).
 template <Level L>
 BRENN_VEC void TanhRound(const __m128d* x, __m128d* y) {
-    if constexpr (L == Level::HA) {
-#pragma GCC unroll 8
-        for (int k = 0; k < 8; ++k)
-            y[k] = TanhRowsD(x[k]);
-        return;
-    }
-    __m128d a[8];
 #pragma GCC unroll 8
     for (int k = 0; k < 8; ++k)
-        a[k] = Min(Abs(x[k]), Set<double>(kTanhOne));
-    __m128d least = Min(Min(Min(a[0], a[1]), Min(a[2], a[3])),
-                        Min(Min(a[4], a[5]), Min(a[6], a[7])));
-    const int small = MaskBits(Lt(least, Set<double>(kTanhSmallEnd)));
-    Pair e[8];
-#pragma GCC unroll 8
-    for (int k = 0; k < 8; ++k)
-        e[k] = TanhExpStep(a[k]);
-#pragma GCC unroll 8
-    for (int k = 0; k < 8; ++k)
-        y[k] = TanhQuotientStep(e[k]);
-    if (small) {
-#pragma GCC unroll 8
-        for (int k = 0; k < 8; ++k)
-            y[k] = TanhSeriesBlend(a[k], y[k]);
-    }
-#pragma GCC unroll 8
-    for (int k = 0; k < 8; ++k)
-        y[k] = Or(y[k], SignBit(x[k]));
+        y[k] = TanhOf<L>(x[k]);
 }
 
 struct TanhOp {
