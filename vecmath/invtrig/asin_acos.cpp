@@ -9,7 +9,7 @@
  *
  * Single EP keeps its three-term form in single (u + p(w) u); single LA runs the same
  * steps in single with a five-term series; single HA does too, with six terms, the root
- * of h in two parts and base, main term and tail joined by exact sums; the pi-scaled
+ * of h as an 11-bit head and a quotient, so that base less head is exact; the pi-scaled
  * single LA and HA run the double steps on the widened lanes with a six-term series and
  * narrow once. Double
  * EP, LA and HA use 5 (by Horner's rule; 6 in half-turns), 12 and 13 terms; HA also corrects the square root by its exact
@@ -22,7 +22,7 @@
  * domain status, NaN itself none, |x| > 1 NaN with the domain status.
  *
  * Measured (brenn_accuracy, 250000 inputs a row), LA / HA in ulp, EP in bits: sAsin
- * 2.22 / 0.581 / 14.0, sAcos 1.21 / 0.577 / 14.9, sAsinpi 0.506 / 0.506 / 14.0, sAcospi
+ * 2.22 / 0.593 / 14.0, sAcos 1.21 / 0.584 / 14.9, sAsinpi 0.506 / 0.506 / 14.0, sAcospi
  * 0.503 / 0.503 / 14.9; dAsin 1.67 / 0.627 / 27.1, dAcos 1.16 / 0.590 / 27.2, dAsinpi
  * 0.823 / 0.740 / 30.8, dAcospi 0.661 / 0.591 / 31.8. */
 #include <cmath>
@@ -139,14 +139,20 @@ BRENN_VEC V AngleOf(V x) {
 constexpr float kAsinSingleHA[] = {0x1.555548p-3f, 0x1.3339acp-4f, 0x1.6c8cf4p-5f,
                                    0x1.05790cp-5f, 0x1.cd5cc4p-7f, 0x1.36feeep-5f};
 
-// Single HA in single arithmetic: the steps of AngleOf with a six-term series, 2 sqrt(h)
-// carried as 2s + (h - s^2)/s and the angle base + u + l summed exactly. With s cut at 12
-// bits, s = sh + sl: h - sh^2 is exact (Sterbenz) and sl*(sh + s), 2 sh*sl + sl^2 to 2^-24
-// of itself, is about 2^-12 h, so h - s^2 comes out within 2^-12 of itself, far below
-// s^2; (h - s^2)/s by the reciprocal estimate, to 2^-12 of a term of 2^-23 of u. The
-// tail l = u*w*P(w) is within 0.05 of u and wrong by a few of its own ulps; base + u and
-// that + l are exact sums (the first sum is at least as large as l), so that l's error
-// and the last rounding are all (with l added to a rounded sum, up to 0.61 ulp).
+// Single HA in single arithmetic: the steps of AngleOf with a six-term series and the
+// root of h in two parts, sh (s cut to 11 bits) and the rest by one division: sqrt(h) is
+// sh + (h - sh^2)/(sqrt(h) + sh), and with s for sqrt(h) and the division rounded the
+// rest is good to 2^-23 of itself, at most 2^-10 of sh, so 2 sqrt(h) = u + d to about
+// 2^-33 of u, u = 2 sh. The numerator is exact: 1 - a = 2h (a >= 1/2), sh*u has 22 bits
+// and the difference is Sterbenz's. u has 11 bits and is at least 2^-11.5 (h >= 2^-25
+// below 1), so it lies on the grid of 2^-22 and the base less u, pi/2 - u or pi - u, is
+// exact. The series' tail is l = v*wP (v = u or a, exact) and the small terms d(1 + wP)
+// and the base's tail go beside it; l is within 0.05 of v and wrong by a few of its own
+// ulps, so that the sum of the exact head and l + the small terms is within about 0.6
+// ulp (measured 0.601 and 0.605 at 2*10^6 inputs, near |x| = 0.55). Acos's pi/2 - x in the
+// unfolded lanes is an exact sum, whose error term stands where the folded lanes have
+// d(1 + wP) (one blend: the sum is exact there). Every lane's angle is |y| for a y of
+// known sign, Asin's taking x's sign after that.
 template <Fn F>
 BRENN_VEC __m128 AngleSingleHA(__m128 x) {
     using Q = Quarter<float, Unit::Radian>;
@@ -156,29 +162,34 @@ BRENN_VEC __m128 AngleSingleHA(__m128 x) {
     __m128 w = Min(Mul(a, a), h);
     __m128 fold = Ge(w, h);
     __m128 s = Sqrt(h);
-    __m128 sh = And(s, AsFloat(Set<uint32_t>(0xFFFFF000u)));
-    __m128 r = Sub(Sub(h, Mul(sh, sh)), Mul(Sub(s, sh), Add(sh, s)));
-    __m128 ul = IfThenElseZero(fold, Mul(r, ApproxRecip(Max(s, Set<float>(0x1p-60f)))));
-    __m128 u = IfThenElse(fold, Add(s, s), a);
-    __m128 l = Mul(Mul(u, w), Horner(w, kAsinSingleHA));
-    __m128 sx = SignBit(x);
-    // The base in whole quarter turns (head exact), its tail in proportion.
-    __m128 base, flip;
+    __m128 sh = And(s, AsFloat(Set<uint32_t>(0xFFFFE000u)));
+    __m128 u = Add(sh, sh);
+    __m128 r = Sub(Sub(Set<float>(1.0f), a), Mul(sh, u));
+    __m128 d = Div(r, Max(Add(s, sh), Set<float>(0x1p-60f)));
+    __m128 p = Horner(w, kAsinSingleHA);
     if constexpr (F == Fn::Asin) {
-        // Folded: pi/2 - (u + l); the sign of x goes on at the end.
-        base = And(fold, Set<float>(2 * Q::kHi));
-        flip = And(fold, SignMask<float>());
+        // -y: folded u - pi/2 + (l + d - the tail of pi/2), unfolded a + l.
+        __m128 v = IfThenElse(fold, u, a);
+        __m128 k = And(fold, Set<float>(2 * Q::kHi));
+        __m128 wp = Mul(w, p);
+        __m128 c = And(fold, Add(Sub(d, Set<float>(2 * kQuarterTailS)), Mul(d, wp)));
+        __m128 l = Mul(v, wp);
+        __m128 y = Add(Sub(v, k), Add(l, c));
+        return Or(Abs(y), SignBit(x));
     } else {
-        // Folded: u + l for x >= 0, pi - (u + l) below; unfolded pi/2 -+ (u + l).
-        base = IfThenElse(fold, WhereNegative(x, Set<float>(4 * Q::kHi)), Set<float>(2 * Q::kHi));
-        flip = Xor(AndNot(fold, SignMask<float>()), sx);
+        // -y: unfolded x - pi/2 + (l - the tail of pi/2); folded u - pi (x < 0) or u (x >
+        // 0), + l + d less the base's tail. The base as -k, -pi/2 or -pi or 0.
+        __m128 v = IfThenElse(fold, u, x);
+        __m128 nk = IfThenElse(fold, WhereNegative(x, Set<float>(-4 * Q::kHi)),
+                               Set<float>(-2 * Q::kHi));
+        __m128 t, e;
+        FastTwoSum(nk, v, t, e);
+        __m128 wp = Mul(w, p);
+        __m128 c = IfThenElse(fold, Add(d, Mul(d, wp)), e);
+        __m128 l = Mul(v, wp);
+        __m128 y = Add(t, Add(l, Add(c, Mul(nk, Set<float>(kQuarterTailS / Q::kHi)))));
+        return Abs(y);
     }
-    __m128 y, e, v, f;
-    FastTwoSum(base, Xor(u, flip), y, e);
-    FastTwoSum(y, Xor(l, flip), v, f);
-    __m128 c = Add(Add(e, Mul(base, Set<float>(kQuarterTailS / Q::kHi))), Xor(ul, flip));
-    y = Add(v, Add(f, c));
-    return F == Fn::Asin ? Xor(y, sx) : y;
 }
 
 // The single steps (EP, LA, radian HA) as they are, and the others in double on widened
@@ -287,11 +298,18 @@ struct Body {
         return AnglesOf<F, U, L>(IfThenZeroElse(special, x));
     }
     static int Scalar(const T* a, T* y) { return invtrig::Scalar<F, U>(a, y); }
-    // Double rounds of sixteen, step by step over the round's registers (AnglesRound).
-    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
+    // Double rounds of sixteen, step by step over the round's registers (AnglesRound);
+    // single HA in radians takes its rounds of sixteen with the domain tested once a
+    // round (EvalTestOnce: the lanes outside run on 0, as in Eval).
+    static constexpr bool kTestOnce = sizeof(T) == 4 && L == Level::HA && U == Unit::Radian;
+    static constexpr int kRound = sizeof(T) == 8 || kTestOnce ? 16 : 8;
+    static constexpr LaneRange<T> kWindow = kDomain<T>;
+    static BRENN_VEC V Value(V x) { return AnglesOf<F, U, L>(x); }
     static int EvalWide(const V* x, V* y) {
         if constexpr (sizeof(T) == 8)
             return AnglesRound<F, U, L>(x, y);
+        else if constexpr (kTestOnce)
+            return EvalTestOnce<Body>(x, y);
         else
             return EvalByRegister<Body>(x, y);
     }
