@@ -190,6 +190,36 @@ TEST(Hyper, SingleTopRangeInLongCalls) {
         }
 }
 
+// Single HA Cosh and Sinh, every float in stretches around the places where the body
+// changes row or scale: Sinh's small band ending at 1/4, the rows of 2^(j/32) taking over
+// at n = 480 (10.397) and serving every n beyond (11.09, 22.18, m = 64 and 128), and the
+// top of the range. Within 0.6 ulp, the level's aim, in long calls.
+TEST(Hyper, SingleHAWhereTheRowsChange) {
+    const float centres[] = {0.25f, 10.3972077f, 11.0903549f, 22.1807098f, 44.3614197f,
+                             88.7228394f, 89.4099f};
+    std::vector<float> x;
+    for (float c : centres) {
+        float v = c;
+        for (int k = 0; k < 3000; ++k)
+            v = nextafterf(v, 0.0f);
+        for (int k = 0; k < 6000 && v < 89.4159f; ++k, v = nextafterf(v, 100.0f))
+            x.push_back(k & 1 ? -v : v);
+    }
+    std::vector<float> y(x.size());
+    for (Fn f : {Fn::Cosh, Fn::Sinh}) {
+        brenn_zar_kernel_SetErrStatus(0);
+        K<float>(RowOf<float>(f), kSlotHA)(int(x.size()), x.data(), y.data());
+        EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), 0);
+        double worst = 0;
+        float at = 0;
+        for (size_t i = 0; i < x.size(); ++i) {
+            double e = UlpError(y[i], Ref(f, x[i]));
+            if (e > worst) worst = e, at = x[i];
+        }
+        EXPECT_LE(worst, 0.6) << int(f) << " at " << at;
+    }
+}
+
 // Where Tanh rounds to 1: past the single table's last row, past 22 in double.
 template <class T>
 constexpr T kSaturated = sizeof(T) == 4 ? T(10.5) : T(22.5);

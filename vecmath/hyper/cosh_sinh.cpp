@@ -9,8 +9,8 @@
  * the body, UpperBandLA; those beyond, the routine). EP has the shorter pair and
  * runs up to 89.41, its scales a half smaller and the result doubled, so that no lane
  * below that point leaves its vector path.
- * Single HA: one reduction by ln2/64 and a table row of 2^(j/64) and 2^(-j/64) a lane, in
- * single arithmetic with the leading sum split exactly (HyperSingleHA below).
+ * Single HA: one reduction by ln2/32 and a table row of cosh and sinh at n*ln2/32 a lane,
+ * in single arithmetic, the row's head leading (HyperSingleHA below).
  * Double: the halves of e^a from the exponential's table of 64 (hyper_core.h); HA sums the
  * heads exactly; Cosh LA and EP take e^-a/2 as 1/(4A) from A = e^a/2 alone.
  * Range test on |x|: from 87.3365326 (single LA), 89.41 (single EP), 89.4160 (single HA:
@@ -24,7 +24,7 @@
 #include "vecmath/frame/level.h"
 #include "vecmath/hyper/hyper_core.h"
 #include "vecmath/hyper/hyper_scalar.h"
-#include "vecmath/hyper/hyper_tables.h"
+#include "vecmath/hyper/cosh_tables.h"
 
 namespace brenn::vm {
 namespace {
@@ -222,69 +222,68 @@ BRENN_VEC int HalvesRound(const __m128d* x, __m128d* y) {
     return bits;
 }
 
-// Single HA, in single arithmetic: e^a and e^-a from one reduction by ln2/64 and one
-// table row a lane. n = rint(a*64/ln2) = 64*m + j, r = a - n*ln2/64 (|r| <= ln2/128, two
-// parts of ln2/64, the head's nine bits making n*head and a - n*head exact), and
-// A = e^a/2 = 2^(m-1)*T[j]*e^r, B = e^-a/2 = 2^(-m-1)*U[j]*e^-r with T = 2^(j/64) and
-// U = 2^(-j/64) in two singles each (hyperExpRowsS). With e^+-r = 1 + E +- O, E ~ cosh r - 1
-// and O ~ sinh r, and Ah, Bh the scaled heads (exact):
-//   cosh a = (Ah + Bh) + [(Al + Bl) + (Ah + Bh)*E + (Ah - Bh)*O],
-//   sinh a = (Ah - Bh) + [(Al - Bl) + (Ah - Bh)*E + (Ah + Bh)*O],
-// the leading sum split exactly (Ah >= Bh), so that the bracket, under 1 % of the result,
-// carries the only other roundings. Sinh takes n = 0 below 1/8, where the leading
-// difference would cancel: there the result is O alone, fitted on [0, 1/8]
-// (tools/hyper/sinh_single_ha.sollya, 2^-33.75); elsewhere E = r^2/2 and O = r + r^3/6
-// (the next terms below 2^-34). The vector path runs up to the overflow point, where m
-// reaches 129: the scales are made a half smaller, 2^(m-2) and 2^(-m-2), and the result
-// doubled, exactly. B's power is held at 2^-62 and up, which keeps B and its tail normal
-// where they no longer count.
-constexpr float kInvStepS = 0x1.715476p+6f;   // 64/ln2, 92.3324814
-constexpr float kStepHiS = 0x1.63p-7f;        // ln2/64, head: 0.0108337402
-constexpr float kStepLoS = -0x1.bd0106p-19f;  // and the rest: -3.31553815e-06
-constexpr float kSinhSmallHA[] = {0x1.555554p-3f, 0x1.112ddap-7f};
-constexpr uint32_t kSinhSmallEndHA = 0x3E000000u; // 0.125
+// Single HA, in single arithmetic: one reduction by ln2/32 and one table row a lane.
+// n = rint(a*32/ln2) = 32*m + j, r = a - n*ln2/32 (|r| <= ln2/64, two parts of ln2/32,
+// the head's nine bits making n*head and a - n*head exact), and the row k = min(n, 480 + j)
+// of cosh and sinh of k*ln2/32 scaled by 2^(2-m), C and S in two singles each
+// (coshRowsS, tools/hyper/gen_cosh_tables; from m = 15 on, where e^-a is below 2^-30 of
+// e^a, the rows of 480 + j, 2^(1 + j/32) in both, serve every m). With
+// E = c*r^2 ~ cosh r - 1 and O = r + d*r^3 ~ sinh r (tools/hyper/cosh_sinh_single_ha.sollya:
+// E within 2^-17.6 of itself, under 2^-31.6 of the result; O within 2^-34),
+//   cosh a = 2^(m-2) * (Ch + (Cl + (Ch*E + Sh*O))),
+//   sinh a = 2^(m-2) * (Sh + (Sl + (Sh*E + Ch*O))),
+// the bracket under 1.2 % of the result (4.3 % for Sinh at its smallest n, 12), so that
+// its roundings count little beside the one of the sum, and the scaling is exact (the
+// result normal up to the overflow point, where m = 129). Sinh takes n = 0 below 1/4,
+// where the leading value would be small beside the bracket: there the result is O alone
+// (C = 4, S = 0, the scale 1/4), fitted on [0, 1/4] (tools/hyper/sinh_single_ha.sollya,
+// 2^-34).
+constexpr float kInvStepS = 0x1.715476p+5f;   // 32/ln2, 46.1662407
+constexpr float kStepHiS = 0x1.63p-6f;        // ln2/32, head: 0.0216674805
+constexpr float kStepLoS = -0x1.bd0106p-18f;  // and the rest: -6.6310763e-06
+constexpr float kEvenHA = 0x1.000054p-1f; // c
+constexpr float kOddHA = 0x1.555598p-3f;  // d
+constexpr float kSinhSmallHA[] = {0x1.555556p-3f, 0x1.110e5cp-7f, 0x1.a92574p-13f};
+constexpr uint32_t kSinhSmallEndHA = 0x3E800000u; // 0.25
+
+// Row min(n, 480 + n mod 32) for n in the low 22 bits.
+inline const float* CoshRow(int32_t bits) {
+    int n = bits & 0x3FFFFF;
+    return coshRowsS[n < 480 ? n : 480 + (n & 31)];
+}
 
 template <Fn F>
 inline __m128 HyperSingleHA(__m128 a) {
     const __m128 shifter = Set<float>(Format<float>::kShifter);
     __m128 an = a;
-    if constexpr (F == Fn::Sinh) // n = 0 below 1/8
+    if constexpr (F == Fn::Sinh) // n = 0 below 1/4
         an = IfThenZeroElse(AsFloat(Gt(Opaque(Set<uint32_t>(kSinhSmallEndHA)), AsInt(a))), a);
     __m128 t = Add(Mul(an, Set<float>(kInvStepS)), shifter);
     __m128 n = Sub(t, shifter);
     __m128 r = Sub(Sub(a, Mul(n, Set<float>(kStepHiS))), Mul(n, Set<float>(kStepLoS)));
-    Indices i = IndicesOf(AsInt(t));
-    __m128 th, tl, uh, ul;
-    LoadTransposed(hyperExpRowsS[i.at[0] & 63], hyperExpRowsS[i.at[1] & 63],
-                   hyperExpRowsS[i.at[2] & 63], hyperExpRowsS[i.at[3] & 63], th, tl, uh, ul);
-    // m in the exponent field: the shifter's bits leave the word.
-    I32x4 mf = ShiftLeft<Format<float>::kMantBits>(ShiftRight<6>(AsInt(t)));
-    const I32x4 quarter = Set<uint32_t>(0x3E800000u);
-    __m128 e1 = AsFloat(Add(quarter, mf));
-    __m128 e2 = AsFloat(Max(Sub(quarter, mf), Set<int32_t>(0x20800000))); // 2^-62 and up
-    __m128 ah = Mul(e1, th), al = Mul(e1, tl);
-    __m128 bh = Mul(e2, uh), bl = Mul(e2, ul);
+    // The row and the power from t's bits, the shifter's in them (its bits end in 22
+    // zeros): the rows chosen in the scalar unit (the vector pipes are the busy ones), and
+    // shifted into the exponent field the shifter's bits leave the word.
+    const I32x4 tb = AsInt(t);
+    Indices i = IndicesOf(tb);
+    __m128 ch, cl, sh, sl;
+    LoadTransposed(CoshRow(i.at[0]), CoshRow(i.at[1]), CoshRow(i.at[2]), CoshRow(i.at[3]), ch,
+                   cl, sh, sl);
+    I32x4 scale = Add(ShiftLeft<Format<float>::kMantBits>(ShiftRight<5>(tb)),
+                      Set<uint32_t>(0x3E800000u)); // 2^(m-2)
     __m128 r2 = Mul(r, r);
-    __m128 e = Mul(r2, Set<float>(0.5f));
+    __m128 e = Mul(r2, Set<float>(kEvenHA));
     __m128 o;
     if constexpr (F == Fn::Sinh)
         o = Add(r, Mul(Mul(r, r2), Horner(r2, kSinhSmallHA)));
     else
-        o = Add(r, Mul(Mul(r, r2), Set<float>(0x1.555556p-3f)));
-    __m128 s, err, other, tails;
-    if constexpr (F == Fn::Cosh) {
-        FastTwoSum(ah, bh, s, err);
-        other = Sub(ah, bh);
-        tails = Add(al, bl);
-    } else { // FastTwoSum(ah, -bh) without the negation: the same exact steps
-        s = Sub(ah, bh);
-        err = Sub(Sub(ah, s), bh);
-        other = Add(ah, bh);
-        tails = Sub(al, bl);
-    }
-    __m128 lo = Add(Add(err, tails), Add(Mul(s, e), Mul(other, o)));
-    __m128 y = Add(s, lo);
-    return Add(y, y);
+        o = Add(r, Mul(Mul(r, r2), Set<float>(kOddHA)));
+    __m128 y;
+    if constexpr (F == Fn::Cosh)
+        y = Add(ch, Add(cl, Add(Mul(ch, e), Mul(sh, o))));
+    else
+        y = Add(sh, Add(sl, Add(Mul(sh, e), Mul(ch, o))));
+    return Mul(y, AsFloat(scale));
 }
 
 // Single LA beyond its window, from 87.3365326 up to the overflow point: the lanes of
