@@ -64,15 +64,16 @@ constexpr float kTanhTinyHA = 0x1p-40f;
 
 inline __m128 TanhHA(__m128 x) {
     __m128 a = Min(Abs(x), Set<float>(10.0f));
-    I32x4 row = Max(Sub(And(AsInt(a), Set<uint32_t>(0x7FFC0000u)), Set<uint32_t>(kRowBaseHA)),
-                    Set<int32_t>(0));
-    Indices o = IndicesOf(ShiftRight<kRowShiftHA - 4>(row)); // rows of 16 bytes
+    // The bits held at row 0's, cut to the row and shifted to a byte offset (rows of 16
+    // bytes) counted from row 0's bits: the scalar unit takes that origin off.
+    I32x4 bits = Max(AsInt(a), Set<int32_t>(int32_t(kRowBaseHA)));
+    Indices o = IndicesOf(ShiftRight<kRowShiftHA - 4>(And(bits, Set<uint32_t>(0x7FFC0000u))));
     const char* base = reinterpret_cast<const char*>(tanhRowsHA);
+    auto rowAt = [base](int32_t off) {
+        return reinterpret_cast<const float*>(base + (off - int32_t(kRowBaseHA >> (kRowShiftHA - 4))));
+    };
     __m128 c, h, k, pad;
-    LoadTransposed(reinterpret_cast<const float*>(base + uint32_t(o.at[0])),
-                   reinterpret_cast<const float*>(base + uint32_t(o.at[1])),
-                   reinterpret_cast<const float*>(base + uint32_t(o.at[2])),
-                   reinterpret_cast<const float*>(base + uint32_t(o.at[3])), c, h, k, pad);
+    LoadTransposed(rowAt(o.at[0]), rowAt(o.at[1]), rowAt(o.at[2]), rowAt(o.at[3]), c, h, k, pad);
     __m128 t = Sub(a, c);
     __m128 tq = And(t, Ge(a, Set<float>(kTanhTinyHA)));
     __m128 u = Mul(tq, tq);
@@ -110,13 +111,14 @@ constexpr double kTanhQD[] = {-0x1.5555555555554p-2, 0x1.11111110fe215p-3,
 template <Level L>
 BRENN_VEC __m128d TanhOf(__m128d x) {
     __m128d a = Min(Abs(x), Set<double>(kTanhHoldD));
-    // The row's byte offset (rows of 32 bytes) in each high word.
-    I32x4 row = Sub(And(BitCast<I32x4>(AsInt(a)), Set<uint32_t>(0x7FFF8000u)),
-                    Set<uint32_t>(kRowBaseD));
-    row = ShiftRight<kRowShiftD - 5>(Max(row, Set<int32_t>(0)));
+    // The high words held at row 0's, cut to the row and shifted to a byte offset (rows
+    // of 32 bytes) counted from row 0's word.
+    I32x4 hi = Max(BitCast<I32x4>(AsInt(a)), Set<int32_t>(int32_t(kRowBaseD)));
+    I32x4 off = ShiftRight<kRowShiftD - 5>(And(hi, Set<uint32_t>(0x7FFF8000u)));
     const char* base = reinterpret_cast<const char*>(tanhRowsD);
-    const double* r0 = reinterpret_cast<const double*>(base + uint32_t(ExtractLane<1>(row)));
-    const double* r1 = reinterpret_cast<const double*>(base + uint32_t(ExtractLane<3>(row)));
+    constexpr int32_t origin = int32_t(kRowBaseD >> (kRowShiftD - 5));
+    const double* r0 = reinterpret_cast<const double*>(base + (ExtractLane<1>(off) - origin));
+    const double* r1 = reinterpret_cast<const double*>(base + (ExtractLane<3>(off) - origin));
     __m128d c, h, lo, k;
     LoadTransposed(r0, r1, c, h);
     LoadTransposed(r0 + 2, r1 + 2, lo, k);
