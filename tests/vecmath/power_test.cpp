@@ -1003,6 +1003,35 @@ TEST(Power, DoubleHypotInLongCalls) {
     }
 }
 
+// Double Hypot HA where the smaller square matters most: z from x/2 to x, in long calls
+// (rounds of sixteen on the plain range), in rounds with a lane beyond 2^400 (each register
+// scaled by its larger operand's exponent) and near the ends of the plain range, within
+// 0.53 ulp: the residual takes both squares exactly, so that z^2's rounding (up to 0.1 ulp
+// at z = x) no longer shows.
+TEST(Power, DoubleHypotHAWithComparableOperands) {
+    std::mt19937_64 gen(23);
+    std::uniform_real_distribution<double> unit(1.0, 2.0), ratio(0.5, 1.0);
+    constexpr int n = 4096;
+    for (double scale : {1.0, 0x1p-399, 0x1p398, 0x1p-900, 0x1p900}) {
+        for (bool farLane : {false, true}) {
+            std::vector<double> a(n), b(n), y(n);
+            for (int i = 0; i < n; ++i) {
+                a[i] = unit(gen) * scale * (i % 2 ? -1 : 1);
+                b[i] = a[i] * ratio(gen) * (i % 3 ? 1 : -1);
+                if (i % 4 == 3) std::swap(a[i], b[i]);
+            }
+            if (farLane)
+                for (int i = 5; i < n; i += 16)
+                    a[i] = 0x1p600;
+            As<Binary<double>>(Raw(frame::Row_dHypot, frame::SlotHA))(n, a.data(), b.data(),
+                                                                      y.data());
+            for (int i = 0; i < n; ++i)
+                ASSERT_LE(UlpError(y[i], hypotl(a[i], b[i])), 0.53)
+                    << "a=" << a[i] << " b=" << b[i] << " scale=" << scale;
+        }
+    }
+}
+
 // Double Hypot EP takes its roots from single where a round's sums of squares all lie in
 // single's range: sums on both sides of its ends (2^-125 and 2^127) and of the least and
 // largest single, alone in a round and spread over it, keep the correction's 33 bits.
