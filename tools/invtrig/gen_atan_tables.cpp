@@ -1,12 +1,12 @@
 // Generates vecmath/invtrig/atan_tables.cpp, the rows of the table reduction of Atan
 // (atan_tables.h tells the layout), from MPFR at 256 bits. Row i of a table with k bits
-// of the significand a row, for a in [2^-m, 2^m):
-//   row 0                  {ones, 0, 0, 0}: below 2^-m, u = a/1 and the base 0;
-//   row i, 1 <= i <= N     {ones, c, hi, lo}: c = 2^(e) (1 + j/2^k), i - 1 = (e + m) 2^k + j,
+// of the significand a row, for a in [2^-l, 2^m):
+//   row 0                  {ones, 0, 0, 0}: below 2^-l, u = a/1 and the base 0;
+//   row i, 1 <= i <= N     {ones, c, hi, lo}: c = 2^(e) (1 + j/2^k), i - 1 = (e + l) 2^k + j,
 //                          hi + lo = atan(c) (hi rounded to the format, lo the rest);
 //   row N + 1              {0, 1, hi, lo}: from 2^m on, u = -1/a and hi + lo = pi/2;
-// where ones has every bit set (a mask), N = 2m 2^k. Double: k = 4, m = 5; single:
-// k = 5, m = 6.
+// where ones has every bit set (a mask), N = (l + m) 2^k. Double: k = 4, l = m = 5;
+// single: k = 5, l = 16, m = 6.
 //   gen_atan_tables OUT
 #include <cstdio>
 #include <mpfr.h>
@@ -33,11 +33,11 @@ void Parts(mpfr_t v, T& hi, T& lo) {
 }
 
 template <class T>
-void Table(FILE* out, const char* name, int k, int m) {
+void Table(FILE* out, const char* name, int k, int l, int m) {
     const char* suffix = sizeof(T) == 4 ? "f" : "";
     const char* ones = sizeof(T) == 4 ? "kOnesS" : "kOnesD";
     const char* zero = sizeof(T) == 4 ? "0x0p+0f" : "0x0p+0";
-    const int n = 2 * m << k;
+    const int n = (l + m) << k;
     std::fprintf(out, "alignas(%d) const %s %s[%d][4] = {\n", 4 * int(sizeof(T)),
                  sizeof(T) == 4 ? "float" : "double", name, n + 2);
     std::fprintf(out, "    {%s, 0x0p+0%s, 0x0p+0%s, 0x0p+0%s},\n", ones, suffix, suffix, suffix);
@@ -46,7 +46,7 @@ void Table(FILE* out, const char* name, int k, int m) {
     for (int i = 1; i <= n + 1; ++i) {
         T c = 1;
         if (i <= n) {
-            int e = (i - 1) / (1 << k) - m, j = (i - 1) % (1 << k);
+            int e = (i - 1) / (1 << k) - l, j = (i - 1) % (1 << k);
             mpfr_set_si(v, (1 << k) + j, MPFR_RNDN);
             mpfr_mul_2si(v, v, e - k, MPFR_RNDN);
             c = T(mpfr_get_d(v, MPFR_RNDN)); // exact: k + 1 bits
@@ -83,8 +83,8 @@ int main(int argc, char** argv) {
                  "constexpr double kOnesD = __builtin_bit_cast(double, ~0ull);\n"
                  "constexpr float kOnesS = __builtin_bit_cast(float, ~0u);\n"
                  "} // namespace\n\n");
-    Table<double>(out, "atanRowsD", 4, 5);
-    Table<float>(out, "atanRowsS", 5, 6);
+    Table<double>(out, "atanRowsD", 4, 5, 5);
+    Table<float>(out, "atanRowsS", 5, 16, 6);
     std::fprintf(out, "} // namespace brenn::vm::invtrig\n");
     return std::fclose(out) == 0 ? 0 : 1;
 }

@@ -10,17 +10,18 @@
  * polynomial on [0, 1] (EP five terms in two halves, LA eight in two chains).
  * Atan in radians at double LA/HA (one kernel) and single HA runs a table reduction
  * (atan_tables.h): c is a = |x| with its significand cut to a few bits (4 in double, 5 in
- * single) for a in [2^-5, 2^5) ([2^-6, 2^6) in single), so that a - c is exact, and
+ * single) for a in [2^-5, 2^5) ([2^-16, 2^6) in single), so that a - c is exact, and
  * atan(a) = atan(c) + atan(u), u = (a - c)/(1 + a c), |u| at most 2^-5 (2^-6): atan(c)
  * from the table in two parts, atan(u) a short odd series (four terms in double, one in
  * single), the head of atan(c) and u joined by the fast exact sum in double. Below the
  * table u = a, above it u = -1/a and atan(c) is pi/2. One division and no correction of
  * it: its rounding reaches the result scaled by |u|/atan(a), below a twelfth.
- * Single Atan2 HA runs the fold of the double steps below in single, n - d and
- * n + d as exact pairs, the quotient's error from its exact residual and the base joined
- * by an exact sum (atan_body.h); it keeps its lanes to magnitudes in [2^-50, 2^50)
- * for that (the complex Arg's single HA keeps the double steps). The double steps, which
- * the pi-scaled single LA and HA take on widened lanes,
+ * Single Atan2 HA takes the same table by its quotient t = n/d in single: c is t cut to
+ * 5 bits, u = (n - c d)/(d + c n) from n and d themselves (c d in two exact products, so
+ * that the numerator rounds once), the base of 0, 2 or 4 quarter turns joined to the
+ * row's head by the fast exact sum, in rounds of sixteen taken step by step; it keeps its
+ * lanes to magnitudes in [2^-50, 2^50) (the complex Arg's single HA keeps the double
+ * steps). The double steps, which the pi-scaled single LA and HA take on widened lanes,
  * fold once more at tan(pi/8): t = (n - d)/(n + d), a quarter turn added, and a short
  * odd series on [-tan(pi/8), tan(pi/8)]; Atan's own form of them (b = 1; pi-scaled LA and
  * HA, double EP) puts the sign in the quotient, -1/a or (a - 1)/(a + 1), with no swap and
@@ -37,7 +38,7 @@
  * two). Nothing is reported.
  *
  * Measured (brenn_accuracy, 250000 inputs a row), LA / HA in ulp, EP in bits: sAtan
- * 2.62 / 0.525 / 12.3, sAtan2 2.16 / 0.524 / 14.9, sAtanpi 0.510 / 0.510 / 12.3,
+ * 2.62 / 0.525 / 12.3, sAtan2 2.16 / 0.515 / 14.9, sAtanpi 0.510 / 0.510 / 12.3,
  * sAtan2pi 0.507 / 0.507 / 14.9; dAtan 0.531 (one kernel) / 30.5, dAtan2 0.961 / 0.582 /
  * 30.5, dAtanpi 0.743 / 0.743 / 30.5, dAtan2pi 0.692 / 0.692 / 30.5. */
 #include "frame/kernels.h"

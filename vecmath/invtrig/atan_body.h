@@ -248,70 +248,6 @@ BRENN_VEC AtanFold<V> AtanFoldOf(V a) {
     return f;
 }
 
-// Single Atan2 HA's series: the double steps' five terms rounded to single (their fit,
-// 2^-30.5, is far below the tail's own roundings).
-constexpr float kAtanSingleHA[] = {float(AtanDouble5Set::kP[0]), float(AtanDouble5Set::kP[1]),
-                                   float(AtanDouble5Set::kP[2]), float(AtanDouble5Set::kP[3]),
-                                   float(AtanDouble5Set::kP[4])};
-
-// The angle base + lo + (nh + nl)/(dh + dl), the sign of the quotient flipped where flip
-// has its sign bit, in single arithmetic: Atan HA's last steps and Atan2 HA's. base is
-// a whole number of quarter turns, exact, and lo its tail; dm is dh, or dh held below a
-// bound where dh may be huge. The residual is taken on qa,
-// qh cut to 12 bits: qa*da and qa*db (d's halves of 12 bits) are exact, nh - qa*da too
-// (Sterbenz), and less qa*db it rounds once, at about 2^-35 of n. Over d (the
-// reciprocal estimate and one Newton step, to about 2^-22) it is qh - qa + ql within
-// 2^-33 of q; less the exact qh - qa it leaves ql, the quotient's error, which moves the
-// angle by ql/(1 + z), taken as ql - ql*z (z^2 ql is a few hundredths of an ulp).
-BRENN_VEC __m128 AngleSingleHA(__m128 base, __m128 lo, __m128 flip, __m128 nh, __m128 nl, __m128 dh,
-                               __m128 dl, __m128 dm) {
-    const __m128 cut = AsFloat(Set<uint32_t>(0xFFFFF000u));
-    __m128 qh = Div(nh, dh);
-    __m128 qa = And(qh, cut);
-    __m128 da = And(dm, cut);
-    __m128 r = Sub(Sub(nh, Mul(qa, da)), Mul(qa, Sub(dm, da)));
-    r = Add(r, Sub(nl, Mul(qh, dl)));
-    __m128 rd = ApproxRecip(dm);
-    rd = Mul(rd, Sub(Set<float>(2.0f), Mul(dm, rd)));
-    __m128 ql = Sub(Mul(r, rd), Sub(qh, qa));
-    __m128 z = Mul(qh, qh);
-    ql = Sub(ql, Mul(ql, z));
-    __m128 t = Add(Mul(Mul(qh, z), Horner(z, kAtanSingleHA)), ql);
-    __m128 y, e;
-    FastTwoSum(base, Xor(qh, flip), y, e);
-    return Add(y, Add(e, Add(lo, Xor(t, flip))));
-}
-
-// Single Atan2 HA in single arithmetic, four lanes a register: the magnitudes swapped so
-// that n <= d, the fold at tan(pi/8) to (n - d)/(n + d) with both as exact pairs (fast
-// sums, d the larger; on the other lanes they run on 0 and give n/d), and AngleSingleHA.
-// The base and the flip are AngleOf's; k runs to 4 quarter turns, so the head of pi/4
-// has 22 bits (k times it exact). Lanes hold magnitudes in [2^-50, 2^50) (kRangeHA), so
-// that the quotient is at least 2^-100 and neither its correction nor the residual's
-// products fall into the denormals (with [2^-62, 2^62) the correction of quotients near
-// 2^-124 came out denormal and cost 0.68 ulp).
-BRENN_VEC __m128 Atan2SingleHA(__m128 a, __m128 b, __m128 special) {
-    const __m128 one = Set<float>(1.0f);
-    const auto [n, d, swap, below] = MagnitudesOf(a, b, special);
-    __m128 fold = AsFloat(Gt(AsInt(n), AsInt(Mul(d, Set<float>(float(kTanEighth))))));
-    __m128 nh, nl, dh, dl;
-    FastTwoSum(Neg(And(fold, d)), n, nh, nl);
-    FastTwoSum(d, And(fold, n), dh, dl);
-    __m128 flip = Xor(And(swap, SignMask<float>()), SignBit(b));
-    __m128 k = IfThenElse(swap, Set<float>(2), And(below, Set<float>(4)));
-    k = Add(k, And(fold, Or(one, And(flip, SignMask<float>()))));
-    __m128 base = Mul(k, Set<float>(0x1.921fb8p-1f));
-    __m128 lo = Mul(k, Set<float>(-0x1.5dde98p-24f));
-    return Or(AngleSingleHA(base, lo, flip, nh, nl, dh, dl, dh), SignBit(a));
-}
-
-// The double steps on four single lanes, widened, with the short series.
-template <Unit U>
-BRENN_VEC __m128 InDouble(__m128 a, __m128 b) {
-    return Narrow(AngleOf<U, AtanDouble5Set, false, true>(WidenLower(a), WidenLower(b)),
-                  AngleOf<U, AtanDouble5Set, false, true>(WidenUpper(a), WidenUpper(b)));
-}
-
 // Atan by the table (atan_tables.h), double (the one LA and HA kernel) and single HA: the
 // row of a = |x| from its exponent and top k bits (the bits shifted down, less the first
 // row's, held to [0, N + 1] by integer min and max: a NaN takes the top row and comes out
@@ -333,18 +269,21 @@ BRENN_VEC void AtanRowOf(__m128d x, __m128d& mask, __m128d& c, __m128d& hi, __m1
     GatherPairs(atanRowsD, BitCast<I64x2>(i), -1, mask, c, 0);
     GatherPairs(atanRowsD, BitCast<I64x2>(i), -1, hi, lo, 2);
 }
-BRENN_VEC void AtanRowOf(__m128 x, __m128& mask, __m128& c, __m128& hi, __m128& lo) {
-    // The rows' byte offsets, sixteen times the index: the scalar unit adds them as they
-    // are (no widening, no scaling).
+// The single rows' byte offsets, sixteen times the index: the scalar unit adds them as
+// they are (no widening, no scaling).
+BRENN_VEC I32x4 AtanRowOffsets(__m128 x) {
     I32x4 i = And(ShiftRight<14>(AsInt(x)), Set<int32_t>(0x1FFF0));
-    i = Min(Max(Sub(i, Set<int32_t>(((127 - 6) * 32 - 1) * 16)), Zero<int32_t>()),
-            Set<int32_t>(385 * 16));
-    const char* rows = reinterpret_cast<const char*>(atanRowsS);
-    auto row = [rows](int32_t offset) {
-        return reinterpret_cast<const float*>(rows + uint32_t(offset));
-    };
-    LoadTransposed(row(ExtractLane<0>(i)), row(ExtractLane<1>(i)), row(ExtractLane<2>(i)),
-                   row(ExtractLane<3>(i)), mask, c, hi, lo);
+    return Min(Max(Sub(i, Set<int32_t>(((127 - 16) * 32 - 1) * 16)), Zero<int32_t>()),
+               Set<int32_t>(705 * 16));
+}
+BRENN_VEC const float* AtanRowAt(int32_t offset) {
+    return reinterpret_cast<const float*>(reinterpret_cast<const char*>(atanRowsS) +
+                                          uint32_t(offset));
+}
+BRENN_VEC void AtanRowOf(__m128 x, __m128& mask, __m128& c, __m128& hi, __m128& lo) {
+    I32x4 i = AtanRowOffsets(x);
+    LoadTransposed(AtanRowAt(ExtractLane<0>(i)), AtanRowAt(ExtractLane<1>(i)),
+                   AtanRowAt(ExtractLane<2>(i)), AtanRowAt(ExtractLane<3>(i)), mask, c, hi, lo);
 }
 template <class V>
 BRENN_VEC AtanTableState<ElemOf<V>> AtanTableQuotient(V x) {
@@ -380,6 +319,64 @@ BRENN_VEC void AtanTableRound(const V* x, V* y) {
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k)
         y[k] = AtanTableAngle(s[k]);
+}
+
+// Single Atan2 HA on Atan's table, four lanes a register: t = n/d (divps, n <= d the
+// magnitudes), c = t with its significand cut to 5 bits (0 below the table, 2^-16), and
+// atan(t) = atan(c) + atan(u) with u = tan(atan(t) - atan(c)) = (n - c d)/(d + c n), from
+// n and d themselves, so that the rounding of t only moves c. c has 6 bits and d is cut
+// at 12, so c dh and c dl are exact, n - c dh too (Sterbenz: c is within 2^-5 below t),
+// and the numerator rounds once; with the denominator's two roundings and the
+// division's, u is within 2^-22 of itself, which moves the angle by |u|/atan(t) (below
+// 1/25) of it. Below the table u is the rounded t, and t^3/3 below 2^-33 of it. The base
+// is AngleOf's, 0, 2 or 4 quarter turns (exact in single, its tail beside it), hi
+// flipped or not joined to it by the fast exact sum, the rest (u and the tails, below
+// 2^-5 of the result where the base is not 0) added to the sum's error. Lanes hold
+// magnitudes in [2^-50, 2^50) (kRangeHA), so that t is at least 2^-100 and the products
+// that matter stay out of the denormals.
+// In three steps, the quotient t, the reduced quotient u, the angle, so that a round of
+// sixteen takes each over its four registers before the next (Atan2Body::EvalWide).
+struct Atan2SingleState {
+    __m128 a, b, n, d, swap, below, t, u, hi, lo;
+};
+BRENN_VEC void Atan2SingleQuotient(__m128 a, __m128 b, __m128 special, Atan2SingleState& s) {
+    const auto [n, d, swap, below] = MagnitudesOf(a, b, special);
+    s.a = a, s.b = b, s.n = n, s.d = d, s.swap = swap, s.below = below;
+    s.t = Div(n, d);
+}
+BRENN_VEC void Atan2SingleReduced(Atan2SingleState& s) {
+    __m128 n = s.n, d = s.d;
+    I32x4 i = AtanRowOffsets(s.t);
+    LoadTransposed(AtanRowAt(ExtractLane<0>(i)) + 2, AtanRowAt(ExtractLane<1>(i)) + 2,
+                   AtanRowAt(ExtractLane<2>(i)) + 2, AtanRowAt(ExtractLane<3>(i)) + 2, s.hi, s.lo);
+    __m128 below = AsFloat(Eq(i, Zero<int32_t>()));
+    __m128 c = AndNot(below, And(s.t, AsFloat(Set<uint32_t>(0xFFFC0000u))));
+    __m128 dh = And(d, AsFloat(Set<uint32_t>(0xFFFFF000u)));
+    __m128 num = Sub(Sub(n, Mul(c, dh)), Mul(c, Sub(d, dh)));
+    s.u = Div(num, Add(d, Mul(c, n)));
+}
+BRENN_VEC __m128 Atan2SingleAngle(const Atan2SingleState& s) {
+    using Q = Quarter<float, Unit::Radian>;
+    __m128 u = s.u;
+    __m128 v = Add(u, Add(s.lo, Mul(Mul(u, Mul(u, u)), Set<float>(AtanTableSeries<float>::kP[0]))));
+    __m128 flip = Xor(And(s.swap, SignMask<float>()), SignBit(s.b));
+    __m128 k = IfThenElse(s.swap, Set<float>(2), And(s.below, Set<float>(4)));
+    __m128 y, e;
+    FastTwoSum(Mul(k, Set<float>(Q::kHi)), Xor(s.hi, flip), y, e);
+    return Or(Add(y, Add(e, Add(Mul(k, Set<float>(kQuarterTailS)), Xor(v, flip)))), SignBit(s.a));
+}
+BRENN_VEC __m128 Atan2SingleHA(__m128 a, __m128 b, __m128 special) {
+    Atan2SingleState s;
+    Atan2SingleQuotient(a, b, special, s);
+    Atan2SingleReduced(s);
+    return Atan2SingleAngle(s);
+}
+
+// The double steps on four single lanes, widened, with the short series.
+template <Unit U>
+BRENN_VEC __m128 InDouble(__m128 a, __m128 b) {
+    return Narrow(AngleOf<U, AtanDouble5Set, false, true>(WidenLower(a), WidenLower(b)),
+                  AngleOf<U, AtanDouble5Set, false, true>(WidenUpper(a), WidenUpper(b)));
 }
 
 template <Unit U, Level L>
@@ -622,6 +619,29 @@ struct Atan2Body {
     }
     static int Scalar(const T* a, const T* b, T* y) {
         return Atan2Scalar<U, T, Fast && sizeof(T) == 8>(a, b, y);
+    }
+    // Single HA (the row's own, in single arithmetic): rounds of sixteen, each of its three
+    // steps over the round's four registers before the next.
+    static constexpr bool kWide = sizeof(T) == 4 && L == Level::HA && U == Unit::Radian && Fast;
+    static constexpr int kRound = kWide ? 16 : 8;
+    static int EvalWide(const V* a, const V* b, V* y)
+        requires kWide
+    {
+        Atan2SingleState s[4];
+        int bits = 0;
+#pragma GCC unroll 4
+        for (int k = 0; k < 4; ++k) {
+            V special = Or(HeldRangeTest(a[k], kRangeHA), HeldRangeTest(b[k], kRangeHA));
+            bits |= MaskBits(special) << (4 * k);
+            Atan2SingleQuotient(a[k], b[k], special, s[k]);
+        }
+#pragma GCC unroll 4
+        for (int k = 0; k < 4; ++k)
+            Atan2SingleReduced(s[k]);
+#pragma GCC unroll 4
+        for (int k = 0; k < 4; ++k)
+            y[k] = Atan2SingleAngle(s[k]);
+        return bits;
     }
 
     // Double: N pairs of registers, each step of the angle over all of them before the
