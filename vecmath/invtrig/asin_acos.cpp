@@ -330,8 +330,16 @@ using AcospiBody = Body<T, L, Fn::Acos, Unit::Pi>;
 using namespace brenn::vm::invtrig;
 
 extern "C" {
-ZAR_ROW_KERNELS(Asin, Unary, AsinBody)
-ZAR_ROW_KERNELS(Acos, Unary, AcosBody)
+// Single HA flattened: its rounds of sixteen stay in the kernel's loop with the constants
+// in registers, not a call a round.
+ZAR_KERNEL_OF(s, Asin, EP, Unary, AsinBody<float, brenn::vm::Level::EP>)
+ZAR_KERNEL_OF(s, Asin, LA, Unary, AsinBody<float, brenn::vm::Level::LA>)
+BRENN_FLAT ZAR_KERNEL_OF(s, Asin, HA, Unary, AsinBody<float, brenn::vm::Level::HA>)
+ZAR_LEVEL_KERNELS(d, Asin, Unary, AsinBody)
+ZAR_KERNEL_OF(s, Acos, EP, Unary, AcosBody<float, brenn::vm::Level::EP>)
+ZAR_KERNEL_OF(s, Acos, LA, Unary, AcosBody<float, brenn::vm::Level::LA>)
+BRENN_FLAT ZAR_KERNEL_OF(s, Acos, HA, Unary, AcosBody<float, brenn::vm::Level::HA>)
+ZAR_LEVEL_KERNELS(d, Acos, Unary, AcosBody)
 // The pi-scaled single kernels flattened: left to itself GCC keeps their LA and HA
 // bodies (in double) out of line, one call a quad.
 BRENN_FLAT_LEVEL_KERNELS(s, Asinpi, Unary, AsinpiBody)
