@@ -20,15 +20,17 @@
 // >> 15, at least 0, with a held at 19.5): row 0 holds [0, 2^-5), row k for k = 1..295
 // the k-th 32nd of a binade from 2^-5 on (the last one [19, 19.5)), row 296 the argument
 // 19.5:
-//   tanhRowsD[k] = {c, H, L, K}: the row's midpoint c, tanh(c) as its double rounding H
-//                   and the double rounding L of the rest, K = 1 - tanh(c)^2 rounded;
-//                   row 0 is {0, 0, 0, 1}, row 296 {19.5, 1, 0, 0}.
+//   tanhRowsD[k] = {c, H, K, 0}: c a double near the row's midpoint whose tanh is within
+//                   2^-12 ulp of the double H (on [19, 19.5), where none exists, the
+//                   point of the row below), K = 1 - tanh(c)^2 rounded; row 0 is
+//                   {0, 0, 1, 0}, row 296 {19.5, 1, 0, 0}.
 // Also the exponential rows of the single HA Cosh and Sinh:
 //   hyperExpRowsS[j] = {Thi, Tlo, Uhi, Ulo}, T = 2^(j/64) and U = 2^(-j/64) for j = 0..63,
 //                   each as its single rounding and the single rounding of the rest.
 //   gen_hyper_tables OUT
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <mpfr.h>
 
 namespace {
@@ -218,31 +220,87 @@ void TableHA(FILE* out) {
     mpfr_clear(v);
 }
 
-// The double rows {c, H, L, K}.
+// Whether tanh(c) lies within 2^-12 of an ulp of a double h, at 256 bits.
+bool NearDouble(double c, double h) {
+    mpfr_t v;
+    mpfr_init2(v, kPrec);
+    mpfr_set_d(v, c, MPFR_RNDN);
+    mpfr_tanh(v, v, MPFR_RNDN);
+    mpfr_sub_d(v, v, h, MPFR_RNDN);
+    mpfr_abs(v, v, MPFR_RNDN);
+    int e;
+    std::frexp(h, &e); // ulp(h) = 2^(e - 53)
+    bool near = mpfr_cmp_d(v, std::ldexp(1.0, e - 53 - 12)) <= 0;
+    mpfr_clear(v);
+    return near;
+}
+
+// The double rows {c, H, K, 0}: for the doubles H nearest tanh at the row's midpoint, in
+// the order 0, +1, -1, +2, ... ulps, c = atanh(H) rounded (by MPFR, so that the rows do
+// not depend on the C library's long double functions), the first whose tanh is within
+// 2^-12 ulp of H and that lies in the row (a long double sieve first, with a margin, so
+// that only candidates near it take MPFR); K = 1 - tanh(c)^2. A row with none ([19, 19.5),
+// where tanh crosses no double) keeps the point of the row below it, in the same binade,
+// so that a - c stays exact (s's error at |t| up to 0.8, under 2^-10, comes to 2^-62 once
+// multiplied by K, 2^-52).
 void TableD(FILE* out) {
     std::fprintf(out, "alignas(32) const double tanhRowsD[%d][4] = {\n", kRowsD);
-    mpfr_t tau, r;
-    mpfr_inits2(kPrec, tau, r, (mpfr_ptr)0);
+    mpfr_t tau, at;
+    mpfr_init2(tau, kPrec);
+    mpfr_init2(at, 53);
+    double c = 0, h = 0;
     for (int k = 0; k < kRowsD; ++k) {
-        double c = 0, h = 0, l = 0, kk = 1;
-        if (k == kRowsD - 1) {
+        double kk = 1;
+        if (k == 0) {
+            c = 0, h = 0;
+        } else if (k == kRowsD - 1) {
             c = 19.5, h = 1, kk = 0;
-        } else if (k > 0) {
-            unsigned long long bits = (0x3FA00000ull + (k - 1) * 0x8000ull + 0x4000ull) << 32;
-            __builtin_memcpy(&c, &bits, 8);
+        } else {
+            unsigned long long b0 = (0x3FA00000ull + (k - 1) * 0x8000ull) << 32;
+            unsigned long long b1 = b0 + (0x8000ull << 32), bm = b0 + (0x4000ull << 32);
+            double lo, hi, mid;
+            __builtin_memcpy(&lo, &b0, 8);
+            __builtin_memcpy(&hi, &b1, 8);
+            __builtin_memcpy(&mid, &bm, 8);
+            const long double tlo = tanhl((long double)lo), thi = tanhl((long double)hi);
+            mpfr_set_d(tau, mid, MPFR_RNDN);
+            mpfr_tanh(tau, tau, MPFR_RNDN);
+            const double h0 = mpfr_get_d(tau, MPFR_RNDN);
+            unsigned long long hb;
+            __builtin_memcpy(&hb, &h0, 8);
+            bool found = false;
+            for (long long d = 0; !found; d = d > 0 ? -d : 1 - d) {
+                // d ulps from h0; done once both sides have left tanh's range on the row
+                unsigned long long b = hb + (unsigned long long)d, o = hb - (unsigned long long)d;
+                double hd, other;
+                __builtin_memcpy(&hd, &b, 8);
+                __builtin_memcpy(&other, &o, 8);
+                bool out = hd < tlo || hd > thi || hd >= 1;
+                if (out && (other < tlo || other > thi || other >= 1) && d < -1) break;
+                if (out) continue;
+                mpfr_set_d(at, hd, MPFR_RNDN);
+                mpfr_atanh(at, at, MPFR_RNDN); // c = atanh(H) correctly rounded
+                double cd = mpfr_get_d(at, MPFR_RNDN);
+                if (!(cd >= lo && cd < hi)) continue;
+                int e;
+                std::frexp(hd, &e);
+                if (fabsl(tanhl((long double)cd) - hd) > std::ldexp(1.0L, e - 53 - 9)) continue;
+                if (NearDouble(cd, hd)) c = cd, h = hd, found = true;
+            }
+            if (!found && std::ilogb(c) != std::ilogb(lo)) {
+                std::fprintf(stderr, "tanh row %d: no point in its binade\n", k);
+                std::exit(1);
+            }
             mpfr_set_d(tau, c, MPFR_RNDN);
             mpfr_tanh(tau, tau, MPFR_RNDN);
-            h = mpfr_get_d(tau, MPFR_RNDN);
-            mpfr_sub_d(r, tau, h, MPFR_RNDN);
-            l = mpfr_get_d(r, MPFR_RNDN);
-            mpfr_sqr(r, tau, MPFR_RNDN);
-            mpfr_ui_sub(r, 1, r, MPFR_RNDN);
-            kk = mpfr_get_d(r, MPFR_RNDN);
+            mpfr_sqr(tau, tau, MPFR_RNDN);
+            mpfr_ui_sub(tau, 1, tau, MPFR_RNDN);
+            kk = mpfr_get_d(tau, MPFR_RNDN);
         }
-        std::fprintf(out, "    {%a, %a, %a, %a},\n", c, h, l + 0.0, kk);
+        std::fprintf(out, "    {%a, %a, %a, 0x0p+0},\n", c, h, kk);
     }
     std::fprintf(out, "};\n\n");
-    mpfr_clears(tau, r, (mpfr_ptr)0);
+    mpfr_clears(tau, at, (mpfr_ptr)0);
 }
 
 // The rows of 2^(j/64) and 2^(-j/64) in two singles each.
@@ -279,8 +337,8 @@ int main(int argc, char** argv) {
     std::fprintf(out, "// Generated by tools/hyper/gen_hyper_tables from MPFR; do not edit.\n"
                       "// The interval rows of the single Tanh: cubics (LA) and lines (EP) through\n"
                       "// tanh at the Chebyshev nodes of each interval; tanh and 1 - tanh^2 near the\n"
-                      "// midpoints of the HA rows; the same at the midpoints of the double rows;\n"
-                      "// the rows of 2^(j/64) and 2^(-j/64) of the single HA Cosh and Sinh.\n"
+                      "// midpoints of the HA rows and of the double rows; the rows of 2^(j/64)\n"
+                      "// and 2^(-j/64) of the single HA Cosh and Sinh.\n"
                       "#include \"vecmath/hyper/hyper_tables.h\"\n\n"
                       "namespace brenn::vm {\n\n");
     Table(out, "tanhRowsLA", 3, 4);

@@ -9,7 +9,8 @@
  *                   ulp, K ~ 1 - H^2 (from 8.75 on constants {midpoint, H, 0, 0}).
  * The rows of the double Tanh, 32 a binade: row 0 [0, 2^-5), row k (1 to 295) the k-th
  * 32nd of a binade from 2^-5 on, up to 19.5; row 296 the argument 19.5:
- *   tanhRowsD[k] = {c, H, L, K}, the midpoint c, tanh(c) ~ H + L, K ~ 1 - tanh(c)^2.
+ *   tanhRowsD[k] = {c, H, K, 0}, c near the midpoint with tanh(c) a double H to 2^-12
+ *                  ulp (on [19, 19.5) the point of the row below), K ~ 1 - H^2.
  * And the exponential rows of the single HA Cosh and Sinh, j = 0..63:
  *   hyperExpRowsS[j] = {Thi, Tlo, Uhi, Ulo}, T = 2^(j/64) and U = 2^(-j/64), each as two
  *   singles whose sum is within 2^-48 of it. */

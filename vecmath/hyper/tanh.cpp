@@ -16,11 +16,12 @@
  * (exact: a and c share their exponent) by a short odd polynomial. The part after H is
  * under 1/64 of the result, so that its few roundings cost about a tenth of an ulp.
  * Row 0 (below 2^-5) has c = H = 0 and K = 1 and gives s itself.
- * Double, the same theorem on rows of doubles: a held at 19.5 (tanh is 1 to the last bit
- * from 19.06 on) picks one of 32 rows a binade from the high word, {c, H, L, K} with the
- * row's midpoint c, tanh(c) ~ H + L and K ~ 1 - tanh(c)^2; the result is
- * H + (L + K*s/(1 + H*s)) at HA and H + K*s/(1 + H*s) at LA and EP, s = tanh(a - c) by
- * an odd polynomial of degree 9.
+ * Double, the same theorem on rows of doubles, one body for every level: a held at 19.5
+ * (tanh is 1 to the last bit from 19.06 on) picks one of 32 rows a binade from the high
+ * word, {c, H, K} with c a double near the row's midpoint whose tanh is a double H to
+ * 2^-12 ulp (on [19, 19.5), where tanh crosses no double, the point of the row below) and
+ * K ~ 1 - H^2; the result is H + K*s/(1 + H*s), s = tanh(a - c) by an odd polynomial of
+ * degree 9.
  * Only exponents of all ones go to the scalar routine (1 with x's sign, or the NaN);
  * nothing is reported. */
 #include "frame/kernels.h"
@@ -106,8 +107,7 @@ constexpr double kTanhHoldD = 19.5;
 constexpr double kTanhQD[] = {-0x1.5555555555554p-2, 0x1.11111110fe215p-3,
                               -0x1.ba1b9bf56e7dfp-5, 0x1.6606423dcfd1fp-6};
 
-// By the rows: tanh(c + t) = tau + K*s/(1 + tau*s), tau = H + L at HA, H alone at LA and
-// EP (|L| is half an ulp at most).
+// By the rows: tanh(c + t) = H + K*s/(1 + H*s), every level.
 template <Level L>
 BRENN_VEC __m128d TanhOf(__m128d x) {
     __m128d a = Min(Abs(x), Set<double>(kTanhHoldD));
@@ -119,14 +119,13 @@ BRENN_VEC __m128d TanhOf(__m128d x) {
     constexpr int32_t origin = int32_t(kRowBaseD >> (kRowShiftD - 5));
     const double* r0 = reinterpret_cast<const double*>(base + (ExtractLane<1>(off) - origin));
     const double* r1 = reinterpret_cast<const double*>(base + (ExtractLane<3>(off) - origin));
-    __m128d c, h, lo, k;
+    __m128d c, h, k, pad;
     LoadTransposed(r0, r1, c, h);
-    LoadTransposed(r0 + 2, r1 + 2, lo, k);
+    LoadTransposed(r0 + 2, r1 + 2, k, pad);
     __m128d t = Sub(a, c);
     __m128d u = Mul(t, t);
     __m128d s = Add(t, Mul(Mul(t, u), Horner(u, kTanhQD)));
     __m128d rest = Div(Mul(k, s), Add(Set<double>(1.0), Mul(h, s)));
-    if constexpr (L == Level::HA) rest = Add(lo, rest);
     return Or(Add(h, rest), SignBit(x));
 }
 
