@@ -1,8 +1,8 @@
-// Atan's table reduction (double LA and HA, single HA, and single Atan2 HA by its
-// quotient): the ends of every row, where the reduced argument is largest and the row
-// index changes, within 0.6 ulp and increasing across each row's start; the ends of the table,
-// where the quotient changes form (a/1 below, -1/a above); huge and tiny arguments, infinities and
-// NaN. References are the C library's long double atanl, far more accurate than a double ulp.
+// Atan's table reduction (double LA and HA, single HA, and Atan2 HA by its quotient): the ends of
+// every row, where the reduced argument is largest and the row index changes, within 0.6 ulp and
+// increasing across each row's start; the ends of the table, where the quotient changes form (a/1
+// below, -1/a above); huge and tiny arguments, infinities and NaN. References are the C library's
+// long double atanl, far more accurate than a double ulp.
 #include <cfloat>
 #include <cmath>
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ constexpr long double kPi = 3.14159265358979323846264338327950288L;
 // The rows' starts: 2^e (1 + j/2^k) for the table's binades [2^-l, 2^m), then 2^m.
 template <class T>
 std::vector<T> RowStarts() {
-    const int k = sizeof(T) == 4 ? 5 : 4, l = sizeof(T) == 4 ? 16 : 5, m = sizeof(T) == 4 ? 6 : 5;
+    const int k = sizeof(T) == 4 ? 5 : 4, l = sizeof(T) == 4 ? 16 : 10, m = sizeof(T) == 4 ? 6 : 5;
     std::vector<T> c;
     for (int e = -l; e < m; ++e)
         for (int j = 0; j < (1 << k); ++j)
@@ -77,33 +77,44 @@ TEST(AtanTable, RowEdgesWithinBoundAndIncreasing) {
     RowEdges<float>("sAtan", kHA);
 }
 
-// Single Atan2 HA takes the row of its quotient: ordinates that put the quotient at each
-// row's start and an ulp or two either side, at several scales of the abscissa, in all
-// four quadrants and swapped (|a| > |b|), within 0.6 ulp of atan2l.
-TEST(AtanTable, Atan2QuotientsAtRowEdgesWithinBound) {
-    std::vector<float> a, b;
-    for (float c : RowStarts<float>()) {
+// Atan2 HA takes the row of its quotient: ordinates that put the quotient at each row's
+// start and an ulp or two either side, at several scales of the abscissa, in all four
+// quadrants and swapped (|a| > |b|), within 0.6 ulp of atan2l; in double also the
+// quotients below the table, where atan(c) comes from the series.
+template <class T>
+void Atan2RowEdges(const char* row) {
+    std::vector<T> starts = RowStarts<T>();
+    if (sizeof(T) == 8)
+        for (int e = -11; e >= -40; --e)
+            starts.insert(starts.begin(), std::ldexp(T(1.0) + T(e % 16) / 16, e));
+    std::vector<T> a, b;
+    for (T c : starts) {
         if (c > 1) break;
-        for (float x : {1.0f, 3.7f, 0x1.3p-40f, 0x1.8p+45f}) {
-            float y = c * x;
-            for (float v : {std::nextafter(std::nextafter(y, 0.0f), 0.0f), std::nextafter(y, 0.0f),
-                            y, std::nextafter(y, 1e30f)})
+        for (T x : {T(1), T(3.7), T(0x1.3p-40), T(0x1.8p+45)}) {
+            T y = c * x;
+            for (T v : {std::nextafter(std::nextafter(y, T(0)), T(0)), std::nextafter(y, T(0)), y,
+                        std::nextafter(y, T(1e30))})
                 for (int q = 0; q < 8; ++q) {
-                    float n = q & 1 ? -v : v, d = q & 2 ? -x : x;
+                    T n = q & 1 ? -v : v, d = q & 2 ? -x : x;
                     a.push_back(q & 4 ? d : n);
                     b.push_back(q & 4 ? n : d);
                 }
         }
     }
-    std::vector<float> y(a.size());
-    As<Binary<float>>(Slot("sAtan2", kHA))(int(a.size()), a.data(), b.data(), y.data());
+    std::vector<T> y(a.size());
+    As<Binary<T>>(Slot(row, kHA))(int(a.size()), a.data(), b.data(), y.data());
     int bad = 0;
     for (size_t i = 0; i < a.size() && bad < 5; ++i) {
         long double ref = atan2l(a[i], b[i]);
         if (!(UlpError(y[i], ref) <= 0.6))
-            ++bad, ADD_FAILURE() << std::hexfloat << "sAtan2 (" << a[i] << ", " << b[i] << ") got "
+            ++bad, ADD_FAILURE() << std::hexfloat << row << " (" << a[i] << ", " << b[i] << ") got "
                                  << y[i] << std::defaultfloat << " ulp " << UlpError(y[i], ref);
     }
+}
+
+TEST(AtanTable, Atan2QuotientsAtRowEdgesWithinBound) {
+    Atan2RowEdges<float>("sAtan2");
+    Atan2RowEdges<double>("dAtan2");
 }
 
 // Random arguments over the table and a binade beyond each end, log-uniform.

@@ -5,7 +5,7 @@
 //   row i, 1 <= i <= N     {ones, c, hi, lo}: c = 2^(e) (1 + j/2^k), i - 1 = (e + l) 2^k + j,
 //                          hi + lo = atan(c) (hi rounded to the format, lo the rest);
 //   row N + 1              {0, 1, hi, lo}: from 2^m on, u = -1/a and hi + lo = pi/2;
-// where ones has every bit set (a mask), N = (l + m) 2^k. Double: k = 4, l = m = 5;
+// where ones has every bit set (a mask), N = (l + m) 2^k. Double: k = 4, l = 10, m = 5;
 // single: k = 5, l = 16, m = 6.
 //   gen_atan_tables OUT
 #include <cstdio>
@@ -83,7 +83,7 @@ int main(int argc, char** argv) {
                  "constexpr double kOnesD = __builtin_bit_cast(double, ~0ull);\n"
                  "constexpr float kOnesS = __builtin_bit_cast(float, ~0u);\n"
                  "} // namespace\n\n");
-    Table<double>(out, "atanRowsD", 4, 5, 5);
+    Table<double>(out, "atanRowsD", 4, 10, 5);
     Table<float>(out, "atanRowsS", 5, 16, 6);
     std::fprintf(out, "} // namespace brenn::vm::invtrig\n");
     return std::fclose(out) == 0 ? 0 : 1;

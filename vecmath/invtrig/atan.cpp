@@ -10,25 +10,27 @@
  * polynomial on [0, 1] (EP five terms in two halves, LA eight in two chains).
  * Atan in radians at double LA/HA (one kernel) and single HA runs a table reduction
  * (atan_tables.h): c is a = |x| with its significand cut to a few bits (4 in double, 5 in
- * single) for a in [2^-5, 2^5) ([2^-16, 2^6) in single), so that a - c is exact, and
+ * single) for a in [2^-10, 2^5) ([2^-16, 2^6) in single), so that a - c is exact, and
  * atan(a) = atan(c) + atan(u), u = (a - c)/(1 + a c), |u| at most 2^-5 (2^-6): atan(c)
  * from the table in two parts, atan(u) a short odd series (four terms in double, one in
  * single), the head of atan(c) and u joined by the fast exact sum in double. Below the
  * table u = a, above it u = -1/a and atan(c) is pi/2. One division and no correction of
  * it: its rounding reaches the result scaled by |u|/atan(a), below a twelfth.
- * Single Atan2 HA takes the same table by its quotient t = n/d in single: c is t cut to
- * 5 bits, u = (n - c d)/(d + c n) from n and d themselves (c d in two exact products, so
- * that the numerator rounds once), the base of 0, 2 or 4 quarter turns joined to the
- * row's head by the fast exact sum, in rounds of sixteen taken step by step; it keeps its
- * lanes to magnitudes in [2^-50, 2^50) (the complex Arg's single HA keeps the double
- * steps). The double steps, which the pi-scaled single LA and HA take on widened lanes,
- * fold once more at tan(pi/8): t = (n - d)/(n + d), a quarter turn added, and a short
- * odd series on [-tan(pi/8), tan(pi/8)]; Atan's own form of them (b = 1; pi-scaled LA and
- * HA, double EP) puts the sign in the quotient, -1/a or (a - 1)/(a + 1), with no swap and
- * no flip. Double Atan2 HA and the pi-scaled double rows carry the quotient's error from
- * its exact residual and join the base exactly (common.h); without them the quotient's
- * rounding near the fold (|x| just below 1/2, where a - 1 is not exact) costs up to 1.4
- * ulp. Double LA Atan2 goes without.
+ * Atan2 HA in both precisions takes the same table by its quotient t = n/d: c is t cut
+ * to 5 bits (4 in double), u = (n - c d)/(d + c n) from n and d themselves (c d in two
+ * exact products, so that the numerator rounds once), below the table c = 0 in single
+ * (the rounded t is the angle there) and atan(c) from the series in double, the base of
+ * 0, 2 or 4 quarter turns joined to the row's head by the fast exact sum, in rounds of
+ * sixteen taken step by step; single keeps its lanes to magnitudes in [2^-50, 2^50) (the
+ * complex Arg and Ln keep the double steps at every level). The double steps, which the
+ * pi-scaled single LA and HA take on widened lanes, fold once more at tan(pi/8): t =
+ * (n - d)/(n + d), a quarter turn added, and a short odd series on [-tan(pi/8),
+ * tan(pi/8)]; Atan's own form of them (b = 1; pi-scaled LA and HA, double EP) puts the
+ * sign in the quotient, -1/a or (a - 1)/(a + 1), with no swap and no flip. The pi-scaled
+ * double rows (and Atan2's scalar routine) carry the quotient's error from its exact
+ * residual and join the base exactly (common.h); without them the quotient's rounding
+ * near the fold (|x| just below 1/2, where a - 1 is not exact) costs up to 1.4 ulp.
+ * Double LA Atan2 goes without.
  *
  * Atan has no range test: infinity gives pi/2 through t = 1/inf = 0 (-1/inf in the
  * table's top row), NaN passes. Atan2 sends zeros, infinities, NaN and magnitudes outside
@@ -39,7 +41,7 @@
  *
  * Measured (brenn_accuracy, 250000 inputs a row), LA / HA in ulp, EP in bits: sAtan
  * 2.62 / 0.525 / 12.3, sAtan2 2.16 / 0.515 / 14.9, sAtanpi 0.510 / 0.510 / 12.3,
- * sAtan2pi 0.507 / 0.507 / 14.9; dAtan 0.531 (one kernel) / 30.5, dAtan2 0.961 / 0.582 /
+ * sAtan2pi 0.507 / 0.507 / 14.9; dAtan 0.531 (one kernel) / 30.5, dAtan2 0.961 / 0.531 /
  * 30.5, dAtanpi 0.743 / 0.743 / 30.5, dAtan2pi 0.692 / 0.692 / 30.5. */
 #include "frame/kernels.h"
 #include "vecmath/explog/flat.h"

@@ -263,11 +263,16 @@ template <class T>
 struct AtanTableState {
     Vec<T> x, u, hi, lo;
 };
+// The double row of a >= 0, in the low word of each lane.
+BRENN_VEC I64x2 AtanRowIndex(__m128d a) {
+    I32x4 i = BitCast<I32x4>(ShiftRight<48>(AsInt(a)));
+    i = Min(Max(Sub(i, Set<int32_t>((1023 - 10) * 16 - 1)), Zero<int32_t>()), Set<int32_t>(241));
+    return BitCast<I64x2>(i);
+}
 BRENN_VEC void AtanRowOf(__m128d x, __m128d& mask, __m128d& c, __m128d& hi, __m128d& lo) {
-    I32x4 i = BitCast<I32x4>(ShiftRight<48>(AsInt(Abs(x))));
-    i = Min(Max(Sub(i, Set<int32_t>((1023 - 5) * 16 - 1)), Zero<int32_t>()), Set<int32_t>(161));
-    GatherPairs(atanRowsD, BitCast<I64x2>(i), -1, mask, c, 0);
-    GatherPairs(atanRowsD, BitCast<I64x2>(i), -1, hi, lo, 2);
+    I64x2 i = AtanRowIndex(Abs(x));
+    GatherPairs(atanRowsD, i, -1, mask, c, 0);
+    GatherPairs(atanRowsD, i, -1, hi, lo, 2);
 }
 // The single rows' byte offsets, sixteen times the index: the scalar unit adds them as
 // they are (no widening, no scaling).
@@ -370,6 +375,63 @@ BRENN_VEC __m128 Atan2SingleHA(__m128 a, __m128 b, __m128 special) {
     Atan2SingleQuotient(a, b, special, s);
     Atan2SingleReduced(s);
     return Atan2SingleAngle(s);
+}
+
+// Double Atan2 HA (the row's own) on Atan's table, the single steps' form in double: t =
+// n/d, c = t with its significand cut to 4 bits, atan(t) = atan(c) + atan(u) with u =
+// (n - c d)/(d + c n), c d as two exact products (d cut at 27 bits, c of 5), the
+// numerator rounded once (n - c dh is exact: c is within 2^-4 below t). atan(c) is the
+// row's hi + lo from 2^-10 on, c + c^3 (p0 + p1 c^2) below (the first two terms of the
+// series of u, within 2^-62 of it there), so that no rounded quotient is the angle. u is
+// within 2^-51 of itself, which moves the angle by |u|/atan(t) (below 1/12) of it; the
+// base of 0, 2 or 4 quarter turns is joined to hi by the fast exact sum, the rest (u and
+// the tails) to its error. In three steps, the quotient, the reduced quotient, the
+// angle, for the rounds of sixteen (Atan2Body::EvalWide). Lanes hold magnitudes in
+// [2^-500, 2^500), the special ones 1.
+struct Atan2DoubleState {
+    __m128d a, b, n, d, swap, t, u, hi, lo;
+};
+BRENN_VEC void Atan2DoubleQuotient(__m128d a, __m128d b, __m128d special, Atan2DoubleState& s) {
+    const __m128d one = Set<double>(1.0);
+    a = IfThenElse(special, one, a);
+    b = IfThenElse(special, one, b);
+    __m128d ay = Abs(a), ax = Abs(b);
+    s.swap = AsFloat(Gt(AsInt(ay), AsInt(ax)));
+    s.a = a, s.b = b;
+    s.n = IfThenElse(s.swap, ax, ay);
+    s.d = IfThenElse(s.swap, ay, ax);
+    s.t = Div(s.n, s.d);
+}
+BRENN_VEC void Atan2DoubleReduced(Atan2DoubleState& s) {
+    using P = AtanTableSeries<double>;
+    __m128d n = s.n, d = s.d;
+    I64x2 i = AtanRowIndex(s.t);
+    GatherPairs(atanRowsD, i, -1, s.hi, s.lo, 2);
+    __m128d c = And(s.t, AsFloat(Set<uint64_t>(0xFFFF000000000000ull)));
+    __m128d below = AsFloat(Eq(i, Zero<uint64_t>()));
+    __m128d z = Mul(c, c);
+    __m128d cl = Mul(Mul(c, z), Add(Mul(z, Set<double>(P::kP[1])), Set<double>(P::kP[0])));
+    s.hi = IfThenElse(below, c, s.hi);
+    s.lo = IfThenElse(below, cl, s.lo);
+    __m128d dh = And(d, AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull)));
+    __m128d num = Sub(Sub(n, Mul(c, dh)), Mul(c, Sub(d, dh)));
+    s.u = Div(num, Add(d, Mul(c, n)));
+}
+BRENN_VEC __m128d Atan2DoubleAngle(const Atan2DoubleState& s) {
+    using Q = Quarter<double, Unit::Radian>;
+    __m128d u = s.u, z = Mul(u, u);
+    __m128d v = Add(u, Add(s.lo, Mul(Mul(u, z), Horner(z, AtanTableSeries<double>::kP))));
+    __m128d flip = Xor(And(s.swap, SignMask<double>()), SignBit(s.b));
+    __m128d k = IfThenElse(s.swap, Set<double>(2), IfThenElse(s.b, Set<double>(4), Zero<double>()));
+    __m128d y, e;
+    FastTwoSum(Mul(k, Set<double>(Q::kHi)), Xor(s.hi, flip), y, e);
+    return Or(Add(y, Add(e, Add(Mul(k, Set<double>(Q::kLo)), Xor(v, flip)))), SignBit(s.a));
+}
+BRENN_VEC __m128d Atan2DoubleHA(__m128d a, __m128d b, __m128d special) {
+    Atan2DoubleState s;
+    Atan2DoubleQuotient(a, b, special, s);
+    Atan2DoubleReduced(s);
+    return Atan2DoubleAngle(s);
 }
 
 // The double steps on four single lanes, widened, with the short series.
@@ -481,6 +543,7 @@ BRENN_VEC __m128d Atan2Of(__m128d a, __m128d b, __m128d special) {
     const __m128d one = Set<double>(1.0);
     // The row's own EP kernel takes the five terms by Horner's rule (fewer operations;
     // the complex Arg and Ln keep Estrin's scheme).
+    if constexpr (Fast && L == Level::HA && U == Unit::Radian) return Atan2DoubleHA(a, b, special);
     using S = std::conditional_t<Fast && L == Level::EP && U == Unit::Radian,
                                  DoubleSeriesHorner<AtanDouble5Set>, DoubleSeriesOf<L>>;
     return AngleOf<U, S, L == Level::HA || U == Unit::Pi>(IfThenElse(special, one, a),
@@ -620,27 +683,41 @@ struct Atan2Body {
     static int Scalar(const T* a, const T* b, T* y) {
         return Atan2Scalar<U, T, Fast && sizeof(T) == 8>(a, b, y);
     }
-    // Single HA (the row's own, in single arithmetic): rounds of sixteen, each of its three
-    // steps over the round's four registers before the next.
-    static constexpr bool kWide = sizeof(T) == 4 && L == Level::HA && U == Unit::Radian && Fast;
+    // HA (the row's own): rounds of sixteen, each of the three steps over the round's
+    // registers before the next.
+    static constexpr bool kWide = L == Level::HA && U == Unit::Radian && Fast;
     static constexpr int kRound = kWide ? 16 : 8;
+    using WideState = std::conditional_t<sizeof(T) == 4, Atan2SingleState, Atan2DoubleState>;
     static int EvalWide(const V* a, const V* b, V* y)
         requires kWide
     {
-        Atan2SingleState s[4];
+        constexpr int N = 16 / kLanes<T>;
+        WideState s[N];
         int bits = 0;
-#pragma GCC unroll 4
-        for (int k = 0; k < 4; ++k) {
-            V special = Or(HeldRangeTest(a[k], kRangeHA), HeldRangeTest(b[k], kRangeHA));
-            bits |= MaskBits(special) << (4 * k);
-            Atan2SingleQuotient(a[k], b[k], special, s[k]);
+#pragma GCC unroll 8
+        for (int k = 0; k < N; ++k) {
+            V special = Or(HeldRangeTest(a[k], kRangeOf<T, L, U, Fast>),
+                           HeldRangeTest(b[k], kRangeOf<T, L, U, Fast>));
+            bits |= MaskBits(special) << (kLanes<T> * k);
+            if constexpr (sizeof(T) == 4)
+                Atan2SingleQuotient(a[k], b[k], special, s[k]);
+            else
+                Atan2DoubleQuotient(a[k], b[k], special, s[k]);
         }
-#pragma GCC unroll 4
-        for (int k = 0; k < 4; ++k)
-            Atan2SingleReduced(s[k]);
-#pragma GCC unroll 4
-        for (int k = 0; k < 4; ++k)
-            y[k] = Atan2SingleAngle(s[k]);
+#pragma GCC unroll 8
+        for (int k = 0; k < N; ++k) {
+            if constexpr (sizeof(T) == 4)
+                Atan2SingleReduced(s[k]);
+            else
+                Atan2DoubleReduced(s[k]);
+        }
+#pragma GCC unroll 8
+        for (int k = 0; k < N; ++k) {
+            if constexpr (sizeof(T) == 4)
+                y[k] = Atan2SingleAngle(s[k]);
+            else
+                y[k] = Atan2DoubleAngle(s[k]);
+        }
         return bits;
     }
 

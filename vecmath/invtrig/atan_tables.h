@@ -7,16 +7,17 @@
  *   row N + 1      {0, 1, hi, lo}: a from 2^m on, u = -1/a, hi + lo = pi/2;
  * ones a mask of every bit, N = (l + m) 2^k, the row of a from its exponent and top k
  * bits.
- *   atanRowsD: double, k = 4, l = m = 5, rows of 32 bytes; |u| <= 2^-5;
- *   atanRowsS: single, k = 5, l = 16, m = 6, rows of 16 bytes; |u| <= 2^-6. The rows
- *              reach down to 2^-16 for Atan2, whose quotient below them is rounded
- *              (atan(t) - t is below a 2^-33 of it there). */
+ *   atanRowsD: double, k = 4, l = 10, m = 5, rows of 32 bytes; |u| <= 2^-5;
+ *   atanRowsS: single, k = 5, l = 16, m = 6, rows of 16 bytes; |u| <= 2^-6.
+ * Atan2 takes the rows by its quotient t = n/d (Atan's top row never), and below them
+ * the rounded quotient: in single it is the angle within 2^-33 there; in double c is t
+ * cut to 4 bits there too, atan(c) from the series. */
 #ifndef BRENN_VECMATH_INVTRIG_ATAN_TABLES_H
 #define BRENN_VECMATH_INVTRIG_ATAN_TABLES_H
 
 namespace brenn::vm::invtrig {
 
-extern const double atanRowsD[162][4];
+extern const double atanRowsD[242][4];
 extern const float atanRowsS[706][4];
 
 } // namespace brenn::vm::invtrig
