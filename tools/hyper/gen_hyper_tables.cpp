@@ -10,11 +10,11 @@
 //                   is {0, 1}.
 // Row 133 is {1, 0, ...}: the kernel evaluates it at 0.
 // The single HA rows, 32 a binade (the kernel's index (bits - 0x3CFC0000) >> 18, at least
-// 0, with a held at 10): row 0 holds [0, 2^-5), row k for k = 1..264 the k-th 32nd of a
-// binade from 2^-5 on (the last one [9.75, 10)), row 265 the argument 10:
+// 0, with a held at 10): row 0 holds [0, 2^-8), row k for k = 1..360 the k-th 32nd of a
+// binade from 2^-8 on (the last one [9.75, 10)), row 361 the argument 10:
 //   tanhRowsHA[k] = {c, H, K, 0}: c the single nearest the row's midpoint whose tanh
 //                   is within 2^-12 ulp of the single H, and K = 1 - tanh(c)^2
-//                   rounded; row 0 is {0, 0, 1, 0}, row 265 {10, 1, 0, 0}; the rows
+//                   rounded; row 0 is {0, 0, 1, 0}, row 361 {10, 1, 0, 0}; the rows
 //                   from 8.75 on, where no such c exists, {midpoint, H, 0, 0}.
 // The double rows, 32 a binade (the kernel's index from the high word, (hi - 0x3F9F8000)
 // >> 15, at least 0, with a held at 19.5): row 0 holds [0, 2^-5), row k for k = 1..295
@@ -37,7 +37,7 @@ namespace {
 
 constexpr mpfr_prec_t kPrec = 256;
 constexpr int kRows = 134;
-constexpr int kRowsHA = 266;
+constexpr int kRowsHA = 362;
 constexpr int kRowsD = 297;
 
 // The ends of row k (1 to 132): the single bit patterns 0x3D000000 + (k-1)*2^19 on.
@@ -186,7 +186,7 @@ void TableHA(FILE* out) {
         if (k == kRowsHA - 1) {
             cf = 10, h = 1, kk = 0;
         } else if (k > 0) {
-            unsigned mid = 0x3D000000u + unsigned(k - 1) * 0x40000u + 0x20000u;
+            unsigned mid = 0x3B800000u + unsigned(k - 1) * 0x40000u + 0x20000u;
             bool found = false;
             for (int d = 0; d > -0x20000 && !found; d = d > 0 ? -d : 1 - d) {
                 unsigned bits = mid + unsigned(d);

@@ -3,8 +3,8 @@
  * binade from 2^-5 on, up to 10; row 133 is the constant 1.
  *   tanhRowsLA[k] = {c0, c1, c2, c3}, tanh(a) ~ ((c3*a + c2)*a + c1)*a + c0;
  *   tanhRowsEP[k] = {c0, c1},         tanh(a) ~ c1*a + c0.
- * The HA rows, 32 a binade: row 0 [0, 2^-5), row k (1 to 264) the k-th 32nd of a binade
- * from 2^-5 on, up to 10; row 265 the argument 10:
+ * The HA rows, 32 a binade: row 0 [0, 2^-8), row k (1 to 360) the k-th 32nd of a binade
+ * from 2^-8 on, up to 10; row 361 the argument 10:
  *   tanhRowsHA[k] = {c, H, K, 0}, c near the midpoint with tanh(c) a single H to 2^-12
  *                   ulp, K ~ 1 - H^2 (from 8.75 on constants {midpoint, H, 0, 0}).
  * The rows of the double Tanh, 32 a binade: row 0 [0, 2^-5), row k (1 to 295) the k-th
@@ -20,7 +20,7 @@
 namespace brenn::vm {
 
 extern const double tanhRowsLA[134][4];
-extern const float tanhRowsHA[266][4];
+extern const float tanhRowsHA[362][4];
 extern const double tanhRowsD[297][4];
 extern const double tanhRowsEP[134][2];
 extern const float hyperExpRowsS[64][4];

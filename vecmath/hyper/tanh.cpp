@@ -15,7 +15,7 @@
  * and by the addition theorem tanh(c + t) = H + K*s/(1 + H*s), s = tanh(t) for t = a - c
  * (exact: a and c share their exponent) by a short odd polynomial. The part after H is
  * under 1/64 of the result, so that its few roundings cost about a tenth of an ulp.
- * Row 0 (below 2^-5) has c = H = 0 and K = 1 and gives s itself.
+ * Row 0 (below 2^-8) has c = H = 0 and K = 1 and gives s itself.
  * Double, the same theorem on rows of doubles, one body for every level: a held at 19.5
  * (tanh is 1 to the last bit from 19.06 on) picks one of 32 rows a binade from the high
  * word, {c, H, K} with c a double near the row's midpoint whose tanh is a double H to
@@ -54,12 +54,13 @@ inline __m128d RowPoly(__m128d a, uint32_t o0, uint32_t o1) {
     return Add(Mul(Add(Mul(Add(Mul(c3, a), c2), a), c1), a), c0);
 }
 
-// The HA rows: 32 a binade, row 1 from 2^-5 (0x3D000000) on, row 265 the argument 10.
-constexpr uint32_t kRowBaseHA = 0x3CFC0000u;
+// The HA rows: 32 a binade, row 1 from 2^-8 (0x3B800000) on, row 361 the argument 10.
+constexpr uint32_t kRowBaseHA = 0x3B7C0000u;
 constexpr int kRowShiftHA = 18;
-// s(t) = t + t*u*Q(u) ~ tanh(t), u = t^2, fitted on |t| <= 1/8 (tools/hyper/
-// tanh_single_ha.sollya: relative error 2^-25.2 there, 2^-30 below 2^-5).
-constexpr float kTanhQ[] = {-0x1.5554e8p-2f, 0x1.0f59bap-3f};
+// s(t) = t + t*u*q ~ tanh(t), u = t^2, q = -1/3 (tools/hyper/tanh_single_ha.sollya:
+// relative error 2^-35 below 2^-8, 2^-22.9 to 1/32, 2^-18.9 to 1/16, 2^-10.9 to 1/4, where
+// the part after H is under 2^-8.8, 2^-13.6 and 2^-23 of the result).
+constexpr float kTanhQ = -0x1.555556p-2f;
 // Below this u is taken as 0 (s = t), so that t*t cannot underflow.
 constexpr float kTanhTinyHA = 0x1p-40f;
 
@@ -78,7 +79,7 @@ inline __m128 TanhHA(__m128 x) {
     __m128 t = Sub(a, c);
     __m128 tq = And(t, Ge(a, Set<float>(kTanhTinyHA)));
     __m128 u = Mul(tq, tq);
-    __m128 s = Add(t, Mul(Mul(t, u), Horner(u, kTanhQ)));
+    __m128 s = Add(t, Mul(Mul(t, u), Set<float>(kTanhQ)));
     __m128 rest = Div(Mul(k, s), Add(Set<float>(1.0f), Mul(h, s)));
     return Or(Add(h, rest), SignBit(x));
 }
