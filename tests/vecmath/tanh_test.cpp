@@ -91,8 +91,10 @@ TEST(Tanh, SingleEveryRowWithinItsBound) {
 // smallest normals given back exactly, and no underflow flag (the short tanh's square is
 // not taken below 2^-40); above the cut the cube counts again.
 TEST(Tanh, SingleSmallArgumentsAsThemselves) {
-    const float small[] = {0.0f, FLT_TRUE_MIN, 5 * FLT_TRUE_MIN, 1e-40f, FLT_MIN, 0x1.8p-100f,
-                           0x1.fffffep-41f, 0x1p-40f, 0x1.000002p-40f, 0x1p-30f, 0x1.fffffep-14f};
+    const float small[] = {
+        0.0f,           FLT_TRUE_MIN,    5 * FLT_TRUE_MIN, 1e-40f,          FLT_MIN,
+        0x1.8p-100f,    0x1.fffffep-41f, 0x1p-40f,         0x1.000002p-40f, 0x1p-30f,
+        0x1.fffffep-14f};
     for (float v : small)
         for (float s : {v, -v}) {
             CsrScope csr(0x1F80);
@@ -154,7 +156,8 @@ TEST(Tanh, DoubleEveryRowWithinItsBound) {
         for (uint64_t b : {RowStartD(k) - 1, RowStartD(k), RowStartD(k) + 1,
                            RowStartD(k) + kHalfRowD, RowStartD(k + 1) - 1})
             x.push_back(AsDouble(b));
-    for (double v : {18.7149, 18.715, 19.0, 19.06, 19.0615, 19.062, 19.4999, 19.5, 20.0, 22.0, 1e300})
+    for (double v :
+         {18.7149, 18.715, 19.0, 19.06, 19.0615, 19.062, 19.4999, 19.5, 20.0, 22.0, 1e300})
         x.push_back(v);
     for (double v : x)
         for (double s : {v, -v}) {

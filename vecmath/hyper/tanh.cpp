@@ -71,8 +71,9 @@ inline __m128 TanhHA(__m128 x) {
     I32x4 bits = Max(AsInt(a), Set<int32_t>(int32_t(kRowBaseHA)));
     Indices o = IndicesOf(ShiftRight<kRowShiftHA - 4>(And(bits, Set<uint32_t>(0x7FFC0000u))));
     const char* base = reinterpret_cast<const char*>(tanhRowsHA);
+    constexpr int32_t origin = int32_t(kRowBaseHA >> (kRowShiftHA - 4));
     auto rowAt = [base](int32_t off) {
-        return reinterpret_cast<const float*>(base + (off - int32_t(kRowBaseHA >> (kRowShiftHA - 4))));
+        return reinterpret_cast<const float*>(base + (off - origin));
     };
     __m128 c, h, k, pad;
     LoadTransposed(rowAt(o.at[0]), rowAt(o.at[1]), rowAt(o.at[2]), rowAt(o.at[3]), c, h, k, pad);
@@ -105,8 +106,8 @@ constexpr double kTanhHoldD = 19.5;
 // s(t) = t + t*u*Q(u) ~ tanh(t), u = t^2 (tools/hyper/tanh_double.sollya: relative error
 // 2^-63.7 below 2^-5, 2^-47.5 to 1/16, 2^-37 to 1/8, 2^-26.9 to 1/4, where the part
 // after H is under 2^-13.6, 2^-24 and 2^-46 of the result).
-constexpr double kTanhQD[] = {-0x1.5555555555554p-2, 0x1.11111110fe215p-3,
-                              -0x1.ba1b9bf56e7dfp-5, 0x1.6606423dcfd1fp-6};
+constexpr double kTanhQD[] = {-0x1.5555555555554p-2, 0x1.11111110fe215p-3, -0x1.ba1b9bf56e7dfp-5,
+                              0x1.6606423dcfd1fp-6};
 
 // By the rows: tanh(c + t) = H + K*s/(1 + H*s), every level.
 template <Level L>
