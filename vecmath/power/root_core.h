@@ -197,36 +197,80 @@ constexpr float kCbrtEPS[] = {0x1.1ac61p-1f, 0x1.2d1762p-1f, -0x1.4edfdp-3f, 0x1
 // scale, exactly, so that q' goes into the exponent field as it is.
 alignas(16) constexpr float kCbrtScaleS[4] = {0x1p-43f, 0x1.428a3p-43f, 0x1.965feap-43f, 0x1p-43f};
 
-template <Root R, int Terms, bool Wide>
-inline __m128 RootOf(__m128 ax) {
+// The split of |x| (the exponent's third q', j's bits, the significand m) and the seed z of
+// M = m * 2^j, as stated above.
+struct SingleSplit {
+    I32x4 qd, jbits; // q'; j in bits 10 and 11
+    __m128 m;
+};
+BRENN_VEC SingleSplit SplitSingle(__m128 ax) {
     using F = Format<float>;
     const I32x4 xi = AsInt(ax);
     const I32x4 kd = Add(ShiftRight<F::kMantBits>(xi), Set<int32_t>(2));
     const I32x4 third = Set<int32_t>(0x5556);
-    const I32x4 qd = MulHigh16(kd, third);
-    const I32x4 jbits = MulLow16(kd, third); // j in bits 10 and 11
     const I32x4 mant = And(xi, Set<uint32_t>(F::kMant));
-    const __m128 m = AsFloat(Or(mant, Set<uint32_t>(F::kOne)));
-    __m128 v;
-    if constexpr (R == Root::Cbrt && Terms == 0 && !Wide) {
-        v = Mul(Horner(m, kCbrtEPS), AsFloat(LookupFourBySecondByte(AsInt(Load(kCbrtScaleS)), jbits)));
-        return AsFloat(Add(AsInt(v), ShiftLeft<F::kMantBits>(qd)));
-    }
+    return {MulHigh16(kd, third), MulLow16(kd, third), AsFloat(Or(mant, Set<uint32_t>(F::kOne)))};
+}
+BRENN_VEC void SeedSingle(const SingleSplit& s, __m128& bigM, __m128& z) {
+    using F = Format<float>;
     // M = m * 2^j: bits 10 and 11 of jbits moved to 23 and 24 and added to m's exponent.
-    const I32x4 jfield = And(ShiftLeft<F::kMantBits - 10>(jbits), Set<int32_t>(3 << F::kMantBits));
-    const __m128 bigM = AsFloat(Add(AsInt(m), jfield));
-    const __m128 z =
-        Mul(Estrin(m, kRootSeedS), AsFloat(LookupFourBySecondByte(AsInt(Load(kRootScaleS)), jbits)));
-    if constexpr (Wide) {
-        v = Narrow(RootFinishLine<R>(WidenLower(z), WidenLower(bigM)),
-                   RootFinishLine<R>(WidenUpper(z), WidenUpper(bigM)));
-        // q' itself, negated or doubled: the offset came with the line's constants.
-        if constexpr (R == Root::InvCbrt) return AsFloat(Sub(AsInt(v), ShiftLeft<F::kMantBits>(qd)));
-        return AsFloat(Add(AsInt(v), ShiftLeft<F::kMantBits + (R == Root::Pow2o3)>(qd)));
+    const I32x4 jfield =
+        And(ShiftLeft<F::kMantBits - 10>(s.jbits), Set<int32_t>(3 << F::kMantBits));
+    bigM = AsFloat(Add(AsInt(s.m), jfield));
+    z = Mul(Estrin(s.m, kRootSeedS),
+            AsFloat(LookupFourBySecondByte(AsInt(Load(kRootScaleS)), s.jbits)));
+}
+
+// The single HA form (`Wide`) over M registers at once, each step over all of them before
+// the next (the seeds, the lines in double, the exponents), so that their chains overlap:
+// the rounds of sixteen take four registers, RootOf one.
+template <Root R, int M>
+BRENN_VEC void RootRoundWide(const __m128* ax, __m128* v) {
+    using F = Format<float>;
+    I32x4 qd[M];
+    __m128 z[M], bigM[M];
+#pragma GCC unroll 4
+    for (int k = 0; k < M; ++k) {
+        const SingleSplit s = SplitSingle(ax[k]);
+        qd[k] = s.qd;
+        SeedSingle(s, bigM[k], z[k]);
     }
-    v = RootFinish<R, Terms>(z, bigM);
+    __m128d lo[M], hi[M];
+#pragma GCC unroll 4
+    for (int k = 0; k < M; ++k) {
+        lo[k] = RootFinishLine<R>(WidenLower(z[k]), WidenLower(bigM[k]));
+        hi[k] = RootFinishLine<R>(WidenUpper(z[k]), WidenUpper(bigM[k]));
+    }
+#pragma GCC unroll 4
+    for (int k = 0; k < M; ++k) {
+        // q' itself, negated or doubled: the offset came with the line's constants.
+        const __m128 w = Narrow(lo[k], hi[k]);
+        if constexpr (R == Root::InvCbrt)
+            v[k] = AsFloat(Sub(AsInt(w), ShiftLeft<F::kMantBits>(qd[k])));
+        else
+            v[k] = AsFloat(Add(AsInt(w), ShiftLeft<F::kMantBits + (R == Root::Pow2o3)>(qd[k])));
+    }
+}
+
+template <Root R, int Terms, bool Wide>
+inline __m128 RootOf(__m128 ax) {
+    using F = Format<float>;
+    if constexpr (Wide) {
+        __m128 v;
+        RootRoundWide<R, 1>(&ax, &v);
+        return v;
+    }
+    const SingleSplit s = SplitSingle(ax);
+    if constexpr (R == Root::Cbrt && Terms == 0) {
+        const __m128 v = Mul(Horner(s.m, kCbrtEPS),
+                             AsFloat(LookupFourBySecondByte(AsInt(Load(kCbrtScaleS)), s.jbits)));
+        return AsFloat(Add(AsInt(v), ShiftLeft<F::kMantBits>(s.qd)));
+    }
+    __m128 bigM, z;
+    SeedSingle(s, bigM, z);
+    const __m128 v = RootFinish<R, Terms>(z, bigM);
     // The exponent q = q' - 43, negated for InvCbrt and doubled for Pow2o3.
-    I32x4 q = Sub(qd, Set<int32_t>(43));
+    I32x4 q = Sub(s.qd, Set<int32_t>(43));
     if constexpr (R == Root::InvCbrt) q = Sub(Set<int32_t>(0), q);
     if constexpr (R == Root::Pow2o3) q = Add(q, q);
     return AsFloat(Add(AsInt(v), ShiftLeft<F::kMantBits>(q)));
