@@ -688,17 +688,19 @@ struct Atan2Body {
     static constexpr bool kWide = L == Level::HA && U == Unit::Radian && Fast;
     static constexpr int kRound = kWide ? 16 : 8;
     using WideState = std::conditional_t<sizeof(T) == 4, Atan2SingleState, Atan2DoubleState>;
-    static int EvalWide(const V* a, const V* b, V* y)
-        requires kWide
-    {
+    template <bool Test>
+    static BRENN_VEC int WideSteps(const V* a, const V* b, V* y) {
         constexpr int N = 16 / kLanes<T>;
         WideState s[N];
         int bits = 0;
 #pragma GCC unroll 8
         for (int k = 0; k < N; ++k) {
-            V special = Or(HeldRangeTest(a[k], kRangeOf<T, L, U, Fast>),
-                           HeldRangeTest(b[k], kRangeOf<T, L, U, Fast>));
-            bits |= MaskBits(special) << (kLanes<T> * k);
+            V special = Zero<T>();
+            if constexpr (Test) {
+                special = Or(HeldRangeTest(a[k], kRangeOf<T, L, U, Fast>),
+                             HeldRangeTest(b[k], kRangeOf<T, L, U, Fast>));
+                bits |= MaskBits(special) << (kLanes<T> * k);
+            }
             if constexpr (sizeof(T) == 4)
                 Atan2SingleQuotient(a[k], b[k], special, s[k]);
             else
@@ -719,6 +721,26 @@ struct Atan2Body {
                 y[k] = Atan2DoubleAngle(s[k]);
         }
         return bits;
+    }
+    // Single: the range test once a round, its offset bits of every a and b folded by
+    // signed maxima and compared once (the test is a signed compare of each); a round
+    // without a special lane runs the steps with no mask (no test, no quieting a
+    // register), the others test register by register.
+    static int EvalWide(const V* a, const V* b, V* y)
+        requires kWide
+    {
+        if constexpr (sizeof(T) == 4) {
+            const Range32 w = kRangeHA;
+            I32x4 fold = Set<int32_t>(INT32_MIN);
+#pragma GCC unroll 4
+            for (int k = 0; k < 4; ++k)
+                for (V v : {a[k], b[k]})
+                    fold = Max(fold,
+                               Add(And(AsInt(v), Set<uint32_t>(w.mask)), Set<uint32_t>(w.offset)));
+            if (__builtin_expect(MaskBits(Gt(fold, Set<uint32_t>(w.limit))) == 0, 1))
+                return WideSteps<false>(a, b, y);
+        }
+        return WideSteps<true>(a, b, y);
     }
 
     // Double: N pairs of registers, each step of the angle over all of them before the
