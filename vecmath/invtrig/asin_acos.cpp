@@ -313,9 +313,9 @@ struct Body {
     }
     static int Scalar(const T* a, T* y) { return invtrig::Scalar<F, U>(a, y); }
     // Double rounds of sixteen, step by step over the round's registers (AnglesRound);
-    // single HA in radians takes its rounds of sixteen with the domain tested once a
-    // round (EvalTestOnce: the lanes outside run on 0, as in Eval).
-    static constexpr bool kTestOnce = sizeof(T) == 4 && L == Level::HA && U == Unit::Radian;
+    // the single kernels in radians take theirs with the domain tested once a round
+    // (EvalTestOnce: the lanes outside run on 0, as in Eval; same bits as by register).
+    static constexpr bool kTestOnce = sizeof(T) == 4 && U == Unit::Radian;
     static constexpr int kRound = sizeof(T) == 8 || kTestOnce ? 16 : 8;
     static constexpr LaneRange<T> kWindow = kDomain<T>;
     static BRENN_VEC V Value(V x) { return AnglesOf<F, U, L>(x); }
@@ -344,15 +344,11 @@ using AcospiBody = Body<T, L, Fn::Acos, Unit::Pi>;
 using namespace brenn::vm::invtrig;
 
 extern "C" {
-// Single HA flattened: its rounds of sixteen stay in the kernel's loop with the constants
-// in registers, not a call a round.
-ZAR_KERNEL_OF(s, Asin, EP, Unary, AsinBody<float, brenn::vm::Level::EP>)
-ZAR_KERNEL_OF(s, Asin, LA, Unary, AsinBody<float, brenn::vm::Level::LA>)
-BRENN_FLAT ZAR_KERNEL_OF(s, Asin, HA, Unary, AsinBody<float, brenn::vm::Level::HA>)
+// The single kernels flattened: their rounds of sixteen stay in the kernel's loop with the
+// constants in registers, not a call a round.
+BRENN_FLAT_LEVEL_KERNELS(s, Asin, Unary, AsinBody)
 ZAR_LEVEL_KERNELS(d, Asin, Unary, AsinBody)
-ZAR_KERNEL_OF(s, Acos, EP, Unary, AcosBody<float, brenn::vm::Level::EP>)
-ZAR_KERNEL_OF(s, Acos, LA, Unary, AcosBody<float, brenn::vm::Level::LA>)
-BRENN_FLAT ZAR_KERNEL_OF(s, Acos, HA, Unary, AcosBody<float, brenn::vm::Level::HA>)
+BRENN_FLAT_LEVEL_KERNELS(s, Acos, Unary, AcosBody)
 ZAR_LEVEL_KERNELS(d, Acos, Unary, AcosBody)
 // The pi-scaled single kernels flattened: left to itself GCC keeps their LA and HA
 // bodies (in double) out of line, one call a quad.
