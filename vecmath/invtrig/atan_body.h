@@ -722,24 +722,30 @@ struct Atan2Body {
         }
         return bits;
     }
-    // Single: the range test once a round, its offset bits of every a and b folded by
-    // signed maxima and compared once (the test is a signed compare of each); a round
-    // without a special lane runs the steps with no mask (no test, no quieting a
-    // register), the others test register by register.
+    // The range test once a round: the offset bits of every a and b (the high words in
+    // double, the low words held below any limit) folded by signed maxima and compared
+    // once (the test is a signed compare of each); a round without a special lane runs
+    // the steps with no mask (no test, no quieting or blending a register), the others
+    // test register by register.
     static int EvalWide(const V* a, const V* b, V* y)
         requires kWide
     {
-        if constexpr (sizeof(T) == 4) {
-            const Range32 w = kRangeHA;
-            I32x4 fold = Set<int32_t>(INT32_MIN);
-#pragma GCC unroll 4
-            for (int k = 0; k < 4; ++k)
-                for (V v : {a[k], b[k]})
-                    fold = Max(fold,
-                               Add(And(AsInt(v), Set<uint32_t>(w.mask)), Set<uint32_t>(w.offset)));
-            if (__builtin_expect(MaskBits(Gt(fold, Set<uint32_t>(w.limit))) == 0, 1))
-                return WideSteps<false>(a, b, y);
-        }
+        constexpr Range32 w = kRangeOf<T, L, U, Fast>;
+        constexpr int N = 16 / kLanes<T>;
+        const bool single = sizeof(T) == 4;
+        const I32x4 mask = single ? Set<uint32_t>(w.mask)
+                                  : BitCast<I32x4>(Set<uint64_t>(uint64_t(w.mask) << 32));
+        const I32x4 offset = single ? Set<uint32_t>(w.offset)
+                                    : BitCast<I32x4>(Set<uint64_t>(uint64_t(w.offset) << 32));
+        I32x4 fold = Set<int32_t>(INT32_MIN);
+#pragma GCC unroll 8
+        for (int k = 0; k < N; ++k)
+            for (V v : {a[k], b[k]})
+                fold = Max(fold, Add(And(BitCast<I32x4>(v), mask), offset));
+        const I32x4 limit =
+            single ? Set<uint32_t>(w.limit)
+                   : BitCast<I32x4>(Set<uint64_t>((uint64_t(w.limit) << 32) | 0x7FFFFFFFu));
+        if (__builtin_expect(MaskBits(Gt(fold, limit)) == 0, 1)) return WideSteps<false>(a, b, y);
         return WideSteps<true>(a, b, y);
     }
 
