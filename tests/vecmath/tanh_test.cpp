@@ -107,14 +107,14 @@ TEST(Tanh, SingleSmallArgumentsAsThemselves) {
         EXPECT_LE(UlpError(TanhHA(v), tanhl(v)), 0.55) << v;
 }
 
-constexpr int kRowsD = 297;
+constexpr int kRowsD = 393;
 
 double AsDouble(uint64_t b) {
     return __builtin_bit_cast(double, b);
 }
-// The first argument of double row k, 1 to 296 (296: the argument 19.5), and half a row.
+// The first argument of double row k, 1 to 392 (392: the argument 19.5), and half a row.
 uint64_t RowStartD(int k) {
-    return (uint64_t(0x3FA00000u) + uint64_t(k - 1) * 0x8000u) << 32;
+    return (uint64_t(0x3F700000u) + uint64_t(k - 1) * 0x8000u) << 32;
 }
 constexpr uint64_t kHalfRowD = uint64_t(0x4000u) << 32;
 
@@ -149,7 +149,8 @@ double TanhHAD(double x) {
 
 // Both ends of every row and its middle, both signs, and the rounding points near 1
 // (1 - 2^-53 from 18.71 on, 1 from 19.06 on): within 0.55 ulp of long double's tanh
-// (whose own error is 2^-11 ulp of a double), at HA and at LA (the same body).
+// (whose own error is 2^-11 ulp of a double) at HA; at LA and EP, whose short tanh is a
+// degree shorter, within 2 (1.9 on [4, 8)).
 TEST(Tanh, DoubleEveryRowWithinItsBound) {
     std::vector<double> x;
     for (int k = 1; k < kRowsD; ++k)
@@ -164,7 +165,7 @@ TEST(Tanh, DoubleEveryRowWithinItsBound) {
             double y = TanhHAD(s);
             EXPECT_LE(UlpError(y, tanhl(s)), 0.55) << std::hexfloat << s << " got " << y;
             y = CallUnary(KernelOf<double>(frame::Row_dTanh, frame::SlotLA), s);
-            EXPECT_LE(UlpError(y, tanhl(s)), 0.55) << std::hexfloat << s << " LA got " << y;
+            EXPECT_LE(UlpError(y, tanhl(s)), 2.0) << std::hexfloat << s << " LA got " << y;
         }
     for (int slot : {frame::SlotLA, frame::SlotHA}) {
         Unary<double> k = KernelOf<double>(frame::Row_dTanh, slot);

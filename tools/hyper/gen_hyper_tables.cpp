@@ -16,14 +16,14 @@
 //                   is within 2^-12 ulp of the single H, and K = 1 - tanh(c)^2
 //                   rounded; row 0 is {0, 0, 1, 0}, row 361 {10, 1, 0, 0}; the rows
 //                   from 8.75 on, where no such c exists, {midpoint, H, 0, 0}.
-// The double rows, 32 a binade (the kernel's index from the high word, (hi - 0x3F9F8000)
-// >> 15, at least 0, with a held at 19.5): row 0 holds [0, 2^-5), row k for k = 1..295
-// the k-th 32nd of a binade from 2^-5 on (the last one [19, 19.5)), row 296 the argument
+// The double rows, 32 a binade (the kernel's index from the high word, (hi - 0x3F6F8000)
+// >> 15, at least 0, with a held at 19.5): row 0 holds [0, 2^-8), row k for k = 1..391
+// the k-th 32nd of a binade from 2^-8 on (the last one [19, 19.5)), row 392 the argument
 // 19.5:
 //   tanhRowsD[k] = {c, H, K, 0}: c a double near the row's midpoint whose tanh is within
 //                   2^-12 ulp of the double H (on [19, 19.5), where none exists, the
 //                   point of the row below), K = 1 - tanh(c)^2 rounded; row 0 is
-//                   {0, 0, 1, 0}, row 296 {19.5, 1, 0, 0}.
+//                   {0, 0, 1, 0}, row 392 {19.5, 1, 0, 0}.
 // Also the exponential rows of the single HA Cosh and Sinh:
 //   hyperExpRowsS[j] = {Thi, Tlo, Uhi, Ulo}, T = 2^(j/64) and U = 2^(-j/64) for j = 0..63,
 //                   each as its single rounding and the single rounding of the rest.
@@ -38,7 +38,7 @@ namespace {
 constexpr mpfr_prec_t kPrec = 256;
 constexpr int kRows = 134;
 constexpr int kRowsHA = 362;
-constexpr int kRowsD = 297;
+constexpr int kRowsD = 393;
 
 // The ends of row k (1 to 132): the single bit patterns 0x3D000000 + (k-1)*2^19 on.
 double RowStart(int k) {
@@ -256,7 +256,7 @@ void TableD(FILE* out) {
         } else if (k == kRowsD - 1) {
             c = 19.5, h = 1, kk = 0;
         } else {
-            unsigned long long b0 = (0x3FA00000ull + (k - 1) * 0x8000ull) << 32;
+            unsigned long long b0 = (0x3F700000ull + (k - 1) * 0x8000ull) << 32;
             unsigned long long b1 = b0 + (0x8000ull << 32), bm = b0 + (0x4000ull << 32);
             double lo, hi, mid;
             __builtin_memcpy(&lo, &b0, 8);

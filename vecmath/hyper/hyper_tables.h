@@ -7,8 +7,8 @@
  * from 2^-8 on, up to 10; row 361 the argument 10:
  *   tanhRowsHA[k] = {c, H, K, 0}, c near the midpoint with tanh(c) a single H to 2^-12
  *                   ulp, K ~ 1 - H^2 (from 8.75 on constants {midpoint, H, 0, 0}).
- * The rows of the double Tanh, 32 a binade: row 0 [0, 2^-5), row k (1 to 295) the k-th
- * 32nd of a binade from 2^-5 on, up to 19.5; row 296 the argument 19.5:
+ * The rows of the double Tanh, 32 a binade: row 0 [0, 2^-8), row k (1 to 391) the k-th
+ * 32nd of a binade from 2^-8 on, up to 19.5; row 392 the argument 19.5:
  *   tanhRowsD[k] = {c, H, K, 0}, c near the midpoint with tanh(c) a double H to 2^-12
  *                  ulp (on [19, 19.5) the point of the row below), K ~ 1 - H^2.
  * And the exponential rows of the single HA Cosh and Sinh, j = 0..63:
@@ -21,7 +21,7 @@ namespace brenn::vm {
 
 extern const double tanhRowsLA[134][4];
 extern const float tanhRowsHA[362][4];
-extern const double tanhRowsD[297][4];
+extern const double tanhRowsD[393][4];
 extern const double tanhRowsEP[134][2];
 extern const float hyperExpRowsS[64][4];
 

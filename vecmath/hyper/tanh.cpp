@@ -21,7 +21,7 @@
  * word, {c, H, K} with c a double near the row's midpoint whose tanh is a double H to
  * 2^-12 ulp (on [19, 19.5), where tanh crosses no double, the point of the row below) and
  * K ~ 1 - H^2; the result is H + K*s/(1 + H*s), s = tanh(a - c) by an odd polynomial of
- * degree 9.
+ * degree 9 (HA) or 7 (LA, EP).
  * Only exponents of all ones go to the scalar routine (1 with x's sign, or the NaN);
  * nothing is reported. */
 #include "frame/kernels.h"
@@ -99,17 +99,21 @@ inline __m128 TanhOf(__m128 x) {
     return Or(Narrow(lo, hi), SignBit(x));
 }
 
-// The double rows: 32 a binade from 2^-5 (high word 0x3FA00000) on, a held at 19.5.
-constexpr uint32_t kRowBaseD = 0x3F9F8000u;
+// The double rows: 32 a binade from 2^-8 (high word 0x3F700000) on, a held at 19.5.
+constexpr uint32_t kRowBaseD = 0x3F6F8000u;
 constexpr int kRowShiftD = 15;
 constexpr double kTanhHoldD = 19.5;
 // s(t) = t + t*u*Q(u) ~ tanh(t), u = t^2 (tools/hyper/tanh_double.sollya: relative error
-// 2^-63.7 below 2^-5, 2^-47.5 to 1/16, 2^-37 to 1/8, 2^-26.9 to 1/4, where the part
+// 2^-63.7 to 2^-5, 2^-47.5 to 1/16, 2^-37 to 1/8, 2^-26.9 to 1/4, where the part
 // after H is under 2^-13.6, 2^-24 and 2^-46 of the result).
 constexpr double kTanhQD[] = {-0x1.5555555555554p-2, 0x1.11111110fe215p-3, -0x1.ba1b9bf56e7dfp-5,
                               0x1.6606423dcfd1fp-6};
+// LA and EP: Q of degree 2 (tools/hyper/tanh_double_la.sollya: 2^-54 below 2^-8, 0.6 ulp
+// of the result there, and 1.5 ulp at most through the rows, on [4, 8)).
+constexpr double kTanhQDLow[] = {-0x1.555555553ef73p-2, 0x1.11110ac6846f4p-3,
+                                 -0x1.b995629f9ef3cp-5};
 
-// By the rows: tanh(c + t) = H + K*s/(1 + H*s), every level.
+// By the rows: tanh(c + t) = H + K*s/(1 + H*s), every level; LA and EP with s of degree 7.
 template <Level L>
 BRENN_VEC __m128d TanhOf(__m128d x) {
     __m128d a = Min(Abs(x), Set<double>(kTanhHoldD));
@@ -126,7 +130,8 @@ BRENN_VEC __m128d TanhOf(__m128d x) {
     LoadTransposed(r0 + 2, r1 + 2, k, pad);
     __m128d t = Sub(a, c);
     __m128d u = Mul(t, t);
-    __m128d s = Add(t, Mul(Mul(t, u), Horner(u, kTanhQD)));
+    __m128d q = L == Level::HA ? Horner(u, kTanhQD) : Horner(u, kTanhQDLow);
+    __m128d s = Add(t, Mul(Mul(t, u), q));
     __m128d rest = Div(Mul(k, s), Add(Set<double>(1.0), Mul(h, s)));
     return Or(Add(h, rest), SignBit(x));
 }
