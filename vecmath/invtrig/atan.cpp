@@ -16,8 +16,9 @@
  * single), the head of atan(c) and u joined by the fast exact sum in double. Below the
  * table u = a, above it u = -1/a and atan(c) is pi/2. One division and no correction of
  * it: its rounding reaches the result scaled by |u|/atan(a), below a twelfth.
- * Atan2 HA in both precisions takes the same table by its quotient t = n/d: c is t cut
- * to 5 bits (4 in double), u = (n - c d)/(d + c n) from n and d themselves (c d in two
+ * Atan2 HA in both precisions, and double Atan2 LA (a kernel of its own on HA's steps,
+ * which run faster than the double steps it had), takes the same table by its quotient
+ * t = n/d: c is t cut to 5 bits (4 in double), u = (n - c d)/(d + c n) from n and d (c d in two
  * exact products, so that the numerator rounds once), below the table c = 0 in single
  * (the rounded t is the angle there) and atan(c) from the series in double, the base of
  * 0, 2 or 4 quarter turns joined to the row's head by the fast exact sum, in rounds of
@@ -30,7 +31,6 @@
  * double rows (and Atan2's scalar routine) carry the quotient's error from its exact
  * residual and join the base exactly (common.h); without them the quotient's rounding
  * near the fold (|x| just below 1/2, where a - 1 is not exact) costs up to 1.4 ulp.
- * Double LA Atan2 goes without.
  *
  * Atan has no range test: infinity gives pi/2 through t = 1/inf = 0 (-1/inf in the
  * table's top row), NaN passes. Atan2 sends zeros, infinities, NaN and magnitudes outside

@@ -543,7 +543,8 @@ BRENN_VEC __m128d Atan2Of(__m128d a, __m128d b, __m128d special) {
     const __m128d one = Set<double>(1.0);
     // The row's own EP kernel takes the five terms by Horner's rule (fewer operations;
     // the complex Arg and Ln keep Estrin's scheme).
-    if constexpr (Fast && L == Level::HA && U == Unit::Radian) return Atan2DoubleHA(a, b, special);
+    // LA takes HA's table steps too: the double steps it had were slower than them.
+    if constexpr (Fast && L != Level::EP && U == Unit::Radian) return Atan2DoubleHA(a, b, special);
     using S = std::conditional_t<Fast && L == Level::EP && U == Unit::Radian,
                                  DoubleSeriesHorner<AtanDouble5Set>, DoubleSeriesOf<L>>;
     return AngleOf<U, S, L == Level::HA || U == Unit::Pi>(IfThenElse(special, one, a),
@@ -683,9 +684,10 @@ struct Atan2Body {
     static int Scalar(const T* a, const T* b, T* y) {
         return Atan2Scalar<U, T, Fast && sizeof(T) == 8>(a, b, y);
     }
-    // HA (the row's own): rounds of sixteen, each of the three steps over the round's
-    // registers before the next.
-    static constexpr bool kWide = L == Level::HA && U == Unit::Radian && Fast;
+    // HA (the row's own), and double LA on HA's steps: rounds of sixteen, each of the
+    // three steps over the round's registers before the next.
+    static constexpr bool kWide =
+        U == Unit::Radian && Fast && (L == Level::HA || (L == Level::LA && sizeof(T) == 8));
     static constexpr int kRound = kWide ? 16 : 8;
     using WideState = std::conditional_t<sizeof(T) == 4, Atan2SingleState, Atan2DoubleState>;
     template <bool Test>
