@@ -10,10 +10,7 @@
  * The rows of the double Tanh, 32 a binade: row 0 [0, 2^-8), row k (1 to 391) the k-th
  * 32nd of a binade from 2^-8 on, up to 19.5; row 392 the argument 19.5:
  *   tanhRowsD[k] = {c, H, K, 0}, c near the midpoint with tanh(c) a double H to 2^-12
- *                  ulp (on [19, 19.5) the point of the row below), K ~ 1 - H^2.
- * And the exponential rows of the single HA Cosh and Sinh, j = 0..63:
- *   hyperExpRowsS[j] = {Thi, Tlo, Uhi, Ulo}, T = 2^(j/64) and U = 2^(-j/64), each as two
- *   singles whose sum is within 2^-48 of it. */
+ *                  ulp (on [19, 19.5) the point of the row below), K ~ 1 - H^2. */
 #ifndef BRENN_VECMATH_HYPER_HYPER_TABLES_H
 #define BRENN_VECMATH_HYPER_HYPER_TABLES_H
 
@@ -23,7 +20,6 @@ extern const double tanhRowsLA[134][4];
 extern const float tanhRowsHA[362][4];
 extern const double tanhRowsD[393][4];
 extern const double tanhRowsEP[134][2];
-extern const float hyperExpRowsS[64][4];
 
 } // namespace brenn::vm
 
