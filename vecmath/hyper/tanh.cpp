@@ -25,6 +25,7 @@
  * Only exponents of all ones go to the scalar routine (1 with x's sign, or the NaN);
  * nothing is reported. */
 #include "frame/kernels.h"
+#include "vecmath/explog/flat.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/hyper/quiet_body.h"
@@ -159,14 +160,34 @@ struct TanhOp {
         return TanhScalar(a, y);
     }
 };
+// Single LA and EP take rounds of sixteen with the range tested once a round
+// (EvalTestOnce: a round with an infinity or NaN runs those lanes on 0, as Eval does).
 template <class Tp, Level L>
-using TanhBody = QuietBody<TanhOp, Tp, L>;
+struct TanhBody : QuietBody<TanhOp, Tp, L> {
+    using Base = QuietBody<TanhOp, Tp, L>;
+    using T = Tp;
+    using V = Vec<T>;
+    static constexpr bool kTestOnce = sizeof(T) == 4 && L != Level::HA;
+    static constexpr int kRound = kTestOnce ? 16 : Base::kRound;
+    static constexpr Range32 kWindow = InfNaNWindow<T>::kWindow;
+    static BRENN_VEC V Value(V x) { return TanhOf<L>(x); }
+    static int EvalWide(const V* x, V* y) {
+        if constexpr (kTestOnce)
+            return EvalTestOnce<TanhBody>(x, y);
+        else
+            return Base::EvalWide(x, y);
+    }
+};
 
 } // namespace
 } // namespace brenn::vm
 
 extern "C" {
-ZAR_LEVEL_KERNELS(s, Tanh, Unary, brenn::vm::TanhBody)
+// Single LA and EP flattened: their rounds of sixteen stay in the kernel's loop with the
+// constants in registers.
+BRENN_FLAT ZAR_KERNEL_OF(s, Tanh, EP, Unary, brenn::vm::TanhBody<float, brenn::vm::Level::EP>)
+BRENN_FLAT ZAR_KERNEL_OF(s, Tanh, LA, Unary, brenn::vm::TanhBody<float, brenn::vm::Level::LA>)
+ZAR_KERNEL_OF(s, Tanh, HA, Unary, brenn::vm::TanhBody<float, brenn::vm::Level::HA>)
 ZAR_KERNEL_OF(d, Tanh, LaEp, Unary, brenn::vm::TanhBody<double, brenn::vm::Level::LA>)
 ZAR_KERNEL_OF(d, Tanh, HA, Unary, brenn::vm::TanhBody<double, brenn::vm::Level::HA>)
 }
