@@ -153,6 +153,10 @@ TEST(InvHypSteps, TanhAsItsSteps) {
     }
     for (float v : {0.0f, -0.0f, 1e-40f, 0x1p-5f, 9.99999905f, 10.0f, 10.5f, -10.5f, 1e30f})
         x.push_back(v);
+    // Each row's first argument and its neighbours, from below row 0's to past the last.
+    for (uint32_t k = 0; k <= 134; ++k)
+        for (uint32_t b : {0x3CF80000u + (k << 19) - 1, 0x3CF80000u + (k << 19)})
+            x.push_back(__builtin_bit_cast(float, b)), x.push_back(-__builtin_bit_cast(float, b));
     for (int slot : {frame::SlotLA, frame::SlotEP}) {
         auto k = reinterpret_cast<Unary<float>>((&BrennDispatchTable[frame::Row_sTanh].kernelLA)[slot]);
         std::vector<float> y(x.size());
