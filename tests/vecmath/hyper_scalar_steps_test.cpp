@@ -153,7 +153,7 @@ TEST(InvHypSteps, TanhAsItsSteps) {
     }
     for (float v : {0.0f, -0.0f, 1e-40f, 0x1p-5f, 9.99999905f, 10.0f, 10.5f, -10.5f, 1e30f})
         x.push_back(v);
-    // Each row's first argument and its neighbours, from below row 0's to past the last.
+    // Each row's first argument and the float below it, from row 0's to past the last.
     for (uint32_t k = 0; k <= 134; ++k)
         for (uint32_t b : {0x3CF80000u + (k << 19) - 1, 0x3CF80000u + (k << 19)})
             x.push_back(__builtin_bit_cast(float, b)), x.push_back(-__builtin_bit_cast(float, b));
