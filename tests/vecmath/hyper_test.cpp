@@ -306,29 +306,34 @@ TEST(Hyper, SpecialLanesRaiseNoFlags) {
             }
 }
 
-// Long calls of dCosh whose rounds mix arguments near the top of the vector range with
-// small ones (below 21.49, where e^-a still counts): every lane within its level, and no
-// flag but inexact, in particular no underflow from e^-a at the top of the range.
-TEST(Hyper, CoshRoundsMixingLargeAndSmallArguments) {
+// Long calls of dCosh and dSinh whose rounds mix arguments near the top of the vector
+// range with small ones (below 21.49, where e^-a still counts, and below 1/2, Sinh's
+// series): every lane within its level (LA within 2 ulp, where B = 1/(4A) puts it), the
+// sign of Sinh's, and no flag but inexact, in particular no underflow from e^-a at the
+// top of the range.
+TEST(Hyper, RoundsMixingLargeAndSmallArguments) {
     std::vector<double> x;
     for (int i = 0; i < 200; ++i) {
         double top = 700.0 + 10.47 * (i % 37) / 36; // 700 to 710.47
         double small = (i % 23) * 0.97 - 0.5;       // -0.5 to 20.84
         x.push_back(i % 11 == 4 ? small : (i % 2 ? -top : top));
     }
-    for (int slot : kSlots) {
-        CsrScope csr(0x1F80);
-        std::vector<double> y(x.size());
-        K<double>("dCosh", slot)(int(x.size()), x.data(), y.data());
-        EXPECT_EQ(_mm_getcsr() & 0x3F & ~0x20u, 0u) << "slot " << slot;
-        for (size_t i = 0; i < x.size(); ++i) {
-            long double ref = coshl(x[i]);
-            if (slot == kSlotEP)
-                EXPECT_LE(fabsl((y[i] - ref) / ref), 0x1p-26L) << x[i];
-            else
-                EXPECT_LE(UlpError(y[i], ref), slot == kSlotHA ? 1.0 : 4.0) << x[i];
+    for (Fn f : {Fn::Cosh, Fn::Sinh})
+        for (int slot : kSlots) {
+            CsrScope csr(0x1F80);
+            std::vector<double> y(x.size());
+            K<double>(RowOf<double>(f), slot)(int(x.size()), x.data(), y.data());
+            EXPECT_EQ(_mm_getcsr() & 0x3F & ~0x20u, 0u) << "slot " << slot;
+            for (size_t i = 0; i < x.size(); ++i) {
+                long double ref = f == Fn::Cosh ? coshl(x[i]) : sinhl(x[i]);
+                if (slot == kSlotEP)
+                    EXPECT_LE(fabsl((y[i] - ref) / ref), 0x1p-26L) << x[i];
+                else
+                    EXPECT_LE(UlpError(y[i], ref), slot == kSlotHA ? 1.0 : 2.0)
+                        << int(f) << " slot " << slot << " x " << x[i];
+                if (f == Fn::Sinh) EXPECT_EQ(std::signbit(y[i]), std::signbit(x[i])) << x[i];
+            }
         }
-    }
 }
 
 // The overflow report names the element and takes the callback's result.

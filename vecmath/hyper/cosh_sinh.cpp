@@ -12,7 +12,8 @@
  * Single HA: one reduction by ln2/32 and a table row of cosh and sinh at n*ln2/32 a lane,
  * in single arithmetic, the row's head leading (HyperSingleHA below).
  * Double: the halves of e^a from the exponential's table of 64 (hyper_core.h); HA sums the
- * heads exactly; Cosh LA and EP take e^-a/2 as 1/(4A) from A = e^a/2 alone.
+ * heads exactly; LA and EP take e^-a/2 as 1/(4A) from A = e^a/2 alone (Sinh by its
+ * series below 1/2).
  * Range test on |x|: from 87.3365326 (single LA), 89.41 (single EP), 89.4160 (single HA:
  * the overflow point) or 710.4702 (double) up, and infinities and NaN, to the scalar routine
  * (hyper_scalar.h), which settles overflow with status 3.
@@ -124,50 +125,63 @@ inline __m128 BothExps(__m128 a) {
 // The double path on a = |x| in [0, 710.4702]: HA exact sums, HA and LA the degree-5 tail
 // (its 2^-51.25 relative to e^r - 1 is below 2^-58 of e^r), EP the degree 4 (Sinh's EP
 // is its LA kernel). From 21.49 on, where e^-a is below the last bit of e^a (as in the
-// scalar routine), a lane takes A = e^a/2 alone: B and the sums run only in a register
-// with a lane below, which blends A in where it has one on each side.
+// scalar routine), a lane takes A = e^a/2 alone: in HA, B and the sums run only in a
+// register with a lane below, which blends A in where it has one on each side (LA and EP
+// take B as 1/(4A) in every register, below).
 template <Level L>
 constexpr ExpDegree kHalvesDegree = L == Level::EP ? ExpDegree::Four : ExpDegree::Five;
 
 template <Fn F, Level L>
 BRENN_VEC __m128d SumOfHalves(__m128d a, const ExpHalves& h) {
+    static_assert(L == Level::HA, "LA and EP take B as 1/(4A)");
     if constexpr (F == Fn::Cosh)
-        return Sum(CoshOf<L == Level::HA>(h));
-    else if constexpr (L == Level::HA)
-        return Sum(SinhOf<true, SinhSeriesHA>(a, h));
+        return Sum(CoshOf<true>(h));
     else
-        return Sum(SinhOf<false, SinhSeriesLA>(a, h));
+        return Sum(SinhOf<true, SinhSeriesHA>(a, h));
 }
 
-// Cosh LA and EP: B as 1/(4A), A held at 2^60 (beyond it B is nothing to the sum, and
+// LA and EP: B as 1/(4A), A held at 2^60 (beyond it B is nothing to the result, and
 // must not come out denormal), in every register, so that no branch follows where the
 // lanes below 21.49 fall (on inputs across the range, one round in three has one, and
-// their pattern defeats the branch predictor). A's relative error goes into B with the
-// opposite sign, the quotient's rounding is half an ulp of B. (Sinh the same way measured
-// slower at n = 1000, 4.39 -> 4.72 ticks, where the predictor learns the rounds; its
-// sum A - B also wants the series below 1/2.)
+// their pattern defeats the branch predictor: with B from the table only in the rounds
+// that need it, dSinh LA ran 4.33 ticks an element at n = 1000 and 5.21 at 10^6, where
+// the predictor no longer learns the rounds; by 1/(4A) 4.56 at both). A's relative error
+// goes into B with the opposite sign, the quotient's rounding is half an ulp of B; Sinh's
+// A - B loses at most a bit to it from 1/2 up (A/(A - B) at most 1.6 there), and below
+// 1/2 takes the series, in the registers that have such a lane.
 template <Fn F, Level L>
-constexpr bool kFromA = F == Fn::Cosh && L != Level::HA;
-BRENN_VEC __m128d CoshFromA(__m128d A) {
-    return Add(A, Div(Set<double>(0.25), Min(A, Set<double>(0x1p60))));
+constexpr bool kFromA = L != Level::HA;
+template <Fn F>
+BRENN_VEC __m128d FromA(__m128d A) {
+    __m128d b = Div(Set<double>(0.25), Min(A, Set<double>(0x1p60)));
+    if constexpr (F == Fn::Cosh)
+        return Add(A, b);
+    else
+        return Sub(A, b);
+}
+BRENN_VEC __m128d SeriesBelowHalf(__m128d a, __m128d y) {
+    __m128d small = Lt(a, Set<double>(kSinhSeriesEnd));
+    if (!MaskBits(small)) return y;
+    return IfThenElse(small, Add(a, SinhSeriesTail<SinhSeriesLA>(a)), y);
 }
 
 template <Fn F, Level L>
 BRENN_VEC __m128d HalvesPath(__m128d a) {
-    if constexpr (kFromA<F, L>) {
-        HalvesState s;
-        HalfAStep<kHalvesDegree<L>>(a, s);
-        return CoshFromA(HalfExpFrom(s));
-    }
-    const __m128d both = Lt(a, Set<double>(kOneExpEnough));
-    const int bits = MaskBits(both);
     HalvesState s;
     HalfAStep<kHalvesDegree<L>>(a, s);
-    if (!bits) return HalfExpFrom(s);
-    HalfBStep(s);
-    __m128d y = SumOfHalves<F, L>(a, s.h);
-    if (bits != 3) y = IfThenElse(both, y, HalfExpFrom(s));
-    return y;
+    if constexpr (kFromA<F, L>) {
+        __m128d y = FromA<F>(HalfExpFrom(s));
+        if constexpr (F == Fn::Sinh) y = SeriesBelowHalf(a, y);
+        return y;
+    } else {
+        const __m128d both = Lt(a, Set<double>(kOneExpEnough));
+        const int bits = MaskBits(both);
+        if (!bits) return HalfExpFrom(s);
+        HalfBStep(s);
+        __m128d y = SumOfHalves<F, L>(a, s.h);
+        if (bits != 3) y = IfThenElse(both, y, HalfExpFrom(s));
+        return y;
+    }
 }
 
 // The registers of a round with a lane below 21.49: B and the sums, with A again,
@@ -207,7 +221,11 @@ BRENN_VEC int HalvesRound(const __m128d* x, __m128d* y) {
     if constexpr (kFromA<F, L>) {
 #pragma GCC unroll 8
         for (int k = 0; k < 8; ++k)
-            y[k] = CoshFromA(HalfExpFrom(s[k]));
+            y[k] = FromA<F>(HalfExpFrom(s[k]));
+        if constexpr (F == Fn::Sinh)
+            if (MaskBits(Lt(least, Set<double>(kSinhSeriesEnd))))
+                for (int k = 0; k < 8; ++k)
+                    y[k] = SeriesBelowHalf(a[k], y[k]);
     } else {
 #pragma GCC unroll 8
         for (int k = 0; k < 8; ++k)
