@@ -51,7 +51,9 @@ using namespace brenn::vm::invtrig;
 using brenn::vm::Level;
 
 extern "C" {
-ZAR_LEVEL_KERNELS(s, Atan, Unary, AtanRadian)
+ZAR_KERNEL_OF(s, Atan, EP, Unary, AtanRadian<float, Level::EP>)
+BRENN_FLAT ZAR_KERNEL_OF(s, Atan, LA, Unary, AtanRadian<float, Level::LA>)
+ZAR_KERNEL_OF(s, Atan, HA, Unary, AtanRadian<float, Level::HA>)
 ZAR_KERNEL_OF(d, Atan, LaHa, Unary, AtanRadian<double, Level::HA>)
 ZAR_KERNEL_OF(d, Atan, EP, Unary, AtanRadian<double, Level::EP>)
 // The single kernels of Atanpi, Atan2 and Atan2pi flattened: left to itself GCC keeps

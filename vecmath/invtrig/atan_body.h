@@ -114,8 +114,13 @@ BRENN_VEC __m128d AngleOf(__m128d a, __m128d b) {
 }
 
 // Single Atan EP and LA on [0, 1] after the fold t = -1/|x| above 1.
-template <Unit U, Level L>
-BRENN_VEC __m128 AtanSingle(__m128 x) {
+// In three steps, the quotient t, the series, the angle, so that a round of sixteen takes
+// each over its four registers before the next (AtanSingleRound).
+struct AtanSingleState {
+    __m128 x, big, t, p;
+};
+template <Level L>
+BRENN_VEC void AtanSingleQuotient(__m128 x, AtanSingleState& s) {
     __m128 a = Abs(x);
     __m128 big = AsFloat(Gt(AsInt(a), Set<uint32_t>(Format<float>::kOne)));
     __m128 t;
@@ -134,11 +139,40 @@ BRENN_VEC __m128 AtanSingle(__m128 x) {
         __m128 r = Mul(r0, Sub(Mul(r0, d), Set<float>(2.0f)));
         t = IfThenElse(big, r, a);
     }
+    s.x = x, s.big = big, s.t = t;
+}
+template <Unit U, Level L>
+BRENN_VEC void AtanSingleSeries(AtanSingleState& s) {
+    __m128 t = s.t;
     __m128 z = Mul(t, t);
-    __m128 p = Mul(t, L == Level::EP ? AtanSingleEP(z) : AtanSingleLA(z));
-    if constexpr (U == Unit::Pi) p = Mul(p, Set<float>(InvPi<float>::kHi));
-    __m128 base = IfThenElseZero(big, Set<float>(2 * Quarter<float, U>::kHi));
-    return Or(Add(p, base), SignBit(x));
+    s.p = Mul(t, L == Level::EP ? AtanSingleEP(z) : AtanSingleLA(z));
+    if constexpr (U == Unit::Pi) s.p = Mul(s.p, Set<float>(InvPi<float>::kHi));
+}
+template <Unit U>
+BRENN_VEC __m128 AtanSingleAngle(const AtanSingleState& s) {
+    __m128 base = IfThenElseZero(s.big, Set<float>(2 * Quarter<float, U>::kHi));
+    return Or(Add(s.p, base), SignBit(s.x));
+}
+template <Unit U, Level L>
+BRENN_VEC __m128 AtanSingle(__m128 x) {
+    AtanSingleState s;
+    AtanSingleQuotient<L>(x, s);
+    AtanSingleSeries<U, L>(s);
+    return AtanSingleAngle<U>(s);
+}
+// A round of N registers, each step over all of them before the next.
+template <Unit U, Level L, int N>
+BRENN_VEC void AtanSingleRound(const __m128* x, __m128* y) {
+    AtanSingleState s[N];
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k)
+        AtanSingleQuotient<L>(x[k], s[k]);
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k)
+        AtanSingleSeries<U, L>(s[k]);
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k)
+        y[k] = AtanSingleAngle<U>(s[k]);
 }
 
 // The single bodies' magnitudes: n = min(|a|, |b|) and d = max(|a|, |b|) by their bits
@@ -653,10 +687,14 @@ struct AtanBody {
     // (AtanUnitRound, AtanWideRound, AtanTableRound), and single HA's through its four.
     static constexpr bool kTable =
         U == Unit::Radian && L != Level::EP && (sizeof(T) == 8 || L == Level::HA);
-    static constexpr int kRound = sizeof(T) == 8 || kTable ? 16 : 8;
+    static constexpr bool kSingleRound = sizeof(T) == 4 && U == Unit::Radian && L == Level::LA;
+    static constexpr int kRound = sizeof(T) == 8 || kTable || kSingleRound ? 16 : 8;
     static int EvalWide(const V* x, V* y) {
         if constexpr (sizeof(T) == 4 && kTable) {
             AtanTableRound<4>(x, y);
+            return 0;
+        } else if constexpr (kSingleRound) {
+            AtanSingleRound<U, L, 4>(x, y);
             return 0;
         } else if constexpr (sizeof(T) == 8) {
             if constexpr (L == Level::EP)
