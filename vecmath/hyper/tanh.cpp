@@ -99,20 +99,38 @@ inline __m128 TanhHA(__m128 x) {
     return Or(Add(h, rest), SignBit(x));
 }
 
+// |x|'s bits held to [row 0's, the last row's], cut to the row and shifted to the byte
+// offset of a row of 32 bytes (LA) or 16 (EP), counted from row 0's bits (RowPoly takes
+// that origin off): the same rows as (bits & kRowBits) - kRowBase clamped.
 template <Level L>
-inline __m128 TanhOf(__m128 x) {
-    if constexpr (L == Level::HA) return TanhHA(x);
-    __m128 a = Abs(x);
-    // |x|'s bits held to [row 0's, the last row's], cut to the row and shifted to the byte
-    // offset of a row of 32 bytes (LA) or 16 (EP), counted from row 0's bits (RowPoly
-    // takes that origin off): the same rows as (bits & kRowBits) - kRowBase clamped.
-    I32x4 held = Min(Max(AsInt(a), Set<int32_t>(int32_t(kRowBase))),
+inline OffsetPairs TanhRowOffsets(__m128 x) {
+    I32x4 held = Min(Max(AsInt(Abs(x)), Set<int32_t>(int32_t(kRowBase))),
                      Set<int32_t>(int32_t(kRowBase + (uint32_t(kLastRow) << kRowShift))));
     constexpr int shift = L == Level::EP ? kRowShift - 4 : kRowShift - 5;
-    OffsetPairs o = OffsetPairsOf(ShiftRight<shift>(And(held, Set<uint32_t>(kRowBits))));
+    return OffsetPairsOf(ShiftRight<shift>(And(held, Set<uint32_t>(kRowBits))));
+}
+template <Level L>
+inline __m128 TanhByRows(__m128 x, OffsetPairs o) {
+    __m128 a = Abs(x);
     __m128d lo = RowPoly<L>(WidenLower(a), uint32_t(o.lower), uint32_t(o.lower >> 32));
     __m128d hi = RowPoly<L>(WidenUpper(a), uint32_t(o.upper), uint32_t(o.upper >> 32));
     return Or(Narrow(lo, hi), SignBit(x));
+}
+template <Level L>
+inline __m128 TanhOf(__m128 x) {
+    if constexpr (L == Level::HA) return TanhHA(x);
+    return TanhByRows<L>(x, TanhRowOffsets<L>(x));
+}
+// A single round of sixteen: the four registers' offsets first, then their rows.
+template <Level L>
+inline void TanhSingleRound(const __m128* x, __m128* y) {
+    OffsetPairs o[4];
+#pragma GCC unroll 4
+    for (int k = 0; k < 4; ++k)
+        o[k] = TanhRowOffsets<L>(x[k]);
+#pragma GCC unroll 4
+    for (int k = 0; k < 4; ++k)
+        y[k] = TanhByRows<L>(x[k], o[k]);
 }
 
 // The double rows: 32 a binade from 2^-8 (high word 0x3F700000) on, a held at 19.5.
@@ -175,8 +193,10 @@ struct TanhOp {
         return TanhScalar(a, y);
     }
 };
-// Single LA and EP take rounds of sixteen with the range tested once a round
-// (EvalTestOnce: a round with an infinity or NaN runs those lanes on 0, as Eval does).
+// Single LA and EP take rounds of sixteen with the range tested once a round (the
+// magnitudes folded, AnyOutside; a round with an infinity or NaN runs those lanes on 0,
+// as Eval does), the four registers' row offsets taken before their rows
+// (TanhSingleRound: the loads of a register no longer wait behind the one before).
 template <class Tp, Level L>
 struct TanhBody : QuietBody<TanhOp, Tp, L> {
     using Base = QuietBody<TanhOp, Tp, L>;
@@ -185,12 +205,25 @@ struct TanhBody : QuietBody<TanhOp, Tp, L> {
     static constexpr bool kTestOnce = sizeof(T) == 4 && L != Level::HA;
     static constexpr int kRound = kTestOnce ? 16 : Base::kRound;
     static constexpr Range32 kWindow = InfNaNWindow<T>::kWindow;
-    static BRENN_VEC V Value(V x) { return TanhOf<L>(x); }
     static int EvalWide(const V* x, V* y) {
-        if constexpr (kTestOnce)
-            return EvalTestOnce<TanhBody>(x, y);
-        else
+        if constexpr (kTestOnce) {
+            if (__builtin_expect(AnyOutside<TanhBody>(x), 0)) {
+                V xs[4];
+                int bits = 0;
+#pragma GCC unroll 4
+                for (int k = 0; k < 4; ++k) {
+                    V special = RangeTest(x[k], kWindow);
+                    bits |= MaskBits(special) << (4 * k);
+                    xs[k] = IfThenZeroElse(special, x[k]);
+                }
+                TanhSingleRound<L>(xs, y);
+                return bits;
+            }
+            TanhSingleRound<L>(x, y);
+            return 0;
+        } else {
             return Base::EvalWide(x, y);
+        }
     }
 };
 
