@@ -16,6 +16,7 @@
  * report in single) and the signed zero for an infinity; Pow2o3 +0 and +inf. Double
  * denormals are scaled by 2^54 and the result by 2^-18, 2^18 or 2^-36. */
 #include "frame/kernels.h"
+#include "vecmath/explog/flat.h"
 #include "vecmath/explog/wide.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
@@ -154,10 +155,12 @@ using Pow2o3Body = RootBody<Root::Pow2o3, T, L>;
 using namespace brenn::vm;
 
 extern "C" {
-ZAR_LEVEL_KERNELS(s, Cbrt, Unary, CbrtBody)
+// The single Cbrt and InvCbrt kernels flattened: their rounds of sixteen stay in the
+// kernel's loop with the constants in registers (the double kernels measured no faster so).
+BRENN_FLAT_LEVEL_KERNELS(s, Cbrt, Unary, CbrtBody)
 ZAR_KERNEL_OF(d, Cbrt, LaEp, Unary, CbrtBody<double, Level::LA>)
 ZAR_KERNEL_OF(d, Cbrt, HA, Unary, CbrtBody<double, Level::HA>)
-ZAR_LEVEL_KERNELS(s, InvCbrt, Unary, InvCbrtBody)
+BRENN_FLAT_LEVEL_KERNELS(s, InvCbrt, Unary, InvCbrtBody)
 ZAR_KERNEL_OF(d, InvCbrt, All, Unary, InvCbrtBody<double, Level::HA>)
 ZAR_ROW_KERNELS(Pow2o3, Unary, Pow2o3Body)
 }
