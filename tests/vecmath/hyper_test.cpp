@@ -283,6 +283,26 @@ TEST(Hyper, ZerosAndDenormals) {
     ExpectZerosAndDenormals<double>();
 }
 
+// A lone denormal, or a least normal, among ordinary arguments, at every position of long
+// calls of single Sinh: where a round's window is tested once, only the window's offset
+// catches these lanes. Each comes back as x, the denormal with the underflow flag.
+TEST(Hyper, SingleSinhTinyLaneInLongCalls) {
+    for (float tiny : {std::numeric_limits<float>::denorm_min() * 3, -0x1p-126f, 0x1.8p-126f})
+        for (int slot : kSlots)
+            for (int at = 0; at < 32; ++at) {
+                std::vector<float> x(32), y(32);
+                for (int i = 0; i < 32; ++i)
+                    x[i] = 0.25f + 0.7f * float(i);
+                x[at] = tiny;
+                CsrScope csr(0x1F80);
+                K<float>(RowOf<float>(Fn::Sinh), slot)(32, x.data(), y.data());
+                if (std::fpclassify(tiny) == FP_SUBNORMAL)
+                    EXPECT_TRUE(_mm_getcsr() & 0x10) << tiny << " slot " << slot << " at " << at;
+                EXPECT_EQ(Bits(y[at]), Bits(tiny)) << tiny << " slot " << slot << " at " << at;
+                EXPECT_EQ(y[(at + 1) % 32], Call(RowOf<float>(Fn::Sinh), slot, x[(at + 1) % 32]));
+            }
+}
+
 // The special lanes raise nothing of their own: no invalid for infinities or a quiet
 // NaN, no overflow for the infinities.
 template <class T>
