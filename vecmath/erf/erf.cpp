@@ -17,6 +17,7 @@
  * double LA run rounds of sixteen, each step over the round's registers
  * (GridEvalSingleRound, GridEvalRound). */
 #include "frame/kernels.h"
+#include "vecmath/explog/flat.h"
 #include "vecmath/erf/grid_single.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
@@ -247,5 +248,6 @@ struct ErfBody {
 } // namespace brenn::vm
 
 extern "C" {
-ZAR_ROW_KERNELS(Erf, Unary, brenn::vm::ErfBody)
+BRENN_FLAT_LEVEL_KERNELS(s, Erf, Unary, brenn::vm::ErfBody)
+BRENN_FLAT_LEVEL_KERNELS(d, Erf, Unary, brenn::vm::ErfBody)
 }

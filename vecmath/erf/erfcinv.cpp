@@ -23,6 +23,7 @@
 #include <type_traits>
 
 #include "frame/kernels.h"
+#include "vecmath/explog/flat.h"
 #include "vecmath/erf/cdfnorminv_central.h"
 #include "vecmath/erf/erfcinv_tail.h"
 #include "vecmath/erf/erfinv_rows.h"
@@ -192,6 +193,8 @@ using CdfNormInvBody = InverseBody<Inverse::CdfNorm, T, L>;
 } // namespace brenn::vm
 
 extern "C" {
-ZAR_ROW_KERNELS(ErfcInv, Unary, brenn::vm::ErfcInvBody)
-ZAR_ROW_KERNELS(CdfNormInv, Unary, brenn::vm::CdfNormInvBody)
+BRENN_FLAT_LEVEL_KERNELS(s, ErfcInv, Unary, brenn::vm::ErfcInvBody)
+BRENN_FLAT_LEVEL_KERNELS(d, ErfcInv, Unary, brenn::vm::ErfcInvBody)
+BRENN_FLAT_LEVEL_KERNELS(s, CdfNormInv, Unary, brenn::vm::CdfNormInvBody)
+BRENN_FLAT_LEVEL_KERNELS(d, CdfNormInv, Unary, brenn::vm::CdfNormInvBody)
 }

@@ -10,6 +10,7 @@
 #include <limits>
 
 #include "frame/kernels.h"
+#include "vecmath/explog/flat.h"
 #include "vecmath/erf/erfinv_rows.h"
 #include "vecmath/erf/erfinv_rows_single.h"
 #include "vecmath/explog/wide.h"
@@ -91,5 +92,6 @@ struct ErfInvBody {
 } // namespace brenn::vm
 
 extern "C" {
-ZAR_ROW_KERNELS(ErfInv, Unary, brenn::vm::ErfInvBody)
+BRENN_FLAT_LEVEL_KERNELS(s, ErfInv, Unary, brenn::vm::ErfInvBody)
+BRENN_FLAT_LEVEL_KERNELS(d, ErfInv, Unary, brenn::vm::ErfInvBody)
 }
