@@ -30,12 +30,6 @@ std::vector<T> RowStarts() {
     return c;
 }
 
-template <class T>
-std::vector<T> Call(const char* row, int slot, const std::vector<T>& x) {
-    std::vector<T> y(x.size());
-    As<Unary<T>>(Slot(row, slot))(int(x.size()), x.data(), y.data());
-    return y;
-}
 
 template <class T>
 void ExpectWithin(const char* row, int slot, const std::vector<T>& x, double bound) {

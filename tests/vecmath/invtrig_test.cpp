@@ -51,12 +51,6 @@ bool WithinLevel(int slot, T got, long double ref) {
 }
 
 template <class T>
-std::vector<T> Call(const std::string& row, int slot, const std::vector<T>& x) {
-    std::vector<T> y(x.size());
-    As<Unary<T>>(Slot(row, slot))(int(x.size()), x.data(), y.data());
-    return y;
-}
-template <class T>
 std::vector<T> Call2(const std::string& row, int slot, const std::vector<T>& a,
                      const std::vector<T>& b) {
     std::vector<T> y(a.size());

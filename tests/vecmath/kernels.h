@@ -40,6 +40,14 @@ F As(BrennKernel k) {
     return reinterpret_cast<F>(k);
 }
 
+// The unary slot `slot` of `row` on x, its results as a new vector.
+template <class T>
+std::vector<T> Call(const std::string& row, int slot, const std::vector<T>& x) {
+    std::vector<T> y(x.size());
+    As<Unary<T>>(Slot(row, slot))(int(x.size()), x.data(), y.data());
+    return y;
+}
+
 inline uint32_t Bits(float x) {
     return __builtin_bit_cast(uint32_t, x);
 }

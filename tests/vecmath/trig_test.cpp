@@ -53,12 +53,6 @@ struct RowCase {
 const RowCase kSingle[] = {{"sSin", Fn::Sin}, {"sCos", Fn::Cos}, {"sTan", Fn::Tan}};
 const RowCase kDouble[] = {{"dSin", Fn::Sin}, {"dCos", Fn::Cos}, {"dTan", Fn::Tan}};
 
-template <class T>
-std::vector<T> Call(const char* row, int slot, const std::vector<T>& x) {
-    std::vector<T> y(x.size());
-    As<Unary<T>>(Slot(row, slot))(int(x.size()), x.data(), y.data());
-    return y;
-}
 
 template <class T>
 void ExpectAccurate(const RowCase& rc, int slot, const std::vector<T>& x) {
