@@ -15,6 +15,7 @@
  * test of the single EP body) and NaN go to the scalar routine, which gives NaN with the
  * domain status below 1. */
 #include "frame/kernels.h"
+#include "vecmath/explog/flat.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/hyper/inverse_scalar.h"
@@ -173,5 +174,8 @@ struct AcoshBody {
 } // namespace brenn::vm
 
 extern "C" {
-ZAR_ROW_KERNELS(Acosh, Unary, brenn::vm::AcoshBody)
+// The single kernels flattened: the rounds stay in the kernel's loop with the constants
+// in registers.
+BRENN_FLAT_LEVEL_KERNELS(s, Acosh, Unary, brenn::vm::AcoshBody)
+ZAR_LEVEL_KERNELS(d, Acosh, Unary, brenn::vm::AcoshBody)
 }

@@ -14,6 +14,7 @@
  * family (LA) or by exponent and significand (EP), with a guard above 0x5F7FFFFF.
  * Only infinities and NaN go to the scalar routine; nothing is reported. */
 #include "frame/kernels.h"
+#include "vecmath/explog/flat.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/hyper/quiet_body.h"
@@ -142,7 +143,9 @@ BRENN_QUIET_BODY(Asinh)
 } // namespace brenn::vm
 
 extern "C" {
-ZAR_LEVEL_KERNELS(s, Asinh, Unary, brenn::vm::AsinhBody)
+// The single kernels flattened: the rounds stay in the kernel's loop with the constants
+// in registers.
+BRENN_FLAT_LEVEL_KERNELS(s, Asinh, Unary, brenn::vm::AsinhBody)
 ZAR_KERNEL_OF(d, Asinh, LaEp, Unary, brenn::vm::AsinhBody<double, brenn::vm::Level::LA>)
 ZAR_KERNEL_OF(d, Asinh, HA, Unary, brenn::vm::AsinhBody<double, brenn::vm::Level::HA>)
 }

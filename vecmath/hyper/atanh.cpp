@@ -21,6 +21,7 @@
 #include <limits>
 
 #include "frame/kernels.h"
+#include "vecmath/explog/flat.h"
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/hyper/inverse_scalar.h"
@@ -211,5 +212,8 @@ struct AtanhBody<float, L> {
 } // namespace brenn::vm
 
 extern "C" {
-ZAR_ROW_KERNELS(Atanh, Unary, brenn::vm::AtanhBody)
+// The single kernels flattened: the rounds stay in the kernel's loop with the constants
+// in registers.
+BRENN_FLAT_LEVEL_KERNELS(s, Atanh, Unary, brenn::vm::AtanhBody)
+ZAR_LEVEL_KERNELS(d, Atanh, Unary, brenn::vm::AtanhBody)
 }

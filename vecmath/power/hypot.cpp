@@ -330,6 +330,10 @@ struct HypotBody {
 using namespace brenn::vm;
 
 extern "C" {
-ZAR_LEVEL_KERNELS(s, Hypot, Binary, HypotBody)
+// Single HA flattened: its rounds of sixteen stay in the kernel's loop with the constants
+// in registers (EP measured slower so, LA the same).
+ZAR_KERNEL_OF(s, Hypot, EP, Binary, HypotBody<float, brenn::vm::Level::EP>)
+ZAR_KERNEL_OF(s, Hypot, LA, Binary, HypotBody<float, brenn::vm::Level::LA>)
+BRENN_FLAT ZAR_KERNEL_OF(s, Hypot, HA, Binary, HypotBody<float, brenn::vm::Level::HA>)
 BRENN_FLAT_LEVEL_KERNELS(d, Hypot, Binary, HypotBody)
 }

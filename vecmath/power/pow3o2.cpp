@@ -14,6 +14,7 @@
  * estimate has no seed, done in extended precision, where the result may overflow or be
  * denormal without a status. */
 #include "frame/kernels.h"
+#include "vecmath/explog/flat.h"
 #include "vecmath/arith/goldschmidt.h"
 #include "vecmath/arith/seed.h"
 #include "vecmath/frame/kernel_frame.h"
@@ -148,5 +149,8 @@ struct Pow3o2Body {
 using namespace brenn::vm;
 
 extern "C" {
-ZAR_ROW_KERNELS(Pow3o2, Unary, Pow3o2Body)
+// The single kernels flattened: the rounds stay in the kernel's loop with the constants
+// in registers.
+BRENN_FLAT_LEVEL_KERNELS(s, Pow3o2, Unary, Pow3o2Body)
+ZAR_LEVEL_KERNELS(d, Pow3o2, Unary, Pow3o2Body)
 }
