@@ -136,6 +136,21 @@ inline bool AnyOutside(const Vec<typename B::T>* x) {
     }
 }
 
+// The values of a round's registers: the body's whole-round form (ValueRound, e.g. one
+// that takes every register's table offsets before their rows) where it has one, else
+// Value register by register.
+template <class B>
+inline void ValuesOfRound(const Vec<typename B::T>* x, Vec<typename B::T>* y) {
+    constexpr int N = 16 / kLanes<typename B::T>;
+    if constexpr (requires { B::ValueRound(x, y); }) {
+        B::ValueRound(x, y);
+    } else {
+#pragma GCC unroll 8
+        for (int k = 0; k < N; ++k)
+            y[k] = B::Value(x[k]);
+    }
+}
+
 template <class B>
 inline int EvalTestOnce(const Vec<typename B::T>* x, Vec<typename B::T>* y) {
     using T = typename B::T;
@@ -143,19 +158,19 @@ inline int EvalTestOnce(const Vec<typename B::T>* x, Vec<typename B::T>* y) {
     constexpr int N = 16 / L;
     if (__builtin_expect(AnyOutside<B>(x), 0)) {
         int bits = 0;
+        Vec<T> xs[N];
 #pragma GCC unroll 8
         for (int k = 0; k < N; ++k) {
             Vec<T> special = RangeTest(x[k], B::kWindow);
             bits |= MaskBits(special) << (k * L);
             // Special lanes run on 0, by the mask's sign bit: a double window on the high
             // word leaves the low word's mask clear.
-            y[k] = B::Value(IfThenElse(special, Zero<T>(), x[k]));
+            xs[k] = IfThenElse(special, Zero<T>(), x[k]);
         }
+        ValuesOfRound<B>(xs, y);
         return bits;
     }
-#pragma GCC unroll 8
-    for (int k = 0; k < N; ++k)
-        y[k] = B::Value(x[k]);
+    ValuesOfRound<B>(x, y);
     return 0;
 }
 

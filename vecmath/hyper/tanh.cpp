@@ -192,10 +192,11 @@ struct TanhOp {
         return TanhScalar(a, y);
     }
 };
-// Single kernels take rounds of sixteen with the range tested once a round (the
-// magnitudes folded, AnyOutside; a round with an infinity or NaN runs those lanes on 0,
-// as Eval does), LA and EP with the four registers' row offsets taken before their rows
-// (TanhSingleRound: the loads of a register no longer wait behind the one before).
+// Single kernels take rounds of sixteen with the range tested once a round (EvalTestOnce:
+// the magnitudes folded; a round with an infinity or NaN runs those lanes on 0, as Eval
+// does), LA and EP with the four registers' row offsets taken before their rows
+// (TanhSingleRound as ValueRound: the loads of a register no longer wait behind the one
+// before).
 template <class Tp, Level L>
 struct TanhBody : QuietBody<TanhOp, Tp, L> {
     using Base = QuietBody<TanhOp, Tp, L>;
@@ -204,25 +205,12 @@ struct TanhBody : QuietBody<TanhOp, Tp, L> {
     static constexpr bool kTestOnce = sizeof(T) == 4;
     static constexpr int kRound = kTestOnce ? 16 : Base::kRound;
     static constexpr Range32 kWindow = InfNaNWindow<T>::kWindow;
+    static void ValueRound(const V* x, V* y) { TanhSingleRound<L>(x, y); }
     static int EvalWide(const V* x, V* y) {
-        if constexpr (kTestOnce) {
-            if (__builtin_expect(AnyOutside<TanhBody>(x), 0)) {
-                V xs[4];
-                int bits = 0;
-#pragma GCC unroll 4
-                for (int k = 0; k < 4; ++k) {
-                    V special = RangeTest(x[k], kWindow);
-                    bits |= MaskBits(special) << (4 * k);
-                    xs[k] = IfThenZeroElse(special, x[k]);
-                }
-                TanhSingleRound<L>(xs, y);
-                return bits;
-            }
-            TanhSingleRound<L>(x, y);
-            return 0;
-        } else {
+        if constexpr (kTestOnce)
+            return EvalTestOnce<TanhBody>(x, y);
+        else
             return Base::EvalWide(x, y);
-        }
     }
 };
 
