@@ -60,6 +60,7 @@ inline constexpr gamma::Ext2 kPiStepC2 = gamma::Split2(kPiStepC);
 inline constexpr auto kSinP = gamma::SplitPoly<1>(kSinRest);
 inline constexpr auto kCosP = gamma::SplitPoly<1>(kCosRest);
 inline constexpr auto kSinhP = gamma::SplitPoly<1>(kSinhSmall);
+inline constexpr double kUnitSigns[2] = {1.0, -1.0};
 
 // The square root by the unit's instruction (correctly rounded; sqrtl adds a test for
 // errno).
@@ -115,7 +116,9 @@ inline constexpr auto kSinhP = gamma::SplitPoly<1>(kSinhSmall);
     }
     const long double e = ExpCore(a), h = 0.5L / e;
     ch = 0.5L * e + h;
-    sh = __builtin_copysignl(0.5L * e - h, x);
+    // x's sign by an exact product, not copysignl: its fxam and fnstsw wait for the
+    // unit's work before them, so that a branch on a random sign is found wrong late
+    sh = (0.5L * e - h) * core::kUnitSigns[x < 0];
 }
 
 // atan2(y, x) of finite parts by the unit's own instruction, within about an extended
