@@ -260,6 +260,29 @@ TEST(ComplexArith, AddSubConjBitForBitAtEveryLength) {
             ASSERT_EQ(std::fabs(zdst[i].im), std::fabs(zsrc[i].im));
         }
     }
+    // double Conj by the bits, long and short, out of place to an output on and off the
+    // 16-byte boundary (by one part) and in place: a signalling NaN keeps its bits
+    const double zNaN = std::numeric_limits<double>::signaling_NaN();
+    for (int n : {150003, 13})
+        for (int place = 0; place < 3; ++place) {
+            std::vector<double> src(2 * n), buf(2 * n + 2, -9.0);
+            for (int i = 0; i < 2 * n; ++i)
+                src[i] = i % 7 == 3 ? zNaN : 0.5 * i - 11;
+            Z* out = place == 2 ? reinterpret_cast<Z*>(src.data())
+                                : reinterpret_cast<Z*>(buf.data() + place);
+            std::vector<double> want(src);
+            for (int i = 1; i < 2 * n; i += 2)
+                want[i] = -want[i];
+            As<Unary<Z>>(CxRaw(frame::Row_zConj, frame::SlotLA))(
+                n, reinterpret_cast<const Z*>(src.data()), out);
+            const double* got = &out->re;
+            for (int i = 0; i < 2 * n; ++i)
+                ASSERT_EQ(Bits(got[i]), Bits(want[i])) << n << " " << place << " " << i;
+            if (place < 2) {
+                EXPECT_EQ(buf[2 * n + place], -9.0); // nothing written past the end
+                if (place == 1) EXPECT_EQ(buf[0], -9.0);
+            }
+        }
     std::vector<Z> za(7, Z{1, 2}), zb(7, Z{0.5, 4});
     As<Binary<Z>>(CxRaw(frame::Row_zSub, frame::SlotEP))(7, za.data(), zb.data(), za.data());
     EXPECT_TRUE(SameParts(za[6], Z{0.5, -2}));

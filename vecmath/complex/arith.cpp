@@ -1,7 +1,8 @@
 /* Complex arithmetic, single (c) and double (z): Add, Sub, Conj, Mul, MulByConj, Div.
  *
  * Add and Sub are the real Add and Sub over the 2n parts. Conj turns the sign of every
- * imaginary part and nothing else (no flag, a signalling NaN stays as it is).
+ * imaginary part and nothing else (no flag, a signalling NaN stays as it is); in double,
+ * element by element, streaming long results past the cache.
  *
  * Double Mul and MulByConj, LA and HA: a lane whose four parts all lie in the window of
  * exact.h has its products formed exactly and each part's sum of two products rounded
@@ -23,6 +24,7 @@
 #include "vecmath/complex/arith_scalar.h"
 #include "vecmath/complex/cframe.h"
 #include "vecmath/frame/level.h"
+#include "vecmath/frame/stream_frame.h"
 
 namespace brenn::vm::cx {
 namespace {
@@ -251,6 +253,48 @@ struct ConjBody {
     }
 };
 
+// Double Conj: an element is one register, its imaginary part's sign turned by one
+// exclusive or, with no separation into parts. A long call that does not work in place
+// writes y with non-temporal stores, as the streaming frame does from kStreamBytes: the
+// read for ownership of y would otherwise be a third stream beside a's read and y's
+// write. Those stores need y on a 16-byte boundary; a y aligned only to 8 bytes (or a
+// call in place) keeps the ordinary stores.
+template <bool NonTemporal>
+BRENN_VEC int ConjRounds(int n, const BrennComplex16* a, BrennComplex16* y, __m128d flip) {
+    const double* pa = &a->re;
+    double* py = &y->re;
+    int i = 0;
+    for (; i + 4 <= n; i += 4) {
+        __m128d r0 = Xor(Load(pa + 2 * i), flip), r1 = Xor(Load(pa + 2 * i + 2), flip);
+        __m128d r2 = Xor(Load(pa + 2 * i + 4), flip), r3 = Xor(Load(pa + 2 * i + 6), flip);
+        if constexpr (NonTemporal) {
+            StoreStream(py + 2 * i, r0);
+            StoreStream(py + 2 * i + 2, r1);
+            StoreStream(py + 2 * i + 4, r2);
+            StoreStream(py + 2 * i + 6, r3);
+        } else {
+            Store(py + 2 * i, r0);
+            Store(py + 2 * i + 2, r1);
+            Store(py + 2 * i + 4, r2);
+            Store(py + 2 * i + 6, r3);
+        }
+    }
+    if constexpr (NonTemporal) StreamFence();
+    return i;
+}
+
+inline void ConjZ(int n, const BrennComplex16* a, BrennComplex16* y) {
+    const __m128d flip = SetLanes(0.0, -0.0);
+    int i = 0;
+    if (uintptr_t(n) * sizeof(BrennComplex16) >= kStreamBytes && y != a &&
+        (reinterpret_cast<uintptr_t>(y) & 15) == 0)
+        i = ConjRounds<true>(n, a, y, flip);
+    else if (n > 0)
+        i = ConjRounds<false>(n, a, y, flip);
+    for (; i < n; ++i)
+        Store(&y[i].re, Xor(Load(&a[i].re), flip));
+}
+
 // The real kernel K over the parts of n complex elements, in pieces whose part count
 // fits its 32-bit count.
 template <class R, class E>
@@ -283,7 +327,9 @@ BRENN_COMPLEX_ADDSUB(z, d, LaHa)
 BRENN_COMPLEX_ADDSUB(z, d, EP)
 
 ZAR_COMPLEX_KERNEL(c, Conj, All, Unary, ConjBody<float>)
-ZAR_COMPLEX_KERNEL(z, Conj, All, Unary, ConjBody<double>)
+void ZAR_KERNEL(zConj, All) BRENN_SIG(z, Unary) {
+    ConjZ(n, a, y);
+}
 
 ZAR_COMPLEX_KERNEL(z, Mul, LaHa, Binary, MulZ<false, Level::HA>)
 ZAR_COMPLEX_KERNEL(z, Mul, EP, Binary, MulZ<false, Level::EP>)
