@@ -79,16 +79,36 @@ inline double Pow2(int k) {
     return FromBits(xb.mantissa, 16383);
 }
 
-[[gnu::always_inline]] inline long double Log(long double x) {
-    // ln 2 in two parts, the head of 44 bits so that e times it is exact
-    constexpr double kLn2Hi = 0xb17217f7d1d00000p-64;
-    constexpr long double kLn2Lo = -0x8654361c4c67fc0dp-112L;
-    int e, j;
-    long double m = Reduce(x, e, j);
+// ln 2 in two parts, the head of 44 bits so that e times it is exact
+inline constexpr double kLn2Hi = 0xb17217f7d1d00000p-64;
+inline constexpr long double kLn2Lo = -0x8654361c4c67fc0dp-112L;
+
+// ln x = e ln2 - ln R + ln(1 + u) from the reduced m = x 2^-e, its cell j and e.
+[[gnu::always_inline]] inline long double LogOfReduced(long double m, int e, int j) {
     long double u = m * kLogRecip[j] - 1;
     long double de = e;
     return de * kLn2Hi +
            (Join(kLogOfRecip2.v[j]) + (de * static_cast<double>(kLn2Lo) + (u + Log1pTail(u))));
+}
+
+[[gnu::always_inline]] inline long double Log(long double x) {
+    int e, j;
+    long double m = Reduce(x, e, j);
+    return LogOfReduced(m, e, j);
+}
+
+// Log of a positive finite double: e, j and m from x's own bits, where Log would round
+// its 80-bit argument to double through memory for them. The same value as Log(x).
+[[gnu::always_inline]] inline long double LogOfDouble(double x) {
+    uint64_t b;
+    memcpy(&b, &x, sizeof b);
+    int be = static_cast<int>(b >> 52);
+    if (be == 0) [[unlikely]]
+        return Log(static_cast<long double>(x));
+    uint64_t mb = (b & 0x000FFFFFFFFFFFFFull) | 0x3FF0000000000000ull;
+    double m;
+    memcpy(&m, &mb, sizeof m);
+    return LogOfReduced(m, be - 1023, static_cast<int>((b >> 45) & 127));
 }
 
 // ln m for a double m in [1, 2): Log without the reduction and the exponent's terms

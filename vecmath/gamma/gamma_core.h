@@ -26,6 +26,7 @@
 #include <stdint.h>
 #include <string.h>
 
+#include "vecmath/frame/vec.h"
 #include "vecmath/gamma/double_math.h"
 #include "vecmath/gamma/ext_math.h"
 #include "vecmath/gamma/gamma_data.h"
@@ -243,6 +244,46 @@ template <class W>
                              static_cast<long double>(e) * Ln2Lo(0.0L));
     double r = 1 / x;
     return Exp(big + (small + (HalfLn2PiLessHalf(0.0L) + r * Poly(r * r, D::kStirlingD))));
+}
+
+// The double LGamma row's steps, from the double argument itself: each conversion of an
+// 80-bit value to double goes through memory, and so does every x87 value a loop carries
+// from one step to the next.
+
+// The recurrence down for a double x in (2.25, 8): z = x - k in (1.25, 2.25] with
+// k = ceil(x - 2.25), returned, and the product (x - 1)(x - 2)...(x - k) of exact double
+// factors, as a tree of six whose unused factors (x - j at most 1.25) are 1.
+[[gnu::always_inline]] inline long double RecurrenceDown(double x, double& z) {
+    const __m128d xv = Set<double>(x), cut = Set<double>(1.25), one = Set<double>(1.0);
+    alignas(16) double f[6];
+    for (int i = 0; i < 3; ++i) {
+        __m128d t = Sub(xv, SetLanes(2.0 * i + 1, 2.0 * i + 2));
+        Store(f + 2 * i, IfThenElse(Gt(t, cut), t, one));
+    }
+    z = x - __builtin_ceil(x - 2.25);
+    long double p01 = static_cast<long double>(f[0]) * f[1];
+    long double p23 = static_cast<long double>(f[2]) * f[3];
+    long double p45 = static_cast<long double>(f[4]) * f[5];
+    return (p01 * p23) * p45;
+}
+
+// |r| Q with sin(pi r) = pi r Q, for r = x - rint(x) of a double x not an integer (exact):
+// |sin(pi x)| / pi.
+[[gnu::always_inline]] inline long double SinPiOverPi(double x) {
+    double r = x - __builtin_rint(x);
+    long double rr = r;
+    long double u = rr * rr;
+    long double q = 1 + u * Poly(u, GammaData<long double>::kSinPiRatioP);
+    return static_cast<long double>(__builtin_fabs(r)) * q;
+}
+
+// Stirling's form (LnGammaStirlingForm) of a double x from 8 on, ln x by LogOfDouble and
+// S(x) in double from x as it is.
+[[gnu::always_inline]] inline long double LnGammaStirlingOfDouble(double x) {
+    double r = 1 / x;
+    double s = r * Poly(r * r, GammaData<long double>::kStirlingD);
+    long double w = x;
+    return ((w - 0.5L) * ext::LogOfDouble(x) - w) + (HalfLn2Pi(0.0L) + s);
 }
 
 // |sin(pi x)| and its sign for x not an integer, |x| < 2^52: the sine of pi (x - rint(x)),

@@ -80,6 +80,40 @@ template <class T>
                           gamma::LnGammaStirlingForm(ax, gamma::StirlingSeriesDouble(ax)));
 }
 
+// The double row from its double argument (gamma_core.h's steps of that row): below the
+// Stirling point the interval's expansions with the recurrence's product under one
+// logarithm; the reflection's quotient as -ln(|x| |sin(pi x)| / pi), where
+// |sin(pi x)| / pi = |r| Q(r^2) takes no division, with ln Gamma(|x|)'s own logarithm
+// (of |x| below 0.75, of the recurrence's product above 2.25) under the same logarithm.
+[[gnu::noinline]] double LnGammaSmallD(double x) {
+    if (x < 0.75) return static_cast<double>(gamma::LnGammaInterval(x + 1.0L) - gamma::ext::LogOfDouble(x));
+    if (x <= 2.25) return static_cast<double>(gamma::LnGammaInterval(static_cast<long double>(x)));
+    double z;
+    long double p = gamma::RecurrenceDown(x, z);
+    return static_cast<double>(gamma::LnGammaInterval(static_cast<long double>(z)) + gamma::Log(p));
+}
+[[gnu::noinline]] double LnGammaLargeD(double x) {
+    return static_cast<double>(gamma::LnGammaStirlingOfDouble(x));
+}
+[[gnu::noinline]] double LnGammaReflectNearD(double x) {
+    double ax = -x;
+    long double q = gamma::SinPiOverPi(x);
+    if (ax < 0.75) return static_cast<double>(-gamma::Log(q) - gamma::LnGammaInterval(ax + 1.0L));
+    if (ax <= 2.25)
+        return static_cast<double>(-gamma::Log(static_cast<long double>(ax) * q) -
+                                   gamma::LnGammaInterval(static_cast<long double>(ax)));
+    double z;
+    long double p = gamma::RecurrenceDown(ax, z);
+    return static_cast<double>(-gamma::Log(p * ax * q) -
+                               gamma::LnGammaInterval(static_cast<long double>(z)));
+}
+[[gnu::noinline]] double LnGammaReflectFarD(double x) {
+    double ax = -x;
+    long double q = gamma::SinPiOverPi(x);
+    return static_cast<double>(-gamma::Log(static_cast<long double>(ax) * q) -
+                               gamma::LnGammaStirlingOfDouble(ax));
+}
+
 template <class T>
 int LGammaOf(T x, T* y) {
     using D = gamma::GammaData<gamma::Wide<T>>;
@@ -101,7 +135,15 @@ int LGammaOf(T x, T* y) {
     }
     T v;
     double near;
-    if (x > 0) {
+    if constexpr (sizeof(T) == sizeof(double)) {
+        if (x > 0) {
+            v = x < D::kLnStirlingFrom ? LnGammaSmallD(x) : LnGammaLargeD(x);
+        } else if (NearZero(x, near)) {
+            v = near;
+        } else {
+            v = -x < D::kLnStirlingFrom ? LnGammaReflectNearD(x) : LnGammaReflectFarD(x);
+        }
+    } else if (x > 0) {
         if (x < D::kLnStirlingFrom)
             v = LnGammaSmall(x);
         else
