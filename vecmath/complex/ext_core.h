@@ -60,7 +60,7 @@ inline constexpr gamma::Ext2 kPiStepC2 = gamma::Split2(kPiStepC);
 inline constexpr auto kSinP = gamma::SplitPoly<1>(kSinRest);
 inline constexpr auto kCosP = gamma::SplitPoly<1>(kCosRest);
 inline constexpr auto kSinhP = gamma::SplitPoly<1>(kSinhSmall);
-inline constexpr double kUnitSigns[2] = {1.0, -1.0};
+inline constexpr double kSignedHalves[2] = {0.5, -0.5};
 
 // The square root by the unit's instruction (correctly rounded; sqrtl adds a test for
 // errno).
@@ -114,11 +114,13 @@ inline constexpr double kUnitSigns[2] = {1.0, -1.0};
         ch = core::SqrtX(1 + sh * sh);
         return;
     }
-    const long double e = ExpCore(a), h = 0.5L / e;
-    ch = 0.5L * e + h;
-    // x's sign by an exact product, not copysignl: its fxam and fnstsw wait for the
-    // unit's work before them, so that a branch on a random sign is found wrong late
-    sh = (0.5L * e - h) * core::kUnitSigns[x < 0];
+    // x's sign in the halves, not by copysignl: its fxam and fnstsw wait for the unit's
+    // work before them, so that a branch on a random sign is found wrong late; the
+    // products and the quotient are exact in sign, so sh is -sinh|x| to the bit
+    const double half = core::kSignedHalves[x < 0];
+    const long double e = ExpCore(a), h = half / e;
+    ch = 0.5L * e + __builtin_fabsl(h);
+    sh = half * e - h;
 }
 
 // atan2(y, x) of finite parts by the unit's own instruction, within about an extended
