@@ -674,6 +674,103 @@ TEST(ExpLog, ExponentialsTestTheirRangeOnceARound) {
     CheckSpecialPlaces<double>(frame::Row_dExpm1, 708.0);
 }
 
+// Past the single windows' upper ends, up to the last argument that the scalar routine
+// gives at status 0, rounds of sixteen take the routine's value inside the round. Every
+// float of that band and a few beyond it, in long calls with window lanes between and,
+// in a second pass, every fifth lane negated (special lanes below the window in most
+// rounds), at every place of a round: bit for bit what each element gives alone, every
+// band element at status 0 alone; the call's status that of the last element with one
+// (reports held to the end), under error mode 0x2000 the same values, and under a
+// callback the same reports in element order with the callback's results.
+std::vector<std::pair<int, int>> gReports; // (index, status) as the callback saw them
+int RecordAll(ErrorRecord* r) {
+    gReports.emplace_back(r->index, r->code);
+    r->r1 = 42.0;
+    return 0;
+}
+
+TEST(ExpLog, SingleExponentialsPastTheWindowInLongCalls) {
+    struct Band {
+        RowIndex row;
+        uint32_t lo, hi; // the band's bits: above lo, up to hi
+    };
+    const Band bands[] = {{frame::Row_sExp, 0x42AEAC4Fu, 0x42B17217u},
+                          {frame::Row_sExp2, 0x42FC0000u, 0x42FFFFFFu},
+                          {frame::Row_sExp10, 0x4217B818u, 0x421A209Au},
+                          {frame::Row_sExpm1, 0x42AD496Bu, 0x42B17217u}};
+    for (const Band& c : bands)
+        for (int negate : {0, 5}) {
+            std::vector<float> x;
+            for (uint32_t b = c.lo - 2; b <= c.hi + 3; ++b) {
+                float v = std::bit_cast<float>(b);
+                x.push_back(negate && b % negate == 0 ? -v : v);
+                if (b % 7 == 0) x.push_back(b % 3 ? 1.5f : -20.0f);
+            }
+            // The band's ends at every place of a round, and window lanes after them so
+            // that the call's last elements (its tail, element by element) hold none.
+            for (int at = 0; at < 16; ++at) {
+                x.insert(x.end(), size_t(at), 0.5f);
+                for (uint32_t b : {c.lo - 1, c.lo, c.lo + 1, c.hi - 1, c.hi, c.hi + 1, c.hi + 2})
+                    x.push_back(std::bit_cast<float>(b));
+            }
+            x.insert(x.end(), 40, -1.0f);
+            const std::string name = frame::kRowInfo[c.row].name;
+            for (int slot : kSlots) {
+                std::vector<float> one(x.size());
+                std::vector<int> status(x.size());
+                int last = 0;
+                {
+                    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+                    for (size_t i = 0; i < x.size(); ++i) {
+                        one[i] = Call(c.row, slot, x[i], &status[i]);
+                        uint32_t b = Bits(x[i]);
+                        if (b > c.lo && b <= c.hi)
+                            ASSERT_EQ(status[i], 0) << name << " " << slot << " " << x[i];
+                        if (status[i]) last = status[i];
+                    }
+                }
+                std::vector<float> y(x.size());
+                {
+                    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+                    brenn_zar_kernel_SetErrStatus(0);
+                    K<float>(c.row, slot)(int(x.size()), x.data(), y.data());
+                    EXPECT_EQ(brenn_zar_kernel_GetErrStatus(), last) << name << " " << slot;
+                }
+                for (size_t i = 0; i < x.size(); ++i)
+                    ASSERT_EQ(Bits(y[i]), Bits(one[i])) << name << " " << slot << " " << x[i];
+                {
+                    ModeScope mode(BRENN_MODE_ERRMODE_NOERR);
+                    K<float>(c.row, slot)(int(x.size()), x.data(), y.data());
+                    for (size_t i = 0; i < x.size(); ++i)
+                        ASSERT_EQ(Bits(y[i]), Bits(Call(c.row, slot, x[i])))
+                            << name << " " << slot << " " << x[i];
+                }
+                {
+                    ModeScope mode(BRENN_MODE_ERRMODE_CALLBACK);
+                    ErrorCallback saved = brenn_zar_kernel_SetErrorCallBack(RecordAll);
+                    brenn_zar_kernel_SetInterfInputVectorPointer(x.data());
+                    gReports.clear();
+                    K<float>(c.row, slot)(int(x.size()), x.data(), y.data());
+                    brenn_zar_kernel_SetErrorCallBack(saved);
+                    brenn_zar_kernel_SetInterfInputVectorPointer(nullptr);
+                    size_t r = 0;
+                    for (size_t i = 0; i < x.size(); ++i) {
+                        if (status[i] == 0) {
+                            ASSERT_EQ(Bits(y[i]), Bits(one[i])) << name << " " << slot << " " << x[i];
+                            continue;
+                        }
+                        ASSERT_LT(r, gReports.size()) << name << " " << slot;
+                        EXPECT_EQ(gReports[r].first, int(i)) << name << " " << slot;
+                        EXPECT_EQ(gReports[r].second, status[i]) << name << " " << slot;
+                        EXPECT_EQ(y[i], 42.0f) << name << " " << slot << " " << x[i];
+                        ++r;
+                    }
+                    EXPECT_EQ(r, gReports.size()) << name << " " << slot;
+                }
+            }
+        }
+}
+
 // Single Expm1 takes every argument up to 88.375 at LA and EP (and to the last finite
 // result at HA) in the vector path, where 2^n reaches 2^127 on the positive side and +0
 // on the negative one: every float of both bands within the level's bound, element by

@@ -292,8 +292,17 @@ inline __m128d ExpOf(__m128d x) {
     }
 }
 
+// The band above the single window that the scalar routines give at status 0 (wide.h):
+// up to bits(kOver), 88.7228317 (HA reports 88.7228394 as an overflow).
+template <class T>
+struct ExpBand {};
+template <>
+struct ExpBand<float> {
+    static constexpr Band32 kBand = {0x42AEAC4F, 0x42B17217};
+};
+
 template <class Tp, Level L>
-struct ExpBody {
+struct ExpBody : ExpBand<Tp> {
     using T = Tp;
     using V = Vec<T>;
     using K = ExpLimits<T>;

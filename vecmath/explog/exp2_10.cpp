@@ -170,8 +170,18 @@ inline double ExpOfProduct(double x, double c, double cl) {
     return ExpScalarCore(h, l + x * cl);
 }
 
+// The band above the single window that the scalar routine gives at status 0 (wide.h):
+// up to the last argument whose result is finite, 127.999992 (Exp2) and 38.5318375 (Exp10).
+template <class T, Base B>
+struct ExpBaseBand {};
+template <Base B>
+struct ExpBaseBand<float, B> {
+    static constexpr Band32 kBand = {int32_t(Limits<float, B>::kWindow.limit),
+                                     B == Base::Two ? 0x42FFFFFF : 0x421A209A};
+};
+
 template <class Tp, Base B, Level L>
-struct ExpBaseBody {
+struct ExpBaseBody : ExpBaseBand<Tp, B> {
     using T = Tp;
     using V = Vec<T>;
     using K = Limits<T, B>;

@@ -280,8 +280,17 @@ inline __m128d Expm1Of(__m128d x) {
         return Expm1EP(x);
 }
 
+// The band above the single window that the scalar routine gives at status 0 (wide.h):
+// up to the overflow limit, 88.7228317.
+template <class T, Level L>
+struct Expm1Band {};
+template <Level L>
+struct Expm1Band<float, L> {
+    static constexpr Band32 kBand = {int32_t(Expm1Const<float>::kWindow<L>.limit), 0x42B17217};
+};
+
 template <class Tp, Level L>
-struct Expm1Body {
+struct Expm1Body : Expm1Band<Tp, L> {
     using T = Tp;
     using V = Vec<T>;
     using K = Expm1Const<T>;
