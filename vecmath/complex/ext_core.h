@@ -62,6 +62,23 @@ inline constexpr auto kCosP = gamma::SplitPoly<1>(kCosRest);
 inline constexpr auto kSinhP = gamma::SplitPoly<1>(kSinhSmall);
 inline constexpr double kSignedHalves[2] = {0.5, -0.5};
 
+// The nearest integer to v, |v| < 2^31, as a double and as an integer, by the shifter
+// in the SSE unit: the steps of the reductions come from their argument rounded to
+// double (a double part, in every caller: no rounding at all), where the x87 unit would
+// round, store and reload them on the path to the result. A step off by one where
+// v lies within a rounding of a half is still within the polynomials' intervals.
+struct Nearest {
+    double t;
+    int32_t n;
+};
+[[gnu::always_inline]] inline Nearest NearestOf(double v) {
+    constexpr double kShifter = 0x1.8p52;
+    const double s = v + kShifter;
+    uint64_t b;
+    __builtin_memcpy(&b, &s, sizeof b);
+    return {s - kShifter, static_cast<int32_t>(b)};
+}
+
 // The square root by the unit's instruction (correctly rounded; sqrtl adds a test for
 // errno).
 [[gnu::always_inline]] inline long double SqrtX(long double v) {
@@ -73,9 +90,9 @@ inline constexpr double kSignedHalves[2] = {0.5, -0.5};
 
 // sin y and cos y for |y| < 2^26.
 [[gnu::always_inline]] inline void SinCosCore(long double y, long double& s, long double& c) {
-    constexpr double kShifter = 0x1.8p63;
-    const long double t = (y * kStepsPerRadian + kShifter) - kShifter; // the nearest step
-    const int k = int(static_cast<int64_t>(t) & 127);
+    const core::Nearest q = core::NearestOf(static_cast<double>(y) * kStepsPerRadian);
+    const long double t = q.t; // the nearest step
+    const int k = q.n & 127;
     const long double r = ((y - t * kPiStepA) - t * kPiStepB) - t * core::Join(core::kPiStepC2);
     const long double r2 = r * r;
     const long double sr = r + r * r2 * core::Poly(r2, core::kSinP);
@@ -89,14 +106,14 @@ inline constexpr double kSignedHalves[2] = {0.5, -0.5};
 
 // e^a for 0 <= a <= 11000: a = (64 k + j) ln2/64 + r, |r| <= ln2/128, and
 // e^a = 2^k (T + (T' + T (e^r - 1))) with 2^(j/64) = T + T' (pow_tables.h), so that the
-// step's rounding does not add to the result's.
-[[gnu::always_inline]] inline long double ExpCore(long double a) {
+// step's rounding does not add to the result's; ad is a rounded to double, for the step.
+[[gnu::always_inline]] inline long double ExpCore(long double a, double ad) {
     constexpr double kInvStep = 0x1.71547652b82fep+6;    // 64 / ln 2, to double
     constexpr double kStepHi = 0xb17217f7d2000000p-70;   // ln2/64, 40 bits
     constexpr double kStepLo = -0xc21950d871319ff0p-112; // the rest, to double
-    constexpr double kShifter = 0x1.8p63;
-    const long double t = (a * kInvStep + kShifter) - kShifter;
-    const int64_t n = static_cast<int64_t>(t);
+    const core::Nearest q = core::NearestOf(ad * kInvStep);
+    const long double t = q.t;
+    const int n = q.n;
     const long double r = (a - t * kStepHi) - t * kStepLo;
     const long double p = r + r * r * core::Poly(r, core::kExpP);
     const core::Step& row = core::kExpSteps2.v[n & 63];
@@ -118,7 +135,7 @@ inline constexpr double kSignedHalves[2] = {0.5, -0.5};
     // work before them, so that a branch on a random sign is found wrong late; the
     // products and the quotient are exact in sign, so sh is -sinh|x| to the bit
     const double half = core::kSignedHalves[x < 0];
-    const long double e = ExpCore(a), h = half / e;
+    const long double e = ExpCore(a, __builtin_fabs(static_cast<double>(x))), h = half / e;
     ch = 0.5L * e + __builtin_fabsl(h);
     sh = half * e - h;
 }

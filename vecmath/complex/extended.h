@@ -87,10 +87,13 @@ inline LD Turned(LD y) {
 // The trigonometric functions from the hyperbolic ones: with f(-y + ix) = u + iv,
 // cos-like functions are u + iv (Turn false) and sin-like ones (g(z) = -i f(iz)) are
 // v - iu (Turn true).
+// y is an element's part widened, so it is turned as a double: the cores then find -y
+// in the SSE unit as well, for their reductions, with no store and reload on the way.
 template <int (*F)(LD, LD, LD&, LD&), bool Turn>
 [[gnu::always_inline]] inline int Rotated(LD x, LD y, LD& re, LD& im) {
     LD u, v;
-    int st = F(Turned(y), x, u, v);
+    const double yd = static_cast<double>(y);
+    int st = F(static_cast<LD>(__builtin_isnan(yd) ? yd : -yd), x, u, v);
     if (Turn) {
         re = v;
         im = Turned(u);
