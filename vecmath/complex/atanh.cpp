@@ -20,6 +20,7 @@
 #include <math.h>
 
 #include "vecmath/complex/ext_core.h"
+#include "vecmath/complex/ext_phase.h"
 #include "vecmath/complex/extended.h"
 
 namespace brenn::vm::cx {
@@ -49,8 +50,8 @@ constexpr LD kPiOver2 = 1.57079632679489661923132169163975144L;
             im = y;
             return status::kSingularity;
         }
-        re = __builtin_copysignl(0.25L * log1pl(4 * ax / (d * d + y * y)), x);
-        im = 0.5L * PhaseX(2 * y, d * (1 + ax) - y * y);
+        re = __builtin_copysignl(0.25L * Log1pX(4 * ax / (d * d + y * y)), x);
+        im = 0.5L * Phase(2 * y, d * (1 + ax) - y * y);
     }
     return status::kNone;
 }

@@ -10,6 +10,7 @@
 #include <math.h>
 
 #include "vecmath/complex/ext_core.h"
+#include "vecmath/complex/ext_phase.h"
 #include "vecmath/frame/scalar.h"
 #include "vecmath/frame/status.h"
 
@@ -96,8 +97,8 @@ inline long double LogAbsX(long double a, long double b) {
         x = w;
         w = t;
     }
-    if (x >= 0.5L && x <= 2.0L) return 0.5L * log1pl((x - 1) * (x + 1) + w * w);
-    return 0.5L * logl(x * x + w * w);
+    if (x >= 0.5L && x <= 2.0L) return 0.5L * Log1pX((x - 1) * (x + 1) + w * w);
+    return 0.5L * LnX(x * x + w * w);
 }
 
 // ln|z| + i arg z. Near |z| = 1 the real part is log1p((x - 1)(x + 1) + w^2)/2 of the
@@ -112,11 +113,11 @@ inline int CLogX(long double a, long double b, long double& re, long double& im)
         re = im = a + b;
     } else if (a == 0 && b == 0) {
         re = Keep(-1.0L) / Keep(0.0L);
-        im = atan2l(b, a);
+        im = Phase(b, a);
         return status::kSingularity;
     } else {
         re = LogAbsX(a, b);
-        im = atan2l(b, a);
+        im = Phase(b, a);
     }
     return status::kNone;
 }

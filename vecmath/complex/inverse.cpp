@@ -29,6 +29,7 @@
 #include <math.h>
 
 #include "vecmath/complex/ext_core.h"
+#include "vecmath/complex/ext_phase.h"
 #include "vecmath/complex/extended.h"
 
 namespace brenn::vm::cx {
@@ -49,21 +50,21 @@ struct Hft {
     Hft h;
     if (B <= 0.6417L) {
         const LD c = core::SqrtX((1 - B) * (1 + B)); // cos of the angle, B its sine
-        h.asinAngle = PhaseX(B, c);
-        h.acosAngle = PhaseX(c, B);
+        h.asinAngle = Phase(B, c);
+        h.acosAngle = Phase(c, B);
     } else {
         LD D = x <= 1 ? core::SqrtX(0.5L * (A + x) * (y2 / (R + x + 1) + (S + (1 - x))))
                       : y * core::SqrtX(0.5L * ((A + x) / (R + x + 1) + (A + x) / (S + (x - 1))));
         // D = 0 on the real axis beyond 1: the angles are exact there (no division)
-        h.asinAngle = D == 0 ? kPiOver2 : PhaseX(x, D);
-        h.acosAngle = D == 0 ? 0 : PhaseX(D, x);
+        h.asinAngle = D == 0 ? kPiOver2 : Phase(x, D);
+        h.acosAngle = D == 0 ? 0 : Phase(D, x);
     }
     if (A <= 1.5L) {
         LD am1 = x < 1 ? 0.5L * (y2 / (R + x + 1) + y2 / (S + (1 - x)))
                        : 0.5L * (y2 / (R + x + 1) + (S + (x - 1)));
-        h.L = log1pl(am1 + core::SqrtX(am1 * (A + 1)));
+        h.L = Log1pX(am1 + core::SqrtX(am1 * (A + 1)));
     } else {
-        h.L = logl(A + core::SqrtX(A * A - 1));
+        h.L = LnX(A + core::SqrtX(A * A - 1));
     }
     return h;
 }

@@ -1,11 +1,9 @@
 /* Log10 of single (c) and double (z) complex vectors, one kernel for every level.
  *
- * Double: element by element in 80-bit extended precision (extended.h). The real part is
- * log2|z|^2 times log10(2)/2 in one fyl2x (fyl2xp1 of (x - 1)(x + 1) + y^2 near |z| = 1,
- * x the larger magnitude, y the smaller), the imaginary part fpatan's phase times
- * log10(e), each rounded once to double. The instructions are used directly: the C
- * library's logl and atan2l wrap the same instructions in calls and checks that cost
- * as much again.
+ * Double: element by element in 80-bit extended precision (extended.h): ln|z| and arg z
+ * of the extended logarithm (LogAbsX of ext_elem.h: log1p of (x - 1)(x + 1) + y^2 near
+ * |z| = 1, x the larger magnitude, y the smaller; the table-driven cores of ext_phase.h),
+ * each times log10(e) in two parts and rounded once to double.
  * Single: the squares are exact in double, so the vector steps of Ln in double at HA
  * (ln_body.h), times log10(e) and rounded once to single, are correctly rounded but for
  * results within about 2^-26 ulp of a midpoint; zeros, infinities and NaNs go to the
@@ -19,19 +17,14 @@ namespace brenn::vm::cx {
 namespace {
 
 constexpr LD kLog10OfE = 0.434294481903251827651128918916605082L;
-constexpr LD kHalfLog10Of2 = 0.150514997831990597606869447362246513L;
+// log10(e) as a double and its double rest, so that a product with it is as exact as
+// with the extended constant and costs no 80-bit load
+constexpr double kLog10OfEHi = 0x1.bcb7b1526e50ep-2, kLog10OfELo = 0x1.95355baaafad3p-57;
 
-// y * log2(x), for x > 0; and y * log2(1 + x), for |x| < 1 - sqrt(2)/2.
-inline LD YLog2X(LD x, LD y) {
-    LD r;
-    __asm__("fyl2x" : "=t"(r) : "0"(x), "u"(y) : "st(1)");
-    return r;
+[[gnu::always_inline]] inline LD TimesLog10OfE(LD v) {
+    return v * kLog10OfEHi + v * kLog10OfELo;
 }
-inline LD YLog2XP1(LD x, LD y) {
-    LD r;
-    __asm__("fyl2xp1" : "=t"(r) : "0"(x), "u"(y) : "st(1)");
-    return r;
-}
+
 [[gnu::always_inline]] inline int Log10Of(LD a, LD b, LD& re, LD& im) {
     if (!(__builtin_isfinite(a) && __builtin_isfinite(b)) || (a == 0 && b == 0)) {
         int st = CLogX(a, b, re, im);
@@ -39,16 +32,8 @@ inline LD YLog2XP1(LD x, LD y) {
         im *= kLog10OfE;
         return st;
     }
-    LD x = __builtin_fabsl(a), y = __builtin_fabsl(b);
-    if (x < y) {
-        LD t = x;
-        x = y;
-        y = t;
-    }
-    const LD t = x >= 0.5L && x <= 2.0L ? (x - 1) * (x + 1) + y * y : 1;
-    re = __builtin_fabsl(t) < 0.29L ? YLog2XP1(t, kHalfLog10Of2)
-                                    : YLog2X(x * x + y * y, kHalfLog10Of2);
-    im = PhaseX(b, a) * kLog10OfE;
+    re = TimesLog10OfE(LogAbsX(a, b));
+    im = TimesLog10OfE(Phase(b, a));
     return status::kNone;
 }
 
