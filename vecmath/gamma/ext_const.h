@@ -92,7 +92,7 @@ template <size_t I, size_t K, size_t N>
 template <size_t K, size_t N>
 [[gnu::always_inline]] inline long double Poly(long double t, const ExtPoly<K, N>& c) {
     const ExtPoly<K, N>* p = &c;
-    __asm__("" : "+r"(p));
+    __asm__ volatile("" : "+r"(p));
     long double s = t * t;
     return detail::Chain<0>(s, *p) + t * detail::Chain<1>(s, *p);
 }

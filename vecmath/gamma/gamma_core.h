@@ -267,14 +267,14 @@ template <class W>
     return (p01 * p23) * p45;
 }
 
-// |r| Q with sin(pi r) = pi r Q, for r = x - rint(x) of a double x not an integer (exact):
-// |sin(pi x)| / pi.
-[[gnu::always_inline]] inline long double SinPiOverPi(double x) {
+// ln(sin(pi r) / (pi r)) for r = x - rint(x) of a double x (exact), and |r|: the
+// reflection's logarithm as ln(pi |r|) plus this, which needs no logarithm after the sine.
+[[gnu::always_inline]] inline long double LnSinPiRatio(double x, double& ar) {
     double r = x - __builtin_rint(x);
+    ar = __builtin_fabs(r);
     long double rr = r;
     long double u = rr * rr;
-    long double q = 1 + u * Poly(u, GammaData<long double>::kSinPiRatioP);
-    return static_cast<long double>(__builtin_fabs(r)) * q;
+    return u * Poly(u, GammaData<long double>::kLnSinPiRatioP);
 }
 
 // Stirling's form (LnGammaStirlingForm) of a double x from 8 on, ln x by LogOfDouble and

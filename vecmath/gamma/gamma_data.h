@@ -99,13 +99,16 @@ struct GammaData<long double> {
         -0x1.32d2cce62bf2121ap-1L,  0x1.50783487ff911152p-4L,   -0x1.e3074fec3e141386p-8L,
         0x1.e8f43bb83125892cp-12L,  -0x1.6fafed7388560e46p-16L, 0x1.abc8bcf0f003ca56p-21L,
         -0x1.ba98b669c7a857f2p-26L, 0x1.6c6e0bb46783f6ecp-29L};
-    // sin(pi r) / (pi r) = 1 + r^2 Q(r^2) on |r| <= 1/2, by tools/gamma/sinpi_ratio.sollya
-    // (degree 8, 2^-71 relative, the coefficients from the fourth on doubles): LGamma's
-    // reflection, which wants the sine divided by pi.
-    static constexpr long double kSinPiRatio[9] = {
-        -0x1.a51a6625307d322ep0L, 0x1.9f9cb402bc46c148p-1L, -0x1.86a8e4720db30b78p-3L,
-        0x1.ac6805cf322aap-6L,    -0x1.33816aa300d17p-9L,   0x1.3747193025cd6p-13L,
-        -0x1.d424092cb9a8bp-18L,  0x1.0faadedddc8e7p-22L,   -0x1.e7703fe66748cp-28L};
+    // ln(sin(pi r) / (pi r)) = r^2 L(r^2) on |r| <= 1/2, by
+    // tools/gamma/ln_sinpi_ratio.sollya (degree 15, 2^-64.7 relative, 2^-65.8 absolute, the
+    // coefficients from the fifth on doubles).
+    static constexpr long double kLnSinPiRatio[16] = {
+        -0x1.a51a6625307d323p0L,   -0x1.151322ac7d84933ep-1L, -0x1.5b40cb100c060b12p-2L,
+        -0x1.010b36af9c5aabbep-2L, -0x1.9a01e379bf36ap-3L,    -0x1.556ad82fa2879p-3L,
+        -0x1.2496a8a946e06p-3L,    -0x1.00051151e6566p-3L,    -0x1.c6af3a738b26ep-4L,
+        -0x1.9dc7a057596bdp-4L,    -0x1.56a8a65cb5211p-4L,    -0x1.ee71bf9aa516ep-4L,
+        0x1.ed9cf0b29a5b3p-5L,     -0x1.a9ca1dc0b7d2bp-2L,    0x1.e9534fe11c29dp-2L,
+        -0x1.026d5c381e443p-1L};
     // ln 2 = kLn2Hi + kLn2Lo, the head with four significant bits
     static constexpr long double kLn2Hi = 0x1.6p-1L;
     static constexpr long double kLn2Lo = 0.00564718055994530941723212145817656808L;
@@ -126,7 +129,7 @@ struct GammaData<long double> {
         1.0 / 1188,       -691.0 / 360360,    1.0 / 156,       -3617.0 / 122400,
         43867.0 / 244188, -174611.0 / 125400, 854513.0 / 63756};
     static constexpr auto kSinPiP = SplitPoly<4>(kSinPi);
-    static constexpr auto kSinPiRatioP = SplitPoly<3>(kSinPiRatio);
+    static constexpr auto kLnSinPiRatioP = SplitPoly<4>(kLnSinPiRatio);
     static constexpr auto kLnNear1P = SplitPoly<4>(kLnNear1);
     static constexpr auto kLnMinP = SplitPoly<4>(kLnMin);
     static constexpr auto kLnNear2P = SplitPoly<4>(kLnNear2);

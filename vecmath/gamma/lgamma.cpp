@@ -9,7 +9,7 @@
  *   1/(360x^3) + ..., its correction series in double. Past the largest finite result
  *   (x beyond 2.55e305, 4.08e36 in single) +inf, status 3.
  *   x < 0: ln(pi / (|x| |sin(pi x)|)) - ln Gamma(|x|), reflection, the sine in the wider
- *   format; near the zeros of the function on the negative axis the local forms of
+ *   format (double: ln(sin(pi r) / (pi r)) by its own polynomial, r = x - rint(x)); near the zeros of the function on the negative axis the local forms of
  *   lgamma_zeros.h take over. From 2^52 (2^23) in magnitude every x is an integer.
  *   Zero and the negative integers are poles: +inf, status 2. Both infinities give +inf;
  *   NaN comes back quieted.
@@ -82,9 +82,11 @@ template <class T>
 
 // The double row from its double argument (gamma_core.h's steps of that row): below the
 // Stirling point the interval's expansions with the recurrence's product under one
-// logarithm; the reflection's quotient as -ln(|x| |sin(pi x)| / pi), where
-// |sin(pi x)| / pi = |r| Q(r^2) takes no division, with ln Gamma(|x|)'s own logarithm
-// (of |x| below 0.75, of the recurrence's product above 2.25) under the same logarithm.
+// logarithm; the reflection's quotient as -ln(|x| |sin(pi x)| / pi) = -ln(|x| |r|) -
+// ln(sin(pi r) / (pi r)), r = x - rint(x), the second a polynomial in r^2 beside the
+// logarithm (no division, and no logarithm waiting on the sine), with ln Gamma(|x|)'s
+// own logarithm (of |x| below 0.75, of the recurrence's product above 2.25) under the
+// first.
 [[gnu::noinline]] double LnGammaSmallD(double x) {
     if (x < 0.75) return static_cast<double>(gamma::LnGammaInterval(x + 1.0L) - gamma::ext::LogOfDouble(x));
     if (x <= 2.25) return static_cast<double>(gamma::LnGammaInterval(static_cast<long double>(x)));
@@ -96,22 +98,23 @@ template <class T>
     return static_cast<double>(gamma::LnGammaStirlingOfDouble(x));
 }
 [[gnu::noinline]] double LnGammaReflectNearD(double x) {
-    double ax = -x;
-    long double q = gamma::SinPiOverPi(x);
-    if (ax < 0.75) return static_cast<double>(-gamma::Log(q) - gamma::LnGammaInterval(ax + 1.0L));
+    double ax = -x, ar;
+    long double l = gamma::LnSinPiRatio(x, ar);
+    if (ax < 0.75)
+        return static_cast<double>(-gamma::ext::LogOfDouble(ar) - (l + gamma::LnGammaInterval(ax + 1.0L)));
     if (ax <= 2.25)
-        return static_cast<double>(-gamma::Log(static_cast<long double>(ax) * q) -
-                                   gamma::LnGammaInterval(static_cast<long double>(ax)));
+        return static_cast<double>(-gamma::Log(static_cast<long double>(ax) * ar) -
+                                   (l + gamma::LnGammaInterval(static_cast<long double>(ax))));
     double z;
     long double p = gamma::RecurrenceDown(ax, z);
-    return static_cast<double>(-gamma::Log(p * ax * q) -
-                               gamma::LnGammaInterval(static_cast<long double>(z)));
+    return static_cast<double>(-gamma::Log(p * ax * ar) -
+                               (l + gamma::LnGammaInterval(static_cast<long double>(z))));
 }
 [[gnu::noinline]] double LnGammaReflectFarD(double x) {
-    double ax = -x;
-    long double q = gamma::SinPiOverPi(x);
-    return static_cast<double>(-gamma::Log(static_cast<long double>(ax) * q) -
-                               gamma::LnGammaStirlingOfDouble(ax));
+    double ax = -x, ar;
+    long double l = gamma::LnSinPiRatio(x, ar);
+    return static_cast<double>(-gamma::Log(static_cast<long double>(ax) * ar) -
+                               (l + gamma::LnGammaStirlingOfDouble(ax)));
 }
 
 template <class T>
