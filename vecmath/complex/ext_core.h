@@ -140,6 +140,14 @@ struct Nearest {
     sh = half * e - h;
 }
 
+// Finite parts with |x| below xLimit and y != 0 within SinCosCore's range: every element
+// of ordinary size, tested first with one branch by the rows, so that the special cases'
+// tests (an extended constant among them) are paid only where they apply.
+[[gnu::always_inline]] inline bool InCores(long double x, long double y, long double xLimit) {
+    const long double ay = __builtin_fabsl(y);
+    return __builtin_fabsl(x) < xLimit && ay < 0x1p26L && ay > 0;
+}
+
 // atan2(y, x) of finite parts by the unit's own instruction, within about an extended
 // ulp, signed zeros by the quadrant rules: the C library's atan2l, atanl, asinl and
 // acosl wrap the same instruction in calls and checks that cost as much again.

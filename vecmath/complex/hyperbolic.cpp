@@ -31,16 +31,8 @@ namespace {
     CoshSinhCore(x, ch, sh);
 }
 
-// Finite parts with x in the cores' range and y != 0 in the table sine's: every element
-// of ordinary size, tested first with one branch, so that the special cases' tests (an
-// extended constant among them) are paid only where they apply.
-[[gnu::always_inline]] inline bool Ordinary(LD x, LD y, LD xLimit) {
-    const LD ay = fabsl(y);
-    return fabsl(x) < xLimit && ay < 0x1p26L && ay > 0;
-}
-
 [[gnu::always_inline]] inline int CoshOf(LD x, LD y, LD& re, LD& im) {
-    if (__builtin_expect(Ordinary(x, y, 11000), 1)) {
+    if (__builtin_expect(InCores(x, y, 11000), 1)) {
         LD ch, sh, c, sn;
         CoshSinhCore(x, ch, sh);
         SinCosCore(y, sn, c);
@@ -66,7 +58,7 @@ namespace {
 }
 
 [[gnu::always_inline]] inline int SinhOf(LD x, LD y, LD& re, LD& im) {
-    if (__builtin_expect(Ordinary(x, y, 11000), 1)) {
+    if (__builtin_expect(InCores(x, y, 11000), 1)) {
         LD ch, sh, c, sn;
         CoshSinhCore(x, ch, sh);
         SinCosCore(y, sn, c);

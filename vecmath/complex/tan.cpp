@@ -26,7 +26,14 @@ namespace brenn::vm::cx {
 namespace {
 
 [[gnu::always_inline]] inline int TanhOf(LD x, LD y, LD& re, LD& im) {
-    if (__builtin_isinf(x)) {
+    if (__builtin_expect(InCores(x, y, 23), 1)) {
+        LD ch, sh, sn, cs;
+        CoshSinhCore(x, ch, sh);
+        SinCosCore(y, sn, cs);
+        const LD q = 1 / (sh * sh + cs * cs);
+        re = sh * ch * q;
+        im = sn * cs * q;
+    } else if (__builtin_isinf(x)) {
         re = __builtin_copysignl(1, x);
         LD s = __builtin_isfinite(y) && y != 0 ? sinl(y) * cosl(y) : y;
         im = __builtin_copysignl(0, s);
