@@ -97,6 +97,17 @@ inline constexpr long double kLn2Lo = -0x8654361c4c67fc0dp-112L;
     return LogOfReduced(m, e, j);
 }
 
+// Log of a positive normal x from the reduction of xd, x rounded to double or a value
+// within a few ulps of it computed beside x: the rounding through memory that Log makes
+// for its reduction is skipped. m = x 2^-e may then stand by those ulps outside [1, 2)
+// or its cell, which the series allows (as it does Log's own rounding up).
+[[gnu::always_inline]] inline long double LogBeside(long double x, double xd) {
+    uint64_t b;
+    memcpy(&b, &xd, sizeof b);
+    int e = static_cast<int>(b >> 52) - 1023;
+    return LogOfReduced(x * Pow2(-e), e, static_cast<int>((b >> 45) & 127));
+}
+
 // Log of a positive finite double: e, j and m from x's own bits, where Log would round
 // its 80-bit argument to double through memory for them. The same value as Log(x).
 [[gnu::always_inline]] inline long double LogOfDouble(double x) {

@@ -252,8 +252,9 @@ template <class W>
 
 // The recurrence down for a double x in (2.25, 8): z = x - k in (1.25, 2.25] with
 // k = ceil(x - 2.25), returned, and the product (x - 1)(x - 2)...(x - k) of exact double
-// factors, as a tree of six whose unused factors (x - j at most 1.25) are 1.
-[[gnu::always_inline]] inline long double RecurrenceDown(double x, double& z) {
+// factors, as a tree of six whose unused factors (x - j at most 1.25) are 1; the same
+// tree in double beside it, pd, within a few ulps of the product (for ext::LogBeside).
+[[gnu::always_inline]] inline long double RecurrenceDown(double x, double& z, double& pd) {
     const __m128d xv = Set<double>(x), cut = Set<double>(1.25), one = Set<double>(1.0);
     alignas(16) double f[6];
     for (int i = 0; i < 3; ++i) {
@@ -264,6 +265,7 @@ template <class W>
     long double p01 = static_cast<long double>(f[0]) * f[1];
     long double p23 = static_cast<long double>(f[2]) * f[3];
     long double p45 = static_cast<long double>(f[4]) * f[5];
+    pd = (f[0] * f[1]) * (f[2] * f[3]) * (f[4] * f[5]);
     return (p01 * p23) * p45;
 }
 

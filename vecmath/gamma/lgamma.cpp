@@ -90,9 +90,10 @@ template <class T>
 [[gnu::noinline]] double LnGammaSmallD(double x) {
     if (x < 0.75) return static_cast<double>(gamma::LnGammaInterval(x + 1.0L) - gamma::ext::LogOfDouble(x));
     if (x <= 2.25) return static_cast<double>(gamma::LnGammaInterval(static_cast<long double>(x)));
-    double z;
-    long double p = gamma::RecurrenceDown(x, z);
-    return static_cast<double>(gamma::LnGammaInterval(static_cast<long double>(z)) + gamma::Log(p));
+    double z, pd;
+    long double p = gamma::RecurrenceDown(x, z, pd);
+    return static_cast<double>(gamma::LnGammaInterval(static_cast<long double>(z)) +
+                               gamma::ext::LogBeside(p, pd));
 }
 [[gnu::noinline]] double LnGammaLargeD(double x) {
     return static_cast<double>(gamma::LnGammaStirlingOfDouble(x));
@@ -103,18 +104,23 @@ template <class T>
     if (ax < 0.75)
         return static_cast<double>(-gamma::ext::LogOfDouble(ar) - (l + gamma::LnGammaInterval(ax + 1.0L)));
     if (ax <= 2.25)
-        return static_cast<double>(-gamma::Log(static_cast<long double>(ax) * ar) -
+        return static_cast<double>(-gamma::ext::LogBeside(static_cast<long double>(ax) * ar, ax * ar) -
                                    (l + gamma::LnGammaInterval(static_cast<long double>(ax))));
-    double z;
-    long double p = gamma::RecurrenceDown(ax, z);
-    return static_cast<double>(-gamma::Log(p * ax * ar) -
+    double z, pd;
+    long double p = gamma::RecurrenceDown(ax, z, pd);
+    return static_cast<double>(-gamma::ext::LogBeside(p * ax * ar, pd * ax * ar) -
                                (l + gamma::LnGammaInterval(static_cast<long double>(z))));
 }
+// From the Stirling point: ln |x| of the reflection joins Stirling's (x - 1/2) ln x as
+// (|x| + 1/2) ln |x|, and the reflection's logarithm is of |r|, a double.
 [[gnu::noinline]] double LnGammaReflectFarD(double x) {
     double ax = -x, ar;
     long double l = gamma::LnSinPiRatio(x, ar);
-    return static_cast<double>(-gamma::Log(static_cast<long double>(ax) * ar) -
-                               (l + gamma::LnGammaStirlingOfDouble(ax)));
+    double r = 1 / ax;
+    double s = r * gamma::Poly(r * r, gamma::GammaData<long double>::kStirlingD);
+    long double w = ax;
+    long double stirling = ((w + 0.5L) * gamma::ext::LogOfDouble(ax) - w) + (gamma::HalfLn2Pi(0.0L) + s);
+    return static_cast<double>(-(gamma::ext::LogOfDouble(ar) + l) - stirling);
 }
 
 template <class T>
