@@ -17,7 +17,7 @@
  *     its relative accuracy near the zeros.
  *   CoshSinhCore(x), |x| <= 11000: near zero (|x| < 1/4) sinh x by its polynomial and
  *     cosh x = sqrt(1 + sinh^2 x); above, from E = e^|x| by the table of 2^(j/64) in
- *     two parts and Taylor's polynomial (ExpCore), and 1/E.
+ *     two parts and Taylor's polynomial (HalfExpCore), and 1/E.
  *   PhaseX(y, x): atan2 by the unit's own instruction. */
 #ifndef BRENN_VECMATH_COMPLEX_EXT_CORE_H
 #define BRENN_VECMATH_COMPLEX_EXT_CORE_H
@@ -60,7 +60,6 @@ inline constexpr gamma::Ext2 kPiStepC2 = gamma::Split2(kPiStepC);
 inline constexpr auto kSinP = gamma::SplitPoly<1>(kSinRest);
 inline constexpr auto kCosP = gamma::SplitPoly<1>(kCosRest);
 inline constexpr auto kSinhP = gamma::SplitPoly<1>(kSinhSmall);
-inline constexpr double kSignedHalves[2] = {0.5, -0.5};
 
 // The nearest integer to v, |v| < 2^31, as a double and as an integer, by the shifter
 // in the SSE unit: the steps of the reductions come from their argument rounded to
@@ -77,6 +76,14 @@ struct Nearest {
     uint64_t b;
     __builtin_memcpy(&b, &s, sizeof b);
     return {s - kShifter, static_cast<int32_t>(b)};
+}
+
+// +-2^k as a double, -1022 <= k <= 1023, the sign bit given
+[[gnu::always_inline]] inline double ScaleOf(int k, uint64_t sign) {
+    const uint64_t b = (static_cast<uint64_t>(k + 1023) << 52) | sign;
+    double d;
+    __builtin_memcpy(&d, &b, sizeof d);
+    return d;
 }
 
 // The square root by the unit's instruction (correctly rounded; sqrtl adds a test for
@@ -104,10 +111,12 @@ struct Nearest {
     c = ca + ((pc.lo + ca * cm) - sa * sr);
 }
 
-// e^a for 0 <= a <= 11000: a = (64 k + j) ln2/64 + r, |r| <= ln2/128, and
-// e^a = 2^k (T + (T' + T (e^r - 1))) with 2^(j/64) = T + T' (pow_tables.h), so that the
-// step's rounding does not add to the result's; ad is a rounded to double, for the step.
-[[gnu::always_inline]] inline long double ExpCore(long double a, double ad) {
+// +-e^a / 2 for 0 <= a <= 11000, the sign sign (0 or 1 << 63): a = (64 k + j) ln2/64 + r,
+// |r| <= ln2/128, and e^a = 2^k (T + (T' + T (e^r - 1))) with 2^(j/64) = T + T'
+// (pow_tables.h), so that the step's rounding does not add to the result's. T and T'
+// are scaled by +-2^(k-1) first, which is exact, so that the scaling is off the path
+// from r to the result; ad is a rounded to double, for the step.
+[[gnu::always_inline]] inline long double HalfExpCore(long double a, double ad, uint64_t sign) {
     constexpr double kInvStep = 0x1.71547652b82fep+6;    // 64 / ln 2, to double
     constexpr double kStepHi = 0xb17217f7d2000000p-70;   // ln2/64, 40 bits
     constexpr double kStepLo = -0xc21950d871319ff0p-112; // the rest, to double
@@ -117,10 +126,12 @@ struct Nearest {
     const long double r = (a - t * kStepHi) - t * kStepLo;
     const long double p = r + r * r * core::Poly(r, core::kExpP);
     const core::Step& row = core::kExpSteps2.v[n & 63];
-    const long double h = core::Join(row.hi);
-    const int k = static_cast<int>(n >> 6);
-    return (h + (row.lo + h * p)) *
-           (k <= 1023 ? gamma::ext::Pow2(k) : gamma::ext::FromBits(1ULL << 63, 16383 + k));
+    const int k = n >> 6;
+    const long double scale =
+        k <= 1023 ? core::ScaleOf(k - 1, sign)
+                  : gamma::ext::FromBits(1ULL << 63, static_cast<uint16_t>((16382 + k) | (sign >> 48)));
+    const long double h = core::Join(row.hi) * scale;
+    return h + (row.lo * scale + h * p);
 }
 
 // cosh x and sinh x for |x| <= 11000.
@@ -131,13 +142,14 @@ struct Nearest {
         ch = core::SqrtX(1 + sh * sh);
         return;
     }
-    // x's sign in the halves, not by copysignl: its fxam and fnstsw wait for the unit's
-    // work before them, so that a branch on a random sign is found wrong late; the
-    // products and the quotient are exact in sign, so sh is -sinh|x| to the bit
-    const double half = core::kSignedHalves[x < 0];
-    const long double e = ExpCore(a, __builtin_fabs(static_cast<double>(x))), h = half / e;
-    ch = 0.5L * e + __builtin_fabsl(h);
-    sh = half * e - h;
+    // x's sign in the scale, not by copysignl: its fxam and fnstsw wait for the unit's
+    // work before them, so that a branch on a random sign is found wrong late.
+    // E = +-e^a/2 and 1/(4E) = +-e^-a/2, exact in sign, so sh is -sinh|x| to the bit
+    const long double e =
+        HalfExpCore(a, __builtin_fabs(static_cast<double>(x)), static_cast<uint64_t>(x < 0) << 63);
+    const long double h = 0.25L / e;
+    ch = __builtin_fabsl(e) + __builtin_fabsl(h);
+    sh = e - h;
 }
 
 // Finite parts with |x| below xLimit and y != 0 within SinCosCore's range: every element
