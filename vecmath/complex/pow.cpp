@@ -55,6 +55,7 @@
 
 #include "vecmath/complex/exact.h"
 #include "vecmath/complex/ext_elem.h"
+#include "vecmath/complex/ext_phase.h"
 #include "vecmath/complex/extended.h"
 #include "vecmath/complex/pow_tables.h"
 #include "vecmath/explog/exp_scalar.h"
@@ -296,16 +297,11 @@ DD LnAbs(LD x, LD y) {
     return FastTwoSum(h.hi, h.lo + (kPowAtanRows[j][1] + ql + rest));
 }
 
-// atan(num/den), 0 <= num <= den, den > 0: t_j = j/256 the nearest to num/den, atan t_j
-// from its row and atan d, d = (num/den - t_j)/(1 + t_j num/den), |d| <= 2^-9, by its
-// series. In extended precision num/den is rounded once (and the difference to t_j is
-// exact), a relative error about 2^-63; in two words d's numerator and denominator are
-// exact, about 2^-105 relative.
+// atan(num/den), 0 <= num <= den, den > 0, in extended precision: num/den rounded once
+// (a relative error about 2^-64), then AtanUnit (ext_phase.h: t_j = j/256 the nearest,
+// atan t_j in two parts and atan d, d = (num/den - t_j)/(1 + t_j num/den) by its series).
 [[gnu::always_inline]] inline LD AtanRatioX(LD num, LD den) {
-    const LD q = num / den;
-    const int j = Nearest(q * 256);
-    const LD tj = j * 0x1p-8L, d = (q - tj) / (1 + q * tj), v = d * d;
-    return kPowAtanRows[j][0] + (d - d * v * (1 / 3.0L - v * (0.2L - v * (1 / 7.0L))));
+    return AtanUnit(num / den);
 }
 DD AtanRatio(LD num, LD den) {
     const int j = Nearest(num / den * 256);
@@ -536,30 +532,37 @@ inline void QuarterTurns(LD b, int k, LD& j0, LD& g) {
     g = f - j0;
 }
 
-// sin and cos of |r| <= pi/4 (or a little beyond) by the unit's own instruction, which
-// needs no reduction there and is as exact as the library's sincosl at a fraction of its
-// time; beyond 2^62 (an angle left unreduced, never judged) sincosl.
-inline void SinCosReduced(LD r, LD& s, LD& c) {
+// sin and cos of |r| <= pi/4 (or a little beyond): below 2^26 by the table-driven core
+// (ext_core.h; a zero keeps its sign), up to 2^62 by the unit's own instruction, which
+// needs no reduction there; beyond (an angle left unreduced, never judged) sincosl.
+[[gnu::always_inline]] inline void SinCosReduced(LD r, LD& s, LD& c) {
+    if (__builtin_expect(fabsl(r) < 0x1p26L, 1)) {
+        if (r == 0) {
+            s = r, c = 1;
+            return;
+        }
+        return SinCosCore(r, s, c);
+    }
     if (!(fabsl(r) < 0x1p62L)) return sincosl(r, &s, &c);
     __asm__("fsincos" : "=t"(c), "=u"(s) : "0"(r));
 }
 
 // e^w for |w| < 11000 from the rows of 2^(j/64): w = (64 k + j) ln2/64 + r, |r| <= ln2/128
 // (n ln2/64's head exact and w less it exact), e^r - 1 by its Taylor polynomial to r^7
-// (truncation below 2^-75): about an extended ulp, as expl, which takes the rest.
+// (truncation below 2^-75): about an extended ulp, as expl, which takes the rest. The
+// constants are doubles and the rows and coefficients exact pairs of doubles (ext_core.h):
+// an 80-bit load is microcoded.
 [[gnu::always_inline]] inline LD ExpX(LD w) {
     if (!(fabsl(w) < 11000)) return expl(w);
-    constexpr LD kInvLn2o64 = 0xb8aa3b295c17f0bcp-57L;
-    constexpr LD kLn2o64A = 0x58b90bfbe8ep-49L, kLn2o64B = 0xf79abc9e3b39803fp-114L;
+    constexpr double kInvLn2o64 = 0x1.71547652b82fep+6;
+    constexpr double kLn2o64A = 0x58b90bfbe8ep-49, kLn2o64B = 0x1.ef35793c7673p-51;
     const LD nf = NearestX(w * kInvLn2o64);
     const int n = int(nf), j = n & 63;
     const LD r = (w - nf * kLn2o64A) - nf * kLn2o64B;
-    const LD p =
-        r * (1 + r * (0.5L + r * (1 / 6.0L +
-                                  r * (1 / 24.0L +
-                                       r * (1 / 120.0L + r * (1 / 720.0L + r * (1 / 5040.0L)))))));
-    const LD* row = kPowExpRows[j];
-    return Scaled(row[0] + (row[0] * p + row[1]), (n - j) / 64);
+    const LD p = r + r * r * core::Poly(r, core::kExpP);
+    const core::Step& row = core::kExpSteps2.v[j];
+    const LD h = core::Join(row.hi);
+    return Scaled(h + (h * p + row.lo), (n - j) / 64);
 }
 
 // sin and cos of |r| <= 1 in double by their Taylor series to r^13 and r^14: relative
