@@ -21,7 +21,8 @@
  * so that the result overflows or underflows only when |z| does.
  *
  * Arg is the real Atan2 of (im, re), its bodies and its scalar routine at the same
- * level (invtrig/atan_body.h), with the quadrant rules of C99 Annex F. */
+ * level (invtrig/atan_body.h), with the quadrant rules of C99 Annex F; double LA and HA
+ * on the table steps of the real row's own kernel. */
 #include "vecmath/complex/cframe.h"
 #include "vecmath/complex/exact.h"
 #include "vecmath/frame/level.h"
@@ -171,22 +172,55 @@ struct ArgBody {
     static int Scalar(const In* x, const In*, Out* y) { return Atan2::Scalar(&x->im, &x->re, y); }
 };
 
-// Double: rounds of four groups, each step of the angle over all of them, so that the
-// divisions issue together and the series' chains overlap.
+// Double HA: the real Atan2's table steps (invtrig/atan_body.h: the quotient t, the row
+// of atan(c) for t cut to 4 bits and the reduced quotient u, the short series of u joined
+// to the row and the quarter turns), those of the real row's own kernel, in rounds of
+// eight groups. LA and EP: Atan2's double steps at the level (AngleOf, the quotient and
+// the series by Estrin's scheme), faster than the table in LA, in rounds of six. Each
+// step of a round goes over all its groups before the next, so that the divisions issue
+// together and the chains overlap. The range (magnitudes in [2^-500, 2^500)) and the
+// scalar routine are Atan2's at every level.
 template <Level L>
 struct ArgZ : ArgBody<double, L> {
     using Atan2 = typename ArgBody<double, L>::Atan2;
-    static constexpr int kGroups = 4;
+    static constexpr bool kTable = L == Level::HA;
+    static constexpr int kGroups = kTable ? 8 : 6;
+    BRENN_VEC static __m128d Outside(const Cx<double>& z) {
+        constexpr Range32 w = invtrig::kRange<double>;
+        return Or(RangeTest(z.im, w), RangeTest(z.re, w));
+    }
+    BRENN_VEC static int Eval(const Cx<double>* x, const Cx<double>*, Cx<double>& y) {
+        if constexpr (kTable) {
+            __m128d special = Outside(*x);
+            y.re = invtrig::Atan2DoubleHA(x->im, x->re, special);
+            return MaskBits(special);
+        } else {
+            return ArgBody<double, L>::Eval(x, nullptr, y);
+        }
+    }
     BRENN_VEC static int EvalGroups(const Cx<double>* x, const Cx<double>*, Cx<double>* y) {
-        using S = typename Atan2::Steps;
-        return StepGroups<S, kGroups>(
-            x, y,
-            [](const Cx<double>& z, S& s) BRENN_STEP {
-                Atan2::Start(z.im, z.re, s);
-                return MaskBits(s.special);
-            },
-            [](const S& s, Cx<double>& r) BRENN_STEP { r.re = Atan2::End(s); },
-            [](S& s) BRENN_STEP { Atan2::Middle(s); });
+        if constexpr (kTable) {
+            using S = invtrig::Atan2DoubleState;
+            return StepGroups<S, kGroups>(
+                x, y,
+                [](const Cx<double>& z, S& s) BRENN_STEP {
+                    __m128d special = Outside(z);
+                    invtrig::Atan2DoubleQuotient(z.im, z.re, special, s);
+                    return MaskBits(special);
+                },
+                [](const S& s, Cx<double>& r) BRENN_STEP { r.re = invtrig::Atan2DoubleAngle(s); },
+                [](S& s) BRENN_STEP { invtrig::Atan2DoubleReduced(s); });
+        } else {
+            using S = typename Atan2::Steps;
+            return StepGroups<S, kGroups>(
+                x, y,
+                [](const Cx<double>& z, S& s) BRENN_STEP {
+                    Atan2::Start(z.im, z.re, s);
+                    return MaskBits(s.special);
+                },
+                [](const S& s, Cx<double>& r) BRENN_STEP { r.re = Atan2::End(s); },
+                [](S& s) BRENN_STEP { Atan2::Middle(s); });
+        }
     }
 };
 
