@@ -13,7 +13,11 @@
  *       Am1 = (y^2/(R + x + 1) + y^2/(S + 1 - x))/2                     (x < 1)
  *       Am1 = (y^2/(R + x + 1) + (S + x - 1))/2                          (x >= 1)
  * Double parts squared stay inside the extended range, so the scaling of the
- * algorithm's working-precision form is not needed. The signs then place the
+ * algorithm's working-precision form is not needed. Fewer divisions, same quantities:
+ * B <= 0.6417 is tested as x <= 0.6417 A, and there the angle is the arctangent of
+ * x / sqrt((A - x)(A + x)) (ext_phase.h); D for x > 1 is y (A + x) / sqrt((R + x + 1)
+ * (S + x - 1)) and Am1 for x < 1 is y^2 (A + 1) / ((R + x + 1)(S + 1 - x)), the two
+ * fractions over one denominator. The signs then place the
  * result: acos reflects its real part about pi/2 for a negative re and gives the
  * imaginary part the sign opposite to im's; asin z = -i asinh(iz) and
  * asinh(x + iy) = L + i asin-angle with the signs of re and im; acosh is
@@ -44,24 +48,30 @@ struct Hft {
 };
 
 [[gnu::always_inline]] inline Hft HftOf(LD x, LD y) {
+    // pi/2 as a double and its double rest: no 80-bit load
+    constexpr double kPio2Hi = 0x1.921fb54442d18p+0, kPio2Lo = 0x1.1a62633145c07p-54;
     const LD y2 = y * y;
     const LD R = core::SqrtX((x + 1) * (x + 1) + y2), S = core::SqrtX((x - 1) * (x - 1) + y2);
-    const LD A = (R + S) * 0.5L, B = x / A;
+    const LD A = (R + S) * 0.5L;
     Hft h;
-    if (B <= 0.6417L) {
-        const LD c = core::SqrtX((1 - B) * (1 + B)); // cos of the angle, B its sine
-        h.asinAngle = Phase(B, c);
-        h.acosAngle = Phase(c, B);
+    if (x <= 0.6417 * A) { // B <= 0.6417
+        // the angle's tangent B / sqrt(1 - B^2) = x / sqrt((A - x)(A + x)), below 0.84
+        const LD a = AtanUnit(x / core::SqrtX((A - x) * (A + x)));
+        h.asinAngle = a;
+        h.acosAngle = kPio2Hi + (kPio2Lo - a);
     } else {
-        LD D = x <= 1 ? core::SqrtX(0.5L * (A + x) * (y2 / (R + x + 1) + (S + (1 - x))))
-                      : y * core::SqrtX(0.5L * ((A + x) / (R + x + 1) + (A + x) / (S + (x - 1))));
+        // x > 1: 1/(R + x + 1) + 1/(S + x - 1) = 2 (A + x) / ((R + x + 1)(S + x - 1))
+        const LD D = x <= 1
+                         ? core::SqrtX(0.5L * (A + x) * (y2 / (R + x + 1) + (S + (1 - x))))
+                         : y * (A + x) / core::SqrtX((R + x + 1) * (S + (x - 1)));
         // D = 0 on the real axis beyond 1: the angles are exact there (no division)
-        h.asinAngle = D == 0 ? kPiOver2 : Phase(x, D);
+        h.asinAngle = D == 0 ? kPio2Hi + static_cast<LD>(kPio2Lo) : Phase(x, D);
         h.acosAngle = D == 0 ? 0 : Phase(D, x);
     }
     if (A <= 1.5L) {
-        LD am1 = x < 1 ? 0.5L * (y2 / (R + x + 1) + y2 / (S + (1 - x)))
-                       : 0.5L * (y2 / (R + x + 1) + (S + (x - 1)));
+        // x < 1: (y^2/(R + x + 1) + y^2/(S + 1 - x))/2 = y^2 (A + 1) / ((R + x + 1)(S + 1 - x))
+        const LD am1 = x < 1 ? y2 * (A + 1) / ((R + x + 1) * (S + (1 - x)))
+                             : 0.5L * (y2 / (R + x + 1) + (S + (x - 1)));
         h.L = Log1pX(am1 + core::SqrtX(am1 * (A + 1)));
     } else {
         h.L = LnX(A + core::SqrtX(A * A - 1));
@@ -86,7 +96,9 @@ struct Hft {
         im = -__builtin_copysignl(__builtin_infl(), y);
     } else {
         Hft h = HftOf(fabsl(x), fabsl(y));
-        re = __builtin_signbit(x) ? 2 * kPiOver2 - h.acosAngle : h.acosAngle;
+        // pi as a double and its double rest
+        constexpr double kPiHi = 0x1.921fb54442d18p+1, kPiLo = 0x1.1a62633145c07p-53;
+        re = __builtin_signbit(x) ? kPiHi + (kPiLo - h.acosAngle) : h.acosAngle;
         im = __builtin_copysignl(h.L, -y);
     }
     return status::kNone;
