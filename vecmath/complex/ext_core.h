@@ -78,6 +78,20 @@ struct Nearest {
     return {s - kShifter, static_cast<int32_t>(b)};
 }
 
+// e^r - 1 = r + r^2 (1/2 + u), u = r/6 + r^2/24 + ... + r^5/5040 (Taylor's, to r^7).
+// r^2 u is below 2^-17 of the sum, so u needs no more than double precision: it is taken
+// in the SSE unit from rd, r within a double rounding, by Estrin's scheme in pairs, in
+// parallel with the x87 unit's reduction, and the x87 unit's path from r to the result
+// is three steps.
+[[gnu::always_inline]] inline long double ExpMinusOne(long double r, double rd) {
+    const auto* p = &kExpP;
+    __asm__("" : "+r"(p));
+    const double* c = p->tail;
+    const double sd = rd * rd;
+    const double u = rd * ((c[1] + rd * c[2]) + sd * ((c[3] + rd * c[4]) + sd * c[5]));
+    return r + r * r * (static_cast<long double>(c[0]) + u);
+}
+
 // +-2^k as a double, -1022 <= k <= 1023, the sign bit given
 [[gnu::always_inline]] inline double ScaleOf(int k, uint64_t sign) {
     const uint64_t b = (static_cast<uint64_t>(k + 1023) << 52) | sign;
@@ -124,7 +138,11 @@ struct Nearest {
     const long double t = q.t;
     const int n = q.n;
     const long double r = (a - t * kStepHi) - t * kStepLo;
-    const long double p = r + r * r * core::Poly(r, core::kExpP);
+    // r again in double, in the SSE unit beside the x87 unit's r: ln2/64 with a head of 29
+    // bits, so that t (below 2^20) times it is exact and so is the first difference
+    constexpr double kStepHi29 = 0x1.62e42ffp-7, kStepLo29 = -0x1.718432a1b0e26p-41;
+    const double rd = (ad - q.t * kStepHi29) - q.t * kStepLo29;
+    const long double p = core::ExpMinusOne(r, rd);
     const core::Step& row = core::kExpSteps2.v[n & 63];
     const int k = n >> 6;
     const long double scale =
