@@ -92,6 +92,21 @@ struct Nearest {
     return r + r * r * (static_cast<long double>(c[0]) + u);
 }
 
+// The higher terms of SinCosCore's polynomials, c1 r^2 + c2 r^4 (sine) and
+// c1 r^2 + c2 r^4 + c3 r^6 (cosine), in double.
+struct SinCosTails {
+    double sin, cos;
+};
+[[gnu::always_inline]] inline SinCosTails SinCosTailsOf(double rd) {
+    const auto* ps = &kSinP;
+    const auto* pc = &kCosP;
+    __asm__("" : "+r"(ps), "+r"(pc));
+    const double* a = ps->tail;
+    const double* b = pc->tail;
+    const double sd = rd * rd;
+    return {sd * (a[1] + sd * a[2]), sd * (b[1] + sd * (b[2] + sd * b[3]))};
+}
+
 // +-2^k as a double, -1022 <= k <= 1023, the sign bit given
 [[gnu::always_inline]] inline double ScaleOf(int k, uint64_t sign) {
     const uint64_t b = (static_cast<uint64_t>(k + 1023) << 52) | sign;
@@ -115,9 +130,17 @@ struct Nearest {
     const long double t = q.t; // the nearest step
     const int k = q.n & 127;
     const long double r = ((y - t * kPiStepA) - t * kPiStepB) - t * core::Join(core::kPiStepC2);
+    // r again in double, in the SSE unit: the first part of pi/64 has 33 bits, so that
+    // below 2^20 steps its product and the first difference are exact; beyond, r rounded
+    const double rd = __builtin_expect(q.n < (1 << 20) && q.n > -(1 << 20), 1)
+                          ? (static_cast<double>(y) - q.t * kPiStepA) - q.t * kPiStepB
+                          : static_cast<double>(r);
+    // sin r = r + r^3 (c0 + ts) and cos r - 1 = r^2 (c0' + tc), the terms past the first
+    // coefficients (below 2^-14 of the sums) in double from rd, off the x87 unit's path
+    const core::SinCosTails tl = core::SinCosTailsOf(rd);
     const long double r2 = r * r;
-    const long double sr = r + r * r2 * core::Poly(r2, core::kSinP);
-    const long double cm = r2 * core::Poly(r2, core::kCosP); // cos r - 1
+    const long double sr = r + r * r2 * (core::Join(core::kSinP.head[0]) + tl.sin);
+    const long double cm = r2 * (core::Join(core::kCosP.head[0]) + tl.cos); // cos r - 1
     const core::Step& ps = core::kSinSteps2.v[k];
     const core::Step& pc = core::kSinSteps2.v[(k + 32) & 127];
     const long double sa = core::Join(ps.hi), ca = core::Join(pc.hi);
