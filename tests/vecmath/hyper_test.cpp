@@ -102,6 +102,8 @@ TEST(Hyper, ValuesWhereThePathsMeet) {
                           0.7,
                           1.0,
                           2.1008803436239916,
+                          2.9999999999999996,
+                          3.0,
                           10.0,
                           19.0,
                           21.99,
@@ -354,6 +356,26 @@ TEST(Hyper, RoundsMixingLargeAndSmallArguments) {
                 if (f == Fn::Sinh) EXPECT_EQ(std::signbit(y[i]), std::signbit(x[i])) << x[i];
             }
         }
+}
+
+// Double HA within 0.6 ulp where e^-a/2 comes from e^a/2 by a quotient (from 3 up) and
+// where it comes from its own table row (below 3, a register at a time), in long calls
+// whose rounds mix both bands and the one past 21.49.
+TEST(Hyper, DoubleHAAcrossTheBandsOfTheSecondHalf) {
+    std::vector<double> x;
+    for (int i = 0; i < 40000; ++i) {
+        const double t = (i * 0.6180339887498949) - int(i * 0.6180339887498949); // in [0, 1)
+        const double a = i % 5 == 0 ? 2.0 + 1.5 * t : i % 5 == 1 ? 20.0 + 3.0 * t : 3.0 + 19.0 * t;
+        x.push_back(i % 2 ? -a : a);
+    }
+    for (Fn f : {Fn::Cosh, Fn::Sinh}) {
+        std::vector<double> y(x.size());
+        K<double>(RowOf<double>(f), kSlotHA)(int(x.size()), x.data(), y.data());
+        for (size_t i = 0; i < x.size(); ++i) {
+            const long double ref = f == Fn::Cosh ? coshl(x[i]) : sinhl(x[i]);
+            ASSERT_LE(UlpError(y[i], ref), 0.6) << int(f) << " x " << x[i] << " got " << y[i];
+        }
+    }
 }
 
 // The overflow report names the element and takes the callback's result.

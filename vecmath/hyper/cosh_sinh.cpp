@@ -135,10 +135,9 @@ inline __m128 BothExps(__m128 a) {
 
 // The double path on a = |x| in [0, 710.4702]: HA exact sums, HA and LA the degree-5 tail
 // (its 2^-51.25 relative to e^r - 1 is below 2^-58 of e^r), EP the degree 4 (Sinh's EP
-// is its LA kernel). From 21.49 on, where e^-a is below the last bit of e^a (as in the
-// scalar routine), a lane takes A = e^a/2 alone: in HA, B and the sums run only in a
-// register with a lane below, which blends A in where it has one on each side (LA and EP
-// take B as 1/(4A) in every register, below).
+// is its LA kernel). Every level takes B as 1/(4A) in every register (below); HA from 3
+// up, with A in its two exact parts, and B from the table and the exact sums only in a
+// register with a lane below 3, blended in there.
 template <Level L>
 constexpr ExpDegree kHalvesDegree = L == Level::EP ? ExpDegree::Four : ExpDegree::Five;
 
@@ -170,6 +169,21 @@ BRENN_VEC __m128d FromA(__m128d A) {
     else
         return Sub(A, b);
 }
+// HA from 3 up: A's head and tail (exact products) and B as 1/(4A) in every register,
+// A + B or A - B as ah + (al +- B). There B is at most 0.0025 of the result (e^-6), and
+// its error, A's and the quotient's, about 2^-52 of B, a few thousandths of an ulp of
+// it; the quotient held at 2^-62 and up, so that it never comes out denormal (no
+// underflow flag). Below 3 the exact halves and sums take over in the
+// registers that need them, a round in fifteen on inputs across the range, where the
+// whole band below 21.49 took them in one round in three and the predictor lost that
+// branch at n = 10^6 (dSinh HA 4.41 ticks an element at n = 1000, 5.30 at 10^6).
+constexpr double kHalvesExactEnd = 3.0;
+template <Fn F>
+BRENN_VEC __m128d HalvesFromA(const HalvesState& s) {
+    __m128d ah = Mul(s.th, s.sa), al = Mul(s.u, s.sa);
+    __m128d b = Div(Set<double>(0.25), Min(Add(ah, al), Set<double>(0x1p60)));
+    return Add(ah, F == Fn::Cosh ? Add(al, b) : Sub(al, b));
+}
 BRENN_VEC __m128d SeriesBelowHalf(__m128d a, __m128d y) {
     __m128d small = Lt(a, Set<double>(kSinhSeriesEnd));
     if (!MaskBits(small)) return y;
@@ -185,23 +199,23 @@ BRENN_VEC __m128d HalvesPath(__m128d a) {
         if constexpr (F == Fn::Sinh) y = SeriesBelowHalf(a, y);
         return y;
     } else {
-        const __m128d both = Lt(a, Set<double>(kOneExpEnough));
+        const __m128d both = Lt(a, Set<double>(kHalvesExactEnd));
         const int bits = MaskBits(both);
-        if (!bits) return HalfExpFrom(s);
+        const __m128d y = HalvesFromA<F>(s);
+        if (!bits) return y;
         HalfBStep(s);
-        __m128d y = SumOfHalves<F, L>(a, s.h);
-        if (bits != 3) y = IfThenElse(both, y, HalfExpFrom(s));
-        return y;
+        __m128d v = SumOfHalves<F, L>(a, s.h);
+        return bits == 3 ? v : IfThenElse(both, v, y);
     }
 }
 
-// The registers of a round with a lane below 21.49: B and the sums, with A again,
+// The registers of a round with a lane below 3: B and the sums, with A again,
 // blended into y. Out of line: on ordinary inputs a few registers take it, and the
 // round's main steps keep the registers to themselves.
 template <Fn F, Level L>
 __attribute__((noinline)) void HalvesBoth(const __m128d* a, __m128d* y) {
     for (int k = 0; k < 8; ++k) {
-        const __m128d lt = Lt(a[k], Set<double>(kOneExpEnough));
+        const __m128d lt = Lt(a[k], Set<double>(kHalvesExactEnd));
         const int b = MaskBits(lt);
         if (!b) continue;
         __m128d v = SumOfHalves<F, L>(a[k], HalvesOf<kHalvesDegree<L>>(a[k]));
@@ -230,7 +244,7 @@ BRENN_VEC int HalvesRound(const __m128d* x, __m128d* y) {
     const __m128d least = Min(Min(Min(a[0], a[1]), Min(a[2], a[3])),
                               Min(Min(a[4], a[5]), Min(a[6], a[7])));
     int both = 0;
-    if constexpr (!kFromA<F, L>) both = MaskBits(Lt(least, Set<double>(kOneExpEnough)));
+    if constexpr (!kFromA<F, L>) both = MaskBits(Lt(least, Set<double>(kHalvesExactEnd)));
     if constexpr (F == Fn::Sinh && kFromA<F, L>) {
         if (__builtin_expect(MaskBits(Lt(least, Set<double>(kSinhSeriesEnd))), 0)) {
             for (int k = 0; k < 8; ++k)
@@ -252,7 +266,7 @@ BRENN_VEC int HalvesRound(const __m128d* x, __m128d* y) {
     } else {
 #pragma GCC unroll 8
         for (int k = 0; k < 8; ++k)
-            y[k] = HalfExpFrom(s[k]);
+            y[k] = HalvesFromA<F>(s[k]);
         if (both) HalvesBoth<F, L>(a, y);
     }
     if constexpr (F == Fn::Sinh) {
