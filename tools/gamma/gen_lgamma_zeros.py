@@ -11,9 +11,10 @@ nearest pole and d0 = x0 - p,
     ln|Gamma(x0 + t)| = t G(t) - ln(1 + t/d0),
     G(t) = sum_j a_j t^(j-1),  a_j = psi^(j-1)(x0) / j! + (-1)^(j+1) / (j d0^j),
 G being analytic near t = 0 once the pole's logarithm is taken out. These are the
-exact Taylor coefficients (no fit). Each zero gets the window |t| < 2^-5 / |psi(x0)|,
-outside which the reflection loses less than a tenth of an ulp, and the terms that
-2^-66 relative needs there."""
+exact Taylor coefficients (no fit). Each zero gets the window
+|t| < 2^-5 max(1, ln n!) / |psi(x0)|, where the function reaches about 2^-5 max(1, ln n!):
+outside it the reflection, whose terms are of the size of ln n! each and cancel, loses
+about an eighth of an ulp or less; and the terms that 2^-66 relative needs there."""
 import mpmath as mp
 
 mp.mp.dps = 200
@@ -55,7 +56,7 @@ for n in range(2, 2 + ZEROS):
         p = mp.nint(x0)
         d0 = x0 - p
         psi = mp.psi(0, x0)
-        r = mp.mpf(2) ** -5 / abs(psi)
+        r = mp.mpf(2) ** -5 * max(1, mp.log(mp.factorial(n))) / abs(psi)
         a = []
         for j in range(1, 25):
             a.append(mp.psi(j - 1, x0) / mp.factorial(j) + (-1) ** (j + 1) / (j * d0 ** j))
