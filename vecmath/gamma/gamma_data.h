@@ -129,7 +129,27 @@ struct GammaData<long double> {
         1.0 / 1188,       -691.0 / 360360,    1.0 / 156,       -3617.0 / 122400,
         43867.0 / 244188, -174611.0 / 125400, 854513.0 / 63756};
     static constexpr auto kSinPiP = SplitPoly<4>(kSinPi);
-    static constexpr auto kLnSinPiRatioP = SplitPoly<4>(kLnSinPiRatio);
+    // L split for the x87 and SSE units (gamma_core.h LnSinPiRatio): its first K
+    // coefficients as the x87 code loads them, the rest as doubles.
+    template <size_t K>
+    struct LnSinPiRatioSplit {
+        static constexpr auto kHead = [] {
+            struct {
+                long double v[K];
+            } h{};
+            for (size_t i = 0; i < K; ++i)
+                h.v[i] = kLnSinPiRatio[i];
+            return SplitPoly<4>(h.v);
+        }();
+        static constexpr auto kTail = [] {
+            struct {
+                double v[16 - K];
+            } t{};
+            for (size_t i = 0; i < 16 - K; ++i)
+                t.v[i] = static_cast<double>(kLnSinPiRatio[K + i]);
+            return t;
+        }();
+    };
     static constexpr auto kLnNear1P = SplitPoly<4>(kLnNear1);
     static constexpr auto kLnMinP = SplitPoly<4>(kLnMin);
     static constexpr auto kLnNear2P = SplitPoly<4>(kLnNear2);

@@ -100,7 +100,7 @@ template <class T>
 }
 [[gnu::noinline]] double LnGammaReflectNearD(double x) {
     double ax = -x, ar;
-    long double l = gamma::LnSinPiRatio(x, ar);
+    long double l = gamma::LnSinPiRatio<8>(x, ar);
     if (ax < 0.75)
         return static_cast<double>(-gamma::ext::LogOfDouble(ar) - (l + gamma::LnGammaInterval(ax + 1.0L)));
     if (ax <= 2.25)
@@ -115,7 +115,7 @@ template <class T>
 // (|x| + 1/2) ln |x|, and the reflection's logarithm is of |r|, a double.
 [[gnu::noinline]] double LnGammaReflectFarD(double x) {
     double ax = -x, ar;
-    long double l = gamma::LnSinPiRatio(x, ar);
+    long double l = gamma::LnSinPiRatio<4>(x, ar);
     double r = 1 / ax;
     double s = r * gamma::Poly(r * r, gamma::GammaData<long double>::kStirlingD);
     long double w = ax;
