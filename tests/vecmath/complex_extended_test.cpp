@@ -4,6 +4,7 @@
 // it was, overflow and pole reports with the row's name at their index, and the
 // tangents near their poles.
 #include <gtest/gtest.h>
+#include <cmath>
 #include <limits>
 #include <vector>
 
@@ -138,6 +139,51 @@ TEST(ComplexExtended, SinhAndSinAtTheEdgesOfTheirCores) {
         EXPECT_TRUE(near(s.re, c.want.im) && near(s.im, -c.want.re))
             << "sin(" << c.a.im << ", " << -c.a.re << ") = (" << s.re << ", " << s.im << ")";
     }
+}
+
+// Parts on and beside the half-steps of the cores' reductions, where the step taken from
+// the part rounded to double may be either neighbour: y = (k + 1/2) pi/64 (below and
+// above 2^20 steps, where the sine's second reduction in double gives way to r rounded)
+// and |x| = (n + 1/2) ln2/64 from the series' edge to the extended scale past 709; every
+// part within an ulp of the C library's long double formulas rounded, and sinh(-x + iy)
+// the mirror of sinh(x + iy) to the bit, cosh(-x + iy) = conj of cosh(x - iy) likewise.
+TEST(ComplexExtended, CoresOnTheHalfStepsOfTheirReductions) {
+    auto within = [](double got, long double want) {
+        const double w = static_cast<double>(want);
+        if (!std::isfinite(w)) return got == w;
+        const double ulp = std::nextafter(std::fabs(w), INFINITY) - std::fabs(w);
+        return std::fabs(got - w) <= ulp;
+    };
+    const long double pi64 = 3.14159265358979323846264338327950288L / 64;
+    const long double ln2o64 = 0.693147180559945309417232121458176568L / 64;
+    std::vector<double> ys, xs;
+    for (long long k : {0LL, 1LL, 2LL, 31LL, 32LL, 63LL, 64LL, 100LL, 127LL, 128LL, 1000LL, 65535LL,
+                        (1LL << 20) - 2, (1LL << 20) + 1, 3LL << 21})
+        for (int sign : {1, -1}) {
+            const double y = static_cast<double>(sign * (k + 0.5L) * pi64);
+            ys.insert(ys.end(), {std::nextafter(y, -INFINITY), y, std::nextafter(y, INFINITY)});
+        }
+    for (long long n : {23LL, 24LL, 63LL, 64LL, 200LL, 1000LL, 65471LL, 65472LL, 65535LL, 65600LL,
+                        800000LL, 1015000LL}) {
+        const double x = static_cast<double>((n + 0.5L) * ln2o64);
+        xs.insert(xs.end(), {std::nextafter(x, 0.0), x, std::nextafter(x, INFINITY)});
+    }
+    for (double x : xs)
+        for (double y : ys) {
+            const long double sx = sinhl(x), cx = coshl(x), sy = sinl(y), cy = cosl(y);
+            const Z h = CxCall(frame::Row_zSinh, frame::SlotHA, Z{x, y});
+            EXPECT_TRUE(within(h.re, sx * cy) && within(h.im, cx * sy))
+                << "sinh(" << x << ", " << y << ") = (" << h.re << ", " << h.im << ")";
+            const Z m = CxCall(frame::Row_zSinh, frame::SlotHA, Z{-x, y});
+            EXPECT_EQ(Bits(m.re), Bits(-h.re)) << "sinh(" << -x << ", " << y << ")";
+            EXPECT_EQ(Bits(m.im), Bits(h.im)) << "sinh(" << -x << ", " << y << ")";
+            const Z c = CxCall(frame::Row_zCosh, frame::SlotHA, Z{x, y});
+            EXPECT_TRUE(within(c.re, cx * cy) && within(c.im, sx * sy))
+                << "cosh(" << x << ", " << y << ") = (" << c.re << ", " << c.im << ")";
+            const Z d = CxCall(frame::Row_zCosh, frame::SlotHA, Z{-x, -y});
+            EXPECT_EQ(Bits(d.re), Bits(c.re)) << "cosh(" << -x << ", " << -y << ")";
+            EXPECT_EQ(Bits(d.im), Bits(c.im)) << "cosh(" << -x << ", " << -y << ")";
+        }
 }
 
 } // namespace
