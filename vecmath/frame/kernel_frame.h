@@ -27,11 +27,7 @@
  *               int EvalWide(const V* x, V* y) (unary), (const V* a, const V* b, V* y)
  *               (binary), (const V* x, V* y, V* z) (two result), sixteen elements'
  *               registers each; returns the special-lane bits (bit j for element j of
- *               the round). Unary bodies may take a third argument instead, int& under:
- *               those of the special lanes that have status 4 (underflow) by the body's
- *               own rule, their results given, which the frame reports as
- *               kUnderflowLanes' below (the same conditions), where "result below the
- *               least normal" is not the body's rule
+ *               the round)
  *   kUnderflowLanes (optional, true) Eval gives every lane that is not special its
  *               result, zeros and denormals included, and a result below the least
  *               normal in magnitude has status 4 (underflow), reported by the frame
@@ -135,15 +131,7 @@ constexpr bool kHasScalar = requires {
 template <class B>
 constexpr bool kHasWide = requires {
     &B::EvalWide;
-} || requires(const Vec<typename B::T>* x, Vec<typename B::T>* y) {
-    B::EvalWide(x, y); // overloads by precision
-} || requires(const Vec<typename B::T>* x, Vec<typename B::T>* y, int& under) {
-    B::EvalWide(x, y, under);
 };
-// The whole-round form that names its underflow lanes (EvalWide's under form).
-template <class B>
-constexpr bool kNamesUnder = requires(const Vec<typename B::T>* x, Vec<typename B::T>* y,
-                                      int& under) { B::EvalWide(x, y, under); };
 template <class B>
 constexpr bool kHasFix = requires {
     &B::FixNoError;
@@ -184,7 +172,7 @@ inline Env<B> Enter() {
     Env<B> e;
     e.fp = frame::FpEnter<X87Of<B>(), c>(mode);
     e.errorByte = mode & frame::kModeErrorMask;
-    if constexpr (kUnderflowLanes<B> || kNamesUnder<B>) e.held.Wait();
+    if constexpr (kUnderflowLanes<B>) e.held.Wait();
     return e;
 }
 
@@ -263,9 +251,7 @@ struct Quads {
         v.y[i] = *ry;
         if constexpr (S == Shape::TwoRes) v.z[i] = *rz;
         if (st >= status::kDomain && st <= status::kUnderflow && held.Wait()) {
-            // The last element of the status: a round's underflow lanes may have been
-            // marked before its special lanes run.
-            if (i > held.at[st]) held.at[st] = i;
+            held.at[st] = i;
             if constexpr (std::is_same_v<T, float>) {
                 double a1 = v.a[i], a2 = S == Shape::Binary ? v.b[i] : a1, r1 = *ry;
                 double r2 = S == Shape::TwoRes ? *rz : r1;
@@ -419,10 +405,8 @@ struct Quads {
             x[k] = Load(v.a + i + k * L);
             if constexpr (S == Shape::Binary) w[k] = Load(v.b + i + k * L);
         }
-        int bits, under = 0;
-        if constexpr (kNamesUnder<B>)
-            bits = body.EvalWide(x, y, under);
-        else if constexpr (S == Shape::Unary)
+        int bits;
+        if constexpr (S == Shape::Unary)
             bits = body.EvalWide(x, y);
         else if constexpr (S == Shape::Binary)
             bits = body.EvalWide(x, w, y);
@@ -435,6 +419,7 @@ struct Quads {
             q[k / R].y[k % R] = y[k];
             if constexpr (S == Shape::TwoRes) q[k / R].z[k % R] = z[k];
         }
+        int under = 0;
         if constexpr (kUnderflowLanes<B>) {
 #pragma GCC unroll 4
             for (int k = 0; k < 4; ++k)
@@ -447,18 +432,7 @@ struct Quads {
                 Store(q[k], v.y + i + 4 * k, At(v.z, i + 4 * k));
             return;
         }
-        if constexpr (kNamesUnder<B>) {
-            // Named underflow lanes come among the special bits, so that the common round
-            // tests one word (the mark a round, a read and write of the held index, cost
-            // 10 to 20 % of single Exp's time).
-            bits = Under(env, i, bits & ~under, under);
-            if (bits == 0) {
-                for (int k = 0; k < 4; ++k)
-                    Store(q[k], v.y + i + 4 * k, At(v.z, i + 4 * k));
-                return;
-            }
-        }
-        if constexpr (kHasScalar<B> || kUnderflowLanes<B> || kNamesUnder<B>) {
+        if constexpr (kHasScalar<B> || kUnderflowLanes<B>) {
             alignas(16) T ry[16], rz[16];
             for (int k = 0; k < 4; ++k)
                 Store(q[k], ry + 4 * k, rz + 4 * k);
@@ -496,9 +470,6 @@ struct Quads {
                                               LayoutOf<B>() != Layout::HandTuned &&
                                               CsrOf<B>() == CsrRule::Common),
                       "underflow lanes: one result, the scalar split, the common MXCSR rule");
-        static_assert(!kNamesUnder<B> || (S == Shape::Unary && !kUnderflowLanes<B> &&
-                                          CsrOf<B>() == CsrRule::Common),
-                      "named underflow lanes: unary, the common MXCSR rule");
         Env<B> env = Enter<B>();
         if (n > 0) {
             constexpr Layout layout = LayoutOf<B>();
