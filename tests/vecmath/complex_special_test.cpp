@@ -5,6 +5,7 @@
 // names; the statuses of those cells; and the branch cuts, whose sides the sign
 // of a zero part picks.
 #include <gtest/gtest.h>
+#include <cmath>
 #include <cstdint>
 #include <limits>
 #include <string>
@@ -338,6 +339,40 @@ TEST(ComplexSpecialValues, AbsOfHugeAndTinyParts) {
             else
                 EXPECT_NEAR(y[2], c.want, 2.3e-16 * c.want) << c.a.re << " slot " << slot;
         }
+}
+
+// Double Abs HA about the ends of its vector window (the larger part from 2^-450 to
+// 2^500, judged by its high word): the larger part in either place, just inside and just
+// outside each end, beside smaller parts from zero and denormals up to an equal one, at
+// every position of a long call: each result within half an ulp and a little of |z| in
+// extended precision, whichever path took it.
+TEST(ComplexSpecialValues, AbsHAAboutItsWindow) {
+    const double large[] = {0x1p-450, std::nextafter(0x1p-450, 0.0), 0x1.fffffffffffffp-451,
+                            0x1.0000000000001p-450, 0x1.fffffffffffffp500, 0x1p501,
+                            0x1.fffff00000000p500,  0x1.8p499, 1.0, 0x1p-600, 0x1p-1074,
+                            0x1p700};
+    const double small[] = {0.0, -0.0, 0x1p-1074, 0x1p-600, 0x1p-452, 0.75, 1.0};
+    std::vector<Z> z;
+    for (double l : large)
+        for (double f : small)
+            for (int swap = 0; swap < 2; ++swap) {
+                double a = -l, b = f * l;
+                z.push_back(swap ? Z{b, a} : Z{a, b});
+            }
+    const int n = int(z.size());
+    for (int shift = 0; shift < 3; ++shift) {
+        std::vector<Z> a(z.begin() + shift, z.end());
+        a.insert(a.end(), z.begin(), z.begin() + shift);
+        std::vector<double> y(n);
+        As<void (*)(int, const Z*, double*)>(CxRaw(frame::Row_zAbs, frame::SlotHA))(n, a.data(),
+                                                                                  y.data());
+        for (int i = 0; i < n; ++i) {
+            long double want = std::hypot((long double)a[i].re, (long double)a[i].im);
+            double ulp = std::nextafter(double(want), INFINITY) - double(want);
+            EXPECT_LE(std::fabs((long double)y[i] - want), 0.501L * ulp)
+                << a[i].re << " " << a[i].im << " at " << i;
+        }
+    }
 }
 
 // Double Arg HA and Ln HA's phase run the real Atan2 HA's steps in their own rounds: the
