@@ -18,7 +18,11 @@
  *   CoshSinhCore(x), |x| <= 11000: near zero (|x| < 1/4) sinh x by its polynomial and
  *     cosh x = sqrt(1 + sinh^2 x); above, from E = e^|x| by the table of 2^(j/64) in
  *     two parts and Taylor's polynomial (HalfExpCore), and 1/E.
- *   PhaseX(y, x): atan2 by the unit's own instruction. */
+ *   PhaseX(y, x): atan2 by the unit's own instruction.
+ * The x87 unit's latencies (about six cycles a step) bound these routines, so what
+ * needs no more than double precision runs beside it in the SSE unit, from the part
+ * as a double: the reductions' steps, and the polynomials' terms past their first
+ * (below 2^-14 of their sums) from r reduced there too. */
 #ifndef BRENN_VECMATH_COMPLEX_EXT_CORE_H
 #define BRENN_VECMATH_COMPLEX_EXT_CORE_H
 
