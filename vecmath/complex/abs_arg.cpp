@@ -77,20 +77,6 @@ int AbsScalar(const E* x, const E*, R* y) {
     return status::kNone;
 }
 
-// Bit k set where the larger magnitude of element k's parts lies outside [Lo, Hi] by its
-// high word, as HighWordOutside judges it: the high words' signed maximum, signs cleared
-// (the larger part's high word, without choosing the part), moved and compared once, the
-// verdicts read off the odd lanes of the mask. A NaN lies above every window.
-template <int32_t Lo, int32_t Hi>
-BRENN_VEC int LargerOutsideBits(__m128d re, __m128d im) {
-    constexpr uint32_t kBase = uint32_t(Lo) + 0x80000000u;
-    const I32x4 mag = Set<int32_t>(0x7FFFFFFF);
-    I32x4 m = Max(And(BitCast<I32x4>(re), mag), And(BitCast<I32x4>(im), mag));
-    int b = MaskBits(Gt(Sub(m, Set<int32_t>(int32_t(kBase))),
-                        Set<int32_t>(int32_t(uint32_t(Hi) - kBase))));
-    return ((b >> 1) & 1) | ((b >> 2) & 2);
-}
-
 // Coefficients of (1 + e)^(-1/2) after the constant term: degree 2 (EP) and 4 (LA).
 constexpr double kRootSeries2[] = {-0.5, 0.375};
 constexpr double kRootSeries4[] = {-0.5, 0.375, -0.3125, 0.2734375};
@@ -112,7 +98,7 @@ struct AbsZ {
             sl = Add(e, Add(pl, ql));
             y.re = CorrectedRoot(sh, sl);
             constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
-            return LargerOutsideBits<kLo, kHi>(x->re, x->im);
+            return HighWordBits(LargerHighWordOutside<kLo, kHi>(x->re, x->im));
         } else {
             sh = Add(Mul(x->re, x->re), Mul(x->im, x->im));
             constexpr int32_t kLo = 0x3BC00000, kHi = 0x440FFFFF; // 2^-67, 2^66

@@ -195,11 +195,20 @@ BRENN_VEC int OutsideWindowBits(__m128d a, __m128d b, __m128d c, __m128d d) {
     return (m | (m >> 2)) & 3;
 }
 
-// The larger magnitude of two parts, chosen by the bits (maxpd would raise invalid for
-// a quiet NaN).
-BRENN_VEC __m128d LargerMagnitude(__m128d x, __m128d y) {
-    __m128d ax = Abs(x), ay = Abs(y);
-    return IfThenElse(AsFloat(Gt(AsInt(ay), AsInt(ax))), ay, ax);
+// HighWordOutside of the larger magnitude of x and y without choosing it: the high
+// words' signed maximum, signs cleared, is the larger part's high word; the verdicts in
+// the odd 32-bit lanes, as HighWordOutside leaves them. A NaN lies above every window.
+template <int32_t Bottom, int32_t Top>
+BRENN_VEC I32x4 LargerHighWordOutside(__m128d x, __m128d y) {
+    constexpr uint32_t kBase = uint32_t(Bottom) + 0x80000000u;
+    const I32x4 mag = Set<int32_t>(0x7FFFFFFF);
+    I32x4 m = Max(And(BitCast<I32x4>(x), mag), And(BitCast<I32x4>(y), mag));
+    return Gt(Sub(m, Set<int32_t>(int32_t(kBase))), Set<int32_t>(int32_t(uint32_t(Top) - kBase)));
+}
+// Its verdicts as the special-lane bits of a group (bit k for element k).
+BRENN_VEC int HighWordBits(I32x4 o) {
+    int b = MaskBits(o);
+    return ((b >> 1) & 1) | ((b >> 2) & 2);
 }
 
 // x = m * 2^e with 1 <= |m| < 2 for a finite non-zero x (denormals renormalised);

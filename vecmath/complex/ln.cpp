@@ -91,7 +91,7 @@ struct LnZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, LnScalar
     };
     BRENN_VEC static int Start(const Cx<double>& x, State& s) {
         constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
-        s.special = HighWordsToLanes(HighWordOutside<kLo, kHi>(LargerMagnitude(x.re, x.im)));
+        s.special = HighWordsToLanes(LargerHighWordOutside<kLo, kHi>(x.re, x.im));
         __m128d re = IfThenElse(s.special, Set<double>(1), x.re);
         __m128d im = IfThenZeroElse(s.special, x.im);
         __m128d sh, sl;

@@ -74,7 +74,7 @@ struct SqrtState {
 
 BRENN_VEC void SqrtSquares(const Cx<double>& z, SqrtState& s) {
     constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
-    s.special = HighWordsToLanes(HighWordOutside<kLo, kHi>(LargerMagnitude(z.re, z.im)));
+    s.special = HighWordsToLanes(LargerHighWordOutside<kLo, kHi>(z.re, z.im));
     s.x = IfThenElse(s.special, Set<double>(1), z.re);
     s.w = IfThenZeroElse(s.special, z.im);
     SumOfSquares(SplitRounded(s.x), SplitRounded(s.w), s.sh, s.sl);
