@@ -13,7 +13,7 @@
  * single LA and HA run the double steps on the widened lanes with a six-term series and
  * narrow once. Double
  * EP, LA and HA use 5 (by Horner's rule; 6 in half-turns), 12 and 13 terms; HA also corrects the square root by its exact
- * residual (over the root's reciprocal estimate) and joins base and main term by an exact
+ * residual (over the root, by one division) and joins base and main term by an exact
  * sum, EP takes the base without the tail of pi/4. The pi-scaled rows take the
  * compensated double steps at every double level. Double rounds of sixteen take each
  * step over the round's eight registers before the next.
@@ -42,14 +42,14 @@ enum class Fn { Asin, Acos };
 // 2 sqrt(h) is 2s + (h - s^2)/s, s the rounded root (double steps, compensated). With s
 // cut at 26 bits, s = sh + sl: sh^2 is exact, h - sh^2 exact (Sterbenz), sl*(sh + s) is
 // 2 sh*sl + sl^2 within 2^-52 of itself, about 2^-77 h, and the difference of the two,
-// far below either, is exact. The quotient by the reciprocal estimate, good to 2^-12 of
-// a term below an ulp of 2s; s is held at 2^-60 or more (h = 0 at |x| = 1).
+// far below either, is exact. The quotient rounded once (one division: measured 1 to 2 %
+// faster than the single reciprocal estimate, widened, and a product, whose chain after
+// the root was the longer); s is held at 2^-60 or more (h = 0 at |x| = 1).
 BRENN_VEC __m128d RootCorrection(__m128d h, __m128d s) {
     __m128d sh = And(s, AsFloat(Set<uint64_t>(0xFFFFFFFFF8000000ull)));
     __m128d sl = Sub(s, sh);
     __m128d r = Sub(Sub(h, Mul(sh, sh)), Mul(sl, Add(sh, s)));
-    __m128d sm = Max(s, Set<double>(0x1p-60));
-    return Mul(r, WidenLower(ApproxRecip(Narrow(sm, sm))));
+    return Div(r, Max(s, Set<double>(0x1p-60)));
 }
 
 // The angle of x (lanes with |x| <= 1 or a safe value) with the series S; Comp: the
