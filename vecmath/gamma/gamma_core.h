@@ -269,6 +269,43 @@ template <class W>
     return (p01 * p23) * p45;
 }
 
+// x^K for a double x by squarings.
+template <size_t K>
+[[gnu::always_inline]] inline double PowerOf(double x) {
+    if constexpr (K == 1)
+        return x;
+    else if constexpr (K % 2 == 0) {
+        double h = PowerOf<K / 2>(x);
+        return h * h;
+    } else
+        return PowerOf<K - 1>(x) * x;
+}
+
+// c(t) with its terms from t^K on summed in double from td, t rounded to double, in the
+// SSE unit beside the x87 head: for sets whose terms from t^K on are below 2^-19 of the
+// result, whose error they then leave below 2^-71.
+template <size_t K, size_t N>
+[[gnu::always_inline]] inline long double PolyHeadTail(long double t, double td,
+                                                       const HeadTail<K, N>& c) {
+    double tail = PowerOf<K>(td) * Poly(td, c.tail);
+    return Poly(t, c.head) + tail;
+}
+
+// LnGammaInterval of the double row, x given also as xd, x rounded to double: each
+// expansion's terms from the ninth on in double (below 2^-19 of the result on its piece).
+[[gnu::always_inline]] inline long double LnGammaInterval(long double x, double xd) {
+    using D = GammaData<long double>;
+    if (x <= 1.25L) {
+        long double z = x - 1;
+        return z * PolyHeadTail(z, xd - 1, D::kLnNear1S);
+    }
+    if (x < 1.75L)
+        return PolyHeadTail(x - Join(D::kLnMinAt2), xd - static_cast<double>(D::kLnMinAt),
+                            D::kLnMinS);
+    long double z = x - 2;
+    return z * PolyHeadTail(z, xd - 2, D::kLnNear2S);
+}
+
 // ln(sin(pi r) / (pi r)) for r = x - rint(x) of a double x (exact), and |r|: the
 // reflection's logarithm as ln(pi |r|) plus this, which needs no logarithm after the sine.
 // The terms from r^(2K + 2) on are summed in double in the SSE unit beside the x87 work:

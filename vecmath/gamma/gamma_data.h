@@ -24,6 +24,25 @@ using Wide = typename WideOf<T>::W;
 template <class W>
 struct GammaData;
 
+// A polynomial's first K coefficients as the x87 code loads them, the rest as doubles
+// for a part summed in the SSE unit beside it (gamma_core.h PolyHeadTail).
+template <size_t K, size_t N>
+struct HeadTail {
+    ExtPoly<4, K> head;
+    double tail[N - K];
+};
+template <size_t K, size_t N>
+constexpr HeadTail<K, N> SplitHeadTail(const long double (&c)[N]) {
+    long double h[K] = {};
+    for (size_t i = 0; i < K; ++i)
+        h[i] = c[i];
+    HeadTail<K, N> r{};
+    r.head = SplitPoly<4>(h);
+    for (size_t i = 0; i < N - K; ++i)
+        r.tail[i] = static_cast<double>(c[K + i]);
+    return r;
+}
+
 template <>
 struct GammaData<long double> {
     // H(z) = (Gamma(1 + z) - 1) / (z (z - 1)) in four pieces, split where x = 1 + z is
@@ -153,6 +172,9 @@ struct GammaData<long double> {
     static constexpr auto kLnNear1P = SplitPoly<4>(kLnNear1);
     static constexpr auto kLnMinP = SplitPoly<4>(kLnMin);
     static constexpr auto kLnNear2P = SplitPoly<4>(kLnNear2);
+    static constexpr auto kLnNear1S = SplitHeadTail<8>(kLnNear1);
+    static constexpr auto kLnMinS = SplitHeadTail<8>(kLnMin);
+    static constexpr auto kLnNear2S = SplitHeadTail<8>(kLnNear2);
     static constexpr Ext2 kLnMinAt2 = Split2(kLnMinAt);
     static constexpr Ext2 kHalfLn2Pi2 = Split2(kHalfLn2Pi);
     static constexpr Ext2 kHalfLn2PiLessHalf2 = Split2(kHalfLn2PiLessHalf);

@@ -88,11 +88,12 @@ template <class T>
 // own logarithm (of |x| below 0.75, of the recurrence's product above 2.25) under the
 // first.
 [[gnu::noinline]] double LnGammaSmallD(double x) {
-    if (x < 0.75) return static_cast<double>(gamma::LnGammaInterval(x + 1.0L) - gamma::ext::LogOfDouble(x));
-    if (x <= 2.25) return static_cast<double>(gamma::LnGammaInterval(static_cast<long double>(x)));
+    if (x < 0.75)
+        return static_cast<double>(gamma::LnGammaInterval(x + 1.0L, x + 1.0) - gamma::ext::LogOfDouble(x));
+    if (x <= 2.25) return static_cast<double>(gamma::LnGammaInterval(static_cast<long double>(x), x));
     double z, pd;
     long double p = gamma::RecurrenceDown(x, z, pd);
-    return static_cast<double>(gamma::LnGammaInterval(static_cast<long double>(z)) +
+    return static_cast<double>(gamma::LnGammaInterval(static_cast<long double>(z), z) +
                                gamma::ext::LogBeside(p, pd));
 }
 [[gnu::noinline]] double LnGammaLargeD(double x) {
@@ -102,14 +103,15 @@ template <class T>
     double ax = -x, ar;
     long double l = gamma::LnSinPiRatio<8>(x, ar);
     if (ax < 0.75)
-        return static_cast<double>(-gamma::ext::LogOfDouble(ar) - (l + gamma::LnGammaInterval(ax + 1.0L)));
+        return static_cast<double>(-gamma::ext::LogOfDouble(ar) -
+                                   (l + gamma::LnGammaInterval(ax + 1.0L, ax + 1.0)));
     if (ax <= 2.25)
         return static_cast<double>(-gamma::ext::LogBeside(static_cast<long double>(ax) * ar, ax * ar) -
-                                   (l + gamma::LnGammaInterval(static_cast<long double>(ax))));
+                                   (l + gamma::LnGammaInterval(static_cast<long double>(ax), ax)));
     double z, pd;
     long double p = gamma::RecurrenceDown(ax, z, pd);
     return static_cast<double>(-gamma::ext::LogBeside(p * ax * ar, pd * ax * ar) -
-                               (l + gamma::LnGammaInterval(static_cast<long double>(z))));
+                               (l + gamma::LnGammaInterval(static_cast<long double>(z), z)));
 }
 // From the Stirling point: ln |x| of the reflection joins Stirling's (x - 1/2) ln x as
 // (|x| + 1/2) ln |x|, and the reflection's logarithm is of |r|, a double.
