@@ -18,7 +18,6 @@
  *   CoshSinhCore(x), |x| <= 11000: near zero (|x| < 1/4) sinh x by its polynomial and
  *     cosh x = sqrt(1 + sinh^2 x); above, from E = e^|x| by the table of 2^(j/64) in
  *     two parts and Taylor's polynomial (HalfExpCore), and 1/E.
- *   PhaseX(y, x): atan2 by the unit's own instruction.
  * The x87 unit's latencies (about six cycles a step) bound these routines, so what
  * needs no more than double precision runs beside it in the SSE unit, from the part
  * as a double: the reductions' steps, and the polynomials' terms past their first
@@ -203,15 +202,6 @@ struct SinCosTails {
 [[gnu::always_inline]] inline bool InCores(long double x, long double y, long double xLimit) {
     const long double ay = __builtin_fabsl(y);
     return __builtin_fabsl(x) < xLimit && ay < 0x1p26L && ay > 0;
-}
-
-// atan2(y, x) of finite parts by the unit's own instruction, within about an extended
-// ulp, signed zeros by the quadrant rules: the C library's atan2l, atanl, asinl and
-// acosl wrap the same instruction in calls and checks that cost as much again.
-[[gnu::always_inline]] inline long double PhaseX(long double y, long double x) {
-    long double r;
-    __asm__("fpatan" : "=t"(r) : "0"(x), "u"(y) : "st(1)");
-    return r;
 }
 
 } // namespace brenn::vm::cx

@@ -147,7 +147,10 @@ BRENN_VEC __m128 LogByRecip(__m128 m, __m128 k, __m128 extra = _mm_setzero_ps())
     const I32x4 off = ShiftLeft<3>(TruncToInt(t));
     const uint64_t o01 = uint64_t(_mm_cvtsi128_si64(off.v));
     const uint64_t o23 = uint64_t(_mm_extract_epi64(off.v, 1));
-    const char* base = reinterpret_cast<const char*>(B::kRows) - 48 * sizeof(B::kRows[0]);
+    // Row 48 is the table's first: the offsets are taken from an address 48 rows before
+    // it, formed as an integer (no pointer leaves the table).
+    const uintptr_t base =
+        reinterpret_cast<uintptr_t>(B::kRows) - 48 * sizeof(B::kRows[0]);
     __m128 thi, tlo;
     LoadTransposed(reinterpret_cast<const float*>(base + uint32_t(o01)),
                    reinterpret_cast<const float*>(base + (o01 >> 32)),
