@@ -32,54 +32,54 @@ namespace {
 }
 
 [[gnu::always_inline]] inline int CoshOf(LD x, LD y, LD& re, LD& im) {
+    LD ch, sh, c, sn;
     if (__builtin_expect(InCores(x, y, 11000), 1)) {
-        LD ch, sh, c, sn;
         CoshSinhCore(x, ch, sh);
         SinCosCore(y, sn, c);
-        re = ch * c;
-        im = sh * sn;
     } else if (y == 0) { // cosh x + i 0, the zero signed as sinh(x) * y
         re = coshl(x);
         im = __builtin_isnan(x) ? y : (__builtin_signbit(x) ? -y : y);
+        return status::kNone;
     } else if (x == 0 && !__builtin_isfinite(y)) { // NaN + i0
         re = y - y;
         im = 0 * x;
+        return status::kNone;
     } else if (__builtin_isinf(x) && !__builtin_isfinite(y)) { // +inf + i NaN
         re = x * x;
         im = y - y;
+        return status::kNone;
     } else {
-        LD ch, sh, c, sn;
         CoshSinh(x, ch, sh);
         SinCosX(y, sn, c);
-        re = ch * c;
-        im = sh * sn;
     }
+    re = ch * c;
+    im = sh * sn;
     return status::kNone;
 }
 
 [[gnu::always_inline]] inline int SinhOf(LD x, LD y, LD& re, LD& im) {
+    LD ch, sh, c, sn;
     if (__builtin_expect(InCores(x, y, 11000), 1)) {
-        LD ch, sh, c, sn;
         CoshSinhCore(x, ch, sh);
         SinCosCore(y, sn, c);
-        re = sh * c;
-        im = ch * sn;
     } else if (y == 0) { // sinh x + i0, y's zero (cosh x > 0)
         re = sinhl(x);
         im = y;
+        return status::kNone;
     } else if (x == 0 && !__builtin_isfinite(y)) { // +-0 + i NaN
         re = x;
         im = y - y;
+        return status::kNone;
     } else if (__builtin_isinf(x) && !__builtin_isfinite(y)) { // +-inf + i NaN
         re = x;
         im = y - y;
+        return status::kNone;
     } else {
-        LD ch, sh, c, sn;
         CoshSinh(x, ch, sh);
         SinCosX(y, sn, c);
-        re = sh * c;
-        im = ch * sn;
     }
+    re = sh * c;
+    im = ch * sn;
     return status::kNone;
 }
 

@@ -26,38 +26,37 @@ namespace brenn::vm::cx {
 namespace {
 
 [[gnu::always_inline]] inline int TanhOf(LD x, LD y, LD& re, LD& im) {
+    LD ch, sh, sn, cs;
     if (__builtin_expect(InCores(x, y, 23), 1)) {
-        LD ch, sh, sn, cs;
         CoshSinhCore(x, ch, sh);
         SinCosCore(y, sn, cs);
-        const LD q = 1 / (sh * sh + cs * cs);
-        re = sh * ch * q;
-        im = sn * cs * q;
     } else if (__builtin_isinf(x)) {
         re = __builtin_copysignl(1, x);
         LD s = __builtin_isfinite(y) && y != 0 ? sinl(y) * cosl(y) : y;
         im = __builtin_copysignl(0, s);
+        return status::kNone;
     } else if (__builtin_isnan(x)) {
         re = x + x;
         im = y == 0 ? y : x + y;
+        return status::kNone;
     } else if (!__builtin_isfinite(y)) {
         re = x == 0 ? x : y - y; // NaN, invalid for an infinity
         im = y - y;
+        return status::kNone;
     } else if (fabsl(x) >= 23) {
         re = __builtin_copysignl(1, x);
-        LD sn, cs;
         SinCosX(y, sn, cs);
         // e^(-4000) is far below the least double; the zero keeps the sign of sin 2y
         const LD a = fabsl(x);
         im = 4 * sn * cs * (a < 2000 ? gamma::ext::Exp(-2 * a) : 0.0L);
+        return status::kNone;
     } else {
-        LD ch, sh, sn, cs;
         CoshSinhCore(x, ch, sh);
         SinCosX(y, sn, cs);
-        const LD q = 1 / (sh * sh + cs * cs);
-        re = sh * ch * q;
-        im = sn * cs * q;
     }
+    const LD q = 1 / (sh * sh + cs * cs);
+    re = sh * ch * q;
+    im = sn * cs * q;
     return status::kNone;
 }
 
