@@ -42,15 +42,19 @@ struct Step {
     gamma::Ext2 hi;
     double lo;
 };
-template <size_t N>
-struct Steps {
-    Step v[N];
+constexpr Step StepOf(long double hi, long double lo) {
+    return {gamma::Split2(hi), static_cast<double>(lo)};
+}
+// A table of rows built at compile time from an extended one.
+template <class Row, size_t N>
+struct Rows {
+    Row v[N];
 };
 template <size_t N>
-constexpr Steps<N> SplitSteps(const long double (&a)[N][2]) {
-    Steps<N> t{};
+constexpr Rows<Step, N> SplitSteps(const long double (&a)[N][2]) {
+    Rows<Step, N> t{};
     for (size_t i = 0; i < N; ++i)
-        t.v[i] = {gamma::Split2(a[i][0]), static_cast<double>(a[i][1])};
+        t.v[i] = StepOf(a[i][0], a[i][1]);
     return t;
 }
 inline constexpr auto kSinSteps2 = SplitSteps(kSinSteps);

@@ -49,20 +49,15 @@ inline constexpr auto kAtanP = gamma::SplitPoly<0>(kAtanTaylor);
 // (exact: 41 bits), -ln R in an exact pair of doubles and its double rest.
 struct LnRow {
     double recip, cr1;
-    gamma::Ext2 hi;
-    double lo;
+    Step ln;
 };
 template <size_t N>
-struct LnRows {
-    LnRow v[N];
-};
-template <size_t N>
-constexpr LnRows<N> SplitLnRows(const long double (&a)[N][3]) {
-    LnRows<N> t{};
+constexpr Rows<LnRow, N> SplitLnRows(const long double (&a)[N][3]) {
+    Rows<LnRow, N> t{};
     for (size_t i = 0; i < N; ++i)
         t.v[i] = {static_cast<double>(a[i][0]),
                   static_cast<double>((1 + (long double)(int(i) + kPowLnFirst) / 256) * a[i][0] - 1),
-                  gamma::Split2(a[i][1]), static_cast<double>(a[i][2])};
+                  StepOf(a[i][1], a[i][2])};
     return t;
 }
 inline constexpr auto kLnRows2 = SplitLnRows(kPowLnRows); // c = 1 + j/256, row j - kPowLnFirst
@@ -133,7 +128,7 @@ template <bool Low>
     const long double u = r * row.recip + row.cr1;
     const long double de = static_cast<long double>(e);
     return de * kLn2Hi +
-           (Join(row.hi) + (de * kLn2Lo + (row.lo + (u + gamma::ext::Log1pTail(u)))));
+           (Join(row.ln.hi) + (de * kLn2Lo + (row.ln.lo + (u + gamma::ext::Log1pTail(u)))));
 }
 
 // The rare arguments outside that range: h = 2^e m by its bits, m in [1, 2).
