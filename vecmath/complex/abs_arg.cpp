@@ -25,6 +25,7 @@
  * on the table steps of the real row's own kernel. */
 #include "vecmath/complex/cframe.h"
 #include "vecmath/complex/exact.h"
+#include "vecmath/complex/phase_steps.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/invtrig/atan_body.h"
 
@@ -171,55 +172,35 @@ struct ArgBody {
     static int Scalar(const In* x, const In*, Out* y) { return Atan2::Scalar(&x->im, &x->re, y); }
 };
 
-// Double HA: the real Atan2's table steps (invtrig/atan_body.h: the quotient t, the row
-// of atan(c) for t cut to 4 bits and the reduced quotient u, the short series of u joined
-// to the row and the quarter turns), those of the real row's own kernel, in rounds of
-// eight groups. LA and EP: Atan2's double steps at the level (AngleOf, the quotient and
-// the series by Estrin's scheme), faster than the table in LA, in rounds of six. Each
-// step of a round goes over all its groups before the next, so that the divisions issue
-// together and the chains overlap. The range (magnitudes in [2^-500, 2^500)) and the
-// scalar routine are Atan2's at every level.
+// Double: the phase's three steps (phase_steps.h: HA on the real Atan2's table steps,
+// LA and EP on its double steps), in rounds of eight groups at HA and six at LA and EP,
+// each step over all the groups before the next, so that the divisions issue together
+// and the chains overlap. The scalar routine is Atan2's at every level.
 template <Level L>
 struct ArgZ : ArgBody<double, L> {
-    using Atan2 = typename ArgBody<double, L>::Atan2;
+    using Phase = PhaseSteps<L>;
     static constexpr bool kTable = L == Level::HA;
     static constexpr int kGroups = kTable ? 8 : 6;
-    BRENN_VEC static __m128d Outside(const Cx<double>& z) {
-        constexpr Range32 w = invtrig::kRange<double>;
-        return Or(RangeTest(z.im, w), RangeTest(z.re, w));
-    }
     BRENN_VEC static int Eval(const Cx<double>* x, const Cx<double>*, Cx<double>& y) {
         if constexpr (kTable) {
-            __m128d special = Outside(*x);
-            y.re = invtrig::Atan2DoubleHA(x->im, x->re, special);
+            typename Phase::State s;
+            __m128d special = Phase::Start(x->im, x->re, s);
+            Phase::Middle(s);
+            y.re = Phase::End(s);
             return MaskBits(special);
         } else {
             return ArgBody<double, L>::Eval(x, nullptr, y);
         }
     }
     BRENN_VEC static int EvalGroups(const Cx<double>* x, const Cx<double>*, Cx<double>* y) {
-        if constexpr (kTable) {
-            using S = invtrig::Atan2DoubleState;
-            return StepGroups<S, kGroups>(
-                x, y,
-                [](const Cx<double>& z, S& s) BRENN_STEP {
-                    __m128d special = Outside(z);
-                    invtrig::Atan2DoubleQuotient(z.im, z.re, special, s);
-                    return MaskBits(special);
-                },
-                [](const S& s, Cx<double>& r) BRENN_STEP { r.re = invtrig::Atan2DoubleAngle(s); },
-                [](S& s) BRENN_STEP { invtrig::Atan2DoubleReduced(s); });
-        } else {
-            using S = typename Atan2::Steps;
-            return StepGroups<S, kGroups>(
-                x, y,
-                [](const Cx<double>& z, S& s) BRENN_STEP {
-                    Atan2::Start(z.im, z.re, s);
-                    return MaskBits(s.special);
-                },
-                [](const S& s, Cx<double>& r) BRENN_STEP { r.re = Atan2::End(s); },
-                [](S& s) BRENN_STEP { Atan2::Middle(s); });
-        }
+        using S = typename Phase::State;
+        return StepGroups<S, kGroups>(
+            x, y,
+            [](const Cx<double>& z, S& s) BRENN_STEP {
+                return MaskBits(Phase::Start(z.im, z.re, s));
+            },
+            [](const S& s, Cx<double>& r) BRENN_STEP { r.re = Phase::End(s); },
+            [](S& s) BRENN_STEP { Phase::Middle(s); });
     }
 };
 

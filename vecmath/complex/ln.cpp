@@ -24,6 +24,7 @@
 #include "vecmath/complex/exact.h"
 #include "vecmath/complex/ext_elem.h"
 #include "vecmath/complex/ln_body.h"
+#include "vecmath/complex/phase_steps.h"
 
 namespace brenn::vm::cx {
 namespace {
@@ -38,34 +39,6 @@ int LnScalar(const E* z, const E*, E* y) {
     y->im = R(im);
     return st;
 }
-
-// The phase in three steps (its quotient, its series, the angle) with its special
-// lanes: HA the real Atan2's table steps, those of dAtan2's own kernel (0.53 ulp against
-// the double steps' 0.64, and faster); LA and EP Atan2's double steps at the level (LA
-// measured no faster on the table).
-template <Level L>
-struct PhaseSteps {
-    using Atan2 = invtrig::Atan2Body<double, L, invtrig::Unit::Radian>;
-    using State = typename Atan2::Steps;
-    BRENN_VEC static __m128d Start(__m128d im, __m128d re, State& s) {
-        Atan2::Start(im, re, s);
-        return s.special;
-    }
-    BRENN_VEC static void Middle(State& s) { Atan2::Middle(s); }
-    BRENN_VEC static __m128d End(const State& s) { return Atan2::End(s); }
-};
-template <>
-struct PhaseSteps<Level::HA> {
-    using State = invtrig::Atan2DoubleState;
-    BRENN_VEC static __m128d Start(__m128d im, __m128d re, State& s) {
-        constexpr Range32 w = invtrig::kRange<double>;
-        __m128d special = Or(RangeTest(im, w), RangeTest(re, w));
-        invtrig::Atan2DoubleQuotient(im, re, special, s);
-        return special;
-    }
-    BRENN_VEC static void Middle(State& s) { invtrig::Atan2DoubleReduced(s); }
-    BRENN_VEC static __m128d End(const State& s) { return invtrig::Atan2DoubleAngle(s); }
-};
 
 template <Level L>
 struct LnZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, LnScalar> {
