@@ -162,15 +162,20 @@ constexpr int32_t kWindowBottom = 0x23400000;
 constexpr int32_t kMulWindowTop = 0x5FD6A09D;
 constexpr int32_t kDivWindowTop = 0x5EFFFFFF;
 
-// Each 64-bit lane all ones where the high word of v, sign cleared, lies outside
+// Each 32-bit lane all ones where mag, a high word with its sign cleared, lies outside
 // [Bottom, Top]: one subtraction and one signed compare, the window moved to the bottom
-// of the signed range. A NaN lies above every window.
+// of the signed range. A NaN lies above every window. HighWordOutside: the same for the
+// high words of v's lanes (verdicts in the odd 32-bit lanes).
 template <int32_t Bottom, int32_t Top>
-BRENN_VEC I32x4 HighWordOutside(__m128d v) {
+BRENN_VEC I32x4 MagnitudeWordOutside(I32x4 mag) {
     constexpr uint32_t kBase = uint32_t(Bottom) + 0x80000000u;
     const I32x4 base = Set<int32_t>(int32_t(kBase));
     const I32x4 top = Set<int32_t>(int32_t(uint32_t(Top) - kBase));
-    return Gt(Sub(And(BitCast<I32x4>(v), Set<int32_t>(0x7FFFFFFF)), base), top);
+    return Gt(Sub(mag, base), top);
+}
+template <int32_t Bottom, int32_t Top>
+BRENN_VEC I32x4 HighWordOutside(__m128d v) {
+    return MagnitudeWordOutside<Bottom, Top>(And(BitCast<I32x4>(v), Set<int32_t>(0x7FFFFFFF)));
 }
 // The verdicts of the high words over their whole 64-bit lanes.
 BRENN_VEC __m128d HighWordsToLanes(I32x4 o) {
@@ -200,10 +205,9 @@ BRENN_VEC int OutsideWindowBits(__m128d a, __m128d b, __m128d c, __m128d d) {
 // the odd 32-bit lanes, as HighWordOutside leaves them. A NaN lies above every window.
 template <int32_t Bottom, int32_t Top>
 BRENN_VEC I32x4 LargerHighWordOutside(__m128d x, __m128d y) {
-    constexpr uint32_t kBase = uint32_t(Bottom) + 0x80000000u;
     const I32x4 mag = Set<int32_t>(0x7FFFFFFF);
-    I32x4 m = Max(And(BitCast<I32x4>(x), mag), And(BitCast<I32x4>(y), mag));
-    return Gt(Sub(m, Set<int32_t>(int32_t(kBase))), Set<int32_t>(int32_t(uint32_t(Top) - kBase)));
+    return MagnitudeWordOutside<Bottom, Top>(
+        Max(And(BitCast<I32x4>(x), mag), And(BitCast<I32x4>(y), mag)));
 }
 // Its verdicts as the special-lane bits of a group (bit k for element k).
 BRENN_VEC int HighWordBits(I32x4 o) {
