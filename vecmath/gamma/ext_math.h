@@ -59,18 +59,27 @@ inline double Pow2(int k) {
     return u * u * Poly(u, kP);
 }
 
+// The exponent e of a double x = 2^e m, m in [1, 2) (-1023 for zeros and denormals,
+// 1024 for infinities and NaNs), and the cell j of m (its top seven fraction bits), from
+// x's bits.
+struct Cell {
+    int e, j;
+};
+[[gnu::always_inline]] inline Cell CellOf(double x) {
+    uint64_t b;
+    memcpy(&b, &x, sizeof b);
+    return {static_cast<int>(b >> 52) - 1023, static_cast<int>((b >> 45) & 127)};
+}
+
 // The exponent e and the significand m in [1, 2) of x = 2^e m, taken from x rounded to
 // double (an 80-bit store and reload costs far more) and m = x 2^-e exact; x rounded up
 // to a power of 2 leaves m just below 1, where the reduction below still holds. Outside
 // the double's normal range the bits of x itself.
 [[gnu::always_inline]] inline long double Reduce(long double x, int& e, int& j) {
-    double xd = static_cast<double>(x);
-    uint64_t b;
-    memcpy(&b, &xd, sizeof b);
-    int be = static_cast<int>(b >> 52);
-    if (be >= 1 && be < 2046) [[likely]] {
-        e = be - 1023;
-        j = static_cast<int>((b >> 45) & 127);
+    const Cell c = CellOf(static_cast<double>(x));
+    if (c.e >= -1022 && c.e < 1023) [[likely]] {
+        e = c.e;
+        j = c.j;
         return x * Pow2(-e);
     }
     Bits80 xb = BitsOf(x);
@@ -116,37 +125,34 @@ inline constexpr long double kLn2Lo = -0x8654361c4c67fc0dp-112L;
 
 // Log of a positive normal x from the reduction of xd, x rounded to double or a value
 // within a few ulps of it computed beside x: the rounding through memory that Log makes
-// for its reduction is skipped, and the series' tail is summed from xd in double. m = x 2^-e may then stand by those ulps outside [1, 2)
-// or its cell, which the series allows (as it does Log's own rounding up).
+// for its reduction is skipped, and the series' tail is summed from xd in double.
+// m = x 2^-e may then stand by those ulps outside [1, 2) or its cell, which the series
+// allows (as it does Log's own rounding up).
 [[gnu::always_inline]] inline long double LogBeside(long double x, double xd) {
-    uint64_t b;
-    memcpy(&b, &xd, sizeof b);
-    int e = static_cast<int>(b >> 52) - 1023;
-    double scale = Pow2(-e);
-    return LogOfReducedDouble(x * scale, xd * scale, e, static_cast<int>((b >> 45) & 127));
+    const Cell c = CellOf(xd);
+    const double scale = Pow2(-c.e);
+    return LogOfReducedDouble(x * scale, xd * scale, c.e, c.j);
 }
 
 // Log of a positive finite double: e, j and m from x's own bits, where Log would round
 // its 80-bit argument to double through memory for them, and the series' tail in double
 // (LogOfReducedDouble).
 [[gnu::always_inline]] inline long double LogOfDouble(double x) {
-    uint64_t b;
-    memcpy(&b, &x, sizeof b);
-    int be = static_cast<int>(b >> 52);
-    if (be == 0) [[unlikely]]
+    const Cell c = CellOf(x);
+    if (c.e == -1023) [[unlikely]]
         return Log(static_cast<long double>(x));
-    uint64_t mb = (b & 0x000FFFFFFFFFFFFFull) | 0x3FF0000000000000ull;
+    uint64_t mb;
+    memcpy(&mb, &x, sizeof mb);
+    mb = (mb & 0x000FFFFFFFFFFFFFull) | 0x3FF0000000000000ull;
     double m;
     memcpy(&m, &mb, sizeof m);
-    return LogOfReducedDouble(m, m, be - 1023, static_cast<int>((b >> 45) & 127));
+    return LogOfReducedDouble(m, m, c.e, c.j);
 }
 
 // ln m for a double m in [1, 2): Log without the reduction and the exponent's terms
 // (the same value as Log(m)).
 [[gnu::always_inline]] inline long double LogSignificand(double m) {
-    uint64_t b;
-    memcpy(&b, &m, sizeof b);
-    int j = static_cast<int>((b >> 45) & 127);
+    const int j = CellOf(m).j;
     long double u = static_cast<long double>(m) * kLogRecip[j] - 1;
     return Join(kLogOfRecip2.v[j]) + (u + Log1pTail(u));
 }
