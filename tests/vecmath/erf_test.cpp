@@ -476,7 +476,12 @@ void ExpectErfNaNsInRounds() {
             std::vector<T> v = in;
             const U nan = nans[at % 4];
             v[at] = __builtin_bit_cast(T, nan);
+            std::feclearexcept(FE_ALL_EXCEPT);
             As<Unary<T>>(Slot(RowOf<T>(Fn::Erf), slot))(int(v.size()), v.data(), out.data());
+            // A quiet NaN raises nothing, whatever runs beside it (the small and tiny
+            // arguments' path included).
+            if (nan & quiet)
+                EXPECT_FALSE(std::fetestexcept(FE_INVALID)) << "slot " << slot << " at " << at;
             for (size_t i = 0; i < v.size(); ++i) {
                 if (i == at)
                     EXPECT_EQ(Bits(out[i]), nan | quiet) << "slot " << slot << " at " << at;

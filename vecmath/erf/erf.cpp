@@ -16,6 +16,8 @@
  * nothing; NaN lanes are set aside after the body, one test a register or round. HA and
  * double LA run rounds of sixteen, each step over the round's registers
  * (GridEvalSingleRound, GridEvalRound). */
+#include <bit>
+
 #include "frame/kernels.h"
 #include "vecmath/explog/flat.h"
 #include "vecmath/erf/grid_single.h"
@@ -80,40 +82,57 @@ BRENN_VEC __m128d ErfShort(__m128d x, __m128d& beyond) {
 // HA: the scheme of ErfShort with the longer series R = S(2t, u) - 1 of grid_core.h (cut kCutHA,
 // the exact Taylor terms, rows by Horner) and w = d*D kept in two parts, d and D split at their
 // high words (dh*Dh exact), wl = dh*Dl + dl*D: erf = h + (e + (vlo + (wl + R*w))) with h + e = V +
-// wh exactly and vlo = erf(xj) - V. Lanes below 0.02734375 are flagged in `small` for ErfSmall.
-BRENN_VEC __m128d ErfLong(__m128d x, __m128d& beyond, __m128d& small) {
-    constexpr double kLimit = 5.9921875;
-    __m128d ax = Abs(x);
-    __m128d lim = Set<double>(kLimit);
-    __m128d held = AsFloat(Gt(AsInt(ax), AsInt(lim)));
-    beyond = Or(beyond, held);
-    __m128d a = IfThenElse(held, lim, ax);
-    small = Or(small, Lt(a, Set<double>(0.02734375)));
-    __m128d s = Add(a, Set<double>(kShifter128));
-    __m128d xj = Sub(s, Set<double>(kShifter128));
-    __m128d d = Sub(a, xj);
-    __m128d t = Mul(xj, d);
-    __m128d dz = IfThenZeroElse(Le(a, Set<double>(0x1p-256)), d);
-    __m128d u = Mul(dz, dz);
-    __m128d r = SeriesLessOne<kCutHA, 2.0, 1.0>(t, u);
-    I64x2 row = AsInt(s);
-    uint32_t j0 = uint32_t(LowWord<0>(row)), j1 = uint32_t(LowWord<1>(row));
-    __m128d v, deriv;
-    LoadTransposed(erfRows[j0], erfRows[j1], v, deriv);
-    __m128d vlo = LoadLanes(&erfRowsHA[j0][1], &erfRowsHA[j1][1]);
-    const __m128d high = AsFloat(Set<int64_t>(int64_t(0xFFFFFFFF00000000ull)));
-    __m128d dh = And(d, high), dl = Sub(d, dh);
-    __m128d derivH = And(deriv, high), derivL = Sub(deriv, derivH);
-    __m128d wh = Mul(dh, derivH);
-    __m128d wl = Add(Mul(dh, derivL), Mul(dl, deriv));
-    __m128d w = Mul(d, deriv);
-    // V + wh split exactly (V above erf(3.5/128) > |wh|), and V's remainder vlo (erf(xj) -
-    // V, from the wide rows) added with the small terms: V's own rounding, up to 0.4995 ulp
-    // of its binade, with D's and the final one took V + (wh + (wl + R*w)) to 1.0015 ulp
-    // (row 75, 1.003 without the exact split).
-    __m128d h, e;
-    FastTwoSum(v, wh, h, e);
-    return Or(Add(h, Add(e, Add(vlo, Add(wl, Mul(r, w))))), SignBit(x));
+// wh exactly and vlo = erf(xj) - V. Each step over the round's N registers before the next
+// (the chains of the round side by side: 7.8 -> 7.0 ticks an element against one register
+// at a time). |x| is held at the limit by its bits (`beyond` gets those lanes); lanes below
+// 0.02734375 are ErfSmall's: they run here at 0.02734375, so that u = d^2 raises nothing, and
+// `least` gets the round's least held |x|, which tells whether there are any.
+template <int N>
+BRENN_VEC void ErfLongRound(const __m128d* x, __m128d* y, __m128d& beyond, __m128d& least) {
+    __m128d sh[N], d[N], r[N];
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k) {
+        __m128d ax = Abs(x[k]);
+        __m128d lim = Set<double>(5.9921875);
+        __m128d held = AsFloat(Gt(AsInt(ax), AsInt(lim)));
+        beyond = Or(beyond, held);
+        __m128d a = IfThenElse(held, lim, ax);
+        least = Min(least, a);
+        a = Max(a, Set<double>(0.02734375));
+        sh[k] = Add(a, Set<double>(kShifter128));
+        __m128d xj = Sub(sh[k], Set<double>(kShifter128));
+        d[k] = Sub(a, xj);
+        r[k] = Mul(xj, d[k]);
+    }
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k)
+        r[k] = SeriesLessOne<kCutHA, 2.0, 1.0>(r[k], Mul(d[k], d[k]));
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k) {
+        // Rows by byte offsets: j*16 in erfRows, j*32 in erfRowsHA.
+        I64x2 off = ShiftLeft<4>(AsInt(sh[k]));
+        const char* rows = reinterpret_cast<const char*>(erfRows);
+        const char* wide = reinterpret_cast<const char*>(&erfRowsHA[0][1]);
+        uint32_t o0 = uint32_t(LowWord<0>(off)), o1 = uint32_t(LowWord<1>(off));
+        __m128d v, deriv;
+        LoadTransposed(reinterpret_cast<const double*>(rows + o0),
+                       reinterpret_cast<const double*>(rows + o1), v, deriv);
+        __m128d vlo = LoadLanes(reinterpret_cast<const double*>(wide + 2 * size_t(o0)),
+                                reinterpret_cast<const double*>(wide + 2 * size_t(o1)));
+        const __m128d high = AsFloat(Set<int64_t>(int64_t(0xFFFFFFFF00000000ull)));
+        __m128d dh = And(d[k], high), dl = Sub(d[k], dh);
+        __m128d derivH = And(deriv, high), derivL = Sub(deriv, derivH);
+        __m128d wh = Mul(dh, derivH);
+        __m128d wl = Add(Mul(dh, derivL), Mul(dl, deriv));
+        __m128d w = Mul(d[k], deriv);
+        // V + wh split exactly (V above erf(3.5/128) > |wh|), and V's remainder vlo (erf(xj) -
+        // V, from the wide rows) added with the small terms: V's own rounding, up to 0.4995 ulp
+        // of its binade, with D's and the final one took V + (wh + (wl + R*w)) to 1.0015 ulp
+        // (row 75, 1.003 without the exact split).
+        __m128d h, e;
+        FastTwoSum(v, wh, h, e);
+        y[k] = Or(Add(h, Add(e, Add(vlo, Add(wl, Mul(r[k], w))))), SignBit(x[k]));
+    }
 }
 
 // HA below 0.02734375: erf(a) = a + (a*(c0 - 1) + a*(lo + u*P(u))), c0 - 1 in two parts (lo the
@@ -126,8 +145,10 @@ BRENN_VEC __m128d ErfSmall(__m128d x, __m128d y) {
     constexpr double kP1 = kErfSeries[1][0] * kC0, kP2 = kErfSeries[2][0] * kC0,
                      kP3 = kErfSeries[3][0] * kC0, kP4 = kC0 / 216;
     __m128d a = Abs(x);
-    __m128d tiny = Le(a, Set<double>(0x1p-256));
-    __m128d small = Lt(a, Set<double>(0.02734375));
+    // By the bits: a NaN lane is neither, and raises nothing here.
+    __m128d tiny =
+        AsFloat(Gt(Set<int64_t>(std::bit_cast<int64_t>(0x1.0000000000001p-256)), AsInt(a)));
+    __m128d small = AsFloat(Gt(Set<int64_t>(std::bit_cast<int64_t>(0.02734375)), AsInt(a)));
     __m128d az = And(AndNot(tiny, small), a); // the other lanes at 0: no flag of theirs
     __m128d u = Mul(az, az);
     __m128d p = MulAdd(u, Set<double>(kP4), Set<double>(kP3));
@@ -135,7 +156,7 @@ BRENN_VEC __m128d ErfSmall(__m128d x, __m128d y) {
     p = MulAdd(u, p, Set<double>(kP1));
     __m128d q = Add(Set<double>(kC0Less1Lo), Mul(u, p));
     __m128d e = Add(az, Add(Mul(az, Set<double>(kC0Less1)), Mul(az, q)));
-    if (__builtin_expect(MaskBits(tiny) != 0, 0)) e = IfThenElse(tiny, ErfTiny(a), e);
+    if (__builtin_expect(MaskBits(tiny) != 0, 0)) e = IfThenElse(tiny, ErfTiny(And(tiny, a)), e);
     return IfThenElse(small, Or(e, SignBit(x)), y);
 }
 
@@ -150,11 +171,9 @@ BRENN_VEC void ErfDouble(const __m128d* x, __m128d* y) {
         for (int k = 0; k < N; ++k)
             y[k] = ErfShort(x[k], beyond);
     } else if constexpr (L == Level::HA) {
-        __m128d small = Zero<double>();
-#pragma GCC unroll 8
-        for (int k = 0; k < N; ++k)
-            y[k] = ErfLong(x[k], beyond, small);
-        if (__builtin_expect(MaskBits(small) != 0, 0)) {
+        __m128d least = Set<double>(0.02734375);
+        ErfLongRound<N>(x, y, beyond, least);
+        if (__builtin_expect(MaskBits(Lt(least, Set<double>(0.02734375))) != 0, 0)) {
             for (int k = 0; k < N; ++k)
                 y[k] = ErfSmall(x[k], y[k]);
         }
@@ -234,12 +253,8 @@ struct ErfBody {
         constexpr int N = 16 / kLanes<T>;
         if constexpr (sizeof(T) == 4)
             ErfSingle<L, N>(x, y);
-        else if constexpr (L == Level::HA) { // in halves: fewer values spilled
-            ErfDouble<L, N / 2>(x, y);
-            ErfDouble<L, N / 2>(x + N / 2, y + N / 2);
-        } else {
+        else
             ErfDouble<L, N>(x, y);
-        }
         return 0;
     }
 };
