@@ -830,6 +830,50 @@ TEST(ExpLog, Expm1KeepsTheSignAndTinyArguments) {
     }
 }
 
+// Double Expm1 may take a cheaper form in a round of sixteen that holds no argument near
+// 0: an argument on either side of that bound or near 0 (where the table's first
+// difference cancels), placed at each position of a round of far arguments of both signs
+// (near -1, beyond 2^53, in between), gives what it gives alone, and its neighbours
+// theirs, each within its level's bound.
+TEST(ExpLog, Expm1RoundsWithAndWithoutArgumentsNearZero) {
+    ModeScope mode(BRENN_MODE_ERRMODE_IGNORE);
+    const double bound = 0x1.6147Ap-1;
+    const std::vector<double> near = {bound,
+                                      -bound,
+                                      std::nextafter(bound, 0.0),
+                                      -std::nextafter(bound, 0.0),
+                                      0.69315,
+                                      -0.6945,
+                                      0x1.a6d2c1dc60983p-10,
+                                      -0x1.6p-9,
+                                      0x1.62e42fefa39efp-9,
+                                      1e-3,
+                                      -0.0,
+                                      1e-300};
+    std::mt19937 gen(5);
+    std::uniform_real_distribution<double> far(0.7, 45.0);
+    constexpr int kLen = 32;
+    for (int slot : kSlots) {
+        for (double v : near) {
+            for (int at = 0; at < 16; ++at) {
+                std::vector<double> x(kLen), y(kLen);
+                for (int i = 0; i < kLen; ++i)
+                    x[i] = (i % 3 == 0 ? -1.0 : 1.0) * far(gen);
+                x[at] = v;
+                K<double>(frame::Row_dExpm1, slot)(kLen, x.data(), y.data());
+                for (int i = 0; i < kLen; ++i) {
+                    double alone = Call(frame::Row_dExpm1, slot, x[i]);
+                    ASSERT_EQ(Bits(y[i]), Bits(alone))
+                        << slot << " " << std::hexfloat << x[i] << " beside " << v << " at " << at;
+                    if (x[i] != 0)
+                        EXPECT_LE(UlpError(y[i], expm1l(x[i])), LevelBound<double>(slot))
+                            << slot << " " << std::hexfloat << x[i];
+                }
+            }
+        }
+    }
+}
+
 // The single HA logarithms work in double on the single bits: near 1 from both sides
 // (the row of 1 and the last row, where the heads cancel), at the edges of the table's
 // rows, and for Log1p around 2^-29, below which the result is x itself.

@@ -4,9 +4,11 @@
  * S = 2^m*2^(j/64), |r| <= ln2/128, degree 3 with the single constants, the steps in
  * double lanes and rounded once to single (Expm1Table64).
  * The double kernels reduce on the table of 256 (exp_core256.h's step; the rows
- * 2^(j/256) = Thi*(1 + d) of expRelTable256): e^x - 1 = 2^m*Thi*e^(r + d) - 1. HA
- * (degree 5) carries the first difference and its sum with the leading part of the
- * product exactly (Expm1On256Exact), LA (degree 5) rounds the same sums (Expm1On256),
+ * 2^(j/256) = Thi*(1 + d) of expRelTable256): e^x - 1 = 2^m*Thi*e^(r + d) - 1, S =
+ * 2^m*Thi by exponent addition. HA (degree 5) takes S - 1 exactly and adds S*p to it
+ * (Expm1HaFar) but for |x| < 0.69, where it carries the first difference and its sum
+ * with the leading part of the product exactly (Expm1HaNear); a round of sixteen with no
+ * such argument runs the far form alone. LA (degree 5) rounds the sums (Expm1On256),
  * EP (degree 3) takes the high parts alone (Expm1EP, the form of single EP).
  * The scalar routines run the table core of exp_core.h: e^x - 1 = 2^m*T*(1 + p) - 1 with
  * the subtraction of 1 placed by m so that nothing cancels: for -1 <= m <= 52,
@@ -95,12 +97,6 @@ inline __m128d Expm1Steps(__m128d x) {
     return Add(Mul(x, Set<double>(ExpStep256::kInvStep)), Set<double>(Format<double>::kShifter));
 }
 
-// 2^m as a double for m = (low word of t) >> 8, -1022 <= m <= 1023.
-inline __m128d Scale256(__m128d t) {
-    I32x4 e = Add(ShiftRightSigned<8>(BitCast<I32x4>(t)), Set<int32_t>(Format<double>::kBias));
-    return AsFloat(ShiftLeft<Format<double>::kMantBits>(BitCast<I64x2>(e)));
-}
-
 // For HA and LA: S, rh = x - n*stepHi (exact), rn = n*stepLo - d, r = rh - rn and
 // q = r^2*Q(r), degree 5 (d joins the polynomial's argument). The low part is held
 // negated so that x = -0 gives r = -0 - (+0) = -0; every other r is rh + (-n*stepLo + d)
@@ -117,7 +113,7 @@ inline Expm1Reduced Expm1Reduce256(__m128d x) {
     __m128d row0 = LoadAligned(expRelTable256[LowWord<0>(AsInt(t)) & 255]);
     __m128d row1 = LoadAligned(expRelTable256[LowWord<1>(AsInt(t)) & 255]);
     __m128d th = InterleaveLower(row0, row1), d = InterleaveUpper(row0, row1);
-    e.big = Mul(Scale256(t), th);
+    e.big = ScaleByLowWord<8>(th, t);
     e.rh = Sub(x, Mul(n, Set<double>(S::kStepHi)));
     e.rn = Sub(Mul(n, Set<double>(S::kStepLo)), d);
     e.r = Sub(e.rh, e.rn);
@@ -125,18 +121,52 @@ inline Expm1Reduced Expm1Reduce256(__m128d x) {
     return e;
 }
 
-// HA: S - 1 = a + ea by TwoSum (exact for every m), and with p = rh + (rl + q) and
-// S*rh = rh + (S - 1)*rh, the head a + rh by Fast2Sum (|a| >= 2^(1/256) - 1 > |rh|
-// unless a is 0): what is left, (S - 1)*rh and S*(rl + q), is below 2^-8 of the result
-// wherever the head cancels (m = 0 or -1, j near 0), so that only the last addition
-// rounds at the result's scale.
-inline __m128d Expm1On256Exact(__m128d x) {
-    Expm1Reduced e = Expm1Reduce256(x);
-    __m128d a, ea, s, es;
+// HA, apart from the arguments near 0: (S - 1) + S*p with S - 1 = a + ea exactly (a
+// rounds for m <= -2 and m >= 53), a + (ea + S*p). Wherever |x| >= kNearHa the head
+// does not cancel: |S*p| is below 2^-8.4 of the result, so that the rounding of p and of
+// S*p stays far below the last one.
+inline __m128d Expm1HaFar(const Expm1Reduced& e, __m128d& a) {
+    __m128d ea;
     TwoSum(e.big, Set<double>(-1.0), a, ea);
+    return Add(a, Add(ea, Mul(e.big, Add(e.r, e.q))));
+}
+inline __m128d Expm1HaFar(__m128d x) {
+    __m128d a;
+    return Expm1HaFar(Expm1Reduce256(x), a);
+}
+// HA near 0 (|x| < kNearHa, m = 0 or -1, where a = S - 1 is exact): with p = rh + (q -
+// rn) and S*rh = rh + a*rh, the head a + rh by Fast2Sum (|a| >= 2^(1/256) - 1 > |rh|
+// unless a is 0): what is left, a*rh and S*(q - rn), is below 2^-8 of the result
+// wherever the head cancels (j near 0), so that only the last addition rounds at the
+// result's scale.
+inline __m128d Expm1HaNear(const Expm1Reduced& e, __m128d a) {
+    __m128d s, es;
     FastTwoSum(a, e.rh, s, es);
     __m128d lo = Add(Mul(e.big, Sub(e.q, e.rn)), Mul(a, e.rh));
-    return Add(s, Add(Add(es, ea), lo));
+    return Add(s, Add(es, lo));
+}
+// 0.69 with a low word of 0, so that |x| < kNearHa is a test of the high word alone:
+// below it n = round(x*256/ln2) lies in [-255, 255].
+constexpr double kNearHa = 0x1.6147Ap-1;
+// Every lane: the near form where |x| < kNearHa, with x's sign bit put back (the sums
+// give every result the sign of x but that of -0), the far one elsewhere.
+inline __m128d Expm1Ha(__m128d x) {
+    Expm1Reduced e = Expm1Reduce256(x);
+    __m128d a;
+    __m128d far = Expm1HaFar(e, a);
+    __m128d near = Or(Expm1HaNear(e, a), SignBit(x));
+    return IfThenElse(Lt(Abs(x), Set<double>(kNearHa)), near, far);
+}
+// Whether a round holds a lane with |x| < kNearHa: the high words of |x| folded by a
+// signed minimum (the low words' lanes are not read).
+template <int N>
+inline bool AnyNearHa(const __m128d* x) {
+    I32x4 fold = BitCast<I32x4>(AsInt(Abs(x[0])));
+#pragma GCC unroll 8
+    for (int k = 1; k < N; ++k)
+        fold = Min(fold, BitCast<I32x4>(AsInt(Abs(x[k]))));
+    const int32_t high = int32_t(__builtin_bit_cast(uint64_t, kNearHa) >> 32);
+    return (MaskBits(Lt(fold, Set<int32_t>(high))) & 0xA) != 0;
 }
 
 // LA: S*p - (1 - S) with p = r + q, d in the polynomial's argument (r = rh - rn).
@@ -273,7 +303,7 @@ inline __m128 Expm1Of(__m128 x) {
 template <Level L>
 inline __m128d Expm1Of(__m128d x) {
     if constexpr (L == Level::HA)
-        return Or(Expm1On256Exact(x), SignBit(x));
+        return Expm1Ha(x);
     else if constexpr (L == Level::LA)
         return Expm1On256(x);
     else
@@ -300,6 +330,22 @@ struct Expm1Body : Expm1Band<Tp, L> {
     static constexpr int kRound = 16;
     static int EvalWide(const V* x, V* y) { return EvalTestOnce<Expm1Body>(x, y); }
     static V Value(V x) { return Expm1Of<L>(x); }
+    // Double HA: a round with no argument near 0 takes the far form alone, which is
+    // what Expm1Ha gives to each of its lanes.
+    static void ValueRound(const V* x, V* y)
+        requires(sizeof(T) == 8 && L == Level::HA)
+    {
+        constexpr int N = 16 / kLanes<T>;
+        if (AnyNearHa<N>(x)) {
+#pragma GCC unroll 8
+            for (int k = 0; k < N; ++k)
+                y[k] = Expm1Ha(x[k]);
+        } else {
+#pragma GCC unroll 8
+            for (int k = 0; k < N; ++k)
+                y[k] = Expm1HaFar(x[k]);
+        }
+    }
     static V Eval(V x, V& special) {
         special = RangeTest(x, kWindow);
         x = IfThenZeroElse(special, x); // special lanes run on 0: no flags of their own
