@@ -5,6 +5,7 @@
 // names; the statuses of those cells; and the branch cuts, whose sides the sign
 // of a zero part picks.
 #include <gtest/gtest.h>
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -373,6 +374,45 @@ TEST(ComplexSpecialValues, AbsHAAboutItsWindow) {
                 << a[i].re << " " << a[i].im << " at " << i;
         }
     }
+}
+
+// Double Ln about the unit circle, where ln|z| is far below |z|^2's parts: (cos t, sin t)
+// rounded, its real part moved by up to four ulps and by 2^12 and 2^24 ulps, in every
+// quadrant, at shifted positions of a long call. |z|^2 is carried in two parts, so that
+// the real part is good to 0.6 ulp of its own down to 2^-50 or so, and to 2^-103
+// absolutely below (a tail dropped or misplaced costs 2^-53; LA and HA share the
+// logarithm's core). The
+// reference takes |z|^2 - 1 exactly in binary128 (both parts from 1/8 up, so that the
+// squares' sum fits its 113 bits) and ln(1 + u) by three terms.
+TEST(ComplexSpecialValues, LnNearTheUnitCircleKeepsItsAccuracy) {
+    std::vector<Z> z;
+    for (int j = 0; j < 48; ++j) {
+        double t = 0.13 + 1.31 * j / 47;
+        double c = std::cos(t), s = std::sin(t);
+        for (int k : {-4, -3, -2, -1, 0, 1, 2, 3, 4, 1 << 12, -(1 << 12), 1 << 24, -(1 << 24)}) {
+            double x = c + std::ldexp(double(k), std::ilogb(c) - 52);
+            int q = (j + k + 8) & 3;
+            z.push_back({q & 1 ? -x : x, q & 2 ? -s : s});
+        }
+    }
+    const int n = int(z.size());
+    for (int slot : {frame::SlotLA, frame::SlotHA})
+        for (int shift = 0; shift < 3; ++shift) {
+            std::vector<Z> a(z.begin() + shift, z.end());
+            a.insert(a.end(), z.begin(), z.begin() + shift);
+            std::vector<Z> y(n);
+            As<Unary<Z>>(CxRaw(frame::Row_zLn, slot))(n, a.data(), y.data());
+            for (int i = 0; i < n; ++i) {
+                __float128 x = a[i].re, w = a[i].im;
+                __float128 u = x * x + w * w - 1;
+                __float128 l = (u - u * u / 2 + u * u * u / 3) / 2;
+                double want = double(l), err = std::fabs(double(y[i].re - l));
+                double ulp = std::fabs(std::nextafter(want, 2 * want) - want);
+                double bound = std::max(0.6 * ulp, 0x1p-103);
+                EXPECT_LE(err, bound) << a[i].re << " " << a[i].im << ": " << y[i].re
+                                      << " for " << want << " slot " << slot;
+            }
+        }
 }
 
 // Double Arg HA and Ln HA's phase run the real Atan2 HA's steps in their own rounds: the

@@ -107,14 +107,23 @@ BRENN_VEC void ExactSquare(const Halves<V>& a, V& hi, V& lo) {
     hi = Mul(a.v, a.v);
     lo = Add(Add(Sub(Mul(a.hi, a.hi), hi), Mul(a.hi, Add(a.lo, a.lo))), Mul(a.lo, a.lo));
 }
-// hi + lo = a^2 + b^2 from split factors, as SumOfProducts(a, a, b, b) gives it.
+// hi + lo = a^2 + b^2 as SumOfSquares below gives it, without its last renormalisation:
+// hi is the rounded sum of the rounded squares and lo (the sum's exact error and the
+// squares' errors, rounded once) may reach an ulp and a half of hi. hi waits on two
+// products and one addition only, so that a root or a logarithm of it starts while lo
+// is still being formed.
 template <class V>
-BRENN_VEC void SumOfSquares(const Halves<V>& a, const Halves<V>& b, V& hi, V& lo) {
+BRENN_VEC void RawSumOfSquares(const Halves<V>& a, const Halves<V>& b, V& hi, V& lo) {
     V p, pl, q, ql, e;
     ExactSquare(a, p, pl);
     ExactSquare(b, q, ql);
     TwoSum(p, q, hi, e);
     lo = Add(e, Add(pl, ql));
+}
+// hi + lo = a^2 + b^2 from split factors, as SumOfProducts(a, a, b, b) gives it.
+template <class V>
+BRENN_VEC void SumOfSquares(const Halves<V>& a, const Halves<V>& b, V& hi, V& lo) {
+    RawSumOfSquares(a, b, hi, lo);
     FastTwoSum(hi, lo, hi, lo);
 }
 // The exact error a*c - p of the rounded product p = a*c, from split factors: Dekker's

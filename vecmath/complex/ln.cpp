@@ -2,7 +2,10 @@
  *
  * Double: s = re^2 + im^2 carried in two parts (exact products), ln s from the real
  * logarithm's core (explog/log_core.h) at the level, as an exact head and a tail, with
- * the second part of s added as sl/sh; half of it is the real part. Near |z| = 1, where
+ * the second part of s added as sl/sh; half of it is the real part. The head sh is the
+ * rounded sum of the rounded squares, left as it is (sl up to an ulp and a half of it),
+ * so that the core's reduction waits on two products and an addition, not on the
+ * exact parts. Near |z| = 1, where
  * ln|z| is small, s - 1 is then exact and the real part keeps its relative accuracy.
  * The imaginary part is the real Atan2 of (im, re) (invtrig/atan_body.h): HA on the table
  * steps of the real row's own kernel, LA and EP on the double steps at the level.
@@ -68,7 +71,7 @@ struct LnZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, LnScalar
         __m128d re = IfThenElse(s.special, Set<double>(1), x.re);
         __m128d im = IfThenZeroElse(s.special, x.im);
         __m128d sh, sl;
-        SumOfSquares(SplitRounded(re), SplitRounded(im), sh, sl);
+        RawSumOfSquares(SplitRounded(re), SplitRounded(im), sh, sl);
         s.red = LnReduce(sh);
         s.ratio = Div(sl, sh);
         __m128d angle = Phase::Start(x.im, x.re, s.phase);
