@@ -4,8 +4,9 @@
  *
  * With t = sqrt((|x| + |z|)/2): x >= 0 gives t + i y/(2t); x < 0 gives |y|/(2t) + i t
  * with t taking y's sign. No step cancels.
- * Double, one kernel for all levels: |z|^2 in two parts (exact products), |z| from its
- * rounded root and the exact residual, |x| + |z| summed exactly, t from the rounded
+ * Double, one kernel for all levels: |z|^2 in two parts (exact products; the head the
+ * rounded sum of the rounded squares, not renormalised, so that its root starts after
+ * two products and an addition), |z| from its rounded root and the exact residual, |x| + |z| summed exactly, t from the rounded
  * root of the half and its residual, and y/(2t) from the reciprocal of t's head with one
  * correction by the exact residual, so that each part is rounded about once. Lanes
  * whose larger part lies outside [2^-450, 2^500] (both parts zero among them) and
@@ -77,7 +78,7 @@ BRENN_VEC void SqrtSquares(const Cx<double>& z, SqrtState& s) {
     s.special = HighWordsToLanes(LargerHighWordOutside<kLo, kHi>(z.re, z.im));
     s.x = IfThenElse(s.special, Set<double>(1), z.re);
     s.w = IfThenZeroElse(s.special, z.im);
-    SumOfSquares(SplitRounded(s.x), SplitRounded(s.w), s.sh, s.sl);
+    RawSumOfSquares(SplitRounded(s.x), SplitRounded(s.w), s.sh, s.sl);
     s.mh = Sqrt(s.sh);
 }
 
