@@ -89,7 +89,7 @@ BRENN_VEC __m128d ErfShort(__m128d x, __m128d& beyond) {
 // `least` gets the round's least held |x|, which tells whether there are any.
 template <int N>
 BRENN_VEC void ErfLongRound(const __m128d* x, __m128d* y, __m128d& beyond, __m128d& least) {
-    __m128d sh[N], d[N], r[N];
+    __m128d sh[N], d[N], r[N], u[N];
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k) {
         __m128d ax = Abs(x[k]);
@@ -103,10 +103,11 @@ BRENN_VEC void ErfLongRound(const __m128d* x, __m128d* y, __m128d& beyond, __m12
         __m128d xj = Sub(sh[k], Set<double>(kShifter128));
         d[k] = Sub(a, xj);
         r[k] = Mul(xj, d[k]);
+        u[k] = Mul(d[k], d[k]);
     }
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k)
-        r[k] = SeriesLessOne<kCutHA, 2.0, 1.0>(r[k], Mul(d[k], d[k]));
+        r[k] = SeriesLessOne<kCutHA, 2.0, 1.0>(r[k], u[k]);
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k) {
         // Rows by byte offsets: j*16 in erfRows, j*32 in erfRowsHA.
