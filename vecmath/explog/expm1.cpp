@@ -84,6 +84,8 @@ inline __m128d Expm1Core(__m128d x) {
 // e^x - 1 = S*e^(r + d) - 1 to 2^-105, S = 2^m*Thi exact: d joins the low part of the
 // reduced argument, whose polynomial then carries Tlo*r too. p is fitted for relative
 // error against e^r - 1, so that where m and j are 0 the result is p itself.
+// Near 0 (|x| < kNear, m = 0 or -1) S - 1 and S*p may cancel; elsewhere |S*p| is below
+// 2^-8.4 of the result (m = 1, j = 0 the most) and HA needs no exact head.
 struct Expm1Table256 {
     // c2.. of p(r) = r + r^2*(c2 + c3*r + ...), by tools/explog/expm1_double256.sollya:
     // degree 5 (2^-61) and degree 3 (2^-35).
@@ -92,17 +94,34 @@ struct Expm1Table256 {
     static constexpr double kC3[] = {0x1.000001ec0cc9ep-1, 0x1.5555561a1a00dp-3};
 };
 
+// 0.69 with a low word of 0, so that |x| < kNear is a test of the high word alone: below
+// it n = round(x*256/ln2) lies in [-255, 255].
+constexpr double kNear = 0x1.6147Ap-1;
+inline __m128d NearZero(__m128d x) {
+    return Lt(Abs(x), Set<double>(kNear));
+}
+// Whether a round holds a lane with |x| < kNear: the high words of |x| folded by a signed
+// minimum (the low words' lanes are not read).
+template <int N>
+inline bool AnyNearZero(const __m128d* x) {
+    I32x4 fold = BitCast<I32x4>(AsInt(Abs(x[0])));
+#pragma GCC unroll 8
+    for (int k = 1; k < N; ++k)
+        fold = Min(fold, BitCast<I32x4>(AsInt(Abs(x[k]))));
+    const int32_t high = int32_t(__builtin_bit_cast(uint64_t, kNear) >> 32);
+    return (MaskBits(Lt(fold, Set<int32_t>(high))) & 0xA) != 0;
+}
+
 // x*256/ln2 + shifter: n in the low word, j its low 8 bits, m the rest.
 inline __m128d Expm1Steps(__m128d x) {
     return Add(Mul(x, Set<double>(ExpStep256::kInvStep)), Set<double>(Format<double>::kShifter));
 }
 
-// For HA and LA: S, rh = x - n*stepHi (exact), rn = n*stepLo - d, r = rh - rn and
-// q = r^2*Q(r), degree 5 (d joins the polynomial's argument). The low part is held
-// negated so that x = -0 gives r = -0 - (+0) = -0; every other r is rh + (-n*stepLo + d)
-// to the bit.
+// For HA and LA: S, rh = x - n*stepHi (exact), rn = n*stepLo - d and r = rh - rn (d
+// joins the polynomial's argument). The low part is held negated so that x = -0 gives
+// r = -0 - (+0) = -0; every other r is rh + (-n*stepLo + d) to the bit.
 struct Expm1Reduced {
-    __m128d big, rh, rn, r, q;
+    __m128d big, rh, rn, r;
 };
 inline Expm1Reduced Expm1Reduce256(__m128d x) {
     using S = ExpStep256;
@@ -117,56 +136,31 @@ inline Expm1Reduced Expm1Reduce256(__m128d x) {
     e.rh = Sub(x, Mul(n, Set<double>(S::kStepHi)));
     e.rn = Sub(Mul(n, Set<double>(S::kStepLo)), d);
     e.r = Sub(e.rh, e.rn);
-    e.q = Mul(Mul(e.r, e.r), Estrin(e.r, Expm1Table256::kC5));
     return e;
 }
+// q = r^2*Q(r) of p = r + q.
+template <size_t N>
+inline __m128d Expm1Tail(__m128d r, const double (&c)[N]) {
+    return Mul(Mul(r, r), Estrin(r, c));
+}
 
-// HA, apart from the arguments near 0: (S - 1) + S*p with S - 1 = a + ea exactly (a
-// rounds for m <= -2 and m >= 53), a + (ea + S*p). Wherever |x| >= kNearHa the head
-// does not cancel: |S*p| is below 2^-8.4 of the result, so that the rounding of p and of
-// S*p stays far below the last one.
-inline __m128d Expm1HaFar(const Expm1Reduced& e, __m128d& a) {
+// HA far from 0: (S - 1) + S*p with S - 1 = a + ea exactly (a rounds for m <= -2 and
+// m >= 53), a + (ea + S*p).
+inline __m128d Expm1HaFar(const Expm1Reduced& e, __m128d q, __m128d& a) {
     __m128d ea;
     TwoSum(e.big, Set<double>(-1.0), a, ea);
-    return Add(a, Add(ea, Mul(e.big, Add(e.r, e.q))));
+    return Add(a, Add(ea, Mul(e.big, Add(e.r, q))));
 }
-inline __m128d Expm1HaFar(__m128d x) {
-    __m128d a;
-    return Expm1HaFar(Expm1Reduce256(x), a);
-}
-// HA near 0 (|x| < kNearHa, m = 0 or -1, where a = S - 1 is exact): with p = rh + (q -
-// rn) and S*rh = rh + a*rh, the head a + rh by Fast2Sum (|a| >= 2^(1/256) - 1 > |rh|
-// unless a is 0): what is left, a*rh and S*(q - rn), is below 2^-8 of the result
-// wherever the head cancels (j near 0), so that only the last addition rounds at the
-// result's scale.
-inline __m128d Expm1HaNear(const Expm1Reduced& e, __m128d a) {
+// HA near 0 (a = S - 1 exact): with p = rh + (q - rn) and S*rh = rh + a*rh, the head
+// a + rh by Fast2Sum (|a| >= 2^(1/256) - 1 > |rh| unless a is 0): what is left, a*rh
+// and S*(q - rn), is below 2^-8 of the result wherever the head cancels (j near 0), so
+// that only the last addition rounds at the result's scale. x's sign bit is put back
+// (the sums give every result the sign of x but that of -0).
+inline __m128d Expm1HaNear(__m128d x, const Expm1Reduced& e, __m128d q, __m128d a) {
     __m128d s, es;
     FastTwoSum(a, e.rh, s, es);
-    __m128d lo = Add(Mul(e.big, Sub(e.q, e.rn)), Mul(a, e.rh));
-    return Add(s, Add(es, lo));
-}
-// 0.69 with a low word of 0, so that |x| < kNearHa is a test of the high word alone:
-// below it n = round(x*256/ln2) lies in [-255, 255].
-constexpr double kNearHa = 0x1.6147Ap-1;
-// Every lane: the near form where |x| < kNearHa, with x's sign bit put back (the sums
-// give every result the sign of x but that of -0), the far one elsewhere.
-inline __m128d Expm1Ha(__m128d x) {
-    Expm1Reduced e = Expm1Reduce256(x);
-    __m128d a;
-    __m128d far = Expm1HaFar(e, a);
-    __m128d near = Or(Expm1HaNear(e, a), SignBit(x));
-    return IfThenElse(Lt(Abs(x), Set<double>(kNearHa)), near, far);
-}
-// Whether a round holds a lane with |x| < kNearHa: the high words of |x| folded by a
-// signed minimum (the low words' lanes are not read).
-template <int N>
-inline bool AnyNearHa(const __m128d* x) {
-    I32x4 fold = BitCast<I32x4>(AsInt(Abs(x[0])));
-#pragma GCC unroll 8
-    for (int k = 1; k < N; ++k)
-        fold = Min(fold, BitCast<I32x4>(AsInt(Abs(x[k]))));
-    const int32_t high = int32_t(__builtin_bit_cast(uint64_t, kNearHa) >> 32);
-    return (MaskBits(Lt(fold, Set<int32_t>(high))) & 0xA) != 0;
+    __m128d lo = Add(Mul(e.big, Sub(q, e.rn)), Mul(a, e.rh));
+    return Or(Add(s, Add(es, lo)), SignBit(x));
 }
 
 // LA: S*p - (1 - S) with p = r + q, d in the polynomial's argument (r = rh - rn).
@@ -174,46 +168,60 @@ inline bool AnyNearHa(const __m128d* x) {
 // where 1 - S and S*p have the same sign (j near 0 or 256) |S*p| is at most half of
 // |1 - S| but where S is 1, which gives p itself: the rounding of r, of S*p and of the
 // difference, under 2 ulps in all. The sign of -0 is kept with no step of its own: r is
-// -0 there, q (never negative) goes through a maximum with -0, which gives -0 for q = 0
-// and q itself otherwise, so that p = -0 and -0 - (+0) = -0; every other result is the
-// sum (S - 1) + S*p to the bit.
-inline __m128d Expm1On256(__m128d x) {
-    Expm1Reduced e = Expm1Reduce256(x);
-    __m128d q = Max(e.q, Set<double>(-0.0)); // the second operand where both are zeros
+// -0 there, q (never negative) goes through a maximum with -0 near 0, which gives -0 for
+// q = 0 and q itself otherwise, so that p = -0 and -0 - (+0) = -0; every other result
+// is the sum (S - 1) + S*p to the bit.
+inline __m128d Expm1LaOf(const Expm1Reduced& e, __m128d q) {
     return Sub(Mul(e.big, Add(e.r, q)), Sub(Set<double>(1.0), e.big));
 }
 
 // The double EP form: x = (N*m + j)*ln2/N + r (N = 256, on the high parts of the table
-// of 256), ln2/N in one part (n times it rounds by 2^-44 of the result), S = 2^m*2^(j/N), p(r) =
-// r*(1 + r*(c2 + c3*r + ...)) ~ e^r - 1, and e^x - 1 = S*p - (1 - S). Where n = 0, r is x
-// itself and so is p for tiny x (1 + r*Q rounds to 1), denormals included; -0 gives
-// p = -0 and -0 - (+0) = -0, so that no sign is put back (the sum S*p + (S - 1) gave +0
-// there; every other result of the difference is the sum's). It does not cancel: where
-// S*p and 1 - S meet with the same sign, |S*p| is below half of |1 - S| or S = 1. The
-// coefficients are the base-e ones, degree 3.
-template <class T>
-struct Expm1Plain;
-template <>
-struct Expm1Plain<double> {
-    static constexpr double kInvStep = ExpStep256::kInvStep;
-    static constexpr double kStep = ExpStep256::kStepHi + ExpStep256::kStepLo;
-    static constexpr const auto& kC = Expm1Table256::kC3;
+// of 256), ln2/N in one part (n times it rounds by 2^-44 of the result), S = 2^m*2^(j/N),
+// p(r) = r*(1 + r*(c2 + c3*r)) ~ e^r - 1, and e^x - 1 = S*p -
+// (1 - S). Where n = 0, r is x itself and so is p for tiny x (1 + r*Q rounds to 1),
+// denormals included; -0 gives p = -0 and -0 - (+0) = -0, so that no sign is put back (the sum S*p + (S - 1)
+// gave +0 there; every other result of the difference is the sum's). It does not
+// cancel: where S*p and 1 - S meet with the same sign, |S*p| is below half of |1 - S| or
+// S = 1.
+struct Expm1Plain {
+    __m128d s, r;
 };
-inline __m128d Expm1Scale(__m128d t) {
-    return ScaleByLowWord<8>(GatherColumn(expRelTable256, AsInt(t), 255), t);
+inline Expm1Plain Expm1PlainReduce(__m128d x) {
+    const __m128d shifter = Set<double>(Format<double>::kShifter);
+    __m128d t = Expm1Steps(x);
+    __m128d n = Sub(t, shifter);
+    __m128d r = Sub(x, Mul(n, Set<double>(ExpStep256::kStepHi + ExpStep256::kStepLo)));
+    __m128d s = ScaleByLowWord<8>(GatherColumn(expRelTable256, AsInt(t), 255), t);
+    return {s, r};
 }
-template <class V>
-inline V Expm1EP(V x) {
-    using T = ElemOf<V>;
-    using C = Expm1Plain<T>;
-    const V shifter = Set<T>(Format<T>::kShifter);
-    const V one = Set<T>(1);
-    V t = Add(Mul(x, Set<T>(C::kInvStep)), shifter);
-    V n = Sub(t, shifter);
-    V r = Sub(x, Mul(n, Set<T>(C::kStep)));
-    V p = Mul(r, Add(one, Mul(r, Horner(r, C::kC))));
-    V s = Expm1Scale(t);
-    return Sub(Mul(s, p), Sub(one, s));
+inline __m128d Expm1EpOf(const Expm1Plain& e, __m128d c) {
+    __m128d p = Mul(e.r, Add(Set<double>(1.0), Mul(e.r, c)));
+    return Sub(Mul(e.s, p), Sub(Set<double>(1.0), e.s));
+}
+
+// The double forms by level. HA: Of for every lane, Far for the lanes (and rounds) with no
+// argument near 0, which it gives the same bits.
+inline __m128d Expm1HaFarOf(__m128d x) {
+    Expm1Reduced e = Expm1Reduce256(x);
+    __m128d a;
+    return Expm1HaFar(e, Expm1Tail(e.r, Expm1Table256::kC5), a);
+}
+template <Level L>
+inline __m128d Expm1Of(__m128d x) {
+    if constexpr (L == Level::HA) {
+        Expm1Reduced e = Expm1Reduce256(x);
+        __m128d q = Expm1Tail(e.r, Expm1Table256::kC5), a;
+        __m128d far = Expm1HaFar(e, q, a);
+        return IfThenElse(NearZero(x), Expm1HaNear(x, e, q, a), far);
+    } else if constexpr (L == Level::LA) {
+        Expm1Reduced e = Expm1Reduce256(x);
+        // the second operand where both are zeros
+        return Expm1LaOf(e, Max(Expm1Tail(e.r, Expm1Table256::kC5), Set<double>(-0.0)));
+    } else {
+        Expm1Plain e = Expm1PlainReduce(x);
+        return Expm1EpOf(e, Add(Set<double>(Expm1Table256::kC3[0]),
+                                Mul(e.r, Set<double>(Expm1Table256::kC3[1]))));
+    }
 }
 
 // The single kernel, one for every level, on the table of 64: t = x*64/ln2 + shifter,
@@ -290,24 +298,11 @@ inline double Expm1Value(double x) {
     return GetLane(Expm1Core<D, Exact>(Set<double>(x)));
 }
 
-// Vector values by level: single HA widens its lanes to double, runs the form on the
-// table of 128 and rounds once, single LA and EP run the degree-6 and degree-4 forms in
-// single; double on the table of 256, HA carried exactly, LA with fewer carries, EP
-// plain. e^x - 1 has the sign of x, which the HA form gives to every result but that
-// of -0: x's sign bit is put back (the LA and EP forms keep it).
+// The single value, every level: e^x - 1 has the sign of x, which the sums give to
+// every result but that of -0.
 template <Level L>
 inline __m128 Expm1Of(__m128 x) {
-    // e^x - 1 has the sign of x; the sums give it to every result but that of -0.
     return Or(Expm1Table64(x), SignBit(x));
-}
-template <Level L>
-inline __m128d Expm1Of(__m128d x) {
-    if constexpr (L == Level::HA)
-        return Expm1Ha(x);
-    else if constexpr (L == Level::LA)
-        return Expm1On256(x);
-    else
-        return Expm1EP(x);
 }
 
 // The band above the single window that the scalar routine gives at status 0 (wide.h):
@@ -331,19 +326,21 @@ struct Expm1Body : Expm1Band<Tp, L> {
     static int EvalWide(const V* x, V* y) { return EvalTestOnce<Expm1Body>(x, y); }
     static V Value(V x) { return Expm1Of<L>(x); }
     // Double HA: a round with no argument near 0 takes the far form alone, which is
-    // what Expm1Ha gives to each of its lanes.
+    // what the blended form gives each of its lanes.
     static void ValueRound(const V* x, V* y)
         requires(sizeof(T) == 8 && L == Level::HA)
     {
         constexpr int N = 16 / kLanes<T>;
-        if (AnyNearHa<N>(x)) {
+        if (AnyNearZero<N>(x)) {
+            // Opaque: the two forms' common steps are not hoisted above the branch,
+            // which left the far round with the near round's registers on the stack.
 #pragma GCC unroll 8
             for (int k = 0; k < N; ++k)
-                y[k] = Expm1Ha(x[k]);
+                y[k] = Expm1Of<L>(Opaque(x[k]));
         } else {
 #pragma GCC unroll 8
             for (int k = 0; k < N; ++k)
-                y[k] = Expm1HaFar(x[k]);
+                y[k] = Expm1HaFarOf(x[k]);
         }
     }
     static V Eval(V x, V& special) {
