@@ -161,6 +161,7 @@ BRENN_TRIG_HOT __m128d ByTable(__m128d a, bool cosine, bool exact) {
 }
 // The same for M registers below the limit (the HA round), each step over all of them
 // before the next, so that their chains interleave; the same operations lane by lane.
+// Sine's round gives a with its sign (the steps are odd in it).
 template <int M>
 BRENN_TRIG_HOT void ByTableShort(const __m128d* a, bool cosine, __m128d* y) {
     alignas(16) int32_t J[M][2];
@@ -182,6 +183,21 @@ BRENN_TRIG_COLD __m128d ByTableLarge(__m128d a, bool cosine) {
 // Whether the scalar routine's element is finite (EP sends its lanes above 2^24 there).
 inline bool Finite(double x) {
     return __builtin_fabs(x) <= 0x1.fffffffffffffp+1023;
+}
+
+// Whether any lane of N registers is above the limit or has a zero high word (zeros and
+// denormals below 2^-1042), on the high words alone as AnyAboveD: each magnitude's high
+// word plus 0x7FFFFFFF (modulo 2^32) takes a zero one to the greatest signed word and
+// the others, in order, below every one it had; the low words, unchanged, are compared
+// with 0x7FFFFFFF as there.
+template <int N>
+BRENN_TRIG_HOT bool AnyAboveOrZeroD(const __m128d* x, uint64_t limitBits) {
+    const I32x4 bias = BitCast<I32x4>(Set<uint64_t>(0x7FFFFFFFull << 32));
+    I32x4 m = Add(BitCast<I32x4>(AsInt(Abs(x[0]))), bias);
+    BRENN_EACH(k, N - 1) m = Max(m, Add(BitCast<I32x4>(AsInt(Abs(x[k + 1]))), bias));
+    const uint32_t high = uint32_t(limitBits >> 32) - 1 + 0x7FFFFFFFu;
+    const I32x4 limit = BitCast<I32x4>(Set<uint64_t>(uint64_t(high) << 32 | 0x7FFFFFFFu));
+    return MaskBits(Gt(m, limit)) != 0;
 }
 
 // Registers a step in a round: HA's table four (two measured 10.9 ticks an element for
@@ -220,15 +236,25 @@ struct Body {
     static constexpr int kRound = 16;
     static int EvalWide(const __m128d* x, __m128d* y) {
         __m128d a[8];
+        if constexpr (L == Level::HA && !kCos) {
+            // Sine runs on x with its sign: every step is odd in x (rounding to nearest
+            // is symmetric, j and r change sign, and the row at -j mod 128 holds sin A
+            // negated and cos A as it is), so each lane gets the bits of sin |x| with the
+            // sign of x, and no argument stays live for the sign (6.4 -> 5.9 ticks). A
+            // zero would lose its sign (the row's +0 plus -0 is +0): zeros and the
+            // smallest denormals take the element path with the large lanes.
+            if (__builtin_expect(AnyAboveOrZeroD<8>(x, kLimitD), 0))
+                return EvalEach<Body, 8>(x, y);
+#pragma GCC unroll 8
+            for (int g = 0; g < 8; g += kTableStep)
+                ByTableShort<kTableStep>(x + g, false, y + g);
+            return 0;
+        }
         if (__builtin_expect(AnyAboveD<8>(x, a, kLimitD), 0)) return EvalEach<Body, 8>(x, y);
         if constexpr (L == Level::HA) {
-            // Sine's sign put back at the end of each step, not of the round: the round's
-            // arguments then need not stay live through the steps (6.9 -> 6.5 ticks).
 #pragma GCC unroll 8
-            for (int g = 0; g < 8; g += kTableStep) {
+            for (int g = 0; g < 8; g += kTableStep)
                 ByTableShort<kTableStep>(a + g, kCos, y + g);
-                if (!kCos) BRENN_EACH(k, kTableStep) y[g + k] = Xor(y[g + k], SignBit(x[g + k]));
-            }
         } else {
             // EP's sine takes x with its sign.
             ShortPiEach<L, kPiStep>(L == Level::EP && !kCos ? x : a, kCos, y);
