@@ -48,11 +48,10 @@ struct RootRanges<double> {
 template <Level L>
 inline constexpr int kRootTerms = L == Level::HA ? 4 : L == Level::LA ? 3 : 2;
 
-// The root of positive normal double lanes with x's sign put back where the root is odd.
+// The root of normal double lanes, with x's sign where the root is odd.
 template <Root R, Level L>
 inline __m128d SignedRoot(__m128d x) {
-    __m128d v = RootOf<R, kRootTerms<L>, L == Level::HA>(Abs(x));
-    return R == Root::Pow2o3 ? v : Or(v, SignBit(x));
+    return RootOf<R, kRootTerms<L>, L == Level::HA>(x);
 }
 
 template <Root R, Level L>
@@ -118,22 +117,24 @@ struct RootBody {
     static BRENN_VEC int EvalWide(const V* x, V* y) {
         if constexpr (sizeof(T) == 8 || L == Level::HA) {
             constexpr int N = 16 / kLanes<T>;
-            V ax[N];
             int bits = 0;
 #pragma GCC unroll 8
-            for (int k = 0; k < N; ++k) {
+            for (int k = 0; k < N; ++k)
                 bits |= MaskBits(RangeTest(x[k], RootRanges<T>::template kSpecial<L>))
                         << (kLanes<T> * k);
-                ax[k] = Abs(x[k]);
-            }
-            if constexpr (sizeof(T) == 8)
-                RootRound<R, kRootTerms<L>, L == Level::HA, N>(ax, y);
-            else
-                RootRoundWide<R, N>(ax, y);
-            if constexpr (R != Root::Pow2o3) {
+            if constexpr (sizeof(T) == 8) {
+                RootRound<R, kRootTerms<L>, L == Level::HA, N>(x, y);
+            } else {
+                V ax[N];
 #pragma GCC unroll 8
                 for (int k = 0; k < N; ++k)
-                    y[k] = Or(y[k], SignBit(x[k]));
+                    ax[k] = Abs(x[k]);
+                RootRoundWide<R, N>(ax, y);
+                if constexpr (R != Root::Pow2o3) {
+#pragma GCC unroll 8
+                    for (int k = 0; k < N; ++k)
+                        y[k] = Or(y[k], SignBit(x[k]));
+                }
             }
             return bits;
         } else {
