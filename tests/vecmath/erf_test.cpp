@@ -261,8 +261,11 @@ TEST(ErfRows, DoubleLongExpansionAsStated) {
     for (int j = 0; j < 768; ++j)
         for (double off : {-0.5, -0x1p-20, 0.0, 0x1p-30, 0.4999999})
             if (j + off >= 0) x.push_back((j + off) / 128);
+    // Beyond the grid's end: up to the last value of its high word, the next one, and
+    // values whose low words are all ones (DBL_MAX), which the hold must not let through.
     for (double e : {0.02734375, 0x1.bffffffffffffp-6, 0x1.0000000000001p-256, 5.9921875,
-                     5.9921876, 6.0, 1e300, double(INFINITY), 0.0})
+                     5.9921876, 0x1.7f800ffffffffp+2, 0x1.7f80100000000p+2, 0x1.8000000000001p+2,
+                     0x1.00000ffffffffp+3, 6.0, 1e300, DBL_MAX, double(INFINITY), 0.0})
         for (double v : {e, -e})
             x.push_back(v);
     std::vector<double> y(x.size());

@@ -79,24 +79,38 @@ BRENN_VEC __m128d ErfShort(__m128d x, __m128d& beyond) {
     return Or(Add(v, Add(w, Mul(r, w))), SignBit(x));
 }
 
+// |x| held at most at the grid's end by the high words alone (an unsigned minimum of the
+// 32-bit lanes, the low words against all ones): a lane above it runs at 5.9921875 and at
+// most 2^-18 more, where erf is 1 to the last bit as at the end, and a NaN lane raises
+// nothing. The round's largest high word (signed, the low words' maximum never above
+// 0x7FFFFFFF) tells whether there is such a lane.
+constexpr uint32_t kLimitHigh = 0x4017F800u; // 5.9921875's high word, its low word 0
+BRENN_VEC I32x4 HeldAtLimit(__m128d ax) {
+    const I32x4 k = BitCast<I32x4>(Set<uint64_t>((uint64_t(kLimitHigh) << 32) | 0xFFFFFFFFu));
+    return I32x4{_mm_min_epu32(AsInt(ax).v, k.v)};
+}
+BRENN_VEC bool AnyBeyondLimit(I32x4 top) {
+    const I32x4 k = BitCast<I32x4>(Set<uint64_t>((uint64_t(kLimitHigh) << 32) | 0x7FFFFFFFu));
+    return MaskBits(Gt(top, k)) != 0;
+}
+
 // HA: the scheme of ErfShort with the longer series R = S(2t, u) - 1 of grid_core.h (cut kCutHA,
 // the exact Taylor terms, rows by Horner) and w = d*D kept in two parts, d and D split at their
 // high words (dh*Dh exact), wl = dh*Dl + dl*D: erf = h + (e + (vlo + (wl + R*w))) with h + e = V +
 // wh exactly and vlo = erf(xj) - V. Each step over the round's N registers before the next
 // (the chains of the round side by side: 7.8 -> 7.0 ticks an element against one register
-// at a time). |x| is held at the limit by its bits (`beyond` gets those lanes); lanes below
-// 0.02734375 are ErfSmall's: they run here at 0.02734375, so that u = d^2 raises nothing, and
-// `least` gets the round's least held |x|, which tells whether there are any.
+// at a time). |x| is held at the limit by its high word (HeldAtLimit; `top` gets the high
+// words); lanes below 0.02734375 are ErfSmall's: they run here at 0.02734375, so that u = d^2
+// raises nothing, and `least` gets the round's least held |x|, which tells whether there are
+// any.
 template <int N>
-BRENN_VEC void ErfLongRound(const __m128d* x, __m128d* y, __m128d& beyond, __m128d& least) {
+BRENN_VEC void ErfLongRound(const __m128d* x, __m128d* y, I32x4& top, __m128d& least) {
     __m128d sh[N], d[N], r[N], u[N];
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k) {
         __m128d ax = Abs(x[k]);
-        __m128d lim = Set<double>(5.9921875);
-        __m128d held = AsFloat(Gt(AsInt(ax), AsInt(lim)));
-        beyond = Or(beyond, held);
-        __m128d a = IfThenElse(held, lim, ax);
+        top = Max(top, BitCast<I32x4>(AsInt(ax)));
+        __m128d a = AsFloat(BitCast<I64x2>(HeldAtLimit(ax)));
         least = Min(least, a);
         a = Max(a, Set<double>(0.02734375));
         sh[k] = Add(a, Set<double>(kShifter128));
@@ -173,11 +187,13 @@ BRENN_VEC void ErfDouble(const __m128d* x, __m128d* y) {
             y[k] = ErfShort(x[k], beyond);
     } else if constexpr (L == Level::HA) {
         __m128d least = Set<double>(0.02734375);
-        ErfLongRound<N>(x, y, beyond, least);
+        I32x4 top = Set<int32_t>(0);
+        ErfLongRound<N>(x, y, top, least);
         if (__builtin_expect(MaskBits(Lt(least, Set<double>(0.02734375))) != 0, 0)) {
             for (int k = 0; k < N; ++k)
                 y[k] = ErfSmall(x[k], y[k]);
         }
+        if (__builtin_expect(AnyBeyondLimit(top), 0)) beyond = AsFloat(Set<int64_t>(-1));
     } else {
         beyond = GridEvalRound<ErfGridLA, kCutLA, GridSum::Plain, N>(x, y);
 #pragma GCC unroll 8
