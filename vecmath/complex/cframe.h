@@ -277,12 +277,49 @@ struct ComplexFrame {
             y[i + k] = r[k];
     }
 
+    // The last m elements of a stepped body, more than a group and fewer than a round,
+    // through a round of copies: the groups' chains overlap as in a whole round, where
+    // group by group each would wait out its own.
+    static void SteppedTail(const B& body, const In* a, const In* b, Out* y, int i, int m) {
+        constexpr int N = kGroupsARound<B>;
+        alignas(16) In ta[N * K], tb[N * K];
+        for (int k = 0; k < N * K; ++k) {
+            FillSafe(ta[k]);
+            FillSafe(tb[k]);
+        }
+        for (int k = 0; k < m; ++k) {
+            ta[k] = a[i + k];
+            if (b) tb[k] = b[i + k];
+        }
+        Cx<T> ca[N], cb[N], cy[N];
+        for (int g = 0; g < N; ++g) {
+            ca[g] = LoadParts(ta + g * K);
+            if (b) cb[g] = LoadParts(tb + g * K);
+        }
+        int bits = body.EvalGroups(ca, b ? cb : nullptr, cy) & ((1 << m) - 1);
+        alignas(16) Out r[N * K];
+        for (int g = 0; g < N; ++g)
+            StoreParts(r + g * K, cy[g]);
+        if constexpr (kHasScalar<B>)
+            for (int g = 0; g * K < m; ++g) {
+                int bg = (bits >> (g * K)) & ((1 << K) - 1);
+                if (bg) Special(body, a, b, y, i + g * K, bg, r + g * K);
+            }
+        for (int k = 0; k < m; ++k)
+            y[i + k] = r[k];
+    }
+
     static void Run(const B& body, int n, const In* a, const In* b, Out* y) {
         Env<B> env = Enter<B>();
         constexpr int R = kStepped<B> ? kGroupsARound<B> * K : 2 * K;
         int i = 0;
         for (; i + R <= n; i += R)
             Round(body, a, b, y, i);
+        if constexpr (kStepped<B>)
+            if (n - i > K) {
+                SteppedTail(body, a, b, y, i, n - i);
+                i = n;
+            }
         for (; i < n; i += K)
             Partial(body, a, b, y, i, n - i < K ? n - i : K);
         Leave(env);
