@@ -8,6 +8,9 @@
  *     bits of weight 2^0 and above are zero.
  *   - sinCosPi64: sin and cos of j*pi/64 for j = 0..127, each as a rounded double and
  *     the rounded remainder, for the table method of the double kernels.
+ *   - sinCosPi64Split: the same rows with cos's rest replaced by what the exact product
+ *     of the table method needs, cos's low part beyond its first 26 significant bits,
+ *     (ch - chh) + cl rounded in double as the kernels would form it.
  *   - the three parts of pi/64 used with that table.
  * Prints the C++ source of vecmath/trig/tables.cpp to stdout; with the argument "tan",
  * that of vecmath/trig/tan_table.cpp: tan(j pi/64) for j = -16..15 in two parts, the
@@ -47,14 +50,30 @@ void Window(mpfr_t invPi, long j0, int words, FILE* out) {
 }
 
 // Prints v rounded to double, and the rest rounded to double.
-void HiLo(mpfr_t v, FILE* out) {
+void HiLo(mpfr_t v, double& hi, double& lo) {
     mpfr_t r;
     mpfr_init2(r, kPrec);
-    double hi = mpfr_get_d(v, MPFR_RNDN);
+    hi = mpfr_get_d(v, MPFR_RNDN);
     mpfr_sub_d(r, v, hi, MPFR_RNDN);
-    double lo = mpfr_get_d(r, MPFR_RNDN);
-    fprintf(out, "%a, %a", hi, lo);
+    lo = mpfr_get_d(r, MPFR_RNDN);
     mpfr_clear(r);
+}
+void HiLo(mpfr_t v, FILE* out) {
+    double hi, lo;
+    HiLo(v, hi, lo);
+    fprintf(out, "%a, %a", hi, lo);
+}
+
+// hi with its significand cut to 26 bits (the kernels' mask 0xFFFFFFFFF8000000), and
+// the rest hi - head (exact) plus lo, rounded once.
+double RestBeyondHead(double hi, double lo) {
+    uint64_t bits;
+    memcpy(&bits, &hi, 8);
+    bits &= 0xFFFFFFFFF8000000ull;
+    double head;
+    memcpy(&head, &bits, 8);
+    volatile double rest = hi - head;
+    return rest + lo;
 }
 
 } // namespace
@@ -114,6 +133,19 @@ int main(int argc, char** argv) {
         fprintf(out, ", ");
         HiLo(c, out);
         fprintf(out, "},\n");
+    }
+    fprintf(out, "};\n\n");
+    // sin(j pi/64), its rest, cos(j pi/64), cos's rest beyond its 26-bit head.
+    fprintf(out, "alignas(16) const double sinCosPi64Split[128][4] = {\n");
+    for (long j = 0; j < 128; ++j) {
+        mpfr_mul_si(t, pi, j, MPFR_RNDN);
+        mpfr_div_ui(t, t, 64, MPFR_RNDN);
+        mpfr_sin_cos(s, c, t, MPFR_RNDN);
+        double ch, cl;
+        HiLo(c, ch, cl);
+        fprintf(out, "    {");
+        HiLo(s, out);
+        fprintf(out, ", %a, %a},\n", ch, RestBeyondHead(ch, cl));
     }
     fprintf(out, "};\n\n");
     // pi/64 in four parts: the first three of 24 significant bits so that their

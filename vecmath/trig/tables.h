@@ -14,6 +14,9 @@ extern const uint32_t twoOverPiBits[256][3];
 extern const uint32_t twoOverPiBits64[2048][6];
 // sin(j pi/64) high and low, cos(j pi/64) high and low, j = 0..127.
 extern const double sinCosPi64[128][4];
+// The same rows with cos(j pi/64)'s low part taken beyond its first 26 significant bits:
+// sin high and low, cos high, (cos high - its 26-bit head) + cos low, rounded.
+extern const double sinCosPi64Split[128][4];
 // pi/64 = [0] + [1] + [2] + [3]; the first three have 24 significant bits.
 extern const double kPi64Parts[4];
 // pi/64 = [0] + [1] + [2] in x87 extended; the first two have 35 significant bits.
