@@ -170,14 +170,15 @@ BRENN_TRIG_HOT void QuotientLA(const __m128d* a, const __m128d* n, const __m128d
         BRENN_EACH(k, M) m[k] = MulAdd(u[k], m[k], Set<double>(S::kC[i]));
     BRENN_EACH(k, M) m[k] = Mul(u[k], m[k]);
     BRENN_EACH(k, M) c[k] = Add(Set<double>(1), m[k]);
-    // n odd (odd holds the sign bit alone): -c/s, whose relative error is the opposite.
+    // n odd (odd holds the sign bit alone): -c/s, whose relative error is the opposite:
+    // with Q = c/s and d = ds/s - dc/c, -Q (1 - d) = -Q + Q d, and s/c (1 + d) = Q + Q d.
     BRENN_EACH(k, M) {
         __m128d top = IfThenElse(odd[k], c[k], s[k]);
         __m128d bot = IfThenElse(odd[k], s[k], c[k]);
-        __m128d q0 = Xor(Div(top, bot), odd[k]);
+        __m128d q0 = Div(top, bot);
         __m128d ndc = Sub(Sub(c[k], Set<double>(1)), m[k]);
-        __m128d d = Xor(Add(Mul(ds[k], RoughRecip(s[k])), Mul(ndc, Set<double>(kRecipC))), odd[k]);
-        q[k] = Add(q0, Mul(q0, d));
+        __m128d d = Add(Mul(ds[k], RoughRecip(s[k])), Mul(ndc, Set<double>(kRecipC)));
+        q[k] = Add(Xor(q0, odd[k]), Mul(q0, d));
     }
 }
 
