@@ -166,9 +166,17 @@ BRENN_VEC void RootRound(const __m128d* x, __m128d* v) {
             const __m128d z2 = Mul(zc, zc);
             const __m128d mh = And(bigM[k], AsFloat(Set<uint64_t>(0xFFFFE00000000000ull)));
             const __m128d ml = Sub(bigM[k], mh);
-            // mh*z (23 bits) beside z^2, then their product: mh*z^3 one product sooner.
-            e[k] = Opaque(
-                Add(Sub(Mul(Mul(mh, zc), z2), Set<double>(1.0)), Mul(Mul(ml, zc), z2)));
+            if constexpr (R == Root::Pow2o3) {
+                // mh*z (23 bits) beside z^2, then their product: mh*z^3 one product
+                // sooner, mh*z and ml*z shared with the lead.
+                e[k] = Opaque(
+                    Add(Sub(Mul(Mul(mh, zc), z2), Set<double>(1.0)), Mul(Mul(ml, zc), z2)));
+            } else {
+                // z^3 exact (45 bits), mh*z^3 exact, ml*z^3 rounded once: one product
+                // fewer than through mh*z and ml*z, which the lead does not share here.
+                const __m128d z3 = Mul(zc, z2);
+                e[k] = Opaque(Add(Sub(Mul(mh, z3), Set<double>(1.0)), Mul(ml, z3)));
+            }
             if constexpr (R == Root::InvCbrt) {
                 hi[k] = zc;
             } else {
