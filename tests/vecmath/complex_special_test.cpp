@@ -415,6 +415,40 @@ TEST(ComplexSpecialValues, LnNearTheUnitCircleKeepsItsAccuracy) {
         }
 }
 
+// Double Arg and Ln test a round's windows once and skip the blends where no part lies
+// outside: one element at an end of a window (a part about 2^-500 or 2^500, the larger
+// part about 2^-450, zeros, infinities, NaNs) among ordinary ones, at every position of
+// a round of 24 elements, gives the bits it gives alone.
+TEST(ComplexSpecialValues, ArgAndLnWindowEdgesAmongOrdinaryElements) {
+    const double inf = std::numeric_limits<double>::infinity();
+    const double below = std::nextafter(0x1p-500, 0.0), under = std::nextafter(0x1p-450, 0.0);
+    const Z edges[] = {{0.75, 0x1p-500}, {0.75, below},      {below, -2.0},
+                       {0x1p-450, 0x1p-460}, {under, 0x1p-460}, {-0x1p-460, under},
+                       {0x1p500, 1.0},   {1.0, std::nextafter(0x1p500, 0.0)},
+                       {0.0, 0.0},       {-0.0, 1.5},       {inf, 1.0}, {1.0, std::nan("")}};
+    const int n = 24;
+    for (const Z& e : edges)
+        for (int slot : kCxSlots)
+            for (int at = 0; at < n; ++at) {
+                std::vector<Z> z(n), ln(n);
+                for (int i = 0; i < n; ++i)
+                    z[i] = {1.25 + i * 0.5, i % 3 - 1.0 + 0.125 * i};
+                z[at] = e;
+                std::vector<double> arg(n);
+                As<void (*)(int, const Z*, double*)>(CxRaw(frame::Row_zArg, slot))(n, z.data(),
+                                                                                 arg.data());
+                As<Unary<Z>>(CxRaw(frame::Row_zLn, slot))(n, z.data(), ln.data());
+                for (int i : {at, (at + 1) % n}) {
+                    double a1;
+                    As<void (*)(int, const Z*, double*)>(CxRaw(frame::Row_zArg, slot))(1, &z[i],
+                                                                                     &a1);
+                    Z l1 = CxCall(frame::Row_zLn, slot, z[i]);
+                    EXPECT_TRUE(SameValue(arg[i], a1)) << e.re << " " << e.im << " at " << at;
+                    EXPECT_TRUE(SameParts(ln[i], l1)) << e.re << " " << e.im << " at " << at;
+                }
+            }
+}
+
 // Double Arg HA and Ln HA's phase run the real Atan2 HA's steps in their own rounds: the
 // same bits as dAtan2 HA of (im, re) wherever an element stands, across magnitudes,
 // signs, zeros, denormals, the ends of the range and infinities (NaNs aside: the two

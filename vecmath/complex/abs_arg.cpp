@@ -192,15 +192,25 @@ struct ArgZ : ArgBody<double, L> {
             return ArgBody<double, L>::Eval(x, nullptr, y);
         }
     }
+    // The round's range tested once: where no part lies outside, no lane is blended.
     BRENN_VEC static int EvalGroups(const Cx<double>* x, const Cx<double>*, Cx<double>* y) {
         using S = typename Phase::State;
+        auto end = [](const S& s, Cx<double>& r) BRENN_STEP { r.re = Phase::End(s); };
+        auto middle = [](S& s) BRENN_STEP { Phase::Middle(s); };
+        if (__builtin_expect(!AnyOutside<kPartLo, kPartLo, kPartTop, kGroups>(x), 1))
+            return StepGroups<S, kGroups>(
+                x, y,
+                [](const Cx<double>& z, S& s) BRENN_STEP {
+                    Phase::StartInside(z.im, z.re, s);
+                    return 0;
+                },
+                end, middle);
         return StepGroups<S, kGroups>(
             x, y,
             [](const Cx<double>& z, S& s) BRENN_STEP {
                 return MaskBits(Phase::Start(z.im, z.re, s));
             },
-            [](const S& s, Cx<double>& r) BRENN_STEP { r.re = Phase::End(s); },
-            [](S& s) BRENN_STEP { Phase::Middle(s); });
+            end, middle);
     }
 };
 

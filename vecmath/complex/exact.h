@@ -224,6 +224,31 @@ BRENN_VEC int HighWordBits(I32x4 o) {
     return ((b >> 1) & 1) | ((b >> 2) & 2);
 }
 
+// Whether any element of N groups (parts re and im) has a part whose high word, sign
+// cleared, lies outside [PartLo, Top], or a larger part below LargerLo (the windows of
+// LargerHighWordOutside and of Atan2's range, for a whole round at once): the parts'
+// magnitudes' maximum folded over the round against Top, each group's smaller part
+// against PartLo and larger against LargerLo. The low words are masked to zero and the
+// lower limits carry the most negative low word, so that they never count. A NaN lies
+// above every window.
+template <int32_t PartLo, int32_t LargerLo, int32_t Top, int N, class G>
+BRENN_VEC bool AnyOutside(const G* x) {
+    const I32x4 mag = BitCast<I32x4>(Set<uint64_t>(0x7FFFFFFF00000000ull));
+    const I32x4 partLo = BitCast<I32x4>(Set<uint64_t>((uint64_t(PartLo) << 32) | 0x80000000u));
+    const I32x4 largerLo =
+        BitCast<I32x4>(Set<uint64_t>((uint64_t(LargerLo) << 32) | 0x80000000u));
+    I32x4 big = Zero<int32_t>(), low = Zero<int32_t>();
+#pragma GCC unroll 16
+    for (int g = 0; g < N; ++g) {
+        I32x4 a = And(BitCast<I32x4>(x[g].re), mag), b = And(BitCast<I32x4>(x[g].im), mag);
+        I32x4 larger = Max(a, b);
+        big = Max(big, larger);
+        low = Or(low, Or(Gt(partLo, Min(a, b)), Gt(largerLo, larger)));
+    }
+    const I32x4 top = BitCast<I32x4>(Set<uint64_t>((uint64_t(Top) << 32) | 0x7FFFFFFFu));
+    return MaskBits(Or(low, Gt(big, top))) != 0;
+}
+
 // x = m * 2^e with 1 <= |m| < 2 for a finite non-zero x (denormals renormalised);
 // e = 0 and m = x for zero.
 inline double Normalized(double x, int& e) {

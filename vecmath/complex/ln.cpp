@@ -65,29 +65,43 @@ struct LnZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, LnScalar
         LnReduction red;
         typename Phase::State phase;
     };
-    BRENN_VEC static int Start(const Cx<double>& x, State& s) {
-        constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
-        s.special = HighWordsToLanes(LargerHighWordOutside<kLo, kHi>(x.re, x.im));
-        __m128d re = IfThenElse(s.special, Set<double>(1), x.re);
-        __m128d im = IfThenZeroElse(s.special, x.im);
+    static constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
+    static_assert(kHi == kPartTop, "the larger part's window ends where the phase's does");
+    // |z|^2 and the log's reduction of lanes made safe.
+    BRENN_VEC static void Squares(__m128d re, __m128d im, State& s) {
         __m128d sh, sl;
         RawSumOfSquares(SplitRounded(re), SplitRounded(im), sh, sl);
         s.red = LnReduce(sh);
         s.ratio = Div(sl, sh);
+    }
+    BRENN_VEC static int Start(const Cx<double>& x, State& s) {
+        s.special = HighWordsToLanes(LargerHighWordOutside<kLo, kHi>(x.re, x.im));
+        Squares(IfThenElse(s.special, Set<double>(1), x.re), IfThenZeroElse(s.special, x.im), s);
         __m128d angle = Phase::Start(x.im, x.re, s.phase);
         return MaskBits(Or(s.special, angle));
     }
+    // The round's windows tested once: where no part lies outside, no lane is blended.
     BRENN_VEC static int EvalGroups(const Cx<double>* x, const Cx<double>*, Cx<double>* y) {
+        auto end = [](const State& s, Cx<double>& r) BRENN_STEP {
+            r.re = HalfLogJoin(s.h, s.r, s.t, s.ratio);
+            r.im = Phase::End(s.phase);
+        };
+        auto middle = [](State& s) BRENN_STEP {
+            LnCore3From<L>(s.red, s.h, s.r, s.t);
+            Phase::Middle(s.phase);
+        };
+        if (__builtin_expect(!AnyOutside<kPartLo, kLo, kHi, kGroups>(x), 1))
+            return StepGroups<State, kGroups>(
+                x, y,
+                [](const Cx<double>& z, State& s) BRENN_STEP {
+                    Squares(z.re, z.im, s);
+                    Phase::StartInside(z.im, z.re, s.phase);
+                    return 0;
+                },
+                end, middle);
         return StepGroups<State, kGroups>(
-            x, y, [](const Cx<double>& z, State& s) BRENN_STEP { return Start(z, s); },
-            [](const State& s, Cx<double>& r) BRENN_STEP {
-                r.re = HalfLogJoin(s.h, s.r, s.t, s.ratio);
-                r.im = Phase::End(s.phase);
-            },
-            [](State& s) BRENN_STEP {
-                LnCore3From<L>(s.red, s.h, s.r, s.t);
-                Phase::Middle(s.phase);
-            });
+            x, y, [](const Cx<double>& z, State& s) BRENN_STEP { return Start(z, s); }, end,
+            middle);
     }
 };
 

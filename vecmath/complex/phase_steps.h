@@ -15,6 +15,14 @@
 
 namespace brenn::vm::cx {
 
+// The window of both parts, the same at every level: high words (signs cleared) from
+// kPartLo to kPartTop. StartInside begins the steps of lanes known to lie inside it,
+// without the test and its blends (a round tested once, AnyOutside in exact.h).
+constexpr int32_t kPartLo = 0x20B00000, kPartTop = 0x5F2FFFFF; // 2^-500, below 2^500
+static_assert(invtrig::kRange<double>.mask == 0x7FFFFFFFu &&
+              invtrig::kRange<double>.offset == 0x80000000u - uint32_t(kPartLo) &&
+              invtrig::kRange<double>.limit == uint32_t(kPartTop) + 0x5F500000u);
+
 template <Level L>
 struct PhaseSteps {
     using Atan2 = invtrig::Atan2Body<double, L, invtrig::Unit::Radian>;
@@ -22,6 +30,10 @@ struct PhaseSteps {
     BRENN_VEC static __m128d Start(__m128d im, __m128d re, State& s) {
         Atan2::Start(im, re, s);
         return s.special;
+    }
+    BRENN_VEC static void StartInside(__m128d im, __m128d re, State& s) {
+        s.special = Zero<double>();
+        invtrig::AngleQuotient<Atan2::kComp>(im, re, s.s);
     }
     BRENN_VEC static void Middle(State& s) { Atan2::Middle(s); }
     BRENN_VEC static __m128d End(const State& s) { return Atan2::End(s); }
@@ -34,6 +46,9 @@ struct PhaseSteps<Level::HA> {
         __m128d special = Or(RangeTest(im, w), RangeTest(re, w));
         invtrig::Atan2DoubleQuotient(im, re, special, s);
         return special;
+    }
+    BRENN_VEC static void StartInside(__m128d im, __m128d re, State& s) {
+        invtrig::Atan2DoubleQuotient(im, re, Zero<double>(), s);
     }
     BRENN_VEC static void Middle(State& s) { invtrig::Atan2DoubleReduced(s); }
     BRENN_VEC static __m128d End(const State& s) { return invtrig::Atan2DoubleAngle(s); }
