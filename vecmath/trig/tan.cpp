@@ -289,15 +289,16 @@ BRENN_TRIG_HOT void TanSums(const int32_t* J, const __m128d* rh, const __m128d* 
     // reciprocal is of the bottom's rounded sum.
     BRENN_EACH(k, M) rb[k] = Div(Set<double>(1), Add(bh[k], bl[k]));
     // The quotient's head cut to 26 bits, qh, and the bottom's, bhh: th - qh bhh is exact
-    // (qh bhh has 52 bits and lies within about 2^-24 of th), and so is qh times the rest
-    // of bh (53 bits); what is left of the top, about 2^-25 of th, is divided by the
-    // reciprocal: y = qh + e/b, rounded once at the end.
+    // (qh bhh has 52 bits and lies within 2^-10 of th); the rest of the bottom, its head's
+    // 27 bits below bhh plus bl, at most 2^-10 of it, is multiplied by qh and subtracted,
+    // and tl added, each rounding below 2^-62 of th; what is left of the top, about 2^-25
+    // of th, is divided by the reciprocal: y = qh + e/b, rounded once at the end.
     const __m128d head = SplatBits<double>(kHead26);
     BRENN_EACH(k, M) q[k] = And(Mul(th[k], rb[k]), head);
     BRENN_EACH(k, M) {
         __m128d bhh = And(bh[k], head);
-        __m128d e = Sub(Sub(th[k], Mul(q[k], bhh)), Mul(q[k], Sub(bh[k], bhh)));
-        e = Add(e, Sub(tl[k], Mul(q[k], bl[k])));
+        __m128d e = Sub(Sub(th[k], Mul(q[k], bhh)), Mul(q[k], Add(Sub(bh[k], bhh), bl[k])));
+        e = Add(e, tl[k]);
         y[k] = Xor(Add(q[k], Mul(e, rb[k])), And(odd[k], SignMask<double>()));
     }
 }
