@@ -1,8 +1,9 @@
 // Generates vecmath/explog/explog_tables.cpp, the constant tables of the exponential
 // and logarithm kernels, from MPFR at 256 bits:
 //   exp tables: 2^(j/N) for N = 64 and 128 in single (a high part and the rest relative to it),
-//   N = 64, 128 and 256 in double (a high part and the rounded rest), N = 256 with the
-//   rest relative to the high part, and N = 1024 (double, one part);
+//   N = 64, 128 and 256 in double (a high part and the rounded rest), N = 256 in two
+//   columns of their own, the high part less j*2^44 in its bits and the rest relative
+//   to the high part, and N = 1024 (double, one part);
 //   log rows: for the centres c = 1 + j/512, j = 0..512, a reciprocal of c rounded to
 //   43 bits (so that c times it is exact in double), -ln of that reciprocal, split
 //   into a high part on the grid of 2^-42 (so that k*ln2hi + high is exact) and the
@@ -15,7 +16,9 @@
 //   and -log_B of it rounded to double, a 16-byte row;
 //   the rows of the single HA logarithms: -log_B(t/64), t = 48..96, in two singles.
 //   gen_explog_tables OUT
+#include <cstdint>
 #include <cstdio>
+#include <cstring>
 #include <mpfr.h>
 
 namespace {
@@ -46,9 +49,8 @@ void ExpTableF(FILE* out, const char* name, long n) {
     mpfr_clears(v, t, (mpfr_ptr)0);
 }
 
-// Double rows: a high part and the rounded rest (pair), the rest relative to the high
-// part, (2^(j/N) - hi)/hi (relative), or the high part alone.
-void ExpTableD(FILE* out, const char* name, long n, bool pair, bool relative = false) {
+// Double rows: a high part and the rounded rest (pair), or the high part alone.
+void ExpTableD(FILE* out, const char* name, long n, bool pair) {
     mpfr_t v, t;
     mpfr_inits2(kPrec, v, t, (mpfr_ptr)0);
     if (pair)
@@ -59,7 +61,6 @@ void ExpTableD(FILE* out, const char* name, long n, bool pair, bool relative = f
         Pow2(v, j, n);
         double hi = mpfr_get_d(v, MPFR_RNDN);
         mpfr_sub_d(t, v, hi, MPFR_RNDN);
-        if (relative) mpfr_div_d(t, t, hi, MPFR_RNDN);
         double lo = mpfr_get_d(t, MPFR_RNDN);
         if (pair)
             std::fprintf(out, "    {%a, %a},\n", hi, lo);
@@ -67,6 +68,41 @@ void ExpTableD(FILE* out, const char* name, long n, bool pair, bool relative = f
             std::fprintf(out, "    %a,\n", hi);
     }
     std::fprintf(out, "};\n\n");
+    mpfr_clears(v, t, (mpfr_ptr)0);
+}
+
+// The table of N = 2^k in two arrays: `scale`, the high part of 2^(j/N) with j*2^(52 - k)
+// taken from its bits, so that adding n*2^(52 - k) for n = N*m + j (the low bits of the
+// shifted n moved up by 52 - k) gives 2^m times the high part, and `rest`, (2^(j/N) -
+// hi)/hi. A lane then loads one double from each by the index scaled by 8.
+void ExpScaleRestD(FILE* out, const char* scale, const char* rest, long n, int log2n) {
+    mpfr_t v, t;
+    mpfr_inits2(kPrec, v, t, (mpfr_ptr)0);
+    double* hi = new double[n];
+    double* lo = new double[n];
+    for (long j = 0; j < n; ++j) {
+        Pow2(v, j, n);
+        hi[j] = mpfr_get_d(v, MPFR_RNDN);
+        mpfr_sub_d(t, v, hi[j], MPFR_RNDN);
+        mpfr_div_d(t, t, hi[j], MPFR_RNDN);
+        lo[j] = mpfr_get_d(t, MPFR_RNDN);
+    }
+    std::fprintf(out, "alignas(16) const double %s[%ld] = {\n", scale, n);
+    for (long j = 0; j < n; ++j) {
+        uint64_t bits;
+        std::memcpy(&bits, &hi[j], 8);
+        bits -= uint64_t(j) << (52 - log2n);
+        double d;
+        std::memcpy(&d, &bits, 8);
+        std::fprintf(out, "    %a,\n", d);
+    }
+    std::fprintf(out, "};\n\n");
+    std::fprintf(out, "alignas(16) const double %s[%ld] = {\n", rest, n);
+    for (long j = 0; j < n; ++j)
+        std::fprintf(out, "    %a,\n", lo[j]);
+    std::fprintf(out, "};\n\n");
+    delete[] hi;
+    delete[] lo;
     mpfr_clears(v, t, (mpfr_ptr)0);
 }
 
@@ -247,7 +283,7 @@ int main(int argc, char** argv) {
     ExpTableD(out, "expTable64", 64, true);
     ExpTableD(out, "expTable128", 128, true);
     ExpTableD(out, "expTable256", 256, true);
-    ExpTableD(out, "expRelTable256", 256, true, true);
+    ExpScaleRestD(out, "expScaleRows256", "expRelRest256", 256, 8);
     ExpTableD(out, "expTable1024", 1024, false);
     LogRows(out, "lnRows", 512);
     LogRows128(out, "lnTable128");

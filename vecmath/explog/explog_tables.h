@@ -7,8 +7,10 @@
  *                          the rows of the single HA logarithms;
  *   expTable64[j], expTable128[j], expTable256[j] = 2^(j/N) as a double high part and
  *                          the rounded rest;
- *   expRelTable256[j]      = 2^(j/256) as a double high part and the rest relative to
- *                          it, (2^(j/256) - hi)/hi;
+ *   expScaleRows256[j], expRelRest256[j] = 2^(j/256) as a double high part with j*2^44
+ *                          taken from its bits (adding n << 44 for n = 256m + j gives
+ *                          2^m times the high part), and the rest relative to the
+ *                          high part, (2^(j/256) - hi)/hi; one double a lane from each;
  *   expTable1024[j]        = 2^(j/1024), one double;
  *   lnRows[j]              = for the centre c = 1 + j/512: a reciprocal of c to 43 bits,
  *                        -ln(reciprocal) as a high part on the 2^-42 grid and the rest,
@@ -36,7 +38,8 @@ extern const float log2RecipRows[49][2];
 extern const double expTable64[64][2];
 extern const double expTable128[128][2];
 extern const double expTable256[256][2];
-extern const double expRelTable256[256][2];
+extern const double expScaleRows256[256];
+extern const double expRelRest256[256];
 extern const double expTable1024[1024];
 extern const double lnRows[513][4];
 extern const double lnTable128[128][3];

@@ -4,8 +4,8 @@
  * S = 2^m*2^(j/64), |r| <= ln2/128, degree 3 with the single constants, the steps in
  * double lanes and rounded once to single (Expm1Table64).
  * The double kernels reduce on the table of 256 (exp_core256.h's step; the rows
- * 2^(j/256) = Thi*(1 + d) of expRelTable256): e^x - 1 = 2^m*Thi*e^(r + d) - 1, S =
- * 2^m*Thi by exponent addition. HA (degree 5) takes S - 1 exactly and adds S*p to it
+ * 2^(j/256) = Thi*(1 + d) in two columns, Thi's less j*2^44 in its bits): e^x - 1 =
+ * 2^m*Thi*e^(r + d) - 1, S = 2^m*Thi by the integer addition of n*2^44 to the row. HA (degree 5) takes S - 1 exactly and adds S*p to it
  * (Expm1HaFar) but for |x| < 0.69, where it carries the first difference and its sum
  * with the leading part of the product exactly (Expm1HaNear); a round of sixteen with no
  * such argument runs the far form alone. LA (degree 5) rounds the sums (Expm1On256),
@@ -79,11 +79,12 @@ inline __m128d Expm1Core(__m128d x) {
     return IfThenElse(tiny, x, y);
 }
 
-// On the table of 256 (expRelTable256, the step of exp_core256.h): x = (256m + j)*ln2/256
-// + r, |r| <= ln2/512, T = 2^(j/256) = Thi*(1 + d) with d the row's relative rest, and
-// e^x - 1 = S*e^(r + d) - 1 to 2^-105, S = 2^m*Thi exact: d joins the low part of the
-// reduced argument, whose polynomial then carries Tlo*r too. p is fitted for relative
-// error against e^r - 1, so that where m and j are 0 the result is p itself.
+// On the table of 256 (expScaleRows256 and expRelRest256, the step of exp_core256.h):
+// x = (256m + j)*ln2/256 + r, |r| <= ln2/512, T = 2^(j/256) = Thi*(1 + d) with d the
+// row's relative rest, and e^x - 1 = S*e^(r + d) - 1 to 2^-105, S = 2^m*Thi exact: d
+// joins the low part of the reduced argument, whose polynomial then carries Tlo*r too.
+// p is fitted for relative error against e^r - 1, so that where m and j are 0 the
+// result is p itself.
 // Near 0 (|x| < kNear, m = 0 or -1) S - 1 and S*p may cancel; elsewhere |S*p| is below
 // 2^-8.4 of the result (m = 1, j = 0 the most) and HA needs no exact head.
 struct Expm1Table256 {
@@ -116,6 +117,21 @@ inline bool AnyNearZero(const __m128d* x) {
 inline __m128d Expm1Steps(__m128d x) {
     return Add(Mul(x, Set<double>(ExpStep256::kInvStep)), Set<double>(Format<double>::kShifter));
 }
+// S = 2^m*Thi from the lanes' rows of expScaleRows256 (Thi less j*2^44 in its bits):
+// n = 256m + j moved up by 44 bits (the bits of t above n's twenty leave the lane) and
+// added to the row's bits, so that j takes back its 2^44s and m goes into the exponent.
+// One double a lane from each column, by the index scaled by 8. The indices are read
+// before t is shifted in place (no copy of t kept for them).
+struct Expm1Rows {
+    int32_t j0, j1;
+};
+inline Expm1Rows Expm1RowsOf(__m128d t) {
+    return {LowWord<0>(AsInt(t)) & 255, LowWord<1>(AsInt(t)) & 255};
+}
+inline __m128d Expm1ScaleOf(Expm1Rows j, __m128d t) {
+    __m128d row = LoadLanes(&expScaleRows256[j.j0], &expScaleRows256[j.j1]);
+    return AsFloat(Add(AsInt(row), ShiftLeft<44>(AsInt(t))));
+}
 
 // For HA and LA: S, rh = x - n*stepHi (exact), rn = n*stepLo - d and r = rh - rn (d
 // joins the polynomial's argument). The low part is held negated so that x = -0 gives
@@ -128,11 +144,9 @@ inline Expm1Reduced Expm1Reduce256(__m128d x) {
     Expm1Reduced e;
     __m128d t = Expm1Steps(x);
     __m128d n = Sub(t, Set<double>(Format<double>::kShifter));
-    // Each row loaded as soon as its index is read, as ExpRows256 does.
-    __m128d row0 = LoadAligned(expRelTable256[LowWord<0>(AsInt(t)) & 255]);
-    __m128d row1 = LoadAligned(expRelTable256[LowWord<1>(AsInt(t)) & 255]);
-    __m128d th = InterleaveLower(row0, row1), d = InterleaveUpper(row0, row1);
-    e.big = ScaleByLowWord<8>(th, t);
+    Expm1Rows j = Expm1RowsOf(t);
+    __m128d d = LoadLanes(&expRelRest256[j.j0], &expRelRest256[j.j1]);
+    e.big = Expm1ScaleOf(j, t);
     e.rh = Sub(x, Mul(n, Set<double>(S::kStepHi)));
     e.rn = Sub(Mul(n, Set<double>(S::kStepLo)), d);
     e.r = Sub(e.rh, e.rn);
@@ -191,7 +205,7 @@ inline Expm1Plain Expm1PlainReduce(__m128d x) {
     __m128d t = Expm1Steps(x);
     __m128d n = Sub(t, shifter);
     __m128d r = Sub(x, Mul(n, Set<double>(ExpStep256::kStepHi + ExpStep256::kStepLo)));
-    __m128d s = ScaleByLowWord<8>(GatherColumn(expRelTable256, AsInt(t), 255), t);
+    __m128d s = Expm1ScaleOf(Expm1RowsOf(t), t);
     return {s, r};
 }
 inline __m128d Expm1EpOf(const Expm1Plain& e, __m128d c) {
