@@ -393,7 +393,8 @@ TEST(Trig, SingleTangentOfTinyArgumentsIsItself) {
 // The single sine and cosine short path, step by step in scalar arithmetic: a = |x|,
 // t = a/pi (+ 1/2 for cosine) + 1.5 * 2^23, the sign from t's low bit, n = t - 1.5 * 2^23
 // (- 1/2), r = a - n pi with pi in three single parts (HA: in double, two parts; LA: the
-// same in double where the single remainder's square is below 2^-18), the level's series,
+// same in double where the single remainder's square is below 2^-18), the level's series
+// (HA: r (1 + u P(u)) in double, 1 + u P(u) as (1 + c3 u) + u^2 ((c5 + c7 u) + c9 u^2)),
 // and sine's sign of x. Cosine below 2^-12 is 1.0 at LA and EP.
 uint32_t F2U(float v) {
     uint32_t u;
@@ -420,11 +421,9 @@ float SinCosSteps(int slot, bool cosine, float x) {
     if (slot == 1) {
         const double c[] = {-0x1.55554bc836587p-3, 0.0083330662460856901, -0.00019809602902257352,
                             0x1.5dbdf0e4c7deep-19};
-        double r = (double(a) - double(n) * d0) - double(n) * d1, u = r * r;
-        double q = c[3];
-        for (int i = 2; i >= 0; --i)
-            q = u * q + c[i];
-        p = float(r * (u * q + 1.0));
+        double r = (double(a) - double(n) * d0) - double(n) * d1, u = r * r, u2 = u * u;
+        double hi = u2 * c[3] + (u * c[2] + c[1]);
+        p = float(r * (u2 * hi + (u * c[0] + 1.0)));
     } else {
         float r = ((a - n * p0) - n * p1) - n * p2, u = r * r;
         if (slot == 2) {
