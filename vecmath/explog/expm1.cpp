@@ -5,11 +5,12 @@
  * double lanes and rounded once to single (Expm1Table64).
  * The double kernels reduce on the table of 256 (exp_core256.h's step; the rows
  * 2^(j/256) = Thi*(1 + d) in two columns, Thi's less j*2^44 in its bits): e^x - 1 =
- * 2^m*Thi*e^(r + d) - 1, S = 2^m*Thi by the integer addition of n*2^44 to the row. HA (degree 5) takes S - 1 exactly and adds S*p to it
- * (Expm1HaFar) but for |x| < 0.69, where it carries the first difference and its sum
- * with the leading part of the product exactly (Expm1HaNear); a round of sixteen with no
- * such argument runs the far form alone. LA (degree 5) rounds the sums (Expm1On256),
- * EP (degree 3) takes the high parts alone (Expm1EP, the form of single EP).
+ * 2^m*Thi*e^(r + d) - 1, S = 2^m*Thi by the integer addition of n*2^44 to the row.
+ * HA (degree 5) takes S - 1 exactly and adds S*p to it (Expm1HaFar) but for |x| < 0.69,
+ * where it carries the first difference and its sum with the leading part of the
+ * product exactly (Expm1HaNear); a round of sixteen with no such argument runs the far
+ * form alone. LA (degree 5) rounds the sums (Expm1LaOf), EP (degree 3) takes the high
+ * parts alone (Expm1EpOf, the form of single EP).
  * The scalar routines run the table core of exp_core.h: e^x - 1 = 2^m*T*(1 + p) - 1 with
  * the subtraction of 1 placed by m so that nothing cancels: for -1 <= m <= 52,
  * 2^m*((Thi - 2^-m) + s), the inner difference exact; for m > 52, 2^m*(Thi + (s - 2^-m));
