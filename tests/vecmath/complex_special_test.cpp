@@ -449,6 +449,30 @@ TEST(ComplexSpecialValues, ArgAndLnWindowEdgesAmongOrdinaryElements) {
             }
 }
 
+// Double Exp tests its round's windows once as well (|re| to 708.39 by the high word,
+// |im| below 2^24): one element at or past an end among ordinary ones, at every position
+// of a round, gives the bits it gives alone.
+TEST(ComplexSpecialValues, ExpWindowEdgesAmongOrdinaryElements) {
+    const double inf = std::numeric_limits<double>::infinity();
+    const Z edges[] = {{708.39, 1.0},  {-708.39, 2.0}, {708.4, 1.0},    {-745.0, 0.5},
+                       {1.0, 0x1p24},  {1.0, std::nextafter(0x1p24, 0.0)}, {0.5, -0x1p30},
+                       {inf, 1.0},     {-inf, 1.0},    {1.0, std::nan("")}, {2.0, inf}};
+    const int n = 8;
+    for (const Z& e : edges)
+        for (int slot : kCxSlots)
+            for (int at = 0; at < n; ++at) {
+                std::vector<Z> z(n), y(n);
+                for (int i = 0; i < n; ++i)
+                    z[i] = {0.375 * i - 1.0, 0.75 * i + 0.25};
+                z[at] = e;
+                As<Unary<Z>>(CxRaw(frame::Row_zExp, slot))(n, z.data(), y.data());
+                for (int i : {at, (at + 1) % n}) {
+                    Z y1 = CxCall(frame::Row_zExp, slot, z[i]);
+                    EXPECT_TRUE(SameParts(y[i], y1)) << e.re << " " << e.im << " at " << at;
+                }
+            }
+}
+
 // Double Arg HA and Ln HA's phase run the real Atan2 HA's steps in their own rounds: the
 // same bits as dAtan2 HA of (im, re) wherever an element stands, across magnitudes,
 // signs, zeros, denormals, the ends of the range and infinities (NaNs aside: the two

@@ -115,9 +115,24 @@ BRENN_VEC Cx<double> ExpOf(__m128d a, __m128d b) {
 }
 
 // Lanes outside |a| <= 708.39, |b| < 2^24, NaNs and infinities among them.
+constexpr int32_t kTopA = 0x40862329, kTopB = 0x416FFFFF;
 BRENN_VEC __m128d ExpOutside(__m128d a, __m128d b) {
-    return HighWordsToLanes(
-        Or(HighWordOutside<0, 0x40862329>(a), HighWordOutside<0, 0x416FFFFF>(b)));
+    return HighWordsToLanes(Or(HighWordOutside<0, kTopA>(a), HighWordOutside<0, kTopB>(b)));
+}
+// The same windows for N groups at once: each part's magnitudes' high words (low words
+// masked to zero) folded by their maximum over the round, against its top.
+template <int N>
+BRENN_VEC bool AnyExpOutside(const Cx<double>* x) {
+    const I32x4 mag = BitCast<I32x4>(Set<uint64_t>(0x7FFFFFFF00000000ull));
+    I32x4 a = Zero<int32_t>(), b = Zero<int32_t>();
+#pragma GCC unroll 8
+    for (int g = 0; g < N; ++g) {
+        a = Max(a, And(BitCast<I32x4>(x[g].re), mag));
+        b = Max(b, And(BitCast<I32x4>(x[g].im), mag));
+    }
+    const I32x4 topA = BitCast<I32x4>(Set<uint64_t>((uint64_t(kTopA) << 32) | 0x7FFFFFFFu));
+    const I32x4 topB = BitCast<I32x4>(Set<uint64_t>((uint64_t(kTopB) << 32) | 0x7FFFFFFFu));
+    return MaskBits(Or(Gt(a, topA), Gt(b, topB))) != 0;
 }
 
 template <Level L>
@@ -129,10 +144,16 @@ struct ExpZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, ExpScal
         y = ExpOf<L>(IfThenZeroElse(special, x->re), IfThenZeroElse(special, x->im));
         return MaskBits(special);
     }
-    BRENN_VEC static int EvalGroups(const Cx<double>* x, const Cx<double>*, Cx<double>* y) {
+    // The round's windows tested once: where no part lies outside, no lane is blended.
+    template <bool Test>
+    BRENN_VEC static int Steps(const Cx<double>* x, Cx<double>* y) {
         return StepGroups<ExpState, kGroups>(
             x, y,
             [](const Cx<double>& z, ExpState& s) BRENN_STEP {
+                if constexpr (!Test) {
+                    ExpReduce(z.re, z.im, s);
+                    return 0;
+                }
                 __m128d special = ExpOutside(z.re, z.im);
                 ExpReduce(IfThenZeroElse(special, z.re), IfThenZeroElse(special, z.im), s);
                 return MaskBits(special);
@@ -140,6 +161,10 @@ struct ExpZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, ExpScal
             [](const ExpState& s, Cx<double>& r) BRENN_STEP { r = ExpJoin<L>(s); },
             [](ExpState& s) BRENN_STEP { ExpPart<L>(s); },
             [](ExpState& s) BRENN_STEP { TrigPart<L>(s); });
+    }
+    BRENN_VEC static int EvalGroups(const Cx<double>* x, const Cx<double>*, Cx<double>* y) {
+        if (__builtin_expect(!AnyExpOutside<kGroups>(x), 1)) return Steps<false>(x, y);
+        return Steps<true>(x, y);
     }
 };
 
