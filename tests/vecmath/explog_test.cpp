@@ -608,6 +608,8 @@ TEST(ExpLog, ExponentialsWhereTheReductionSteps) {
         {frame::Row_dExpm1, expm1l, ln2, -60, 60},
         {frame::Row_dExpm1, expm1l, ln2, 1000, 1020},
         {frame::Row_dExpm1, expm1l, ln2 / 64, -100, 100},
+        // every row of the double kernels' table of 256, m from -3 to 2
+        {frame::Row_dExpm1, expm1l, ln2 / 256, -700, 700},
     });
 }
 
