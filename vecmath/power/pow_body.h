@@ -150,18 +150,19 @@ BRENN_VEC __m128d PowSingleHalf(__m128d m, __m128d k, __m128d y, const double* r
 constexpr double kPowLnQHA[] = {-0x1.ffffffffffe0dp-2, 0x1.555567ade28bap-2,
                                 -0x1.00001153e4dc5p-2};
 
-BRENN_VEC __m128d PowSingleHAHalf(__m128d q, __m128d m, __m128d k, __m128d y, const double* ta,
-                                  const double* tb) {
+// w = y*ln x of one half, as stated above.
+BRENN_VEC __m128d PowSingleHAW(__m128d q, __m128d m, __m128d k, __m128d y, const double* ta,
+                               const double* tb) {
     using S = PowSingleStep;
     __m128d r = Sub(Mul(m, Mul(q, Set<double>(0x1p-10))), Set<double>(1.0));
     __m128d h = Add(Mul(k, Set<double>(S::kLn2)), LoadLanes(ta, tb));
     __m128d t = Mul(Mul(r, r), Horner(r, kPowLnQHA));
-    return PowSingleExp<Level::HA>(Mul(y, Add(h, Add(r, t))));
+    return Mul(y, Add(h, Add(r, t)));
 }
 
-// The four lanes of single HA before the narrowing, lanes 0-1 in lo and 2-3 in hi: m the
-// significands in [1, 2), k the exponents, y the exponents of the power.
-BRENN_VEC void PowSingleHAWide(__m128 m, I32x4 k, __m128 y, __m128d& lo, __m128d& hi) {
+// w of the four lanes of single HA, lanes 0-1 in lo and 2-3 in hi: m the significands in
+// [1, 2), k the exponents, y the exponents of the power.
+BRENN_VEC void PowSingleHALogs(__m128 m, I32x4 k, __m128 y, __m128d& lo, __m128d& hi) {
     // 1024*e is exact in single, so it is scaled before the widening, four lanes at once,
     // and its conversion to integers rounds to nearest even as roundpd does: the rows'
     // q in one conversion for the four lanes.
@@ -169,10 +170,56 @@ BRENN_VEC void PowSingleHAWide(__m128 m, I32x4 k, __m128 y, __m128d& lo, __m128d
     const __m128d qlo = RoundEven(WidenLower(e));
     const __m128d qhi = RoundEven(WidenUpper(e));
     Indices at = IndicesOf(Sub(RoundToInt(e), Set<int32_t>(512)));
-    lo = PowSingleHAHalf(qlo, WidenLower(m), ToDoubleLower(k), WidenLower(y), powRcpLn + at.at[0],
-                         powRcpLn + at.at[1]);
-    hi = PowSingleHAHalf(qhi, WidenUpper(m), ToDoubleUpper(k), WidenUpper(y), powRcpLn + at.at[2],
-                         powRcpLn + at.at[3]);
+    lo = PowSingleHAW(qlo, WidenLower(m), ToDoubleLower(k), WidenLower(y), powRcpLn + at.at[0],
+                      powRcpLn + at.at[1]);
+    hi = PowSingleHAW(qhi, WidenUpper(m), ToDoubleUpper(k), WidenUpper(y), powRcpLn + at.at[2],
+                      powRcpLn + at.at[3]);
+}
+
+// The four lanes of single HA before the narrowing: their w, then e^w.
+BRENN_VEC void PowSingleHAWide(__m128 m, I32x4 k, __m128 y, __m128d& lo, __m128d& hi) {
+    PowSingleHALogs(m, k, y, lo, hi);
+    lo = PowSingleExp<Level::HA>(lo);
+    hi = PowSingleExp<Level::HA>(hi);
+}
+
+// The special lanes of single LA and HA (x not a positive normal, or y not finite
+// unless `FiniteY`), which run on x = 1 and y = 0; m and k of x = 2^k * m.
+template <bool FiniteY>
+BRENN_VEC __m128 PowSingleSplit(__m128& x, __m128& y, __m128& m, I32x4& k, I32x4& mant) {
+    using F = Format<float>;
+    __m128 sxy = LogSpecial(x);
+    if constexpr (!FiniteY) sxy = Or(sxy, RangeTest(y, PowRanges<float>::kY));
+    x = IfThenElse(sxy, Set<float>(1.0f), x);
+    if constexpr (!FiniteY) y = IfThenZeroElse(sxy, y);
+    const I32x4 b = AsInt(x);
+    mant = And(b, Set<uint32_t>(F::kMant));
+    m = AsFloat(Or(mant, Set<uint32_t>(F::kOne)));
+    k = Sub(ShiftRight<F::kMantBits>(b), Set<int32_t>(F::kBias));
+    return sxy;
+}
+
+// M registers of single HA at once: their logarithms and w, held apart (Opaque) so that
+// the compiler does not sink each into its exponential, then the eight halves' e^w, so
+// that the chains of the registers overlap.
+template <int M>
+BRENN_VEC void PowSingleHARound(const __m128* x, const __m128* y, __m128* v, __m128* special) {
+    __m128d w[2 * M];
+#pragma GCC unroll 4
+    for (int j = 0; j < M; ++j) {
+        __m128 xs = x[j], ys = y[j], m;
+        I32x4 k, mant;
+        special[j] = PowSingleSplit<false>(xs, ys, m, k, mant);
+        PowSingleHALogs(m, k, ys, w[2 * j], w[2 * j + 1]);
+        w[2 * j] = Opaque(w[2 * j]);
+        w[2 * j + 1] = Opaque(w[2 * j + 1]);
+    }
+#pragma GCC unroll 8
+    for (int h = 0; h < 2 * M; ++h)
+        w[h] = PowSingleExp<Level::HA>(w[h]);
+#pragma GCC unroll 4
+    for (int j = 0; j < M; ++j)
+        v[j] = Narrow(w[2 * j], w[2 * j + 1]);
 }
 
 // `FiniteY`: y finite in every lane (Powx's general body with a finite b), so that only x
@@ -183,15 +230,10 @@ BRENN_VEC __m128 PowOf(__m128 x, __m128 y, __m128& special) {
     if constexpr (L == Level::EP) {
         return PowSingleEP<Powx>(x, y, special);
     } else {
+        __m128 m;
+        I32x4 k, mant;
+        const __m128 sxy = PowSingleSplit<FiniteY>(x, y, m, k, mant);
         using F = Format<float>;
-        __m128 sxy = LogSpecial(x);
-        if constexpr (!FiniteY) sxy = Or(sxy, RangeTest(y, PowRanges<float>::kY));
-        x = IfThenElse(sxy, Set<float>(1.0f), x);
-        if constexpr (!FiniteY) y = IfThenZeroElse(sxy, y);
-        const I32x4 b = AsInt(x);
-        I32x4 mant = And(b, Set<uint32_t>(F::kMant));
-        __m128 m = AsFloat(Or(mant, Set<uint32_t>(F::kOne)));
-        I32x4 k = Sub(ShiftRight<F::kMantBits>(b), Set<int32_t>(F::kBias));
         if constexpr (L == Level::HA) {
             __m128d lo, hi;
             PowSingleHAWide(m, k, y, lo, hi);
