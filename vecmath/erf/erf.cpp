@@ -7,15 +7,15 @@
  * terms of erf(xj + d) in t, slightly tuned; erf = V + (w + R*w), w = d*D, and x's sign
  * OR-ed on. LA: the same with grid_core.h's longer series of S(tau, u) - 1 (u^3 left
  * out), V + (w + w*S1). HA: the same rows, a longer series still, w in two parts split at
- * the high words, V + wh summed exactly and V's remainder added (ErfLong), and a path of
- * its own below 0.02734375 (ErfSmall). Single EP and LA are the double EP (the grid held
+ * the high words, V + wh summed exactly and V's remainder added (ErfLongRound), and a path
+ * of its own below 0.02734375 (ErfSmall). Single EP and LA are the double EP (the grid held
  * at 3.9296875, from where erf is 1 in single) and LA bodies on the widened lanes. Single
  * HA runs on single lanes (grid_single.h, the single rows; its last sum on double lanes
  * with erfRows), the grid held at 3.9296875.
- * |x| is held at the grid's end by its bits, so that a NaN lane runs there and raises
- * nothing; NaN lanes are set aside after the body, one test a register or round. HA and
- * double LA run rounds of sixteen, each step over the round's registers
- * (GridEvalSingleRound, GridEvalRound). */
+ * |x| is held at the grid's end by its bits (in double by the high word, HeldAtLimit), so
+ * that a NaN lane runs there and raises nothing; NaN lanes are set aside after the body,
+ * one test a round. Every level runs rounds of sixteen, each step over the round's
+ * registers where the body has steps (ErfLongRound, GridEvalSingleRound, GridEvalRound). */
 #include <bit>
 
 #include "frame/kernels.h"
@@ -49,19 +49,17 @@ constexpr SeriesCut kCutHA{5, 4, 2, 1, true}, kCutLA{5, 4, 2, 0, true};
 constexpr SeriesCut kCutSingleHA{2, 1, 0, 0}, kCutSingleLA{2, 1, 0, 0}, kCutSingleEP{0, 0, 0, 0};
 
 // The EP expansion around the nearest grid point xj = j/128 (|x| held at the limit by its
-// bits, the lanes held OR-ed on beyond): t = xj*d, u = d^2 (0 while a is not above 2^-256,
-// so that tiny arguments do not underflow), R = t*P + u*Q with P, Q the Taylor terms of
-// erf(xj + d) in t (-1, 2/3; -1/3, 1/2), slightly tuned; erf = V + (w + R*w), w = d*D,
-// and x's sign OR-ed on.
+// high word, HeldAtLimit, the high words' maximum in `top`): t = xj*d, u = d^2 (0 while a
+// is not above 2^-256, so that tiny arguments do not underflow), R = t*P + u*Q with P, Q
+// the Taylor terms of erf(xj + d) in t (-1, 2/3; -1/3, 1/2), slightly tuned;
+// erf = V + (w + R*w), w = d*D, and x's sign OR-ed on.
 template <double kLimit = 5.9921875>
-BRENN_VEC __m128d ErfShort(__m128d x, __m128d& beyond) {
+BRENN_VEC __m128d ErfShort(__m128d x, I32x4& top) {
     constexpr double kP1 = 0.6666678110767819, kP0 = -1.0000014305126206;
     constexpr double kQ1 = 0.5000019073510884, kQ0 = -0.33333504994947405;
     __m128d ax = Abs(x);
-    __m128d lim = Set<double>(kLimit);
-    __m128d held = AsFloat(Gt(AsInt(ax), AsInt(lim)));
-    beyond = Or(beyond, held);
-    __m128d a = IfThenElse(held, lim, ax);
+    top = Max(top, BitCast<I32x4>(AsInt(ax)));
+    __m128d a = HeldAtLimit<kLimit>(ax);
     __m128d s = Add(a, Set<double>(kShifter128));
     __m128d xj = Sub(s, Set<double>(kShifter128));
     __m128d d = Sub(a, xj);
@@ -77,21 +75,6 @@ BRENN_VEC __m128d ErfShort(__m128d x, __m128d& beyond) {
     __m128d r = Add(Mul(t, p), Mul(u, q));
     __m128d w = Mul(d, deriv);
     return Or(Add(v, Add(w, Mul(r, w))), SignBit(x));
-}
-
-// |x| held at most at the grid's end by the high words alone (an unsigned minimum of the
-// 32-bit lanes, the low words against all ones): a lane above it runs at 5.9921875 and at
-// most 2^-18 more, where erf is 1 to the last bit as at the end, and a NaN lane raises
-// nothing. The round's largest high word (signed, the low words' maximum never above
-// 0x7FFFFFFF) tells whether there is such a lane.
-constexpr uint32_t kLimitHigh = 0x4017F800u; // 5.9921875's high word, its low word 0
-BRENN_VEC I32x4 HeldAtLimit(__m128d ax) {
-    const I32x4 k = BitCast<I32x4>(Set<uint64_t>((uint64_t(kLimitHigh) << 32) | 0xFFFFFFFFu));
-    return I32x4{_mm_min_epu32(AsInt(ax).v, k.v)};
-}
-BRENN_VEC bool AnyBeyondLimit(I32x4 top) {
-    const I32x4 k = BitCast<I32x4>(Set<uint64_t>((uint64_t(kLimitHigh) << 32) | 0x7FFFFFFFu));
-    return MaskBits(Gt(top, k)) != 0;
 }
 
 // HA: the scheme of ErfShort with the longer series R = S(2t, u) - 1 of grid_core.h (cut kCutHA,
@@ -110,7 +93,7 @@ BRENN_VEC void ErfLongRound(const __m128d* x, __m128d* y, I32x4& top, __m128d& l
     for (int k = 0; k < N; ++k) {
         __m128d ax = Abs(x[k]);
         top = Max(top, BitCast<I32x4>(AsInt(ax)));
-        __m128d a = AsFloat(BitCast<I64x2>(HeldAtLimit(ax)));
+        __m128d a = HeldAtLimit(ax);
         least = Min(least, a);
         a = Max(a, Set<double>(0.02734375));
         sh[k] = Add(a, Set<double>(kShifter128));
@@ -182,9 +165,11 @@ template <Level L, int N>
 BRENN_VEC void ErfDouble(const __m128d* x, __m128d* y) {
     __m128d beyond = Zero<double>();
     if constexpr (L == Level::EP) {
+        I32x4 top = Set<int32_t>(0);
 #pragma GCC unroll 8
         for (int k = 0; k < N; ++k)
-            y[k] = ErfShort(x[k], beyond);
+            y[k] = ErfShort(x[k], top);
+        if (__builtin_expect(AnyBeyondLimit(top), 0)) beyond = AsFloat(Set<int64_t>(-1));
     } else if constexpr (L == Level::HA) {
         __m128d least = Set<double>(0.02734375);
         I32x4 top = Set<int32_t>(0);
@@ -212,12 +197,12 @@ BRENN_VEC void ErfDouble(const __m128d* x, __m128d* y) {
 template <Level L, int N>
 BRENN_VEC void ErfSingle(const __m128* x, __m128* y) {
     if constexpr (L == Level::EP) { // in double, the grid held at 3.9296875
-        __m128d beyond = Zero<double>();
+        I32x4 top = Set<int32_t>(0);
 #pragma GCC unroll 4
         for (int k = 0; k < N; ++k)
-            y[k] = Narrow(ErfShort<3.9296875>(WidenLower(x[k]), beyond),
-                          ErfShort<3.9296875>(WidenUpper(x[k]), beyond));
-        if (__builtin_expect(MaskBits(beyond) != 0, 0)) {
+            y[k] = Narrow(ErfShort<3.9296875>(WidenLower(x[k]), top),
+                          ErfShort<3.9296875>(WidenUpper(x[k]), top));
+        if (__builtin_expect(AnyBeyondLimit<3.9296875>(top), 0)) {
             for (int k = 0; k < N; ++k)
                 y[k] = IfThenElse(Unordered(x[k], x[k]), Add(x[k], Zero<float>()), y[k]);
         }
@@ -263,9 +248,10 @@ struct ErfBody {
             ErfDouble<L, 1>(&x, &y);
         return y;
     }
-    // HA and double LA in rounds of sixteen, each step over the round's registers; single
-    // LA and both EPs one register at a time in rounds of eight (measured faster).
-    static constexpr int kRound = L == Level::HA || (sizeof(T) == 8 && L == Level::LA) ? 16 : 8;
+    // Rounds of sixteen at every level, each step over the round's registers where the
+    // body has steps (single LA on widened lanes: 5.10 -> 4.41 ticks an element against
+    // rounds of eight; the EPs the same or a little faster).
+    static constexpr int kRound = 16;
     static int EvalWide(const V* x, V* y) {
         constexpr int N = 16 / kLanes<T>;
         if constexpr (sizeof(T) == 4)

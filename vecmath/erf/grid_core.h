@@ -23,6 +23,8 @@
 #ifndef BRENN_VECMATH_ERF_GRID_CORE_H
 #define BRENN_VECMATH_ERF_GRID_CORE_H
 
+#include <bit>
+
 #include "vecmath/erf/erf_series.h"
 #include "vecmath/erf/erf_tables.h"
 #include "vecmath/frame/vec.h"
@@ -117,11 +119,32 @@ BRENN_VEC V SeriesLessOne(V t, V v) {
     return IfThenElse(band, Max(AsFloat(denormal), Zero<double>()), Mul(r, Set<double>(0x1p-600)));
 }
 
+// Erf's |x| held at most at the grid's end (a limit whose low word is 0) by the high words
+// alone: an unsigned minimum of the 32-bit lanes, the low words against all ones. A lane
+// above runs at the limit and at most 2^-18 more (2^32 ulps), where erf is 1 to the last
+// bit (single: to its last bit at 3.9296875) as at the end, and a NaN lane raises nothing.
+// The round's largest high word (a signed maximum; the low words', never above 0x7FFFFFFF,
+// pass no test) tells whether there is such a lane.
+template <double kLimit>
+constexpr uint64_t kLimitHigh = std::bit_cast<uint64_t>(kLimit) >> 32;
+template <double kLimit = 5.9921875>
+BRENN_VEC __m128d HeldAtLimit(__m128d ax) {
+    static_assert(uint32_t(std::bit_cast<uint64_t>(kLimit)) == 0, "the limit's low word is 0");
+    const I32x4 k = BitCast<I32x4>(Set<uint64_t>((kLimitHigh<kLimit> << 32) | 0xFFFFFFFFu));
+    return AsFloat(BitCast<I64x2>(I32x4{_mm_min_epu32(BitCast<I32x4>(AsInt(ax)).v, k.v)}));
+}
+template <double kLimit = 5.9921875>
+BRENN_VEC bool AnyBeyondLimit(I32x4 top) {
+    const I32x4 k = BitCast<I32x4>(Set<uint64_t>((kLimitHigh<kLimit> << 32) | 0x7FFFFFFFu));
+    return MaskBits(Gt(top, k)) != 0;
+}
+
 // F at the N registers x (a round of the kernels' or one register), each step taken over
 // every register before the next, so that the table loads issue together and the
-// series' chains overlap. Erf holds |x| at the limit by its bits, so that a NaN lane
-// runs there and raises nothing, and gets the lanes held (beyond the grid, infinities,
-// NaNs) OR-ed over the round; the mirrored grids see no NaN.
+// series' chains overlap. Erf holds |x| at the limit by its high word (HeldAtLimit), so
+// that a NaN lane runs there and raises nothing, and gets all ones when the round has a
+// lane beyond the limit's high word (infinities, NaNs), else 0; the mirrored grids see
+// no NaN.
 template <class G, SeriesCut C, GridSum Sum, int N>
 BRENN_VEC __m128d GridEvalRound(const __m128d* x, __m128d* y) {
     constexpr size_t W = sizeof(G::kRows[0]) / sizeof(double);
@@ -129,7 +152,7 @@ BRENN_VEC __m128d GridEvalRound(const __m128d* x, __m128d* y) {
     // (then the series); the rest is read or made again where it is used.
     __m128d sh[N], d[N], s1[N], u[N];
     // a = min(|x|, the side's limit), and whether x's side is mirrored and whether held.
-    auto held = [](__m128d xk, __m128d& mirror, __m128d& beyond) {
+    auto held = [](__m128d xk, __m128d& mirror, I32x4& top) {
         __m128d lim = Set<double>(G::kLimit);
         mirror = Zero<double>();
         if constexpr (G::kMirror != 0) {
@@ -138,18 +161,17 @@ BRENN_VEC __m128d GridEvalRound(const __m128d* x, __m128d* y) {
         }
         __m128d ax = Abs(xk);
         if constexpr (G::kMirror != 0) { // no NaN comes here
-            beyond = Zero<double>();
             return Min(ax, lim);
+        } else {
+            top = Max(top, BitCast<I32x4>(AsInt(ax)));
+            return HeldAtLimit<G::kLimit>(ax);
         }
-        beyond = AsFloat(Gt(AsInt(ax), AsInt(lim)));
-        return IfThenElse(beyond, lim, ax);
     };
-    __m128d anyBeyond = Zero<double>();
+    I32x4 top = Set<int32_t>(0);
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k) {
-        __m128d mirror, beyond;
-        __m128d a = held(x[k], mirror, beyond);
-        anyBeyond = Or(anyBeyond, beyond);
+        __m128d mirror;
+        __m128d a = held(x[k], mirror, top);
         sh[k] = Add(a, Set<double>(G::kShifter));
         __m128d xj = Sub(sh[k], Set<double>(G::kShifter));
         d[k] = Sub(a, xj);
@@ -193,7 +215,9 @@ BRENN_VEC __m128d GridEvalRound(const __m128d* x, __m128d* y) {
                                         Set<double>(0x1p-128)));
         }
     }
-    return anyBeyond;
+    if constexpr (G::kMirror == 0)
+        if (__builtin_expect(AnyBeyondLimit<G::kLimit>(top), 0)) return AsFloat(Set<int64_t>(-1));
+    return Zero<double>();
 }
 
 template <class G, SeriesCut C, GridSum Sum>
