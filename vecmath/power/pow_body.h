@@ -124,9 +124,8 @@ BRENN_VEC __m128d PowSingleExp(__m128d w) {
 // T), and exactly 0 at row 512 for k = -1 (T is ln 2 rounded): within 2^-43 of ln x
 // wherever it does not vanish. w = y*ln x in one double.
 // x must be a positive normal here: denormal x goes to the scalar routine.
-template <Level L>
-BRENN_VEC __m128d PowSingleHalf(__m128d m, __m128d k, __m128d y, const double* ra,
-                                const double* rb) {
+BRENN_VEC __m128d PowSingleLAW(__m128d m, __m128d k, __m128d y, const double* ra,
+                               const double* rb) {
     using K = LogConst<double>;
     using S = PowSingleStep;
     __m128d rcp, tv;
@@ -134,7 +133,7 @@ BRENN_VEC __m128d PowSingleHalf(__m128d m, __m128d k, __m128d y, const double* r
     __m128d r = Sub(Mul(m, rcp), Set<double>(1.0));
     __m128d h = Add(Mul(k, Set<double>(S::kLn2)), tv);
     __m128d t = Mul(Mul(r, r), Horner(r, K::kCoreEP));
-    return PowSingleExp<L>(Mul(y, Add(h, Add(r, t))));
+    return Mul(y, Add(h, Add(r, t)));
 }
 
 // Single HA's logarithm in double: x = 2^k * m, m in [1, 2) from the single bits; the
@@ -199,24 +198,43 @@ BRENN_VEC __m128 PowSingleSplit(__m128& x, __m128& y, __m128& m, I32x4& k, I32x4
     return sxy;
 }
 
-// M registers of single HA at once: their logarithms and w, held apart (Opaque) so that
-// the compiler does not sink each into its exponential, then the eight halves' e^w, so
+// w of the four lanes of single LA, lanes 0-1 in lo and 2-3 in hi, as stated above.
+BRENN_VEC void PowSingleLALogs(__m128 m, I32x4 k, I32x4 mant, __m128 y, __m128d& lo,
+                               __m128d& hi) {
+    using F = Format<float>;
+    // The row's offset in doubles, 2j: the index shifted one place less, its low bit
+    // cleared.
+    I32x4 j2 = And(ShiftRight<F::kMantBits - 10>(Add(mant, Set<int32_t>(1 << (F::kMantBits - 10)))),
+                   Set<int32_t>(~1));
+    Indices at = IndicesOf(j2);
+    const double* rows = powLnRows[0];
+    lo = PowSingleLAW(WidenLower(m), ToDoubleLower(k), WidenLower(y), rows + uint32_t(at.at[0]),
+                      rows + uint32_t(at.at[1]));
+    hi = PowSingleLAW(WidenUpper(m), ToDoubleUpper(k), WidenUpper(y), rows + uint32_t(at.at[2]),
+                      rows + uint32_t(at.at[3]));
+}
+
+// M registers of single LA or HA at once: their logarithms and w, held apart (Opaque) so
+// that the compiler does not sink each into its exponential, then the halves' e^w, so
 // that the chains of the registers overlap.
-template <int M>
-BRENN_VEC void PowSingleHARound(const __m128* x, const __m128* y, __m128* v, __m128* special) {
+template <Level L, int M>
+BRENN_VEC void PowSingleRound(const __m128* x, const __m128* y, __m128* v, __m128* special) {
     __m128d w[2 * M];
 #pragma GCC unroll 4
     for (int j = 0; j < M; ++j) {
         __m128 xs = x[j], ys = y[j], m;
         I32x4 k, mant;
         special[j] = PowSingleSplit<false>(xs, ys, m, k, mant);
-        PowSingleHALogs(m, k, ys, w[2 * j], w[2 * j + 1]);
+        if constexpr (L == Level::HA)
+            PowSingleHALogs(m, k, ys, w[2 * j], w[2 * j + 1]);
+        else
+            PowSingleLALogs(m, k, mant, ys, w[2 * j], w[2 * j + 1]);
         w[2 * j] = Opaque(w[2 * j]);
         w[2 * j + 1] = Opaque(w[2 * j + 1]);
     }
 #pragma GCC unroll 8
     for (int h = 0; h < 2 * M; ++h)
-        w[h] = PowSingleExp<Level::HA>(w[h]);
+        w[h] = PowSingleExp<L>(w[h]);
 #pragma GCC unroll 4
     for (int j = 0; j < M; ++j)
         v[j] = Narrow(w[2 * j], w[2 * j + 1]);
@@ -233,24 +251,14 @@ BRENN_VEC __m128 PowOf(__m128 x, __m128 y, __m128& special) {
         __m128 m;
         I32x4 k, mant;
         const __m128 sxy = PowSingleSplit<FiniteY>(x, y, m, k, mant);
-        using F = Format<float>;
+        __m128d lo, hi;
         if constexpr (L == Level::HA) {
-            __m128d lo, hi;
             PowSingleHAWide(m, k, y, lo, hi);
-            special = sxy;
-            return Narrow(lo, hi);
+        } else {
+            PowSingleLALogs(m, k, mant, y, lo, hi);
+            lo = PowSingleExp<L>(lo);
+            hi = PowSingleExp<L>(hi);
         }
-        // The row's offset in doubles, 2j: the index shifted one place less, its low bit
-        // cleared.
-        I32x4 j2 =
-            And(ShiftRight<F::kMantBits - 10>(Add(mant, Set<int32_t>(1 << (F::kMantBits - 10)))),
-                Set<int32_t>(~1));
-        Indices at = IndicesOf(j2);
-        const double* rows = powLnRows[0];
-        __m128d lo = PowSingleHalf<L>(WidenLower(m), ToDoubleLower(k), WidenLower(y),
-                                      rows + uint32_t(at.at[0]), rows + uint32_t(at.at[1]));
-        __m128d hi = PowSingleHalf<L>(WidenUpper(m), ToDoubleUpper(k), WidenUpper(y),
-                                      rows + uint32_t(at.at[2]), rows + uint32_t(at.at[3]));
         special = sxy;
         return Narrow(lo, hi);
     }
