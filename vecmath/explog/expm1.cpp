@@ -204,20 +204,26 @@ inline __m128d Expm1LaTail(__m128d q) {
 struct Expm1Plain {
     __m128d s, r;
 };
+inline __m128d Expm1PlainArg(__m128d x, __m128d t) {
+    __m128d n = Sub(t, Set<double>(Format<double>::kShifter));
+    return Sub(x, Mul(n, Set<double>(ExpStep256::kStepHi + ExpStep256::kStepLo)));
+}
 inline Expm1Plain Expm1PlainReduce(__m128d x) {
-    const __m128d shifter = Set<double>(Format<double>::kShifter);
     __m128d t = Expm1Steps(x);
-    __m128d n = Sub(t, shifter);
-    __m128d r = Sub(x, Mul(n, Set<double>(ExpStep256::kStepHi + ExpStep256::kStepLo)));
-    __m128d s = Expm1ScaleOf(Expm1RowsOf(t), t);
-    return {s, r};
+    __m128d r = Expm1PlainArg(x, t);
+    return {Expm1ScaleOf(Expm1RowsOf(t), t), r};
 }
 inline __m128d Expm1EpSeries(__m128d r) {
     return Add(Set<double>(Expm1Table256::kC3[0]), Mul(r, Set<double>(Expm1Table256::kC3[1])));
 }
+inline __m128d Expm1EpP(__m128d r, __m128d c) {
+    return Mul(r, Add(Set<double>(1.0), Mul(r, c)));
+}
+inline __m128d Expm1EpSum(__m128d s, __m128d p) {
+    return Sub(Mul(s, p), Sub(Set<double>(1.0), s));
+}
 inline __m128d Expm1EpOf(const Expm1Plain& e, __m128d c) {
-    __m128d p = Mul(e.r, Add(Set<double>(1.0), Mul(e.r, c)));
-    return Sub(Mul(e.s, p), Sub(Set<double>(1.0), e.s));
+    return Expm1EpSum(e.s, Expm1EpP(e.r, c));
 }
 
 // The double forms by level. HA: Of for every lane, Far for the lanes (and rounds) with no
@@ -230,13 +236,24 @@ inline __m128d Expm1EpOf(const Expm1Plain& e, __m128d c) {
 template <Level L, int N>
 inline void Expm1Staged(const __m128d* x, __m128d* y) {
     if constexpr (L == Level::EP) {
-        Expm1Plain e[N];
+        // EP in finer stages (t, the rows, r, p, the sum): 2.18 -> 2.10 ticks, where
+        // the same cut of the HA and LA reductions measured 3 to 6 % slower.
+        __m128d t[N], s[N], r[N], p[N];
 #pragma GCC unroll 8
         for (int k = 0; k < N; ++k)
-            e[k] = Expm1PlainReduce(x[k]);
+            t[k] = Expm1Steps(x[k]);
 #pragma GCC unroll 8
         for (int k = 0; k < N; ++k)
-            y[k] = Expm1EpOf(e[k], Expm1EpSeries(e[k].r));
+            s[k] = Expm1ScaleOf(Expm1RowsOf(t[k]), t[k]);
+#pragma GCC unroll 8
+        for (int k = 0; k < N; ++k)
+            r[k] = Expm1PlainArg(x[k], t[k]);
+#pragma GCC unroll 8
+        for (int k = 0; k < N; ++k)
+            p[k] = Expm1EpP(r[k], Expm1EpSeries(r[k]));
+#pragma GCC unroll 8
+        for (int k = 0; k < N; ++k)
+            y[k] = Expm1EpSum(s[k], p[k]);
     } else {
         Expm1Reduced e[N];
         __m128d q[N];
