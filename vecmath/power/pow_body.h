@@ -56,10 +56,12 @@ struct PowSingleConst {
     static constexpr float kLn2 = 0x1.62e43p-1f;       // 0.693147182
 };
 
+// The logarithm's half of single EP: the special lanes of x and y (which run on x = 1
+// and y = 0) and w = y*ln x.
 template <bool Short = false>
-inline __m128 PowSingleEP(__m128 x, __m128 y, __m128& special) {
+inline __m128 PowSingleEPW(__m128 x, __m128 y, __m128& sxy) {
     using K = PowSingleConst;
-    __m128 sxy = Or(LogSpecial(x), RangeTest(y, PowRanges<float>::kY));
+    sxy = Or(LogSpecial(x), RangeTest(y, PowRanges<float>::kY));
     x = IfThenElse(sxy, Set<float>(1.0f), x);
     y = IfThenZeroElse(sxy, y);
     __m128 r, k;
@@ -71,15 +73,24 @@ inline __m128 PowSingleEP(__m128 x, __m128 y, __m128& special) {
         q = Horner(r, kPowLnQ);
     __m128 p = Add(r, Mul(Mul(r, r), q));
     __m128 ln = Add(Add(Mul(k, Set<float>(K::kLn2Lo)), p), Mul(k, Set<float>(K::kLn2Hi)));
-    __m128 w = Mul(y, ln);
+    return Mul(y, ln);
+}
+// The exponential's half: e^w, with the lanes of |w| beyond the window added to special.
+inline __m128 PowSingleEPExp(__m128 w, __m128& special) {
+    using K = PowSingleConst;
     __m128 sw = RangeTest(w, kPowWSingle);
     w = IfThenZeroElse(sw, w);
     const __m128 shifter = Set<float>(Format<float>::kShifter);
     __m128 t = Add(Mul(w, Set<float>(K::kLog2e)), shifter);
     __m128 n = Sub(t, shifter);
     __m128 e = Horner(Sub(w, Mul(n, Set<float>(K::kLn2))), kPowExpP);
-    special = Or(sxy, sw);
+    special = Or(special, sw);
     return AsFloat(Add(ShiftLeft<Format<float>::kMantBits>(AsInt(t)), AsInt(e)));
+}
+template <bool Short = false>
+inline __m128 PowSingleEP(__m128 x, __m128 y, __m128& special) {
+    const __m128 w = PowSingleEPW<Short>(x, y, special);
+    return PowSingleEPExp(w, special);
 }
 
 // Single LA and HA in double lanes, narrowed once at the end. e^w as both levels take it
@@ -219,6 +230,16 @@ BRENN_VEC void PowSingleLALogs(__m128 m, I32x4 k, I32x4 mant, __m128 y, __m128d&
 // that the chains of the registers overlap.
 template <Level L, int M>
 BRENN_VEC void PowSingleRound(const __m128* x, const __m128* y, __m128* v, __m128* special) {
+    if constexpr (L == Level::EP) {
+        __m128 w[M];
+#pragma GCC unroll 4
+        for (int j = 0; j < M; ++j)
+            w[j] = Opaque(PowSingleEPW(x[j], y[j], special[j]));
+#pragma GCC unroll 4
+        for (int j = 0; j < M; ++j)
+            v[j] = PowSingleEPExp(w[j], special[j]);
+        return;
+    }
     __m128d w[2 * M];
 #pragma GCC unroll 4
     for (int j = 0; j < M; ++j) {
