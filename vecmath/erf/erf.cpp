@@ -102,9 +102,11 @@ BRENN_VEC void ErfLongRound(const __m128d* x, __m128d* y, I32x4& top, __m128d& l
         r[k] = Mul(xj, d[k]);
         u[k] = Mul(d[k], d[k]);
     }
+    // The series held apart (Opaque): the compiler otherwise sinks each into its sum, one
+    // register's chain after another.
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k)
-        r[k] = SeriesLessOne<kCutHA, 2.0, 1.0>(r[k], u[k]);
+        r[k] = Opaque(SeriesLessOne<kCutHA, 2.0, 1.0>(r[k], u[k]));
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k) {
         // Rows by byte offsets: j*16 in erfRows, j*32 in erfRowsHA.
