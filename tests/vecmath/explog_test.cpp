@@ -873,6 +873,21 @@ TEST(ExpLog, Expm1RoundsWithAndWithoutArgumentsNearZero) {
                 }
             }
         }
+        // Rounds whose every argument is near 0, and the same with one far argument.
+        std::uniform_real_distribution<double> small(-bound, bound);
+        for (int at = -1; at < 16; ++at) {
+            std::vector<double> x(kLen), y(kLen);
+            for (double& v : x)
+                v = small(gen);
+            if (at >= 0) x[at] = far(gen);
+            K<double>(frame::Row_dExpm1, slot)(kLen, x.data(), y.data());
+            for (int i = 0; i < kLen; ++i) {
+                ASSERT_EQ(Bits(y[i]), Bits(Call(frame::Row_dExpm1, slot, x[i])))
+                    << slot << " " << std::hexfloat << x[i] << " far at " << at;
+                EXPECT_LE(UlpError(y[i], expm1l(x[i])), LevelBound<double>(slot))
+                    << slot << " " << std::hexfloat << x[i];
+            }
+        }
     }
 }
 

@@ -114,6 +114,18 @@ inline bool AnyNearZero(const __m128d* x) {
     return (MaskBits(Lt(fold, Set<int32_t>(high))) & 0xA) != 0;
 }
 
+// Whether every lane of a round has |x| < kNear: the high words of |x| folded by a signed
+// maximum.
+template <int N>
+inline bool AllNearZero(const __m128d* x) {
+    I32x4 fold = BitCast<I32x4>(AsInt(Abs(x[0])));
+#pragma GCC unroll 8
+    for (int k = 1; k < N; ++k)
+        fold = Max(fold, BitCast<I32x4>(AsInt(Abs(x[k]))));
+    const int32_t high = int32_t(__builtin_bit_cast(uint64_t, kNear) >> 32);
+    return (MaskBits(Lt(fold, Set<int32_t>(high))) & 0xA) == 0xA;
+}
+
 // x*256/ln2 + shifter: n in the low word, j its low 8 bits, m the rest.
 inline __m128d Expm1Steps(__m128d x) {
     return Add(Mul(x, Set<double>(ExpStep256::kInvStep)), Set<double>(Format<double>::kShifter));
@@ -229,11 +241,12 @@ inline __m128d Expm1EpOf(const Expm1Plain& e, __m128d c) {
 // The double forms by level. HA: Of for every lane, Far for the lanes (and rounds) with no
 // argument near 0, which it gives the same bits.
 // A round's registers stage by stage: every register's reduction, then every tail, then
-// every sum (HA: the far form), so that the code holds the round's chains side by side;
+// every sum (HA: the far form, or with Near the near form, for a round whose every
+// argument is near 0), so that the code holds the round's chains side by side;
 // register by register, the table loads and long chains of one register left too little
 // of the next ones in the window (HA 4.71 -> 4.13 ticks an element). Same operations,
 // same bits as Expm1Of (HA: as its far lanes).
-template <Level L, int N>
+template <Level L, int N, bool Near = false>
 inline void Expm1Staged(const __m128d* x, __m128d* y) {
     if constexpr (L == Level::EP) {
         // EP in finer stages (t, the rows, r, p, the sum): 2.18 -> 2.10 ticks, where
@@ -265,7 +278,11 @@ inline void Expm1Staged(const __m128d* x, __m128d* y) {
             q[k] = Expm1Tail(e[k].r, Expm1Table256::kC5);
 #pragma GCC unroll 8
         for (int k = 0; k < N; ++k) {
-            if constexpr (L == Level::HA) {
+            if constexpr (L == Level::HA && Near) {
+                // a = S - 1 as the far form's TwoSum gives it (exact here)
+                __m128d a = Sub(e[k].big, Set<double>(1.0));
+                y[k] = Expm1HaNear(x[k], e[k], q[k], a);
+            } else if constexpr (L == Level::HA) {
                 __m128d a;
                 y[k] = Expm1HaFar(e[k], q[k], a);
             } else {
@@ -398,6 +415,10 @@ struct Expm1Body : Expm1Band<Tp, L> {
     {
         constexpr int N = 16 / kLanes<T>;
         if (L == Level::HA && AnyNearZero<N>(x)) {
+            if (AllNearZero<N>(x)) {
+                Expm1Staged<L, N, true>(x, y);
+                return;
+            }
             // Opaque: the two forms' common steps are not hoisted above the branch,
             // which left the far round with the near round's registers on the stack.
 #pragma GCC unroll 8
