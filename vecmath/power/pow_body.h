@@ -225,16 +225,17 @@ BRENN_VEC void PowSingleLALogs(__m128 m, I32x4 k, I32x4 mant, __m128 y, __m128d&
                       rows + uint32_t(at.at[3]));
 }
 
-// M registers of single LA or HA at once: their logarithms and w, held apart (Opaque) so
-// that the compiler does not sink each into its exponential, then the halves' e^w, so
-// that the chains of the registers overlap.
-template <Level L, int M>
+// M registers of single lanes at once: their logarithms and w, held apart (Opaque) so
+// that the compiler does not sink each into its exponential, then the e^w (LA and HA: of
+// the double halves), so that the chains of the registers overlap. `FiniteY` and `Powx`
+// as for PowOf.
+template <Level L, int M, bool FiniteY = false, bool Powx = false>
 BRENN_VEC void PowSingleRound(const __m128* x, const __m128* y, __m128* v, __m128* special) {
     if constexpr (L == Level::EP) {
         __m128 w[M];
 #pragma GCC unroll 4
         for (int j = 0; j < M; ++j)
-            w[j] = Opaque(PowSingleEPW(x[j], y[j], special[j]));
+            w[j] = Opaque(PowSingleEPW<Powx>(x[j], y[j], special[j]));
 #pragma GCC unroll 4
         for (int j = 0; j < M; ++j)
             v[j] = PowSingleEPExp(w[j], special[j]);
@@ -245,7 +246,7 @@ BRENN_VEC void PowSingleRound(const __m128* x, const __m128* y, __m128* v, __m12
     for (int j = 0; j < M; ++j) {
         __m128 xs = x[j], ys = y[j], m;
         I32x4 k, mant;
-        special[j] = PowSingleSplit<false>(xs, ys, m, k, mant);
+        special[j] = PowSingleSplit<FiniteY>(xs, ys, m, k, mant);
         if constexpr (L == Level::HA)
             PowSingleHALogs(m, k, ys, w[2 * j], w[2 * j + 1]);
         else

@@ -91,19 +91,18 @@ struct PowxBody : PowxCommon<Tp> {
         constexpr bool finite = FiniteB && sizeof(T) == 4;
         return PowOf<L, finite, true>(x, bv, special);
     }
-    // Double rounds of sixteen, each step over the round's eight registers (PowRound).
-    // Single LA and HA too, register by register: the frame's quad evaluation was a call
-    // a register out of line, where a round's four registers stay in the round's loop.
-    static constexpr int kRound = sizeof(T) == 8 || L != Level::EP ? 16 : 8;
+    // Rounds of sixteen, each step over the round's eight double registers (PowRound) or
+    // four single ones (PowSingleRound: their logarithms, then their exponentials).
+    static constexpr int kRound = 16;
     BRENN_VEC int EvalWide(const V* x, V* y) const {
         if constexpr (sizeof(T) == 4) {
+            const V bs[4] = {bv, bv, bv, bv};
+            V special[4];
+            PowSingleRound<L, 4, FiniteB, true>(x, bs, y, special);
             int bits = 0;
 #pragma GCC unroll 4
-            for (int k = 0; k < 4; ++k) {
-                V special;
-                y[k] = Eval(x[k], special);
-                bits |= MaskBits(special) << (4 * k);
-            }
+            for (int k = 0; k < 4; ++k)
+                bits |= MaskBits(special[k]) << (4 * k);
             return bits;
         } else {
             V bs[8];
