@@ -102,16 +102,28 @@ constexpr double kNear = 0x1.6147Ap-1;
 inline __m128d NearZero(__m128d x) {
     return Lt(Abs(x), Set<double>(kNear));
 }
-// Whether a round holds a lane with |x| < kNear: the high words of |x| folded by a signed
-// minimum (the low words' lanes are not read).
+// Whether a round holds a lane with |x| < kNear, on the high words as they stand: a
+// positive x near 0 has a high word below kNear's read unsigned, a negative one below
+// INT_MIN + kNear's read signed; the words are folded by an unsigned and a signed
+// minimum (pminud, pminsd: no magnitude taken, no copy of x kept for it), the unsigned
+// fold moved to signed order (sign bit flipped), and both compared once (the low words'
+// lanes are not read).
+// The unsigned minimum of 32-bit lanes (SSE4.1 pminud).
+inline I32x4 MinUnsigned(I32x4 a, I32x4 b) {
+    return I32x4{_mm_min_epu32(a.v, b.v)};
+}
 template <int N>
 inline bool AnyNearZero(const __m128d* x) {
-    I32x4 fold = BitCast<I32x4>(AsInt(Abs(x[0])));
+    I32x4 low = BitCast<I32x4>(AsInt(x[0])), fold = low;
 #pragma GCC unroll 8
-    for (int k = 1; k < N; ++k)
-        fold = Min(fold, BitCast<I32x4>(AsInt(Abs(x[k]))));
+    for (int k = 1; k < N; ++k) {
+        I32x4 b = BitCast<I32x4>(AsInt(x[k]));
+        low = MinUnsigned(low, b);
+        fold = Min(fold, b);
+    }
+    fold = Min(fold, Xor(low, Set<int32_t>(INT32_MIN)));
     const int32_t high = int32_t(__builtin_bit_cast(uint64_t, kNear) >> 32);
-    return (MaskBits(Lt(fold, Set<int32_t>(high))) & 0xA) != 0;
+    return (MaskBits(Lt(fold, Set<int32_t>(INT32_MIN + high))) & 0xA) != 0;
 }
 
 // Whether every lane of a round has |x| < kNear: the high words of |x| folded by a signed
