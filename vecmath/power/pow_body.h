@@ -309,6 +309,8 @@ BRENN_VEC void PowRound(const __m128d* x, const __m128d* y, __m128d* v, __m128d*
         } else {
             PowW<L, false>(ys[k], red[k], wh[k], wl[k]);
         }
+        wh[k] = Opaque(wh[k]);
+        wl[k] = Opaque(wl[k]);
     }
 #pragma GCC unroll 8
     for (int k = 0; k < M; ++k) {
