@@ -163,21 +163,27 @@ BRENN_VEC void HypotScaled(const __m128d* x, const __m128d* z, __m128d* y) {
             y[k] = HypotWide(x[k], z[k]);
         return;
     }
-    // register by register: each register's correction follows its root, so that the
-    // processor has independent work beside the roots still running (with all the roots
-    // first, their corrections wait in the scheduler; measured 5 % slower)
+    // The round's roots first, each held apart (Opaque) so that the compiler does not
+    // sink it into its correction, then the corrections: the roots' latency overlaps the
+    // other registers' work (4 % faster than register by register, where the compiler's
+    // order had each correction wait on its root).
+    __m128d r[M], h[M];
 #pragma GCC unroll 8
     for (int k = 0; k < M; ++k) {
         const __m128d zz = Mul(z[k], z[k]);
         const __m128d s = Add(Mul(x[k], x[k]), zz);
-        const __m128d r = Sqrt(s);
+        r[k] = Opaque(Sqrt(s));
         // 1/(2r) as 1/(2 sqrt(s)) from the bits of s (within 3.5 %), beside the root.
-        const __m128d h =
+        h[k] =
             AsFloat(Sub(Set<int64_t>(0x5FE6EB50C7B537A9ll - (1ll << 52)), ShiftRight<1>(AsInt(s))));
-        const SquareParts xp = SquareInParts(x[k]), zp = SquareInParts(z[k]), rp = SquareInParts(r);
+    }
+#pragma GCC unroll 8
+    for (int k = 0; k < M; ++k) {
+        const SquareParts xp = SquareInParts(x[k]), zp = SquareInParts(z[k]),
+                          rp = SquareInParts(r[k]);
         const __m128d d =
             Add(Add(Sub(xp.head, rp.head), zp.head), Add(Sub(xp.tail, rp.tail), zp.tail));
-        y[k] = Add(r, Mul(d, h));
+        y[k] = Add(r[k], Mul(d, h[k]));
     }
 }
 template <Level L>
