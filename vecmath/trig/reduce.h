@@ -226,9 +226,11 @@ struct Series {
     __m128d ps, pc; // sin r - r, cos r - 1 (short Taylor series)
 };
 
-BRENN_TRIG_HOT TableRow LoadRows(const int32_t* J) {
-    const double* t0 = sinCosPi64[J[0] & 127];
-    const double* t1 = sinCosPi64[J[1] & 127];
+// The rows of two lanes' j from a table of sin and cos at multiples of pi/64 (sinCosPi64,
+// or sinCosPi64Split with cos A's rest in its fourth column).
+BRENN_TRIG_HOT TableRow LoadRows(const int32_t* J, const double (*table)[4] = sinCosPi64) {
+    const double* t0 = table[J[0] & 127];
+    const double* t1 = table[J[1] & 127];
     __m128d q0 = Load(t0), q1 = Load(t1);
     __m128d c0 = Load(t0 + 2), c1 = Load(t1 + 2);
     return {InterleaveLower(q0, q1), InterleaveUpper(q0, q1), InterleaveLower(c0, c1),

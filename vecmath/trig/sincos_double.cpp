@@ -159,22 +159,10 @@ BRENN_TRIG_HOT __m128d ByTable(__m128d a, bool cosine, bool exact) {
     }
     return TableSin(J, rh, rl, exact);
 }
-// The same for M registers below the limit (the HA round), each step over all of them
-// before the next, so that their chains interleave; the same operations lane by lane.
-// Sine's round gives a with its sign (the steps are odd in it).
-// The rows come from sinCosPi64Split, whose fourth column is cos A's rest beyond its
-// 26-bit head as Combine's exact form makes it, (ch - chh) + cl, rounded the same: the
-// same operations on the same values as Combine and the sum of its parts, but the two
-// additions that formed that rest (the round is bound by the adding pipes).
-BRENN_TRIG_HOT TableRow SplitRows(const int32_t* J) {
-    const double* t0 = sinCosPi64Split[J[0] & 127];
-    const double* t1 = sinCosPi64Split[J[1] & 127];
-    __m128d q0 = Load(t0), q1 = Load(t1);
-    __m128d c0 = Load(t0 + 2), c1 = Load(t1 + 2);
-    return {InterleaveLower(q0, q1), InterleaveUpper(q0, q1), InterleaveLower(c0, c1),
-            InterleaveUpper(c0, c1)};
-}
-// sin(A + rh + rl) from such a row (its cl the rest beyond the head).
+// sin(A + rh + rl) from a row of sinCosPi64Split, whose fourth column is cos A's rest
+// beyond its 26-bit head as Combine's exact form makes it, (ch - chh) + cl, rounded the
+// same: the same operations on the same values as Combine and the sum of its parts, but
+// the two additions that formed that rest (the round is bound by the adding pipes).
 BRENN_TRIG_HOT __m128d SinOfSplitRow(const TableRow& row, __m128d rh, __m128d rl) {
     const __m128d head = SplatBits<double>(0xFFFFFFFFF8000000ull);
     Series r = SeriesOf(rh);
@@ -187,13 +175,16 @@ BRENN_TRIG_HOT __m128d SinOfSplitRow(const TableRow& row, __m128d rh, __m128d rl
     __m128d lo = Add(Add(Sub(row.sh, hi), p), t);
     return Add(hi, lo);
 }
+// ByTable for M registers below the limit (the HA round), each step over all of them
+// before the next, so that their chains interleave; the same operations lane by lane.
+// Sine's round gives a with its sign (the steps are odd in it).
 template <int M>
 BRENN_TRIG_HOT void ByTableShort(const __m128d* a, bool cosine, __m128d* y) {
     alignas(16) int32_t J[M][2];
     __m128d rh[M], rl[M];
     BRENN_EACH(k, M) ShortD(a[k], J[k], rh[k], rl[k], cosine ? 32 : 0);
     TableRow t[M];
-    BRENN_EACH(k, M) t[k] = SplitRows(J[k]);
+    BRENN_EACH(k, M) t[k] = LoadRows(J[k], sinCosPi64Split);
     BRENN_EACH(k, M) y[k] = SinOfSplitRow(t[k], rh[k], rl[k]);
 }
 // The same out of line, for the LA kernels' rare lanes above 2^24.
