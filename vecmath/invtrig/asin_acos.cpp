@@ -167,9 +167,13 @@ BRENN_VEC __m128 SeriesSingleHA(__m128 w) {
 // unfolded lanes is an exact sum, whose error term stands where the folded lanes have
 // d(1 + wP) (one blend: the sum is exact there). Every lane's angle is |y| for a y of
 // known sign, Asin's taking x's sign after that.
+// In three steps, so that a round can take each over its registers before the next
+// (AnglesSingleHARound): the fold, the root and its rest d; the series; the angle.
+struct SingleHAState {
+    __m128 x, w, fold, v, d, wp;
+};
 template <Fn F>
-BRENN_VEC __m128 AngleSingleHA(__m128 x) {
-    using Q = Quarter<float, Unit::Radian>;
+BRENN_VEC void SingleHARootStep(__m128 x, SingleHAState& st) {
     const __m128 half = Set<float>(0.5f);
     __m128 a = Abs(x);
     __m128 h = Sub(half, Mul(a, half));
@@ -179,13 +183,22 @@ BRENN_VEC __m128 AngleSingleHA(__m128 x) {
     __m128 sh = And(s, AsFloat(Set<uint32_t>(0xFFFFE000u)));
     __m128 u = Add(sh, sh);
     __m128 r = Sub(Sub(Set<float>(1.0f), a), Mul(sh, u));
-    __m128 d = Div(r, Max(Add(s, sh), Set<float>(0x1p-60f)));
-    __m128 p = SeriesSingleHA(w);
+    st.x = x;
+    st.w = w;
+    st.fold = fold;
+    st.d = Div(r, Max(Add(s, sh), Set<float>(0x1p-60f)));
+    st.v = IfThenElse(fold, u, F == Fn::Asin ? a : x);
+}
+BRENN_VEC void SingleHASeriesStep(SingleHAState& st) {
+    st.wp = Mul(st.w, SeriesSingleHA(st.w));
+}
+template <Fn F>
+BRENN_VEC __m128 SingleHAAngleStep(const SingleHAState& st) {
+    using Q = Quarter<float, Unit::Radian>;
+    const __m128 x = st.x, fold = st.fold, v = st.v, d = st.d, wp = st.wp;
     if constexpr (F == Fn::Asin) {
         // -y: folded u - pi/2 + (l + d - the tail of pi/2), unfolded a + l.
-        __m128 v = IfThenElse(fold, u, a);
         __m128 k = And(fold, Set<float>(2 * Q::kHi));
-        __m128 wp = Mul(w, p);
         __m128 c = And(fold, Add(Sub(d, Set<float>(2 * kQuarterTailS)), Mul(d, wp)));
         __m128 l = Mul(v, wp);
         __m128 y = Add(Sub(v, k), Add(l, c));
@@ -193,17 +206,44 @@ BRENN_VEC __m128 AngleSingleHA(__m128 x) {
     } else {
         // -y: unfolded x - pi/2 + (l - the tail of pi/2); folded u - pi (x < 0) or u (x >
         // 0), + l + d less the base's tail. The base as -k, -pi/2 or -pi or 0.
-        __m128 v = IfThenElse(fold, u, x);
         __m128 nk = IfThenElse(fold, WhereNegative(x, Set<float>(-4 * Q::kHi)),
                                Set<float>(-2 * Q::kHi));
         __m128 t, e;
         FastTwoSum(nk, v, t, e);
-        __m128 wp = Mul(w, p);
         __m128 c = IfThenElse(fold, Add(d, Mul(d, wp)), e);
         __m128 l = Mul(v, wp);
         __m128 y = Add(t, Add(l, Add(c, Mul(nk, Set<float>(kQuarterTailS / Q::kHi)))));
         return Abs(y);
     }
+}
+template <Fn F>
+BRENN_VEC __m128 AngleSingleHA(__m128 x) {
+    SingleHAState st;
+    SingleHARootStep<F>(x, st);
+    SingleHASeriesStep(st);
+    return SingleHAAngleStep<F>(st);
+}
+// A round of four registers step by step, the values between the steps held apart
+// (Opaque): left to itself the compiler sinks each register's root and series into its
+// angle, and the round runs as four chains one after another.
+template <Fn F>
+BRENN_VEC void AnglesSingleHARound(const __m128* x, __m128* y) {
+    SingleHAState st[4];
+#pragma GCC unroll 4
+    for (int k = 0; k < 4; ++k) {
+        SingleHARootStep<F>(x[k], st[k]);
+        st[k].w = Opaque(st[k].w);
+        st[k].d = Opaque(st[k].d);
+        st[k].v = Opaque(st[k].v);
+    }
+#pragma GCC unroll 4
+    for (int k = 0; k < 4; ++k) {
+        SingleHASeriesStep(st[k]);
+        st[k].wp = Opaque(st[k].wp);
+    }
+#pragma GCC unroll 4
+    for (int k = 0; k < 4; ++k)
+        y[k] = SingleHAAngleStep<F>(st[k]);
 }
 
 // The single steps (EP, LA, radian HA) as they are, and the others in double on widened
@@ -319,6 +359,11 @@ struct Body {
     static constexpr int kRound = sizeof(T) == 8 || kTestOnce ? 16 : 8;
     static constexpr LaneRange<T> kWindow = kDomain<T>;
     static BRENN_VEC V Value(V x) { return AnglesOf<F, U, L>(x); }
+    static BRENN_VEC void ValueRound(const V* x, V* y)
+        requires(sizeof(T) == 4 && L == Level::HA && U == Unit::Radian)
+    {
+        AnglesSingleHARound<F>(x, y);
+    }
     static int EvalWide(const V* x, V* y) {
         if constexpr (sizeof(T) == 8)
             return AnglesRound<F, U, L>(x, y);
