@@ -256,40 +256,98 @@ constexpr double kExpLaC[] = {0x1.0000001ebfbe0p-1, 0x1.5555555555556p-3};
 constexpr double kExpHaC[] = {0x1.fffffffffdb3bp-2, 0x1.555555555653ep-3, 0x1.555573f218b93p-5,
                               0x1.111112d9f549bp-7};
 
+// The double body in its steps, so that a round can take each over all its registers:
+// the reduction (t and r), the table rows, the polynomial and the sum.
+struct ExpRowsD {
+    __m128d th, tl; // tl: HA's low parts only
+};
 template <Level L>
-inline __m128d ExpOf(__m128d x) {
+inline __m128d ExpReduceOf(__m128d x, __m128d& t) {
     const __m128d shifter = Set<double>(Format<double>::kShifter);
     if constexpr (L == Level::EP) {
-        __m128d t = Add(Mul(x, Set<double>(kInvStep128)), shifter);
+        t = Add(Mul(x, Set<double>(kInvStep128)), shifter);
         __m128d n = Sub(t, shifter);
-        __m128d r = Sub(x, Mul(n, Set<double>(kStep128)));
-        const __m128d one = Set<double>(1.0);
-        __m128d q = Add(Mul(Add(Mul(Set<double>(kExpEpC), r), one), r), one);
-        __m128d tv = GatherColumn(expTable128, AsInt(t), 127);
-        return ScaleByLowWord<7>(Mul(tv, q), t);
+        return Sub(x, Mul(n, Set<double>(kStep128)));
     } else if constexpr (L == Level::LA) {
-        __m128d t = Add(Mul(x, Set<double>(kInvStep1024)), shifter);
+        t = Add(Mul(x, Set<double>(kInvStep1024)), shifter);
         __m128d n = Sub(t, shifter);
-        __m128d r = Sub(Sub(x, Mul(n, Set<double>(kStep1024Hi))), Mul(n, Set<double>(kStep1024Lo)));
-        __m128d p = Add(Set<double>(kExpLaC[0]), Mul(r, Set<double>(kExpLaC[1])));
-        p = Add(r, Mul(Mul(r, r), p));
-        double lane0 = expTable1024[LowWord<0>(AsInt(t)) & 1023];
-        double lane1 = expTable1024[LowWord<1>(AsInt(t)) & 1023];
-        __m128d tv = SetLanes(lane0, lane1);
-        __m128d y = Add(tv, Mul(tv, p));
-        return ScaleByLowWord<10>(y, t);
+        return Sub(Sub(x, Mul(n, Set<double>(kStep1024Hi))), Mul(n, Set<double>(kStep1024Lo)));
     } else {
         using S = ExpStep64;
-        __m128d t = Add(Mul(x, Set<double>(S::kInvStep)), shifter);
+        t = Add(Mul(x, Set<double>(S::kInvStep)), shifter);
         __m128d n = Sub(t, shifter);
-        __m128d r = Sub(Sub(x, Mul(n, Set<double>(S::kStepHi))), Mul(n, Set<double>(S::kStepLo)));
-        __m128d p = Add(r, Mul(Mul(r, r), Horner(r, kExpHaC)));
-        __m128d th, tl;
-        ExpRows64(t, th, tl);
-        // Inside the window 2^m*y is normal: m goes into the exponent field by an integer
-        // addition.
-        return ScaleByLowWord<6>(Add(th, Add(Mul(th, p), tl)), t);
+        return Sub(Sub(x, Mul(n, Set<double>(S::kStepHi))), Mul(n, Set<double>(S::kStepLo)));
     }
+}
+template <Level L>
+inline ExpRowsD ExpRowsOf(__m128d t) {
+    ExpRowsD rows;
+    if constexpr (L == Level::EP) {
+        rows.th = GatherColumn(expTable128, AsInt(t), 127);
+    } else if constexpr (L == Level::LA) {
+        double lane0 = expTable1024[LowWord<0>(AsInt(t)) & 1023];
+        double lane1 = expTable1024[LowWord<1>(AsInt(t)) & 1023];
+        rows.th = SetLanes(lane0, lane1);
+    } else {
+        ExpRows64(t, rows.th, rows.tl);
+    }
+    return rows;
+}
+// EP: 1 + r + c*r^2; LA and HA: p = e^r - 1.
+template <Level L>
+inline __m128d ExpPolyOf(__m128d r) {
+    if constexpr (L == Level::EP) {
+        const __m128d one = Set<double>(1.0);
+        return Add(Mul(Add(Mul(Set<double>(kExpEpC), r), one), r), one);
+    } else if constexpr (L == Level::LA) {
+        __m128d p = Add(Set<double>(kExpLaC[0]), Mul(r, Set<double>(kExpLaC[1])));
+        return Add(r, Mul(Mul(r, r), p));
+    } else {
+        return Add(r, Mul(Mul(r, r), Horner(r, kExpHaC)));
+    }
+}
+// T*(1 + p) scaled by 2^m: inside the window 2^m*y is normal, so that m goes into the
+// exponent field by an integer addition.
+template <Level L>
+inline __m128d ExpSumOf(__m128d t, ExpRowsD rows, __m128d p) {
+    if constexpr (L == Level::EP)
+        return ScaleByLowWord<7>(Mul(rows.th, p), t);
+    else if constexpr (L == Level::LA)
+        return ScaleByLowWord<10>(Add(rows.th, Mul(rows.th, p)), t);
+    else
+        return ScaleByLowWord<6>(Add(rows.th, Add(Mul(rows.th, p), rows.tl)), t);
+}
+
+template <Level L>
+inline __m128d ExpOf(__m128d x) {
+    __m128d t;
+    __m128d r = ExpReduceOf<L>(x, t);
+    __m128d p = ExpPolyOf<L>(r);
+    return ExpSumOf<L>(t, ExpRowsOf<L>(t), p);
+}
+
+// A double round stage by stage: every register's reduction, then every table read,
+// every polynomial, every sum. The values between the stages are held (Opaque), where
+// the compiler would sink each register's reduction into its polynomial and sum and run
+// the round as one chain a register after another.
+template <Level L, int N>
+inline void ExpStaged(const __m128d* x, __m128d* y) {
+    __m128d t[N], r[N], p[N];
+    ExpRowsD rows[N];
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k) {
+        r[k] = Opaque(ExpReduceOf<L>(x[k], t[k]));
+        t[k] = Opaque(t[k]);
+    }
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k)
+        rows[k] = ExpRowsOf<L>(t[k]);
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k)
+        p[k] = ExpPolyOf<L>(r[k]);
+#pragma GCC unroll 8
+    for (int k = 0; k < N; ++k)
+        y[k] = ExpSumOf<L>(t[k], rows[k], p[k]);
 }
 
 // The band above the single window that the scalar routines give at status 0 (wide.h):
@@ -311,6 +369,11 @@ struct ExpBody : ExpBand<Tp> {
     static constexpr int kRound = 16;
     static int EvalWide(const V* x, V* y) { return EvalTestOnce<ExpBody>(x, y); }
     static V Value(V x) { return ExpOf<L>(x); }
+    static void ValueRound(const V* x, V* y)
+        requires(sizeof(T) == 8 && L == Level::HA)
+    {
+        ExpStaged<L, 16 / kLanes<T>>(x, y);
+    }
     static V Eval(V x, V& special) {
         special = RangeTest(x, kWindow);
         x = IfThenElse(special, Zero<T>(), x); // special lanes run on 0: no flags of their own
