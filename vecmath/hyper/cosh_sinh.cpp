@@ -302,30 +302,37 @@ constexpr float kOddHA = 0x1.555598p-3f;  // d
 constexpr float kSinhSmallHA[] = {0x1.555556p-3f, 0x1.110e5cp-7f, 0x1.a92574p-13f};
 constexpr uint32_t kSinhSmallEndHA = 0x3E800000u; // 0.25
 
-// Row min(n, 480 + n mod 32) for n in the low 22 bits.
-inline const float* CoshRow(int32_t bits) {
-    int n = bits & 0x3FFFFF;
-    return coshRowsS[n < 480 ? n : 480 + (n & 31)];
-}
-
+// In three steps, so that a round of sixteen takes each over its four registers before
+// the next (HyperSingleHARound): the reduction, the rows, the sums.
+struct HyperHAState {
+    __m128 r, ch, cl, sh, sl;
+    I32x4 tb;
+};
 template <Fn F>
-inline __m128 HyperSingleHA(__m128 a) {
+BRENN_VEC void HyperHAReduce(__m128 a, HyperHAState& s) {
     const __m128 shifter = Set<float>(Format<float>::kShifter);
     __m128 an = a;
     if constexpr (F == Fn::Sinh) // n = 0 below 1/4
         an = IfThenZeroElse(AsFloat(Gt(Opaque(Set<uint32_t>(kSinhSmallEndHA)), AsInt(a))), a);
     __m128 t = Add(Mul(an, Set<float>(kInvStepS)), shifter);
     __m128 n = Sub(t, shifter);
-    __m128 r = Sub(Sub(a, Mul(n, Set<float>(kStepHiS))), Mul(n, Set<float>(kStepLoS)));
-    // The row and the power from t's bits, the shifter's in them (its bits end in 22
-    // zeros): the rows chosen in the scalar unit (the vector pipes are the busy ones), and
-    // shifted into the exponent field the shifter's bits leave the word.
-    const I32x4 tb = AsInt(t);
-    Indices i = IndicesOf(tb);
-    __m128 ch, cl, sh, sl;
-    LoadTransposed(CoshRow(i.at[0]), CoshRow(i.at[1]), CoshRow(i.at[2]), CoshRow(i.at[3]), ch,
-                   cl, sh, sl);
-    I32x4 scale = Add(ShiftLeft<Format<float>::kMantBits>(ShiftRight<5>(tb)),
+    s.r = Sub(Sub(a, Mul(n, Set<float>(kStepHiS))), Mul(n, Set<float>(kStepLoS)));
+    s.tb = AsInt(t);
+}
+// The row and the power from t's bits, the shifter's in them (its bits end in 22 zeros):
+// the row min(n, 480 + n mod 32) in the vector unit, its offset moved to the scalar unit
+// for the loads; shifted into the exponent field the shifter's bits leave the word.
+BRENN_VEC void HyperHARows(HyperHAState& s) {
+    const I32x4 tb = s.tb;
+    I32x4 row = Min(And(tb, Set<int32_t>(0x3FFFFF)), Add(And(tb, Set<int32_t>(31)), Set<int32_t>(480)));
+    Indices i = IndicesOf(row);
+    LoadTransposed(coshRowsS[i.at[0]], coshRowsS[i.at[1]], coshRowsS[i.at[2]], coshRowsS[i.at[3]],
+                   s.ch, s.cl, s.sh, s.sl);
+}
+template <Fn F>
+BRENN_VEC __m128 HyperHASum(const HyperHAState& s) {
+    const __m128 r = s.r, ch = s.ch, cl = s.cl, sh = s.sh, sl = s.sl;
+    I32x4 scale = Add(ShiftLeft<Format<float>::kMantBits>(ShiftRight<5>(s.tb)),
                       Set<uint32_t>(0x3E800000u)); // 2^(m-2)
     __m128 r2 = Mul(r, r);
     __m128 e = Mul(r2, Set<float>(kEvenHA));
@@ -340,6 +347,31 @@ inline __m128 HyperSingleHA(__m128 a) {
     else
         y = Add(sh, Add(Mul(ch, o), Add(sl, Mul(sh, e))));
     return Mul(y, AsFloat(scale));
+}
+template <Fn F>
+inline __m128 HyperSingleHA(__m128 a) {
+    HyperHAState s;
+    HyperHAReduce<F>(a, s);
+    HyperHARows(s);
+    return HyperHASum<F>(s);
+}
+// A round of four registers of |x| step by step, the reductions held apart (Opaque) so
+// that the compiler does not sink each into its register's rows and sums.
+template <Fn F>
+BRENN_VEC void HyperSingleHARound(const __m128* a, __m128* y) {
+    HyperHAState s[4];
+#pragma GCC unroll 4
+    for (int k = 0; k < 4; ++k) {
+        HyperHAReduce<F>(a[k], s[k]);
+        s[k].r = Opaque(s[k].r);
+        s[k].tb = Opaque(s[k].tb);
+    }
+#pragma GCC unroll 4
+    for (int k = 0; k < 4; ++k)
+        HyperHARows(s[k]);
+#pragma GCC unroll 4
+    for (int k = 0; k < 4; ++k)
+        y[k] = HyperHASum<F>(s[k]);
 }
 
 // Single LA beyond its window, from 87.3365326 up to the overflow point: the lanes of
@@ -405,10 +437,13 @@ struct HyperBody {
     // round with a lane outside takes Eval a register, the others Value alone; same bits
     // as Eval. (LA the same way measured slower at n = 10^6, 2.57 -> 3.13 ticks: about
     // one round in three has a lane in its upper band, a branch the predictor loses.)
-    static constexpr bool kTestOnce = sizeof(T) == 4 && L == Level::EP;
+    // Single HA the same way, its round's registers step by step (HyperSingleHARound).
+    static constexpr bool kTestOnce = sizeof(T) == 4 && L != Level::LA;
     static constexpr int kRound = sizeof(T) == 8 || kTestOnce ? 16 : 8;
     static constexpr Range32 kWindow =
-        F == Fn::Sinh ? CoshWindow<float>::kSinhWindowEP : CoshWindow<float>::kWindowEP;
+        L == Level::HA
+            ? (F == Fn::Sinh ? CoshWindow<float>::kSinhWindowHA : CoshWindow<float>::kWindowHA)
+            : (F == Fn::Sinh ? CoshWindow<float>::kSinhWindowEP : CoshWindow<float>::kWindowEP);
     static BRENN_VEC V Value(V x) {
         V y = HyperOf<F, L>(Abs(x));
         if constexpr (F == Fn::Sinh) y = Or(y, SignBit(x));
@@ -420,6 +455,19 @@ struct HyperBody {
         } else if constexpr (kTestOnce) {
             if (__builtin_expect(OutsideHeld(x, kWindow), 0))
                 return EvalByRegister<HyperBody>(x, y);
+            if constexpr (L == Level::HA) {
+                __m128 a[4];
+#pragma GCC unroll 4
+                for (int k = 0; k < 4; ++k)
+                    a[k] = Abs(x[k]);
+                HyperSingleHARound<F>(a, y);
+                if constexpr (F == Fn::Sinh) {
+#pragma GCC unroll 4
+                    for (int k = 0; k < 4; ++k)
+                        y[k] = Or(y[k], SignBit(x[k]));
+                }
+                return 0;
+            }
 #pragma GCC unroll 4
             for (int k = 0; k < 4; ++k)
                 y[k] = Value(x[k]);
