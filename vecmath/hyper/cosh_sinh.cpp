@@ -320,14 +320,15 @@ BRENN_VEC void HyperHAReduce(__m128 a, HyperHAState& s) {
     s.tb = AsInt(t);
 }
 // The row and the power from t's bits, the shifter's in them (its bits end in 22 zeros):
-// the row min(n, 480 + n mod 32) in the vector unit, its offset moved to the scalar unit
-// for the loads; shifted into the exponent field the shifter's bits leave the word.
+// the row min(n, 480 + n mod 32) in the vector unit, the four rows moved to the scalar
+// unit in two words (LanePairsOf) for the loads; shifted into the exponent field the
+// shifter's bits leave the word.
 BRENN_VEC void HyperHARows(HyperHAState& s) {
     const I32x4 tb = s.tb;
     I32x4 row = Min(And(tb, Set<int32_t>(0x3FFFFF)), Add(And(tb, Set<int32_t>(31)), Set<int32_t>(480)));
-    Indices i = IndicesOf(row);
-    LoadTransposed(coshRowsS[i.at[0]], coshRowsS[i.at[1]], coshRowsS[i.at[2]], coshRowsS[i.at[3]],
-                   s.ch, s.cl, s.sh, s.sl);
+    LanePairs p = LanePairsOf(row);
+    LoadTransposed(coshRowsS[uint32_t(p.lower)], coshRowsS[p.lower >> 32],
+                   coshRowsS[uint32_t(p.upper)], coshRowsS[p.upper >> 32], s.ch, s.cl, s.sh, s.sl);
 }
 template <Fn F>
 BRENN_VEC __m128 HyperHASum(const HyperHAState& s) {
