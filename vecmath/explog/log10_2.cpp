@@ -142,9 +142,22 @@ struct LogBody {
     using V = Vec<T>;
     static constexpr const char* kName =
         Base == 10 ? ZAR_ERROR_NAME_OF(T, Log10) : ZAR_ERROR_NAME_OF(T, Log2);
-    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
+    static constexpr int kRound = sizeof(T) == 8 || L == Level::HA ? 16 : 8;
     static int EvalWide(const V* x, V* y) {
-        if constexpr (sizeof(T) == 8 && L == Level::EP) {
+        if constexpr (sizeof(T) == 4 && L == Level::HA) {
+            // Single HA: the round's splits, then LogByRecip stage by stage.
+            using R = std::conditional_t<Base == 10, LogRecip10, LogRecip2>;
+            constexpr int N = 4;
+            __m128 m[N], k[N];
+            int bits = 0;
+#pragma GCC unroll 4
+            for (int i = 0; i < N; ++i) {
+                bits |= MaskBits(LogSpecial(x[i])) << (4 * i);
+                LogSplitM(x[i], m[i], k[i]);
+            }
+            LogByRecipRound<R, N>(m, k, y);
+            return bits;
+        } else if constexpr (sizeof(T) == 8 && L == Level::EP) {
             using K = LogBase<Base>;
             return LogRowsEPWide<4>(x, y, K::kRowsF, K::kPerKD, K::kHA);
         } else if constexpr (sizeof(T) == 8) {

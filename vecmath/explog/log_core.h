@@ -135,13 +135,14 @@ inline void LogSplitM(__m128 x, __m128& m, __m128& k) {
     m = AsFloat(Add(And(d, Set<uint32_t>(F::kMant)), c));
 }
 
-// log_B of 2^k * m (above), with `extra` added to the small terms (Log1p's c/u; zero
-// elsewhere). Any m in [2/3, 4/3) gives a row, so special lanes need no blend.
-template <class B, bool kExtra = false>
-BRENN_VEC __m128 LogByRecip(__m128 m, __m128 k, __m128 extra = _mm_setzero_ps()) {
-    const __m128 one = Set<float>(1.0f);
-    const __m128 t = RoundEven(Mul(ApproxRecip(m), Set<float>(64.0f)));
-    const __m128 rc = Mul(t, Set<float>(0x1p-6f));
+// The stages of LogByRecip, so that a round can take each over all its registers: the
+// reducer's t (rcpps of m rounded to 2^-6, times 64), then its row, then the sums.
+BRENN_VEC __m128 LogRecipT(__m128 m) {
+    return RoundEven(Mul(ApproxRecip(m), Set<float>(64.0f)));
+}
+// The row of t: -log_B(rc) in two parts.
+template <class B>
+BRENN_VEC void LogRecipRow(__m128 t, __m128& thi, __m128& tlo) {
     // The rows' byte offsets from the table's row 48, t*8, formed in the vector and
     // taken out two at a time (each word widens to an address as it is moved).
     const I32x4 off = ShiftLeft<3>(TruncToInt(t));
@@ -151,11 +152,17 @@ BRENN_VEC __m128 LogByRecip(__m128 m, __m128 k, __m128 extra = _mm_setzero_ps())
     // it, formed as an integer (no pointer leaves the table).
     const uintptr_t base =
         reinterpret_cast<uintptr_t>(B::kRows) - 48 * sizeof(B::kRows[0]);
-    __m128 thi, tlo;
     LoadTransposed(reinterpret_cast<const float*>(base + uint32_t(o01)),
                    reinterpret_cast<const float*>(base + (o01 >> 32)),
                    reinterpret_cast<const float*>(base + uint32_t(o23)),
                    reinterpret_cast<const float*>(base + (o23 >> 32)), thi, tlo);
+}
+// log_B of 2^k * m from t and its row.
+template <class B, bool kExtra = false>
+BRENN_VEC __m128 LogRecipSum(__m128 m, __m128 k, __m128 t, __m128 thi, __m128 tlo,
+                             __m128 extra = _mm_setzero_ps()) {
+    const __m128 one = Set<float>(1.0f);
+    const __m128 rc = Mul(t, Set<float>(0x1p-6f));
     const __m128 mh = And(m, AsFloat(Set<uint32_t>(0xFFFFFF80u)));
     const __m128 ml = Sub(m, mh);
     const __m128 r = Add(Sub(Mul(mh, rc), one), Mul(ml, rc)); // exact
@@ -176,6 +183,35 @@ BRENN_VEC __m128 LogByRecip(__m128 m, __m128 k, __m128 extra = _mm_setzero_ps())
     }
     if constexpr (kExtra) rest = Add(rest, extra);
     return Add(s, rest);
+}
+
+// log_B of 2^k * m (above), with `extra` added to the small terms (Log1p's c/u; zero
+// elsewhere). Any m in [2/3, 4/3) gives a row, so special lanes need no blend.
+template <class B, bool kExtra = false>
+BRENN_VEC __m128 LogByRecip(__m128 m, __m128 k, __m128 extra = _mm_setzero_ps()) {
+    const __m128 t = LogRecipT(m);
+    __m128 thi, tlo;
+    LogRecipRow<B>(t, thi, tlo);
+    return LogRecipSum<B, kExtra>(m, k, t, thi, tlo, extra);
+}
+
+// LogByRecip over the N registers of a round, stage by stage: every register's t, then
+// every row, then every sum, each stage's values held (Opaque) so that the compiler
+// does not sink them back into one register's chain after another. The same operations
+// on every lane, the same bits.
+template <class B, int N>
+BRENN_VEC void LogByRecipRound(const __m128* m, const __m128* k, __m128* y) {
+    __m128 t[N], thi[N], tlo[N];
+#pragma GCC unroll 8
+    for (int i = 0; i < N; ++i) t[i] = Opaque(LogRecipT(m[i]));
+#pragma GCC unroll 8
+    for (int i = 0; i < N; ++i) {
+        LogRecipRow<B>(t[i], thi[i], tlo[i]);
+        thi[i] = Opaque(thi[i]);
+        tlo[i] = Opaque(tlo[i]);
+    }
+#pragma GCC unroll 8
+    for (int i = 0; i < N; ++i) y[i] = LogRecipSum<B>(m[i], k[i], t[i], thi[i], tlo[i]);
 }
 
 // The reduction of the double core for positive normal x, two lanes: x = 2^k * m,
