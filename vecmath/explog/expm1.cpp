@@ -336,21 +336,63 @@ struct Expm1Single64 {
                             kStepLo = -0x1.bd0106p-19f;              // 0x3C318000, 0xB65E8083
     static constexpr double kC[] = {0x1.00001ep-1f, 0x1.55557ep-3f}; // 0.500000894, 0.16666697
 };
-inline __m128d Expm1Table64(__m128d x) {
+// The double steps of the single kernel, so that a round can take each over all its
+// registers: t and r, the rows (Thi and Tl), p, and the sum.
+inline __m128d Expm1S64Reduce(__m128d x, __m128d& t) {
     using C = Expm1Single64;
     const __m128d shifter = Set<double>(Format<double>::kShifter);
-    const __m128d one = Set<double>(1.0);
-    __m128d t = Add(Mul(x, Set<double>(C::kInvStep)), shifter);
+    t = Add(Mul(x, Set<double>(C::kInvStep)), shifter);
     __m128d n = Sub(t, shifter);
-    __m128d r = Sub(Sub(x, Mul(n, Set<double>(C::kStepHi))), Mul(n, Set<double>(C::kStepLo)));
+    return Sub(Sub(x, Mul(n, Set<double>(C::kStepHi))), Mul(n, Set<double>(C::kStepLo)));
+}
+inline void Expm1S64Rows(__m128d t, __m128d& th, __m128d& tl) {
     const float* row0 = single::expTable64[LowWord<0>(AsInt(t)) & 63];
     const float* row1 = single::expTable64[LowWord<1>(AsInt(t)) & 63];
-    __m128d th = SetLanes(double(row0[0]), double(row1[0]));
-    __m128d tl = SetLanes(double(row0[1]), double(row1[1]));
-    __m128d p = Add(r, Mul(Mul(r, r), Add(Set<double>(C::kC[0]), Mul(Set<double>(C::kC[1]), r))));
+    th = SetLanes(double(row0[0]), double(row1[0]));
+    tl = SetLanes(double(row0[1]), double(row1[1]));
+}
+inline __m128d Expm1S64Poly(__m128d r) {
+    using C = Expm1Single64;
+    return Add(r, Mul(Mul(r, r), Add(Set<double>(C::kC[0]), Mul(Set<double>(C::kC[1]), r))));
+}
+inline __m128d Expm1S64Sum(__m128d t, __m128d th, __m128d tl, __m128d p) {
+    const __m128d one = Set<double>(1.0);
     __m128d q = Add(p, tl);
     __m128d s = ScaleByLowWord<6>(th, t);
     return Add(Sub(s, one), Mul(s, q));
+}
+inline __m128d Expm1Table64(__m128d x) {
+    __m128d t;
+    __m128d r = Expm1S64Reduce(x, t);
+    __m128d th, tl;
+    Expm1S64Rows(t, th, tl);
+    return Expm1S64Sum(t, th, tl, Expm1S64Poly(r));
+}
+// A single round of N registers stage by stage over its 2N double halves: every half's
+// t and r (held apart, Opaque, so that the compiler does not sink them into their sums),
+// then the rows, the polynomials and the sums.
+template <int N>
+inline void Expm1SingleStaged(const __m128* x, __m128* y) {
+    constexpr int H = 2 * N;
+    __m128d t[H], r[H], th[H], tl[H], p[H], v[H];
+#pragma GCC unroll 8
+    for (int k = 0; k < H; ++k) {
+        __m128d h = k % 2 ? WidenUpper(x[k / 2]) : WidenLower(x[k / 2]);
+        r[k] = Opaque(Expm1S64Reduce(h, t[k]));
+        t[k] = Opaque(t[k]);
+    }
+#pragma GCC unroll 8
+    for (int k = 0; k < H; ++k)
+        Expm1S64Rows(t[k], th[k], tl[k]);
+#pragma GCC unroll 8
+    for (int k = 0; k < H; ++k)
+        p[k] = Expm1S64Poly(r[k]);
+#pragma GCC unroll 8
+    for (int k = 0; k < H; ++k)
+        v[k] = Expm1S64Sum(t[k], th[k], tl[k], p[k]);
+#pragma GCC unroll 4
+    for (int k = 0; k < N; ++k)
+        y[k] = Or(Narrow(v[2 * k], v[2 * k + 1]), SignBit(x[k]));
 }
 inline __m128 Expm1Table64(__m128 x) {
     return Narrow(Expm1Table64(WidenLower(x)), Expm1Table64(WidenUpper(x)));
@@ -439,6 +481,11 @@ struct Expm1Body : Expm1Band<Tp, L> {
         } else {
             Expm1Staged<L, N>(x, y);
         }
+    }
+    static void ValueRound(const V* x, V* y)
+        requires(sizeof(T) == 4)
+    {
+        Expm1SingleStaged<16 / kLanes<T>>(x, y);
     }
     static V Eval(V x, V& special) {
         special = RangeTest(x, kWindow);
