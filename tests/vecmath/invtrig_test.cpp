@@ -366,6 +366,17 @@ TEST(InvTrig, Atan2NaNOfTheFirstArgument) {
             EXPECT_TRUE(SameValue(y[3], double(atan2l(0.75L, -1.25L))) ||
                         WithinLevel(slot, y[3], atan2l(0.75L, -1.25L)));
         }
+    // Single HA, in a round of sixteen: a's NaN quieted where both are NaN, whatever
+    // order the compiler gives the sum that makes it.
+    auto nanOfS = [](uint32_t bits) { return __builtin_bit_cast(float, bits); };
+    for (int at : {0, 5, 15}) {
+        std::vector<float> a(32, 0.75f), b(32, -1.25f);
+        a[at] = nanOfS(0x7FC00A11u), b[at] = nanOfS(0xFFC00B22u);
+        a[at + 16] = nanOfS(0xFFA00A11u), b[at + 16] = nanOfS(0x7FC00B22u);
+        std::vector<float> y = Call2("sAtan2", 1, a, b);
+        EXPECT_EQ(Bits(y[at]), 0x7FC00A11u) << at;
+        EXPECT_EQ(Bits(y[at + 16]), 0xFFE00A11u) << at;
+    }
 }
 
 // Pairs of every sign and exponent, so huge and tiny ratios, denormals and the vector

@@ -386,8 +386,11 @@ BRENN_VEC void Atan2SingleQuotient(__m128 a, __m128 b, __m128 special, Atan2Sing
 BRENN_VEC void Atan2SingleReduced(Atan2SingleState& s) {
     __m128 n = s.n, d = s.d;
     I32x4 i = AtanRowOffsets(s.t);
-    LoadTransposed(AtanRowAt(ExtractLane<0>(i)) + 2, AtanRowAt(ExtractLane<1>(i)) + 2,
-                   AtanRowAt(ExtractLane<2>(i)) + 2, AtanRowAt(ExtractLane<3>(i)) + 2, s.hi, s.lo);
+    // The offsets to the scalar unit as two words (movq, pextrq), not four extractions.
+    LanePairs o = LanePairsOf(i);
+    LoadTransposed(AtanRowAt(int32_t(o.lower)) + 2, AtanRowAt(int32_t(o.lower >> 32)) + 2,
+                   AtanRowAt(int32_t(o.upper)) + 2, AtanRowAt(int32_t(o.upper >> 32)) + 2, s.hi,
+                   s.lo);
     __m128 below = AsFloat(Eq(i, Zero<int32_t>()));
     __m128 c = AndNot(below, And(s.t, AsFloat(Set<uint32_t>(0xFFFC0000u))));
     __m128 dh = And(d, AsFloat(Set<uint32_t>(0xFFFFF000u)));
@@ -617,7 +620,7 @@ int Atan2Scalar(const T* pa, const T* pb, T* y) {
     if (__builtin_isnan(a) || __builtin_isnan(b)) {
         // AFirst: a's NaN where a is one, else b's, quieted, and the invalid flag for a
         // signalling one, what a + b gives with a as the first operand, whichever order
-        // the compiler puts the operands of a + b in (the flattened double kernels).
+        // the compiler puts the operands of a + b in (the flattened kernels).
         if constexpr (AFirst) {
             if (__builtin_isnan(a)) {
                 *y = a + a;
@@ -720,7 +723,8 @@ struct Atan2Body {
         return Atan2Of<U, L, Fast>(a, b, special);
     }
     static int Scalar(const T* a, const T* b, T* y) {
-        return Atan2Scalar<U, T, Fast && sizeof(T) == 8>(a, b, y);
+        // Single HA by AFirst too: its rounds' row loads moved the compiler's order of a + b.
+        return Atan2Scalar<U, T, Fast && (sizeof(T) == 8 || L == Level::HA)>(a, b, y);
     }
     // HA (the row's own), and double LA on HA's steps: rounds of sixteen, each of the
     // three steps over the round's registers before the next.
