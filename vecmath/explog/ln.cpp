@@ -52,6 +52,45 @@ inline __m128 LnOf(__m128 x) {
     }
 }
 
+// The same body over the N registers of a round, stage by stage: every split, then
+// each Horner step over every register before the next, then the sums; the same
+// operations on every lane, the same bits. One register after another, the compiler
+// keeps each register's chain of nine steps whole and the round waits on them in turn.
+template <Level L>
+constexpr const auto& LnCoeffs() {
+    if constexpr (L == Level::EP)
+        return LogConst<float>::kLnEP;
+    else if constexpr (L == Level::LA)
+        return kLnLA;
+    else
+        return kLnHA;
+}
+template <Level L, int N>
+inline void LnRound(const __m128* x, __m128* y) {
+    using K = LogConst<float>;
+    constexpr const auto& c = LnCoeffs<L>();
+    constexpr int C = sizeof(c) / sizeof(c[0]);
+    __m128 r[N], k[N], q[N];
+#pragma GCC unroll 8
+    for (int i = 0; i < N; ++i) {
+        LogSplit(x[i], r[i], k[i]);
+        q[i] = Set<float>(c[C - 1]);
+    }
+#pragma GCC unroll 16
+    for (int j = C - 2; j >= 0; --j) {
+#pragma GCC unroll 8
+        for (int i = 0; i < N; ++i) q[i] = MulAdd(r[i], q[i], Set<float>(c[j]));
+    }
+#pragma GCC unroll 8
+    for (int i = 0; i < N; ++i) {
+        const __m128 p = Add(r[i], Mul(Mul(r[i], r[i]), q[i]));
+        if constexpr (L == Level::HA)
+            y[i] = Add(Add(Mul(k[i], Set<float>(K::kLn2Lo)), p), Mul(k[i], Set<float>(K::kLn2Hi)));
+        else
+            y[i] = Add(p, Mul(k[i], Set<float>(K::kLn2)));
+    }
+}
+
 // Double EP on the core's reduction: r = a + ml*rcp in two terms (the products exact),
 // y = ((k*ln2 + T) + r) + r^2*(c2 + c3*r), ln 2 as one head 0x3FE62E42FEFA4000 (its
 // product with k and the sum with the row's head T are exact), c2 = -0.49999999999924227
@@ -92,9 +131,15 @@ struct LnBody {
     using T = Tp;
     using V = Vec<T>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Ln);
-    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
+    static constexpr int kRound = 16;
     static int EvalWide(const V* x, V* y) {
-        if constexpr (sizeof(T) == 8) {
+        if constexpr (sizeof(T) == 4) {
+            int bits = 0;
+#pragma GCC unroll 4
+            for (int i = 0; i < 4; ++i) bits |= MaskBits(LogSpecial(x[i])) << (4 * i);
+            LnRound<L, 4>(x, y);
+            return bits;
+        } else {
             int bits = 0;
 #pragma GCC unroll 4
             for (int q = 0; q < 4; ++q) {
@@ -114,8 +159,6 @@ struct LnBody {
                 }
             }
             return bits;
-        } else {
-            return EvalByRegister<LnBody>(x, y);
         }
     }
     static V Eval(V x, V& special) {
