@@ -320,9 +320,9 @@ BRENN_VEC const float* AtanRowAt(int32_t offset) {
                                           uint32_t(offset));
 }
 BRENN_VEC void AtanRowOf(__m128 x, __m128& mask, __m128& c, __m128& hi, __m128& lo) {
-    I32x4 i = AtanRowOffsets(x);
-    LoadTransposed(AtanRowAt(ExtractLane<0>(i)), AtanRowAt(ExtractLane<1>(i)),
-                   AtanRowAt(ExtractLane<2>(i)), AtanRowAt(ExtractLane<3>(i)), mask, c, hi, lo);
+    LanePairs o = LanePairsOf(AtanRowOffsets(x)); // two moves to the scalar unit, not four
+    LoadTransposed(AtanRowAt(int32_t(o.lower)), AtanRowAt(int32_t(o.lower >> 32)),
+                   AtanRowAt(int32_t(o.upper)), AtanRowAt(int32_t(o.upper >> 32)), mask, c, hi, lo);
 }
 template <class V>
 BRENN_VEC AtanTableState<ElemOf<V>> AtanTableQuotient(V x) {
