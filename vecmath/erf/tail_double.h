@@ -28,6 +28,7 @@
 #include "vecmath/erf/grid_core.h"
 #include "vecmath/frame/status.h"
 #include "vecmath/frame/vec.h"
+#include "vecmath/frame/vec_round.h"
 
 namespace brenn::vm {
 
@@ -155,11 +156,7 @@ struct TailDoubleBody {
         }
         TailGridRound<typename Fn::Grid, S, kTwoPart, N>(xs, y);
         // The lanes' bits only when there is one (NaNs and infinities are rare).
-        int bits = 0;
-        if (__builtin_expect(MaskBits(any) != 0, 0))
-            for (int k = 0; k < N; ++k)
-                bits |= MaskBits(special[k]) << (2 * k);
-        return bits;
+        return __builtin_expect(MaskBits(any) != 0, 0) ? RoundMaskBits(special) : 0;
     }
     static V Eval(V x, V& special) {
         return TailGrid<typename Fn::Grid, S, kTwoPart>(Held(x, special));

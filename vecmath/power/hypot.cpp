@@ -28,6 +28,7 @@
 #include "vecmath/frame/kernel_frame.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/frame/scalar.h"
+#include "vecmath/frame/vec_round.h"
 
 namespace brenn::vm {
 namespace {
@@ -139,11 +140,7 @@ inline __m128 HypotOf(__m128 a, __m128 b, __m128& special) {
 BRENN_VEC int HypotHARound(const __m128* a, const __m128* b, __m128* y) {
     __m128 special[4];
     HypotHASteps<4>(a, b, y, special);
-    int bits = 0;
-#pragma GCC unroll 4
-    for (int k = 0; k < 4; ++k)
-        bits |= MaskBits(special[k]) << (4 * k);
-    return bits;
+    return RoundMaskBits(special);
 }
 
 // The root of x^2 + z^2 for x >= z >= 0 with x in [2^-400, 2^400) (or scaled into

@@ -60,11 +60,7 @@ struct PowBody {
         } else {
             __m128 special[4];
             PowSingleRound<L, 4>(a, b, y, special);
-            int bits = 0;
-#pragma GCC unroll 4
-            for (int k = 0; k < 4; ++k)
-                bits |= MaskBits(special[k]) << (4 * k);
-            return bits;
+            return RoundMaskBits(special);
         }
     }
 };

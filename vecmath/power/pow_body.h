@@ -11,6 +11,7 @@
 
 #include "vecmath/explog/log_core.h"
 #include "vecmath/frame/vec.h"
+#include "vecmath/frame/vec_round.h"
 #include "vecmath/power/pow_core.h"
 #include "vecmath/power/power_tables.h"
 
@@ -339,11 +340,7 @@ template <Level L>
 BRENN_VEC int PowWide(const __m128d* x, const __m128d* y, __m128d* v) {
     __m128d special[8];
     PowRound<L, 8>(x, y, v, special);
-    int bits = 0;
-#pragma GCC unroll 8
-    for (int k = 0; k < 8; ++k)
-        bits |= MaskBits(special[k]) << (2 * k);
-    return bits;
+    return RoundMaskBits(special);
 }
 
 template <Level L, bool FiniteY = false, bool Powx = false>

@@ -99,11 +99,7 @@ struct PowxBody : PowxCommon<Tp> {
             const V bs[4] = {bv, bv, bv, bv};
             V special[4];
             PowSingleRound<L, 4, FiniteB, true>(x, bs, y, special);
-            int bits = 0;
-#pragma GCC unroll 4
-            for (int k = 0; k < 4; ++k)
-                bits |= MaskBits(special[k]) << (4 * k);
-            return bits;
+            return RoundMaskBits(special);
         } else {
             V bs[8];
 #pragma GCC unroll 8
