@@ -76,9 +76,8 @@ struct Log1pConst<float> {
 // most 1 there) would come out denormal and raise underflow, and either quotient is far
 // below half an ulp of ln u (above 86), so that the sum is the same. Tiny x give u = 1,
 // r = 0, k = 0 and c = x: x itself, its sign put back for -0.
-template <Level L>
-inline __m128 Log1pOf(__m128 x, __m128& special) {
-    using K = LogConst<float>;
+// u = 1 + x, its special lanes and c/u.
+inline __m128 Log1pStart(__m128 x, __m128& special, __m128& cu) {
     const __m128 one = Set<float>(1.0f);
     const __m128 u = Add(one, x);
     special = LogSpecial(u);
@@ -87,7 +86,15 @@ inline __m128 Log1pOf(__m128 x, __m128& special) {
     const __m128 uc = Add(one, xc);
     const __m128 below = AsFloat(Gt(Set<int32_t>(0x3F800000), AsInt(Abs(xc))));
     const __m128 c = IfThenElse(below, Sub(xc, Sub(uc, one)), Sub(one, Sub(uc, xc)));
-    const __m128 cu = Div(c, Min(uc, Set<float>(0x1p125f)));
+    cu = Div(c, Min(uc, Set<float>(0x1p125f)));
+    return u;
+}
+
+template <Level L>
+inline __m128 Log1pOf(__m128 x, __m128& special) {
+    using K = LogConst<float>;
+    __m128 cu;
+    const __m128 u = Log1pStart(x, special, cu);
     if constexpr (L == Level::HA) {
         __m128 m, k;
         LogSplitM(u, m, k);
@@ -103,6 +110,55 @@ inline __m128 Log1pOf(__m128 x, __m128& special) {
             p = Add(r, Mul(r2, Horner(r, Log1pConst<float>::kLA)));
         return Or(Add(Add(p, Mul(k, Set<float>(K::kLn2))), cu), SignBit(x));
     }
+}
+
+// The single body over the N registers of a round, stage by stage: every u, c/u and
+// split, then at HA LogByRecip's stages over the round, at EP and LA each Horner step
+// over every register before the next, then the sums. The same operations on every
+// lane, the same bits as Log1pOf; the special-lane bits of the round.
+template <Level L, int N>
+inline int Log1pRound(const __m128* x, __m128* y) {
+    using K = LogConst<float>;
+    __m128 r[N], k[N], cu[N];
+    int bits = 0;
+#pragma GCC unroll 8
+    for (int i = 0; i < N; ++i) {
+        __m128 special;
+        const __m128 u = Log1pStart(x[i], special, cu[i]);
+        bits |= MaskBits(special) << (4 * i);
+        if constexpr (L == Level::HA)
+            LogSplitM(u, r[i], k[i]); // r holds m here
+        else
+            LogSplit(u, r[i], k[i]);
+    }
+    if constexpr (L == Level::HA) {
+        __m128 v[N];
+        LogByRecipRound<LogRecipE, N, true>(r, k, v, cu);
+#pragma GCC unroll 8
+        for (int i = 0; i < N; ++i) y[i] = Or(v[i], SignBit(x[i]));
+    } else {
+        constexpr const auto& c = []() -> const auto& {
+            if constexpr (L == Level::EP)
+                return K::kLnEP;
+            else
+                return Log1pConst<float>::kLA;
+        }();
+        constexpr int C = sizeof(c) / sizeof(c[0]);
+        __m128 q[N];
+#pragma GCC unroll 8
+        for (int i = 0; i < N; ++i) q[i] = Set<float>(c[C - 1]);
+#pragma GCC unroll 16
+        for (int j = C - 2; j >= 0; --j) {
+#pragma GCC unroll 8
+            for (int i = 0; i < N; ++i) q[i] = MulAdd(r[i], q[i], Set<float>(c[j]));
+        }
+#pragma GCC unroll 8
+        for (int i = 0; i < N; ++i) {
+            const __m128 p = Add(r[i], Mul(Mul(r[i], r[i]), q[i]));
+            y[i] = Or(Add(Add(p, Mul(k[i], Set<float>(K::kLn2))), cu[i]), SignBit(x[i]));
+        }
+    }
+    return bits;
 }
 
 // Double: the core on u = 1 + x with the reduction's low part taken from x itself; at
@@ -255,12 +311,12 @@ struct Log1pBody {
     using T = Tp;
     using V = Vec<T>;
     static constexpr const char* kName = ZAR_ERROR_NAME_OF(T, Log1p);
-    static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
+    static constexpr int kRound = 16;
     static int EvalWide(const V* x, V* y) {
         if constexpr (sizeof(T) == 8)
             return Log1pWide<L>(x, y);
         else
-            return EvalByRegister<Log1pBody>(x, y);
+            return Log1pRound<L, 4>(x, y);
     }
     static V Eval(V x, V& special) { return Log1pOf<L>(x, special); }
     static int Scalar(const T* a, T* y) { return Log1pScalar(a, y); }

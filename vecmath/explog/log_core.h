@@ -199,8 +199,9 @@ BRENN_VEC __m128 LogByRecip(__m128 m, __m128 k, __m128 extra = _mm_setzero_ps())
 // every row, then every sum, each stage's values held (Opaque) so that the compiler
 // does not sink them back into one register's chain after another. The same operations
 // on every lane, the same bits.
-template <class B, int N>
-BRENN_VEC void LogByRecipRound(const __m128* m, const __m128* k, __m128* y) {
+template <class B, int N, bool kExtra = false>
+BRENN_VEC void LogByRecipRound(const __m128* m, const __m128* k, __m128* y,
+                               const __m128* extra = nullptr) {
     __m128 t[N], thi[N], tlo[N];
 #pragma GCC unroll 8
     for (int i = 0; i < N; ++i) t[i] = Opaque(LogRecipT(m[i]));
@@ -211,7 +212,12 @@ BRENN_VEC void LogByRecipRound(const __m128* m, const __m128* k, __m128* y) {
         tlo[i] = Opaque(tlo[i]);
     }
 #pragma GCC unroll 8
-    for (int i = 0; i < N; ++i) y[i] = LogRecipSum<B>(m[i], k[i], t[i], thi[i], tlo[i]);
+    for (int i = 0; i < N; ++i) {
+        if constexpr (kExtra)
+            y[i] = LogRecipSum<B, true>(m[i], k[i], t[i], thi[i], tlo[i], extra[i]);
+        else
+            y[i] = LogRecipSum<B>(m[i], k[i], t[i], thi[i], tlo[i]);
+    }
 }
 
 // The reduction of the double core for positive normal x, two lanes: x = 2^k * m,
