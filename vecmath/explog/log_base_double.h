@@ -129,16 +129,26 @@ BRENN_VEC int LogBaseWide(const __m128d* x, __m128d* y) {
     using K = LogRowsD<Base>;
     static_assert(sizeof(K::kRows[0]) == 32, "rows of 32 bytes");
     int bits = 0;
+    LogPair p[4];
+    __m128d mh[8];
 #pragma GCC unroll 4
     for (int q = 0; q < 4; ++q) {
-        LogPair p = SplitPair<5>(x[2 * q], x[2 * q + 1]);
-        bits |= p.special << (4 * q);
-        __m128d mh0, mh1;
-        PairCentres(p, mh0, mh1);
-        y[2 * q] = LogBaseFrom<Base, L>(p.m[0], mh0, p.k[0], PairRow<0>(K::kRows, p),
-                                        PairRow<1>(K::kRows, p));
-        y[2 * q + 1] = LogBaseFrom<Base, L>(p.m[1], mh1, p.k[1], PairRow<2>(K::kRows, p),
-                                            PairRow<3>(K::kRows, p));
+        p[q] = SplitPair<5>(x[2 * q], x[2 * q + 1]);
+        bits |= p[q].special << (4 * q);
+        PairCentres(p[q], mh[2 * q], mh[2 * q + 1]);
+        for (int j = 0; j < 2; ++j) {
+            p[q].m[j] = Opaque(p[q].m[j]);
+            p[q].k[j] = Opaque(p[q].k[j]);
+            mh[2 * q + j] = Opaque(mh[2 * q + j]);
+        }
+    }
+#pragma GCC unroll 4
+    for (int q = 0; q < 4; ++q) {
+        y[2 * q] = LogBaseFrom<Base, L>(p[q].m[0], mh[2 * q], p[q].k[0],
+                                        PairRow<0>(K::kRows, p[q]), PairRow<1>(K::kRows, p[q]));
+        y[2 * q + 1] =
+            LogBaseFrom<Base, L>(p[q].m[1], mh[2 * q + 1], p[q].k[1],
+                                 PairRow<2>(K::kRows, p[q]), PairRow<3>(K::kRows, p[q]));
     }
     return bits;
 }
