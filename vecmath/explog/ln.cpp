@@ -140,13 +140,33 @@ struct LnBody {
             LnRound<L, 4>(x, y);
             return bits;
         } else {
+            // The four pair splits first, their m, k and mh held apart (Opaque), then each
+            // pair's rows and sums: the compiler would sink each split into its sums.
             int bits = 0;
+            LogPair ps[4];
+            __m128d mh[8];
 #pragma GCC unroll 4
             for (int q = 0; q < 4; ++q) {
-                LogPair p = SplitPair<5>(x[2 * q], x[2 * q + 1]);
-                bits |= p.special << (4 * q);
+                ps[q] = SplitPair<5>(x[2 * q], x[2 * q + 1]);
+                bits |= ps[q].special << (4 * q);
+                PairCentres(ps[q], mh[2 * q], mh[2 * q + 1]);
+                for (int j = 0; j < 2; ++j) {
+                    ps[q].m[j] = Opaque(ps[q].m[j]);
+                    ps[q].k[j] = Opaque(ps[q].k[j]);
+                    mh[2 * q + j] = Opaque(mh[2 * q + j]);
+                }
+            }
+#pragma GCC unroll 4
+            for (int q = 0; q < 4; ++q) {
+                const LogPair& p = ps[q];
                 LnReduction red[2];
-                LnReducePair(p, red[0], red[1]);
+                LoadLnRows(PairRow<0>(lnRows, p), PairRow<1>(lnRows, p), red[0]);
+                LoadLnRows(PairRow<2>(lnRows, p), PairRow<3>(lnRows, p), red[1]);
+                for (int j = 0; j < 2; ++j) {
+                    red[j].mh = mh[2 * q + j];
+                    red[j].k = p.k[j];
+                    red[j].ml = Sub(p.m[j], red[j].mh);
+                }
 #pragma GCC unroll 2
                 for (int j = 0; j < 2; ++j) {
                     if constexpr (L == Level::EP) {
