@@ -289,19 +289,31 @@ inline int Log1pWide(const __m128d* x, __m128d* y) {
                   "a window on the high words");
     constexpr uint32_t kOff = uint32_t(kLog1pWindow.offset >> 32);
     constexpr uint32_t kLim = uint32_t(kLog1pWindow.limit >> 32);
+    // The four pair splits first, their k, mh and 2^-k held apart (Opaque), then each
+    // pair's rows and sums: the compiler would sink each split into its sums.
     int bits = 0;
+    LogPair ps[4];
+    __m128d mh[8], sc[8];
 #pragma GCC unroll 4
     for (int q = 0; q < 4; ++q) {
         const __m128d one = Set<double>(1.0);
-        LogPair p = SplitPair<5, kOff, kLim>(Add(one, x[2 * q]), Add(one, x[2 * q + 1]));
-        bits |= p.special << (4 * q);
-        __m128d mh0, mh1, s0, s1;
-        PairCentres(p, mh0, mh1);
-        InversePair(p, s0, s1);
-        y[2 * q] = Log1pFrom<L>(x[2 * q], p.k[0], mh0, s0, PairRow<0>(lnRows, p),
+        ps[q] = SplitPair<5, kOff, kLim>(Add(one, x[2 * q]), Add(one, x[2 * q + 1]));
+        bits |= ps[q].special << (4 * q);
+        PairCentres(ps[q], mh[2 * q], mh[2 * q + 1]);
+        InversePair(ps[q], sc[2 * q], sc[2 * q + 1]);
+        for (int j = 0; j < 2; ++j) {
+            ps[q].k[j] = Opaque(ps[q].k[j]);
+            mh[2 * q + j] = Opaque(mh[2 * q + j]);
+            sc[2 * q + j] = Opaque(sc[2 * q + j]);
+        }
+    }
+#pragma GCC unroll 4
+    for (int q = 0; q < 4; ++q) {
+        const LogPair& p = ps[q];
+        y[2 * q] = Log1pFrom<L>(x[2 * q], p.k[0], mh[2 * q], sc[2 * q], PairRow<0>(lnRows, p),
                                 PairRow<1>(lnRows, p));
-        y[2 * q + 1] = Log1pFrom<L>(x[2 * q + 1], p.k[1], mh1, s1, PairRow<2>(lnRows, p),
-                                    PairRow<3>(lnRows, p));
+        y[2 * q + 1] = Log1pFrom<L>(x[2 * q + 1], p.k[1], mh[2 * q + 1], sc[2 * q + 1],
+                                    PairRow<2>(lnRows, p), PairRow<3>(lnRows, p));
     }
     return bits;
 }
