@@ -338,11 +338,22 @@ template <int S, size_t W>
 BRENN_VEC int LogRowsEPWide(const __m128d* x, __m128d* y, const double (*rows)[W], double perK,
                             const double (&c)[3]) {
     static_assert(sizeof(rows[0]) == (size_t(1) << S), "rows of 2^S bytes");
+    // The four pair splits first, their m and k held apart (Opaque), then each pair's
+    // rows and sums: the compiler would sink each split into its sums.
     int bits = 0;
+    LogPair ps[4];
 #pragma GCC unroll 4
     for (int q = 0; q < 4; ++q) {
-        LogPair p = SplitPair<S>(x[2 * q], x[2 * q + 1]);
-        bits |= p.special << (4 * q);
+        ps[q] = SplitPair<S>(x[2 * q], x[2 * q + 1]);
+        bits |= ps[q].special << (4 * q);
+        for (int j = 0; j < 2; ++j) {
+            ps[q].m[j] = Opaque(ps[q].m[j]);
+            ps[q].k[j] = Opaque(ps[q].k[j]);
+        }
+    }
+#pragma GCC unroll 4
+    for (int q = 0; q < 4; ++q) {
+        const LogPair& p = ps[q];
         y[2 * q] = LogRowsEPFrom(p.m[0], p.k[0], PairRow<0>(rows, p), PairRow<1>(rows, p), perK, c);
         y[2 * q + 1] =
             LogRowsEPFrom(p.m[1], p.k[1], PairRow<2>(rows, p), PairRow<3>(rows, p), perK, c);
