@@ -136,7 +136,7 @@ inline void LogSplitM(__m128 x, __m128& m, __m128& k) {
 }
 
 // The stages of LogByRecip, so that a round can take each over all its registers: the
-// reducer's t (rcpps of m rounded to 2^-6, times 64), then its row, then the sums.
+// reducer's t (rcpps of m rounded to 2^-6, times 64), then its row, then r, then the sums.
 BRENN_VEC __m128 LogRecipT(__m128 m) {
     return RoundEven(Mul(ApproxRecip(m), Set<float>(64.0f)));
 }
@@ -158,14 +158,17 @@ BRENN_VEC void LogRecipRow(__m128 t, __m128& thi, __m128& tlo) {
                    reinterpret_cast<const float*>(base + (o23 >> 32)), thi, tlo);
 }
 // log_B of 2^k * m from t and its row.
-template <class B, bool kExtra = false>
-BRENN_VEC __m128 LogRecipSum(__m128 m, __m128 k, __m128 t, __m128 thi, __m128 tlo,
-                             __m128 extra = _mm_setzero_ps()) {
+// r = m*rc - 1, exact.
+BRENN_VEC __m128 LogRecipR(__m128 m, __m128 t) {
     const __m128 one = Set<float>(1.0f);
     const __m128 rc = Mul(t, Set<float>(0x1p-6f));
     const __m128 mh = And(m, AsFloat(Set<uint32_t>(0xFFFFFF80u)));
     const __m128 ml = Sub(m, mh);
-    const __m128 r = Add(Sub(Mul(mh, rc), one), Mul(ml, rc)); // exact
+    return Add(Sub(Mul(mh, rc), one), Mul(ml, rc)); // exact
+}
+template <class B, bool kExtra = false>
+BRENN_VEC __m128 LogRecipSumR(__m128 r, __m128 k, __m128 thi, __m128 tlo,
+                              __m128 extra = _mm_setzero_ps()) {
     const __m128 h = B::kPerKHi == 1.0f ? Add(k, thi) : Add(Mul(k, Set<float>(B::kPerKHi)), thi);
     const __m128 low = B::kPerKLo == 0.0f ? tlo : Add(Mul(k, Set<float>(B::kPerKLo)), tlo);
     const __m128 q = Mul(Mul(r, r), Horner(r, B::kQ));
@@ -184,6 +187,11 @@ BRENN_VEC __m128 LogRecipSum(__m128 m, __m128 k, __m128 t, __m128 thi, __m128 tl
     if constexpr (kExtra) rest = Add(rest, extra);
     return Add(s, rest);
 }
+template <class B, bool kExtra = false>
+BRENN_VEC __m128 LogRecipSum(__m128 m, __m128 k, __m128 t, __m128 thi, __m128 tlo,
+                             __m128 extra = _mm_setzero_ps()) {
+    return LogRecipSumR<B, kExtra>(LogRecipR(m, t), k, thi, tlo, extra);
+}
 
 // log_B of 2^k * m (above), with `extra` added to the small terms (Log1p's c/u; zero
 // elsewhere). Any m in [2/3, 4/3) gives a row, so special lanes need no blend.
@@ -196,9 +204,9 @@ BRENN_VEC __m128 LogByRecip(__m128 m, __m128 k, __m128 extra = _mm_setzero_ps())
 }
 
 // LogByRecip over the N registers of a round, stage by stage: every register's t, then
-// every row, then every sum, each stage's values held (Opaque) so that the compiler
-// does not sink them back into one register's chain after another. The same operations
-// on every lane, the same bits.
+// every row, then every r, then every sum, each stage's values held (Opaque) so that the
+// compiler does not sink them back into one register's chain after another. The same
+// operations on every lane, the same bits.
 template <class B, int N, bool kExtra = false>
 BRENN_VEC void LogByRecipRound(const __m128* m, const __m128* k, __m128* y,
                                const __m128* extra = nullptr) {
@@ -211,12 +219,15 @@ BRENN_VEC void LogByRecipRound(const __m128* m, const __m128* k, __m128* y,
         thi[i] = Opaque(thi[i]);
         tlo[i] = Opaque(tlo[i]);
     }
+    __m128 r[N];
+#pragma GCC unroll 8
+    for (int i = 0; i < N; ++i) r[i] = Opaque(LogRecipR(m[i], t[i]));
 #pragma GCC unroll 8
     for (int i = 0; i < N; ++i) {
         if constexpr (kExtra)
-            y[i] = LogRecipSum<B, true>(m[i], k[i], t[i], thi[i], tlo[i], extra[i]);
+            y[i] = LogRecipSumR<B, true>(r[i], k[i], thi[i], tlo[i], extra[i]);
         else
-            y[i] = LogRecipSum<B>(m[i], k[i], t[i], thi[i], tlo[i]);
+            y[i] = LogRecipSumR<B>(r[i], k[i], thi[i], tlo[i]);
     }
 }
 
