@@ -335,10 +335,10 @@ TEST(InvTrig, Atan2SpecialValues) {
     }
 }
 
-// dAtan2 with a NaN on either side gives the first argument's NaN where it has one, else
-// the second's, quieted, and raises invalid only for a signalling one, at every slot and
-// whatever the kernel's inlining does to the order of the scalar routine's sum; in a
-// round, beside ordinary lanes.
+// Atan2 and Atan2pi with a NaN on either side give the first argument's NaN where it has
+// one, else the second's, quieted, and raise invalid only for a signalling one, at every
+// slot and whatever the kernel's inlining does to the order of the scalar routine's sum;
+// in a round, beside ordinary lanes.
 TEST(InvTrig, Atan2NaNOfTheFirstArgument) {
     auto nanOf = [](uint64_t bits) { return __builtin_bit_cast(double, bits); };
     const double qa = nanOf(0x7FF8000000000A11ull), qb = nanOf(0xFFF8000000000B22ull);
@@ -354,29 +354,29 @@ TEST(InvTrig, Atan2NaNOfTheFirstArgument) {
                           {qa, -3.0, 0x7FF8000000000A11ull, false},
                           {qa, sb, 0x7FF8000000000A11ull, true},
                           {sb, 1.0, 0x7FF8000000000B33ull, true}};
-    for (const Case& c : cases)
-        for (int slot = 0; slot < kSlots; ++slot) {
-            std::vector<double> a(20, 0.75), b(20, -1.25);
-            a[9] = c.a, b[9] = c.b;
-            CsrScope csr(0x1F80);
-            std::vector<double> y = Call2("dAtan2", slot, a, b);
-            EXPECT_EQ(Bits(y[9]), c.want) << "slot " << slot << " " << std::hexfloat << c.a << " "
-                                          << c.b;
-            EXPECT_EQ((_mm_getcsr() & 1) != 0, c.invalid) << "slot " << slot;
-            EXPECT_TRUE(SameValue(y[3], double(atan2l(0.75L, -1.25L))) ||
-                        WithinLevel(slot, y[3], atan2l(0.75L, -1.25L)));
-        }
-    // Single HA, in a round of sixteen: a's NaN quieted where both are NaN, whatever
-    // order the compiler gives the sum that makes it.
+    for (const char* row : {"dAtan2", "dAtan2pi"})
+        for (const Case& c : cases)
+            for (int slot = 0; slot < kSlots; ++slot) {
+                std::vector<double> a(20, 0.75), b(20, -1.25);
+                a[9] = c.a, b[9] = c.b;
+                CsrScope csr(0x1F80);
+                std::vector<double> y = Call2(row, slot, a, b);
+                EXPECT_EQ(Bits(y[9]), c.want)
+                    << row << " slot " << slot << " " << std::hexfloat << c.a << " " << c.b;
+                EXPECT_EQ((_mm_getcsr() & 1) != 0, c.invalid) << row << " slot " << slot;
+            }
+    // Single, in rounds of sixteen: a's NaN quieted where both are NaN.
     auto nanOfS = [](uint32_t bits) { return __builtin_bit_cast(float, bits); };
-    for (int at : {0, 5, 15}) {
-        std::vector<float> a(32, 0.75f), b(32, -1.25f);
-        a[at] = nanOfS(0x7FC00A11u), b[at] = nanOfS(0xFFC00B22u);
-        a[at + 16] = nanOfS(0xFFA00A11u), b[at + 16] = nanOfS(0x7FC00B22u);
-        std::vector<float> y = Call2("sAtan2", 1, a, b);
-        EXPECT_EQ(Bits(y[at]), 0x7FC00A11u) << at;
-        EXPECT_EQ(Bits(y[at + 16]), 0xFFE00A11u) << at;
-    }
+    for (const char* row : {"sAtan2", "sAtan2pi"})
+        for (int slot = 0; slot < kSlots; ++slot)
+            for (int at : {0, 5, 15}) {
+                std::vector<float> a(32, 0.75f), b(32, -1.25f);
+                a[at] = nanOfS(0x7FC00A11u), b[at] = nanOfS(0xFFC00B22u);
+                a[at + 16] = nanOfS(0xFFA00A11u), b[at + 16] = nanOfS(0x7FC00B22u);
+                std::vector<float> y = Call2(row, slot, a, b);
+                EXPECT_EQ(Bits(y[at]), 0x7FC00A11u) << row << " slot " << slot << " " << at;
+                EXPECT_EQ(Bits(y[at + 16]), 0xFFE00A11u) << row << " slot " << slot << " " << at;
+            }
 }
 
 // Pairs of every sign and exponent, so huge and tiny ratios, denormals and the vector

@@ -614,22 +614,18 @@ constexpr auto kRangeOf<float, Level::HA, Unit::Radian, true> = kRangeHA;
 // Atan2's special values (C99 Annex F) in the unit's half turn, and the other pairs by
 // the compensated double steps: single pairs as they are, double ones scaled by a
 // common power of two unless the quotient is so small that it is the result.
-template <Unit U, class T, bool AFirst = false>
+template <Unit U, class T>
 int Atan2Scalar(const T* pa, const T* pb, T* y) {
     T a = *pa, b = *pb;
     if (__builtin_isnan(a) || __builtin_isnan(b)) {
-        // AFirst: a's NaN where a is one, else b's, quieted, and the invalid flag for a
-        // signalling one, what a + b gives with a as the first operand, whichever order
-        // the compiler puts the operands of a + b in (the flattened kernels).
-        if constexpr (AFirst) {
-            if (__builtin_isnan(a)) {
-                *y = a + a;
-                Keep(Keep(b) + Keep(T(0)));
-            } else {
-                *y = b + b;
-            }
+        // a's NaN where a is one, else b's, quieted, and the invalid flag for a signalling
+        // one: what a + b gives with a as the first operand, whichever order the compiler
+        // puts the operands of a + b in.
+        if (__builtin_isnan(a)) {
+            *y = a + a;
+            Keep(Keep(b) + Keep(T(0)));
         } else {
-            *y = a + b;
+            *y = b + b;
         }
         return status::kNone;
     }
@@ -723,8 +719,7 @@ struct Atan2Body {
         return Atan2Of<U, L, Fast>(a, b, special);
     }
     static int Scalar(const T* a, const T* b, T* y) {
-        // Single HA by AFirst too: its rounds' row loads moved the compiler's order of a + b.
-        return Atan2Scalar<U, T, Fast && (sizeof(T) == 8 || L == Level::HA)>(a, b, y);
+        return Atan2Scalar<U, T>(a, b, y);
     }
     // HA (the row's own), and double LA on HA's steps: rounds of sixteen, each of the
     // three steps over the round's registers before the next.
