@@ -68,26 +68,17 @@ constexpr const auto& LnCoeffs() {
 template <Level L, int N>
 inline void LnRound(const __m128* x, __m128* y) {
     using K = LogConst<float>;
-    constexpr const auto& c = LnCoeffs<L>();
-    constexpr int C = sizeof(c) / sizeof(c[0]);
-    __m128 r[N], k[N], q[N];
+    __m128 r[N], k[N], p[N];
+#pragma GCC unroll 8
+    for (int i = 0; i < N; ++i) LogSplit(x[i], r[i], k[i]);
+    LogPolyRound<N>(r, LnCoeffs<L>(), p);
 #pragma GCC unroll 8
     for (int i = 0; i < N; ++i) {
-        LogSplit(x[i], r[i], k[i]);
-        q[i] = Set<float>(c[C - 1]);
-    }
-#pragma GCC unroll 16
-    for (int j = C - 2; j >= 0; --j) {
-#pragma GCC unroll 8
-        for (int i = 0; i < N; ++i) q[i] = MulAdd(r[i], q[i], Set<float>(c[j]));
-    }
-#pragma GCC unroll 8
-    for (int i = 0; i < N; ++i) {
-        const __m128 p = Add(r[i], Mul(Mul(r[i], r[i]), q[i]));
         if constexpr (L == Level::HA)
-            y[i] = Add(Add(Mul(k[i], Set<float>(K::kLn2Lo)), p), Mul(k[i], Set<float>(K::kLn2Hi)));
+            y[i] = Add(Add(Mul(k[i], Set<float>(K::kLn2Lo)), p[i]),
+                       Mul(k[i], Set<float>(K::kLn2Hi)));
         else
-            y[i] = Add(p, Mul(k[i], Set<float>(K::kLn2)));
+            y[i] = Add(p[i], Mul(k[i], Set<float>(K::kLn2)));
     }
 }
 

@@ -143,20 +143,11 @@ inline int Log1pRound(const __m128* x, __m128* y) {
             else
                 return Log1pConst<float>::kLA;
         }();
-        constexpr int C = sizeof(c) / sizeof(c[0]);
-        __m128 q[N];
+        __m128 p[N];
+        LogPolyRound<N>(r, c, p);
 #pragma GCC unroll 8
-        for (int i = 0; i < N; ++i) q[i] = Set<float>(c[C - 1]);
-#pragma GCC unroll 16
-        for (int j = C - 2; j >= 0; --j) {
-#pragma GCC unroll 8
-            for (int i = 0; i < N; ++i) q[i] = MulAdd(r[i], q[i], Set<float>(c[j]));
-        }
-#pragma GCC unroll 8
-        for (int i = 0; i < N; ++i) {
-            const __m128 p = Add(r[i], Mul(Mul(r[i], r[i]), q[i]));
-            y[i] = Or(Add(Add(p, Mul(k[i], Set<float>(K::kLn2))), cu[i]), SignBit(x[i]));
-        }
+        for (int i = 0; i < N; ++i)
+            y[i] = Or(Add(Add(p[i], Mul(k[i], Set<float>(K::kLn2))), cu[i]), SignBit(x[i]));
     }
     return bits;
 }

@@ -231,6 +231,23 @@ BRENN_VEC void LogByRecipRound(const __m128* m, const __m128* k, __m128* y,
     }
 }
 
+// The single forms' p = r + r^2 Q(r) over the N registers of a round, Q's coefficients c
+// (lowest degree first) by Horner's rule, each step over every register before the next,
+// so that the registers' chains interleave.
+template <int N, size_t C>
+BRENN_VEC void LogPolyRound(const __m128* r, const float (&c)[C], __m128* p) {
+    __m128 q[N];
+#pragma GCC unroll 8
+    for (int i = 0; i < N; ++i) q[i] = Set<float>(c[C - 1]);
+#pragma GCC unroll 16
+    for (int j = int(C) - 2; j >= 0; --j) {
+#pragma GCC unroll 8
+        for (int i = 0; i < N; ++i) q[i] = MulAdd(r[i], q[i], Set<float>(c[j]));
+    }
+#pragma GCC unroll 8
+    for (int i = 0; i < N; ++i) p[i] = Add(r[i], Mul(Mul(r[i], r[i]), q[i]));
+}
+
 // The reduction of the double core for positive normal x, two lanes: x = 2^k * m,
 // m = mh + ml with mh on the 2^-9 grid, and mh's row of lnRows: rcp and -ln(rcp) in
 // two parts th + tl. The power kernels start from it too.
