@@ -133,20 +133,9 @@ struct LnBody {
         } else {
             // The four pair splits first, their m, k and mh held apart (Opaque), then each
             // pair's rows and sums: the compiler would sink each split into its sums.
-            int bits = 0;
             LogPair ps[4];
             __m128d mh[8];
-#pragma GCC unroll 4
-            for (int q = 0; q < 4; ++q) {
-                ps[q] = SplitPair<5>(x[2 * q], x[2 * q + 1]);
-                bits |= ps[q].special << (4 * q);
-                PairCentres(ps[q], mh[2 * q], mh[2 * q + 1]);
-                for (int j = 0; j < 2; ++j) {
-                    ps[q].m[j] = Opaque(ps[q].m[j]);
-                    ps[q].k[j] = Opaque(ps[q].k[j]);
-                    mh[2 * q + j] = Opaque(mh[2 * q + j]);
-                }
-            }
+            const int bits = SplitRoundCentres(x, ps, mh);
 #pragma GCC unroll 4
             for (int q = 0; q < 4; ++q) {
                 const LogPair& p = ps[q];

@@ -128,20 +128,9 @@ template <int Base, Level L>
 BRENN_VEC int LogBaseWide(const __m128d* x, __m128d* y) {
     using K = LogRowsD<Base>;
     static_assert(sizeof(K::kRows[0]) == 32, "rows of 32 bytes");
-    int bits = 0;
     LogPair p[4];
     __m128d mh[8];
-#pragma GCC unroll 4
-    for (int q = 0; q < 4; ++q) {
-        p[q] = SplitPair<5>(x[2 * q], x[2 * q + 1]);
-        bits |= p[q].special << (4 * q);
-        PairCentres(p[q], mh[2 * q], mh[2 * q + 1]);
-        for (int j = 0; j < 2; ++j) {
-            p[q].m[j] = Opaque(p[q].m[j]);
-            p[q].k[j] = Opaque(p[q].k[j]);
-            mh[2 * q + j] = Opaque(mh[2 * q + j]);
-        }
-    }
+    const int bits = SplitRoundCentres(x, p, mh);
 #pragma GCC unroll 4
     for (int q = 0; q < 4; ++q) {
         y[2 * q] = LogBaseFrom<Base, L>(p[q].m[0], mh[2 * q], p[q].k[0],

@@ -431,6 +431,26 @@ BRENN_VEC void PairCentres(const LogPair& p, __m128d& mh0, __m128d& mh1) {
     mh1 = _mm_castps_pd(_mm_unpackhi_ps(z, c));
 }
 
+// A round of sixteen (eight registers) split by pairs on rows of 32 bytes, with each
+// pair's centres mh: the four splits first, their m, k and mh held apart (Opaque) so
+// that the compiler does not sink each into its rows and sums. The round's special-lane
+// bits.
+BRENN_VEC int SplitRoundCentres(const __m128d* x, LogPair (&ps)[4], __m128d (&mh)[8]) {
+    int bits = 0;
+#pragma GCC unroll 4
+    for (int q = 0; q < 4; ++q) {
+        ps[q] = SplitPair<5>(x[2 * q], x[2 * q + 1]);
+        bits |= ps[q].special << (4 * q);
+        PairCentres(ps[q], mh[2 * q], mh[2 * q + 1]);
+        for (int j = 0; j < 2; ++j) {
+            ps[q].m[j] = Opaque(ps[q].m[j]);
+            ps[q].k[j] = Opaque(ps[q].k[j]);
+            mh[2 * q + j] = Opaque(mh[2 * q + j]);
+        }
+    }
+    return bits;
+}
+
 // LnReduceBits for a pair: the two registers' reductions, bit for bit the same.
 BRENN_VEC void LnReducePair(const LogPair& p, LnReduction& r0, LnReduction& r1) {
     LoadLnRows(PairRow<0>(lnRows, p), PairRow<1>(lnRows, p), r0);
