@@ -5,8 +5,11 @@
  * the second part of s added as sl/sh; half of it is the real part. The head sh is the
  * rounded sum of the rounded squares, left as it is (sl up to an ulp and a half of it),
  * so that the core's reduction waits on two products and an addition, not on the
- * exact parts. Near |z| = 1, where
- * ln|z| is small, s - 1 is then exact and the real part keeps its relative accuracy.
+ * exact parts. Near |z| = 1, where ln|z| is small, s - 1 is then exact and the real
+ * part keeps its relative accuracy down to about 2^-50; below that its error is about
+ * 2^-103 absolutely (s's second part is that far from exact): more than an ulp of the
+ * part itself, but far below an ulp of the larger part, the imaginary one (a double z
+ * with |ln|z|| below 2^-50 has |arg z| above about 2^-27).
  * The imaginary part is the real Atan2 of (im, re) (invtrig/atan_body.h): HA on the table
  * steps of the real row's own kernel, LA and EP on the double steps at the level.
  * Lanes whose larger part lies outside [2^-450, 2^500], and the lanes Atan2 sends to
