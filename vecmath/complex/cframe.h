@@ -255,33 +255,12 @@ struct ComplexFrame {
             StoreParts(y + i + K, y1);
     }
 
-    // The last m (<= K) elements, through a group of copies.
-    static void Partial(const B& body, const In* a, const In* b, Out* y, int i, int m) {
-        alignas(16) In ta[K], tb[K];
-        for (int k = 0; k < K; ++k) {
-            FillSafe(ta[k]);
-            FillSafe(tb[k]);
-        }
-        for (int k = 0; k < m; ++k) {
-            ta[k] = a[i + k];
-            if (b) tb[k] = b[i + k];
-        }
-        Cx<T> ca = LoadParts(ta), cb, cy;
-        if (b) cb = LoadParts(tb);
-        int bits = body.Eval(&ca, b ? &cb : nullptr, cy) & ((1 << m) - 1);
-        alignas(16) Out r[K];
-        StoreParts(r, cy);
-        if constexpr (kHasScalar<B>)
-            if (bits) Special(body, a, b, y, i, bits, r);
-        for (int k = 0; k < m; ++k)
-            y[i + k] = r[k];
-    }
-
-    // The last m elements of a stepped body, more than a group and fewer than a round,
-    // through a round of copies: the groups' chains overlap as in a whole round, where
-    // group by group each would wait out its own.
-    static void SteppedTail(const B& body, const In* a, const In* b, Out* y, int i, int m) {
-        constexpr int N = kGroupsARound<B>;
+    // The last m elements, fewer than N groups' worth, through N groups of copies: the
+    // last partial group (N = 1), or for a stepped body more than a group and fewer than
+    // a round (N groups a round), so that the groups' chains overlap as in a whole round,
+    // where group by group each would wait out its own.
+    template <int N>
+    static void Tail(const B& body, const In* a, const In* b, Out* y, int i, int m) {
         alignas(16) In ta[N * K], tb[N * K];
         for (int k = 0; k < N * K; ++k) {
             FillSafe(ta[k]);
@@ -296,7 +275,12 @@ struct ComplexFrame {
             ca[g] = LoadParts(ta + g * K);
             if (b) cb[g] = LoadParts(tb + g * K);
         }
-        int bits = body.EvalGroups(ca, b ? cb : nullptr, cy) & ((1 << m) - 1);
+        int bits;
+        if constexpr (N == 1)
+            bits = body.Eval(ca, b ? cb : nullptr, cy[0]);
+        else
+            bits = body.EvalGroups(ca, b ? cb : nullptr, cy);
+        bits &= (1 << m) - 1;
         alignas(16) Out r[N * K];
         for (int g = 0; g < N; ++g)
             StoreParts(r + g * K, cy[g]);
@@ -317,11 +301,11 @@ struct ComplexFrame {
             Round(body, a, b, y, i);
         if constexpr (kStepped<B>)
             if (n - i > K) {
-                SteppedTail(body, a, b, y, i, n - i);
+                Tail<kGroupsARound<B>>(body, a, b, y, i, n - i);
                 i = n;
             }
         for (; i < n; i += K)
-            Partial(body, a, b, y, i, n - i < K ? n - i : K);
+            Tail<1>(body, a, b, y, i, n - i < K ? n - i : K);
         Leave(env);
     }
 };
