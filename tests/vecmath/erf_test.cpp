@@ -302,10 +302,36 @@ TEST(ErfRows, DoubleLongExpansionAsStated) {
     }
 }
 
-// Single Erf EP and LA: the double steps (EP's with the grid held at 3.9296875), rounded
-// to single, on random arguments, the rows' offsets, the hold and denormals (no flag but
-// inexact where the result is normal); beyond the hold the result is 1.
-TEST(ErfRows, SingleShortExpansionInDouble) {
+// Single Erf EP and LA, step by step in single arithmetic: |x| held at 3.9296875, the
+// nearest grid point by the shifter 2^16 (the row index the sum's bits less the
+// shifter's), d, the single row (v, D); EP v + D*d; LA v + (w + w*R), w = D*d, with
+// R = t*(-1 + (2/3)t) - u/3 the first terms of S(2t, u) - 1, t = xj*d, u = d^2 (0 below
+// 2^-40). x's sign on the sum.
+float ErfSingleSteps(float x, bool la) {
+    const float ax = fabsf(x);
+    const float a = ax > 3.9296875f ? 3.9296875f : ax;
+    const float s = a + 0x1p16f;
+    const float xj = s - 0x1p16f;
+    const float d = a - xj;
+    uint32_t bits, bias;
+    const float shifter = 0x1p16f;
+    memcpy(&bits, &s, sizeof bits);
+    memcpy(&bias, &shifter, sizeof bias);
+    const float* row = brenn::vm::erfRowsSingle[bits - bias];
+    const float w = row[1] * d;
+    if (!la) return copysignf(row[0] + w, x);
+    const auto& c = brenn::vm::kErfSeries;
+    const float t = xj * d;
+    const float u = a < 0x1p-40f ? 0.0f : d * d;
+    const float r = u * float(c[1][0]) + t * (t * float(c[0][2] * 4) + float(c[0][1] * 2));
+    return copysignf(row[0] + (w + w * r), x);
+}
+
+// The single EP and LA bodies equal those steps bit for bit on random arguments, every
+// row's offsets, the hold and beyond, tiny arguments and denormals (no flag but inexact
+// where the result is normal, HA's too); the steps hold 15 bits (EP) and 2 ulp (LA) at the widest
+// offsets of every row.
+TEST(ErfRows, SingleShortExpansionOnSingleLanes) {
     std::mt19937 gen(20261131);
     std::uniform_real_distribution<float> wide(-4.5f, 4.5f), expo(-125, 0);
     std::vector<float> x;
@@ -316,33 +342,45 @@ TEST(ErfRows, SingleShortExpansionInDouble) {
     for (int j = 0; j < 504; ++j)
         for (float off : {-0.5f, -0x1p-10f, 0.0f, 0x1p-12f, 0.49f})
             if (j + off >= 0) x.push_back((j + off) / 128);
-    for (float e : {3.9296875f, 3.9296877f, 6.0f, 1e30f, float(INFINITY), 0.0f})
+    for (float e : {0x1p-40f, 0x1.fffffep-41f, 0x1p-60f, 0x1p-120f, 3.9296875f, 3.9296877f, 6.0f, 1e30f,
+                    float(INFINITY), 0.0f})
         for (float v : {e, -e})
             x.push_back(v);
     std::vector<float> y(x.size());
-    std::feclearexcept(FE_ALL_EXCEPT);
-    As<Unary<float>>(Slot("sErf", kSlotEP))(int(x.size()), x.data(), y.data());
-    EXPECT_FALSE(std::fetestexcept(FE_UNDERFLOW | FE_INVALID | FE_OVERFLOW | FE_DIVBYZERO));
-    for (float e : {0x1p-149f, 0x1.8p-140f, 0x1p-126f}) // results denormal or near
-        for (float v : {e, -e}) {
-            x.push_back(v);
-            y.push_back(Call(Fn::Erf, kSlotEP, v));
+    for (bool la : {false, true}) {
+        const char* level = la ? "LA" : "EP";
+        std::feclearexcept(FE_ALL_EXCEPT);
+        As<Unary<float>>(Slot("sErf", la ? kSlotLA : kSlotEP))(int(x.size()), x.data(), y.data());
+        EXPECT_FALSE(std::fetestexcept(FE_UNDERFLOW | FE_INVALID | FE_OVERFLOW | FE_DIVBYZERO))
+            << level;
+        std::vector<float> xs = x, ys = y;
+        for (float e : {0x1p-149f, 0x1.8p-140f, 0x1p-126f}) // results denormal or near
+            for (float v : {e, -e}) {
+                xs.push_back(v);
+                ys.push_back(Call(Fn::Erf, la ? kSlotLA : kSlotEP, v));
+            }
+        int wrong = 0;
+        for (size_t i = 0; i < xs.size(); ++i) {
+            if (SameValue(ys[i], ErfSingleSteps(xs[i], la))) continue;
+            if (++wrong <= 10) ADD_FAILURE() << level << " x " << xs[i] << " got " << ys[i];
         }
-    int wrong = 0;
-    for (size_t i = 0; i < x.size(); ++i) {
-        if (SameValue(y[i], float(ErfShortSteps(x[i], 3.9296875)))) continue;
-        if (++wrong <= 10) ADD_FAILURE() << "x " << x[i] << " got " << y[i];
+        EXPECT_EQ(wrong, 0) << level;
     }
-    EXPECT_EQ(wrong, 0);
-    As<Unary<float>>(Slot("sErf", kSlotLA))(int(x.size()), x.data(), y.data());
-    wrong = 0;
-    for (size_t i = 0; i < x.size(); ++i) {
-        if (SameValue(y[i], float(ErfLASteps(x[i])))) continue;
-        if (++wrong <= 10) ADD_FAILURE() << "LA x " << x[i] << " got " << y[i];
+    std::feclearexcept(FE_ALL_EXCEPT);
+    As<Unary<float>>(Slot("sErf", kSlotHA))(int(x.size()), x.data(), y.data());
+    EXPECT_FALSE(std::fetestexcept(FE_UNDERFLOW | FE_INVALID | FE_OVERFLOW | FE_DIVBYZERO)) << "HA";
+    for (int j = 0; j < 504; ++j)
+        for (float off : {-0.5f, 0.49999f}) {
+            float v = (j + off) / 128;
+            if (v <= 0) continue;
+            long double ref = erfl(v);
+            EXPECT_LE(fabsl((ErfSingleSteps(v, false) - ref) / ref), 0x1p-15L) << "EP " << v;
+            EXPECT_LE(UlpError(ErfSingleSteps(v, true), ref), 2.0) << "LA " << v;
+        }
+    for (int slot : {kSlotEP, kSlotLA}) {
+        EXPECT_EQ(Call(Fn::Erf, slot, 3.9296877f), 1.0f);
+        EXPECT_EQ(Call(Fn::Erf, slot, -6.0f), -1.0f);
     }
-    EXPECT_EQ(wrong, 0);
-    EXPECT_EQ(Call(Fn::Erf, kSlotEP, 3.9296877f), 1.0f);
-    EXPECT_EQ(Call(Fn::Erf, kSlotEP, -6.0f), -1.0f);
 }
 
 TEST(ErfRows, EdgeValuesAndStatuses) {

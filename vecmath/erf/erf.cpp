@@ -8,10 +8,10 @@
  * OR-ed on. LA: the same with grid_core.h's longer series of S(tau, u) - 1 (u^3 left
  * out), V + (w + w*S1). HA: the same rows, a longer series still, w in two parts split at
  * the high words, V + wh summed exactly and V's remainder added (ErfLongRound), and a path
- * of its own below 0.02734375 (ErfSmall). Single EP and LA are the double EP (the grid held
- * at 3.9296875, from where erf is 1 in single) and LA bodies on the widened lanes. Single
- * HA runs on single lanes (grid_single.h, the single rows; its last sum on double lanes
- * with erfRows), the grid held at 3.9296875.
+ * of its own below 0.02734375 (ErfSmall). Single runs on single lanes (grid_single.h), the
+ * grid held at 3.9296875, from where erf is 1 in single: EP v + D*d and LA v + (w + w*S1)
+ * with S1's first terms on the single rows (15.3 bits, 1.80 ulp); HA the series on single
+ * lanes and its last sum on double lanes with erfRows.
  * |x| is held at the grid's end by its bits (in double by the high word, HeldAtLimit), so
  * that a NaN lane runs there and raises nothing; NaN lanes are set aside after the body,
  * one test a round. Every level runs rounds of sixteen, each step over the round's
@@ -53,13 +53,12 @@ constexpr SeriesCut kCutSingleHA{2, 1, 0, 0}, kCutSingleLA{2, 1, 0, 0}, kCutSing
 // is not above 2^-256, so that tiny arguments do not underflow), R = t*P + u*Q with P, Q
 // the Taylor terms of erf(xj + d) in t (-1, 2/3; -1/3, 1/2), slightly tuned;
 // erf = V + (w + R*w), w = d*D, and x's sign OR-ed on.
-template <double kLimit = 5.9921875>
 BRENN_VEC __m128d ErfShort(__m128d x, I32x4& top) {
     constexpr double kP1 = 0.6666678110767819, kP0 = -1.0000014305126206;
     constexpr double kQ1 = 0.5000019073510884, kQ0 = -0.33333504994947405;
     __m128d ax = Abs(x);
     top = Max(top, BitCast<I32x4>(AsInt(ax)));
-    __m128d a = HeldAtLimit<kLimit>(ax);
+    __m128d a = HeldAtLimit(ax);
     __m128d s = Add(a, Set<double>(kShifter128));
     __m128d xj = Sub(s, Set<double>(kShifter128));
     __m128d d = Sub(a, xj);
@@ -198,30 +197,6 @@ BRENN_VEC void ErfDouble(const __m128d* x, __m128d* y) {
 // one test a round) taken aside afterwards: x + 0, the NaN quieted.
 template <Level L, int N>
 BRENN_VEC void ErfSingle(const __m128* x, __m128* y) {
-    if constexpr (L == Level::EP) { // in double, the grid held at 3.9296875
-        I32x4 top = Set<int32_t>(0);
-#pragma GCC unroll 4
-        for (int k = 0; k < N; ++k)
-            y[k] = Narrow(ErfShort<3.9296875>(WidenLower(x[k]), top),
-                          ErfShort<3.9296875>(WidenUpper(x[k]), top));
-        if (__builtin_expect(AnyBeyondLimit<3.9296875>(top), 0)) {
-            for (int k = 0; k < N; ++k)
-                y[k] = IfThenElse(Unordered(x[k], x[k]), Add(x[k], Zero<float>()), y[k]);
-        }
-        return;
-    } else if constexpr (L == Level::LA) { // the double LA body on the widened lanes
-        __m128d xd[2 * N], yd[2 * N];
-#pragma GCC unroll 4
-        for (int k = 0; k < N; ++k) {
-            xd[2 * k] = WidenLower(x[k]);
-            xd[2 * k + 1] = WidenUpper(x[k]);
-        }
-        ErfDouble<L, 2 * N>(xd, yd);
-#pragma GCC unroll 4
-        for (int k = 0; k < N; ++k)
-            y[k] = Narrow(yd[2 * k], yd[2 * k + 1]);
-        return;
-    }
     constexpr SeriesCut cut = L == Level::EP   ? kCutSingleEP
                               : L == Level::LA ? kCutSingleLA
                                                : kCutSingleHA;
@@ -251,8 +226,7 @@ struct ErfBody {
         return y;
     }
     // Rounds of sixteen at every level, each step over the round's registers where the
-    // body has steps (single LA on widened lanes: 5.10 -> 4.41 ticks an element against
-    // rounds of eight; the EPs the same or a little faster).
+    // body has steps.
     static constexpr int kRound = 16;
     static int EvalWide(const V* x, V* y) {
         constexpr int N = 16 / kLanes<T>;

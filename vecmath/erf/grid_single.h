@@ -95,10 +95,14 @@ BRENN_VEC SinglePoint<G, kWide> SingleNearest(__m128 x) {
     // |x| held by its bits, so that a NaN lane (Erf takes it aside afterwards) runs at the
     // limit and raises nothing.
     __m128 a = AsFloat(Min(AsInt(ax), AsInt(lim)));
-    p.tiny = Lt(a, Set<float>(0x1p-60f));
     // Erfc and Q are F(0) to the last bit below 2^-60: those run at 2^-60, so that
-    // u = d^2 raises no underflow. Erf takes u = 0 there instead.
-    if constexpr (G::kMirror != 0) a = Max(a, Set<float>(0x1p-60f));
+    // u = d^2 raises no underflow. Erf takes u = 0 there instead, and on single lanes
+    // (LA) below 2^-40, where w*u/3 of the sum would fall below the least normal from
+    // 2^-41.5 down (u/3 is below 2^-81 of F there).
+    if constexpr (G::kMirror != 0)
+        a = Max(a, Set<float>(0x1p-60f));
+    else
+        p.tiny = Lt(a, Set<float>(kWide ? 0x1p-60f : 0x1p-40f));
     __m128 s = Add(a, Set<float>(shifter));
     p.xj = Sub(s, Set<float>(shifter));
     p.d = Sub(a, p.xj);
@@ -120,8 +124,9 @@ template <class G, SeriesCut C, bool kWide>
 BRENN_VEC __m128 SingleSeries(const SinglePoint<G, kWide>& p) {
     if constexpr (C.n0 > 0) {
         __m128 t = Mul(p.xj, p.d); // tau / kTauScale
-        __m128 v = Mul(p.d, p.d);  // u / kUScale
-        if constexpr (G::kMirror == 0) v = IfThenZeroElse(p.tiny, v);
+        // u / kUScale; d zeroed first where Erf takes u = 0, so that d*d raises no underflow
+        __m128 dz = G::kMirror == 0 ? IfThenZeroElse(p.tiny, p.d) : p.d;
+        __m128 v = Mul(dz, dz);
         return SeriesLessOne<C, G::kTauScale, G::kUScale>(t, v);
     } else {
         return Zero<float>();
