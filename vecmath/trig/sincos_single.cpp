@@ -167,7 +167,11 @@ BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p) {
     }
     if constexpr (L == Level::EP) {
         __m128 r[N], u[N];
+        // The sign (-1)^n on r rather than on the result: the series is odd and every
+        // step rounds alike at either sign, so the bits are the same, and the sign is dead
+        // once r is.
         ReduceS<N>(a, n, r);
+        BRENN_EACH(k, N) r[k] = Opaque(Xor(r[k], sign[k]));
         BRENN_EACH(k, N) u[k] = Mul(r[k], r[k]);
         SeriesEP<N>(r, u, cosine, p);
     } else if constexpr (L == Level::LA) {
@@ -185,15 +189,24 @@ BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p) {
             BRENN_EACH(k, N) wide[k] = Narrow(rd[2 * k], rd[2 * k + 1]);
             TakeNearZeroSq<N>(r, u, wide);
         }
+        // The sign on r as at EP (r is never a zero here but at x = 0, where n is 0).
+        BRENN_EACH(k, N) r[k] = Opaque(Xor(r[k], sign[k]));
         SeriesOdd<N>(r, u, kSinLA, p);
     } else {
+        // Every register's remainder first, held, then the series a single register's
+        // two halves at a time, each result held: over all eight halves at once the
+        // compiler keeps a few of them and spills the rest.
         __m128d r[2 * N];
         ReduceD<N>(a, n, r);
+        BRENN_EACH(k, 2 * N) r[k] = Opaque(r[k]);
         __m128d pd[2 * N];
-        SeriesHA<2 * N>(r, pd);
-        BRENN_EACH(k, N) p[k] = Narrow(pd[2 * k], pd[2 * k + 1]);
+        BRENN_EACH(k, N) {
+            SeriesHA<2>(r + 2 * k, pd + 2 * k);
+            pd[2 * k] = Opaque(pd[2 * k]);
+            pd[2 * k + 1] = Opaque(pd[2 * k + 1]);
+        }
+        BRENN_EACH(k, N) p[k] = Xor(Narrow(pd[2 * k], pd[2 * k + 1]), sign[k]);
     }
-    BRENN_EACH(k, N) p[k] = Xor(p[k], sign[k]);
     // LA's series r + r u P(u) turns r = -0 (sine of x = -0) into +0: zeros are among the
     // lanes near zero, which alone take the sign of x back (a signed zero, also for a
     // denormal x read as zero).
