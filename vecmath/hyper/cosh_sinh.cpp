@@ -42,6 +42,8 @@ struct CoshWindow<float> {
     static constexpr Range32 kWindowLA = {0x7FFFFFFFu, 0u, 0x42AEAC4Du};
     static constexpr Range32 kWindowHA = {0x7FFFFFFFu, 0u, 0x42B2D4FCu};
     static constexpr Range32 kSinhWindowHA = {0x7FFFFFFFu, 0x7F000000u, 0xC1B2D4FCu};
+    // Sinh HA's rounds of sixteen: |x| outside [1/4, 89.4159927].
+    static constexpr Range32 kSinhRoundHA = {0x7FFFFFFFu, 0x41800000u, 0x8432D4FCu};
     static constexpr Range32 kWindowEP = {0x7FFFFFFFu, 0u, 0x42B2D1EBu};
     static constexpr Range32 kSinhWindowEP = {0x7FFFFFFFu, 0x7F000000u, 0xC1B2D1EBu};
 };
@@ -293,7 +295,9 @@ BRENN_VEC int HalvesRound(const __m128d* x, __m128d* y) {
 // result normal up to the overflow point, where m = 129). Sinh takes n = 0 below 1/4,
 // where the leading value would be small beside the bracket: there the result is O alone
 // (C = 4, S = 0, the scale 1/4), fitted on [0, 1/4] (tools/hyper/sinh_single_ha.sollya,
-// 2^-34).
+// 2^-34); from 1/4 on its O is Cosh's. A Sinh round of sixteen with no lane below 1/4
+// (tested once, with the window) takes Cosh's steps and no blend; the others go register
+// by register, each lane choosing its O by its own a.
 constexpr float kInvStepS = 0x1.715476p+5f;   // 32/ln2, 46.1662407
 constexpr float kStepHiS = 0x1.63p-6f;        // ln2/32, head: 0.0216674805
 constexpr float kStepLoS = -0x1.bd0106p-18f;  // and the rest: -6.6310763e-06
@@ -304,16 +308,19 @@ constexpr uint32_t kSinhSmallEndHA = 0x3E800000u; // 0.25
 
 // In three steps, so that a round of sixteen takes each over its four registers before
 // the next (HyperSingleHARound): the reduction, the rows, the sums.
+// Small: Sinh's lanes below 1/4 may be among them (small marks them).
 struct HyperHAState {
-    __m128 r, ch, cl, sh, sl;
+    __m128 r, ch, cl, sh, sl, small;
     I32x4 tb;
 };
-template <Fn F>
+template <Fn F, bool Small>
 BRENN_VEC void HyperHAReduce(__m128 a, HyperHAState& s) {
     const __m128 shifter = Set<float>(Format<float>::kShifter);
     __m128 an = a;
-    if constexpr (F == Fn::Sinh) // n = 0 below 1/4
-        an = IfThenZeroElse(AsFloat(Gt(Opaque(Set<uint32_t>(kSinhSmallEndHA)), AsInt(a))), a);
+    if constexpr (F == Fn::Sinh && Small) { // n = 0 below 1/4
+        s.small = AsFloat(Gt(Opaque(Set<uint32_t>(kSinhSmallEndHA)), AsInt(a)));
+        an = IfThenZeroElse(s.small, a);
+    }
     __m128 t = Add(Mul(an, Set<float>(kInvStepS)), shifter);
     __m128 n = Sub(t, shifter);
     s.r = Sub(Sub(a, Mul(n, Set<float>(kStepHiS))), Mul(n, Set<float>(kStepLoS)));
@@ -330,18 +337,16 @@ BRENN_VEC void HyperHARows(HyperHAState& s) {
     LoadTransposed(coshRowsS[uint32_t(p.lower)], coshRowsS[p.lower >> 32],
                    coshRowsS[uint32_t(p.upper)], coshRowsS[p.upper >> 32], s.ch, s.cl, s.sh, s.sl);
 }
-template <Fn F>
+template <Fn F, bool Small>
 BRENN_VEC __m128 HyperHASum(const HyperHAState& s) {
     const __m128 r = s.r, ch = s.ch, cl = s.cl, sh = s.sh, sl = s.sl;
     I32x4 scale = Add(ShiftLeft<Format<float>::kMantBits>(ShiftRight<5>(s.tb)),
                       Set<uint32_t>(0x3E800000u)); // 2^(m-2)
     __m128 r2 = Mul(r, r);
     __m128 e = Mul(r2, Set<float>(kEvenHA));
-    __m128 o;
-    if constexpr (F == Fn::Sinh)
-        o = Add(r, Mul(Mul(r, r2), Horner(r2, kSinhSmallHA)));
-    else
-        o = Add(r, Mul(Mul(r, r2), Set<float>(kOddHA)));
+    __m128 q = Set<float>(kOddHA);
+    if constexpr (F == Fn::Sinh && Small) q = IfThenElse(s.small, Horner(r2, kSinhSmallHA), q);
+    __m128 o = Add(r, Mul(Mul(r, r2), q));
     __m128 y;
     if constexpr (F == Fn::Cosh)
         y = Add(ch, Add(Mul(sh, o), Add(cl, Mul(ch, e))));
@@ -352,18 +357,19 @@ BRENN_VEC __m128 HyperHASum(const HyperHAState& s) {
 template <Fn F>
 inline __m128 HyperSingleHA(__m128 a) {
     HyperHAState s;
-    HyperHAReduce<F>(a, s);
+    HyperHAReduce<F, true>(a, s);
     HyperHARows(s);
-    return HyperHASum<F>(s);
+    return HyperHASum<F, true>(s);
 }
 // A round of four registers of |x| step by step, the reductions held apart (Opaque) so
-// that the compiler does not sink each into its register's rows and sums.
+// that the compiler does not sink each into its register's rows and sums; no lane below
+// 1/4 in a Sinh round.
 template <Fn F>
 BRENN_VEC void HyperSingleHARound(const __m128* a, __m128* y) {
     HyperHAState s[4];
 #pragma GCC unroll 4
     for (int k = 0; k < 4; ++k) {
-        HyperHAReduce<F>(a[k], s[k]);
+        HyperHAReduce<F, false>(a[k], s[k]);
         s[k].r = Opaque(s[k].r);
         s[k].tb = Opaque(s[k].tb);
     }
@@ -372,7 +378,7 @@ BRENN_VEC void HyperSingleHARound(const __m128* a, __m128* y) {
         HyperHARows(s[k]);
 #pragma GCC unroll 4
     for (int k = 0; k < 4; ++k)
-        y[k] = HyperHASum<F>(s[k]);
+        y[k] = HyperHASum<F, false>(s[k]);
 }
 
 // Single LA beyond its window, from 87.3365326 up to the overflow point: the lanes of
@@ -441,9 +447,10 @@ struct HyperBody {
     // Single HA the same way, its round's registers step by step (HyperSingleHARound).
     static constexpr bool kTestOnce = sizeof(T) == 4 && L != Level::LA;
     static constexpr int kRound = sizeof(T) == 8 || kTestOnce ? 16 : 8;
+    // Sinh HA's rounds: outside also below 1/4 (HyperSingleHARound has no small band).
     static constexpr Range32 kWindow =
         L == Level::HA
-            ? (F == Fn::Sinh ? CoshWindow<float>::kSinhWindowHA : CoshWindow<float>::kWindowHA)
+            ? (F == Fn::Sinh ? CoshWindow<float>::kSinhRoundHA : CoshWindow<float>::kWindowHA)
             : (F == Fn::Sinh ? CoshWindow<float>::kSinhWindowEP : CoshWindow<float>::kWindowEP);
     static BRENN_VEC V Value(V x) {
         V y = HyperOf<F, L>(Abs(x));
