@@ -141,7 +141,7 @@ BRENN_TRIG_HOT void ReduceD(const __m128* a, const __m128* n, __m128d* r) {
 // the clamp changes nothing).
 template <Level L, int N, bool kClamp>
 BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p) {
-    __m128 a[N], sign[N], n[N];
+    __m128 a[N], t[N], n[N];
     bool nearZero = false;
     const __m128 limit = SplatBits<float>(kLimitS);
     const __m128 shifter = Set<float>(Format<float>::kShifter);
@@ -150,15 +150,16 @@ BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p) {
         BRENN_EACH(k, N) a[k] = Min(a[k], limit);
         if (!cosine) BRENN_EACH(k, N) a[k] = Max(a[k], Neg(limit));
     }
-    {
-        __m128 t[N];
-        BRENN_EACH(k, N) t[k] = Mul(a[k], Set<float>(kInvPi));
-        if (cosine) BRENN_EACH(k, N) t[k] = Add(t[k], Set<float>(0.5f));
-        BRENN_EACH(k, N) t[k] = Add(t[k], shifter);
-        BRENN_EACH(k, N) sign[k] = AsFloat(ShiftLeft<31>(AsInt(t[k])));
-        BRENN_EACH(k, N) n[k] = Sub(t[k], shifter);
-        if (cosine) BRENN_EACH(k, N) n[k] = Sub(n[k], Set<float>(0.5f));
-    }
+    BRENN_EACH(k, N) t[k] = Mul(a[k], Set<float>(kInvPi));
+    if (cosine) BRENN_EACH(k, N) t[k] = Add(t[k], Set<float>(0.5f));
+    BRENN_EACH(k, N) t[k] = Add(t[k], shifter);
+    // n from t, and the sign (-1)^n from t's low bit where it is used.
+    auto nOf = [&](const __m128* tt, __m128* nn) {
+        BRENN_EACH(k, N) nn[k] = Sub(tt[k], shifter);
+        if (cosine) BRENN_EACH(k, N) nn[k] = Sub(nn[k], Set<float>(0.5f));
+    };
+    auto signOf = [](__m128 tk) { return AsFloat(ShiftLeft<31>(AsInt(tk))); };
+    nOf(t, n);
     bool tiny = false; // LA and EP cosine: a lane below 2^-12 (below)
     if (cosine && L != Level::HA) {
         I32x4 least = AsInt(a[0]);
@@ -171,7 +172,7 @@ BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p) {
         // step rounds alike at either sign, so the bits are the same, and the sign is dead
         // once r is.
         ReduceS<N>(a, n, r);
-        BRENN_EACH(k, N) r[k] = Opaque(Xor(r[k], sign[k]));
+        BRENN_EACH(k, N) r[k] = Opaque(Xor(r[k], signOf(t[k])));
         BRENN_EACH(k, N) u[k] = Mul(r[k], r[k]);
         SeriesEP<N>(r, u, cosine, p);
     } else if constexpr (L == Level::LA) {
@@ -183,14 +184,18 @@ BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p) {
         BRENN_EACH(k, N) u[k] = Mul(r[k], r[k]);
         nearZero = AnyNearZeroSq<N>(u);
         if (__builtin_expect(nearZero, 0)) {
+            // n again from t (held apart), rather than n kept through the common path.
+            __m128 tt[N], nn[N];
+            BRENN_EACH(k, N) tt[k] = Opaque(t[k]);
+            nOf(tt, nn);
             __m128d rd[2 * N];
-            ReduceD<N>(a, n, rd);
+            ReduceD<N>(a, nn, rd);
             __m128 wide[N];
             BRENN_EACH(k, N) wide[k] = Narrow(rd[2 * k], rd[2 * k + 1]);
             TakeNearZeroSq<N>(r, u, wide);
         }
         // The sign on r as at EP (r is never a zero here but at x = 0, where n is 0).
-        BRENN_EACH(k, N) r[k] = Opaque(Xor(r[k], sign[k]));
+        BRENN_EACH(k, N) r[k] = Opaque(Xor(r[k], signOf(t[k])));
         SeriesOdd<N>(r, u, kSinLA, p);
     } else {
         // Every register's remainder first, held, then the series a single register's
@@ -205,7 +210,7 @@ BRENN_TRIG_HOT void ShortN(const __m128* x, bool cosine, __m128* p) {
             pd[2 * k] = Opaque(pd[2 * k]);
             pd[2 * k + 1] = Opaque(pd[2 * k + 1]);
         }
-        BRENN_EACH(k, N) p[k] = Xor(Narrow(pd[2 * k], pd[2 * k + 1]), sign[k]);
+        BRENN_EACH(k, N) p[k] = Xor(Narrow(pd[2 * k], pd[2 * k + 1]), signOf(t[k]));
     }
     // LA's series r + r u P(u) turns r = -0 (sine of x = -0) into +0: zeros are among the
     // lanes near zero, which alone take the sign of x back (a signed zero, also for a
