@@ -82,8 +82,9 @@ struct SinglePoint {
     const Row *q0, *q1, *q2, *q3; // the double rows: HA
 };
 
+// Erf's `top` gets the largest |x| as an integer (above +infinity's bits for a NaN).
 template <class G, bool kWide>
-BRENN_VEC SinglePoint<G, kWide> SingleNearest(__m128 x) {
+BRENN_VEC SinglePoint<G, kWide> SingleNearest(__m128 x, I32x4& top) {
     constexpr float shifter = float(G::kShifter * 0x1p-29);
     SinglePoint<G, kWide> p;
     __m128 ax = Abs(x);
@@ -94,6 +95,7 @@ BRENN_VEC SinglePoint<G, kWide> SingleNearest(__m128 x) {
     }
     // |x| held by its bits, so that a NaN lane (Erf takes it aside afterwards) runs at the
     // limit and raises nothing.
+    if constexpr (G::kMirror == 0) top = Max(top, AsInt(ax));
     __m128 a = AsFloat(Min(AsInt(ax), AsInt(lim)));
     // Erfc and Q are F(0) to the last bit below 2^-60: those run at 2^-60, so that
     // u = d^2 raises no underflow. Erf takes u = 0 there instead, and on single lanes
@@ -187,25 +189,29 @@ BRENN_VEC __m128 SingleSum(__m128 x, const SinglePoint<G, kTwoPart>& p, __m128 s
 // HA: the series on single lanes, the last sum in double on the double rows.
 template <class G, SeriesCut C, bool kTwoPart, bool kScaled = false>
 inline __m128 GridEvalSingle(__m128 x) {
-    SinglePoint<G, kTwoPart> p = SingleNearest<G, kTwoPart>(x);
+    I32x4 top;
+    SinglePoint<G, kTwoPart> p = SingleNearest<G, kTwoPart>(x, top);
     return SingleSum<G, C, kTwoPart, kScaled>(x, p, SingleSeries<G, C>(p));
 }
 
 // The same on the N registers x, each step over every register before the next (the
-// rows' loads of the round issue together, the series' chains side by side).
+// rows' loads of the round issue together, the series' chains side by side); for Erf,
+// whether the round has a NaN lane.
 template <class G, SeriesCut C, bool kTwoPart, bool kScaled, int N>
-BRENN_VEC void GridEvalSingleRound(const __m128* x, __m128* y) {
+BRENN_VEC bool GridEvalSingleRound(const __m128* x, __m128* y) {
     SinglePoint<G, kTwoPart> p[N];
     __m128 s1[N];
+    I32x4 top = Set<int32_t>(0);
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k)
-        p[k] = SingleNearest<G, kTwoPart>(x[k]);
+        p[k] = SingleNearest<G, kTwoPart>(x[k], top);
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k)
         s1[k] = SingleSeries<G, C>(p[k]);
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k)
         y[k] = SingleSum<G, C, kTwoPart, kScaled>(x[k], p[k], s1[k]);
+    return G::kMirror == 0 && MaskBits(Gt(top, Set<int32_t>(0x7F800000))) != 0;
 }
 
 } // namespace brenn::vm
