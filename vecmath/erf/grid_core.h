@@ -183,7 +183,7 @@ BRENN_VEC __m128d GridEvalRound(const __m128d* x, __m128d* y) {
     }
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k)
-        s1[k] = SeriesLessOne<C, G::kTauScale, G::kUScale>(s1[k], u[k]);
+        s1[k] = Opaque(SeriesLessOne<C, G::kTauScale, G::kUScale>(s1[k], u[k]));
 #pragma GCC unroll 8
     for (int k = 0; k < N; ++k) {
         __m128d mirror = Zero<double>();
