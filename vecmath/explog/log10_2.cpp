@@ -18,7 +18,6 @@
 #include "vecmath/explog/flat.h"
 #include "vecmath/explog/log_base_double.h"
 #include "vecmath/explog/log_scalar.h"
-#include "vecmath/explog/wide.h"
 #include "vecmath/frame/kernel_frame.h"
 
 namespace brenn::vm {
@@ -113,6 +112,51 @@ inline __m128 LogOf(__m128 x) {
     }
 }
 
+// The single EP and LA body over the N registers of a round, stage by stage: every
+// split (r and k held apart, Opaque), then at LA every register's Estrin part (held
+// too), then each Horner step over every register before the next, then the sums. The same operations
+// on every lane as LogOf, the same bits; one register after another, the compiler ran
+// each register's chain to its sum before the next.
+template <int Base, Level L, int N>
+inline void LogRound(const __m128* x, __m128* y) {
+    using K = LogBase<Base>;
+    __m128 r[N], k[N], q[N];
+#pragma GCC unroll 8
+    for (int i = 0; i < N; ++i) {
+        LogSplit(x[i], r[i], k[i]);
+        r[i] = Opaque(r[i]);
+        k[i] = Opaque(k[i]);
+    }
+    const auto& c = [&]() -> const auto& {
+        if constexpr (L == Level::EP)
+            return K::kEP;
+        else
+            return K::kLALow;
+    }();
+    constexpr int C = sizeof(c) / sizeof(c[0]);
+    if constexpr (L == Level::EP) {
+#pragma GCC unroll 8
+        for (int i = 0; i < N; ++i) q[i] = Set<float>(c[C - 1]);
+    } else {
+#pragma GCC unroll 8
+        for (int i = 0; i < N; ++i) q[i] = Opaque(Estrin(r[i], K::kLAHigh));
+    }
+    constexpr int top = L == Level::EP ? C - 2 : C - 1;
+#pragma GCC unroll 16
+    for (int j = top; j >= 0; --j) {
+#pragma GCC unroll 8
+        for (int i = 0; i < N; ++i) q[i] = MulAdd(r[i], q[i], Set<float>(c[j]));
+    }
+#pragma GCC unroll 8
+    for (int i = 0; i < N; ++i) {
+        const __m128 p = Mul(r[i], q[i]);
+        if constexpr (L == Level::LA && K::kPerKLo != 0)
+            y[i] = Add(Add(Mul(k[i], Set<float>(K::kPerKLo)), p), Mul(k[i], Set<float>(K::kPerKHi)));
+        else
+            y[i] = Add(p, Mul(k[i], Set<float>(K::kPerK)));
+    }
+}
+
 // Double: on the base's own rows (log_base_double.h).
 template <int Base, Level L>
 inline __m128d LogOf(__m128d x) {
@@ -142,7 +186,7 @@ struct LogBody {
     using V = Vec<T>;
     static constexpr const char* kName =
         Base == 10 ? ZAR_ERROR_NAME_OF(T, Log10) : ZAR_ERROR_NAME_OF(T, Log2);
-    static constexpr int kRound = sizeof(T) == 8 || L == Level::HA ? 16 : 8;
+    static constexpr int kRound = 16;
     static int EvalWide(const V* x, V* y) {
         if constexpr (sizeof(T) == 4 && L == Level::HA) {
             // Single HA: the round's splits, then LogByRecip stage by stage.
@@ -157,13 +201,18 @@ struct LogBody {
             }
             LogByRecipRound<R, N>(m, k, y);
             return bits;
+        } else if constexpr (sizeof(T) == 4) {
+            constexpr int N = 4;
+            int bits = 0;
+#pragma GCC unroll 4
+            for (int i = 0; i < N; ++i) bits |= MaskBits(LogSpecial(x[i])) << (4 * i);
+            LogRound<Base, L, N>(x, y);
+            return bits;
         } else if constexpr (sizeof(T) == 8 && L == Level::EP) {
             using K = LogBase<Base>;
             return LogRowsEPWide<4>(x, y, K::kRowsF, K::kPerKD, K::kHA);
-        } else if constexpr (sizeof(T) == 8) {
-            return LogBaseWide<Base, L>(x, y);
         } else {
-            return EvalByRegister<LogBody>(x, y);
+            return LogBaseWide<Base, L>(x, y);
         }
     }
     static V Eval(V x, V& special) {
