@@ -90,15 +90,26 @@ struct TanFitLA {
                                     -0x1.45e5d2ba4606bp-12, 0x1.08db48f28a525p-21};
 };
 
+// A constant vector for the single bodies, held apart (Opaque): the compiler keeps it in
+// a register or reloads it whole, where it otherwise broadcast the scalar again in every
+// round (a load and a shuffle).
+template <class T>
+BRENN_TRIG_HOT Vec<T> Held(T v) {
+    if constexpr (std::is_same_v<T, float>)
+        return Opaque(Set<T>(v));
+    else
+        return Set<T>(v);
+}
+
 // q[k] = c[0] + u[k] (c[1] + u[k] (...)) for M registers, each step over all of them
 // before the next, so that the chains interleave.
 template <int M, class V, class C, size_t D>
 BRENN_TRIG_HOT void HornerAll(const V* u, const C (&c)[D], V* q) {
     using T = ElemOf<V>;
-    BRENN_EACH(k, M) q[k] = MulAdd(u[k], Set<T>(T(c[D - 1])), Set<T>(T(c[D - 2])));
+    BRENN_EACH(k, M) q[k] = MulAdd(u[k], Held<T>(T(c[D - 1])), Held<T>(T(c[D - 2])));
 #pragma GCC unroll 8
     for (int i = int(D) - 3; i >= 0; --i)
-        BRENN_EACH(k, M) q[k] = MulAdd(u[k], q[k], Set<T>(T(c[i])));
+        BRENN_EACH(k, M) q[k] = MulAdd(u[k], q[k], Held<T>(T(c[i])));
 }
 
 // The two sides of the quotient, tan r ~ s / c: EP's s = r S(u), or the sets' r (1 + u S(u)).
@@ -112,7 +123,7 @@ BRENN_TRIG_HOT void SidesOf(const V* r, const V* u, V* s, V* c) {
     } else {
         // s = r (1 + u S(u)): a zero r keeps its sign (r + r u S(u) turns -0 into +0).
         HornerAll<M>(u, Sides::kS, c);
-        BRENN_EACH(k, M) s[k] = Mul(r[k], MulAdd(u[k], c[k], Set<T>(1)));
+        BRENN_EACH(k, M) s[k] = Mul(r[k], MulAdd(u[k], c[k], Held<T>(1)));
         HornerAll<M>(u, Sides::kC, c);
     }
 }
@@ -188,9 +199,9 @@ template <int M, class Sides, class V, size_t P>
 inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
     using T = ElemOf<V>;
     using C = TanShort<T>;
-    const V shifter = Set<T>(Format<T>::kShifter);
+    const V shifter = Held<T>(Format<T>::kShifter);
     V t[M], odd[M], n[M], r[M], u[M], s[M], c[M];
-    BRENN_EACH(k, M) t[k] = Add(Mul(a[k], Set<T>(C::kTwoOverPi)), shifter);
+    BRENN_EACH(k, M) t[k] = Add(Mul(a[k], Held<T>(C::kTwoOverPi)), shifter);
     // n odd: t's low bit moved to the sign bit, which is all that the mask's uses read.
     BRENN_EACH(k, M) odd[k] = AsFloat(ShiftLeft<8 * sizeof(T) - 1>(AsInt(t[k])));
     BRENN_EACH(k, M) n[k] = Sub(t[k], shifter);
@@ -198,10 +209,10 @@ inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
         QuotientLA<M>(a, n, odd, piHalf, q);
         return;
     }
-    BRENN_EACH(k, M) r[k] = Sub(a[k], Mul(n[k], Set<T>(piHalf[0])));
+    BRENN_EACH(k, M) r[k] = Sub(a[k], Mul(n[k], Held<T>(piHalf[0])));
 #pragma GCC unroll 4
     for (size_t i = 1; i < P; ++i)
-        BRENN_EACH(k, M) r[k] = Sub(r[k], Mul(n[k], Set<T>(piHalf[i])));
+        BRENN_EACH(k, M) r[k] = Sub(r[k], Mul(n[k], Held<T>(piHalf[i])));
     BRENN_EACH(k, M) u[k] = Mul(r[k], r[k]);
     if constexpr (std::is_same_v<Sides, TanFitSingleLA>) {
         // The single reduction is good to 2^-35 absolute; a remainder below 2^-9 (its
@@ -221,7 +232,7 @@ inline void QuadrantTan(const V* a, const ElemOf<V> (&piHalf)[P], V* q) {
         V bot = IfThenElse(odd[k], s[k], c[k]);
         if constexpr (std::is_same_v<Sides, TanRationalEP>) {
             V y = ApproxRecip(bot);
-            y = Mul(y, Sub(Set<T>(2), Mul(bot, y)));
+            y = Mul(y, Sub(Held<T>(2), Mul(bot, y)));
             q[k] = Mul(top, y);
         } else {
             q[k] = Div(top, bot);
