@@ -67,8 +67,9 @@ struct Log1pConst<float> {
 // Single: ln u + c/u on u = 1 + x split around 2/3: EP and LA p = r + r^2*Q(r) (Q of sLn
 // at EP, eight coefficients at LA) and p + k*ln2, then c/u added last; HA on a reciprocal
 // of m (log_core.h LogByRecip), c/u joining its small terms. c, the rounding of u, by
-// Fast2Sum with the larger of 1 and x first: x - (u - 1) for |x| < 1, else 1 - (u - x).
-// Both come from x held by its high bits (+inf and positive NaNs to the largest single by
+// Fast2Sum with the larger of 1 and x first: x - (u - 1) for |x| < 1, else 1 - (u - x),
+// as min(x, 1) - (u - max(x, 1)), the held x being above -1. Both come from x held by its
+// high bits (+inf and positive NaNs to the largest single by
 // a signed minimum, x at or below -1, -inf and negative NaNs among them, to just above -1
 // by an unsigned one), so that inf - inf and 0/0 raise no flag of their own where the
 // scalar routine raises none; every other x stays, and no blend on the range test stands
@@ -84,8 +85,7 @@ inline __m128 Log1pStart(__m128 x, __m128& special, __m128& cu) {
     const __m128i b = _mm_min_epi32(AsInt(x).v, _mm_set1_epi32(0x7F7FFFFF));
     const __m128 xc = AsFloat(I32x4{_mm_min_epu32(b, _mm_set1_epi32(int32_t(0xBF7FFFFFu)))});
     const __m128 uc = Add(one, xc);
-    const __m128 below = AsFloat(Gt(Set<int32_t>(0x3F800000), AsInt(Abs(xc))));
-    const __m128 c = IfThenElse(below, Sub(xc, Sub(uc, one)), Sub(one, Sub(uc, xc)));
+    const __m128 c = Sub(Min(xc, one), Sub(uc, Max(xc, one)));
     cu = Div(c, Min(uc, Set<float>(0x1p125f)));
     return u;
 }
