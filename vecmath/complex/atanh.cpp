@@ -20,9 +20,8 @@
  *     PhaseWords of 2y and N's two words, within 2^-62.2: the bound 2^-61 of the part.
  * Parts with magnitudes in [2^-250, 2^249) keep every square, quotient and product
  * normal and finite (N below 2^499, 2^-750 < Q < 2^503); the others, zeros, infinities
- * and NaNs go to the extended routine. Single elements take the same steps on their
- * parts widened to double, the sum rounded to double and then to single (correctly
- * rounded but within about 2^-29 ulp of a midpoint).
+ * and NaNs go to the extended routine. Single elements take the same formulas on their
+ * parts widened, in plain double (AtanhC below).
  *
  * The extended routine, element by element in 80-bit extended precision (extended.h):
  * 1 - |x| is exact for the element's parts, the squares of double parts neither
@@ -180,23 +179,42 @@ struct AtanhZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16,
     }
 };
 
-// Single elements: the same steps on the parts widened, the sums rounded to double and
-// then to single; zeros, infinities and NaNs go on.
+// Single elements on their parts widened, in plain double: 1 - |x| is exact where |x| is
+// within [1/2, 2] (the only place N cancels), within 2^-53 elsewhere; the squares of
+// single parts are exact, so D, Q and N's product are within a few roundings, U = 1 + Q
+// exact in two words and log1p Q = ln U + ul/U by the double logarithm's core, the angle
+// by the real Atan2 (HA): both parts within about 2^-50 of themselves, rounded to single
+// correctly but within about 2^-26 ulp of a midpoint. Zeros, infinities and NaNs go on,
+// and the rare N outside Atan2's window (a cancelling to zero or below 2^-500).
 template <bool Turn>
 struct AtanhC : ExtendedScalarBody<float, BrennComplex8, BrennComplex8,
                                    ExtendedScalar<BrennComplex8, Turn ? AtanOf : AtanhOf>> {
     static constexpr const char* kName = Turn ? "vcAtan" : "vcAtanh";
-    BRENN_VEC static void Half(__m128d a, __m128d b, __m128d& re, __m128d& im, __m128d& special) {
-        special = AtanhOutside(a, b);
-        const AtanhWordsOf w = AtanhWords(a, b);
-        re = Or(Add(w.reP, w.reQ), SignBit(a));
-        im = Or(Add(w.imP, w.imQ), SignBit(b));
+    BRENN_VEC static void Half(__m128d x, __m128d y, __m128d outside, __m128d& re, __m128d& im,
+                               __m128d& special) {
+        const __m128d one = Set<double>(1), ax = Abs(x);
+        const __m128d d = Sub(one, ax), y2 = Mul(y, y);
+        const __m128d q = Div(Mul(ax, Set<double>(4)), Add(Mul(d, d), y2));
+        __m128d u, ul, h, r, t;
+        TwoSum(one, q, u, ul);
+        LnCore3<Level::HA>(u, h, r, t);
+        re = Or(Mul(Add(h, Add(r, Add(t, Div(ul, u)))), Set<double>(0.25)), SignBit(x));
+        const __m128d n = Sub(Mul(d, Add(one, ax)), y2);
+        special = Or(outside, RangeTest(n, invtrig::kRange<double>));
+        im = Mul(invtrig::Atan2DoubleHA(Add(y, y), n, special), Set<double>(0.5));
     }
     BRENN_VEC static int Eval(const Cx<float>* z, const Cx<float>*, Cx<float>& y) {
-        const __m128 a = Turn ? Neg(z->im) : z->re, b = Turn ? z->re : z->im;
+        // zeros, infinities and NaNs: the magnitudes' bits outside [the least denormal,
+        // the largest finite], made safe (1/2)
+        const __m128 a0 = Turn ? Neg(z->im) : z->re, b0 = Turn ? z->re : z->im;
+        const I32x4 top = Set<int32_t>(0x7F7FFFFF), abs = Set<int32_t>(0x7FFFFFFF);
+        const I32x4 ma = And(AsInt(a0), abs), mb = And(AsInt(b0), abs), zero = Zero<int32_t>();
+        const __m128 out = AsFloat(Or(Or(Eq(ma, zero), Gt(ma, top)), Or(Eq(mb, zero), Gt(mb, top))));
+        const __m128 a = IfThenElse(out, Set<float>(0.5f), a0), b = IfThenElse(out, Set<float>(0.5f), b0);
+        const __m128d o0 = WidenLower(out), o1 = WidenUpper(out);
         __m128d r0, i0, s0, r1, i1, s1;
-        Half(WidenLower(a), WidenLower(b), r0, i0, s0);
-        Half(WidenUpper(a), WidenUpper(b), r1, i1, s1);
+        Half(WidenLower(a), WidenLower(b), o0, r0, i0, s0);
+        Half(WidenUpper(a), WidenUpper(b), o1, r1, i1, s1);
         const __m128 re = Narrow(r0, r1), im = Narrow(i0, i1);
         if constexpr (Turn) {
             y.re = im;
