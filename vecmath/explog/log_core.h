@@ -15,6 +15,8 @@
 #ifndef BRENN_VECMATH_EXPLOG_LOG_CORE_H
 #define BRENN_VECMATH_EXPLOG_LOG_CORE_H
 
+#include <bit>
+
 #include "vecmath/explog/explog_tables.h"
 #include "vecmath/frame/level.h"
 #include "vecmath/frame/scalar.h"
@@ -98,10 +100,11 @@ inline void LogSplit(__m128 x, __m128& r, __m128& k) {
 }
 
 // Single HA on a reciprocal: x = 2^k * m by the split around 2/3, m in [2/3, 4/3); rcpps
-// of m rounded to 2^-6 by roundps, rc = t/64 (t from 48 to 96, whatever the estimate's
-// low bits), is the reducer and t - 48 the row. m*rc - 1 = (mh*rc - 1) + ml*rc with mh m's
-// top 17 bits: mh*rc and the difference are exact, and so is the sum, r: m*rc lies on
-// the grid of 2^-30 (2^-29 above 1) and |r| <= (4/3)/128 + 1.5*2^-12 < 2^-6.5.
+// of m rounded to 2^-6 (to nearest, ties to even), rc = t/64 (t from 48 to 96, whatever
+// the estimate's low bits), is the reducer and t - 48 the row. m*rc - 1 =
+// (mh*rc - 1) + ml*rc with mh m's top 17 bits: mh*rc and the difference are exact, and
+// so is the sum, r: m*rc lies on the grid of 2^-30 (2^-29 above 1) and
+// |r| <= (4/3)/128 + 1.5*2^-12 < 2^-6.5.
 // log_B x = H + c*r + r^2*Q(r) + (k*log_B(2)lo + Tlo), H = k*log_B(2)hi + Thi exact (both
 // on the 2^-14 grid), c = log_B(e) in a 12-bit head and the rest: c*r's head ch*rh (rh
 // r's top 12 bits) is exact, H + ch*rh by Fast2Sum (H is 0, or at least |log_B(65/64)|,
@@ -136,32 +139,38 @@ inline void LogSplitM(__m128 x, __m128& m, __m128& k) {
 }
 
 // The stages of LogByRecip, so that a round can take each over all its registers: the
-// reducer's t (rcpps of m rounded to 2^-6, times 64), then its row, then r, then the sums.
-BRENN_VEC __m128 LogRecipT(__m128 m) {
-    return RoundEven(Mul(ApproxRecip(m), Set<float>(64.0f)));
+// reducer (rcpps of m rounded to 2^-6), then its row, then r, then the sums. The rounding
+// by the shifter 1.5*2^17, whose ulp is 2^-6: s = rcpps(m) + 1.5*2^17 rounds the estimate
+// to nearest on that grid, ties to even (s's last significand bit is t's, 64*1.5*2^17
+// being even), the same rc = t/64 as rounding 64*rcpps(m) to an integer, and s holds t
+// in its low bits: bits(s) = bits(1.5*2^17) + t.
+constexpr float kRecipShifter = 0x1.8p17f;
+BRENN_VEC __m128 LogRecipS(__m128 m) {
+    return Add(ApproxRecip(m), Set<float>(kRecipShifter));
 }
-// The row of t: -log_B(rc) in two parts.
+// The row of t (s's low bits): -log_B(rc) in two parts.
 template <class B>
-BRENN_VEC void LogRecipRow(__m128 t, __m128& thi, __m128& tlo) {
-    // The rows' byte offsets from the table's row 48, t*8, formed in the vector and
+BRENN_VEC void LogRecipRow(__m128 s, __m128& thi, __m128& tlo) {
+    // The rows' byte offsets, 8*bits(s) in 32 bits (8*t plus a constant, wrapping),
     // taken out two at a time (each word widens to an address as it is moved).
-    const I32x4 off = ShiftLeft<3>(TruncToInt(t));
+    const I32x4 off = ShiftLeft<3>(AsInt(s));
     const uint64_t o01 = uint64_t(_mm_cvtsi128_si64(off.v));
     const uint64_t o23 = uint64_t(_mm_extract_epi64(off.v, 1));
-    // Row 48 is the table's first: the offsets are taken from an address 48 rows before
-    // it, formed as an integer (no pointer leaves the table).
-    const uintptr_t base =
-        reinterpret_cast<uintptr_t>(B::kRows) - 48 * sizeof(B::kRows[0]);
+    // Row 48 is the table's first: the offsets are taken from an address 48 rows and
+    // the constant before it, formed as an integer (no pointer leaves the table).
+    constexpr uint32_t kShifterOffset = uint32_t(std::bit_cast<uint32_t>(kRecipShifter) << 3);
+    const uintptr_t base = reinterpret_cast<uintptr_t>(B::kRows) - 48 * sizeof(B::kRows[0]) -
+                           uintptr_t(kShifterOffset);
     LoadTransposed(reinterpret_cast<const float*>(base + uint32_t(o01)),
                    reinterpret_cast<const float*>(base + (o01 >> 32)),
                    reinterpret_cast<const float*>(base + uint32_t(o23)),
                    reinterpret_cast<const float*>(base + (o23 >> 32)), thi, tlo);
 }
-// log_B of 2^k * m from t and its row.
+// log_B of 2^k * m from s and its row.
 // r = m*rc - 1, exact.
-BRENN_VEC __m128 LogRecipR(__m128 m, __m128 t) {
+BRENN_VEC __m128 LogRecipR(__m128 m, __m128 s) {
     const __m128 one = Set<float>(1.0f);
-    const __m128 rc = Mul(t, Set<float>(0x1p-6f));
+    const __m128 rc = Sub(s, Set<float>(kRecipShifter)); // exact
     const __m128 mh = And(m, AsFloat(Set<uint32_t>(0xFFFFFF80u)));
     const __m128 ml = Sub(m, mh);
     return Add(Sub(Mul(mh, rc), one), Mul(ml, rc)); // exact
@@ -188,40 +197,40 @@ BRENN_VEC __m128 LogRecipSumR(__m128 r, __m128 k, __m128 thi, __m128 tlo,
     return Add(s, rest);
 }
 template <class B, bool kExtra = false>
-BRENN_VEC __m128 LogRecipSum(__m128 m, __m128 k, __m128 t, __m128 thi, __m128 tlo,
+BRENN_VEC __m128 LogRecipSum(__m128 m, __m128 k, __m128 s, __m128 thi, __m128 tlo,
                              __m128 extra = _mm_setzero_ps()) {
-    return LogRecipSumR<B, kExtra>(LogRecipR(m, t), k, thi, tlo, extra);
+    return LogRecipSumR<B, kExtra>(LogRecipR(m, s), k, thi, tlo, extra);
 }
 
 // log_B of 2^k * m (above), with `extra` added to the small terms (Log1p's c/u; zero
 // elsewhere). Any m in [2/3, 4/3) gives a row, so special lanes need no blend.
 template <class B, bool kExtra = false>
 BRENN_VEC __m128 LogByRecip(__m128 m, __m128 k, __m128 extra = _mm_setzero_ps()) {
-    const __m128 t = LogRecipT(m);
+    const __m128 s = LogRecipS(m);
     __m128 thi, tlo;
-    LogRecipRow<B>(t, thi, tlo);
-    return LogRecipSum<B, kExtra>(m, k, t, thi, tlo, extra);
+    LogRecipRow<B>(s, thi, tlo);
+    return LogRecipSum<B, kExtra>(m, k, s, thi, tlo, extra);
 }
 
-// LogByRecip over the N registers of a round, stage by stage: every register's t, then
+// LogByRecip over the N registers of a round, stage by stage: every register's s, then
 // every row, then every r, then every sum, each stage's values held (Opaque) so that the
 // compiler does not sink them back into one register's chain after another. The same
 // operations on every lane, the same bits.
 template <class B, int N, bool kExtra = false>
 BRENN_VEC void LogByRecipRound(const __m128* m, const __m128* k, __m128* y,
                                const __m128* extra = nullptr) {
-    __m128 t[N], thi[N], tlo[N];
+    __m128 s[N], thi[N], tlo[N];
 #pragma GCC unroll 8
-    for (int i = 0; i < N; ++i) t[i] = Opaque(LogRecipT(m[i]));
+    for (int i = 0; i < N; ++i) s[i] = Opaque(LogRecipS(m[i]));
 #pragma GCC unroll 8
     for (int i = 0; i < N; ++i) {
-        LogRecipRow<B>(t[i], thi[i], tlo[i]);
+        LogRecipRow<B>(s[i], thi[i], tlo[i]);
         thi[i] = Opaque(thi[i]);
         tlo[i] = Opaque(tlo[i]);
     }
     __m128 r[N];
 #pragma GCC unroll 8
-    for (int i = 0; i < N; ++i) r[i] = Opaque(LogRecipR(m[i], t[i]));
+    for (int i = 0; i < N; ++i) r[i] = Opaque(LogRecipR(m[i], s[i]));
 #pragma GCC unroll 8
     for (int i = 0; i < N; ++i) {
         if constexpr (kExtra)
