@@ -1,6 +1,6 @@
-/* Erf, single and double, three levels each; no lane is special and nothing is reported
- * (a NaN comes back quieted by a blend; beyond the grid's last point erf is 1 to the last
- * bit).
+/* Erf, single and double, three levels each; nothing is reported (a NaN comes back
+ * quieted, by a blend, or at single EP and LA as the frame's special lane through Scalar;
+ * beyond the grid's last point erf is 1 to the last bit).
  *
  * EP: the short expansion around the nearest grid point j/128 with the row (V, D) of
  * erfRows: t = xj*d, u = d^2 (0 below 2^-256), R = t*P + u*Q with P, Q the Taylor
@@ -207,7 +207,7 @@ BRENN_VEC void ErfDouble(const __m128d* x, __m128d* y) {
 // Single erf of N registers on single lanes: the grid on |x| held by its bits (a NaN
 // lane runs at the limit and raises nothing), x's sign OR-ed on, and the NaN lanes (rare,
 // one test a round) taken aside afterwards: x + 0, the NaN quieted.
-template <Level L, int N>
+template <Level L, int N, bool kNaNAside = true>
 BRENN_VEC void ErfSingle(const __m128* x, __m128* y) {
     constexpr SeriesCut cut = L == Level::EP   ? kCutSingleEP
                               : L == Level::LA ? kCutSingleLA
@@ -216,7 +216,7 @@ BRENN_VEC void ErfSingle(const __m128* x, __m128* y) {
 #pragma GCC unroll 4
     for (int k = 0; k < N; ++k)
         y[k] = Or(y[k], SignBit(x[k]));
-    if (__builtin_expect(nan, 0)) {
+    if (kNaNAside && __builtin_expect(nan, 0)) {
 #pragma GCC unroll 4
         for (int k = 0; k < N; ++k)
             y[k] = IfThenElse(Unordered(x[k], x[k]), Add(x[k], Zero<float>()), y[k]);
@@ -227,13 +227,25 @@ template <class Tp, Level L>
 struct ErfBody {
     using T = Tp;
     using V = Vec<T>;
-    static V Eval(V x, V&) {
+    // Single EP and LA, a register at a time, give their NaN lanes to Scalar: the frame
+    // tests a round's lanes once, where the body tested each register.
+    static constexpr bool kNaNSpecial = sizeof(T) == 4 && L != Level::HA;
+    static V Eval(V x, V& special) {
         V y;
-        if constexpr (sizeof(T) == 4)
+        if constexpr (kNaNSpecial) {
+            special = Unordered(x, x);
+            ErfSingle<L, 1, false>(&x, &y);
+        } else if constexpr (sizeof(T) == 4) {
             ErfSingle<L, 1>(&x, &y);
-        else
+        } else {
             ErfDouble<L, 1>(&x, &y);
+        }
         return y;
+    }
+    // A NaN lane: x quieted (invalid for a signalling one), no status.
+    static int Scalar(const T* a, T* y) {
+        *y = *a + *a;
+        return status::kNone;
     }
     // Rounds of sixteen, each step over the round's registers where the body has steps;
     // single EP and LA in rounds of eight, a register at a time (their short chains
