@@ -52,10 +52,12 @@ inline __m128 LnOf(__m128 x) {
     }
 }
 
-// The same body over the N registers of a round, stage by stage: every split, then
-// each Horner step over every register before the next, then the sums; the same
-// operations on every lane, the same bits. One register after another, the compiler
-// keeps each register's chain of nine steps whole and the round waits on them in turn.
+// The same body over the N registers of a round, stage by stage: every split (at EP r
+// and k held apart, Opaque, which measured 2 % faster there and 1-2 % slower at LA and
+// HA), then each Horner step over every register before the next, then the sums; the
+// same operations on every lane, the same bits. One register after another, the
+// compiler keeps each register's chain of nine steps whole and the round waits on them
+// in turn.
 template <Level L>
 constexpr const auto& LnCoeffs() {
     if constexpr (L == Level::EP)
