@@ -163,19 +163,24 @@ BRENN_VEC void HypotScaled(const __m128d* x, const __m128d* z, __m128d* y) {
     // The round's roots first, each held apart (Opaque) so that the compiler does not
     // sink it into its correction, then the corrections: the roots' latency overlaps the
     // other registers' work (4 % faster than register by register, where the compiler's
-    // order had each correction wait on its root).
+    // order had each correction wait on its root). Four roots ahead: the correction of
+    // register k beside the root of register k + 4 (2-3 % faster than all roots first).
     __m128d r[M], h[M];
-#pragma GCC unroll 8
-    for (int k = 0; k < M; ++k) {
+    auto root = [&](int k) {
         const __m128d zz = Mul(z[k], z[k]);
         const __m128d s = Add(Mul(x[k], x[k]), zz);
         r[k] = Opaque(Sqrt(s));
         // 1/(2r) as 1/(2 sqrt(s)) from the bits of s (within 3.5 %), beside the root.
         h[k] =
             AsFloat(Sub(Set<int64_t>(0x5FE6EB50C7B537A9ll - (1ll << 52)), ShiftRight<1>(AsInt(s))));
-    }
+    };
+    constexpr int kAhead = M < 4 ? M : 4;
+#pragma GCC unroll 8
+    for (int k = 0; k < kAhead; ++k)
+        root(k);
 #pragma GCC unroll 8
     for (int k = 0; k < M; ++k) {
+        if (k + kAhead < M) root(k + kAhead);
         const SquareParts xp = SquareInParts(x[k]), zp = SquareInParts(z[k]),
                           rp = SquareInParts(r[k]);
         const __m128d d =
