@@ -145,22 +145,34 @@ struct ExpZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, ExpScal
         return MaskBits(special);
     }
     // The round's windows tested once: where no part lies outside, no lane is blended.
+    // The stages written out here rather than through StepGroups, whose loop over the
+    // groups for a second middle stage the compiler left as a call at HA, with the
+    // states passed through memory.
     template <bool Test>
     BRENN_VEC static int Steps(const Cx<double>* x, Cx<double>* y) {
-        return StepGroups<ExpState, kGroups>(
-            x, y,
-            [](const Cx<double>& z, ExpState& s) BRENN_STEP {
-                if constexpr (!Test) {
-                    ExpReduce(z.re, z.im, s);
-                    return 0;
-                }
-                __m128d special = ExpOutside(z.re, z.im);
-                ExpReduce(IfThenZeroElse(special, z.re), IfThenZeroElse(special, z.im), s);
-                return MaskBits(special);
-            },
-            [](const ExpState& s, Cx<double>& r) BRENN_STEP { r = ExpJoin<L>(s); },
-            [](ExpState& s) BRENN_STEP { ExpPart<L>(s); },
-            [](ExpState& s) BRENN_STEP { TrigPart<L>(s); });
+        ExpState s[kGroups];
+        int bits = 0;
+#pragma GCC unroll 8
+        for (int g = 0; g < kGroups; ++g) {
+            if constexpr (Test) {
+                __m128d special = ExpOutside(x[g].re, x[g].im);
+                ExpReduce(IfThenZeroElse(special, x[g].re), IfThenZeroElse(special, x[g].im),
+                          s[g]);
+                bits |= MaskBits(special) << (g * kGroup<double>);
+            } else {
+                ExpReduce(x[g].re, x[g].im, s[g]);
+            }
+        }
+#pragma GCC unroll 8
+        for (int g = 0; g < kGroups; ++g)
+            ExpPart<L>(s[g]);
+#pragma GCC unroll 8
+        for (int g = 0; g < kGroups; ++g)
+            TrigPart<L>(s[g]);
+#pragma GCC unroll 8
+        for (int g = 0; g < kGroups; ++g)
+            y[g] = ExpJoin<L>(s[g]);
+        return bits;
     }
     BRENN_VEC static int EvalGroups(const Cx<double>* x, const Cx<double>*, Cx<double>* y) {
         if (__builtin_expect(!AnyExpOutside<kGroups>(x), 1)) return Steps<false>(x, y);
