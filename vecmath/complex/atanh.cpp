@@ -101,7 +101,14 @@ constexpr int32_t kAtanhLo = 0x30500000, kAtanhTop = 0x4F7FFFFF;
 struct AtanhWordsOf {
     __m128d reP, reQ, reE, imP, imQ, imE;
 };
-BRENN_VEC AtanhWordsOf AtanhWords(__m128d x, __m128d y) {
+// In two steps for the rounds: the squares, D and the rounded Q, N in two words and the
+// phase's quotient; then the rest.
+struct AtanhStart {
+    __m128d n4, dH, dL, q, nL;
+    PhaseStart phase;
+};
+BRENN_VEC AtanhStart AtanhBegin(__m128d x, __m128d y) {
+    AtanhStart st;
     const __m128d one = Set<double>(1);
     const __m128d ax = Abs(x);
     __m128d dh, dl, eh, el;
@@ -111,14 +118,27 @@ BRENN_VEC AtanhWordsOf AtanhWords(__m128d x, __m128d y) {
     ExactSquare(SplitOnce(dh), d2, d2l);
     ExactSquare(SplitOnce(y), y2, y2l);
     // D = d^2 + y^2 and Q = 4|x|/D, two words each
-    __m128d s, se, dH, dL;
+    __m128d s, se;
     TwoSum(d2, y2, s, se);
-    FastTwoSum(s, Add(se, Add(Add(d2l, y2l), Mul(Add(dh, dh), dl))), dH, dL);
-    const __m128d n4 = Mul(ax, Set<double>(4));
-    const __m128d q = Div(n4, dH);
+    FastTwoSum(s, Add(se, Add(Add(d2l, y2l), Mul(Add(dh, dh), dl))), st.dH, st.dL);
+    st.n4 = Mul(ax, Set<double>(4));
+    st.q = Div(st.n4, st.dH);
+    // N = (1 - |x|)(1 + |x|) - y^2 in two words
+    __m128d m, ml;
+    TwoProductExact(dh, eh, m, ml);
+    ml = Add(ml, Add(Mul(dh, el), Mul(dl, eh)));
+    __m128d nh, ne, nH;
+    TwoDiff(m, y2, nh, ne);
+    FastTwoSum(nh, Add(ne, Sub(ml, y2l)), nH, st.nL);
+    st.phase = PhaseQuotient(Add(y, y), nH);
+    return st;
+}
+BRENN_VEC AtanhWordsOf AtanhFinish(const AtanhStart& st) {
+    const __m128d one = Set<double>(1);
+    const __m128d q = st.q;
     __m128d ph, pl;
-    TwoProductExact(q, dH, ph, pl);
-    const __m128d ql = Div(Sub(Sub(Sub(n4, ph), pl), Mul(q, dL)), dH);
+    TwoProductExact(q, st.dH, ph, pl);
+    const __m128d ql = Div(Sub(Sub(Sub(st.n4, ph), pl), Mul(q, st.dL)), st.dH);
     // log1p Q = ln(U + ul)
     __m128d u, ue;
     TwoSum(one, q, u, ue);
@@ -131,15 +151,9 @@ BRENN_VEC AtanhWordsOf AtanhWords(__m128d x, __m128d y) {
     w.reQ = Mul(ll, quarter);
     const __m128d fixed = IfThenElse(rowsExact, Set<double>(0x1p-104), Set<double>(0x1p-70));
     w.reE = Add(Add(Mul(Abs(r), Set<double>(0x1p-58)), fixed), Mul(Abs(w.reP), Set<double>(0x1p-100)));
-    // N = (1 - |x|)(1 + |x|) - y^2 in two words, then atan2(2y, N)/2
-    __m128d m, ml;
-    TwoProductExact(dh, eh, m, ml);
-    ml = Add(ml, Add(Mul(dh, el), Mul(dl, eh)));
-    __m128d nh, ne, nH, nL;
-    TwoDiff(m, y2, nh, ne);
-    FastTwoSum(nh, Add(ne, Sub(ml, y2l)), nH, nL);
+    // atan2(2y, N)/2
     __m128d ah, al;
-    PhaseWords<true>(Add(y, y), nH, nL, ah, al);
+    PhaseFinish<true>(st.phase, st.nL, ah, al);
     const __m128d half = Set<double>(0.5);
     w.imP = Mul(ah, half);
     w.imQ = Mul(al, half);
@@ -162,12 +176,22 @@ template <bool Turn>
 struct AtanhZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16,
                                    ExtendedScalar<BrennComplex16, Turn ? AtanOf : AtanhOf>> {
     static constexpr const char* kName = Turn ? "vzAtan" : "vzAtanh";
-    BRENN_VEC static int Eval(const Cx<double>* z, const Cx<double>*, Cx<double>& y) {
-        __m128d a = Turn ? Neg(z->im) : z->re, b = Turn ? z->re : z->im;
-        __m128d special = AtanhOutside(a, b);
-        const AtanhWordsOf w = AtanhWords(a, b);
-        const __m128d re = Or(Decided(w.reP, w.reQ, w.reE, special), SignBit(a));
-        const __m128d im = Or(Decided(w.imP, w.imQ, w.imE, special), SignBit(b));
+    struct Start {
+        __m128d special, signA, signB;
+        AtanhStart st;
+    };
+    BRENN_VEC static void Begin(const Cx<double>& z, Start& s) {
+        __m128d a = Turn ? Neg(z.im) : z.re, b = Turn ? z.re : z.im;
+        s.signA = SignBit(a);
+        s.signB = SignBit(b);
+        s.special = AtanhOutside(a, b);
+        s.st = AtanhBegin(a, b);
+    }
+    BRENN_VEC static int Finish(const Start& s, Cx<double>& y) {
+        __m128d special = s.special;
+        const AtanhWordsOf w = AtanhFinish(s.st);
+        const __m128d re = Or(Decided(w.reP, w.reQ, w.reE, special), s.signA);
+        const __m128d im = Or(Decided(w.imP, w.imQ, w.imE, special), s.signB);
         if constexpr (Turn) {
             y.re = im;
             y.im = Neg(re);
@@ -176,6 +200,26 @@ struct AtanhZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16,
             y.im = im;
         }
         return MaskBits(special);
+    }
+    BRENN_VEC static int Eval(const Cx<double>* z, const Cx<double>*, Cx<double>& y) {
+        Start s;
+        Begin(*z, s);
+        return Finish(s, y);
+    }
+    // A round of four groups: every group's first steps, held apart, then the rest.
+    static constexpr int kGroups = 4;
+    BRENN_VEC static int EvalGroups(const Cx<double>* x, const Cx<double>*, Cx<double>* y) {
+        Start s[kGroups];
+#pragma GCC unroll 4
+        for (int g = 0; g < kGroups; ++g) {
+            Begin(x[g], s[g]);
+            s[g].st.q = Opaque(s[g].st.q);
+            s[g].st.phase.t = Opaque(s[g].st.phase.t);
+        }
+        int bits = 0;
+#pragma GCC unroll 4
+        for (int g = 0; g < kGroups; ++g) bits |= Finish(s[g], y[g]) << (2 * g);
+        return bits;
     }
 };
 

@@ -73,14 +73,26 @@ BRENN_VEC void LnWords(const LnReduction& red, __m128d ratio, __m128d& hi, __m12
 
 // |atan2(a, b + bl)| as hi + lo, bl a second word of b or zero (Low false). Magnitudes of
 // a and b in Atan2's window (2^-500 to 2^500), b's second word at most half its ulp.
+// In two steps, the quotient of the magnitudes and the rest, for rounds that take each
+// step over several registers.
+struct PhaseStart {
+    __m128d b, swap, n, d, t;
+};
+BRENN_VEC PhaseStart PhaseQuotient(__m128d a, __m128d b) {
+    PhaseStart s;
+    const __m128d ay = Abs(a), ax = Abs(b);
+    s.b = b;
+    s.swap = AsFloat(Gt(AsInt(ay), AsInt(ax)));
+    s.n = IfThenElse(s.swap, ax, ay);
+    s.d = IfThenElse(s.swap, ay, ax);
+    s.t = Div(s.n, s.d);
+    return s;
+}
 template <bool Low = false>
-BRENN_VEC void PhaseWords(__m128d a, __m128d b, __m128d bl, __m128d& hi, __m128d& lo) {
+BRENN_VEC void PhaseFinish(const PhaseStart& ps, __m128d bl, __m128d& hi, __m128d& lo) {
     using P = invtrig::AtanTableSeries<double>;
     using Q = invtrig::Quarter<double, invtrig::Unit::Radian>;
-    const __m128d ay = Abs(a), ax = Abs(b);
-    const __m128d swap = AsFloat(Gt(AsInt(ay), AsInt(ax)));
-    const __m128d n = IfThenElse(swap, ax, ay), d = IfThenElse(swap, ay, ax);
-    const __m128d t = Div(n, d);
+    const __m128d b = ps.b, swap = ps.swap, n = ps.n, d = ps.d, t = ps.t;
     const I64x2 i = invtrig::AtanRowIndex(t);
     __m128d th, tl;
     GatherPairs(invtrig::atanRowsD, i, -1, th, tl, 2);
@@ -121,6 +133,10 @@ BRENN_VEC void PhaseWords(__m128d a, __m128d b, __m128d bl, __m128d& hi, __m128d
     __m128d e;
     FastTwoSum(Mul(k, Set<double>(Q::kHi)), Xor(s, flip), hi, e);
     lo = Add(e, Add(Mul(k, Set<double>(Q::kLo)), Xor(sl, flip)));
+}
+template <bool Low = false>
+BRENN_VEC void PhaseWords(__m128d a, __m128d b, __m128d bl, __m128d& hi, __m128d& lo) {
+    PhaseFinish<Low>(PhaseQuotient(a, b), bl, hi, lo);
 }
 
 } // namespace brenn::vm::cx

@@ -111,18 +111,31 @@ int Log10ScalarZ(const BrennComplex16* z, const BrennComplex16*, BrennComplex16*
 struct Log10Z : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, Log10ScalarZ> {
     static constexpr const char* kName = "vzLog10";
     static constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
-    BRENN_VEC static int Eval(const Cx<double>* x, const Cx<double>*, Cx<double>& y) {
+    // A group's first steps: the windows, |z|^2 and the log's reduction, the phase's
+    // quotient; then the rest.
+    struct Start {
+        __m128d special, sign, ratio;
+        LnReduction red;
+        PhaseStart phase;
+    };
+    BRENN_VEC static void Begin(const Cx<double>& x, Start& s) {
         constexpr Range32 w = invtrig::kRange<double>;
         const __m128d one = Set<double>(1);
-        __m128d special = Or(HighWordsToLanes(LargerHighWordOutside<kLo, kHi>(x->re, x->im)),
-                             Or(RangeTest(x->im, w), RangeTest(x->re, w)));
-        const __m128d re = IfThenElse(special, one, x->re), im = IfThenElse(special, one, x->im);
+        s.special = Or(HighWordsToLanes(LargerHighWordOutside<kLo, kHi>(x.re, x.im)),
+                       Or(RangeTest(x.im, w), RangeTest(x.re, w)));
+        s.sign = SignBit(x.im);
+        const __m128d re = IfThenElse(s.special, one, x.re), im = IfThenElse(s.special, one, x.im);
         __m128d sh, sl;
         RawSumOfSquares(SplitRounded(re), SplitRounded(im), sh, sl);
-        const LnReduction red = LnReduce(sh);
+        s.red = LnReduce(sh);
+        s.ratio = Div(sl, sh);
+        s.phase = PhaseQuotient(im, re);
+    }
+    BRENN_VEC static int Finish(const Start& s, Cx<double>& y) {
+        __m128d special = s.special;
         __m128d lh, ll, r, rowsExact, ah, al, p, q;
-        LnWords(red, Div(sl, sh), lh, ll, r, rowsExact);
-        PhaseWords(im, re, Zero<double>(), ah, al);
+        LnWords(s.red, s.ratio, lh, ll, r, rowsExact);
+        PhaseFinish(s.phase, Zero<double>(), ah, al);
         // ln|z| = ln(|z|^2)/2: log10(e)/2 in two parts
         ScaledWords(lh, ll, kLog10OfEHi / 2, kLog10OfELo / 2, p, q);
         // 2^-58 |r| for the polynomial, 2^-70 for the roundings of the rows' rests and
@@ -132,8 +145,29 @@ struct Log10Z : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, Log10
                         Mul(Abs(p), Set<double>(0x1p-100)));
         y.re = Decided(p, q, e, special);
         ScaledWords(ah, al, kLog10OfEHi, kLog10OfELo, p, q);
-        y.im = Or(Decided(p, q, Mul(Abs(p), Set<double>(0x1p-61)), special), SignBit(x->im));
+        y.im = Or(Decided(p, q, Mul(Abs(p), Set<double>(0x1p-61)), special), s.sign);
         return MaskBits(special);
+    }
+    BRENN_VEC static int Eval(const Cx<double>* x, const Cx<double>*, Cx<double>& y) {
+        Start s;
+        Begin(*x, s);
+        return Finish(s, y);
+    }
+    // A round of four groups: every group's first steps, held apart, then the rest.
+    static constexpr int kGroups = 4;
+    BRENN_VEC static int EvalGroups(const Cx<double>* x, const Cx<double>*, Cx<double>* y) {
+        Start s[kGroups];
+#pragma GCC unroll 4
+        for (int g = 0; g < kGroups; ++g) {
+            Begin(x[g], s[g]);
+            s[g].ratio = Opaque(s[g].ratio);
+            s[g].phase.t = Opaque(s[g].phase.t);
+            s[g].red.ml = Opaque(s[g].red.ml);
+        }
+        int bits = 0;
+#pragma GCC unroll 4
+        for (int g = 0; g < kGroups; ++g) bits |= Finish(s[g], y[g]) << (2 * g);
+        return bits;
     }
 };
 
