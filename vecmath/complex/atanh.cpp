@@ -234,31 +234,45 @@ template <bool Turn>
 struct AtanhC : ExtendedScalarBody<float, BrennComplex8, BrennComplex8,
                                    ExtendedScalar<BrennComplex8, Turn ? AtanOf : AtanhOf>> {
     static constexpr const char* kName = Turn ? "vcAtan" : "vcAtanh";
-    BRENN_VEC static void Half(__m128d x, __m128d y, __m128d outside, __m128d& re, __m128d& im,
-                               __m128d& special) {
+    // A half (two elements widened) in two steps for the rounds: the quotients Q and t of
+    // the phase, then the rest.
+    struct HalfStart {
+        __m128d x, q, special;
+        invtrig::Atan2DoubleState phase;
+    };
+    BRENN_VEC static void HalfBegin(__m128d x, __m128d y, __m128d outside, HalfStart& h) {
         const __m128d one = Set<double>(1), ax = Abs(x);
         const __m128d d = Sub(one, ax), y2 = Mul(y, y);
-        const __m128d q = Div(Mul(ax, Set<double>(4)), Add(Mul(d, d), y2));
-        __m128d u, ul, h, r, t;
-        TwoSum(one, q, u, ul);
-        LnCore3<Level::HA>(u, h, r, t);
-        re = Or(Mul(Add(h, Add(r, Add(t, Div(ul, u)))), Set<double>(0.25)), SignBit(x));
+        h.x = x;
+        h.q = Div(Mul(ax, Set<double>(4)), Add(Mul(d, d), y2));
         const __m128d n = Sub(Mul(d, Add(one, ax)), y2);
-        special = Or(outside, RangeTest(n, invtrig::kRange<double>));
-        im = Mul(invtrig::Atan2DoubleHA(Add(y, y), n, special), Set<double>(0.5));
+        h.special = Or(outside, RangeTest(n, invtrig::kRange<double>));
+        invtrig::Atan2DoubleQuotient(Add(y, y), n, h.special, h.phase);
     }
-    BRENN_VEC static int Eval(const Cx<float>* z, const Cx<float>*, Cx<float>& y) {
-        // zeros, infinities and NaNs: the magnitudes' bits outside [the least denormal,
-        // the largest finite], made safe (1/2)
-        const __m128 a0 = Turn ? Neg(z->im) : z->re, b0 = Turn ? z->re : z->im;
+    BRENN_VEC static void HalfFinish(HalfStart& h, __m128d& re, __m128d& im) {
+        const __m128d one = Set<double>(1);
+        __m128d u, ul, lh, r, t;
+        TwoSum(one, h.q, u, ul);
+        LnCore3<Level::HA>(u, lh, r, t);
+        re = Or(Mul(Add(lh, Add(r, Add(t, Div(ul, u)))), Set<double>(0.25)), SignBit(h.x));
+        invtrig::Atan2DoubleReduced(h.phase);
+        im = Mul(invtrig::Atan2DoubleAngle(h.phase), Set<double>(0.5));
+    }
+    // A group: zeros, infinities and NaNs (the magnitudes' bits outside [the least
+    // denormal, the largest finite]) made safe (1/2), the halves begun.
+    BRENN_VEC static void Begin(const Cx<float>& z, HalfStart (&h)[2]) {
+        const __m128 a0 = Turn ? Neg(z.im) : z.re, b0 = Turn ? z.re : z.im;
         const I32x4 top = Set<int32_t>(0x7F7FFFFF), abs = Set<int32_t>(0x7FFFFFFF);
         const I32x4 ma = And(AsInt(a0), abs), mb = And(AsInt(b0), abs), zero = Zero<int32_t>();
         const __m128 out = AsFloat(Or(Or(Eq(ma, zero), Gt(ma, top)), Or(Eq(mb, zero), Gt(mb, top))));
         const __m128 a = IfThenElse(out, Set<float>(0.5f), a0), b = IfThenElse(out, Set<float>(0.5f), b0);
-        const __m128d o0 = WidenLower(out), o1 = WidenUpper(out);
-        __m128d r0, i0, s0, r1, i1, s1;
-        Half(WidenLower(a), WidenLower(b), o0, r0, i0, s0);
-        Half(WidenUpper(a), WidenUpper(b), o1, r1, i1, s1);
+        HalfBegin(WidenLower(a), WidenLower(b), WidenLower(out), h[0]);
+        HalfBegin(WidenUpper(a), WidenUpper(b), WidenUpper(out), h[1]);
+    }
+    BRENN_VEC static int Finish(HalfStart (&h)[2], Cx<float>& y) {
+        __m128d r0, i0, r1, i1;
+        HalfFinish(h[0], r0, i0);
+        HalfFinish(h[1], r1, i1);
         const __m128 re = Narrow(r0, r1), im = Narrow(i0, i1);
         if constexpr (Turn) {
             y.re = im;
@@ -267,7 +281,29 @@ struct AtanhC : ExtendedScalarBody<float, BrennComplex8, BrennComplex8,
             y.re = re;
             y.im = im;
         }
-        return MaskBits(s0) | (MaskBits(s1) << 2);
+        return MaskBits(h[0].special) | (MaskBits(h[1].special) << 2);
+    }
+    BRENN_VEC static int Eval(const Cx<float>* z, const Cx<float>*, Cx<float>& y) {
+        HalfStart h[2];
+        Begin(*z, h);
+        return Finish(h, y);
+    }
+    // A round of groups: every group's quotients, held apart, then the rest.
+    static constexpr int kGroups = 4;
+    BRENN_VEC static int EvalGroups(const Cx<float>* x, const Cx<float>*, Cx<float>* y) {
+        HalfStart h[kGroups][2];
+#pragma GCC unroll 4
+        for (int g = 0; g < kGroups; ++g) {
+            Begin(x[g], h[g]);
+            for (int j = 0; j < 2; ++j) {
+                h[g][j].q = Opaque(h[g][j].q);
+                h[g][j].phase.t = Opaque(h[g][j].phase.t);
+            }
+        }
+        int bits = 0;
+#pragma GCC unroll 4
+        for (int g = 0; g < kGroups; ++g) bits |= Finish(h[g], y[g]) << (4 * g);
+        return bits;
     }
 };
 
