@@ -40,17 +40,8 @@ namespace {
 // short enough to keep the machine busy with fewer groups in flight.
 BRENN_VEC __m128d CorrectedRoot(__m128d sh, __m128d sl) {
     __m128d r = Sqrt(sh), half = Div(Set<double>(0.5), sh);
-    auto hr = SplitByMask(r);
-    __m128d e = Add(Sub(Sub(sh, Mul(hr.hi, hr.hi)), Mul(hr.lo, Add(hr.hi, r))), sl);
+    __m128d e = Add(RootResidual(sh, SplitByMask(r)), sl);
     return Add(r, Mul(e, Mul(r, half)));
-}
-// p = v^2 rounded and its error v^2 - p to within 2^-77 p, from v's halves by the mask
-// (h of 26 bits, l = v - h): h^2 is exact and within 2^-25 of p, so h^2 - p is exact,
-// and v^2 - h^2 = l (h + v) is rounded twice, about 2^-25 p, so that the error is known
-// to 2^-24 of an ulp of p (as the root's residual below).
-BRENN_VEC void SquareAndError(const Halves<__m128d>& v, __m128d& p, __m128d& pl) {
-    p = Mul(v.v, v.v);
-    pl = Add(Sub(Mul(v.hi, v.hi), p), Mul(v.lo, Add(v.hi, v.v)));
 }
 inline double CorrectedRoot(double sh, double sl) {
     double r = __builtin_sqrt(sh), ph, pl;
@@ -101,11 +92,7 @@ struct AbsZ {
             // the squares and their errors, the sum's rounding error kept (the squares
             // are not negative: the larger first, Fast2Sum); sh + sl not renormalised (sl
             // stays within 2^-51 sh, which the root's correction takes as it is)
-            __m128d p, pl, q, ql, e;
-            SquareAndError(SplitByMask(x->re), p, pl);
-            SquareAndError(SplitByMask(x->im), q, ql);
-            FastTwoSum(Max(p, q), Min(p, q), sh, e);
-            sl = Add(e, Add(pl, ql));
+            RawSumOfSquaresNear(SplitByMask(x->re), SplitByMask(x->im), sh, sl);
             y.re = CorrectedRoot(sh, sl);
             constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
             return HighWordBits(LargerHighWordOutside<kLo, kHi>(x->re, x->im));

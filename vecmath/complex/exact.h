@@ -120,6 +120,32 @@ BRENN_VEC void RawSumOfSquares(const Halves<V>& a, const Halves<V>& b, V& hi, V&
     TwoSum(p, q, hi, e);
     lo = Add(e, Add(pl, ql));
 }
+// p = v^2 rounded and its error v^2 - p to within 2^-77 p, from v's halves by the mask
+// (h of 26 bits, l = v - h): h^2 is exact and within 2^-25 of p, so h^2 - p is exact,
+// and v^2 - h^2 = l (h + v) is rounded twice, about 2^-25 p: the error is known to 2^-24
+// of an ulp of p, for roots whose correction needs no more.
+template <class V>
+BRENN_VEC void SquareAndError(const Halves<V>& v, V& p, V& pl) {
+    p = Mul(v.v, v.v);
+    pl = Add(Sub(Mul(v.hi, v.hi), p), Mul(v.lo, Add(v.hi, v.v)));
+}
+// s - r^2 for a root r of s within an ulp or so, from r's halves by the mask, to within
+// 2^-77 s (as SquareAndError: s - h^2 exact, l (h + r) rounded twice).
+template <class V>
+BRENN_VEC V RootResidual(V s, const Halves<V>& r) {
+    return Sub(Sub(s, Mul(r.hi, r.hi)), Mul(r.lo, Add(r.hi, r.v)));
+}
+// hi + lo = a^2 + b^2 as RawSumOfSquares gives it, from halves by the mask, the squares'
+// errors by SquareAndError (lo within 2^-76 of hi's value), the squares summed by
+// Fast2Sum of the larger and the smaller (the same hi and sum error as TwoSum).
+template <class V>
+BRENN_VEC void RawSumOfSquaresNear(const Halves<V>& a, const Halves<V>& b, V& hi, V& lo) {
+    V p, pl, q, ql, e;
+    SquareAndError(a, p, pl);
+    SquareAndError(b, q, ql);
+    FastTwoSum(Max(p, q), Min(p, q), hi, e);
+    lo = Add(e, Add(pl, ql));
+}
 // hi + lo = a^2 + b^2 from split factors, as SumOfProducts(a, a, b, b) gives it.
 template <class V>
 BRENN_VEC void SumOfSquares(const Halves<V>& a, const Halves<V>& b, V& hi, V& lo) {

@@ -4,10 +4,11 @@
  *
  * With t = sqrt((|x| + |z|)/2): x >= 0 gives t + i y/(2t); x < 0 gives |y|/(2t) + i t
  * with t taking y's sign. No step cancels.
- * Double, one kernel for all levels: |z|^2 in two parts (exact products; the head the
- * rounded sum of the rounded squares, not renormalised, so that its root starts after
- * two products and an addition), |z| from its rounded root and the exact residual, |x| + |z| summed exactly, t from the rounded
- * root of the half and its residual, and y/(2t) from the reciprocal of t's head with one
+ * Double, one kernel for all levels: |z|^2 in two parts (the squares' errors from the
+ * halves by the mask, to 2^-77 of them; the head the rounded sum of the rounded squares,
+ * not renormalised, so that its root starts after two products and an addition), |z|
+ * from its rounded root and the residual (to 2^-77 of |z|^2), |x| + |z| summed exactly,
+ * t from the rounded root of the half and its residual, and y/(2t) from the reciprocal of t's head with one
  * correction by the exact residual, so that each part is rounded about once. Lanes
  * whose larger part lies outside [2^-450, 2^500] (both parts zero among them) and
  * non-finite lanes go to the scalar routine.
@@ -78,7 +79,7 @@ BRENN_VEC void SqrtSquares(const Cx<double>& z, SqrtState& s) {
     s.special = HighWordsToLanes(LargerHighWordOutside<kLo, kHi>(z.re, z.im));
     s.x = IfThenElse(s.special, Set<double>(1), z.re);
     s.w = IfThenZeroElse(s.special, z.im);
-    RawSumOfSquares(SplitRounded(s.x), SplitRounded(s.w), s.sh, s.sl);
+    RawSumOfSquaresNear(SplitByMask(s.x), SplitByMask(s.w), s.sh, s.sl);
     s.mh = Sqrt(s.sh);
 }
 
@@ -95,12 +96,10 @@ BRENN_VEC __m128d HalfRecip(__m128d m) {
 
 BRENN_VEC void SqrtHalf(SqrtState& s) {
     const __m128d half = Set<double>(0.5);
-    __m128d ph, pl;
-    ExactSquare(SplitRounded(s.mh), ph, pl);
     // |z|'s tail: the residual over 2 mh, at most an ulp or so of mh, so that the
     // reciprocal's 2^-12 moves it by 2^-12 of an ulp of |z| at most (the divider is left
     // to the roots and t's reciprocal)
-    __m128d ml = Mul(Add(Sub(Sub(s.sh, ph), pl), s.sl), HalfRecip(s.mh));
+    __m128d ml = Mul(Add(RootResidual(s.sh, SplitByMask(s.mh)), s.sl), HalfRecip(s.mh));
     // v = (|x| + |z|)/2 = vh + vl
     TwoSum(Abs(s.x), s.mh, s.vh, s.vl);
     s.vh = Mul(s.vh, half);
@@ -114,10 +113,10 @@ BRENN_VEC void SqrtParts(const SqrtState& s, Cx<double>& y) {
     // t = th + tl, and its reciprocal
     __m128d th = s.th;
     __m128d inv = Div(Set<double>(1), th);
-    auto ht = SplitRounded(th);
-    ExactSquare(ht, ph, pl);
-    __m128d tl = Mul(Mul(Add(Sub(Sub(s.vh, ph), pl), s.vl), half), inv);
-    // q = (w/2)/t, corrected by the exact residual
+    auto ht = SplitByMask(th);
+    __m128d tl = Mul(Mul(Add(RootResidual(s.vh, ht), s.vl), half), inv);
+    // q = (w/2)/t, corrected by the exact residual (q's halves of 26 bits beside t's of 26
+    // and 27: every partial product exact)
     __m128d w2 = Mul(s.w, half);
     __m128d q = Mul(w2, inv);
     ExactProduct(SplitRounded(q), ht, ph, pl);
