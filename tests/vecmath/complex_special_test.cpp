@@ -376,6 +376,56 @@ TEST(ComplexSpecialValues, AbsHAAboutItsWindow) {
     }
 }
 
+// Double Sqrt's parts where its residuals decide the rounding: parts of every ratio from
+// equal to 2^-60 (the square of the smaller far below the larger's error), either part
+// the larger, every sign, |z|^2 near a power of two, full mantissas drawn at random, the
+// larger part across the vector window and beyond it: each part within half an ulp and a
+// little of the root taken in extended precision (a dropped or misplaced residual costs
+// up to an ulp).
+TEST(ComplexSpecialValues, SqrtPartsWithinHalfAnUlp) {
+    std::vector<Z> z;
+    uint64_t state = 0x9E3779B97F4A7C15ull;
+    auto next = [&state] {
+        state ^= state << 13, state ^= state >> 7, state ^= state << 17;
+        return state;
+    };
+    auto mantissa = [&] { return 1.0 + double(next() >> 12) * 0x1p-52; };
+    const int scales[] = {-449, -300, -1, 0, 1, 37, 300, 499};
+    for (int e : scales)
+        for (int d = 0; d <= 60; d += 3)
+            for (int k = 0; k < 8; ++k) {
+                double a = std::ldexp(mantissa(), e), b = std::ldexp(mantissa(), e - d);
+                if (k & 1) a = -a;
+                if (k & 2) b = -b;
+                z.push_back(k & 4 ? Z{b, a} : Z{a, b});
+            }
+    // |z|^2 just below and above a power of two, and equal parts
+    for (double a : {0x1.6a09e667f3bcdp-1, 0x1.6a09e667f3bccp-1, 0x1.fffffffffffffp-1, 1.0})
+        for (double b : {0x1.6a09e667f3bcdp-1, 0x1p-27, 0x1.0000001p-26})
+            for (double s : {1.0, -1.0, 0x1p200, -0x1p-200}) z.push_back({s * a, b});
+    // beyond the window, through the extended routine
+    z.push_back({0x1.8p-460, -0x1.3p-470});
+    z.push_back({-0x1.5p510, 0x1.7p505});
+    const int n = int(z.size());
+    std::vector<Z> y(n);
+    for (int slot : kCxSlots) {
+        As<Unary<Z>>(CxRaw(frame::Row_zSqrt, slot))(n, z.data(), y.data());
+        for (int i = 0; i < n; ++i) {
+            long double x = z[i].re, w = z[i].im;
+            long double m = std::sqrt(x * x + w * w);
+            long double t = std::sqrt((std::fabs(x) + m) / 2);
+            long double q = w / (2 * t);
+            long double re = x >= 0 ? t : std::fabs(q), im = x >= 0 ? q : std::copysign(t, w);
+            for (auto [got, want] : {std::pair{y[i].re, re}, std::pair{y[i].im, im}}) {
+                double r = double(want);
+                double ulp = std::nextafter(std::fabs(r), INFINITY) - std::fabs(r);
+                EXPECT_LE(std::fabs((long double)got - want), 0.502L * ulp)
+                    << std::hexfloat << z[i].re << " " << z[i].im << " slot " << slot;
+            }
+        }
+    }
+}
+
 // Double Ln about the unit circle, where ln|z| is far below |z|^2's parts: (cos t, sin t)
 // rounded, its real part moved by up to four ulps and by 2^12 and 2^24 ulps, in every
 // quadrant, at shifted positions of a long call. |z|^2 is carried in two parts, so that
