@@ -109,18 +109,21 @@ BRENN_VEC void SqrtHalf(SqrtState& s) {
 
 BRENN_VEC void SqrtParts(const SqrtState& s, Cx<double>& y) {
     const __m128d half = Set<double>(0.5);
-    __m128d ph, pl;
     // t = th + tl, and its reciprocal
     __m128d th = s.th;
     __m128d inv = Div(Set<double>(1), th);
     auto ht = SplitByMask(th);
     __m128d tl = Mul(Mul(Add(RootResidual(s.vh, ht), s.vl), half), inv);
-    // q = (w/2)/t, corrected by the exact residual (q's halves of 26 bits beside t's of 26
-    // and 27: every partial product exact)
+    // q = (w/2)/t, corrected by the residual w/2 - q th, taken from both halves by the
+    // mask as (w/2 - qh thh) - ql th - qh thl: qh thh is exact and within 2^-24 of w/2, so
+    // the first difference is exact, and the rest, about 2^-25 w/2, is rounded three
+    // times (within 2^-77 of w/2)
     __m128d w2 = Mul(s.w, half);
     __m128d q = Mul(w2, inv);
-    ExactProduct(SplitRounded(q), ht, ph, pl);
-    q = Add(q, Mul(Sub(Sub(Sub(w2, ph), pl), Mul(q, tl)), inv));
+    auto hq = SplitByMask(q);
+    __m128d res =
+        Sub(Sub(Sub(w2, Mul(hq.hi, ht.hi)), Mul(hq.lo, th)), Mul(hq.hi, ht.lo));
+    q = Add(q, Mul(Sub(res, Mul(q, tl)), inv));
     q = Xor(Abs(q), SignBit(s.w)); // y's sign, also where q is a zero
 
     Place(s.x, s.w, Add(th, tl), q, y);
