@@ -89,7 +89,13 @@ inline int CExpX(long double a, long double b, long double& re, long double& im)
     return status::kNone;
 }
 
-// ln|z| of finite parts, not both zero (the real part of CLogX below).
+// ln|z| of finite parts, not both zero (the real part of CLogX below), x the larger
+// magnitude and w the smaller. Near |z| = 1 (x in [1/2, 2]) log1p(g)/2 with
+// g = x^2 + w^2 - 1 from the parts' 32-bit halves (Veltkamp's split by 2^32 + 1): xh^2 - 1
+// and the five other partial products are exact, and their sum by a cascade of exact
+// sums whose errors are added last is g within about 2^-64 of itself, where the rounded
+// (x - 1)(x + 1) + w^2 loses g's relative accuracy when w^2 is near 1 - x^2. Elsewhere
+// ln(x^2 + w^2)/2.
 inline long double LogAbsX(long double a, long double b) {
     long double x = fabsl(a), w = fabsl(b);
     if (x < w) {
@@ -97,13 +103,24 @@ inline long double LogAbsX(long double a, long double b) {
         x = w;
         w = t;
     }
-    if (x >= 0.5L && x <= 2.0L) return 0.5L * Log1pX((x - 1) * (x + 1) + w * w);
-    return 0.5L * LnX(x * x + w * w);
+    if (!(x >= 0.5L && x <= 2.0L)) return 0.5L * LnX(x * x + w * w);
+    constexpr long double kSplit = 4294967297.0L; // 2^32 + 1
+    const long double tx = x * kSplit, tw = w * kSplit;
+    const long double xh = tx - (tx - x), wh = tw - (tw - w);
+    const long double xl = x - xh, wl = w - wh;
+    const long double parts[5] = {wh * wh, 2 * (xh * xl), 2 * (wh * wl), xl * xl, wl * wl};
+    long double g = xh * xh - 1, err = 0;
+    for (long double p : parts) {
+        const long double s = g + p, pp = s - g;
+        err += (g - (s - pp)) + (p - pp);
+        g = s;
+    }
+    return 0.5L * Log1pX(g + err);
 }
 
-// ln|z| + i arg z. Near |z| = 1 the real part is log1p((x - 1)(x + 1) + w^2)/2 of the
-// larger magnitude x and the smaller w, so that it keeps its relative accuracy; elsewhere
-// ln(x^2 + w^2)/2. An infinite part gives +inf, the phase by the quadrant rules of
+// ln|z| + i arg z. Near |z| = 1 the real part is log1p(x^2 + w^2 - 1)/2 of the larger
+// magnitude x and the smaller w, the argument summed exactly (LogAbsX), so that it keeps
+// its relative accuracy; elsewhere ln(x^2 + w^2)/2. An infinite part gives +inf, the phase by the quadrant rules of
 // atan2; zero gives -inf by a division, with status 2.
 inline int CLogX(long double a, long double b, long double& re, long double& im) {
     if (__builtin_isinf(a) || __builtin_isinf(b)) {

@@ -13,9 +13,9 @@
  * The windows: the larger part in [2^-450, 2^500], both in [2^-500, 2^500) (zLn's);
  * zeros, infinities, NaNs and parts outside go to the extended routine.
  * Extended routine: element by element in 80-bit extended precision (extended.h): ln|z|
- * (LogAbsOfDoubles below: near |z| = 1 log1p of x^2 + y^2 - 1 summed from exact partial
- * products, x the larger magnitude, y the smaller; elsewhere LogAbsX of ext_elem.h) and
- * arg z (Phase of ext_phase.h), each times log10(e) in two parts and rounded once.
+ * (LogAbsX of ext_elem.h: near |z| = 1 log1p of x^2 + y^2 - 1 summed from exact partial
+ * products, x the larger magnitude, y the smaller) and arg z (Phase of ext_phase.h), each
+ * times log10(e) in two parts and rounded once.
  * Single: the squares are exact in double, so the vector steps of Ln in double at HA
  * (ln_body.h), times log10(e) and rounded once to single, are correctly rounded but for
  * results within about 2^-26 ulp of a midpoint; zeros, infinities and NaNs go to the
@@ -39,41 +39,6 @@ constexpr double kLog10OfEHi = 0x1.bcb7b1526e50ep-2, kLog10OfELo = 0x1.95355baaa
     return v * kLog10OfEHi + v * kLog10OfELo;
 }
 
-// s + e = a + b exactly (Knuth), in the extended format.
-[[gnu::always_inline]] inline void TwoSumX(LD a, LD b, LD& s, LD& e) {
-    s = a + b;
-    const LD bb = s - a;
-    e = (a - (s - bb)) + (b - bb);
-}
-
-// ln|z| of double parts, not both zero. Near |z| = 1 (the larger magnitude x in [1/2, 2])
-// log1p(g)/2 with g = x^2 + w^2 - 1 from the halves of the parts (26 and 27 bits, split
-// in double): xh^2 - 1 and the five other partial products are exact in the extended
-// format, and their sum by a cascade of exact sums whose errors are added last is g
-// within 2^-64 of itself and 2^-119 absolutely, where the rounded (x - 1)(x + 1) + w^2
-// of LogAbsX loses g's relative accuracy to cancellation.
-[[gnu::always_inline]] inline LD LogAbsOfDoubles(double a, double b) {
-    double x = __builtin_fabs(a), w = __builtin_fabs(b);
-    if (x < w) {
-        const double t = x;
-        x = w;
-        w = t;
-    }
-    if (!(x >= 0.5 && x <= 2.0)) return LogAbsX(a, b);
-    constexpr double kVeltkampX = 134217729.0; // 2^27 + 1
-    const double tx = x * kVeltkampX, tw = w * kVeltkampX;
-    const double xh = tx - (tx - x), wh = tw - (tw - w);
-    const LD xl = LD(x) - xh, wl = LD(w) - wh;
-    const LD parts[5] = {LD(wh) * wh, 2 * (LD(xh) * xl), 2 * (LD(wh) * wl), xl * xl, wl * wl};
-    LD g = LD(xh) * xh - 1, err = 0;
-    for (LD p : parts) {
-        LD e;
-        TwoSumX(g, p, g, e);
-        err += e;
-    }
-    return 0.5L * Log1pX(g + err);
-}
-
 [[gnu::always_inline]] inline int Log10Of(LD a, LD b, LD& re, LD& im) {
     if (!(__builtin_isfinite(a) && __builtin_isfinite(b)) || (a == 0 && b == 0)) {
         int st = CLogX(a, b, re, im);
@@ -86,29 +51,18 @@ constexpr double kLog10OfEHi = 0x1.bcb7b1526e50ep-2, kLog10OfELo = 0x1.95355baaa
     return status::kNone;
 }
 
-int Log10Scalar(const BrennComplex8* z, const BrennComplex8*, BrennComplex8* y) {
+// The extended routine of an element, rounded once to its type.
+template <class E>
+int Log10Scalar(const E* z, const E*, E* y) {
+    using R = decltype(z->re);
     LD re, im;
     int st = Log10Of(z->re, z->im, re, im);
-    y->re = float(re);
-    y->im = float(im);
-    return st;
-}
-// Double elements: the finite ones with ln|z| from LogAbsOfDoubles.
-int Log10ScalarZ(const BrennComplex16* z, const BrennComplex16*, BrennComplex16* y) {
-    LD re, im;
-    int st = status::kNone;
-    if (__builtin_isfinite(z->re) && __builtin_isfinite(z->im) && !(z->re == 0 && z->im == 0)) {
-        re = TimesLog10OfE(LogAbsOfDoubles(z->re, z->im));
-        im = TimesLog10OfE(Phase(z->im, z->re));
-    } else {
-        st = Log10Of(z->re, z->im, re, im);
-    }
-    y->re = double(re);
-    y->im = double(im);
+    y->re = R(re);
+    y->im = R(im);
     return st;
 }
 
-struct Log10Z : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, Log10ScalarZ> {
+struct Log10Z : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, Log10Scalar<BrennComplex16>> {
     static constexpr const char* kName = "vzLog10";
     static constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
     // A group's first steps: the windows, |z|^2 and the log's reduction, the phase's
@@ -171,7 +125,7 @@ struct Log10Z : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, Log10
     }
 };
 
-struct Log10C : ExtendedScalarBody<float, BrennComplex8, BrennComplex8, Log10Scalar> {
+struct Log10C : ExtendedScalarBody<float, BrennComplex8, BrennComplex8, Log10Scalar<BrennComplex8>> {
     static constexpr const char* kName = "vcLog10";
     static __m128 Scaled(__m128d lo, __m128d hi) {
         const __m128d s = Set<double>(double(kLog10OfE));
