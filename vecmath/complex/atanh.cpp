@@ -209,17 +209,14 @@ struct AtanhZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16,
     // A round of four groups: every group's first steps, held apart, then the rest.
     static constexpr int kGroups = 4;
     BRENN_VEC static int EvalGroups(const Cx<double>* x, const Cx<double>*, Cx<double>* y) {
-        Start s[kGroups];
-#pragma GCC unroll 4
-        for (int g = 0; g < kGroups; ++g) {
-            Begin(x[g], s[g]);
-            s[g].st.q = Opaque(s[g].st.q);
-            s[g].st.phase.t = Opaque(s[g].st.phase.t);
-        }
-        int bits = 0;
-#pragma GCC unroll 4
-        for (int g = 0; g < kGroups; ++g) bits |= Finish(s[g], y[g]) << (2 * g);
-        return bits;
+        return TwoStepGroups<Start, kGroups>(
+            x, y,
+            [](const Cx<double>& z, Start& s) BRENN_STEP {
+                Begin(z, s);
+                s.st.q = Opaque(s.st.q);
+                s.st.phase.t = Opaque(s.st.phase.t);
+            },
+            [](Start& s, Cx<double>& r) BRENN_STEP { return Finish(s, r); });
     }
 };
 
@@ -290,20 +287,18 @@ struct AtanhC : ExtendedScalarBody<float, BrennComplex8, BrennComplex8,
     }
     // A round of groups: every group's quotients, held apart, then the rest.
     static constexpr int kGroups = 4;
+    using Halves = HalfStart[2];
     BRENN_VEC static int EvalGroups(const Cx<float>* x, const Cx<float>*, Cx<float>* y) {
-        HalfStart h[kGroups][2];
-#pragma GCC unroll 4
-        for (int g = 0; g < kGroups; ++g) {
-            Begin(x[g], h[g]);
-            for (int j = 0; j < 2; ++j) {
-                h[g][j].q = Opaque(h[g][j].q);
-                h[g][j].phase.t = Opaque(h[g][j].phase.t);
-            }
-        }
-        int bits = 0;
-#pragma GCC unroll 4
-        for (int g = 0; g < kGroups; ++g) bits |= Finish(h[g], y[g]) << (4 * g);
-        return bits;
+        return TwoStepGroups<Halves, kGroups>(
+            x, y,
+            [](const Cx<float>& z, Halves& h) BRENN_STEP {
+                Begin(z, h);
+                for (HalfStart& half : h) {
+                    half.q = Opaque(half.q);
+                    half.phase.t = Opaque(half.phase.t);
+                }
+            },
+            [](Halves& h, Cx<float>& r) BRENN_STEP { return Finish(h, r); });
     }
 };
 

@@ -150,6 +150,22 @@ BRENN_VEC int StepGroups(const Cx<T>* x, Cx<T>* y, First first, Last last, Middl
     return bits;
 }
 
+// The same for a body in two steps whose second gives the special-lane bits: begin (a
+// group's elements into its state S, with what the second step needs held apart) over
+// every group, then finish (the group's results; its bits) over every group.
+template <class S, int N, class T, class Begin, class Finish>
+BRENN_VEC int TwoStepGroups(const Cx<T>* x, Cx<T>* y, Begin begin, Finish finish) {
+    S s[N];
+#pragma GCC unroll 8
+    for (int g = 0; g < N; ++g)
+        begin(x[g], s[g]);
+    int bits = 0;
+#pragma GCC unroll 8
+    for (int g = 0; g < N; ++g)
+        bits |= finish(s[g], y[g]) << (g * kGroup<T>);
+    return bits;
+}
+
 template <class B>
 struct ComplexFrame {
     using T = typename B::T;

@@ -110,18 +110,15 @@ struct Log10Z : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, Log10
     // A round of four groups: every group's first steps, held apart, then the rest.
     static constexpr int kGroups = 4;
     BRENN_VEC static int EvalGroups(const Cx<double>* x, const Cx<double>*, Cx<double>* y) {
-        Start s[kGroups];
-#pragma GCC unroll 4
-        for (int g = 0; g < kGroups; ++g) {
-            Begin(x[g], s[g]);
-            s[g].ratio = Opaque(s[g].ratio);
-            s[g].phase.t = Opaque(s[g].phase.t);
-            s[g].red.ml = Opaque(s[g].red.ml);
-        }
-        int bits = 0;
-#pragma GCC unroll 4
-        for (int g = 0; g < kGroups; ++g) bits |= Finish(s[g], y[g]) << (2 * g);
-        return bits;
+        return TwoStepGroups<Start, kGroups>(
+            x, y,
+            [](const Cx<double>& z, Start& s) BRENN_STEP {
+                Begin(z, s);
+                s.ratio = Opaque(s.ratio);
+                s.phase.t = Opaque(s.phase.t);
+                s.red.ml = Opaque(s.red.ml);
+            },
+            [](Start& s, Cx<double>& r) BRENN_STEP { return Finish(s, r); });
     }
 };
 
