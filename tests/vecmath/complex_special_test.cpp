@@ -379,9 +379,9 @@ TEST(ComplexSpecialValues, AbsHAAboutItsWindow) {
 // Double Sqrt's parts where its residuals decide the rounding: parts of every ratio from
 // equal to 2^-60 (the square of the smaller far below the larger's error), either part
 // the larger, every sign, |z|^2 near a power of two, full mantissas drawn at random, the
-// larger part across the vector window and beyond it: each part within half an ulp and a
-// little of the root taken in extended precision (a dropped or misplaced residual costs
-// up to an ulp).
+// larger part across the vector window and beyond it (in rounds of ordinary elements):
+// each part within half an ulp and a little of the root taken in extended precision (a
+// dropped or misplaced residual costs up to an ulp).
 TEST(ComplexSpecialValues, SqrtPartsWithinHalfAnUlp) {
     std::vector<Z> z;
     uint64_t state = 0x9E3779B97F4A7C15ull;
@@ -403,9 +403,11 @@ TEST(ComplexSpecialValues, SqrtPartsWithinHalfAnUlp) {
     for (double a : {0x1.6a09e667f3bcdp-1, 0x1.6a09e667f3bccp-1, 0x1.fffffffffffffp-1, 1.0})
         for (double b : {0x1.6a09e667f3bcdp-1, 0x1p-27, 0x1.0000001p-26})
             for (double s : {1.0, -1.0, 0x1p200, -0x1p-200}) z.push_back({s * a, b});
-    // beyond the window, through the extended routine
-    z.push_back({0x1.8p-460, -0x1.3p-470});
-    z.push_back({-0x1.5p510, 0x1.7p505});
+    // beyond the window, through the extended routine, among ordinary elements
+    const Z outside[] = {{0x1.8p-460, -0x1.3p-470}, {-0x1.5p510, 0x1.7p505},
+                         {0x1.3p700, -0x1.1p690},   {-0x1p-1000, 0x1.8p-1010},
+                         {0x1p-1070, -0x1p-1073},   {-0x1.fp1023, 0x1.8p1023}};
+    for (int i = 0; i < 6; ++i) z.insert(z.begin() + 37 * i * i, outside[i]);
     const int n = int(z.size());
     std::vector<Z> y(n);
     for (int slot : kCxSlots) {

@@ -74,11 +74,31 @@ struct SqrtState {
     __m128d special, x, w, sh, sl, mh, vh, vl, th;
 };
 
+constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
+
+// Whether a larger part of N groups lies outside the window: the verdicts of their high
+// words gathered by one OR, one mask extraction for the round.
+template <int N>
+BRENN_VEC bool AnyLargerOutside(const Cx<double>* z) {
+    I32x4 o = LargerHighWordOutside<kLo, kHi>(z[0].re, z[0].im);
+#pragma GCC unroll 8
+    for (int g = 1; g < N; ++g)
+        o = Or(o, LargerHighWordOutside<kLo, kHi>(z[g].re, z[g].im));
+    return (MaskBits(o) & 0xA) != 0;
+}
+
+// Test: the lanes outside the window taken as 1 + 0i (their results discarded); without
+// it, a round known to lie inside, the parts as they are.
+template <bool Test = true>
 BRENN_VEC void SqrtSquares(const Cx<double>& z, SqrtState& s) {
-    constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
-    s.special = HighWordsToLanes(LargerHighWordOutside<kLo, kHi>(z.re, z.im));
-    s.x = IfThenElse(s.special, Set<double>(1), z.re);
-    s.w = IfThenZeroElse(s.special, z.im);
+    if constexpr (Test) {
+        s.special = HighWordsToLanes(LargerHighWordOutside<kLo, kHi>(z.re, z.im));
+        s.x = IfThenElse(s.special, Set<double>(1), z.re);
+        s.w = IfThenZeroElse(s.special, z.im);
+    } else {
+        s.x = z.re;
+        s.w = z.im;
+    }
     RawSumOfSquaresNear(SplitByMask(s.x), SplitByMask(s.w), s.sh, s.sl);
     s.mh = Sqrt(s.sh);
 }
@@ -138,15 +158,23 @@ struct SqrtZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, SqrtSc
         SqrtParts(s, y);
         return MaskBits(s.special);
     }
-    BRENN_VEC static int EvalGroups(const Cx<double>* z, const Cx<double>*, Cx<double>* y) {
+    // The round's window tested once: where every larger part lies inside, no lane is
+    // blended and no group's verdict is gathered.
+    template <bool Test>
+    BRENN_VEC static int Steps(const Cx<double>* z, Cx<double>* y) {
         return StepGroups<SqrtState, kGroups>(
             z, y,
             [](const Cx<double>& x, SqrtState& s) BRENN_STEP {
-                SqrtSquares(x, s);
-                return MaskBits(s.special);
+                SqrtSquares<Test>(x, s);
+                if constexpr (Test) return MaskBits(s.special);
+                return 0;
             },
             [](const SqrtState& s, Cx<double>& r) BRENN_STEP { SqrtParts(s, r); },
             [](SqrtState& s) BRENN_STEP { SqrtHalf(s); });
+    }
+    BRENN_VEC static int EvalGroups(const Cx<double>* z, const Cx<double>*, Cx<double>* y) {
+        if (__builtin_expect(!AnyLargerOutside<kGroups>(z), 1)) return Steps<false>(z, y);
+        return Steps<true>(z, y);
     }
 };
 
