@@ -138,7 +138,7 @@ BRENN_VEC int StepGroups(const Cx<T>* x, Cx<T>* y, First first, Last last, Middl
     for (int g = 0; g < N; ++g)
         bits |= first(x[g], s[g]) << (g * kGroup<T>);
     (
-        [&] {
+        [&]() BRENN_STEP {
 #pragma GCC unroll 8
             for (int g = 0; g < N; ++g)
                 middle(s[g]);
