@@ -414,8 +414,6 @@ struct Quads {
             bits = body.EvalWide(x, y, z);
 #pragma GCC unroll 16
         for (int k = 0; k < N; ++k) {
-            q[k / R].x[k % R] = x[k];
-            if constexpr (S == Shape::Binary) q[k / R].w[k % R] = w[k];
             q[k / R].y[k % R] = y[k];
             if constexpr (S == Shape::TwoRes) q[k / R].z[k % R] = z[k];
         }
@@ -433,6 +431,13 @@ struct Quads {
             return;
         }
         if constexpr (kHasScalar<B> || kUnderflowLanes<B>) {
+            // The arguments again from memory (nothing is stored yet, so an in-place call
+            // still holds them there), where keeping them from before the body would keep
+            // them live, or stored, through every round.
+            for (int k = 0; k < N; ++k) {
+                q[k / R].x[k % R] = Load(v.a + i + k * L);
+                if constexpr (S == Shape::Binary) q[k / R].w[k % R] = Load(v.b + i + k * L);
+            }
             alignas(16) T ry[16], rz[16];
             for (int k = 0; k < 4; ++k)
                 Store(q[k], ry + 4 * k, rz + 4 * k);
