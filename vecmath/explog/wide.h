@@ -1,11 +1,13 @@
 /* Rounds of sixteen for the exponential and logarithm bodies: EvalByRegister runs a
  * body's one-register Eval over the whole round, unrolled, so that the compiler sees all
  * the round's registers at once (independent chains to interleave, the constants loaded
- * once) and the frame tests the special-lane bits once a round. The double bodies of
- * the family opt in (their rounds of eight run one register at a time; measured 5 to
- * 13 % faster); the single ones keep rounds of eight, which measured as fast or faster:
- *   static constexpr int kRound = sizeof(T) == 8 ? 16 : 8;
- *   static int EvalWide(const V* x, V* y) { return EvalByRegister<Body>(x, y); } */
+ * once) and the frame tests the special-lane bits once a round. A body opts in with
+ *   static constexpr int kRound = 16;
+ *   static int EvalWide(const V* x, V* y) { return EvalByRegister<Body>(x, y); }
+ * (rounds of eight run one register at a time). Bodies whose round pays more when its
+ * stages are written out over all its registers (the single logarithms' LogRound, the
+ * staged exponentials) give their own EvalWide, or EvalTestOnce below for a window
+ * tested once a round. */
 #ifndef BRENN_VECMATH_EXPLOG_WIDE_H
 #define BRENN_VECMATH_EXPLOG_WIDE_H
 
