@@ -174,7 +174,8 @@ BRENN_VEC __m128d AtanhOutside(__m128d& x, __m128d& y) {
 // part, im = minus its real part); the lanes the bounds do not decide go on.
 template <bool Turn>
 struct AtanhZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16,
-                                   ExtendedScalar<BrennComplex16, Turn ? AtanOf : AtanhOf>> {
+                                   ExtendedScalar<BrennComplex16, Turn ? AtanOf : AtanhOf>>,
+                TwoStepRounds<AtanhZ<Turn>, double> {
     static constexpr const char* kName = Turn ? "vzAtan" : "vzAtanh";
     struct Start {
         __m128d special, signA, signB;
@@ -201,22 +202,10 @@ struct AtanhZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16,
         }
         return MaskBits(special);
     }
-    BRENN_VEC static int Eval(const Cx<double>* z, const Cx<double>*, Cx<double>& y) {
-        Start s;
-        Begin(*z, s);
-        return Finish(s, y);
-    }
-    // A round of four groups: every group's first steps, held apart, then the rest.
-    static constexpr int kGroups = 4;
-    BRENN_VEC static int EvalGroups(const Cx<double>* x, const Cx<double>*, Cx<double>* y) {
-        return TwoStepGroups<Start, kGroups>(
-            x, y,
-            [](const Cx<double>& z, Start& s) BRENN_STEP {
-                Begin(z, s);
-                s.st.q = Opaque(s.st.q);
-                s.st.phase.t = Opaque(s.st.phase.t);
-            },
-            [](Start& s, Cx<double>& r) BRENN_STEP { return Finish(s, r); });
+    // Rounds of four groups: every group's first steps, these held apart, then the rest.
+    BRENN_VEC static void Hold(Start& s) {
+        s.st.q = Opaque(s.st.q);
+        s.st.phase.t = Opaque(s.st.phase.t);
     }
 };
 
@@ -229,7 +218,8 @@ struct AtanhZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16,
 // and the rare N outside Atan2's window (a cancelling to zero or below 2^-500).
 template <bool Turn>
 struct AtanhC : ExtendedScalarBody<float, BrennComplex8, BrennComplex8,
-                                   ExtendedScalar<BrennComplex8, Turn ? AtanOf : AtanhOf>> {
+                                   ExtendedScalar<BrennComplex8, Turn ? AtanOf : AtanhOf>>,
+                TwoStepRounds<AtanhC<Turn>, float> {
     static constexpr const char* kName = Turn ? "vcAtan" : "vcAtanh";
     // A half (two elements widened) in two steps for the rounds: the quotients Q and t of
     // the phase, then the rest.
@@ -280,25 +270,13 @@ struct AtanhC : ExtendedScalarBody<float, BrennComplex8, BrennComplex8,
         }
         return MaskBits(h[0].special) | (MaskBits(h[1].special) << 2);
     }
-    BRENN_VEC static int Eval(const Cx<float>* z, const Cx<float>*, Cx<float>& y) {
-        HalfStart h[2];
-        Begin(*z, h);
-        return Finish(h, y);
-    }
-    // A round of groups: every group's quotients, held apart, then the rest.
-    static constexpr int kGroups = 4;
-    using Halves = HalfStart[2];
-    BRENN_VEC static int EvalGroups(const Cx<float>* x, const Cx<float>*, Cx<float>* y) {
-        return TwoStepGroups<Halves, kGroups>(
-            x, y,
-            [](const Cx<float>& z, Halves& h) BRENN_STEP {
-                Begin(z, h);
-                for (HalfStart& half : h) {
-                    half.q = Opaque(half.q);
-                    half.phase.t = Opaque(half.phase.t);
-                }
-            },
-            [](Halves& h, Cx<float>& r) BRENN_STEP { return Finish(h, r); });
+    // Rounds of four groups: every half's quotients, these held apart, then the rest.
+    using Start = HalfStart[2];
+    BRENN_VEC static void Hold(Start& h) {
+        for (HalfStart& half : h) {
+            half.q = Opaque(half.q);
+            half.phase.t = Opaque(half.phase.t);
+        }
     }
 };
 

@@ -166,6 +166,30 @@ BRENN_VEC int TwoStepGroups(const Cx<T>* x, Cx<T>* y, Begin begin, Finish finish
     return bits;
 }
 
+// A body in two steps as a base of the body D: Eval for a group, and rounds of N groups
+// by TwoStepGroups, with D::Hold(s) keeping apart the values of a group's state that its
+// second step needs. D gives Start, Begin(const Cx<T>&, Start&), Finish(Start&, Cx<T>&)
+// returning the special-lane bits, and Hold.
+template <class D, class T, int N = 4>
+struct TwoStepRounds {
+    static constexpr int kGroups = N;
+    BRENN_VEC static int Eval(const Cx<T>* z, const Cx<T>*, Cx<T>& y) {
+        typename D::Start s;
+        D::Begin(*z, s);
+        return D::Finish(s, y);
+    }
+    BRENN_VEC static int EvalGroups(const Cx<T>* x, const Cx<T>*, Cx<T>* y) {
+        using S = typename D::Start;
+        return TwoStepGroups<S, N>(
+            x, y,
+            [](const Cx<T>& z, S& s) BRENN_STEP {
+                D::Begin(z, s);
+                D::Hold(s);
+            },
+            [](S& s, Cx<T>& r) BRENN_STEP { return D::Finish(s, r); });
+    }
+};
+
 template <class B>
 struct ComplexFrame {
     using T = typename B::T;

@@ -62,7 +62,8 @@ int Log10Scalar(const E* z, const E*, E* y) {
     return st;
 }
 
-struct Log10Z : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, Log10Scalar<BrennComplex16>> {
+struct Log10Z : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, Log10Scalar<BrennComplex16>>,
+                TwoStepRounds<Log10Z, double> {
     static constexpr const char* kName = "vzLog10";
     static constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
     // A group's first steps: the windows, |z|^2 and the log's reduction, the phase's
@@ -102,23 +103,11 @@ struct Log10Z : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, Log10
         y.im = Or(Decided(p, q, Mul(Abs(p), Set<double>(0x1p-61)), special), s.sign);
         return MaskBits(special);
     }
-    BRENN_VEC static int Eval(const Cx<double>* x, const Cx<double>*, Cx<double>& y) {
-        Start s;
-        Begin(*x, s);
-        return Finish(s, y);
-    }
-    // A round of four groups: every group's first steps, held apart, then the rest.
-    static constexpr int kGroups = 4;
-    BRENN_VEC static int EvalGroups(const Cx<double>* x, const Cx<double>*, Cx<double>* y) {
-        return TwoStepGroups<Start, kGroups>(
-            x, y,
-            [](const Cx<double>& z, Start& s) BRENN_STEP {
-                Begin(z, s);
-                s.ratio = Opaque(s.ratio);
-                s.phase.t = Opaque(s.phase.t);
-                s.red.ml = Opaque(s.red.ml);
-            },
-            [](Start& s, Cx<double>& r) BRENN_STEP { return Finish(s, r); });
+    // Rounds of four groups: every group's first steps, these held apart, then the rest.
+    BRENN_VEC static void Hold(Start& s) {
+        s.ratio = Opaque(s.ratio);
+        s.phase.t = Opaque(s.phase.t);
+        s.red.ml = Opaque(s.red.ml);
     }
 };
 
