@@ -82,17 +82,6 @@ constexpr LD kPiOver2 = 1.57079632679489661923132169163975144L;
     return status::kNone;
 }
 
-// The extended routines on one element, rounded once.
-template <class E, int (*F)(LD, LD, LD&, LD&)>
-int ExtendedScalar(const E* z, const E*, E* y) {
-    using R = decltype(z->re);
-    LD re, im;
-    const int st = F(z->re, z->im, re, im);
-    y->re = R(re);
-    y->im = R(im);
-    return st;
-}
-
 // The window of both parts: high words from 2^-250 to below 2^249.
 constexpr int32_t kAtanhLo = 0x30500000, kAtanhTop = 0x4F7FFFFF;
 

@@ -22,6 +22,18 @@ namespace brenn::vm::cx {
 
 using LD = long double;
 
+// One element through the extended routine F, its parts widened and the results rounded
+// once: the scalar routine of a vector body that hands elements on to the extended one.
+template <class E, int (*F)(LD, LD, LD&, LD&)>
+int ExtendedScalar(const E* z, const E*, E* y) {
+    using R = decltype(z->re);
+    LD re, im;
+    const int st = F(z->re, z->im, re, im);
+    y->re = R(re);
+    y->im = R(im);
+    return st;
+}
+
 // A body: the element type E, the routine, its public error name and kOverflow.
 //   static int Eval(LD re, LD im, LD& yr, LD& yi);
 template <class B, class E>

@@ -29,25 +29,16 @@
 #include "vecmath/complex/cframe.h"
 #include "vecmath/complex/exact.h"
 #include "vecmath/complex/ext_elem.h"
+#include "vecmath/complex/extended.h"
 #include "vecmath/complex/ln_body.h"
 #include "vecmath/complex/phase_steps.h"
 
 namespace brenn::vm::cx {
 namespace {
 
-// One element in extended precision (ext_elem.h), rounded once.
-template <class E>
-int LnScalar(const E* z, const E*, E* y) {
-    using R = decltype(z->re);
-    long double re, im;
-    int st = CLogX(z->re, z->im, re, im);
-    y->re = R(re);
-    y->im = R(im);
-    return st;
-}
-
 template <Level L>
-struct LnZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, LnScalar> {
+struct LnZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16,
+                                ExtendedScalar<BrennComplex16, CLogX>> {
     using Phase = PhaseSteps<L>;
     static constexpr const char* kName = "vzLn";
     BRENN_VEC static int Eval(const Cx<double>* x, const Cx<double>*, Cx<double>& y) {
@@ -109,7 +100,8 @@ struct LnZ : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, LnScalar
 };
 
 template <Level L>
-struct LnC : ExtendedScalarBody<float, BrennComplex8, BrennComplex8, LnScalar> {
+struct LnC : ExtendedScalarBody<float, BrennComplex8, BrennComplex8,
+                                ExtendedScalar<BrennComplex8, CLogX>> {
     static constexpr const char* kName = "vcLn";
     static int Eval(const Cx<float>* x, const Cx<float>*, Cx<float>& y) {
         __m128d r0, i0, s0, r1, i1, s1;

@@ -51,18 +51,7 @@ constexpr double kLog10OfEHi = 0x1.bcb7b1526e50ep-2, kLog10OfELo = 0x1.95355baaa
     return status::kNone;
 }
 
-// The extended routine of an element, rounded once to its type.
-template <class E>
-int Log10Scalar(const E* z, const E*, E* y) {
-    using R = decltype(z->re);
-    LD re, im;
-    int st = Log10Of(z->re, z->im, re, im);
-    y->re = R(re);
-    y->im = R(im);
-    return st;
-}
-
-struct Log10Z : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, Log10Scalar<BrennComplex16>>,
+struct Log10Z : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, ExtendedScalar<BrennComplex16, Log10Of>>,
                 TwoStepRounds<Log10Z, double> {
     static constexpr const char* kName = "vzLog10";
     static constexpr int32_t kLo = 0x23D00000, kHi = 0x5F2FFFFF; // 2^-450, 2^500
@@ -111,7 +100,7 @@ struct Log10Z : ExtendedScalarBody<double, BrennComplex16, BrennComplex16, Log10
     }
 };
 
-struct Log10C : ExtendedScalarBody<float, BrennComplex8, BrennComplex8, Log10Scalar<BrennComplex8>> {
+struct Log10C : ExtendedScalarBody<float, BrennComplex8, BrennComplex8, ExtendedScalar<BrennComplex8, Log10Of>> {
     static constexpr const char* kName = "vcLog10";
     static __m128 Scaled(__m128d lo, __m128d hi) {
         const __m128d s = Set<double>(double(kLog10OfE));
