@@ -17,7 +17,7 @@
  *     of the part, as in Log10;
  *   N = (1 - |x|)(1 + |x|) - y^2 is within 2^-104 of the larger of |N| and 2|y| (where N
  *     cancels, y^2 is below 2|y|), which moves the angle by no more than 2^-103 of it;
- *     PhaseWords of 2y and N's two words, within 2^-62.2: the bound 2^-61 of the part.
+ *     PhaseQuotient and PhaseFinish of 2y and N's two words, within 2^-62.2: the bound 2^-61 of the part.
  * Parts with magnitudes in [2^-250, 2^249) keep every square, quotient and product
  * normal and finite (N below 2^499, 2^-750 < Q < 2^503); the others, zeros, infinities
  * and NaNs go to the extended routine. Single elements take the same formulas on their

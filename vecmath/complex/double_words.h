@@ -10,15 +10,16 @@
  *     (tools/explog/ln_double.sollya's fit), gives a bound's term in |r|; the roundings of
  *     t, of the rests and of k ln2lo stay below 2^-71 absolutely, and below 2^-105 where
  *     the head and the rests are zero (the first row at k = 0, the last at k = -1).
- *   PhaseWords(a, b): |atan2(a, b)| by the table steps of the real Atan2 (t = n/d of the
- *     magnitudes, c = t cut to 4 bits, atan c from the rows or, below 2^-10, c + c^3 (p0 +
- *     p1 c^2)), with the reduced quotient u = (n - c d)/(d + c n) in two words: the
- *     numerator exact in two words (c dh, c dl and n - c dh are exact), the denominator
- *     within 2^-105, the rounded quotient's remainder by Dekker's product, its correction
- *     ul taken into atan by 1 - u^2. atan u = u + u^3 P(u^2) is within 2^-62.3 of itself
- *     for |u| <= 2^-5, the short series below the rows within 2^-62.8: the angle within
- *     2^-62.2 of itself. b may carry a second word (a difference the caller formed in
- *     two), which enters the numerator and the denominator as a rounded term.
+ *   PhaseQuotient(a, b), then PhaseFinish: |atan2(a, b)| by the table steps of the
+ *     real Atan2 (its quotient t = n/d of the magnitudes, Atan2DoubleQuotient; c = t cut
+ *     to 4 bits, atan c from the rows or, below 2^-10, c + c^3 (p0 + p1 c^2)), with the
+ *     reduced quotient u = (n - c d)/(d + c n) in two words: the numerator exact in two
+ *     words (c dh, c dl and n - c dh are exact), the denominator within 2^-105, the
+ *     rounded quotient's remainder by Dekker's product, its correction ul taken into
+ *     atan by 1 - u^2. atan u = u + u^3 P(u^2) is within 2^-62.3 of itself for |u| <=
+ *     2^-5, the short series below the rows within 2^-62.8: the angle within 2^-62.2 of
+ *     itself. b may carry a second word (a difference the caller formed in two), which
+ *     enters the numerator and the denominator as a rounded term.
  *   Decided(p, q, e): the rounding of p + q where e bounds its error, the lanes that it
  *     does not decide marked. */
 #ifndef BRENN_VECMATH_COMPLEX_DOUBLE_WORDS_H
@@ -75,17 +76,11 @@ BRENN_VEC void LnWords(const LnReduction& red, __m128d ratio, __m128d& hi, __m12
 // a and b in Atan2's window (2^-500 to 2^500), b's second word at most half its ulp.
 // In two steps, the quotient of the magnitudes and the rest, for rounds that take each
 // step over several registers.
-struct PhaseStart {
-    __m128d b, swap, n, d, t;
-};
+// The first step is the real Atan2's quotient (no special lane here).
+using PhaseStart = invtrig::Atan2DoubleState;
 BRENN_VEC PhaseStart PhaseQuotient(__m128d a, __m128d b) {
     PhaseStart s;
-    const __m128d ay = Abs(a), ax = Abs(b);
-    s.b = b;
-    s.swap = AsFloat(Gt(AsInt(ay), AsInt(ax)));
-    s.n = IfThenElse(s.swap, ax, ay);
-    s.d = IfThenElse(s.swap, ay, ax);
-    s.t = Div(s.n, s.d);
+    invtrig::Atan2DoubleQuotient(a, b, Zero<double>(), s);
     return s;
 }
 template <bool Low = false>
@@ -133,10 +128,6 @@ BRENN_VEC void PhaseFinish(const PhaseStart& ps, __m128d bl, __m128d& hi, __m128
     __m128d e;
     FastTwoSum(Mul(k, Set<double>(Q::kHi)), Xor(s, flip), hi, e);
     lo = Add(e, Add(Mul(k, Set<double>(Q::kLo)), Xor(sl, flip)));
-}
-template <bool Low = false>
-BRENN_VEC void PhaseWords(__m128d a, __m128d b, __m128d bl, __m128d& hi, __m128d& lo) {
-    PhaseFinish<Low>(PhaseQuotient(a, b), bl, hi, lo);
 }
 
 } // namespace brenn::vm::cx

@@ -8,7 +8,7 @@
  *   Real part: |z|^2 = sh + sl from exact squares (as zLn), LnWords of sh's reduction
  *     and sl/sh, times log10(e)/2. E: 2^-58 |r| for the polynomial, 2^-70 for the
  *     roundings (2^-104 where the rows' rests vanish), 2^-100 |P| for the product.
- *   Imaginary part: PhaseWords (within 2^-62.2), times log10(e); E = 2^-61 |P|.
+ *   Imaginary part: PhaseQuotient and PhaseFinish (within 2^-62.2), times log10(e); E = 2^-61 |P|.
  *   log10(e) in two parts, the head's product exact: about 2^-104 more.
  * The windows: the larger part in [2^-450, 2^500], both in [2^-500, 2^500) (zLn's);
  * zeros, infinities, NaNs and parts outside go to the extended routine.
