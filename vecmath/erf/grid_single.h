@@ -189,7 +189,7 @@ BRENN_VEC __m128 SingleSum(__m128 x, const SinglePoint<G, kTwoPart>& p, __m128 s
 // HA: the series on single lanes, the last sum in double on the double rows.
 template <class G, SeriesCut C, bool kTwoPart, bool kScaled = false>
 inline __m128 GridEvalSingle(__m128 x) {
-    I32x4 top;
+    I32x4 top = Zero<int32_t>(); // the largest |x|, unused here
     SinglePoint<G, kTwoPart> p = SingleNearest<G, kTwoPart>(x, top);
     return SingleSum<G, C, kTwoPart, kScaled>(x, p, SingleSeries<G, C>(p));
 }
