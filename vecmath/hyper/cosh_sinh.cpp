@@ -504,13 +504,9 @@ struct SinhBody : HyperBody<Fn::Sinh, Tp, L> {
 extern "C" {
 // Single kernels flattened: their rounds stay in the kernel's loop with the constants in
 // registers (HA and EP about 8 % faster, LA 1-3 %).
-BRENN_FLAT ZAR_KERNEL_OF(s, Cosh, EP, Unary, brenn::vm::CoshBody<float, brenn::vm::Level::EP>)
-BRENN_FLAT ZAR_KERNEL_OF(s, Cosh, LA, Unary, brenn::vm::CoshBody<float, brenn::vm::Level::LA>)
-BRENN_FLAT ZAR_KERNEL_OF(s, Cosh, HA, Unary, brenn::vm::CoshBody<float, brenn::vm::Level::HA>)
+BRENN_FLAT_LEVEL_KERNELS(s, Cosh, Unary, brenn::vm::CoshBody)
 ZAR_LEVEL_KERNELS(d, Cosh, Unary, brenn::vm::CoshBody)
-BRENN_FLAT ZAR_KERNEL_OF(s, Sinh, EP, Unary, brenn::vm::SinhBody<float, brenn::vm::Level::EP>)
-BRENN_FLAT ZAR_KERNEL_OF(s, Sinh, LA, Unary, brenn::vm::SinhBody<float, brenn::vm::Level::LA>)
-BRENN_FLAT ZAR_KERNEL_OF(s, Sinh, HA, Unary, brenn::vm::SinhBody<float, brenn::vm::Level::HA>)
+BRENN_FLAT_LEVEL_KERNELS(s, Sinh, Unary, brenn::vm::SinhBody)
 ZAR_KERNEL_OF(d, Sinh, LaEp, Unary, brenn::vm::SinhBody<double, brenn::vm::Level::LA>)
 ZAR_KERNEL_OF(d, Sinh, HA, Unary, brenn::vm::SinhBody<double, brenn::vm::Level::HA>)
 }
