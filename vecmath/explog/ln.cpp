@@ -71,14 +71,7 @@ template <Level L, int N>
 inline void LnRound(const __m128* x, __m128* y) {
     using K = LogConst<float>;
     __m128 r[N], k[N], p[N];
-#pragma GCC unroll 8
-    for (int i = 0; i < N; ++i) {
-        LogSplit(x[i], r[i], k[i]);
-        if constexpr (L == Level::EP) {
-            r[i] = Opaque(r[i]);
-            k[i] = Opaque(k[i]);
-        }
-    }
+    LogSplitRound<N, L == Level::EP>(x, r, k);
     LogPolyRound<N>(r, LnCoeffs<L>(), p);
 #pragma GCC unroll 8
     for (int i = 0; i < N; ++i) {

@@ -121,12 +121,7 @@ template <int Base, Level L, int N>
 inline void LogRound(const __m128* x, __m128* y) {
     using K = LogBase<Base>;
     __m128 r[N], k[N], q[N];
-#pragma GCC unroll 8
-    for (int i = 0; i < N; ++i) {
-        LogSplit(x[i], r[i], k[i]);
-        r[i] = Opaque(r[i]);
-        k[i] = Opaque(k[i]);
-    }
+    LogSplitRound<N, true>(x, r, k);
     const auto& c = [&]() -> const auto& {
         if constexpr (L == Level::EP)
             return K::kEP;
@@ -141,12 +136,7 @@ inline void LogRound(const __m128* x, __m128* y) {
 #pragma GCC unroll 8
         for (int i = 0; i < N; ++i) q[i] = Opaque(Estrin(r[i], K::kLAHigh));
     }
-    constexpr int top = L == Level::EP ? C - 2 : C - 1;
-#pragma GCC unroll 16
-    for (int j = top; j >= 0; --j) {
-#pragma GCC unroll 8
-        for (int i = 0; i < N; ++i) q[i] = MulAdd(r[i], q[i], Set<float>(c[j]));
-    }
+    HornerRound<N, L == Level::EP ? C - 2 : C - 1>(r, c, q);
 #pragma GCC unroll 8
     for (int i = 0; i < N; ++i) {
         const __m128 p = Mul(r[i], q[i]);

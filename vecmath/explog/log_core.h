@@ -240,19 +240,40 @@ BRENN_VEC void LogByRecipRound(const __m128* m, const __m128* k, __m128* y,
     }
 }
 
+// The single split over the N registers of a round; Hold keeps r and k apart (Opaque), so
+// that the compiler does not sink them into each register's polynomial.
+template <int N, bool Hold>
+BRENN_VEC void LogSplitRound(const __m128* x, __m128* r, __m128* k) {
+#pragma GCC unroll 8
+    for (int i = 0; i < N; ++i) {
+        LogSplit(x[i], r[i], k[i]);
+        if constexpr (Hold) {
+            r[i] = Opaque(r[i]);
+            k[i] = Opaque(k[i]);
+        }
+    }
+}
+
+// Horner's steps over the N registers of a round, each step over every register before
+// the next, so that the registers' chains interleave: q = c[j] + r q for j from Top down
+// to 0, q holding the start.
+template <int N, int Top, size_t C>
+BRENN_VEC void HornerRound(const __m128* r, const float (&c)[C], __m128* q) {
+#pragma GCC unroll 16
+    for (int j = Top; j >= 0; --j) {
+#pragma GCC unroll 8
+        for (int i = 0; i < N; ++i) q[i] = MulAdd(r[i], q[i], Set<float>(c[j]));
+    }
+}
+
 // The single forms' p = r + r^2 Q(r) over the N registers of a round, Q's coefficients c
-// (lowest degree first) by Horner's rule, each step over every register before the next,
-// so that the registers' chains interleave.
+// (lowest degree first) by HornerRound.
 template <int N, size_t C>
 BRENN_VEC void LogPolyRound(const __m128* r, const float (&c)[C], __m128* p) {
     __m128 q[N];
 #pragma GCC unroll 8
     for (int i = 0; i < N; ++i) q[i] = Set<float>(c[C - 1]);
-#pragma GCC unroll 16
-    for (int j = int(C) - 2; j >= 0; --j) {
-#pragma GCC unroll 8
-        for (int i = 0; i < N; ++i) q[i] = MulAdd(r[i], q[i], Set<float>(c[j]));
-    }
+    HornerRound<N, int(C) - 2>(r, c, q);
 #pragma GCC unroll 8
     for (int i = 0; i < N; ++i) p[i] = Add(r[i], Mul(Mul(r[i], r[i]), q[i]));
 }
